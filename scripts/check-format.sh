@@ -1,0 +1,6 @@
+#!/bin/sh
+# Fails, naming the places, if a source file isn't formatted.
+set -eu
+cd "$(dirname "$0")/.."
+
+git ls-files '*.h' '*.cpp' | xargs clang-format --dry-run --Werror

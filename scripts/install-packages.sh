@@ -1,0 +1,20 @@
+#!/bin/sh
+# Installs what the build needs and this machine lacks; quick and silent if nothing is missing.
+set -eu
+cd "$(dirname "$0")"
+
+missing=
+for package in $(grep -v '^#' packages.txt); do
+    status=$(dpkg-query -W -f='${Status}' "$package" 2>/dev/null || true)
+    [ "$status" = "install ok installed" ] || missing="$missing $package"
+done
+[ -n "$missing" ] || exit 0
+
+as_root=
+if [ "$(id -u)" -ne 0 ]; then
+    as_root=sudo
+fi
+echo "Installing:$missing"
+$as_root apt-get update -qq
+DEBIAN_FRONTEND=noninteractive $as_root apt-get install -y -qq --no-install-recommends $missing \
+    >/dev/null

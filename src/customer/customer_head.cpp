@@ -1,0 +1,150 @@
+#include "customer/customer_head.h"
+
+#include "customer/customer_fields.h"
+#include "customer/mirsel.h"
+#include "store/key_index.h"
+
+namespace vantora {
+
+customer_head::customer_head(program& app, const customer_head_kind& kind)
+    : form(app.desk, kind.name, kind.title), app_(app), kind_(kind) {
+    add("nome", nome);
+    add("b_cerca", b_cerca);
+    add("b_lista", b_lista);
+    add("HScroll1", HScroll1);
+    add("Text2", Text2);
+    add("Combo3", Combo3);
+    add("Text3", Text3);
+    add("text5", text5);
+    add("Combo1", Combo1);
+    add("bottone", bottone);
+    add("Label2", Label2);
+    Label2.set_text("Attenzione:questo cliente è stato eliminato!"_cp);
+    wire_events();
+}
+
+void customer_head::wire_events() {
+    b_cerca.on_click = [this] { search(); };
+    b_lista.on_click = [this] { open_pick_list(); };
+    bottone.on_click = [this] { go_on(); };
+    HScroll1.on_change = [this] { scrolled(); };
+    Combo3.on_click = [this] { take_carrier(); };
+    nome.on_key_press = [this](ui::key_event& key) {
+        if (key.code != ui::key::enter) return;
+        key.swallow();
+        search();
+    };
+    const auto enter_moves_on = [](ui::text_box* field, ui::text_box* next) {
+        field->on_key_press = [next](ui::key_event& key) {
+            if (key.code != ui::key::enter) return;
+            key.swallow();
+            next->set_focus();
+        };
+    };
+    for (int i = 0; i < 21; ++i) enter_moves_on(&Text2[i], &Text2[i + 1]);
+    for (int i = 0; i < 5; ++i) enter_moves_on(&Text3[i], &Text3[i + 1]);
+    for (int i = 0; i < 2; ++i) {
+        ui::text_box& field = Text3[kind_.date_fields[i]];
+        field.on_change = [this, i] { follow_typed_date(i); };
+        text5[i].on_change = [this, i, &field] {
+            if (!following_date_) field.set_text(text5[i].text());
+        };
+    }
+}
+
+void customer_head::load() {
+    const tabella_suite table = leggi_tabella_suite(app_.files, app_.parameters.numero_azienda);
+    vettori_ = table.vettori;
+    Combo3.clear();
+    for (const vettore& carrier : vettori_) Combo3.add(carrier[0]);
+    loading_ = true;
+    Combo3.choose(0);
+    loading_ = false;
+    fill_lists(table);
+    Combo1[0].add_all({"Porto franco", "Porto assegnato", "Addebito in fattura", ""});
+    Combo1[2].add_all({"Mittente", "Destinatario", "Vettore", ""});
+    Combo1[0].choose(0);
+    Combo1[2].choose(0);
+}
+
+bool customer_head::take_choice() {
+    if (app_.selezione_cliente != scelta_fatta) return false;
+    app_.selezione_cliente = 0;
+    search();
+    return true;
+}
+
+void customer_head::start_at_first_customer() {
+    posizione_cliente_ = 1;
+    app_.archives.tot.read(contatori::clienti, contatore_);
+    HScroll1.set_limits(1, contatore_.quanti);
+    HScroll1.set_value(1);
+    show_customer();
+    nome.set_focus();
+}
+
+void customer_head::show_customer() {
+    if (posizione_cliente_ <= 0) return;
+    rec_src entry;
+    if (app_.archives.src.read(posizione_cliente_, entry)) cliente_corrente_ = entry.numero;
+    app_.archives.cli.read(cliente_corrente_, cliente_);
+    for (std::size_t i = 0; i < customer_fields.size(); ++i) {
+        Text2[i].set_text(customer_fields[i](cliente_));
+    }
+    Combo1[1].choose(cliente_.pagamento - 1);
+    const bool deleted = cliente_.eliminato == 1;
+    Label2.set_visible(deleted);
+    if (!deleted) return;
+    // A deleted customer's name carries a mark in front.
+    if (!Text2[0].text().empty()) Text2[0].set_text(Text2[0].text().substr(1));
+    for (int i = 2; i < 22; ++i) Text2[i].set_text("");
+}
+
+bool customer_head::customer_usable() const {
+    return cliente_.eliminato == 0 && cliente_corrente_ > 0;
+}
+
+void customer_head::scrolled() {
+    app_.archives.tot.read(contatori::clienti, contatore_);
+    if (contatore_.quanti < 2 || HScroll1.value() == posizione_cliente_) return;
+    posizione_cliente_ = static_cast<std::int16_t>(HScroll1.value());
+    show_customer();
+}
+
+void customer_head::search() {
+    app_.archives.tot.read(contatori::clienti, contatore_);
+    const std::int16_t found = cerca_nominativo(app_.archives.src, contatore_.quanti, nome.text());
+    if (found > 0) {
+        posizione_cliente_ = found;
+        HScroll1.set_value(found);
+    } else {
+        app_.desk.message("Anagrafica non trovata", "Attenzione", ui::icon::warning);
+    }
+    show_customer();
+    nome.set_text("");
+    nome.set_focus();
+}
+
+void customer_head::open_pick_list() {
+    app_.selezione_cliente = kind_.caller;
+    app_.mirsel->selnome.set_text(nome.text());
+    app_.mirsel->show_modal();
+}
+
+void customer_head::take_carrier() {
+    if (loading_ || Combo3.chosen() < 0) return;
+    const vettore& carrier = vettori_[static_cast<std::size_t>(Combo3.chosen())];
+    for (std::size_t i = 0; i < carrier.size(); ++i) {
+        const std::string_view line = trimmed(carrier[i]);
+        if (line != "*") Text2[17 + i].set_text(line);
+    }
+}
+
+void customer_head::follow_typed_date(int picker) {
+    const auto typed = read_date(Text3[kind_.date_fields[picker]].text());
+    following_date_ = true;
+    text5[picker].set_value(typed.value_or(app_.desk.clock().now().day));
+    following_date_ = false;
+}
+
+}  // namespace vantora

@@ -1,0 +1,75 @@
+#pragma once
+
+#include <vector>
+
+#include "documents/suite_table.h"
+#include "program/program.h"
+#include "ui/controls.h"
+
+namespace vantora {
+
+/// In what the screens that show a customer differ.
+struct customer_head_kind {
+    const char* name;
+    const char* title;
+    int caller;          ///< how the pick list knows it, in `selezione_cliente`
+    int date_fields[2];  ///< which of `Text3` stand beside the two date pickers
+};
+
+/// A screen that finds a customer, shows it, and holds the head of a document in its controls:
+/// other screens read them by name. What is edited here counts for that document only.
+class customer_head : public ui::form {
+ public:
+    customer_head(program& app, const customer_head_kind& kind);
+
+    ui::text_box nome;  ///< name to search for
+    ui::button b_cerca;
+    ui::button b_lista;
+    ui::scroll_bar HScroll1;  ///< runs over the customers in the order of their names
+    ui::text_box Text2[22];   ///< the customer, field by field
+    ui::drop_down Combo3;     ///< carriers
+    ui::text_box Text3[6];    ///< number, dates, references
+    ui::date_picker text5[2];
+    ui::drop_down Combo1[3];  ///< 0 port, 1 payment, 2 transport
+    ui::button bottone;       ///< goes on
+    ui::label Label2;         ///< "this customer is deleted"
+
+    /// Finds the customer whose name begins with the text of `nome`, or says that there is none.
+    void search();
+
+ protected:
+    void load() override;
+    /// Back from the pick list with a choice: looks it up. True if that was so.
+    bool take_choice();
+
+    /// Fills the lists that differ from screen to screen.
+    virtual void fill_lists(const tabella_suite& table) = 0;
+    /// The user goes on to the next screen.
+    virtual void go_on() = 0;
+
+    /// Puts the cursor on the first customer, with `HScroll1` over all of them.
+    void start_at_first_customer();
+    void show_customer();
+    /// True if the customer shown may get a document.
+    [[nodiscard]] bool customer_usable() const;
+
+    program& app_;
+    std::int16_t posizione_cliente_ = 0;  ///< rank in the name index, from 1
+    std::int16_t cliente_corrente_ = 0;   ///< record number
+    rec_cli cliente_;
+    rec_tot contatore_;
+
+ private:
+    void wire_events();
+    void follow_typed_date(int picker);
+    void scrolled();
+    void take_carrier();
+    void open_pick_list();
+
+    const customer_head_kind& kind_;
+    std::vector<vettore> vettori_;
+    bool loading_ = false;
+    bool following_date_ = false;
+};
+
+}  // namespace vantora

@@ -1,0 +1,59 @@
+#include "customer/mirorcx.h"
+
+#include "store/text/int16.h"
+
+namespace vantora {
+
+namespace {
+
+constexpr customer_head_kind nuovo_ordine{"mirorcx", "Selezione cliente", 51, {1, 2}};
+
+}  // namespace
+
+mirorcx::mirorcx(program& app) : customer_head(app, nuovo_ordine) {}
+
+void mirorcx::fill_lists(const tabella_suite& table) {
+    Combo1[1].add_all(table.pagamenti);
+}
+
+void mirorcx::activate() {
+    take_choice();
+    if (app_.schermo_pronto == 0) start_fresh();
+}
+
+void mirorcx::start_fresh() {
+    app_.schermo_pronto = 1;
+    app_.archives.tot.read(contatori::ordini, contatore_);
+    for (auto& field : Text3) field.set_text("");
+    const auto next = add_int16(contatore_.ultimo_numero, 1);
+    if (next) Text3[0].set_text(std::to_string(*next));
+    const std::string today = date_text(app_.desk.clock().now().day);
+    Text3[1].set_text(today);
+    Text3[2].set_text(today);
+    start_at_first_customer();
+}
+
+bool mirorcx::date_is_right(int field, const std::string& complaint) {
+    const std::string_view typed = trimmed(Text3[field].text());
+    if (typed.size() == 10 && read_date(typed)) return true;
+    app_.desk.message(complaint, "Attenzione", ui::icon::stop);
+    Text3[field].set_focus();
+    return false;
+}
+
+void mirorcx::go_on() {
+    if (!date_is_right(1, "La data dell'ordine non è corretta"_cp)) return;
+    if (!date_is_right(2, "La data presunta di evasione non è corretta"_cp)) return;
+    if (!customer_usable()) return;
+    app_.selezione_1 = cliente_corrente_;
+    if (!app_.mirorcs.exists()) return;
+    hide();
+    app_.mirorcs.use().show();
+}
+
+void mirorcx::close() {
+    unload();
+    app_.mirorc.use().show();
+}
+
+}  // namespace vantora

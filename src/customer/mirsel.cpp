@@ -1,0 +1,111 @@
+#include "customer/mirsel.h"
+
+#include "customer/mirorcx.h"
+#include "program/list_grid.h"
+#include "store/key_index.h"
+#include "store/text/number_text.h"
+
+namespace vantora {
+
+namespace {
+
+constexpr int righe_minime = 26;
+
+std::vector<ui::grid_column> customer_columns() {
+    return {{"Nominativo", 3700},  {"", 3000}, {"Indirizzo", 3000}, {"Città"_cp, 3000},
+            {"Partita iva", 1800}, {"", 0}};
+}
+
+}  // namespace
+
+mirsel::mirsel(program& app) : form(app.desk, "mirsel", "Selezione cliente"), app_(app) {
+    add("elenco", elenco);
+    add("srx", srx);
+    add("selnome", selnome);
+    add("indice", indice);
+    add("xsfondo", xsfondo);
+    for (auto& button : srx) button.set_text("Riordina");
+
+    elenco.on_click = [this] { pick_row(); };
+    indice.on_click = [this] { leave("", 0); };
+    for (int i = 0; i < 5; ++i) {
+        srx[i].on_click = [this, i] {
+            sort_list(elenco, i, ui::sort_order::generic_ascending, righe_elenco_, righe_minime,
+                      partita_iva, app_.parameters.gnr, app_.desk);
+        };
+    }
+}
+
+void mirsel::load() {
+    elenco.set_columns(customer_columns());
+}
+
+void mirsel::activate() {
+    build_list();
+}
+
+void mirsel::close() {
+    app_.selezione_cliente = 0;
+    unload();
+}
+
+void mirsel::build_list() {
+    app_.desk.set_pointer(ui::pointer::busy);
+    elenco.set_visible(false);
+    empty_list(elenco);
+    app_.riga_elenco = 1;
+
+    rec_tot counter;
+    app_.archives.tot.read(contatori::clienti, counter);
+    const std::string wanted = upper(trimmed(selnome.text()));
+    rec_cli customer;
+    const std::function<bool(std::int16_t, const rec_src&)> visit = [&](std::int16_t,
+                                                                        const rec_src& entry) {
+        app_.archives.cli.read(entry.numero, customer);
+        const bool matches =
+            wanted.empty() ||
+            upper(customer.intestazione1.trimmed()).find(wanted) != std::string::npos;
+        if (matches && customer.eliminato == 0) list_customer(customer, entry.numero);
+        return app_.riga_elenco < righe_riservate - 1;
+    };
+    percorri_indice(app_.archives.src, counter.quanti, visit);
+
+    righe_elenco_ = app_.riga_elenco;
+    cut_list(elenco, righe_elenco_, righe_minime);
+    paint_stripes(elenco, partita_iva, app_.parameters.gnr);
+    elenco.set_visible(true);
+    elenco.set_focus();
+    app_.desk.set_pointer(ui::pointer::normal);
+}
+
+void mirsel::list_customer(const rec_cli& customer, std::int16_t number) {
+    const int row = app_.riga_elenco++;
+    elenco.set_text(row, nominativo, customer.intestazione1.trimmed());
+    elenco.set_text(row, nominativo2, customer.intestazione2.trimmed());
+    elenco.set_text(row, indirizzo, customer.indirizzo.trimmed());
+    elenco.set_text(row, citta, customer.citta.trimmed());
+    elenco.set_text(row, partita_iva, customer.partita_iva.trimmed());
+    elenco.set_text(row, numero, std::to_string(number));
+}
+
+void mirsel::pick_row() {
+    if (number_at_head(elenco.text(elenco.row(), numero)) <= 0) return;
+    leave(std::string(elenco.text(elenco.row(), nominativo)), scelta_fatta);
+}
+
+void mirsel::leave(const std::string& chosen_name, int outcome) {
+    if (customer_head* calling = caller()) calling->nome.set_text(chosen_name);
+    app_.selezione_cliente = outcome;
+    unload();
+}
+
+customer_head* mirsel::caller() {
+    switch (app_.selezione_cliente) {
+        case 51:
+            return &*app_.mirorcx;
+        default:
+            return nullptr;
+    }
+}
+
+}  // namespace vantora

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "program/program.h"
+#include "ui/controls.h"
+
+namespace vantora {
+
+class customer_head;
+
+/// `selezione_cliente` on the way back from the pick list: a customer was chosen.
+inline constexpr int scelta_fatta = 99;
+
+/// A modal list of customers, found by any part of the name. Gives the chosen name back in the
+/// field `nome` of the screen that called it.
+class mirsel final : public ui::form {
+ public:
+    explicit mirsel(program& app);
+
+    /// Columns of `elenco`.
+    enum colonna { nominativo, nominativo2, indirizzo, citta, partita_iva, numero };
+
+    ui::text_box selnome;  ///< part of the name, filled by the caller
+    ui::grid elenco;
+    ui::button srx[5];
+    ui::button indice;  ///< leaves without a choice
+    ui::picture xsfondo;
+
+ protected:
+    void load() override;
+    void activate() override;
+    void close() override;
+
+ private:
+    void build_list();
+    void list_customer(const rec_cli& customer, std::int16_t number);
+    void pick_row();
+    void leave(const std::string& chosen_name, int outcome);
+    customer_head* caller();
+
+    program& app_;
+    int righe_elenco_ = 1;  ///< rows of the grid in use, head included
+};
+
+}  // namespace vantora

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <array>
+#include <string>
+#include <string_view>
+
+#include "documents/suite_table.h"
+#include "store/parameters.h"
+
+namespace vantora {
+
+/// The kinds of document that this module makes, as the suite numbers them.
+enum class tipo_documento { documento_trasporto = 5, ordine = 6 };
+
+/// One placed item of a document's layout, all as texts of the layout file.
+struct voce_layout {
+    std::string posizione;  ///< xxxyyy in millimetres from the page's upper left corner
+    std::string corpo;      ///< points
+    std::string carattere;  ///< font name
+    std::string grassetto;  ///< "0": normal, anything else: bold
+    std::string corsivo;    ///< "0": upright, anything else: italic
+    std::string colore;     ///< 24 bits as a decimal number, red in the low byte
+};
+
+/// One row of "vantora.pdf".
+using voce_pdf = std::array<std::string, 4>;
+
+/// One element of a page's background: nine values and two texts.
+struct elemento_disegno {
+    std::array<double, 9> valori{};
+    std::array<std::string, 2> testi;
+};
+
+/// The drawing list of a page's background.
+struct disegno {
+    static constexpr std::size_t massimo = 500;
+
+    double elementi = 0;                               ///< elements in use, as the file says
+    std::array<elemento_disegno, massimo + 1> elenco;  ///< from 1
+};
+
+/// Everything that a company's files say of one kind of document.
+struct tabelle_documento {
+    std::array<std::string, 21> testi_intestazione;  ///< from 1
+    tabella_iva iva;
+    std::array<voce_layout, 101> tabella_layout;  ///< from 1
+    std::array<voce_pdf, 21> tabella_pdf;         ///< from 1, by kind of document
+};
+
+/// Loads the tables of a document, and its PDF settings into their slots of
+/// `parameters.parametri_valuta`. A layout that is missing or short becomes one that places
+/// nothing; what else is missing stays empty.
+void carica_documento(tabelle_documento& into, tipo_documento kind, parametri& parameters,
+                      file_port& files);
+
+/// Loads the drawing list of a document. A missing file leaves a list without elements; one that
+/// ends early leaves the values behind its end as they were.
+void carica_disegno(disegno& into, tipo_documento kind, int numero_azienda, file_port& files);
+
+/// The text without control characters and without the character 255: what may go on a document.
+std::string filtra_stampa(std::string_view text);
+
+}  // namespace vantora

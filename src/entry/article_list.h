@@ -1,0 +1,34 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "store/archives.h"
+
+namespace vantora {
+
+/// With what the entries of the article list begin.
+enum modo_lista { per_codice = 0, per_descrizione = 1 };
+
+/// The entries of the list of all live articles, in the order of the file: code and description in
+/// their full widths, then the record number as the last characters. The file is read many blocks
+/// of twenty at a time; the last block may reach behind the count.
+std::vector<std::string> voci_articoli(const channel<blocco_articoli>& blocks,
+                                       std::int16_t articles, modo_lista mode);
+
+/// The record number that an entry ends with, in its last five characters.
+std::int16_t numero_articolo(std::string_view entry);
+
+/// Position of the first entry that begins with the text, which is in capitals; -1 if none.
+int cerca_voce(const std::vector<std::string>& entries, std::string_view wanted);
+
+/// Number of the first article, deleted or not, whose description begins with the text, without
+/// regard to case; 0 if none. The empty text finds the first article.
+std::int16_t cerca_descrizione(const channel<rec_art>& articles, std::int16_t count,
+                               std::string_view text);
+
+/// The stock line of an article: 140 characters, and its record number in five digits.
+std::string riga_giacenza(const rec_art& article, std::int16_t number);
+
+}  // namespace vantora

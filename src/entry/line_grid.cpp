@@ -1,0 +1,326 @@
+#include "entry/line_grid.h"
+
+#include <algorithm>
+
+#include "store/text/int16.h"
+#include "store/text/number_text.h"
+#include "ui/errors.h"
+
+namespace vantora {
+
+namespace {
+
+/// Enter alone scrolls no further than here.
+constexpr int ultimo_scorrimento = 189;
+
+std::string shown(double value) {
+    return value == 0 ? std::string() : plain_text(value);
+}
+
+}  // namespace
+
+line_grid::line_grid(program& app, const line_grid_kind& kind)
+    : form(app.desk, kind.name, kind.title), app_(app), kind_(kind) {
+    register_controls();
+    wire_controls();
+    for (int row = 0; row < rows; ++row) wire_cells(row);
+}
+
+void line_grid::register_controls() {
+    // Tab walks a row from left to right, then the next row.
+    for (int row = 0; row < rows; ++row) {
+        add_element("artic", row, artic[row]);
+        add_element("ds", row, ds[row]);
+        add_element("um", row, um[row]);
+        add_element("quantita", row, quantita[row]);
+        if (kind_.has_evaso) add_element("evaso", row, evaso[row]);
+        add_element("sc1", row, sc1[row]);
+        add_element("sc2", row, sc2[row]);
+        add_element("prezzo", row, prezzo[row]);
+        add_element("civ", row, civ[row]);
+    }
+    add("VScroll1", VScroll1);
+    add("Combo1", Combo1);
+    add("List1", List1);
+    add("listx", listx);
+    add("command3d3", command3d3);
+    add("riordina", riordina);
+    add("prezz", prezz);
+    add("barcode", barcode);
+    add("postael", postael);
+    add("impegno", impegno);
+    add("tota", tota);
+    add("comando", comando);
+    add("Picture1", Picture1);
+    prezz_group_.join(prezz);
+    prezz[0].design_on(true);
+    prezz[0].set_text("Prezzo 1");
+    prezz[1].set_text("prezzo 2");
+    barcode.set_text("Utilizza codici a barre");
+    postael.set_text("Invia documento via e-mail");
+    impegno.set_text("Impegna articoli ordinati");
+}
+
+void line_grid::load() {
+    carica_documento(tabelle_, kind_.documento, app_.parameters, app_.files);
+    Combo1.clear();
+    Combo1.add_all(voci_iva(tabelle_.iva));
+    carica_disegno(disegno_, kind_.documento, app_.parameters.numero_azienda, app_.files);
+    valuta_ = valuta(app_.parameters);
+}
+
+void line_grid::open_fresh(std::int16_t customer) {
+    svuota_righe();
+    combo_attivo_ = true;
+    app_.archives.tot.read(contatori::articoli, articoli_);
+    app_.archives.cli.read(customer, cliente_);
+    stato_lista_ = lista_ferma;
+    barcode.set_on(app_.parameters.gnr.usa_barcode != 0);
+    if (articoli_.quanti >= 1 && !barcode.on()) attiva_lista(true);
+    prezz[number_at_head(cliente_.listino.full()) == 1 ? 1 : 0].set_on(true);
+    impegno.set_on(false);
+    const auto& mail = app_.parameters.parametri_valuta[valuta_slot::invio_email];
+    postael.set_on(cliente_.invio_email.full() == "1" && number_at_head(mail) != 0);
+}
+
+void line_grid::svuota_righe() {
+    righe_.clear();
+    for (int row = 0; row < rows; ++row) {
+        for (ui::text_box* cell : {&artic[row], &ds[row], &um[row], &quantita[row], &sc1[row],
+                                   &sc2[row], &prezzo[row], &civ[row]}) {
+            cell->set_text("");
+        }
+    }
+    totali_ = {};
+    VScroll1.set_value(1);
+}
+
+riga_ordine& line_grid::changed_line(int row) {
+    prima_riga_ = VScroll1.value();
+    return righe_[prima_riga_ + row];
+}
+
+// Painting ------------------------------------------------------------------------------------
+
+void line_grid::paint() {
+    app_.desk.let_events_run();
+    prima_riga_ = VScroll1.value();
+    paint_rows(0);
+}
+
+void line_grid::paint_rows(int first) {
+    for (int row = first; row < rows; ++row) paint_row(row);
+}
+
+void line_grid::paint_row(int row) {
+    riga_ordine& line = righe_[line_of(row)];
+    line.codice = std::string(line.codice.trimmed());
+    line.descrizione = std::string(line.descrizione.trimmed());
+    line.um = std::string(line.um.trimmed());
+    artic[row].set_text(line.codice.trimmed());
+    ds[row].set_text(line.descrizione.trimmed());
+    um[row].set_text(line.um.trimmed());
+    quantita[row].set_text(shown(line.quantita));
+    if (kind_.has_evaso) evaso[row].set_text(shown(line.evaso));
+    prezzo[row].set_text(shown(line.prezzo));
+    sc1[row].set_text(shown(line.sc1));
+    sc2[row].set_text(shown(line.sc2));
+    civ[row].set_text(line.iva == 0 ? std::string() : two_digits(line.iva));
+}
+
+// Changes of a cell ---------------------------------------------------------------------------
+
+void line_grid::wire_cells(int row) {
+    ds[row].on_change = [this, row] { changed_line(row).descrizione = ds[row].text(); };
+    um[row].on_change = [this, row] { changed_line(row).um = um[row].text(); };
+    quantita[row].on_change = [this, row] {
+        changed_line(row).quantita = number_at_head(quantita[row].text());
+        compute_totals();
+    };
+    evaso[row].on_change = [this, row] {
+        changed_line(row).evaso = number_at_head(evaso[row].text());
+        compute_totals();
+    };
+    const auto discount = [this, row](ui::text_box* cell, std::int16_t riga_ordine::*field) {
+        cell->on_change = [this, row, cell, field] {
+            const auto percent = to_int16(number_at_head(cell->text()));
+            if (!percent) throw ui::overflow_error();
+            changed_line(row).*field = *percent;
+            compute_totals();
+        };
+    };
+    discount(&sc1[row], &riga_ordine::sc1);
+    discount(&sc2[row], &riga_ordine::sc2);
+    prezzo[row].on_change = [this, row] { price_changed(row); };
+    wire_cell_focus(row);
+}
+
+void line_grid::price_changed(int row) {
+    riga_ordine& line = changed_line(row);
+    line.prezzo = number_at_head(prezzo[row].text());
+    if (line.prezzo != 0 && line.iva == 0) {
+        const std::int16_t own = cliente_.iva_cliente;
+        if (own >= 1 && own <= 24) {
+            line.iva = own;
+            civ[row].set_text(two_digits(own));
+        } else {
+            const auto& base = app_.parameters.gnr.codice_iva_base;
+            line.iva = to_int16(number_at_head(base.full())).value_or(0);
+            civ[row].set_text(base.full());
+        }
+    }
+    compute_totals();
+}
+
+void line_grid::compute_totals() {
+    totali_ = calcola_totali(righe_, tabelle_.iva, valuta_);
+    tota[0].set_text(formato_importo(totali_.imponibile, valuta_) + " ");
+    tota[1].set_text(formato_importo(totali_.totale, valuta_) + " ");
+    tota[2].set_text(plain_text(totali_.pezzi) + " ");
+}
+
+// Focus and Enter -----------------------------------------------------------------------------
+
+void line_grid::take_focus(int row, bool show_stock) {
+    Combo1.set_visible(false);
+    riga_corrente_ = row;
+    if (show_stock) mostra_giacenza(righe_[line_of(row)].articolo);
+}
+
+void line_grid::wire_cell_focus(int row) {
+    artic[row].on_focus = [this, row] {
+        take_focus(row, true);
+        lista_trovato_ = 0;
+        const std::string_view code = trimmed(artic[row].text());
+        if (!artic[row].text().empty()) search_list(upper(code));
+    };
+    artic[row].on_key_press = [this, row](ui::key_event& key) { article_key(row, key); };
+
+    ds[row].on_focus = [this, row] { description_gains_focus(row); };
+    ds[row].on_key_down = [this, row](ui::key_event& key) {
+        if (key.code == ui::key::f1) find_by_description(row, key);
+        if (key.code == ui::key::enter) {
+            key.swallow();
+            um[row].set_focus();
+        }
+    };
+    for (ui::text_box* cell : {&um[row], &quantita[row], &evaso[row], &sc2[row], &prezzo[row]}) {
+        cell->on_focus = [this, row] { take_focus(row, true); };
+    }
+    sc1[row].on_focus = [this, row] { discount_gains_focus(row); };
+    sc1[row].on_blur = [this, row] { clear_if_zero(sc1[row]); };
+    sc2[row].on_blur = [this, row] { clear_if_zero(sc2[row]); };
+    civ[row].on_focus = [this, row] { open_vat_pick(row); };
+    civ[row].on_key_press = [](ui::key_event& key) { key.swallow(); };
+
+    wire_enter(um[row], [this, row] { quantita[row].set_focus(); });
+    wire_enter(quantita[row],
+               [this, row] { (kind_.has_evaso ? evaso[row] : sc1[row]).set_focus(); });
+    wire_enter(evaso[row], [this, row] { sc1[row].set_focus(); });
+    wire_enter(sc1[row], [this, row] { sc2[row].set_focus(); });
+    wire_enter(sc2[row], [this, row] { prezzo[row].set_focus(); });
+    wire_enter(prezzo[row], [this, row] { go_to_next_row(row); });
+}
+
+void line_grid::wire_enter(ui::text_box& cell, std::function<void()> then) {
+    cell.on_key_press = [then = std::move(then)](ui::key_event& key) {
+        if (key.code != ui::key::enter) return;
+        key.swallow();
+        then();
+    };
+}
+
+void line_grid::description_gains_focus(int row) {
+    take_focus(row, false);
+    riga_ordine& line = righe_[line_of(row)];
+    line.articolo = 0;
+    line.codice = "";
+    artic[row].set_text("");
+}
+
+void line_grid::discount_gains_focus(int row) {
+    if (number_at_head(sc1[row].text()) == 0) {
+        sc1[row].set_text(shown(cliente_.sconto1));
+        sc2[row].set_text(shown(cliente_.sconto2));
+    }
+    take_focus(row, true);
+}
+
+void line_grid::clear_if_zero(ui::text_box& cell) {
+    if (number_at_head(cell.text()) == 0) cell.set_text("");
+}
+
+void line_grid::go_to_next_row(int row) {
+    prima_riga_ = VScroll1.value();
+    if (row < rows - 1) {
+        artic[row + 1].set_focus();
+        return;
+    }
+    if (row + prima_riga_ - 1 < ultimo_scorrimento) VScroll1.set_value(prima_riga_ + 1);
+    artic[rows - 1].set_focus();
+}
+
+// VAT pick ------------------------------------------------------------------------------------
+
+void line_grid::open_vat_pick(int row) {
+    Combo1.set_visible(true);
+    combo_attivo_ = false;
+    prima_riga_ = row;
+    const auto typed = to_int16(number_at_head(civ[row].text())).value_or(1);
+    const int code = std::clamp<int>(typed, 1, 24);
+    riga_corrente_ = line_of(row);
+    Combo1.choose(code - 1);
+    mostra_giacenza(righe_[riga_corrente_].articolo);
+    Combo1.set_focus();
+    combo_attivo_ = true;
+}
+
+void line_grid::take_vat_pick() {
+    if (!combo_attivo_) return;
+    const auto code = static_cast<std::int16_t>(Combo1.chosen() + 1);
+    if (riga_corrente_ >= 1 && riga_corrente_ <= righe_ordine::massimo) {
+        righe_[riga_corrente_].iva = code;
+    }
+    if (prima_riga_ >= 0 && prima_riga_ < rows) {
+        civ[prima_riga_].set_text(two_digits(code));
+        prezzo[prima_riga_].set_focus();
+    }
+    Combo1.set_visible(false);
+    compute_totals();
+}
+
+// Commands on lines -----------------------------------------------------------------------------
+
+void line_grid::insert_line() {
+    if (riga_corrente_ < 0) return;
+    prima_riga_ = VScroll1.value();
+    const int line = riga_corrente_ + prima_riga_;
+    if (line > righe_ordine::massimo) return;
+    const int row = riga_corrente_;
+    righe_.insert(line);
+    paint_rows(row);
+    if (row < rows) artic[row].set_focus();
+}
+
+void line_grid::delete_line() {
+    if (riga_corrente_ < 0) return;
+    prima_riga_ = VScroll1.value();
+    const int line = riga_corrente_ + prima_riga_;
+    if (line > righe_ordine::massimo) return;
+    const int row = riga_corrente_;
+    righe_.remove(line);
+    paint_rows(row);
+    if (row < rows) artic[row].set_focus();
+}
+
+void line_grid::sort_lines() {
+    righe_.sort_by_code();
+    paint();
+    if (riga_corrente_ >= 0 && riga_corrente_ < rows) artic[riga_corrente_].set_focus();
+}
+
+void line_grid::printer_setup() {
+    app_.desk.printer().choose_settings();
+}
+
+}  // namespace vantora

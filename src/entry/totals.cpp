@@ -1,0 +1,54 @@
+#include "entry/totals.h"
+
+#include <cmath>
+
+#include "store/text/number_text.h"
+#include "ui/errors.h"
+
+namespace vantora {
+
+namespace {
+
+double checked(double value) {
+    if (!std::isfinite(value)) throw ui::overflow_error();
+    return value;
+}
+
+/// Net amount of a line: the discounts cascade, each step is rounded.
+double net_amount(const riga_ordine& line, bool by_piece, const valuta& currency) {
+    double amount = line.prezzo;
+    if (by_piece) amount = arrotonda_valuta(amount * line.quantita, currency);
+    amount -= percentuale_valuta(amount, line.sc1, currency);
+    amount -= percentuale_valuta(amount, line.sc2, currency);
+    return checked(amount);
+}
+
+}  // namespace
+
+totali_ordine calcola_totali(const righe_ordine& lines, const tabella_iva& rates,
+                             const valuta& currency) {
+    totali_ordine sums;
+    for (int number = 1; number <= righe_ordine::massimo; ++number) {
+        const riga_ordine& line = lines[number];
+        const bool by_piece = line.quantita != 0 && line.quantita != quantita_a_corpo;
+        if (by_piece) sums.pezzi += line.quantita;
+        const double amount = net_amount(line, by_piece, currency);
+        const auto code = static_cast<std::size_t>(line.iva < 1 || line.iva > 24 ? 1 : line.iva);
+        if (code < 13) {
+            sums.imponibile_iva[code] += amount;
+        } else {
+            sums.esente_iva[code - 12] += amount;
+        }
+    }
+    for (std::size_t code = 1; code <= 12; ++code) {
+        const double rate = number_at_head(rates.aliquota_iva[code]);
+        sums.imposta_iva[code] = percentuale_eccesso(sums.imponibile_iva[code], rate, currency);
+        sums.imponibile += sums.imponibile_iva[code] + sums.esente_iva[code];
+        sums.totale += sums.imposta_iva[code] + sums.imponibile_iva[code] + sums.esente_iva[code];
+    }
+    checked(sums.totale);
+    checked(sums.pezzi);
+    return sums;
+}
+
+}  // namespace vantora

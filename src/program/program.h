@@ -1,0 +1,69 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "store/archives.h"
+#include "store/parameters.h"
+#include "ui/screen.h"
+
+namespace vantora {
+
+class mirorc;
+class mirdata;
+class mirorcs;
+class mirorcx;
+class mirorcc;
+class mirorcz;
+class mirsel;
+class mirstoa;
+class mirstoe;
+class mirston;
+class mirstos;
+class mirstov;
+
+/// The running program, shared by all its screens: the open files, the parameters, the values that
+/// pass from screen to screen, and the screens themselves. Built in `main`, handed to every screen
+/// by reference; nothing else is shared.
+struct program {
+    program(file_port& on_files, ui::desk& on_desk) : files(on_files), desk(on_desk) {}
+
+    file_port& files;
+    ui::desk& desk;
+    archivi archives;
+    parametri parameters;
+
+    // What passes between screens -------------------------------------------------------------
+
+    std::int16_t selezione_1 = 0;  ///< new order: customer; existing order: `registrazione`
+    std::int16_t selezione_2 = 0;  ///< new order: chosen quote; existing order: customer
+    /// How an entry screen opens: 0 fresh, 99 back from the quote picker, 1 from the head screen.
+    int modo_ordine = 0;
+    int schermo_pronto = 0;     ///< 0: the next screen starts fresh
+    int ricarica_registro = 0;  ///< 1: the register rebuilds its list on return
+    int selezione_cliente = 0;  ///< who called the customer pick list, 99: a customer was chosen
+    int riga_elenco = 1;        ///< row counter of the list being built
+    double data_sistema = 0;    ///< date number of the last confirmation
+
+    // The date dialog: dates as texts, dd/mm/yyyy.
+    std::string data_proposta;  ///< proposed to the user
+    std::string data_riserva;   ///< instead of a proposal that is no date
+    std::string data_scelta;    ///< what the user chose
+
+    // The screens, under the system's own names -------------------------------------------------
+
+    ui::screen<vantora::mirorc> mirorc;    ///< register
+    ui::screen<vantora::mirorcx> mirorcx;  ///< customer of a new order
+    ui::screen<vantora::mirorcs> mirorcs;  ///< lines of a new order
+    ui::screen<vantora::mirsel> mirsel;    ///< customer pick list
+    ui::screen<vantora::mirdata> mirdata;  ///< date dialog
+    ui::screen<vantora::mirorcz> mirorcz;  ///< an existing order
+    ui::screen<vantora::mirorcc> mirorcc;  ///< transport data
+    ui::screen<vantora::mirstoe> mirstoe;  ///< order list
+    ui::screen<vantora::mirstos> mirstos;  ///< order schedule
+    ui::screen<vantora::mirstov> mirstov;  ///< order valuation
+    ui::screen<vantora::mirston> mirston;  ///< customer sheets
+    ui::screen<vantora::mirstoa> mirstoa;  ///< article sheets
+};
+
+}  // namespace vantora

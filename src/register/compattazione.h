@@ -1,0 +1,20 @@
+#pragma once
+
+#include <functional>
+
+#include "store/archives.h"
+
+namespace vantora {
+
+/// Takes the deleted orders out of the archive, and the fulfilled ones too if `elimina_evasi`: the
+/// blocks that stay slide down over the gaps, in place, from low to high; then the count falls.
+/// The file keeps its length, the orders keep their numbers, and nothing else is touched.
+///
+/// `counter`: record `contatori::ordini` as just read; it comes back as written. `progress` is
+/// told the `registrazione` at hand, before anything of it moves, and may end the pass by leaving
+/// through an exception: the blocks moved so far then stand twice, and the old count still holds.
+/// Failed reads and writes don't stop the pass.
+void compatta_archivio(archivi& files, rec_tot& counter, bool elimina_evasi,
+                       const std::function<void(int)>& progress);
+
+}  // namespace vantora

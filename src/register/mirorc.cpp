@@ -1,0 +1,171 @@
+#include "register/mirorc.h"
+
+#include "program/list_grid.h"
+#include "store/text/int16.h"
+#include "store/text/number_text.h"
+
+namespace vantora {
+
+namespace {
+
+constexpr const char* titolo_messaggi = "Attenzione";
+
+std::vector<ui::grid_column> register_columns() {
+    using enum ui::alignment;
+    return {{"Registr.", 1000, right},
+            {"Ordine", 1000, left},
+            {"Data", 1000, left},
+            {"Cliente", 5050, left},
+            {"Descrizione ordine", 5050, left},
+            {"Evasione", 1250, left},
+            {"", 0, left},
+            {"", 0, left},
+            {"", 0, left}};
+}
+
+}  // namespace
+
+mirorc::mirorc(program& app) : form(app.desk, "mirorc", "Gestione ordini clienti"), app_(app) {
+    add("elenco", elenco);
+    add("srx", srx);
+    add("selvis", selvis);
+    add("visua", visua);
+    add("bottone", bottone);
+    add("srt", srt);
+    add("srtt", srtt);
+    add("xx_versione", xx_versione);
+    add("xsfondo", xsfondo);
+
+    selvis_group_.join(selvis);
+    visua_group_.join(visua);
+    selvis[0].design_on(true);
+    visua[0].design_on(true);
+    selvis[0].set_text("Visualizza tutte le registrazioni");
+    selvis[1].set_text("Visualizza solo le ultime 1000 registrazioni");
+    selvis[2].set_text("Visualizza solo le ultime 5000 registrazioni");
+    visua[0].set_text("Visualizza a partire dalla prima registrazione");
+    visua[1].set_text("Visualizza a partire dall'ultima registrazione");
+    for (int i = 0; i < 5; ++i) srx[i].set_text("Riordina");
+    srtt[0].set_text("Per compattare l'archivio cancellando definitivamente gli ordini eliminati");
+    srtt[1].set_text("clic qui ");
+    xx_versione.set_text("Ver. N.15.1");
+
+    elenco.on_click = [this] { open_order(); };
+    for (int i = 0; i < 6; ++i) srx[i].on_click = [this, i] { sort_by(i); };
+    for (auto& option : selvis) option.on_click = [this] { change_view(); };
+    for (auto& option : visua) option.on_click = [this] { change_view(); };
+    for (int i = 0; i < 9; ++i) bottone[i].on_click = [this, i] { run_command(i); };
+    for (auto& label : srtt) label.on_click = [this] { compact(); };
+}
+
+void mirorc::load() {
+    carica_parametri(app_.parameters, app_.files);
+    restore_view();
+    apri_archivi(app_.archives, app_.files, app_.parameters.numero_azienda);
+    srt.set_visible(false);
+    elenco.set_columns(register_columns());
+    build_list();
+}
+
+void mirorc::activate() {
+    const auto& rebuild = app_.parameters.gnr.aggiorna_elenco;
+    if (number_at_head(rebuild.full()) == 1 && app_.ricarica_registro == 1) {
+        build_list();
+        app_.ricarica_registro = 0;
+    }
+}
+
+void mirorc::close() {
+    app_.desk.end_program();
+}
+
+void mirorc::restore_view() {
+    const std::int16_t view = app_.parameters.gnr.vista_registro;
+    const bool known = (view >= 0 && view <= 2) || (view >= 10 && view <= 12);
+    if (!known) return;
+    app_.parameters.ripristino_vista = 1;
+    visua[view / 10].set_on(true);
+    selvis[view % 10].set_on(true);
+    app_.parameters.ripristino_vista = 0;
+}
+
+void mirorc::change_view() {
+    if (app_.parameters.ripristino_vista != 0) return;
+    int view = visua[1].on() ? 10 : 0;
+    if (selvis[1].on()) view += 1;
+    if (selvis[2].on()) view += 2;
+    app_.parameters.gnr.vista_registro = static_cast<std::int16_t>(view);
+    salva_parametri(app_.parameters, app_.files);
+    build_list();
+}
+
+void mirorc::sort_by(int button) {
+    using enum ui::sort_order;
+    if (button == 5) {
+        elenco.set_focus();
+        return;
+    }
+    const int col = button == data ? data_stored : button;
+    sort_list(elenco, col, button == data ? numeric_ascending : generic_ascending, righe_registro_,
+              righe_minime, evasione, app_.parameters.gnr, app_.desk);
+}
+
+void mirorc::run_command(int button) {
+    app_.schermo_pronto = 0;
+    switch (button) {
+        case uscita:
+            app_.desk.end_program();
+        case aggiorna:
+            return build_list();
+        case nuovo_ordine:
+            return lead_to_if_customers(app_.mirorcx);
+        case elenco_ordini:
+            return lead_to(app_.mirstoe);
+        case scadenziario:
+            return lead_to(app_.mirstos);
+        case valorizzazione:
+            return lead_to(app_.mirstov);
+        case schede_clienti:
+            return lead_to(app_.mirston);
+        case schede_articoli:
+            return lead_to(app_.mirstoa);
+        case fulfilment:
+            return lead_to_if_customers(app_.mirorcc);
+        default:
+            return;
+    }
+}
+
+void mirorc::lead_to(ui::screen_place& next) {
+    app_.modo_ordine = 0;
+    if (!next.exists()) return;
+    hide();
+    next.use().show();
+}
+
+void mirorc::lead_to_if_customers(ui::screen_place& next) {
+    app_.archives.tot.read(contatori::clienti, contatore_);
+    if (contatore_.quanti < 1) {
+        app_.desk.message("Nessun cliente memorizzato", titolo_messaggi, ui::icon::stop);
+        return;
+    }
+    lead_to(next);
+}
+
+void mirorc::open_order() {
+    elenco.set_col(registr);
+    const auto registrazione = to_int16(number_at_head(elenco.text(elenco.row(), registr)));
+    if (!registrazione || *registrazione < 1) return;
+    app_.modo_ordine = 1;
+    app_.selezione_1 = *registrazione;
+    app_.archives.orc.read(block_record(*registrazione, 1), riga_);
+    if (riga_.annullato == 1) {
+        app_.desk.message("Ordine annullato", titolo_messaggi, ui::icon::stop);
+        return;
+    }
+    app_.schermo_pronto = 0;
+    app_.selezione_2 = riga_.cliente;
+    lead_to(app_.mirorcz);
+}
+
+}  // namespace vantora

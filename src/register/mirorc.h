@@ -1,0 +1,76 @@
+#pragma once
+
+#include "program/customer_names.h"
+#include "program/program.h"
+#include "ui/controls.h"
+
+namespace vantora {
+
+/// The register of orders, the program's home screen: one row per order block, in several views
+/// and sorts, and the way to every other screen. Closing it ends the program.
+class mirorc final : public ui::form {
+ public:
+    explicit mirorc(program& app);
+
+    /// The list never shows fewer rows, head included.
+    static constexpr int righe_minime = 26;
+
+    /// Columns of `elenco`.
+    enum colonna { registr, ordine, data, cliente, descrizione, evasione, data_stored = 8 };
+
+    /// Commands of `bottone`.
+    enum comando {
+        uscita,
+        aggiorna,
+        nuovo_ordine,
+        elenco_ordini,
+        scadenziario,
+        valorizzazione,
+        schede_clienti,
+        schede_articoli,
+        fulfilment
+    };
+
+    ui::grid elenco;
+    ui::button srx[6];
+    ui::option_button selvis[3];
+    ui::option_button visua[2];
+    ui::button bottone[9];
+    ui::progress_bar srt;
+    ui::label srtt[2];
+    ui::label xx_versione;
+    ui::picture xsfondo;
+
+    /// Reads the archive anew and shows it by the chosen view.
+    void build_list();
+
+ protected:
+    void load() override;
+    void activate() override;
+    void close() override;
+
+ private:
+    void restore_view();
+    void change_view();
+    void sort_by(int button);
+    void run_command(int button);
+    void open_order();
+    void compact();
+
+    void lead_to(ui::screen_place& next);
+    void lead_to_if_customers(ui::screen_place& next);
+
+    [[nodiscard]] int first_listed(int last) const;
+    void list_orders(int last, std::int16_t customers);
+    void list_order(int registrazione, customer_names& names);
+
+    program& app_;
+    ui::option_group selvis_group_;
+    ui::option_group visua_group_;
+    int righe_registro_ = 1;  ///< rows of the grid in use, head included
+    bool compacting_ = false;
+    rec_orc riga_;       ///< work copy of an order's row
+    rec_tot contatore_;  ///< work copy of a counters record
+};
+
+}  // namespace vantora

@@ -1,0 +1,35 @@
+#include "store/archives.h"
+
+#include "store/company.h"
+
+namespace vantora {
+
+namespace {
+
+template <class Record>
+void open(channel<Record>& into, file_port& port, int numero_azienda, const char* extension) {
+    into = channel<Record>(port.open_records(file_azienda(numero_azienda, extension)));
+}
+
+}  // namespace
+
+void apri_archivi(archivi& files, file_port& port, int numero_azienda) {
+    open(files.tot, port, numero_azienda, "tot");
+    open(files.cli, port, numero_azienda, "cli");
+    open(files.src, port, numero_azienda, "src");
+    open(files.art, port, numero_azienda, "art");
+    open(files.sra, port, numero_azienda, "sra");
+    open(files.orc, port, numero_azienda, "orc");
+    open(files.srb, port, numero_azienda, "srb");
+    open(files.mag, port, numero_azienda, "mag");
+    open(files.bol, port, numero_azienda, "bol");
+    open(files.prx, port, numero_azienda, "prx");
+    open(files.prv, port, numero_azienda, "prv");
+    open(files.art_blocchi, port, numero_azienda, "art");
+}
+
+void chiudi_archivi(archivi& files) {
+    files = archivi{};
+}
+
+}  // namespace vantora

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "store/file_port.h"
+
+namespace vantora {
+
+/// The drive of the suite, kept in a folder of this system: "\mirwin\mirwin\x" is
+/// ROOT/mirwin/mirwin/x, a drive letter in front is dropped. A component that doesn't exist as
+/// it is spelled is looked up without regard to case; what is created takes the given spelling.
+class drive final : public file_port {
+ public:
+    /// REQUIRES: `root` is a folder, or can become one.
+    explicit drive(std::filesystem::path root);
+
+    /// Where a path of the suite lies in this system. ".." and "." never lead out of the drive.
+    [[nodiscard]] std::filesystem::path locate(std::string_view path) const;
+
+    std::unique_ptr<file> open_records(std::string_view path) override;
+    std::optional<std::string> read_whole(std::string_view path) override;
+    std::unique_ptr<file> create(std::string_view path) override;
+    bool create_folder(std::string_view path) override;
+
+ private:
+    std::filesystem::path root_;
+};
+
+}  // namespace vantora

@@ -1,0 +1,82 @@
+#pragma once
+
+#include <array>
+#include <bit>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <string>
+#include <string_view>
+
+#include "store/text/code_page.h"
+
+namespace vantora {
+
+// The fields that records are made of. Each is an array of bytes in the order of the file, with
+// alignment 1, so a struct of fields is the layout of the file on every processor.
+
+/// N bytes of text in the code page, padded with blanks. A field never stored holds zero bytes.
+template <std::size_t N>
+class text {
+ public:
+    static constexpr std::size_t width = N;
+
+    text() = default;
+    text(std::string_view value) { *this = value; }
+
+    /// Pads with blanks, cuts at the width.
+    text& operator=(std::string_view value) {
+        const std::size_t kept = value.size() < N ? value.size() : N;
+        std::memcpy(bytes_, value.data(), kept);
+        std::memset(bytes_ + kept, ' ', N - kept);
+        return *this;
+    }
+
+    /// All N characters as they stand. Valid as long as the record.
+    [[nodiscard]] std::string_view full() const { return {bytes_, N}; }
+
+    /// Without blanks at both ends. Valid as long as the record.
+    [[nodiscard]] std::string_view trimmed() const { return vantora::trimmed(full()); }
+
+ private:
+    char bytes_[N] = {};
+};
+
+/// A number stored little-endian in sizeof(Number) bytes.
+template <class Number, class Bits>
+class little_endian {
+ public:
+    little_endian() = default;
+    little_endian(Number value) { *this = value; }
+
+    little_endian& operator=(Number value) {
+        auto bits = std::bit_cast<Bits>(value);
+        for (auto& byte : bytes_) {
+            byte = static_cast<unsigned char>(bits & 0xFF);
+            bits = static_cast<Bits>(bits >> 8);
+        }
+        return *this;
+    }
+
+    operator Number() const {
+        Bits bits = 0;
+        for (std::size_t i = sizeof(Bits); i-- > 0;) {
+            bits = static_cast<Bits>(static_cast<Bits>(bits << 8) | bytes_[i]);
+        }
+        return std::bit_cast<Number>(bits);
+    }
+
+ private:
+    static_assert(sizeof(Number) == sizeof(Bits));
+    unsigned char bytes_[sizeof(Number)] = {};
+};
+
+using i16le = little_endian<std::int16_t, std::uint16_t>;
+using f32le = little_endian<float, std::uint32_t>;
+using f64le = little_endian<double, std::uint64_t>;
+
+static_assert(alignof(text<3>) == 1 && sizeof(text<3>) == 3);
+static_assert(alignof(i16le) == 1 && sizeof(i16le) == 2);
+static_assert(alignof(f64le) == 1 && sizeof(f64le) == 8);
+
+}  // namespace vantora

@@ -1,0 +1,80 @@
+#include "store/key_index.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+
+namespace vantora {
+
+namespace {
+
+enum class matching { by_prefix, whole };
+
+template <class Entry>
+std::int16_t bisect(const channel<Entry>& index, std::int16_t count, std::string_view typed,
+                    matching how) {
+    const std::string text = upper(trimmed(typed));
+    int basso = 1;
+    int alto = count + 1;
+    int precedente = 0;
+    Entry entry;
+    for (bool fine = false; !fine;) {
+        // The integer part, also where the count is negative.
+        const int distance = alto - basso;
+        const int medio = basso + (distance >= 0 ? distance / 2 : -((1 - distance) / 2));
+        // The entry met twice is still read and compared once more.
+        if (medio == precedente) fine = true;
+        index.read(medio, entry);
+        precedente = medio;
+        const std::string key = how == matching::by_prefix
+                                    ? upper(entry.chiave.full().substr(0, text.size()))
+                                    : upper(entry.chiave.trimmed());
+        if (key == text) return static_cast<std::int16_t>(medio);
+        if (key > text) {
+            alto = medio;
+        } else {
+            basso = medio;
+        }
+    }
+    return 0;
+}
+
+}  // namespace
+
+std::int16_t cerca_nominativo(const channel<rec_src>& index, std::int16_t count,
+                              std::string_view text) {
+    return bisect(index, count, text, matching::by_prefix);
+}
+
+std::int16_t cerca_codice_barre(const channel<rec_srb>& index, std::int16_t count,
+                                std::string_view text) {
+    return bisect(index, count, text, matching::whole);
+}
+
+template <class Entry>
+void percorri_indice(const channel<Entry>& index, std::int16_t count,
+                     const std::function<bool(std::int16_t, const Entry&)>& visit) {
+    constexpr int at_once = 512;
+    std::array<Entry, at_once> entries;
+    Entry last;
+    for (int first = 1; first <= count; first += at_once) {
+        const int size = std::min(at_once, count - first + 1);
+        const bool read =
+            index.read_block(first, std::span(entries.data(), static_cast<std::size_t>(size)));
+        for (int i = 0; i < size; ++i) {
+            if (read) {
+                last = entries[static_cast<std::size_t>(i)];
+            } else {
+                index.read(first + i, last);
+            }
+            if (!visit(static_cast<std::int16_t>(first + i), last)) return;
+        }
+    }
+}
+
+template void percorri_indice(const channel<rec_src>&, std::int16_t,
+                              const std::function<bool(std::int16_t, const rec_src&)>&);
+template void percorri_indice(const channel<rec_sra>&, std::int16_t,
+                              const std::function<bool(std::int16_t, const rec_sra&)>&);
+
+}  // namespace vantora

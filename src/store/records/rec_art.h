@@ -1,0 +1,92 @@
+#pragma once
+
+#include <cstddef>
+
+#include "store/fields.h"
+
+namespace vantora {
+
+/// An article, "vantora.art". The record number is the article's identity. Only the stock
+/// fields are changed here, and the record is written back whole.
+struct rec_art {
+    text<15> codice;        ///< key of the code index
+    text<40> descrizione;   ///< description
+    text<13> codice_barre;  ///< key of the bar code index
+    text<2> um;             ///< unit of measure
+    text<3> categoria;      ///< merchandise category as a number from 0
+    i16le iva;              ///< VAT code
+    f64le prezzo1;          ///< first price list
+    f64le prezzo2;          ///< second price list
+    f64le riservato_al;
+    f64le riservato_am;
+    f64le riservato_an;
+    f64le riservato_ao;
+    f64le giacenza;  ///< stock on hand
+    f64le riservato_ap;
+    f64le impegnato;         ///< committed stock
+    f64le ordinato_clienti;  ///< quantity in open customer orders
+    f64le riservato_aq;
+    f64le riservato_ar;
+    f64le riservato_as;
+    f64le scaricato;  ///< total quantity unloaded
+    f64le riservato_at;
+    f64le valore_scaricato;  ///< total net value unloaded
+    text<4> classe1;         ///< supplier code
+    text<4> classe2;         ///< supplier code
+    text<4> classe3;         ///< supplier code
+    text<4> riservato_au;
+    text<4> riservato_av;
+    text<4> riservato_aw;
+    f64le riservato_ax;
+    text<40> riservato_ay;
+    text<20> riservato_az;
+    f64le peso;  ///< unit weight
+    text<20> riservato_ba;
+    i16le riservato_bb;
+    i16le eliminato;  ///< not 0: the article is deleted
+};
+
+/// Twenty articles at a time, as the article list reads them.
+struct blocco_articoli {
+    rec_art articoli[20];
+};
+
+static_assert(sizeof(blocco_articoli) == 6540);
+static_assert(sizeof(rec_art) == 327 && alignof(rec_art) == 1);
+static_assert(offsetof(rec_art, codice) == 0);
+static_assert(offsetof(rec_art, descrizione) == 15);
+static_assert(offsetof(rec_art, codice_barre) == 55);
+static_assert(offsetof(rec_art, um) == 68);
+static_assert(offsetof(rec_art, categoria) == 70);
+static_assert(offsetof(rec_art, iva) == 73);
+static_assert(offsetof(rec_art, prezzo1) == 75);
+static_assert(offsetof(rec_art, prezzo2) == 83);
+static_assert(offsetof(rec_art, riservato_al) == 91);
+static_assert(offsetof(rec_art, riservato_am) == 99);
+static_assert(offsetof(rec_art, riservato_an) == 107);
+static_assert(offsetof(rec_art, riservato_ao) == 115);
+static_assert(offsetof(rec_art, giacenza) == 123);
+static_assert(offsetof(rec_art, riservato_ap) == 131);
+static_assert(offsetof(rec_art, impegnato) == 139);
+static_assert(offsetof(rec_art, ordinato_clienti) == 147);
+static_assert(offsetof(rec_art, riservato_aq) == 155);
+static_assert(offsetof(rec_art, riservato_ar) == 163);
+static_assert(offsetof(rec_art, riservato_as) == 171);
+static_assert(offsetof(rec_art, scaricato) == 179);
+static_assert(offsetof(rec_art, riservato_at) == 187);
+static_assert(offsetof(rec_art, valore_scaricato) == 195);
+static_assert(offsetof(rec_art, classe1) == 203);
+static_assert(offsetof(rec_art, classe2) == 207);
+static_assert(offsetof(rec_art, classe3) == 211);
+static_assert(offsetof(rec_art, riservato_au) == 215);
+static_assert(offsetof(rec_art, riservato_av) == 219);
+static_assert(offsetof(rec_art, riservato_aw) == 223);
+static_assert(offsetof(rec_art, riservato_ax) == 227);
+static_assert(offsetof(rec_art, riservato_ay) == 235);
+static_assert(offsetof(rec_art, riservato_az) == 275);
+static_assert(offsetof(rec_art, peso) == 295);
+static_assert(offsetof(rec_art, riservato_ba) == 303);
+static_assert(offsetof(rec_art, riservato_bb) == 323);
+static_assert(offsetof(rec_art, eliminato) == 325);
+
+}  // namespace vantora

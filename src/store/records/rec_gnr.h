@@ -1,0 +1,57 @@
+#pragma once
+
+#include <cstddef>
+
+#include "store/fields.h"
+
+namespace vantora {
+
+/// General parameters of a company, "vantora.gnr": one record.
+struct rec_gnr {
+    i16le interi_iniziali[4];  ///< of other programs
+    i16le vista_registro;      ///< view of the register
+    i16le intero_sesto;        ///< of other programs
+    text<6> riservato_bc;
+    text<165> riservato_bd;
+    text<1> formato_gnr;        ///< "9" in a valid record
+    text<1> aggiorna_elenco;    ///< "1": the register rebuilds its list after an order
+    f64le colore_riga_pari;     ///< colour of even grid rows; default 16579315
+    f64le colore_riga_dispari;  ///< colour of odd grid rows; default 16777215
+    text<1> righe_alternate;    ///< "1": grids are striped
+    text<1> riservato_be;       ///< "1" with the defaults
+    text<1> riservato_bf;
+    text<38> riservato_bg;
+    i16le riservato_bh;
+    i16le usa_barcode;  ///< not 0: order screens open with bar codes on
+    i16le riservato_bi;
+    text<2> codice_iva_base;  ///< VAT code of rows without one, "01" to "24"
+    i16le peso_automatico;    ///< 1: transport documents total their weight
+    text<1> riservato_bj;
+    text<3> riservato_bk;
+    text<90> riservato_bl;
+};
+
+static_assert(sizeof(rec_gnr) == 346 && alignof(rec_gnr) == 1);
+static_assert(offsetof(rec_gnr, interi_iniziali) == 0);
+static_assert(offsetof(rec_gnr, vista_registro) == 8);
+static_assert(offsetof(rec_gnr, intero_sesto) == 10);
+static_assert(offsetof(rec_gnr, riservato_bc) == 12);
+static_assert(offsetof(rec_gnr, riservato_bd) == 18);
+static_assert(offsetof(rec_gnr, formato_gnr) == 183);
+static_assert(offsetof(rec_gnr, aggiorna_elenco) == 184);
+static_assert(offsetof(rec_gnr, colore_riga_pari) == 185);
+static_assert(offsetof(rec_gnr, colore_riga_dispari) == 193);
+static_assert(offsetof(rec_gnr, righe_alternate) == 201);
+static_assert(offsetof(rec_gnr, riservato_be) == 202);
+static_assert(offsetof(rec_gnr, riservato_bf) == 203);
+static_assert(offsetof(rec_gnr, riservato_bg) == 204);
+static_assert(offsetof(rec_gnr, riservato_bh) == 242);
+static_assert(offsetof(rec_gnr, usa_barcode) == 244);
+static_assert(offsetof(rec_gnr, riservato_bi) == 246);
+static_assert(offsetof(rec_gnr, codice_iva_base) == 248);
+static_assert(offsetof(rec_gnr, peso_automatico) == 250);
+static_assert(offsetof(rec_gnr, riservato_bj) == 252);
+static_assert(offsetof(rec_gnr, riservato_bk) == 253);
+static_assert(offsetof(rec_gnr, riservato_bl) == 256);
+
+}  // namespace vantora

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <cstddef>
+
+#include "store/fields.h"
+
+namespace vantora {
+
+/// A warehouse movement, "vantora.mag"; written only.
+struct rec_mag {
+    text<8> data;        ///< movement date, yyyymmdd
+    text<40> documento;  ///< reference text of the movement
+    i16le tipo;          ///< always 1
+    text<12> movimento;  ///< kind of movement as typed
+    f64le data_reg;      ///< date number of the day of registration
+    i16le articolo;      ///< article record number
+    i16le cliente;       ///< customer record number
+    f64le quantita;      ///< quantity
+    f64le prezzo;        ///< net unit price after the two discounts
+    i16le segno;         ///< always 1
+    i16le zero;          ///< always 0
+};
+
+static_assert(sizeof(rec_mag) == 94 && alignof(rec_mag) == 1);
+static_assert(offsetof(rec_mag, data) == 0);
+static_assert(offsetof(rec_mag, documento) == 8);
+static_assert(offsetof(rec_mag, tipo) == 48);
+static_assert(offsetof(rec_mag, movimento) == 50);
+static_assert(offsetof(rec_mag, data_reg) == 62);
+static_assert(offsetof(rec_mag, articolo) == 70);
+static_assert(offsetof(rec_mag, cliente) == 72);
+static_assert(offsetof(rec_mag, quantita) == 74);
+static_assert(offsetof(rec_mag, prezzo) == 82);
+static_assert(offsetof(rec_mag, segno) == 90);
+static_assert(offsetof(rec_mag, zero) == 92);
+
+}  // namespace vantora

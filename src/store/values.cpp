@@ -1,0 +1,91 @@
+#include "store/values.h"
+
+#include <array>
+
+#include "store/text/number_text.h"
+
+namespace vantora {
+
+namespace {
+
+constexpr double arrotondamento = 0.51;
+constexpr double eccesso = 0.99;
+
+double rounded_percentage(double value, double percent, double lire_bias, const valuta& in) {
+    if (!in.centesimi) return integer_part(value * percent / 100 + lire_bias);
+    return integer_part(value * percent + arrotondamento) / 100;
+}
+
+/// Turns a text in the English style into the Italian one, if its decimal point stands `decimals`
+/// places before the last character.
+std::string with_italian_marks(std::string text, std::size_t decimals) {
+    if (text.size() <= decimals || text[text.size() - decimals - 1] != '.') return text;
+    for (char& character : text) {
+        if (character == ',') character = '.';
+    }
+    text[text.size() - decimals - 1] = ',';
+    return text;
+}
+
+}  // namespace
+
+valuta::valuta(const parametri& from)
+    : centesimi(number_at_head(from.parametri_valuta[valuta_slot::modo_decimali]) != 0) {
+    const double decimals = number_at_head(from.parametri_valuta[valuta_slot::decimali_prezzo]);
+    for (const int known : {3, 4, 5}) {
+        if (decimals == known) decimali_prezzo = known;
+    }
+}
+
+double arrotonda_valuta(double value, const valuta& in) {
+    if (!in.centesimi) return integer_part(value + arrotondamento);
+    return integer_part(value * 100 + arrotondamento) / 100;
+}
+
+double percentuale_valuta(double value, double percent, const valuta& in) {
+    return rounded_percentage(value, percent, arrotondamento, in);
+}
+
+double percentuale_eccesso(double value, double percent, const valuta& in) {
+    return rounded_percentage(value, percent, eccesso, in);
+}
+
+double testo_a_numero(std::string_view text) {
+    text = trimmed(text);
+    std::string number;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        // The walk doesn't step back after taking a point out: one right behind it stays, and ends
+        // the number.
+        if (text[i] == '.' && ++i < text.size() && text[i] == '.') break;
+        if (i < text.size()) number.push_back(text[i] == ',' ? '.' : text[i]);
+    }
+    return number_at_head(number);
+}
+
+std::string virgola_italiana(double value, std::string_view mask) {
+    return with_italian_marks(masked(value, mask), 2);
+}
+
+std::string virgola_prezzo(double value, std::string_view mask, const valuta& in) {
+    return with_italian_marks(masked(value, mask), static_cast<std::size_t>(in.decimali_prezzo));
+}
+
+std::string formato_importo(double value, const valuta& in) {
+    if (value == 0) return {};
+    return virgola_italiana(value, in.centesimi ? maschera::due_decimali : maschera::intero);
+}
+
+std::string formato_prezzo(double value, const valuta& in) {
+    if (value == 0) return {};
+    if (!in.centesimi) return virgola_italiana(value, maschera::intero);
+    constexpr std::array by_decimals = {maschera::due_decimali, maschera::tre_decimali,
+                                        maschera::quattro_decimali, maschera::cinque_decimali};
+    return virgola_prezzo(value, by_decimals[static_cast<std::size_t>(in.decimali_prezzo - 2)], in);
+}
+
+std::string formato_quantita(std::string_view text) {
+    const double value = number_at_head(text);
+    return masked(value, value == integer_part(value) ? maschera::intero : maschera::due_decimali);
+}
+
+}  // namespace vantora

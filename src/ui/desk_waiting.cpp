@@ -1,0 +1,116 @@
+#include <utility>
+
+#include "ui/desk.h"
+#include "ui/errors.h"
+
+namespace vantora::ui {
+
+// How the desk waits for the user, and how the program ends in the midst of it. The end unwinds
+// the screens' code as an exception, but never through a front end: each wait of the desk throws
+// it anew on its own side.
+
+void desk::dispatch(const std::function<void()>& action) {
+    if (ended_) return;
+    ++depth_;
+    try {
+        action();
+    } catch (const program_end&) {
+        // finish() has done what there is to do
+    } catch (const runtime_error& error) {
+        finish({true, error.what()});
+        front_.report_fatal(error.what());
+    }
+    --depth_;
+    if (depth_ == 0) buried_.clear();
+}
+
+void desk::finish(ending how) {
+    if (ended_) return;
+    ended_ = std::move(how);
+    boxes_.clear();
+    modals_.clear();
+    if (at_end) at_end();
+}
+
+void desk::end_program() {
+    finish({});
+    throw program_end{};
+}
+
+void desk::run_until(const std::function<bool()>& done) {
+    front_.run_until([&] { return ended_ || done(); });
+    if (ended_) throw program_end{};
+}
+
+void desk::wait_until(const std::function<bool()>& done) {
+    ++waiting_;
+    run_until(done);
+    --waiting_;
+}
+
+void desk::let_events_run() {
+    front_.let_events_run();
+    if (ended_) throw program_end{};
+}
+
+void desk::set_pointer(pointer shape) {
+    if (pointer_ == shape) return;
+    pointer_ = shape;
+    front_.pointer_changed(shape);
+}
+
+answer desk::show_box(message_box box) {
+    if (!queued_.empty() && fits(box, queued_.front())) {
+        const answer given = queued_.front();
+        queued_.pop_front();
+        answered_.push_back({std::move(box), given});
+        return given;
+    }
+    open_message message{std::move(box), {}};
+    boxes_.push_back(&message);
+    front_.box_opened(message.box);
+    run_until([&] { return message.given.has_value(); });
+    return *message.given;
+}
+
+bool desk::answer_box(answer given) {
+    if (boxes_.empty() || !fits(boxes_.back()->box, given)) return false;
+    boxes_.back()->given = given;
+    boxes_.pop_back();
+    front_.box_closed();
+    return true;
+}
+
+const message_box* desk::open_box() const {
+    return boxes_.empty() ? nullptr : &boxes_.back()->box;
+}
+
+std::vector<answered_box> desk::take_answered() {
+    return std::exchange(answered_, {});
+}
+
+void desk::message(std::string text, std::string title, icon sign) {
+    show_box({std::move(text), std::move(title), sign, buttons::ok});
+}
+
+bool desk::ask(std::string text, std::string title, icon sign) {
+    return show_box({std::move(text), std::move(title), sign, buttons::yes_no}) == answer::yes;
+}
+
+std::optional<std::string> desk::obstacle(const form& which) const {
+    if (ended_) return "the program has ended";
+    if (!boxes_.empty()) return "a message box is open";
+    if (modal() && modal() != &which) return "another screen is modal";
+    if (!which.visible()) return "the screen is not visible";
+    return {};
+}
+
+std::optional<std::string> desk::obstacle(const control& which) const {
+    if (auto why = obstacle(which.owner())) return why;
+    if (active_ != &which.owner()) return "the screen is not the active one";
+    if (!which.visible()) return "the control is not visible";
+    if (!which.enabled()) return "the control is disabled";
+    return {};
+}
+
+}  // namespace vantora::ui

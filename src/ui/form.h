@@ -1,0 +1,73 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "ui/control.h"
+
+namespace vantora::ui {
+
+class desk;
+
+/// A screen: a struct whose members are its controls and whose member functions are its events.
+/// Controls register in the constructor, in the order in which Tab walks them.
+class form {
+ public:
+    form(ui::desk& on, std::string name, std::string title);
+    form(const form&) = delete;
+    form& operator=(const form&) = delete;
+    virtual ~form();
+
+    [[nodiscard]] const std::string& name() const { return name_; }
+    [[nodiscard]] const std::string& title() const { return title_; }
+    [[nodiscard]] bool visible() const { return visible_; }
+    [[nodiscard]] const std::vector<control*>& controls() const { return controls_; }
+    /// The control of that name and index, without regard to case; null if there is none.
+    [[nodiscard]] control* find(std::string_view name, std::optional<int> index) const;
+
+    [[nodiscard]] ui::desk& desk() const { return desk_; }
+
+    /// Shows the screen and makes it the active one.
+    void show();
+    /// Shows it in front of its caller and comes back when it is hidden or unloaded.
+    void show_modal();
+    void hide();
+    /// Drops the screen; its next use loads it afresh. What runs in it finishes first.
+    void unload();
+
+    /// Tells its holder that the form was unloaded.
+    std::function<void()> when_unloaded;
+
+ protected:
+    void add(std::string name, control& one);
+    template <class Control, std::size_t N>
+    void add(const std::string& name, Control (&array)[N]) {
+        for (std::size_t i = 0; i < N; ++i) add_element(name, static_cast<int>(i), array[i]);
+    }
+
+    void add_element(const std::string& name, int index, control& one);
+
+    /// Once, when the screen comes into being.
+    virtual void load() {}
+    /// Whenever it becomes the active screen, coming from another one.
+    virtual void activate() {}
+    /// The user closes it by its title bar.
+    virtual void close() { unload(); }
+
+ private:
+    friend class ui::desk;
+    friend class control;
+
+    ui::desk& desk_;
+    std::string name_;
+    std::string title_;
+    bool visible_ = false;
+    bool modal_ = false;
+    control* remembered_ = nullptr;  ///< had the focus when the form was last active
+    std::vector<control*> controls_;
+};
+
+}  // namespace vantora::ui

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "ui/message_box.h"
+
+namespace vantora::ui {
+
+class control;
+class form;
+
+enum class pointer { normal, busy };
+
+/// What a front end does for the models: it shows what they say and waits for the user. It calls
+/// back into the models only through desk::dispatch.
+class front_end {
+ public:
+    virtual ~front_end() = default;
+
+    /// Serves the user until `done` answers true, or until the program ends. Nests.
+    virtual void run_until(const std::function<bool()>& done) = 0;
+    /// Serves what the user has done meanwhile, once, and comes back.
+    virtual void let_events_run() = 0;
+
+    virtual void form_loaded(form&) {}
+    virtual void form_shown(form&) {}
+    virtual void form_hidden(form&) {}
+    /// The form is about to go; its widgets go with it.
+    virtual void form_unloaded(form&) {}
+    virtual void form_activated(form&) {}
+    /// Null: no control has it.
+    virtual void focus_moved(control*) {}
+    virtual void box_opened(const message_box&) {}
+    virtual void box_closed() {}
+    virtual void pointer_changed(pointer) {}
+    /// The program ends on an error: tell the user before it does.
+    virtual void report_fatal(const std::string& /*message*/) {}
+};
+
+}  // namespace vantora::ui

@@ -1,0 +1,148 @@
+#include "ui/grid.h"
+
+#include <algorithm>
+
+namespace vantora::ui {
+
+void grid::set_columns(std::vector<grid_column> columns) {
+    columns_ = std::move(columns);
+    arena_.clear();
+    wasted_ = 0;
+    cells_.assign(columns_.size(), cell{});
+    order_.assign(1, 0);
+    row_ = col_ = 0;
+    top_row_ = 1;
+    for (int col = 0; col < cols(); ++col) {
+        set_text(0, col, columns_[static_cast<std::size_t>(col)].head);
+    }
+    show_change(aspect::shape);
+}
+
+void grid::set_rows(int rows) {
+    const auto wanted = static_cast<std::size_t>(std::max(rows, 1));
+    const std::size_t width = columns_.size();
+    if (wanted < order_.size()) {
+        // The rows that stay move to the front of the storage, in the order shown.
+        std::vector<cell> kept;
+        kept.reserve(wanted * width);
+        for (std::size_t row = 0; row < wanted; ++row) {
+            const auto first = cells_.begin() + static_cast<std::ptrdiff_t>(order_[row] * width);
+            kept.insert(kept.end(), first, first + static_cast<std::ptrdiff_t>(width));
+        }
+        cells_ = std::move(kept);
+        order_.resize(wanted);
+        for (std::size_t row = 0; row < wanted; ++row)
+            order_[row] = static_cast<std::uint32_t>(row);
+        tidy_arena();
+    } else {
+        cells_.resize(wanted * width);
+        order_.reserve(wanted);
+        for (std::size_t row = order_.size(); row < wanted; ++row) {
+            order_.push_back(static_cast<std::uint32_t>(row));
+        }
+    }
+    row_ = std::min(row_, this->rows() - 1);
+    top_row_ = std::clamp(top_row_, 1, std::max(1, this->rows() - 1));
+    show_change(aspect::shape);
+}
+
+bool grid::holds(int row, int col) const {
+    return row >= 0 && row < rows() && col >= 0 && col < cols();
+}
+
+const grid::cell& grid::at(int row, int col) const {
+    return cells_[order_[static_cast<std::size_t>(row)] * columns_.size() +
+                  static_cast<std::size_t>(col)];
+}
+
+grid::cell& grid::at(int row, int col) {
+    return cells_[order_[static_cast<std::size_t>(row)] * columns_.size() +
+                  static_cast<std::size_t>(col)];
+}
+
+std::string_view grid::text(int row, int col) const {
+    if (!holds(row, col)) return {};
+    const cell& one = at(row, col);
+    return std::string_view(arena_).substr(one.begin, one.size);
+}
+
+bool grid::set_text(int row, int col, std::string_view text) {
+    if (!holds(row, col)) return false;
+    cell& one = at(row, col);
+    const auto size = static_cast<std::uint32_t>(text.size());
+    if (size > one.room) {
+        wasted_ += one.room;
+        one.begin = static_cast<std::uint32_t>(arena_.size());
+        one.room = size;
+        arena_.append(text);
+    } else {
+        std::copy(text.begin(), text.end(), arena_.begin() + one.begin);
+    }
+    one.size = size;
+    if (wasted_ > 65536 && wasted_ > arena_.size() / 2) tidy_arena();
+    show_change(aspect::content);
+    return true;
+}
+
+void grid::tidy_arena() {
+    std::string fresh;
+    for (cell& one : cells_) {
+        const auto begin = static_cast<std::uint32_t>(fresh.size());
+        fresh.append(arena_, one.begin, one.size);
+        one.begin = begin;
+        one.room = one.size;
+    }
+    arena_ = std::move(fresh);
+    wasted_ = 0;
+}
+
+colour grid::back_colour(int row, int col) const {
+    return holds(row, col) ? at(row, col).back : white;
+}
+
+void grid::set_back_colour(int row, int first, int last, colour back) {
+    if (!holds(row, first) || !holds(row, last)) return;
+    cell* one = &at(row, first);
+    for (int col = first; col <= last; ++col, ++one) one->back = back;
+    show_change(aspect::content);
+}
+
+bool grid::set_row(int row) {
+    if (row < 0 || row >= rows()) return false;
+    row_ = row;
+    show_change(aspect::position);
+    return true;
+}
+
+bool grid::set_col(int col) {
+    if (col < 0 || col >= cols()) return false;
+    col_ = col;
+    show_change(aspect::position);
+    return true;
+}
+
+void grid::set_top_row(int row) {
+    top_row_ = std::clamp(row, 1, std::max(1, rows() - 1));
+    show_change(aspect::position);
+}
+
+bool grid::click_cell(int row, int col) {
+    if (!holds(row, col)) return false;
+    set_focus();
+    if (!holds(row, col)) return false;
+    mouse_column_ = col;
+    if (row > 0) {
+        set_row(row);
+        set_col(col);
+    }
+    fire(on_click);
+    return true;
+}
+
+void grid::default_key(int code, std::optional<char>) {
+    if (code == key::down) set_row(row_ + 1);
+    if (code == key::up && row_ > 1) set_row(row_ - 1);
+    if (code == key::enter && row_ > 0) click_cell(row_, col_);
+}
+
+}  // namespace vantora::ui

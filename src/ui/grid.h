@@ -1,0 +1,105 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "ui/control.h"
+
+namespace vantora::ui {
+
+/// A colour as the files hold it: 24 bits, red in the low byte.
+using colour = std::uint32_t;
+inline constexpr colour white = 0xFFFFFF;
+
+enum class alignment { left, right };
+
+/// How two cells of a column compare.
+enum class sort_order {
+    generic_ascending,  ///< as numbers if both read wholly as numbers, else as texts in capitals
+    numeric_ascending,  ///< by the number at the head of the text
+};
+
+/// A column as the screen designs it.
+struct grid_column {
+    std::string head;
+    int width = 0;  ///< share of the visible width; 0 hides the column
+    alignment aligned = alignment::left;
+};
+
+/// A table of texts. Row 0 is the head. Cells lie in one arena, so 32,000 rows are filled, sorted
+/// and shown without copying texts about.
+class grid : public control {
+ public:
+    grid() : control(control_kind::grid) {}
+
+    std::function<void()> on_click;  ///< a cell was clicked; see mouse_column()
+
+    /// Sets columns and heads; what the grid held is gone, and one head row is left.
+    void set_columns(std::vector<grid_column> columns);
+    [[nodiscard]] const std::vector<grid_column>& columns() const { return columns_; }
+
+    [[nodiscard]] int rows() const { return static_cast<int>(order_.size()); }
+    [[nodiscard]] int cols() const { return static_cast<int>(columns_.size()); }
+    /// Rows that stay are kept, others dropped, new ones empty. Never below 1, the head.
+    void set_rows(int rows);
+
+    /// Empty outside the grid. Valid until the next change of any cell.
+    [[nodiscard]] std::string_view text(int row, int col) const;
+    /// False, with nothing done, outside the grid.
+    bool set_text(int row, int col, std::string_view text);
+
+    [[nodiscard]] colour back_colour(int row, int col) const;
+    /// Colours the cells of a row from column `first` to `last`.
+    void set_back_colour(int row, int first, int last, colour back);
+
+    /// The current cell; row 0 is none yet.
+    [[nodiscard]] int row() const { return row_; }
+    [[nodiscard]] int col() const { return col_; }
+    bool set_row(int row);
+    bool set_col(int col);
+    /// The column under the mouse at the last click.
+    [[nodiscard]] int mouse_column() const { return mouse_column_; }
+
+    /// First row shown under the head, from 1. Past what fits it stops at the last row.
+    [[nodiscard]] int top_row() const { return top_row_; }
+    void set_top_row(int row);
+
+    /// Reorders all rows but the head by one column; whole rows move, rows with equal keys keep
+    /// their order.
+    void sort(int col, sort_order by);
+
+    /// The user clicks a cell: the grid takes the focus, the cell becomes current (a click on the
+    /// head leaves the current row as it is), then the click fires. False outside the grid.
+    bool click_cell(int row, int col);
+
+ protected:
+    /// Arrows move the current row; Enter clicks it.
+    void default_key(int code, std::optional<char> character) override;
+
+ private:
+    struct cell {
+        std::uint32_t begin = 0;
+        std::uint32_t size = 0;
+        std::uint32_t room = 0;
+        colour back = white;
+    };
+
+    [[nodiscard]] bool holds(int row, int col) const;
+    [[nodiscard]] const cell& at(int row, int col) const;
+    cell& at(int row, int col);
+    void tidy_arena();
+
+    std::vector<grid_column> columns_;
+    std::string arena_;                 ///< the texts of all cells, with the leftovers of old ones
+    std::size_t wasted_ = 0;            ///< bytes of leftovers in the arena
+    std::vector<cell> cells_;           ///< by storage row, then column
+    std::vector<std::uint32_t> order_;  ///< shown row to storage row
+    int row_ = 0;
+    int col_ = 0;
+    int top_row_ = 1;
+    int mouse_column_ = 0;
+};
+
+}  // namespace vantora::ui

@@ -1,0 +1,68 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "ui/control.h"
+
+namespace vantora::ui {
+
+/// Entries of which one is chosen, or none (-1). Choosing another entry fires the click, by code
+/// as by hand; choosing the chosen one again fires only when a user does it.
+class list_control : public control {
+ public:
+    std::function<void()> on_click;
+
+    [[nodiscard]] int count() const { return static_cast<int>(items_.size()); }
+    [[nodiscard]] int chosen() const { return chosen_; }
+    /// REQUIRES: 0 <= position < count().
+    [[nodiscard]] const std::string& item(int position) const {
+        return items_[static_cast<std::size_t>(position)];
+    }
+    [[nodiscard]] const std::vector<std::string>& items() const { return items_; }
+    /// The chosen entry, empty if there is none.
+    [[nodiscard]] std::string_view text() const;
+
+    void add(std::string item);
+    /// Many entries at once; the same outcome as adding them one by one.
+    void add_all(std::vector<std::string> items);
+    /// Takes all entries out; nothing is chosen, and no click fires.
+    void clear();
+    /// False, with nothing done, outside -1 to count() - 1.
+    bool choose(int position);
+    /// The user chooses an entry, by click or arrow key: the list takes the focus, the click fires
+    /// even if it was chosen before. False, with nothing done, outside the list.
+    bool pick(int position);
+
+    /// Entries in the order of the alphabet, without regard to case, equal ones as they came.
+    [[nodiscard]] bool sorted() const { return sorted_; }
+
+ protected:
+    list_control(control_kind kind, bool sorted) : control(kind), sorted_(sorted) {}
+
+    /// Arrows pick the neighbour.
+    void default_key(int code, std::optional<char> character) override;
+
+ private:
+    bool sorted_;
+    int chosen_ = -1;
+    std::vector<std::string> items_;
+};
+
+class list_box : public list_control {
+ public:
+    list_box() : list_control(control_kind::list_box, false) {}
+};
+
+class sorted_list_box : public list_control {
+ public:
+    sorted_list_box() : list_control(control_kind::list_box, true) {}
+};
+
+class drop_down : public list_control {
+ public:
+    drop_down() : list_control(control_kind::drop_down, false) {}
+};
+
+}  // namespace vantora::ui

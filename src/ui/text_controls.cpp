@@ -1,0 +1,30 @@
+#include "ui/text_controls.h"
+
+namespace vantora::ui {
+
+void text_control::set_text(std::string_view text) {
+    if (text_ == text) return;
+    text_ = text;
+    show_change(aspect::text);
+    text_changed();
+}
+
+void text_box::default_key(int code, std::optional<char> character) {
+    if (code == key::backspace) {
+        if (!text().empty()) set_text(std::string_view(text()).substr(0, text().size() - 1));
+        return;
+    }
+    if (!character || static_cast<unsigned char>(*character) < key::blank) return;
+    set_text(text() + *character);
+}
+
+void button::click() {
+    set_focus();
+    fire(on_click);
+}
+
+void button::default_key(int code, std::optional<char>) {
+    if (code == key::enter || code == key::blank) click();
+}
+
+}  // namespace vantora::ui

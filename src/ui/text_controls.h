@@ -1,0 +1,74 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "ui/control.h"
+
+namespace vantora::ui {
+
+/// A control that shows a text of its own.
+class text_control : public control {
+ public:
+    [[nodiscard]] const std::string& text() const { return text_; }
+    /// Shows a text. Text boxes fire their change event if the text really changes.
+    void set_text(std::string_view text);
+
+ protected:
+    using control::control;
+    virtual void text_changed() {}
+
+ private:
+    std::string text_;
+};
+
+/// A field to type in.
+class text_box : public text_control {
+ public:
+    text_box() : text_control(control_kind::text_box) {}
+
+    std::function<void()> on_change;  ///< the text became another one, whoever set it
+
+ protected:
+    void text_changed() override { fire(on_change); }
+    /// A character joins the end of the text, backspace takes the last one off. A front end with
+    /// a cursor of its own edits in its widget and sets the text.
+    void default_key(int code, std::optional<char> character) override;
+};
+
+/// A fixed text; it can be clicked and takes no focus.
+class label : public text_control {
+ public:
+    label() : text_control(control_kind::label) {}
+
+    std::function<void()> on_click;
+
+    void click() { fire(on_click); }
+};
+
+/// A command. The text is its caption; a command shown by a picture has none.
+class button : public text_control {
+ public:
+    button() : text_control(control_kind::button) {}
+
+    std::function<void()> on_click;
+
+    /// The user presses it: it takes the focus, then the click fires.
+    void click();
+
+ protected:
+    /// Enter and blank press the button.
+    void default_key(int code, std::optional<char> character) override;
+};
+
+/// A picture of the screen, by decoration or from a file; takes no focus.
+class picture : public control {
+ public:
+    picture() : control(control_kind::picture) {}
+
+    std::function<void()> on_click;
+
+    void click() { fire(on_click); }
+};
+
+}  // namespace vantora::ui

@@ -1,0 +1,75 @@
+#include "ui/value_controls.h"
+
+#include <algorithm>
+
+namespace vantora::ui {
+
+bool scroll_bar::inside(int value) const {
+    return value >= std::min(minimum_, maximum_) && value <= std::max(minimum_, maximum_);
+}
+
+void scroll_bar::set_limits(int minimum, int maximum) {
+    minimum_ = minimum;
+    maximum_ = maximum;
+    show_change(aspect::limits);
+    if (!inside(value_)) {
+        set_value(std::clamp(value_, std::min(minimum, maximum), std::max(minimum, maximum)));
+    }
+}
+
+bool scroll_bar::set_value(int value) {
+    if (!inside(value)) return false;
+    if (value_ == value) return true;
+    value_ = value;
+    show_change(aspect::value);
+    fire(on_change);
+    return true;
+}
+
+bool scroll_bar::drag(int value) {
+    if (!inside(value)) return false;
+    set_focus();
+    return set_value(value);
+}
+
+void scroll_bar::default_key(int code, std::optional<char>) {
+    const int forward = maximum_ >= minimum_ ? 1 : -1;
+    if (code == key::down) set_value(value_ + forward);
+    if (code == key::up) set_value(value_ - forward);
+}
+
+bool progress_bar::set_range(int minimum, int maximum) {
+    if (maximum <= minimum) return false;
+    minimum_ = minimum;
+    maximum_ = maximum;
+    value_ = minimum;
+    show_change(aspect::limits);
+    return true;
+}
+
+bool progress_bar::set_value(int value) {
+    if (value < minimum_ || value > maximum_) return false;
+    if (value_ == value) return true;
+    value_ = value;
+    show_change(aspect::value);
+    return true;
+}
+
+bool date_picker::set_value(const date& value) {
+    if (!exists(value)) return false;
+    if (value_ == value) return true;
+    value_ = value;
+    show_change(aspect::value);
+    fire(on_change);
+    return true;
+}
+
+bool date_picker::choose(const date& value) {
+    if (!exists(value)) return false;
+    set_focus();
+    set_value(value);
+    fire(on_close_up);
+    return true;
+}
+
+}  // namespace vantora::ui
