@@ -80,6 +80,8 @@ class desk {
     /// Runs one action of the user. Errors that end the program are caught here; the front end
     /// looks at ended() afterwards.
     void dispatch(const std::function<void()>& action);
+    /// There is no user any more: the program ends.
+    void stop() { finish({}); }
     /// Moves the focus along the Tab order.
     void tab(bool backwards);
     /// The user closes a screen by its title bar.

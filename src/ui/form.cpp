@@ -11,8 +11,11 @@ form::form(ui::desk& on, std::string name, std::string title)
 form::~form() = default;
 
 control* form::find(std::string_view name, std::optional<int> index) const {
+    const std::string wanted = upper(name);
     for (control* one : controls_) {
-        if (one->index() == index && upper(one->name()) == upper(name)) return one;
+        if (one->index().value_or(0) != index.value_or(0)) continue;
+        if (one->index().has_value() && !index) continue;
+        if (upper(one->name()) == wanted) return one;
     }
     return nullptr;
 }

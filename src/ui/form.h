@@ -25,7 +25,8 @@ class form {
     [[nodiscard]] const std::string& title() const { return title_; }
     [[nodiscard]] bool visible() const { return visible_; }
     [[nodiscard]] const std::vector<control*>& controls() const { return controls_; }
-    /// The control of that name and index, without regard to case; null if there is none.
+    /// The control of that name and index, without regard to case; null if there is none. A
+    /// control that is no array's element may also be named with index 0.
     [[nodiscard]] control* find(std::string_view name, std::optional<int> index) const;
 
     [[nodiscard]] ui::desk& desk() const { return desk_; }

@@ -4,7 +4,7 @@
 
 namespace vantora::ui {
 
-bool scroll_bar::inside(int value) const {
+bool scroll_bar::reaches(int value) const {
     return value >= std::min(minimum_, maximum_) && value <= std::max(minimum_, maximum_);
 }
 
@@ -12,13 +12,13 @@ void scroll_bar::set_limits(int minimum, int maximum) {
     minimum_ = minimum;
     maximum_ = maximum;
     show_change(aspect::limits);
-    if (!inside(value_)) {
+    if (!reaches(value_)) {
         set_value(std::clamp(value_, std::min(minimum, maximum), std::max(minimum, maximum)));
     }
 }
 
 bool scroll_bar::set_value(int value) {
-    if (!inside(value)) return false;
+    if (!reaches(value)) return false;
     if (value_ == value) return true;
     value_ = value;
     show_change(aspect::value);
@@ -27,7 +27,7 @@ bool scroll_bar::set_value(int value) {
 }
 
 bool scroll_bar::drag(int value) {
-    if (!inside(value)) return false;
+    if (!reaches(value)) return false;
     set_focus();
     return set_value(value);
 }

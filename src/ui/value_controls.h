@@ -15,6 +15,8 @@ class scroll_bar : public control {
     [[nodiscard]] int minimum() const { return minimum_; }
     [[nodiscard]] int maximum() const { return maximum_; }
     [[nodiscard]] int value() const { return value_; }
+    /// True for a position inside the limits.
+    [[nodiscard]] bool reaches(int value) const;
 
     /// Pulls the position inside and fires the change event if it thereby changes. The maximum may
     /// lie below the minimum: the bar then runs the other way.
@@ -29,8 +31,6 @@ class scroll_bar : public control {
     void default_key(int code, std::optional<char> character) override;
 
  private:
-    [[nodiscard]] bool inside(int value) const;
-
     int minimum_ = 0;
     int maximum_ = 32767;
     int value_ = 0;

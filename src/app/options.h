@@ -1,0 +1,30 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "store/text/dates.h"
+#include "ui/desk.h"
+
+namespace vantora {
+
+/// The command line that both programs take.
+struct program_options {
+    explicit program_options(std::string what) : description(std::move(what)) {}
+
+    std::string description;
+    std::string drive = "/";         ///< folder that holds the suite's tree
+    std::optional<date_time> clock;  ///< where the clock stands still
+    std::string argument;            ///< of the suite's menu program, in the code page
+    /// File of commands for a desktop run, "-" for standard input; only where `takes_script`.
+    std::string script;
+    bool takes_script = false;
+
+    /// Empty if the program is to run, else its exit code: 0 after help, 2 for wrong options.
+    std::optional<int> read(int count, char** arguments);
+};
+
+/// 0 after the program's own end, 3 after a fatal run-time error.
+int exit_code(const ui::desk& desk);
+
+}  // namespace vantora

@@ -1,0 +1,28 @@
+#include <iostream>
+
+#include "app/options.h"
+#include "app/start.h"
+#include "store/drive.h"
+#include "ui/script/script_front_end.h"
+
+int main(int count, char** arguments) {
+    using namespace vantora;
+    program_options options("Vantora Ordini, driven by commands from standard input");
+    if (const auto code = options.read(count, arguments)) return *code;
+
+    std::ios::sync_with_stdio(false);
+    drive files(options.drive);
+    ui::local_clock time;
+    if (options.clock) time.stop_at(*options.clock);
+    ui::script::recording_printer paper;
+    ui::script::recording_launcher programs;
+    ui::script::script_front_end front(std::cin, std::cout);
+    ui::desk desk(front, time, paper, programs);
+    ui::script::interpreter commands(desk, time, paper, programs);
+    program app(files, desk);
+
+    front.begin(desk, commands);
+    desk.dispatch([&] { start(app, options.argument); });
+    front.run();
+    return exit_code(desk);
+}

@@ -1,0 +1,92 @@
+#pragma once
+
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "ui/launcher.h"
+#include "ui/printer.h"
+
+namespace vantora::ui::script {
+
+// The printer and the launcher of the test bench: they keep what they are told.
+
+struct printed_text {
+    double x = 0, y = 0;
+    std::string text;  ///< code page
+    ui::font font;
+    colour ink = 0;
+};
+struct printed_line {
+    double x1 = 0, y1 = 0, x2 = 0, y2 = 0;
+    colour ink = 0;
+};
+struct printed_box {
+    double x1 = 0, y1 = 0, x2 = 0, y2 = 0;
+    colour ink = 0;
+    bool filled = false;
+};
+
+using print_operation = std::variant<printed_text, printed_line, printed_box>;
+
+struct print_job {
+    int orientation = printer::upright;
+    int copies = 1;
+    std::vector<std::vector<print_operation>> pages;
+};
+
+/// Keeps the pages as they are composed. Texts are measured by the widths of a Helvetica-like face,
+/// so a measure is the same on every machine.
+class recording_printer final : public printer {
+ public:
+    /// What the printer has now, and what the next dialogs will choose.
+    void settings(int orientation, int copies);
+
+    /// The jobs since the last call; one that isn't ended yet stays.
+    std::vector<print_job> take_jobs();
+
+    [[nodiscard]] int orientation() const override { return orientation_; }
+    void set_orientation(int orientation) override { orientation_ = orientation; }
+    [[nodiscard]] int copies() const override { return copies_; }
+    void set_copies(int copies) override { copies_ = copies; }
+    [[nodiscard]] double page_width() const override { return orientation_ == upright ? 210 : 297; }
+    [[nodiscard]] double page_height() const override {
+        return orientation_ == upright ? 297 : 210;
+    }
+    [[nodiscard]] double text_width(std::string_view text, const font& in) const override;
+
+    void text(double x, double y, std::string_view text, const font& in, colour ink) override;
+    void line(double x1, double y1, double x2, double y2, colour ink) override;
+    void box(double x1, double y1, double x2, double y2, colour ink, bool filled) override;
+    void new_page() override;
+    void end_job() override;
+    bool choose_settings() override;
+
+ private:
+    void put(print_operation operation);
+
+    int orientation_ = upright;
+    int copies_ = 1;
+    int chosen_orientation_ = upright;
+    int chosen_copies_ = 1;
+    print_job job_;
+    bool page_open_ = false;
+    std::vector<print_job> jobs_;
+};
+
+/// Starts nothing, keeps the command lines.
+class recording_launcher final : public launcher {
+ public:
+    /// Whether programs can be started from now on.
+    void allow(bool can_start) { can_start_ = can_start; }
+    /// The command lines started since the last call, in the code page.
+    std::vector<std::string> take_started();
+
+    bool start(const std::string& command) override;
+
+ private:
+    bool can_start_ = true;
+    std::vector<std::string> started_;
+};
+
+}  // namespace vantora::ui::script

@@ -1,0 +1,91 @@
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <nlohmann/json.hpp>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "ui/clock.h"
+#include "ui/desk.h"
+#include "ui/script/bench_ports.h"
+#include "ui/script/command.h"
+
+namespace vantora::ui::script {
+
+/// Carries out command lines on a desk and composes their replies: one JSON object a command, to
+/// be written when the program is about to read the next one.
+class interpreter {
+ public:
+    interpreter(ui::desk& desk, local_clock& time, recording_printer& paper,
+                recording_launcher& programs);
+
+    /// Saves a picture of the active window; a front end with windows provides it.
+    std::function<bool(const std::filesystem::path&)> shoot;
+
+    /// Carries out a line. The action may block inside and carry out further lines meanwhile; the
+    /// reply to this one is then taken before. Empty lines and comments get no reply.
+    void execute(std::string_view line);
+
+    /// The reply that is due, with the present state of the desk; empty if there is none.
+    std::optional<std::string> take_reply();
+
+    /// `quit` was given.
+    [[nodiscard]] bool quitting() const { return quitting_; }
+
+ private:
+    using words = std::vector<word>;
+
+    struct command;
+    static const std::vector<command>& commands();
+
+    void carry_out(const words& line);
+    void refuse(std::string why);
+    void act(const std::function<void()>& action) { desk_.dispatch(action); }
+
+    control* find_control(const word& address);
+    control* touchable(const word& address);
+    bool take_focus(control& one);
+
+    void click(const words& line);
+    void cell(const words& line);
+    void key(const words& line);
+    void type(const words& line);
+    void set(const words& line);
+    void pick(const words& line);
+    void scroll(const words& line);
+    void date(const words& line);
+    void focus(const words& line);
+    void close(const words& line);
+    void answer(const words& line);
+    void quit(const words& line);
+
+    void stop_clock(const words& line);
+    void set_printer(const words& line);
+    void set_launch(const words& line);
+    void shot(const words& line);
+
+    void get(const words& line);
+    void items(const words& line);
+    void rows(const words& line);
+    void colors(const words& line);
+    void controls(const words& line);
+    void screens(const words& line);
+    void prints(const words& line);
+    void launched(const words& line);
+    void cells_query(const words& line,
+                     nlohmann::json (*read)(const control&, int first, int last));
+    void answer_with(nlohmann::json value) { reply_["value"] = std::move(value); }
+
+    ui::desk& desk_;
+    local_clock& clock_;
+    recording_printer& printer_;
+    recording_launcher& launcher_;
+    nlohmann::json reply_;
+    bool reply_due_ = false;
+    bool quitting_ = false;
+};
+
+}  // namespace vantora::ui::script

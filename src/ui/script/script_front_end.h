@@ -1,0 +1,37 @@
+#pragma once
+
+#include <iosfwd>
+
+#include "ui/front_end.h"
+#include "ui/script/interpreter.h"
+
+namespace vantora::ui::script {
+
+/// The front end without windows: the user is a stream of command lines. Whenever the program
+/// waits, the reply that is due is written and the next command read.
+class script_front_end final : public front_end {
+ public:
+    script_front_end(std::istream& commands, std::ostream& replies)
+        : commands_(commands), replies_(replies) {}
+
+    /// Tells whose front end this is. Called once, before the program starts.
+    void begin(desk& on, interpreter& by);
+
+    /// Serves commands until `quit` or the end of the input. Both end the program, even while it
+    /// waits for an answer.
+    void run();
+
+    void run_until(const std::function<bool()>& done) override;
+    /// A script does nothing by itself.
+    void let_events_run() override {}
+
+ private:
+    void write_reply();
+
+    std::istream& commands_;
+    std::ostream& replies_;
+    desk* desk_ = nullptr;
+    interpreter* interpreter_ = nullptr;
+};
+
+}  // namespace vantora::ui::script

@@ -1,0 +1,206 @@
+#include "ui/script/state.h"
+
+#include <algorithm>
+
+#include "store/text/code_page.h"
+#include "ui/controls.h"
+
+namespace vantora::ui::script {
+
+using nlohmann::json;
+
+namespace {
+
+const char* kind_name(control_kind kind) {
+    switch (kind) {
+        case control_kind::text_box:
+            return "textbox";
+        case control_kind::label:
+            return "label";
+        case control_kind::button:
+            return "button";
+        case control_kind::picture:
+            return "picture";
+        case control_kind::check_box:
+            return "checkbox";
+        case control_kind::option_button:
+            return "option";
+        case control_kind::list_box:
+            return "list";
+        case control_kind::drop_down:
+            return "dropdown";
+        case control_kind::scroll_bar:
+            return "scrollbar";
+        case control_kind::progress_bar:
+            return "progressbar";
+        case control_kind::date_picker:
+            return "datepicker";
+        case control_kind::grid:
+            return "grid";
+    }
+    return "";
+}
+
+const char* icon_name(icon sign) {
+    switch (sign) {
+        case icon::stop:
+            return "stop";
+        case icon::warning:
+            return "warning";
+        case icon::question:
+            return "question";
+        case icon::information:
+            return "information";
+    }
+    return "";
+}
+
+const char* answer_name(answer given) {
+    switch (given) {
+        case answer::ok:
+            return "ok";
+        case answer::yes:
+            return "yes";
+        case answer::no:
+            return "no";
+    }
+    return "";
+}
+
+json box_json(const message_box& box) {
+    return {{"text", to_utf8(box.text)},
+            {"title", to_utf8(box.title)},
+            {"icon", icon_name(box.icon)},
+            {"buttons", box.buttons == buttons::ok ? "ok" : "yesno"}};
+}
+
+template <class Bar>
+void describe_bar(const Bar& bar, json& state) {
+    state["min"] = bar.minimum();
+    state["max"] = bar.maximum();
+    state["value"] = bar.value();
+}
+
+void describe_list(const list_control& list, json& state) {
+    state["index"] = list.chosen();
+    state["count"] = list.count();
+    state["text"] = to_utf8(list.text());
+}
+
+void describe_grid(const grid& table, json& state) {
+    state["rows"] = table.rows();
+    state["cols"] = table.cols();
+    state["row"] = table.row();
+    state["col"] = table.col();
+    state["toprow"] = table.top_row();
+}
+
+void describe_text(const control& one, json& state) {
+    state["text"] = to_utf8(static_cast<const text_control&>(one).text());
+}
+
+}  // namespace
+
+json state_of(const control& one) {
+    json state = {
+        {"kind", kind_name(one.kind())}, {"visible", one.visible()}, {"enabled", one.enabled()}};
+    switch (one.kind()) {
+        case control_kind::text_box:
+        case control_kind::label:
+        case control_kind::button:
+            describe_text(one, state);
+            break;
+        case control_kind::check_box:
+            describe_text(one, state);
+            state["on"] = static_cast<const check_box&>(one).on();
+            break;
+        case control_kind::option_button:
+            describe_text(one, state);
+            state["on"] = static_cast<const option_button&>(one).on();
+            break;
+        case control_kind::list_box:
+        case control_kind::drop_down:
+            describe_list(static_cast<const list_control&>(one), state);
+            break;
+        case control_kind::scroll_bar:
+            describe_bar(static_cast<const scroll_bar&>(one), state);
+            break;
+        case control_kind::progress_bar:
+            describe_bar(static_cast<const progress_bar&>(one), state);
+            break;
+        case control_kind::date_picker:
+            state["text"] = static_cast<const date_picker&>(one).text();
+            break;
+        case control_kind::grid:
+            describe_grid(static_cast<const grid&>(one), state);
+            break;
+        case control_kind::picture:
+            break;
+    }
+    return state;
+}
+
+json items_of(const control& one) {
+    if (one.kind() != control_kind::list_box && one.kind() != control_kind::drop_down) return {};
+    json items = json::array();
+    for (const auto& item : static_cast<const list_control&>(one).items()) {
+        items.push_back(to_utf8(item));
+    }
+    return items;
+}
+
+json rows_of(const control& one, int first, int last) {
+    if (one.kind() != control_kind::grid) return {};
+    const auto& table = static_cast<const grid&>(one);
+    json rows = json::array();
+    for (int row = std::max(first, 0); row <= std::min(last, table.rows() - 1); ++row) {
+        json cells = json::array();
+        for (int col = 0; col < table.cols(); ++col) cells.push_back(to_utf8(table.text(row, col)));
+        rows.push_back(std::move(cells));
+    }
+    return rows;
+}
+
+json colours_of(const control& one, int first, int last) {
+    if (one.kind() != control_kind::grid) return {};
+    const auto& table = static_cast<const grid&>(one);
+    json colours = json::array();
+    for (int row = std::max(first, 0); row <= std::min(last, table.rows() - 1); ++row) {
+        colours.push_back(table.back_colour(row, 0));
+    }
+    return colours;
+}
+
+json controls_of(const form& screen) {
+    json controls = json::object();
+    for (const control* one : screen.controls()) controls[one->address()] = state_of(*one);
+    return controls;
+}
+
+json screens_of(const desk& desk) {
+    json screens = json::array();
+    for (const form* one : desk.forms()) {
+        screens.push_back(
+            {{"name", one->name()}, {"title", to_utf8(one->title())}, {"visible", one->visible()}});
+    }
+    return screens;
+}
+
+void describe(const desk& desk, json& reply) {
+    reply["screen"] = desk.active() ? desk.active()->name() : "";
+    reply["focus"] = desk.focus() ? desk.focus()->address() : "";
+    if (const message_box* box = desk.open_box()) reply["box"] = box_json(*box);
+    if (const form* modal = desk.modal()) reply["modal"] = modal->name();
+    if (desk.waiting()) reply["waiting"] = true;
+    if (!desk.ended()) return;
+    reply["ended"] = desk.ended()->fatal ? "fatal" : "exit";
+    if (desk.ended()->fatal) reply["fatal"] = to_utf8(desk.ended()->message);
+}
+
+json answered(const answered_box& box) {
+    json one = box_json(box.box);
+    one["answer"] = answer_name(box.given);
+    return one;
+}
+
+}  // namespace vantora::ui::script

@@ -1,0 +1,179 @@
+#include <optional>
+
+#include "store/text/code_page.h"
+#include "store/text/dates.h"
+#include "ui/controls.h"
+#include "ui/script/interpreter.h"
+
+namespace vantora::ui::script {
+
+namespace {
+
+struct named_key {
+    std::string_view name;
+    int code;
+    std::optional<char> character;
+};
+
+constexpr named_key named_keys[] = {
+    {"Enter", key::enter, static_cast<char>(key::enter)},
+    {"F1", key::f1, {}},
+    {"Backspace", key::backspace, static_cast<char>(key::backspace)},
+    {"Delete", key::del, {}},
+    {"Tab", key::tab, {}},
+    {"Up", key::up, {}},
+    {"Down", key::down, {}},
+};
+
+/// The key that types a character.
+named_key key_of(char character) {
+    return {{}, static_cast<unsigned char>(upper(character)), character};
+}
+
+std::optional<named_key> read_key(const std::string& name) {
+    for (const named_key& known : named_keys) {
+        if (known.name == name) return known;
+    }
+    const std::string character = from_utf8(name);
+    if (character.size() != 1) return {};
+    return key_of(character[0]);
+}
+
+/// The key goes to whatever has the focus.
+void press(desk& desk, const named_key& pressed) {
+    control* here = desk.focus();
+    if (!here) return;
+    here->press_key(pressed.code, pressed.character);
+}
+
+}  // namespace
+
+void interpreter::click(const words& line) {
+    control* one = touchable(line[1]);
+    if (!one) return;
+    switch (one->kind()) {
+        case control_kind::button:
+            return act([&] { static_cast<button*>(one)->click(); });
+        case control_kind::label:
+            return act([&] { static_cast<label*>(one)->click(); });
+        case control_kind::picture:
+            return act([&] { static_cast<picture*>(one)->click(); });
+        case control_kind::check_box:
+            return act([&] { static_cast<check_box*>(one)->toggle(); });
+        case control_kind::option_button:
+            return act([&] { static_cast<option_button*>(one)->choose(); });
+        default:
+            refuse("the control is none to click");
+    }
+}
+
+void interpreter::cell(const words& line) {
+    control* one = touchable(line[1]);
+    if (!one) return;
+    const auto row = read_int(line[2].text);
+    const auto col = read_int(line[3].text);
+    if (one->kind() != control_kind::grid || !row || !col) {
+        return refuse("this is no cell of a grid");
+    }
+    auto& table = *static_cast<grid*>(one);
+    if (*row < 0 || *row >= table.rows() || *col < 0 || *col >= table.cols()) {
+        return refuse("the grid has no such cell");
+    }
+    act([&] { table.click_cell(*row, *col); });
+}
+
+void interpreter::key(const words& line) {
+    const auto pressed = read_key(line[2].text);
+    if (!pressed) return refuse("there is no such key");
+    control* one = touchable(line[1]);
+    if (!one || !take_focus(*one)) return;
+    act([&] {
+        one->set_focus();
+        if (pressed->code == key::tab) {
+            desk_.tab(false);
+        } else {
+            press(desk_, *pressed);
+        }
+    });
+}
+
+void interpreter::type(const words& line) {
+    control* one = touchable(line[1]);
+    if (!one || !take_focus(*one)) return;
+    act([&] {
+        one->set_focus();
+        for (const char character : from_utf8(line[2].text)) press(desk_, key_of(character));
+    });
+}
+
+void interpreter::set(const words& line) {
+    control* one = touchable(line[1]);
+    if (!one) return;
+    if (one->kind() != control_kind::text_box) return refuse("the control is no text box");
+    act([&] {
+        one->set_focus();
+        static_cast<text_box*>(one)->set_text(from_utf8(line[2].text));
+    });
+}
+
+void interpreter::pick(const words& line) {
+    control* one = touchable(line[1]);
+    if (!one) return;
+    if (one->kind() != control_kind::list_box && one->kind() != control_kind::drop_down) {
+        return refuse("the control is no list");
+    }
+    auto& list = *static_cast<list_control*>(one);
+    const auto position = read_int(line[2].text);
+    if (!position || *position < 0 || *position >= list.count()) {
+        return refuse("the list has no such entry");
+    }
+    act([&] { list.pick(*position); });
+}
+
+void interpreter::scroll(const words& line) {
+    control* one = touchable(line[1]);
+    if (!one) return;
+    if (one->kind() != control_kind::scroll_bar) return refuse("the control is no scroll bar");
+    auto& bar = *static_cast<scroll_bar*>(one);
+    const auto value = read_int(line[2].text);
+    if (!value || !bar.reaches(*value)) return refuse("the bar doesn't reach there");
+    act([&] { bar.drag(*value); });
+}
+
+void interpreter::date(const words& line) {
+    control* one = touchable(line[1]);
+    if (!one) return;
+    if (one->kind() != control_kind::date_picker) return refuse("the control is no date picker");
+    const auto day = read_date(line[2].text);
+    if (!day) return refuse("this is no date");
+    act([&] { static_cast<date_picker*>(one)->choose(*day); });
+}
+
+void interpreter::focus(const words& line) {
+    control* one = touchable(line[1]);
+    if (!one || !take_focus(*one)) return;
+    act([&] { one->set_focus(); });
+}
+
+void interpreter::close(const words& line) {
+    form* screen = desk_.find(from_utf8(line[1].text));
+    if (!screen) return refuse("the screen is not loaded");
+    if (const auto why = desk_.obstacle(*screen)) return refuse(*why);
+    act([&] { desk_.close(*screen); });
+}
+
+void interpreter::answer(const words& line) {
+    std::optional<ui::answer> given;
+    if (line[1].text == "yes") given = ui::answer::yes;
+    if (line[1].text == "no") given = ui::answer::no;
+    if (line[1].text == "ok") given = ui::answer::ok;
+    if (!given) return refuse("this is no answer");
+    if (!desk_.open_box()) return desk_.queue_answer(*given);
+    if (!desk_.answer_box(*given)) refuse("the message box has no such button");
+}
+
+void interpreter::quit(const words&) {
+    quitting_ = true;
+}
+
+}  // namespace vantora::ui::script
