@@ -39,17 +39,19 @@ bool control::set_focus() {
     return owner_ && owner_->desk().give_focus(*this);
 }
 
-void control::press_key(int code, std::optional<char> character) {
+bool control::offer_key(int code, std::optional<char>& character) {
     key_event down{code};
     if (on_key_down) on_key_down(down);
-    if (down.swallowed()) return;
-    if (character) {
-        key_event press{static_cast<unsigned char>(*character)};
-        if (on_key_press) on_key_press(press);
-        if (press.swallowed()) return;
-        character = static_cast<char>(press.code);
-    }
-    default_key(code, character);
+    if (down.swallowed()) return false;
+    if (!character) return true;
+    key_event press{static_cast<unsigned char>(*character)};
+    if (on_key_press) on_key_press(press);
+    character = static_cast<char>(press.code);
+    return !press.swallowed();
+}
+
+void control::press_key(int code, std::optional<char> character) {
+    if (offer_key(code, character)) default_key(code, character);
 }
 
 void control::default_key(int, std::optional<char>) {}

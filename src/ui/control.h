@@ -104,6 +104,10 @@ class control {
     /// key with a character, key press; what isn't swallowed takes its usual effect.
     void press_key(int code, std::optional<char> character);
 
+    /// Only the key events, for a front end whose widget takes the usual effect itself. False if
+    /// the key was swallowed.
+    bool offer_key(int code, std::optional<char>& character);
+
     /// The front end's widget; null while there is none.
     void attach(control_view* view) { view_ = view; }
 

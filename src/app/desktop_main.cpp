@@ -1,0 +1,84 @@
+#include <QApplication>
+#include <cstdlib>
+#include <fstream>
+#include <iostream>
+
+#include "app/options.h"
+#include "app/start.h"
+#include "store/drive.h"
+#include "ui/desktop/desktop_front_end.h"
+#include "ui/desktop/script_runner.h"
+#include "ui/desktop/style.h"
+#include "ui/desktop/system_ports.h"
+
+namespace {
+
+bool has_display() {
+    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
+        const char* value = std::getenv(name);
+        if (value && *value) return true;
+    }
+    return false;
+}
+
+/// What a run by script has in place of the machine's printer and programs, and its commands.
+struct scripted_run {
+    explicit scripted_run(const std::string& file) : from_input(file == "-") {
+        if (!from_input) script.open(file);
+    }
+
+    bool from_input;
+    std::ifstream script;
+    vantora::ui::script::recording_printer paper;
+    vantora::ui::script::recording_launcher programs;
+
+    std::istream& commands() { return from_input ? std::cin : script; }
+};
+
+}  // namespace
+
+int main(int count, char** arguments) {
+    using namespace vantora;
+    program_options options("Vantora Ordini");
+    options.takes_script = true;
+    if (const auto code = options.read(count, arguments)) return *code;
+    if (!has_display()) {
+        std::cerr << "Vantora Ordini: non c'è uno schermo su cui aprire la finestra.\n";
+        return 1;
+    }
+
+    QApplication application(count, arguments);
+    QApplication::setOrganizationName("Vantora");
+    QApplication::setApplicationName("Ordini");
+    QApplication::setQuitOnLastWindowClosed(false);
+    ui::desktop::dress_application(application);
+
+    drive files(options.drive);
+    ui::local_clock time;
+    if (options.clock) time.stop_at(*options.clock);
+    ui::desktop::desktop_front_end front;
+
+    if (!options.script.empty()) {
+        scripted_run script(options.script);
+        ui::desk desk(front, time, script.paper, script.programs);
+        ui::script::interpreter commands(desk, time, script.paper, script.programs);
+        ui::desktop::script_runner runner(front, commands, script.commands(), std::cout);
+        program app(files, desk);
+        front.begin(desk);
+        front.served_by([&runner] { return runner.step(); });
+        desk.dispatch([&] { start(app, options.argument); });
+        front.run();
+        runner.write_reply();
+        return exit_code(desk);
+    }
+
+    ui::desktop::system_printer paper;
+    ui::desktop::system_launcher programs(
+        [&files](std::string_view path) { return files.locate(path).string(); });
+    ui::desk desk(front, time, paper, programs);
+    program app(files, desk);
+    front.begin(desk);
+    desk.dispatch([&] { start(app, options.argument); });
+    front.run();
+    return exit_code(desk);
+}

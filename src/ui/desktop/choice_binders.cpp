@@ -1,0 +1,55 @@
+#include <QAbstractButton>
+#include <QCheckBox>
+#include <QKeyEvent>
+#include <QRadioButton>
+
+#include "ui/choice_controls.h"
+#include "ui/desktop/kinds.h"
+#include "ui/desktop/widget_binder.h"
+
+namespace vantora::ui::desktop {
+
+namespace {
+
+/// A check box or an option: the model decides whether it goes on, the widget follows.
+template <class Model, class Widget>
+class choice_binder final : public widget_binder {
+ public:
+    choice_binder(Model& model, QWidget* parent, const user_action& act, void (Model::*clicked)())
+        : widget_binder(model, button_ = new Widget(parent), act), model_(model) {
+        button_->setAutoExclusive(false);
+        connect(button_, &QAbstractButton::clicked, this, [this, clicked] {
+            this->act([this, clicked] { (model_.*clicked)(); });
+            show_again(aspect::value);
+        });
+        show_all();
+    }
+
+ private:
+    void show_value(aspect what) override {
+        if (what == aspect::text) button_->setText(shown(model_.text()));
+        if (what == aspect::value) button_->setChecked(model_.on());
+    }
+    bool key_pressed(QKeyEvent& event) override {
+        if (widget_binder::key_pressed(event)) return true;
+        if (event.key() != Qt::Key_Up && event.key() != Qt::Key_Down) return false;
+        act([&] { model_.press_key(event.key() == Qt::Key_Up ? key::up : key::down, {}); });
+        return true;
+    }
+
+    QAbstractButton* button_;
+    Model& model_;
+};
+
+}  // namespace
+
+std::unique_ptr<binder> bind_choice_kind(control& to, QWidget* parent, const user_action& act) {
+    if (to.kind() == control_kind::check_box) {
+        return std::make_unique<choice_binder<check_box, QCheckBox>>(
+            static_cast<check_box&>(to), parent, act, &check_box::toggle);
+    }
+    return std::make_unique<choice_binder<option_button, QRadioButton>>(
+        static_cast<option_button&>(to), parent, act, &option_button::choose);
+}
+
+}  // namespace vantora::ui::desktop

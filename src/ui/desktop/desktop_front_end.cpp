@@ -1,0 +1,195 @@
+#include "ui/desktop/desktop_front_end.h"
+
+#include <QApplication>
+#include <QEventLoop>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include "ui/desk.h"
+
+namespace vantora::ui::desktop {
+
+namespace {
+
+/// Long work serves the window system this often, in milliseconds.
+constexpr qint64 serving_pause = 16;
+
+constexpr const char* program_title = "Vantora Ordini";
+
+QMessageBox::Icon toolkit_icon(icon sign) {
+    switch (sign) {
+        case icon::stop:
+            return QMessageBox::Critical;
+        case icon::warning:
+            return QMessageBox::Warning;
+        case icon::question:
+            return QMessageBox::Question;
+        case icon::information:
+            break;
+    }
+    return QMessageBox::Information;
+}
+
+}  // namespace
+
+desktop_front_end::desktop_front_end() {
+    since_events_.start();
+}
+
+desktop_front_end::~desktop_front_end() = default;
+
+// Waiting -----------------------------------------------------------------------------------------
+
+void desktop_front_end::run() {
+    run_until([this] { return next_step_ == nullptr && desk_->ended().has_value(); });
+}
+
+void desktop_front_end::run_until(const std::function<bool()>& done) {
+    if (next_step_) {
+        while (!done()) {
+            for (int settling = 0; settling < 3; ++settling) QCoreApplication::processEvents();
+            if (!next_step_()) {
+                desk_->stop();
+                return;
+            }
+        }
+        return;
+    }
+    if (done()) return;
+    QEventLoop loop;
+    waits_.push_back({&loop, &done});
+    loop.exec();
+    waits_.pop_back();
+    leave_finished_waits();
+}
+
+void desktop_front_end::leave_finished_waits() {
+    if (!waits_.empty() && (*waits_.back().done)()) waits_.back().loop->quit();
+}
+
+void desktop_front_end::let_events_run() {
+    if (since_events_.elapsed() < serving_pause) return;
+    QCoreApplication::processEvents();
+    since_events_.restart();
+}
+
+void desktop_front_end::act(control& on, const std::function<void()>& action) {
+    if (!desk_->obstacle(on)) {
+        carry_out(action);
+    } else if (control* rightful = desk_->focus()) {
+        focus_moved(rightful);
+    }
+}
+
+void desktop_front_end::carry_out(const std::function<void()>& action) {
+    desk_->dispatch(action);
+    leave_finished_waits();
+}
+
+// Windows -----------------------------------------------------------------------------------------
+
+form_window* desktop_front_end::window_of(form& which) {
+    const auto found = windows_.find(&which);
+    return found == windows_.end() ? nullptr : found->second.get();
+}
+
+void desktop_front_end::form_loaded(form& which) {
+    windows_[&which] = std::make_unique<form_window>(
+        which, [this](control& on, const std::function<void()>& action) { act(on, action); },
+        [this](form& closing) {
+            if (!desk_->obstacle(closing)) carry_out([&] { desk_->close(closing); });
+        },
+        next_step_ == nullptr);
+}
+
+void desktop_front_end::form_shown(form& which) {
+    if (form_window* window = window_of(which)) window->appear();
+}
+
+void desktop_front_end::form_hidden(form& which) {
+    if (form_window* window = window_of(which)) window->hide();
+}
+
+void desktop_front_end::form_unloaded(form& which) {
+    const auto found = windows_.find(&which);
+    if (found == windows_.end()) return;
+    found->second->hide();
+    // The window may be in the midst of one of its own events.
+    form_window* window = found->second.release();
+    windows_.erase(found);
+    window->forget_screen();
+    window->deleteLater();
+}
+
+void desktop_front_end::form_activated(form& which) {
+    form_window* window = window_of(which);
+    if (!window) return;
+    window->raise();
+    window->activateWindow();
+}
+
+void desktop_front_end::focus_moved(control* to) {
+    if (!to) return;
+    if (form_window* window = window_of(to->owner())) window->focus_on(*to);
+}
+
+QWidget* desktop_front_end::front_window() const {
+    if (!boxes_.empty()) return boxes_.back();
+    const auto active = windows_.find(desk_->active());
+    return active == windows_.end() ? nullptr : active->second.get();
+}
+
+// Boxes and pointer -------------------------------------------------------------------------------
+
+void desktop_front_end::box_opened(const message_box& box) {
+    QWidget* parent = desk_->active() ? window_of(*desk_->active()) : nullptr;
+    auto* shown_box = new QMessageBox(parent);
+    shown_box->setIcon(toolkit_icon(box.icon));
+    shown_box->setWindowTitle(shown(box.title));
+    shown_box->setText(shown(box.text));
+    if (box.buttons == buttons::yes_no) {
+        auto* yes = shown_box->addButton(QString::fromUtf8("&Sì"), QMessageBox::YesRole);
+        auto* no = shown_box->addButton("&No", QMessageBox::NoRole);
+        shown_box->setDefaultButton(yes);
+        shown_box->setEscapeButton(no);
+    } else {
+        shown_box->setStandardButtons(QMessageBox::Ok);
+    }
+    shown_box->setWindowModality(Qt::ApplicationModal);
+    const bool question = box.buttons == buttons::yes_no;
+    QObject::connect(shown_box, &QMessageBox::finished, shown_box, [this, shown_box, question] {
+        const auto* clicked = shown_box->clickedButton();
+        const bool yes =
+            clicked && shown_box->buttonRole(shown_box->clickedButton()) == QMessageBox::YesRole;
+        const answer given = !question ? answer::ok : yes ? answer::yes : answer::no;
+        carry_out([&] { desk_->answer_box(given); });
+    });
+    boxes_.push_back(shown_box);
+    shown_box->show();
+}
+
+void desktop_front_end::box_closed() {
+    if (boxes_.empty()) return;
+    QMessageBox* box = boxes_.back();
+    boxes_.pop_back();
+    QObject::disconnect(box, &QMessageBox::finished, nullptr, nullptr);
+    box->hide();
+    box->deleteLater();
+    if (form* active = desk_->active()) form_activated(*active);
+    focus_moved(desk_->focus());
+}
+
+void desktop_front_end::pointer_changed(pointer shape) {
+    if (shape == pointer::busy) {
+        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    } else {
+        QGuiApplication::restoreOverrideCursor();
+    }
+}
+
+void desktop_front_end::report_fatal(const std::string& message) {
+    if (next_step_) return;
+    QMessageBox::critical(nullptr, program_title, shown(message));
+}
+
+}  // namespace vantora::ui::desktop

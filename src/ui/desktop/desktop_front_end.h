@@ -1,0 +1,72 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <map>
+#include <memory>
+#include <vector>
+
+#include "ui/desktop/form_window.h"
+#include "ui/front_end.h"
+
+class QEventLoop;
+class QMessageBox;
+
+namespace vantora::ui {
+class desk;
+}
+
+namespace vantora::ui::desktop {
+
+/// The front end with windows. What the user does is carried out on the models, one action at a
+/// time; while the program waits inside one, the window system goes on.
+class desktop_front_end final : public front_end {
+ public:
+    desktop_front_end();
+    ~desktop_front_end() override;
+
+    /// Tells whose front end this is. Called once, before the program starts.
+    void begin(desk& on) { desk_ = &on; }
+
+    /// Something that acts in the user's place: called whenever the program waits and its windows
+    /// have settled; false when there is nothing more to come. Sizes are then not remembered.
+    void served_by(std::function<bool()> next_step) { next_step_ = std::move(next_step); }
+
+    /// Serves the user until the program ends.
+    void run();
+
+    /// The window in front, for a picture of it; null if there is none.
+    [[nodiscard]] QWidget* front_window() const;
+
+    void run_until(const std::function<bool()>& done) override;
+    void let_events_run() override;
+    void form_loaded(form& which) override;
+    void form_shown(form& which) override;
+    void form_hidden(form& which) override;
+    void form_unloaded(form& which) override;
+    void form_activated(form& which) override;
+    void focus_moved(control* to) override;
+    void box_opened(const message_box& box) override;
+    void box_closed() override;
+    void pointer_changed(pointer shape) override;
+    void report_fatal(const std::string& message) override;
+
+ private:
+    struct wait {
+        QEventLoop* loop;
+        const std::function<bool()>* done;
+    };
+
+    void act(control& on, const std::function<void()>& action);
+    void carry_out(const std::function<void()>& action);
+    void leave_finished_waits();
+    form_window* window_of(form& which);
+
+    desk* desk_ = nullptr;
+    std::function<bool()> next_step_;
+    std::map<form*, std::unique_ptr<form_window>> windows_;
+    std::vector<QMessageBox*> boxes_;
+    std::vector<wait> waits_;
+    QElapsedTimer since_events_;
+};
+
+}  // namespace vantora::ui::desktop

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QTableView>
+#include <vector>
+
+#include "ui/grid.h"
+
+namespace vantora::ui::desktop {
+
+/// A table whose columns share its width as the screen designs them; what stands above a column
+/// can follow it.
+class grid_view final : public QTableView {
+ public:
+    grid_view(const grid& model, QWidget* parent);
+
+    /// Shares the visible width out to the columns.
+    void share_width();
+
+    /// Keeps a widget of the same parent above a column: as wide, and where the column begins.
+    void keep_above(int column, QWidget* widget);
+
+ protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+
+ private:
+    struct follower {
+        int column;
+        QWidget* widget;
+    };
+
+    void place_followers();
+
+    const grid& model_;
+    std::vector<follower> followers_;
+};
+
+}  // namespace vantora::ui::desktop

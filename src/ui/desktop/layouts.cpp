@@ -1,0 +1,34 @@
+#include "ui/desktop/layouts.h"
+
+#include <QFormLayout>
+
+#include "ui/desktop/form_window.h"
+
+namespace vantora::ui::desktop {
+
+namespace {
+
+struct screen_layout {
+    std::string_view screen;
+    void (*lay_out)(form_window&);
+};
+
+constexpr screen_layout known_layouts[] = {
+    {"mirorc", lay_out_mirorc},   {"mirorcx", lay_out_mirorcx}, {"mirsel", lay_out_mirsel},
+    {"mirdata", lay_out_mirdata}, {"mirorcs", lay_out_mirorcs},
+};
+
+}  // namespace
+
+void lay_out(form_window& window) {
+    for (const screen_layout& known : known_layouts) {
+        if (known.screen == window.screen().name()) return known.lay_out(window);
+    }
+    auto* rows = new QFormLayout(&window);
+    for (const control* one : window.screen().controls()) {
+        rows->addRow(shown(one->address()),
+                     window.widget(one->name().c_str(), one->index().value_or(-1)));
+    }
+}
+
+}  // namespace vantora::ui::desktop

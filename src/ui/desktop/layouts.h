@@ -1,0 +1,18 @@
+#pragma once
+
+namespace vantora::ui::desktop {
+
+class form_window;
+
+/// Arranges the widgets of a screen: by the screen's own layout, or one below the other for a
+/// screen that has none.
+void lay_out(form_window& window);
+
+// One file a screen.
+void lay_out_mirorc(form_window& window);
+void lay_out_mirorcx(form_window& window);
+void lay_out_mirsel(form_window& window);
+void lay_out_mirdata(form_window& window);
+void lay_out_mirorcs(form_window& window);
+
+}  // namespace vantora::ui::desktop

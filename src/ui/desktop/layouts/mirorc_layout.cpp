@@ -1,0 +1,116 @@
+#include <QShortcut>
+
+#include "ui/desktop/layouts.h"
+#include "ui/desktop/layouts/parts.h"
+#include "ui/text_controls.h"
+
+namespace vantora::ui::desktop {
+
+namespace {
+
+constexpr command_look commands[] = {
+    {"uscita", "&Esci", "Chiude il programma", "Ctrl+Q"},
+    {"aggiorna", "&Aggiorna", "Rilegge l'archivio degli ordini", "F5"},
+    {"nuovo", "&Nuovo ordine", "Registra un nuovo ordine", "Ctrl+N"},
+    {"elenco", "Elenco &ordini", "Elenco degli ordini", "Ctrl+L"},
+    {"scadenziario", "&Scadenziario", "Ordini in scadenza", "Ctrl+D"},
+    {"valore", "&Valorizzazione", "Valore degli ordini", "Ctrl+Y"},
+    {"clienti", "Schede &clienti", "Ordini di ogni cliente", "Ctrl+K"},
+    {"articoli", "Schede a&rticoli", "Ordini di ogni articolo", "Ctrl+J"},
+    {"evasione", "Evasio&ne", "Evade gli ordini di un cliente", "Ctrl+E"},
+};
+
+QFrame* command_bar(form_window& window) {
+    auto* bar = new QFrame(&window);
+    set_look(bar, "role", "bar");
+    auto* row = new QHBoxLayout(bar);
+    row->setContentsMargins(8, 6, 8, 6);
+    row->setSpacing(2);
+    // Daily work first, leaving last.
+    for (const int i : {2, 8, 1, 3, 4, 5, 6, 7, 0}) {
+        if (i == 3) row->addSpacing(18);
+        if (i == 0) row->addStretch(1);
+        window.dress("bottone", i, commands[i]);
+        auto* button = window.as<QToolButton>("bottone", i);
+        button->setIconSize(QSize(28, 28));
+        button->setMinimumWidth(86);
+        QSizePolicy place(QSizePolicy::Preferred, QSizePolicy::Fixed);
+        place.setRetainSizeWhenHidden(true);
+        button->setSizePolicy(place);
+        row->addWidget(button);
+    }
+    return bar;
+}
+
+QGroupBox* options(form_window& window, const char* title, const char* name, int count) {
+    auto* box = new QGroupBox(QString::fromUtf8(title), &window);
+    auto* column = new QVBoxLayout(box);
+    column->setSpacing(3);
+    for (int i = 0; i < count; ++i) column->addWidget(window.widget(name, i));
+    column->addStretch(1);
+    return box;
+}
+
+QGroupBox* compaction(form_window& window) {
+    auto* box = new QGroupBox("Archivio", &window);
+    auto* text = window.as<QLabel>("srtt", 0);
+    text->setWordWrap(true);
+    text->setMinimumWidth(220);
+    auto* link = window.as<QLabel>("srtt", 1);
+    set_look(link, "role", "link");
+    link->setCursor(Qt::PointingHandCursor);
+    const QString tip = "Compatta l'archivio degli ordini (Ctrl+Shift+C)";
+    link->setToolTip(tip);
+    text->setToolTip(tip);
+
+    // The two labels take no focus; the keyboard reaches them this way.
+    auto* shortcut = new QShortcut(QKeySequence("Ctrl+Shift+C"), &window);
+    auto& model = static_cast<label&>(*window.screen().find("srtt", 1));
+    QObject::connect(shortcut, &QShortcut::activated, link,
+                     [&window, &model] { window.act_on(model, [&model] { model.click(); }); });
+
+    auto* version = window.as<QLabel>("xx_versione");
+    set_look(version, "role", "faint");
+    auto* column = new QVBoxLayout(box);
+    column->setSpacing(3);
+    column->addWidget(text);
+    auto* line = new QHBoxLayout;
+    line->addWidget(link);
+    line->addStretch(1);
+    line->addWidget(version);
+    column->addLayout(line);
+    column->addStretch(1);
+    return box;
+}
+
+}  // namespace
+
+void lay_out_mirorc(form_window& window) {
+    window.widget("xsfondo")->hide();
+    auto* all = new QVBoxLayout(&window);
+    all->setContentsMargins(0, 0, 0, 0);
+    all->setSpacing(0);
+    all->addWidget(command_bar(window));
+
+    auto* body = new QVBoxLayout;
+    body->setContentsMargins(10, 8, 10, 10);
+    body->setSpacing(8);
+    body->addLayout(grid_with_sort_buttons(window, "elenco", "srx", 6), 1);
+
+    auto* progress = window.widget("srt");
+    progress->setFixedHeight(progress->fontMetrics().height() + 8);
+    body->addWidget(progress);
+
+    auto* foot = new QHBoxLayout;
+    foot->setSpacing(10);
+    foot->addWidget(options(window, "Registrazioni", "selvis", 3));
+    foot->addWidget(options(window, "Ordine di lettura", "visua", 2));
+    foot->addWidget(compaction(window), 1);
+    body->addLayout(foot);
+    all->addLayout(body, 1);
+
+    window.setMinimumSize(980, 520);
+    window.set_first_size(QSize(1240, 690));
+}
+
+}  // namespace vantora::ui::desktop

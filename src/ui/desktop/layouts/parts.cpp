@@ -1,0 +1,45 @@
+#include "ui/desktop/layouts/parts.h"
+
+namespace vantora::ui::desktop {
+
+QLabel* caption(const char* utf8, QWidget* parent) {
+    auto* label = new QLabel(QString::fromUtf8(utf8), parent);
+    label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    return label;
+}
+
+QWidget* sized(QWidget* field, int characters) {
+    field->setFixedWidth(field->fontMetrics().averageCharWidth() * (characters + 2) + 14);
+    return field;
+}
+
+void set_look(QWidget* widget, const char* property, const char* value) {
+    widget->setProperty(property, value);
+}
+
+QVBoxLayout* grid_with_sort_buttons(form_window& window, const char* grid, const char* name,
+                                    int count) {
+    auto* strip = new QWidget(&window);
+    strip->setFixedHeight(strip->fontMetrics().height() + 10);
+    auto* table = window.as<grid_view>(grid);
+    for (int i = 0; i < count; ++i) {
+        auto* button = window.as<QToolButton>(name, i);
+        button->setParent(strip);
+        set_look(button, "look", "sort");
+        if (button->text().isEmpty()) {
+            button->setEnabled(false);
+            button->setToolTip(QString());
+        } else {
+            button->setToolTip(QString::fromUtf8("Riordina l'elenco su questa colonna"));
+        }
+        button->setGeometry(0, 1, 60, strip->height() - 3);
+        table->keep_above(i, button);
+    }
+    auto* column = new QVBoxLayout;
+    column->setSpacing(1);
+    column->addWidget(strip);
+    column->addWidget(table, 1);
+    return column;
+}
+
+}  // namespace vantora::ui::desktop

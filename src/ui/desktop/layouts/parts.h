@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QBoxLayout>
+#include <QFrame>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QToolButton>
+
+#include "ui/desktop/form_window.h"
+#include "ui/desktop/grid_view.h"
+
+namespace vantora::ui::desktop {
+
+// What several screens' layouts are put together from.
+
+/// A fixed text in front of a field.
+QLabel* caption(const char* utf8, QWidget* parent);
+
+/// A text box made so wide that about `characters` fit.
+QWidget* sized(QWidget* field, int characters);
+
+/// A grid with its "Riordina" buttons above the columns, `count` of the control array `name`.
+QVBoxLayout* grid_with_sort_buttons(form_window& window, const char* grid, const char* name,
+                                    int count);
+
+/// Sets how the style sheet draws a widget.
+void set_look(QWidget* widget, const char* property, const char* value);
+
+}  // namespace vantora::ui::desktop

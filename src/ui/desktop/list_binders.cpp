@@ -1,0 +1,108 @@
+#include <QAbstractListModel>
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QListView>
+
+#include "ui/desktop/kinds.h"
+#include "ui/desktop/widget_binder.h"
+#include "ui/list_controls.h"
+
+namespace vantora::ui::desktop {
+
+namespace {
+
+/// Shows a list's entries where they are, without copying them.
+class entries_model final : public QAbstractListModel {
+ public:
+    entries_model(const list_control& list, QObject* parent)
+        : QAbstractListModel(parent), list_(list) {}
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent) const override {
+        return parent.isValid() ? 0 : list_.count();
+    }
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override {
+        if (role != Qt::DisplayRole || index.row() >= list_.count()) return {};
+        return shown(list_.item(index.row()));
+    }
+    void reset() {
+        beginResetModel();
+        endResetModel();
+    }
+
+ private:
+    const list_control& list_;
+};
+
+class list_box_binder final : public widget_binder {
+ public:
+    list_box_binder(list_control& model, QWidget* parent, const user_action& act)
+        : widget_binder(model, view_ = new QListView(parent), act),
+          model_(model),
+          entries_(new entries_model(model, view_)) {
+        view_->setModel(entries_);
+        view_->setUniformItemSizes(true);
+        view_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+        connect(view_, &QListView::clicked, this,
+                [this](const QModelIndex& index) { this->act([&] { model_.pick(index.row()); }); });
+        show_all();
+    }
+
+ private:
+    void show_value(aspect what) override {
+        if (what == aspect::items) entries_->reset();
+        const QModelIndex chosen = entries_->index(model_.chosen(), 0);
+        view_->setCurrentIndex(chosen);
+        if (chosen.isValid()) view_->scrollTo(chosen);
+    }
+    bool key_pressed(QKeyEvent& event) override {
+        if (widget_binder::key_pressed(event)) return true;
+        if (event.key() != Qt::Key_Up && event.key() != Qt::Key_Down) return false;
+        act([&] { model_.pick(model_.chosen() + (event.key() == Qt::Key_Up ? -1 : 1)); });
+        return true;
+    }
+
+    QListView* view_;
+    list_control& model_;
+    entries_model* entries_;
+};
+
+class drop_down_binder final : public widget_binder {
+ public:
+    drop_down_binder(list_control& model, QWidget* parent, const user_action& act)
+        : widget_binder(model, box_ = new QComboBox(parent), act),
+          model_(model),
+          entries_(new entries_model(model, box_)) {
+        box_->setModel(entries_);
+        box_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        box_->setMinimumContentsLength(12);
+        box_->setMaxVisibleItems(16);
+        connect(box_, &QComboBox::activated, this, [this](int position) {
+            if (showing()) return;
+            this->act([&] { model_.pick(position); });
+            show_again(aspect::value);
+        });
+        show_all();
+    }
+
+ private:
+    void show_value(aspect what) override {
+        if (what == aspect::items) entries_->reset();
+        if (box_->currentIndex() != model_.chosen()) box_->setCurrentIndex(model_.chosen());
+    }
+
+    QComboBox* box_;
+    list_control& model_;
+    entries_model* entries_;
+};
+
+}  // namespace
+
+std::unique_ptr<binder> bind_list_kind(control& to, QWidget* parent, const user_action& act) {
+    auto& list = static_cast<list_control&>(to);
+    if (to.kind() == control_kind::list_box) {
+        return std::make_unique<list_box_binder>(list, parent, act);
+    }
+    return std::make_unique<drop_down_binder>(list, parent, act);
+}
+
+}  // namespace vantora::ui::desktop

@@ -1,0 +1,87 @@
+#include "ui/desktop/style.h"
+
+#include <QApplication>
+#include <QPalette>
+#include <QStyleFactory>
+
+#include "ui/desktop/form_window.h"
+
+// The pictures lie in a static library, which would leave them out; Qt wants this outside of any
+// namespace.
+static void make_pictures_known() { Q_INIT_RESOURCE(icons); }
+
+namespace vantora::ui::desktop {
+
+namespace {
+
+constexpr const char* sheet = R"(
+QToolButton { border: 1px solid transparent; border-radius: 5px; padding: 4px 8px; }
+QToolButton:hover { background: #e3edf6; border-color: #c3d6e6; }
+QToolButton:pressed { background: #cfe0ee; padding: 5px 8px 3px 8px; }
+QToolButton:focus { border-color: #2f6ea5; }
+QToolButton:disabled { color: #9aa5ae; }
+QToolButton[look="plain"] { background: #f6f8fa; border-color: #c5ced6; }
+QToolButton[look="plain"]:hover { background: #e3edf6; }
+QToolButton[look="plain"]:focus { border-color: #2f6ea5; }
+QToolButton[look="sort"] { background: #eef2f6; border-color: #d3dbe2; padding: 1px 4px;
+                           color: #41576a; }
+QToolButton[look="sort"]:hover { background: #e3edf6; }
+QToolButton[look="sort"]:focus { border-color: #2f6ea5; }
+QToolButton[look="main"] { background: #24527a; color: white; border-color: #24527a;
+                           padding: 6px 14px; font-weight: 600; }
+QToolButton[look="main"]:hover { background: #2f6ea5; }
+QToolButton[look="main"]:focus { border: 2px solid #8fc0e8; }
+QLineEdit, QComboBox, QDateEdit { border: 1px solid #c5ced6; border-radius: 4px; padding: 3px 5px;
+                       background: white; selection-background-color: #2f6ea5; }
+QLineEdit:focus, QComboBox:focus, QDateEdit:focus { border: 1px solid #2f6ea5;
+                       background: #f4f9ff; }
+QLineEdit[cell="true"] { border-radius: 0; padding: 2px 4px; border-color: #d9e0e6; }
+QLineEdit[cell="true"]:focus { border: 1px solid #2f6ea5; background: #fff8dc; }
+QGroupBox { border: 1px solid #d3dbe2; border-radius: 6px; margin-top: 9px; padding: 8px 8px 6px 8px;
+            background: #fbfcfd; }
+QGroupBox::title { subcontrol-origin: margin; left: 10px; padding: 0 4px; color: #24527a;
+                   font-weight: 600; }
+QTableView { border: 1px solid #c5ced6; background: white; gridline-color: #e6ebef;
+             selection-background-color: #2f6ea5; selection-color: white; }
+QTableView:focus, QListView:focus { border: 1px solid #2f6ea5; }
+QListView { border: 1px solid #c5ced6; background: white; selection-background-color: #2f6ea5;
+            selection-color: white; }
+QHeaderView::section { background: #e9eef3; color: #24527a; border: none;
+                       border-right: 1px solid #d3dbe2; border-bottom: 1px solid #c5ced6;
+                       padding: 3px 6px; font-weight: 600; }
+QProgressBar { border: 1px solid #c5ced6; border-radius: 4px; text-align: center;
+               background: white; }
+QProgressBar::chunk { background: #7fb2da; border-radius: 3px; }
+QLabel[role="link"] { color: #1d66a6; text-decoration: underline; }
+QLabel[role="faint"] { color: #6b7a87; }
+QLabel[role="warning"] { color: #a3271c; font-weight: 600; }
+QLabel[role="total"] { background: white; border: 1px solid #d3dbe2; border-radius: 4px;
+                       padding: 4px 8px; font-weight: 600; }
+QFrame[role="bar"] { background: #f1f5f8; border: none; border-bottom: 1px solid #d3dbe2; }
+)";
+
+}  // namespace
+
+void dress_application(QApplication& application) {
+    make_pictures_known();
+    QApplication::setStyle(QStyleFactory::create("Fusion"));
+    QPalette palette;
+    palette.setColor(QPalette::Window, QColor("#f7f9fb"));
+    palette.setColor(QPalette::WindowText, QColor("#1e2b36"));
+    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::AlternateBase, QColor("#f3f6f9"));
+    palette.setColor(QPalette::Text, QColor("#1e2b36"));
+    palette.setColor(QPalette::Button, QColor("#eef2f6"));
+    palette.setColor(QPalette::ButtonText, QColor("#1e2b36"));
+    palette.setColor(QPalette::Highlight, QColor("#2f6ea5"));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    QApplication::setPalette(palette);
+    QFont font = QApplication::font();
+    font.setFamilies({"Liberation Sans", "DejaVu Sans", font.family()});
+    font.setPointSizeF(10);
+    QApplication::setFont(font);
+    application.setStyleSheet(sheet);
+    QApplication::setWindowIcon(picture_named("programma"));
+}
+
+}  // namespace vantora::ui::desktop

@@ -1,0 +1,111 @@
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QToolButton>
+
+#include "ui/desktop/kinds.h"
+#include "ui/desktop/widget_binder.h"
+#include "ui/text_controls.h"
+
+namespace vantora::ui::desktop {
+
+namespace {
+
+class text_box_binder final : public widget_binder {
+ public:
+    text_box_binder(text_box& model, QWidget* parent, const user_action& act)
+        : widget_binder(model, edit_ = new QLineEdit(parent), act), model_(model) {
+        connect(edit_, &QLineEdit::textEdited, this, [this](const QString& text) {
+            this->act([&] { model_.set_text(taken(text)); });
+            show_again(aspect::text);
+        });
+        show_all();
+    }
+
+ private:
+    void show_value(aspect) override {
+        const QString text = shown(model_.text());
+        if (edit_->text() == text) return;
+        const int cursor = edit_->cursorPosition();
+        edit_->setText(text);
+        edit_->setCursorPosition(edit_->hasFocus() ? cursor : 0);
+    }
+
+    QLineEdit* edit_;
+    text_box& model_;
+};
+
+class label_binder final : public widget_binder {
+ public:
+    label_binder(label& model, QWidget* parent, const user_action& act)
+        : widget_binder(model, label_ = new QLabel(parent), act), model_(model) {
+        show_all();
+    }
+
+ private:
+    void show_value(aspect) override { label_->setText(shown(model_.text())); }
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::MouseButtonRelease && model_.on_click) {
+            act([this] { model_.click(); });
+        }
+        return widget_binder::eventFilter(watched, event);
+    }
+
+    QLabel* label_;
+    label& model_;
+};
+
+class button_binder final : public widget_binder {
+ public:
+    button_binder(button& model, QWidget* parent, const user_action& act)
+        : widget_binder(model, button_ = new QToolButton(parent), act), model_(model) {
+        button_->setToolButtonStyle(Qt::ToolButtonTextOnly);
+        connect(button_, &QToolButton::clicked, this,
+                [this] { this->act([this] { model_.click(); }); });
+        show_all();
+    }
+
+ private:
+    // A command without a caption of its own is captioned by the screen's layout.
+    void show_value(aspect what) override {
+        if (what == aspect::text && !model_.text().empty()) button_->setText(shown(model_.text()));
+    }
+    bool key_pressed(QKeyEvent& event) override {
+        if (widget_binder::key_pressed(event)) return true;
+        if (event.key() != Qt::Key_Return && event.key() != Qt::Key_Enter) return false;
+        button_->click();
+        return true;
+    }
+
+    QToolButton* button_;
+    button& model_;
+};
+
+class picture_binder final : public widget_binder {
+ public:
+    picture_binder(picture& model, QWidget* parent, const user_action& act)
+        : widget_binder(model, new QLabel(parent), act) {
+        show_all();
+    }
+
+ private:
+    void show_value(aspect) override {}
+};
+
+}  // namespace
+
+std::unique_ptr<binder> bind_text_kind(control& to, QWidget* parent, const user_action& act) {
+    switch (to.kind()) {
+        case control_kind::text_box:
+            return std::make_unique<text_box_binder>(static_cast<text_box&>(to), parent, act);
+        case control_kind::label:
+            return std::make_unique<label_binder>(static_cast<label&>(to), parent, act);
+        case control_kind::button:
+            return std::make_unique<button_binder>(static_cast<button&>(to), parent, act);
+        default:
+            return std::make_unique<picture_binder>(static_cast<picture&>(to), parent, act);
+    }
+}
+
+}  // namespace vantora::ui::desktop

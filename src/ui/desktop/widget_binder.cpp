@@ -1,0 +1,119 @@
+#include "ui/desktop/widget_binder.h"
+
+#include <QKeyEvent>
+#include <QTimer>
+
+#include "store/text/code_page.h"
+#include "ui/form.h"
+
+namespace vantora::ui::desktop {
+
+QString shown(std::string_view text) {
+    std::string printable;
+    printable.reserve(text.size());
+    for (const char character : text) {
+        const auto code = static_cast<unsigned char>(character);
+        if (code >= 32 && code != 127) printable.push_back(character);
+    }
+    return QString::fromStdString(to_utf8(printable));
+}
+
+std::string taken(const QString& text) {
+    return from_utf8(text.toStdString());
+}
+
+namespace {
+
+struct pressed_key {
+    int code = 0;
+    std::optional<char> character;
+};
+
+/// The key in the system's own codes; code 0 for a key that it doesn't know.
+pressed_key key_of(const QKeyEvent& event) {
+    switch (event.key()) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            return {key::enter, static_cast<char>(key::enter)};
+        case Qt::Key_Backspace:
+            return {key::backspace, static_cast<char>(key::backspace)};
+        case Qt::Key_Delete:
+            return {key::del, {}};
+        case Qt::Key_F1:
+            return {key::f1, {}};
+        case Qt::Key_Up:
+            return {key::up, {}};
+        case Qt::Key_Down:
+            return {key::down, {}};
+        default:
+            break;
+    }
+    const bool command = (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0 &&
+                         (event.modifiers() & Qt::GroupSwitchModifier) == 0;
+    const std::string text = taken(event.text());
+    if (command || text.size() != 1 || static_cast<unsigned char>(text[0]) < key::blank) return {};
+    return {static_cast<unsigned char>(upper(text[0])), text[0]};
+}
+
+}  // namespace
+
+widget_binder::widget_binder(control& model, QWidget* made, user_action act)
+    : model_(model), widget_(made), act_(std::move(act)) {
+    widget_->setObjectName(shown(model.address()));
+    widget_->setFocusPolicy(model.focusable() ? Qt::StrongFocus : Qt::NoFocus);
+    widget_->installEventFilter(this);
+    model.attach(this);
+}
+
+void widget_binder::show_all() {
+    for (const aspect what : {aspect::shape, aspect::items, aspect::limits, aspect::text,
+                              aspect::value, aspect::position, aspect::enabling}) {
+        changed(what);
+    }
+    show_visibility();
+}
+
+void widget_binder::changed(aspect what) {
+    const quiet while_showing(*this);
+    if (what == aspect::visibility) {
+        // A list is hidden only while it is filled; it would lose the focus and flicker.
+        if (model_.kind() != control_kind::grid) {
+            show_visibility();
+        } else {
+            QTimer::singleShot(0, this, [this] {
+                if (!retired_) show_visibility();
+            });
+        }
+    } else if (what == aspect::enabling) {
+        widget_->setEnabled(model_.enabled());
+    } else {
+        show_value(what);
+    }
+}
+
+void widget_binder::show_visibility() {
+    if (widget_->isHidden() == model_.visible()) widget_->setVisible(model_.visible());
+}
+
+bool widget_binder::key_pressed(QKeyEvent& event) {
+    pressed_key pressed = key_of(event);
+    if (pressed.code == 0) return false;
+    bool goes_on = true;
+    act([&] { goes_on = model_.offer_key(pressed.code, pressed.character); });
+    return !goes_on;
+}
+
+bool widget_binder::eventFilter(QObject* watched, QEvent* event) {
+    if (retired_) return false;
+    if (event->type() == QEvent::FocusIn && !model_.has_focus()) {
+        act([this] { model_.set_focus(); });
+    }
+    if (event->type() == QEvent::KeyPress && !retired_) {
+        auto& key = static_cast<QKeyEvent&>(*event);
+        const bool walking = key.key() == Qt::Key_Tab || key.key() == Qt::Key_Backtab;
+        if (!walking && key_pressed(key)) return true;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+}  // namespace vantora::ui::desktop

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <QObject>
+
+#include "ui/desktop/binder.h"
+
+class QKeyEvent;
+
+namespace vantora::ui::desktop {
+
+/// What the binders of all kinds share: visibility, enabling, focus and keys.
+class widget_binder : public QObject, public binder {
+ public:
+    QWidget& widget() final { return *widget_; }
+    void retire() final { retired_ = true; }
+    void changed(aspect what) override;
+
+ protected:
+    widget_binder(control& model, QWidget* made, user_action act);
+
+    /// Shows the model's whole state; to be called by the constructors of the kinds.
+    void show_all();
+    /// Shows what is particular to the kind.
+    virtual void show_value(aspect what) = 0;
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    /// The control has the focus and a key is pressed. True if the widget must not see it.
+    virtual bool key_pressed(QKeyEvent& event);
+
+    /// Carries out what the user does; the model may be gone afterwards.
+    void act(const std::function<void()>& action) {
+        if (!retired_) act_(model_, action);
+    }
+    /// The model may have decided otherwise than the widget: shows it again, if it is still there.
+    void show_again(aspect what) {
+        if (!retired_) changed(what);
+    }
+    [[nodiscard]] bool showing() const { return showing_; }
+
+    /// Sets the widget without its signals coming back as the user's doing.
+    class quiet {
+     public:
+        explicit quiet(widget_binder& of) : of_(of), before_(of.showing_) { of_.showing_ = true; }
+        ~quiet() { of_.showing_ = before_; }
+        quiet(const quiet&) = delete;
+        quiet& operator=(const quiet&) = delete;
+
+     private:
+        widget_binder& of_;
+        bool before_;
+    };
+
+ private:
+    void show_visibility();
+
+    control& model_;
+    QWidget* widget_;
+    user_action act_;
+    bool showing_ = false;
+    bool retired_ = false;
+};
+
+}  // namespace vantora::ui::desktop
