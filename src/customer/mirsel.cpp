@@ -27,6 +27,11 @@ mirsel::mirsel(program& app) : form(app.desk, "mirsel", "Selezione cliente"), ap
     for (auto& button : srx) button.set_text("Riordina");
 
     elenco.on_click = [this] { pick_row(); };
+    selnome.on_key_press = [this](ui::key_event& key) {
+        if (key.code != ui::key::enter) return;
+        key.swallow();
+        build_list();
+    };
     indice.on_click = [this] { leave("", 0); };
     for (int i = 0; i < 5; ++i) {
         srx[i].on_click = [this, i] {

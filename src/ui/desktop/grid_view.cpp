@@ -2,6 +2,7 @@
 
 #include <QHeaderView>
 #include <QScrollBar>
+#include <QSignalBlocker>
 
 namespace vantora::ui::desktop {
 
@@ -24,23 +25,40 @@ grid_view::grid_view(const grid& model, QWidget* parent) : QTableView(parent), m
     horizontalHeader()->setFixedHeight(fontMetrics().height() + 12);
 }
 
-void grid_view::share_width() {
+std::vector<int> grid_view::shared_widths() const {
     const auto& columns = model_.columns();
+    const int least = fontMetrics().horizontalAdvance("00/00/0000") + 14;
+    int room = viewport()->width();
     int shares = 0;
     for (const auto& column : columns) shares += column.width;
-    if (shares == 0) return;
-    const int width = viewport()->width();
-    int given = 0;
-    int given_shares = 0;
+    std::vector<int> widths(columns.size(), 0);
+    // Columns that would get too narrow take their least first; the others share what is left.
+    for (bool again = true; again;) {
+        again = false;
+        for (std::size_t i = 0; i < columns.size(); ++i) {
+            if (columns[i].width == 0 || widths[i] != 0 || shares == 0) continue;
+            if (static_cast<long long>(room) * columns[i].width / shares >= least) continue;
+            widths[i] = least;
+            room -= least;
+            shares -= columns[i].width;
+            again = true;
+        }
+    }
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+        if (columns[i].width == 0 || widths[i] != 0) continue;
+        widths[i] = static_cast<int>(static_cast<long long>(room) * columns[i].width / shares);
+        room -= widths[i];
+        shares -= columns[i].width;
+    }
+    return widths;
+}
+
+void grid_view::share_width() {
+    const std::vector<int> widths = shared_widths();
     for (int i = 0; i < model_.cols(); ++i) {
-        const int share = columns[static_cast<std::size_t>(i)].width;
-        setColumnHidden(i, share == 0);
-        if (share == 0) continue;
-        // Rounded at the column's right edge, so that together they fill the width.
-        given_shares += share;
-        const int edge = static_cast<int>(static_cast<long long>(width) * given_shares / shares);
-        setColumnWidth(i, edge - given);
-        given = edge;
+        const int width = widths[static_cast<std::size_t>(i)];
+        setColumnHidden(i, width == 0);
+        if (width != 0) setColumnWidth(i, width);
     }
     place_followers();
 }
@@ -52,7 +70,8 @@ void grid_view::keep_above(int column, QWidget* widget) {
 
 void grid_view::place_followers() {
     for (const follower& one : followers_) {
-        const int left = x() + frameWidth() + columnViewportPosition(one.column);
+        const QPoint corner(frameWidth() + columnViewportPosition(one.column), 0);
+        const int left = one.widget->parentWidget()->mapFromGlobal(mapToGlobal(corner)).x();
         one.widget->setGeometry(left + 1, one.widget->y(), columnWidth(one.column) - 2,
                                 one.widget->height());
     }
@@ -66,6 +85,13 @@ void grid_view::resizeEvent(QResizeEvent* event) {
 void grid_view::moveEvent(QMoveEvent* event) {
     QTableView::moveEvent(event);
     place_followers();
+}
+
+void grid_view::focusInEvent(QFocusEvent* event) {
+    const bool had_row = currentIndex().isValid();
+    const QSignalBlocker silent(selectionModel());
+    QTableView::focusInEvent(event);
+    if (!had_row) selectionModel()->clear();
 }
 
 }  // namespace vantora::ui::desktop

@@ -22,6 +22,8 @@ class grid_view final : public QTableView {
  protected:
     void resizeEvent(QResizeEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
+    /// The focus alone makes no row the current one.
+    void focusInEvent(QFocusEvent* event) override;
 
  private:
     struct follower {
@@ -30,6 +32,8 @@ class grid_view final : public QTableView {
     };
 
     void place_followers();
+    /// Widths of the columns, by their shares; narrow ones keep room for a date.
+    [[nodiscard]] std::vector<int> shared_widths() const;
 
     const grid& model_;
     std::vector<follower> followers_;

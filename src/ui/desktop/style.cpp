@@ -8,7 +8,9 @@
 
 // The pictures lie in a static library, which would leave them out; Qt wants this outside of any
 // namespace.
-static void make_pictures_known() { Q_INIT_RESOURCE(icons); }
+static void make_pictures_known() {
+    Q_INIT_RESOURCE(icons);
+}
 
 namespace vantora::ui::desktop {
 
@@ -35,6 +37,9 @@ QLineEdit, QComboBox, QDateEdit { border: 1px solid #c5ced6; border-radius: 4px;
                        background: white; selection-background-color: #2f6ea5; }
 QLineEdit:focus, QComboBox:focus, QDateEdit:focus { border: 1px solid #2f6ea5;
                        background: #f4f9ff; }
+QComboBox::drop-down, QDateEdit::drop-down { border: none; width: 22px; }
+QComboBox::down-arrow, QDateEdit::down-arrow { image: url(:/icons/giu.svg); width: 12px;
+                       height: 12px; }
 QLineEdit[cell="true"] { border-radius: 0; padding: 2px 4px; border-color: #d9e0e6; }
 QLineEdit[cell="true"]:focus { border: 1px solid #2f6ea5; background: #fff8dc; }
 QGroupBox { border: 1px solid #d3dbe2; border-radius: 6px; margin-top: 9px; padding: 8px 8px 6px 8px;

@@ -109,7 +109,7 @@ void lay_out_mirorc(form_window& window) {
     body->addLayout(foot);
     all->addLayout(body, 1);
 
-    window.setMinimumSize(980, 520);
+    window.setMinimumSize(960, 520);
     window.set_first_size(QSize(1240, 690));
 }
 

@@ -62,6 +62,7 @@ QGroupBox* line_frame(form_window& window) {
     for (const column& one : columns) {
         auto* head = new QLabel(QString::fromUtf8(one.head), box);
         set_look(head, "role", "faint");
+        head->setContentsMargins(4, 0, 5, 0);
         if (one.number) head->setAlignment(Qt::AlignRight);
         cells->addWidget(head, 0, col);
         for (int row = 0; row < rows; ++row) {
@@ -105,6 +106,7 @@ QGroupBox* list_frame(form_window& window) {
     auto* column = new QVBoxLayout(box);
     auto* list = window.widget("List1");
     list->setFont(QFont("Liberation Mono", 9));
+    list->setFixedWidth(300);
     column->addWidget(list, 1);
     auto* line = new QHBoxLayout;
     window.dress("command3d3", -1,
@@ -125,6 +127,7 @@ QHBoxLayout* foot_line(form_window& window) {
     auto* foot = new QHBoxLayout;
     foot->setSpacing(14);
     auto* choices = new QGridLayout;
+    choices->setVerticalSpacing(4);
     choices->addWidget(window.widget("prezz", 0), 0, 0);
     choices->addWidget(window.widget("prezz", 1), 1, 0);
     choices->addWidget(window.widget("barcode"), 0, 1);
@@ -132,6 +135,7 @@ QHBoxLayout* foot_line(form_window& window) {
     choices->addWidget(window.widget("postael"), 0, 2);
     choices->setHorizontalSpacing(18);
     foot->addLayout(choices);
+    foot->setAlignment(choices, Qt::AlignBottom);
     foot->addStretch(1);
     constexpr const char* captions[] = {"Totale imponibile", "Totale complessivo", "Numero pezzi"};
     for (int i = 0; i < 3; ++i) {
@@ -164,13 +168,15 @@ void lay_out_mirorcs(form_window& window) {
     body->setSpacing(8);
     auto* middle = new QHBoxLayout;
     middle->setSpacing(10);
-    middle->addWidget(line_frame(window), 3);
-    middle->addWidget(list_frame(window), 2);
+    middle->addWidget(line_frame(window), 1);
+    middle->addWidget(list_frame(window));
     body->addLayout(middle, 1);
     auto* stock = window.as<QLabel>("listx");
     stock->setFont(QFont("Liberation Mono", 9));
     stock->setFixedHeight(stock->fontMetrics().height() + 4);
     stock->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    // The record number at the end of the line is not for the eye.
+    stock->setMaximumWidth(stock->fontMetrics().horizontalAdvance(QString(140, '0')));
     body->addWidget(stock);
     body->addLayout(foot_line(window));
     all->addLayout(body, 1);
