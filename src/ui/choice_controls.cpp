@@ -44,9 +44,9 @@ void option_button::choose() {
     set_on(true);
 }
 
-void option_button::default_key(int code, std::optional<char>) {
+void option_button::default_key(int code, std::optional<char> character) {
     if (code == key::blank) return choose();
-    if (!group_ || (code != key::up && code != key::down)) return;
+    if (character || !group_ || (code != key::up && code != key::down)) return;
     const auto& options = group_->options();
     auto here = std::find(options.begin(), options.end(), this);
     const std::ptrdiff_t step = code == key::down ? 1 : -1;

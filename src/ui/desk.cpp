@@ -136,9 +136,12 @@ void desk::tab(bool backwards) {
     if (!active_ || active_->controls_.empty()) return;
     auto& all = active_->controls_;
     const auto count = std::ssize(all);
-    const auto here = std::ranges::find(all, focus_) - all.begin();
+    const auto found = std::ranges::find(all, focus_);
+    // With no focus yet, it comes to the first control, or backwards to the last.
+    const auto nowhere = backwards ? count : -1;
+    const auto here = found == all.end() ? nowhere : found - all.begin();
     for (std::ptrdiff_t step = 1; step <= count; ++step) {
-        const auto next = backwards ? here - step + 2 * count : here + step;
+        const auto next = backwards ? here - step + count : here + step;
         if (give_focus(*all[static_cast<std::size_t>(next % count)])) return;
     }
 }

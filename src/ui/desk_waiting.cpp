@@ -29,6 +29,7 @@ void desk::finish(ending how) {
     ended_ = std::move(how);
     boxes_.clear();
     modals_.clear();
+    waiting_ = 0;
     if (at_end) at_end();
 }
 

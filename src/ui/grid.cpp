@@ -139,9 +139,9 @@ bool grid::click_cell(int row, int col) {
     return true;
 }
 
-void grid::default_key(int code, std::optional<char>) {
-    if (code == key::down) set_row(row_ + 1);
-    if (code == key::up && row_ > 1) set_row(row_ - 1);
+void grid::default_key(int code, std::optional<char> character) {
+    if (!character && code == key::down) set_row(row_ + 1);
+    if (!character && code == key::up && row_ > 1) set_row(row_ - 1);
     if (code == key::enter && row_ > 0) click_cell(row_, col_);
 }
 

@@ -59,13 +59,15 @@ bool list_control::choose(int position) {
 bool list_control::pick(int position) {
     if (position < 0 || position >= count()) return false;
     set_focus();
+    if (position >= count()) return false;  // the coming of the focus emptied the list
     chosen_ = position;
     show_change(aspect::value);
     fire(on_click);
     return true;
 }
 
-void list_control::default_key(int code, std::optional<char>) {
+void list_control::default_key(int code, std::optional<char> character) {
+    if (character) return;
     if (code == key::down) pick(chosen_ + 1);
     if (code == key::up) pick(chosen_ - 1);
 }

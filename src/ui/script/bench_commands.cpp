@@ -1,12 +1,8 @@
-#include <limits>
-
 #include "store/text/code_page.h"
 #include "ui/script/interpreter.h"
 #include "ui/script/state.h"
 
 namespace vantora::ui::script {
-
-using nlohmann::json;
 
 namespace {
 
@@ -60,23 +56,23 @@ void interpreter::stop_clock(const words& line) {
 }
 
 void interpreter::set_printer(const words& line) {
-    int orientation = printer_.orientation();
-    int copies = printer_.copies();
+    std::optional<int> orientation;
+    std::optional<int> copies;
     for (std::size_t i = 1; i < line.size(); ++i) {
         const std::string_view part = line[i].text;
         const std::size_t mark = part.find('=');
         if (mark == std::string_view::npos) return refuse("a setting is name=number");
         const auto value = read_int(part.substr(mark + 1));
         const std::string_view name = part.substr(0, mark);
-        if (name == "orientation" && (value == 1 || value == 2)) {
-            orientation = *value;
+        if (name == "orientation" && (value == printer::upright || value == printer::landscape)) {
+            orientation = value;
         } else if (name == "copies" && value && *value > 0) {
-            copies = *value;
+            copies = value;
         } else {
             return refuse("the printer has no such setting");
         }
     }
-    printer_.settings(orientation, copies);
+    printer_.set_up(orientation, copies);
 }
 
 void interpreter::set_launch(const words& line) {
@@ -90,52 +86,59 @@ void interpreter::shot(const words& line) {
 }
 
 void interpreter::get(const words& line) {
-    if (const control* one = find_control(line[1])) answer_with(state_of(*one));
+    if (const control* one = find_control(line[1])) reply_->value = state_of(*one);
 }
 
 void interpreter::items(const words& line) {
     const control* one = find_control(line[1]);
     if (!one) return;
-    json items = items_of(*one);
-    if (items.is_null()) return refuse("the control is no list");
-    answer_with(std::move(items));
+    if (!is_list(*one)) return refuse("the control is no list");
+    reply_->value = items_of(static_cast<const list_control&>(*one));
 }
 
-void interpreter::cells_query(const words& line, json (*read)(const control&, int, int)) {
-    const control* one = find_control(line[1]);
-    if (!one) return;
-    std::optional<int> first = 0;
-    std::optional<int> last = std::numeric_limits<int>::max();
-    if (line.size() > 2) first = last = read_int(line[2].text);
-    if (line.size() > 3) last = read_int(line[3].text);
-    if (!first || !last) return refuse("these are no rows");
-    json cells = read(*one, *first, *last);
-    if (cells.is_null()) return refuse("the control is no grid");
-    answer_with(std::move(cells));
+const grid* interpreter::find_grid(const word& text) {
+    const control* one = find_control(text);
+    if (!one) return nullptr;
+    if (one->kind() == control_kind::grid) return static_cast<const grid*>(one);
+    refuse("the control is no grid");
+    return nullptr;
+}
+
+std::optional<row_range> interpreter::read_range(const words& line) {
+    if (line.size() == 2) return row_range{};
+    const auto first = read_int(line[2].text);
+    const auto last = read_int(line.back().text);
+    if (first && last) return row_range{*first, *last};
+    refuse("these are no rows");
+    return {};
 }
 
 void interpreter::rows(const words& line) {
-    cells_query(line, rows_of);
+    const grid* table = find_grid(line[1]);
+    if (!table) return;
+    if (const auto range = read_range(line)) reply_->value = rows_of(*table, *range);
 }
 
 void interpreter::colors(const words& line) {
-    cells_query(line, colours_of);
+    const grid* table = find_grid(line[1]);
+    if (!table) return;
+    if (const auto range = read_range(line)) reply_->value = colours_of(*table, *range);
 }
 
 void interpreter::controls(const words& line) {
     const form* screen = desk_.find(from_utf8(line[1].text));
     if (!screen) return refuse("the screen is not loaded");
-    answer_with(controls_of(*screen));
+    reply_->value = controls_of(*screen);
 }
 
 void interpreter::screens(const words&) {
-    answer_with(screens_of(desk_));
+    reply_->value = screens_of(desk_);
 }
 
 void interpreter::prints(const words&) {
     json jobs = json::array();
     for (const print_job& job : printer_.take_jobs()) jobs.push_back(job_json(job));
-    answer_with(std::move(jobs));
+    reply_->value = std::move(jobs);
 }
 
 void interpreter::launched(const words&) {
@@ -143,7 +146,7 @@ void interpreter::launched(const words&) {
     for (const std::string& line_started : launcher_.take_started()) {
         started.push_back(to_utf8(line_started));
     }
-    answer_with(std::move(started));
+    reply_->value = std::move(started);
 }
 
 }  // namespace vantora::ui::script

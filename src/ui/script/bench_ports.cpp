@@ -6,9 +6,9 @@
 
 namespace vantora::ui::script {
 
-void recording_printer::settings(int orientation, int copies) {
-    orientation_ = chosen_orientation_ = orientation;
-    copies_ = chosen_copies_ = copies;
+void recording_printer::set_up(std::optional<int> orientation, std::optional<int> copies) {
+    if (orientation) orientation_ = chosen_orientation_ = *orientation;
+    if (copies) copies_ = chosen_copies_ = *copies;
 }
 
 bool recording_printer::choose_settings() {
@@ -22,13 +22,18 @@ double recording_printer::text_width(std::string_view text, const font& in) cons
     return face_width(text, in.bold) / 1000.0 * in.size * millimetres_a_point;
 }
 
-void recording_printer::put(print_operation operation) {
+void recording_printer::begin_page() {
+    if (page_open_) return;
     if (job_.pages.empty()) {
         job_.orientation = orientation_;
         job_.copies = copies_;
     }
-    if (!page_open_) job_.pages.emplace_back();
+    job_.pages.emplace_back();
     page_open_ = true;
+}
+
+void recording_printer::put(print_operation operation) {
+    begin_page();
     job_.pages.back().push_back(std::move(operation));
 }
 
@@ -46,7 +51,7 @@ void recording_printer::box(double x1, double y1, double x2, double y2, colour i
 }
 
 void recording_printer::new_page() {
-    if (!page_open_) job_.pages.emplace_back();
+    begin_page();
     page_open_ = false;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <variant>
 #include <vector>
@@ -39,8 +40,9 @@ struct print_job {
 /// so a measure is the same on every machine.
 class recording_printer final : public printer {
  public:
-    /// What the printer has now, and what the next dialogs will choose.
-    void settings(int orientation, int copies);
+    /// What the printer has from now on, and what the next dialogs will choose. What is empty
+    /// stays.
+    void set_up(std::optional<int> orientation, std::optional<int> copies);
 
     /// The jobs since the last call; one that isn't ended yet stays.
     std::vector<print_job> take_jobs();
@@ -63,6 +65,7 @@ class recording_printer final : public printer {
     bool choose_settings() override;
 
  private:
+    void begin_page();
     void put(print_operation operation);
 
     int orientation_ = upright;

@@ -5,8 +5,6 @@
 
 namespace vantora::ui::script {
 
-using nlohmann::json;
-
 struct interpreter::command {
     std::string_view name;
     std::size_t least_words;  ///< behind the name
@@ -36,11 +34,12 @@ interpreter::interpreter(ui::desk& desk, local_clock& time, recording_printer& p
                          recording_launcher& programs)
     : desk_(desk), clock_(time), printer_(paper), launcher_(programs) {}
 
+interpreter::~interpreter() = default;
+
 void interpreter::execute(std::string_view line) {
     const std::size_t first = line.find_first_not_of(" \t\r");
     if (first == std::string_view::npos || line[first] == '#') return;
-    reply_ = {{"ok", true}};
-    reply_due_ = true;
+    reply_ = std::make_unique<command_reply>();
     const auto read = split_words(line);
     if (!read || read->empty()) return refuse("the command line can't be read");
     carry_out(*read);
@@ -61,17 +60,13 @@ void interpreter::carry_out(const words& line) {
 }
 
 void interpreter::refuse(std::string why) {
-    reply_["ok"] = false;
-    reply_["error"] = std::move(why);
+    reply_->error = std::move(why);
 }
 
 std::optional<std::string> interpreter::take_reply() {
-    if (!reply_due_) return {};
-    reply_due_ = false;
-    describe(desk_, reply_);
-    for (const answered_box& box : desk_.take_answered()) reply_["boxes"].push_back(answered(box));
-    // What a user typed may hold any bytes.
-    return reply_.dump(-1, ' ', false, json::error_handler_t::replace);
+    if (!reply_) return {};
+    const auto due = std::move(reply_);
+    return compose(std::move(*due), desk_, desk_.take_answered());
 }
 
 control* interpreter::find_control(const word& text) {
@@ -100,7 +95,7 @@ control* interpreter::touchable(const word& text) {
     return found;
 }
 
-bool interpreter::take_focus(control& one) {
+bool interpreter::takes_focus(const control& one) {
     if (!one.focusable()) {
         refuse("the control can't take the focus");
         return false;

@@ -2,7 +2,7 @@
 
 #include <filesystem>
 #include <functional>
-#include <nlohmann/json.hpp>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -15,12 +15,18 @@
 
 namespace vantora::ui::script {
 
+struct command_reply;
+struct row_range;
+
 /// Carries out command lines on a desk and composes their replies: one JSON object a command, to
 /// be written when the program is about to read the next one.
 class interpreter {
  public:
     interpreter(ui::desk& desk, local_clock& time, recording_printer& paper,
                 recording_launcher& programs);
+    interpreter(const interpreter&) = delete;
+    interpreter& operator=(const interpreter&) = delete;
+    ~interpreter();
 
     /// Saves a picture of the active window; a front end with windows provides it.
     std::function<bool(const std::filesystem::path&)> shoot;
@@ -32,7 +38,7 @@ class interpreter {
     /// The reply that is due, with the present state of the desk; empty if there is none.
     std::optional<std::string> take_reply();
 
-    /// `quit` was given.
+    /// `quit` was given; the program has ended with it.
     [[nodiscard]] bool quitting() const { return quitting_; }
 
  private:
@@ -47,7 +53,7 @@ class interpreter {
 
     control* find_control(const word& address);
     control* touchable(const word& address);
-    bool take_focus(control& one);
+    bool takes_focus(const control& one);
 
     void click(const words& line);
     void cell(const words& line);
@@ -75,16 +81,15 @@ class interpreter {
     void screens(const words& line);
     void prints(const words& line);
     void launched(const words& line);
-    void cells_query(const words& line,
-                     nlohmann::json (*read)(const control&, int first, int last));
-    void answer_with(nlohmann::json value) { reply_["value"] = std::move(value); }
+
+    const grid* find_grid(const word& address);
+    std::optional<row_range> read_range(const words& line);
 
     ui::desk& desk_;
     local_clock& clock_;
     recording_printer& printer_;
     recording_launcher& launcher_;
-    nlohmann::json reply_;
-    bool reply_due_ = false;
+    std::unique_ptr<command_reply> reply_;  ///< null if none is due
     bool quitting_ = false;
 };
 

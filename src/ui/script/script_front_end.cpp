@@ -12,9 +12,8 @@ void script_front_end::begin(desk& on, interpreter& by) {
 }
 
 void script_front_end::run() {
-    // The program's own end doesn't end the script: it may still ask.
+    // The program's own end doesn't end the script: `quit` still gets its reply.
     run_until([this] { return interpreter_->quitting(); });
-    desk_->stop();
     write_reply();
 }
 
@@ -22,10 +21,7 @@ void script_front_end::run_until(const std::function<bool()>& done) {
     std::string line;
     while (!done()) {
         write_reply();
-        if (interpreter_->quitting() || !std::getline(commands_, line)) {
-            desk_->stop();
-            return;
-        }
+        if (!std::getline(commands_, line)) return desk_->stop();
         interpreter_->execute(line);
     }
 }

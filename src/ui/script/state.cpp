@@ -7,8 +7,6 @@
 
 namespace vantora::ui::script {
 
-using nlohmann::json;
-
 namespace {
 
 const char* kind_name(control_kind kind) {
@@ -140,20 +138,20 @@ json state_of(const control& one) {
     return state;
 }
 
-json items_of(const control& one) {
-    if (one.kind() != control_kind::list_box && one.kind() != control_kind::drop_down) return {};
+bool is_list(const control& one) {
+    return one.kind() == control_kind::list_box || one.kind() == control_kind::drop_down;
+}
+
+json items_of(const list_control& list) {
     json items = json::array();
-    for (const auto& item : static_cast<const list_control&>(one).items()) {
-        items.push_back(to_utf8(item));
-    }
+    for (const auto& item : list.items()) items.push_back(to_utf8(item));
     return items;
 }
 
-json rows_of(const control& one, int first, int last) {
-    if (one.kind() != control_kind::grid) return {};
-    const auto& table = static_cast<const grid&>(one);
+json rows_of(const grid& table, const row_range& range) {
     json rows = json::array();
-    for (int row = std::max(first, 0); row <= std::min(last, table.rows() - 1); ++row) {
+    const int last = std::min(range.last, table.rows() - 1);
+    for (int row = std::max(range.first, 0); row <= last; ++row) {
         json cells = json::array();
         for (int col = 0; col < table.cols(); ++col) cells.push_back(to_utf8(table.text(row, col)));
         rows.push_back(std::move(cells));
@@ -161,11 +159,10 @@ json rows_of(const control& one, int first, int last) {
     return rows;
 }
 
-json colours_of(const control& one, int first, int last) {
-    if (one.kind() != control_kind::grid) return {};
-    const auto& table = static_cast<const grid&>(one);
+json colours_of(const grid& table, const row_range& range) {
     json colours = json::array();
-    for (int row = std::max(first, 0); row <= std::min(last, table.rows() - 1); ++row) {
+    const int last = std::min(range.last, table.rows() - 1);
+    for (int row = std::max(range.first, 0); row <= last; ++row) {
         colours.push_back(table.back_colour(row, 0));
     }
     return colours;
@@ -186,21 +183,25 @@ json screens_of(const desk& desk) {
     return screens;
 }
 
-void describe(const desk& desk, json& reply) {
-    reply["screen"] = desk.active() ? desk.active()->name() : "";
-    reply["focus"] = desk.focus() ? desk.focus()->address() : "";
-    if (const message_box* box = desk.open_box()) reply["box"] = box_json(*box);
-    if (const form* modal = desk.modal()) reply["modal"] = modal->name();
-    if (desk.waiting()) reply["waiting"] = true;
-    if (!desk.ended()) return;
-    reply["ended"] = desk.ended()->fatal ? "fatal" : "exit";
-    if (desk.ended()->fatal) reply["fatal"] = to_utf8(desk.ended()->message);
-}
-
-json answered(const answered_box& box) {
-    json one = box_json(box.box);
-    one["answer"] = answer_name(box.given);
-    return one;
+std::string compose(command_reply reply, const desk& desk,
+                    const std::vector<answered_box>& answered) {
+    const auto& ended = desk.ended();
+    json whole = {{"ok", reply.error.empty()}};
+    if (!reply.error.empty()) whole["error"] = reply.error;
+    whole["screen"] = desk.active() && !ended ? desk.active()->name() : "";
+    whole["focus"] = desk.focus() && !ended ? desk.focus()->address() : "";
+    if (const message_box* box = desk.open_box()) whole["box"] = box_json(*box);
+    for (const answered_box& one : answered) {
+        json box = box_json(one.box);
+        box["answer"] = answer_name(one.given);
+        whole["boxes"].push_back(std::move(box));
+    }
+    if (const form* modal = desk.modal()) whole["modal"] = modal->name();
+    if (desk.waiting()) whole["waiting"] = true;
+    if (!reply.value.is_null()) whole["value"] = std::move(reply.value);
+    if (ended) whole["ended"] = ended->fatal ? "fatal" : "exit";
+    if (ended && ended->fatal) whole["fatal"] = to_utf8(ended->message);
+    return whole.dump();
 }
 
 }  // namespace vantora::ui::script

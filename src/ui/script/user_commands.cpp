@@ -25,9 +25,11 @@ constexpr named_key named_keys[] = {
     {"Down", key::down, {}},
 };
 
-/// The key that types a character.
+/// The key that types a character: letters have the code of their capital.
 named_key key_of(char character) {
-    return {{}, static_cast<unsigned char>(upper(character)), character};
+    const bool small_letter = character >= 'a' && character <= 'z';
+    const char code = small_letter ? upper(character) : character;
+    return {{}, static_cast<unsigned char>(code), character};
 }
 
 std::optional<named_key> read_key(const std::string& name) {
@@ -43,7 +45,9 @@ std::optional<named_key> read_key(const std::string& name) {
 void press(desk& desk, const named_key& pressed) {
     control* here = desk.focus();
     if (!here) return;
-    here->press_key(pressed.code, pressed.character);
+    if (pressed.code != key::tab) return here->press_key(pressed.code, pressed.character);
+    std::optional<char> none;
+    if (here->offer_key(key::tab, none)) desk.tab(false);
 }
 
 }  // namespace
@@ -86,20 +90,16 @@ void interpreter::key(const words& line) {
     const auto pressed = read_key(line[2].text);
     if (!pressed) return refuse("there is no such key");
     control* one = touchable(line[1]);
-    if (!one || !take_focus(*one)) return;
+    if (!one || !takes_focus(*one)) return;
     act([&] {
         one->set_focus();
-        if (pressed->code == key::tab) {
-            desk_.tab(false);
-        } else {
-            press(desk_, *pressed);
-        }
+        press(desk_, *pressed);
     });
 }
 
 void interpreter::type(const words& line) {
     control* one = touchable(line[1]);
-    if (!one || !take_focus(*one)) return;
+    if (!one || !takes_focus(*one)) return;
     act([&] {
         one->set_focus();
         for (const char character : from_utf8(line[2].text)) press(desk_, key_of(character));
@@ -151,7 +151,7 @@ void interpreter::date(const words& line) {
 
 void interpreter::focus(const words& line) {
     control* one = touchable(line[1]);
-    if (!one || !take_focus(*one)) return;
+    if (!one || !takes_focus(*one)) return;
     act([&] { one->set_focus(); });
 }
 
@@ -159,6 +159,7 @@ void interpreter::close(const words& line) {
     form* screen = desk_.find(from_utf8(line[1].text));
     if (!screen) return refuse("the screen is not loaded");
     if (const auto why = desk_.obstacle(*screen)) return refuse(*why);
+    if (desk_.active() != screen) return refuse("the screen is not the active one");
     act([&] { desk_.close(*screen); });
 }
 
@@ -174,6 +175,7 @@ void interpreter::answer(const words& line) {
 
 void interpreter::quit(const words&) {
     quitting_ = true;
+    desk_.stop();
 }
 
 }  // namespace vantora::ui::script

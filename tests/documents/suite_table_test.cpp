@@ -1,0 +1,116 @@
+#include "documents/suite_table.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+
+#include "store/drive.h"
+#include "support/scratch_folder.h"
+
+namespace vantora {
+namespace {
+
+/// Lines of a group in each of the fifteen sections, and how many groups there are.
+struct section {
+    int groups;
+    int lines;
+};
+constexpr section sections[] = {{8, 4},  {8, 3},  {9, 2}, {9, 2}, {30, 2}, {9, 2}, {40, 1}, {40, 1},
+                                {30, 5}, {40, 6}, {8, 4}, {8, 3}, {8, 2},  {8, 2}, {30, 2}};
+
+/// A whole table file in which every line tells its section, group and line: "s10 g3 l2".
+std::vector<std::string> telling_lines() {
+    std::vector<std::string> lines;
+    for (int s = 1; s <= 15; ++s) {
+        for (int g = 1; g <= sections[s - 1].groups; ++g) {
+            for (int l = 1; l <= sections[s - 1].lines; ++l) {
+                lines.push_back("s" + std::to_string(s) + " g" + std::to_string(g) + " l" +
+                                std::to_string(l));
+            }
+        }
+    }
+    return lines;
+}
+
+class suite_table : public testing::Test {
+ protected:
+    tabella_suite read(const std::vector<std::string>& lines) {
+        const auto company = folder.path() / "mirwin/mirwin/miraz0.001";
+        std::filesystem::create_directories(company);
+        std::ofstream file(company / "vantora.tab", std::ios::binary);
+        for (const auto& line : lines) file << line << "\r\n";
+        file.close();
+        drive files(folder.path());
+        return leggi_tabella_suite(files, 1);
+    }
+
+    test::scratch_folder folder;
+};
+
+TEST_F(suite_table, EverySectionIsFoundAtItsPlace) {
+    const tabella_suite table = read(telling_lines());
+    EXPECT_EQ(table.iva.aliquota_iva[1], "s1 g1 l1");
+    EXPECT_EQ(table.iva.aliquota_iva[8], "s1 g8 l1");
+    EXPECT_EQ(table.iva.aliquota_iva[9], "s11 g1 l1");
+    EXPECT_EQ(table.iva.aliquota_iva[16], "s11 g8 l1");
+    EXPECT_EQ(table.iva.descrizione_iva[0], "s3 g1 l1");
+    EXPECT_EQ(table.iva.descrizione_iva[8], "s3 g9 l1");
+    EXPECT_EQ(table.iva.descrizione_iva[9], "s13 g1 l1");
+    EXPECT_EQ(table.iva.descrizione_iva[16], "s13 g8 l1");
+    ASSERT_EQ(table.pagamenti.size(), 60U);
+    EXPECT_EQ(table.pagamenti[29], "s5 g30 l1");
+    EXPECT_EQ(table.pagamenti[30], "s15 g1 l1");
+    EXPECT_EQ(table.pagamenti[59], "s15 g30 l1");
+    ASSERT_EQ(table.vettori.size(), 40U);
+    EXPECT_EQ(table.causali[39], "s10 g40 l1");
+    EXPECT_EQ(table.aspetti[39], "s10 g40 l2");
+    EXPECT_EQ(table.vettori[39], (vettore{"s10 g40 l3", "s10 g40 l4", "s10 g40 l5"}));
+}
+
+TEST_F(suite_table, ItemsLoseQuotesAndMayShareTheirLineWithTheRest) {
+    auto lines = telling_lines();
+    const std::size_t section3 = 8 * 4 + 8 * 3;
+    lines[section3] = "\"Esente, art. 10\"";
+    // A comma behind the item: what follows it is the rest, so the group is one line shorter.
+    lines[section3 + 2] = "Non imponibile, resto";
+    lines.erase(lines.begin() + static_cast<long>(section3) + 3);
+    const tabella_suite table = read(lines);
+    EXPECT_EQ(table.iva.descrizione_iva[0], "Esente, art. 10");
+    EXPECT_EQ(table.iva.descrizione_iva[1], "Non imponibile");
+    EXPECT_EQ(table.iva.descrizione_iva[2], "s3 g3 l1");
+    EXPECT_EQ(table.pagamenti[0], "s5 g1 l1");
+}
+
+TEST_F(suite_table, AFileThatEndsAnywhereGivesWhatItHolds) {
+    const auto whole = telling_lines();
+    for (std::size_t kept = 0; kept <= whole.size(); kept += 7) {
+        const tabella_suite table = read({whole.begin(), whole.begin() + static_cast<long>(kept)});
+        std::size_t payments = 0;
+        std::size_t causes = 0;
+        for (std::size_t i = 0; i < kept; ++i) {
+            const bool first_line = whole[i].ends_with(" l1");
+            if ((whole[i].starts_with("s5 ") || whole[i].starts_with("s15 ")) && first_line) {
+                ++payments;
+            }
+            if (whole[i].starts_with("s10 ") && first_line) ++causes;
+        }
+        EXPECT_EQ(table.pagamenti.size(), payments) << kept << " lines";
+        EXPECT_EQ(table.causali.size(), causes) << kept << " lines";
+    }
+}
+
+TEST_F(suite_table, VatEntriesReadAsTheListShowsThem) {
+    tabella_iva iva;
+    iva.aliquota_iva[4] = "22";
+    iva.descrizione_iva[2] = "Esente";
+    const auto entries = voci_iva(iva);
+    ASSERT_EQ(entries.size(), 24U);
+    EXPECT_EQ(entries[3], "04 Iva 22%");
+    EXPECT_EQ(entries[0], "01 Iva %");
+    EXPECT_EQ(entries[13], "14 Esente");
+    EXPECT_EQ(entries[23], "24 ");
+}
+
+}  // namespace
+}  // namespace vantora

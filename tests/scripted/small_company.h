@@ -1,0 +1,42 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "store/archives.h"
+#include "support/scratch_folder.h"
+
+namespace vantora::test {
+
+/// A company with customers and articles, in a folder of its own, for tests of whole screens.
+class small_company {
+ public:
+    small_company();
+
+    [[nodiscard]] const std::filesystem::path& drive() const { return folder_.path(); }
+    [[nodiscard]] std::filesystem::path file(const std::string& extension) const;
+
+    /// Customers with their name index; the names come sorted.
+    void customers(const std::vector<rec_cli>& all);
+    /// Articles with their bar code index.
+    void articles(const std::vector<rec_art>& all);
+    void long_text(int article, const std::vector<std::string>& lines);
+    /// `quanti` and `ultimo_numero` of a counters record.
+    void counter(int record, int in_use, int last_number = 0);
+    void text(const std::string& extension, const std::vector<std::string>& lines);
+    /// "vantora.tab" with some rates, payments and carriers.
+    void table_file();
+
+    archivi files;
+
+ private:
+    scratch_folder folder_;
+};
+
+/// A customer by name, with every text field telling which it is.
+rec_cli customer_named(const std::string& name);
+
+/// An article by code, with a description and a price.
+rec_art article(const std::string& code, const std::string& description, double price);
+
+}  // namespace vantora::test
