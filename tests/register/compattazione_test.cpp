@@ -1,0 +1,259 @@
+#include "register/compattazione.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <random>
+
+#include "scripted/small_company.h"
+#include "store/drive.h"
+#include "support/faulty_files.h"
+
+namespace vantora::test {
+namespace {
+
+using bytes = std::string;
+
+bytes content(const std::filesystem::path& path) {
+    std::ifstream in(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
+}
+
+/// Writes an order block in which every row tells its block and number.
+void write_block(archivi& files, int registrazione, bool deleted, bool fulfilled) {
+    std::vector<rec_orc> rows(righe_blocco);
+    for (int row = 1; row <= righe_blocco; ++row) {
+        rec_orc& one = rows[static_cast<std::size_t>(row - 1)];
+        one.numero = std::to_string(registrazione);
+        one.descrizione = "riga " + std::to_string(row);
+        one.annullato = static_cast<std::int16_t>(deleted ? 1 : 0);
+        one.evaso_flag = static_cast<std::int16_t>(fulfilled && row == 1 ? 1 : 0);
+    }
+    files.orc.write_block(block_record(registrazione, 1), rows);
+}
+
+/// The states of an archive's orders, one letter each: o open, d deleted, f fulfilled, b both.
+void write_archive(small_company& company, const std::string& states) {
+    for (std::size_t i = 0; i < states.size(); ++i) {
+        const char state = states[i];
+        write_block(company.files, static_cast<int>(i) + 1, state == 'd' || state == 'b',
+                    state == 'f' || state == 'b');
+    }
+    rec_tot counter{};
+    counter.quanti = static_cast<std::int16_t>(states.size());
+    counter.modificato = 7;
+    counter.riservato_a = 9;
+    counter.ultimo_numero = 123;
+    counter.progressivo = 4.5F;
+    company.files.tot.write(contatori::ordini, counter);
+}
+
+/// The pass as a person would do it by hand, record by record; failed reads keep the record.
+void compact_by_hand(archivi& files, rec_tot& counter, bool fulfilled_too) {
+    rec_orc row{};
+    int gone = 0;
+    for (int i = 1; i <= counter.quanti; ++i) {
+        files.orc.read(block_record(i, 1), row);
+        if (row.annullato == 1 || (fulfilled_too && row.evaso_flag == 1)) {
+            ++gone;
+        } else if (gone > 0) {
+            for (int k = 1; k <= righe_blocco; ++k) {
+                files.orc.read(block_record(i, k), row);
+                files.orc.write(block_record(i - gone, k), row);
+            }
+        }
+    }
+    counter.quanti = static_cast<std::int16_t>(counter.quanti - gone);
+    counter.riservato_a = 0;
+    files.tot.write(contatori::ordini, counter);
+}
+
+rec_tot counter_of(archivi& files) {
+    rec_tot counter{};
+    files.tot.read(contatori::ordini, counter);
+    return counter;
+}
+
+std::vector<std::string> kept_numbers(archivi& files) {
+    std::vector<std::string> numbers;
+    for (int i = 1; i <= counter_of(files).quanti; ++i) {
+        rec_orc row{};
+        files.orc.read(block_record(i, 1), row);
+        numbers.emplace_back(row.numero.trimmed());
+    }
+    return numbers;
+}
+
+const auto no_progress = [](int) {};
+
+TEST(compattazione, KeepsTheRightOrdersInTheirOrder) {
+    using numbers = std::vector<std::string>;
+    struct {
+        const char* states;
+        bool fulfilled_too;
+        numbers kept;
+    } cases[] = {
+        {"", false, {}},
+        {"oof", false, {"1", "2", "3"}},
+        {"oof", true, {"1", "2"}},
+        {"ood", false, {"1", "2"}},
+        {"ddd", false, {}},
+        {"dobofd", false, {"2", "4", "5"}},
+        {"dobofd", true, {"2", "4"}},
+    };
+    for (const auto& one : cases) {
+        small_company company;
+        write_archive(company, one.states);
+        const auto length = std::filesystem::file_size(company.file("orc"));
+        rec_tot counter = counter_of(company.files);
+        compatta_archivio(company.files, counter, one.fulfilled_too, no_progress);
+        EXPECT_EQ(kept_numbers(company.files), one.kept) << one.states;
+        EXPECT_EQ(std::filesystem::file_size(company.file("orc")), length) << one.states;
+        const rec_tot written = counter_of(company.files);
+        EXPECT_EQ(written.modificato, 7);
+        EXPECT_EQ(written.riservato_a, 0);
+        EXPECT_EQ(written.ultimo_numero, 123);
+        EXPECT_EQ(written.progressivo, 4.5F);
+    }
+}
+
+/// Two copies of one random archive: one compacted by the program, one by hand, with the same
+/// faults; both must hold the same bytes.
+TEST(compattazione, LeavesTheSameBytesAsMovingRecordByRecord) {
+    std::mt19937 random(7);
+    for (int round = 0; round < 40; ++round) {
+        const std::size_t orders = random() % 9;
+        std::string states;
+        for (std::size_t i = 0; i < orders; ++i) states += "ooodfb"[random() % 6];
+        const bool fulfilled_too = random() % 2 == 0;
+        const bool short_file = random() % 3 == 0;
+        const std::int64_t bad_record = random() % 3 == 0 ? random() % 1800 + 1 : 0;
+        const auto prepare = [&](small_company& company) {
+            write_archive(company, states);
+            if (short_file && orders > 0) {
+                std::filesystem::resize_file(company.file("orc"), orders * 56800 - 30000);
+            }
+        };
+        const auto touches_bad_record = [&](const std::string& path, std::int64_t offset,
+                                            std::size_t size) {
+            const std::int64_t bad = (bad_record - 1) * 284;
+            return bad_record > 0 && path.ends_with("orc") && offset <= bad &&
+                   bad < offset + static_cast<std::int64_t>(size);
+        };
+
+        bytes results[2];
+        for (const bool by_hand : {false, true}) {
+            small_company company;
+            prepare(company);
+            drive real(company.drive());
+            faulty_files faults(real);
+            faults.read_fails = touches_bad_record;
+            archivi files;
+            apri_archivi(files, faults, 1);
+            rec_tot counter = counter_of(files);
+            if (by_hand) {
+                compact_by_hand(files, counter, fulfilled_too);
+            } else {
+                compatta_archivio(files, counter, fulfilled_too, no_progress);
+            }
+            results[by_hand ? 1 : 0] = content(company.file("orc")) + content(company.file("tot"));
+        }
+        EXPECT_EQ(results[0], results[1]) << states << " " << fulfilled_too << " " << bad_record;
+    }
+}
+
+TEST(compattazione, FlushesTheBlocksBeforeTheCounter) {
+    small_company company;
+    write_archive(company, "odoo");
+    drive real(company.drive());
+    faulty_files notes(real);
+    archivi files;
+    apri_archivi(files, notes, 1);
+    rec_tot counter = counter_of(files);
+    compatta_archivio(files, counter, false, no_progress);
+    const std::string orc = "\\mirwin\\mirwin\\miraz0.001\\vantora.orc";
+    const std::string tot = "\\mirwin\\mirwin\\miraz0.001\\vantora.tot";
+    const std::vector<file_event> expected = {{orc, 56800, 56800, false},
+                                              {orc, 2 * 56800, 56800, false},
+                                              {orc, 0, 0, true},
+                                              {tot, 13 * 12, 12, false},
+                                              {tot, 0, 0, true}};
+    EXPECT_EQ(notes.events, expected);
+}
+
+TEST(compattazione, WritesNothingButTheCounterWithoutGaps) {
+    small_company company;
+    write_archive(company, "oof");
+    drive real(company.drive());
+    faulty_files notes(real);
+    archivi files;
+    apri_archivi(files, notes, 1);
+    rec_tot counter = counter_of(files);
+    compatta_archivio(files, counter, false, no_progress);
+    EXPECT_EQ(notes.writes, 1U);
+    EXPECT_EQ(notes.reads, 4U) << "the counter, and the head row of each block";
+}
+
+TEST(compattazione, KilledAfterAnyWriteLeavesMovedBlocksTwiceAndTheOldCount) {
+    const std::string states = "odoodoo";
+    const std::vector<int> moves_from = {3, 4, 6, 7};
+    const std::vector<int> moves_to = {2, 3, 4, 5};
+    for (std::size_t done = 0; done <= moves_from.size(); ++done) {
+        small_company company;
+        write_archive(company, states);
+        bytes expected = content(company.file("orc"));
+        const bytes old_counters = content(company.file("tot"));
+        for (std::size_t i = 0; i < done; ++i) {
+            const auto from = static_cast<std::size_t>(moves_from[i] - 1) * 56800;
+            const auto to = static_cast<std::size_t>(moves_to[i] - 1) * 56800;
+            expected.replace(to, 56800, bytes(expected, from, 56800));
+        }
+        drive real(company.drive());
+        faulty_files faults(real);
+        faults.writes_before_crash = done;
+        archivi files;
+        apri_archivi(files, faults, 1);
+        rec_tot counter = counter_of(files);
+        EXPECT_THROW(compatta_archivio(files, counter, false, no_progress), crash);
+        EXPECT_EQ(content(company.file("orc")), expected) << done;
+        EXPECT_EQ(content(company.file("tot")), old_counters) << done;
+    }
+}
+
+TEST(compattazione, ProgressTellsEveryBlockBeforeItMovesAndMayEndThePass) {
+    small_company company;
+    write_archive(company, "doo");
+    const bytes before = content(company.file("tot"));
+    std::vector<int> told;
+    rec_tot counter = counter_of(company.files);
+    EXPECT_THROW(compatta_archivio(company.files, counter, false,
+                                   [&](int registrazione) {
+                                       told.push_back(registrazione);
+                                       if (registrazione == 3) throw crash{};
+                                   }),
+                 crash);
+    EXPECT_EQ(told, (std::vector<int>{1, 2, 3}));
+    EXPECT_EQ(content(company.file("tot")), before);
+    rec_orc row{};
+    company.files.orc.read(1, row);
+    EXPECT_EQ(row.numero.trimmed(), "2");
+    company.files.orc.read(block_record(3, 1), row);
+    EXPECT_EQ(row.numero.trimmed(), "3");
+}
+
+TEST(compattazione, DamagedCountersDoNoHarm) {
+    for (const int count : {-5, 0, 50}) {
+        small_company company;
+        write_archive(company, "od");
+        rec_tot counter = counter_of(company.files);
+        counter.quanti = static_cast<std::int16_t>(count);
+        compatta_archivio(company.files, counter, false, no_progress);
+        rec_orc row{};
+        company.files.orc.read(1, row);
+        EXPECT_EQ(row.numero.trimmed(), "1") << count;
+        EXPECT_EQ(counter_of(company.files).quanti, count == 50 ? 49 : count);
+    }
+}
+
+}  // namespace
+}  // namespace vantora::test
