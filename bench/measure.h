@@ -1,0 +1,39 @@
+#pragma once
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <functional>
+#include <vector>
+
+namespace vantora::bench {
+
+inline double milliseconds(const std::function<void()>& work) {
+    const auto begin = std::chrono::steady_clock::now();
+    work();
+    return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - begin)
+        .count();
+}
+
+inline double median(std::vector<double> values) {
+    std::ranges::sort(values);
+    return values[values.size() / 2];
+}
+
+/// Runs the work and its yardstick in turn, so that a drift of the machine meets both, and prints
+/// their medians and the ratio.
+inline void compare(const char* what, int rounds, const std::function<void()>& work,
+                    const char* yardstick, const std::function<void()>& other) {
+    std::vector<double> mine;
+    std::vector<double> theirs;
+    std::vector<double> ratios;
+    for (int round = 0; round < rounds; ++round) {
+        mine.push_back(milliseconds(work));
+        theirs.push_back(milliseconds(other));
+        ratios.push_back(mine.back() / theirs.back());
+    }
+    std::printf("%-34s %9.2f ms   %-44s %9.2f ms   ratio %.2f\n", what, median(mine), yardstick,
+                median(theirs), median(ratios));
+}
+
+}  // namespace vantora::bench

@@ -1,0 +1,120 @@
+// How long the register takes to build and to sort on an archive filled to its limits, against the
+// bare cost of reading the same rows with one positioned read each.
+
+#include <cstdlib>
+#include <cstring>
+#include <memory>
+#include <random>
+#include <string>
+
+#include "bench/measure.h"
+#include "register/mirorc.h"
+#include "store/drive.h"
+#include "support/scratch_folder.h"
+#include "ui/script/bench_ports.h"
+
+namespace vantora::bench {
+namespace {
+
+class silent_front_end final : public ui::front_end {
+    void run_until(const std::function<bool()>&) override {}
+    void let_events_run() override {}
+};
+
+void write_archive(archivi& files, int orders, int customers) {
+    std::mt19937 random(1);
+    rec_cli customer{};
+    for (int i = 1; i <= customers; ++i) {
+        customer.intestazione1 = "CLIENTE " + std::to_string(random() % 100000) + " S.R.L.";
+        files.cli.write(i, customer);
+    }
+    std::vector<rec_orc> block(righe_blocco);
+    for (int i = 1; i <= orders; ++i) {
+        rec_orc& head = block.front();
+        head.numero = std::to_string(i);
+        head.data = "2024" + std::to_string(1001 + random() % 28);
+        head.data_evasione = "20241231";
+        head.cliente = static_cast<std::int16_t>(customers ? random() % customers + 1 : 0);
+        head.testo1 = "Ordine per cantiere n. " + std::to_string(random() % 1000);
+        head.evaso_flag = static_cast<std::int16_t>(random() % 3 == 0);
+        files.orc.write_block(block_record(i, 1), block);
+    }
+    rec_tot counter{};
+    counter.quanti = static_cast<std::int16_t>(orders);
+    files.tot.write(contatori::ordini, counter);
+    counter.quanti = static_cast<std::int16_t>(customers);
+    files.tot.write(contatori::clienti, counter);
+}
+
+void sort_benches(ui::grid& list, int rounds) {
+    const auto texts_of = [&](int col) {
+        std::vector<std::string> texts;
+        for (int row = 1; row < list.rows(); ++row) texts.emplace_back(list.text(row, col));
+        return texts;
+    };
+    for (const int col : {mirorc::registr, mirorc::ordine, mirorc::cliente, mirorc::descrizione,
+                          mirorc::data_stored}) {
+        const auto by = col == mirorc::data_stored ? ui::sort_order::numeric_ascending
+                                                   : ui::sort_order::generic_ascending;
+        // Each round begins with the rows in another order.
+        const auto shuffled_by = col == mirorc::cliente ? mirorc::ordine : mirorc::cliente;
+        std::vector<std::string> texts;
+        const std::string what = "sort by column " + std::to_string(col);
+        std::vector<double> mine;
+        std::vector<double> theirs;
+        for (int round = 0; round < rounds; ++round) {
+            list.sort(shuffled_by, ui::sort_order::generic_ascending);
+            texts = texts_of(col);
+            mine.push_back(milliseconds([&] { list.sort(col, by); }));
+            theirs.push_back(milliseconds([&] { std::ranges::stable_sort(texts); }));
+        }
+        std::printf("%-34s %9.2f ms   %-44s %9.2f ms   ratio %.2f\n", what.c_str(), median(mine),
+                    "std::stable_sort of the same texts", median(theirs),
+                    median(mine) / median(theirs));
+    }
+}
+
+int run(int orders, int customers, int rounds) {
+    test::scratch_folder folder;
+    std::filesystem::create_directories(folder.path() / "mirwin/mirwin/miraz0.001");
+    drive port(folder.path());
+    silent_front_end front;
+    ui::local_clock time;
+    ui::script::recording_printer paper;
+    ui::script::recording_launcher programs;
+    ui::desk desk(front, time, paper, programs);
+    program app(port, desk);
+    app.parameters.numero_azienda = 1;
+    app.mirorc.made_by(desk, [&app] { return std::make_unique<mirorc>(app); });
+    {
+        archivi files;
+        apri_archivi(files, port, 1);
+        write_archive(files, orders, customers);
+    }
+    app.mirorc->show();
+    std::printf("%d orders, %d customers\n", orders, customers);
+
+    const auto read_rows = [&](bool names) {
+        rec_orc row;
+        rec_cli customer;
+        for (int i = 1; i <= orders; ++i) {
+            app.archives.orc.read(block_record(i, 1), row);
+            if (names) app.archives.cli.read(row.cliente, customer);
+        }
+    };
+    const auto build = [&] { app.mirorc->build_list(); };
+    compare("build of the register", rounds, build, "one read for each row and its customer",
+            [&] { read_rows(true); });
+    compare("build of the register", rounds, build, "one read for each row alone",
+            [&] { read_rows(false); });
+    sort_benches(app.mirorc->elenco, rounds);
+    return 0;
+}
+
+}  // namespace
+}  // namespace vantora::bench
+
+int main(int count, char** arguments) {
+    const bool quick = count > 1 && std::strcmp(arguments[1], "--quick") == 0;
+    return quick ? vantora::bench::run(300, 100, 3) : vantora::bench::run(32767, 32767, 9);
+}
