@@ -1,0 +1,147 @@
+#include "demo/page.h"
+
+namespace vantora::demo {
+
+namespace {
+
+constexpr font name_font{.points = 12, .bold = true, .colour = navy};
+constexpr font slogan_font{.points = 8, .italic = true, .colour = grey};
+constexpr font small_font{.points = 8, .colour = grey};
+constexpr font title_font{.points = 15, .bold = true, .colour = navy};
+constexpr font head_font{.points = 9, .bold = true};
+constexpr font customer_font{.points = 10, .bold = true};
+constexpr font plain_font{.points = 9};
+constexpr font text_font{.points = 8};
+constexpr font exemption_font{.points = 7};
+constexpr font total_font{.points = 9, .bold = true};
+constexpr font grand_total_font{.points = 12, .bold = true, .colour = white};
+constexpr font footer_font{.points = 7, .colour = grey};
+
+constexpr panel panel_table[] = {
+    {118, 18, 141, 28, "Ordine n."},
+    {141, 18, 164, 28, "Data"},
+    {164, 18, 187, 28, "Evasione"},
+    {187, 18, 200, 28, "Pag."},
+    {10, 34, 103, 58, "Cliente"},
+    {107, 34, 200, 58, "Destinazione della merce"},
+    {10, 60, 50, 69, "Partita IVA"},
+    {50, 60, 94, 69, "Codice fiscale"},
+    {94, 60, 128, 69, "Telefono"},
+    {128, 60, 200, 69, "Pagamento"},
+    {10, 71, 103, 89, "Riferimenti dell'ordine"},
+    {107, 71, 200, 89, "Vettore"},
+    {10, 226, 72, 249, "Riepilogo IVA"},
+    {75, 226, 137, 249, "Operazioni senza imposta"},
+    {140, 226, 200, 249, "Totali"},
+    {10, 252, 137, 266, "Note"},
+    {140, 252, 200, 266, "Firma per accettazione"},
+};
+
+constexpr panel band_table[] = {{140, 241, 200, 249, "TOTALE €"}};
+
+constexpr field field_table[] = {
+    {1, 30, 9, name_font},
+    {7, 30, 14, slogan_font},
+    {2, 30, 18, small_font},
+    {4, 30, 22, small_font},
+    {5, 30, 26, small_font},
+    {65, 118, 9, title_font},
+    {33, 120, 23, head_font},
+    {34, 143, 23, head_font},
+    {40, 166, 23, head_font},
+    {35, 189, 23, head_font},
+    // Customer and destination
+    {18, 12, 39, customer_font},
+    {19, 12, 43, plain_font},
+    {20, 12, 48, plain_font},
+    {21, 12, 53, plain_font},
+    {22, 24, 53, plain_font},
+    {25, 109, 39, customer_font},
+    {26, 109, 43, plain_font},
+    {27, 109, 48, plain_font},
+    {28, 109, 53, plain_font},
+    {29, 121, 53, plain_font},
+    {23, 12, 65, plain_font},
+    {24, 52, 65, plain_font},
+    {30, 96, 65, plain_font},
+    {44, 130, 65, plain_font},
+    {36, 12, 76, head_font},
+    {37, 12, 80, text_font},
+    {38, 12, 84, text_font},
+    {41, 109, 76, head_font},
+    {42, 109, 80, text_font},
+    {43, 109, 84, text_font},
+    // VAT and totals
+    {47, 38, 235, text_font},
+    {48, 45, 235, text_font},
+    {49, 70, 235, text_font},
+    {50, 38, 239, text_font},
+    {51, 45, 239, text_font},
+    {52, 70, 239, text_font},
+    {53, 38, 243, text_font},
+    {54, 45, 243, text_font},
+    {55, 70, 243, text_font},
+    {56, 97, 235, text_font},
+    {57, 100, 235, exemption_font},
+    {58, 97, 239, text_font},
+    {59, 100, 239, exemption_font},
+    {60, 97, 243, text_font},
+    {61, 100, 243, exemption_font},
+    {62, 198, 231, total_font},
+    {63, 198, 236, total_font},
+    {64, 198, 242, grand_total_font},
+    // Foot
+    {66, 12, 257, text_font},
+    {67, 12, 261, text_font},
+    {45, 78, 257, text_font},
+    {3, 10, 283, footer_font},
+    {6, 10, 287, footer_font},
+    {8, 110, 283, footer_font},
+};
+
+constexpr fixed_text text_table[] = {
+    {12, 231, "Imponibile", footer_font},
+    {44, 231, "Aliquota %", footer_font},
+    {61, 231, "Imposta", footer_font},
+    {77, 231, "Importo", footer_font},
+    {100, 231, "Titolo", footer_font},
+    {142, 231, "Totale imponibile", text_font},
+    {142, 236, "Totale IVA", text_font},
+    {10, 268,
+     "La merce viaggia a rischio e pericolo del committente, anche se venduta franco destino."
+     " Reclami entro 8 giorni dal ricevimento.",
+     footer_font},
+    {10, 272,
+     "I prezzi si intendono al netto dell'IVA. I termini di consegna sono indicativi."
+     " Foro competente: Brescia.",
+     footer_font},
+};
+
+constexpr column column_table[] = {
+    {70, 10, "Codice"},
+    {71, 36, "Descrizione"},
+    {72, 109, "Quantità", side::right},
+    {73, 126, "UM"},
+    {74, 134, "Prezzo", side::right},
+    {77, 153, "Sconti"},
+    {76, 167, "Importo", side::right},
+    {78, 190, "IVA"},
+};
+
+}  // namespace
+
+const page order_page{
+    .panels = panel_table,
+    .bands = band_table,
+    .fields = field_table,
+    .texts = text_table,
+    .lines = {.head_top = 91,
+              .text_top = 98,
+              .text_bottom = 222,
+              .right = 200,
+              .text_top_row = 68,
+              .text_bottom_row = 69,
+              .columns = column_table},
+};
+
+}  // namespace vantora::demo

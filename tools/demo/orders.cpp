@@ -1,0 +1,227 @@
+#include "demo/orders.h"
+
+#include <limits>
+
+#include "demo/calendar.h"
+#include "demo/draws.h"
+#include "demo/lines.h"
+#include "demo/stock.h"
+#include "store/records/order_block.h"
+#include "store/records/rec_orc.h"
+#include "store/text/code_page.h"
+
+namespace vantora::demo {
+
+namespace {
+
+enum class order_state { open, partly_delivered, fulfilled, deleted };
+
+struct order {
+    int number = 0;
+    int day = 0;
+    int delivery_day = 0;
+    int seconds = 0;  ///< time of the save, within its day
+    int customer = 0;
+    bool committed = false;
+    order_state state = order_state::open;
+    std::string references[3];
+    std::string choices;  ///< port, transport, payment and price, as the save packs them
+    std::vector<document_line> lines;
+
+    [[nodiscard]] double data_reg() const { return day + seconds / 86400.0; }
+};
+
+constexpr std::string_view subjects[] = {
+    "Ordine telefonico",    "Vs. ordine via e-mail",  "Ordine al banco",   "Rif. cantiere Salò",
+    "Manutenzione stabile", "Ristrutturazione bagno", "Nuovo impianto",    "Fornitura mensile",
+    "Rif. Vs. richiesta",   "Reintegro scorte",       "Commessa officina", "Urgenza caldaia",
+};
+
+order_state draw_state(draws& chance, int number, int count) {
+    const bool late = number * 5LL > count * 4LL;
+    const int fate = chance.below(100);
+    if (fate < 5) return order_state::deleted;
+    if (fate < (late ? 18 : 92)) return order_state::fulfilled;
+    if (fate < (late ? 45 : 96)) return order_state::partly_delivered;
+    return order_state::open;
+}
+
+int draw_customer(draws& chance, const std::vector<rec_cli>& customers) {
+    const int number = chance.between(1, static_cast<int>(customers.size()));
+    return customers[static_cast<std::size_t>(number - 1)].eliminato == 0 ? number : 1;
+}
+
+order draw_order(draws& chance, int number, int count, const std::vector<rec_cli>& customers,
+                 const std::vector<article>& articles) {
+    order one;
+    one.number = number;
+    one.customer = draw_customer(chance, customers);
+    const rec_cli& customer = customers[static_cast<std::size_t>(one.customer - 1)];
+    const long long span = ultimo_giorno - primo_giorno;
+    one.day = working_day(primo_giorno + static_cast<int>(span * number / count));
+    one.delivery_day = working_day(one.day + chance.between(3, 40));
+    one.seconds = chance.between(8 * 3600, 18 * 3600);
+    one.committed = chance.percent(45);
+    one.state = draw_state(chance, number, count);
+
+    one.references[0] = from_utf8(chance.one_of(subjects));
+    if (chance.percent(35)) {
+        one.references[1] = "Vs. rif. n. " + std::to_string(chance.between(10, 980)) + " del " +
+                            shown_day(one.day - chance.between(0, 6));
+    }
+    if (chance.percent(10)) one.references[2] = "Consegnare con sponda idraulica";
+    one.choices = std::to_string(chance.percent(70) ? 0 : chance.between(1, 2)) +
+                  std::to_string(chance.percent(60) ? 0 : chance.between(1, 2)) +
+                  std::to_string(customer.pagamento - 1) +
+                  (customer.listino.full() == "1" ? "1" : "0");
+    one.lines = draw_lines(chance, articles, customer);
+    return one;
+}
+
+/// The warehouse's papers of one delivery, as it goes through the lines of an order.
+class delivery {
+ public:
+    delivery(const order& of, deliveries& into)
+        : of_(of), into_(into), number_(static_cast<int>(into.documents.size()) + 1) {}
+
+    void add(const document_line& line, long long quantity) {
+        if (line.articolo < 1) return;
+        rec_mag movement;
+        movement.data = stored_day(of_.delivery_day);
+        movement.documento = "Ordine n. " + std::to_string(of_.number);
+        movement.tipo = std::int16_t{1};
+        movement.movimento = "DDT n. " + std::to_string(number_);
+        movement.data_reg = of_.delivery_day + of_.seconds / 86400.0;
+        movement.articolo = static_cast<std::int16_t>(line.articolo);
+        movement.cliente = static_cast<std::int16_t>(of_.customer);
+        movement.quantita = static_cast<double>(quantity) / 10;
+        movement.prezzo = static_cast<double>(net_price(line)) / 100;
+        movement.segno = std::int16_t{1};
+        into_.movements.push_back(movement);
+        delivered_ = true;
+    }
+
+    void close() {
+        if (!delivered_) return;
+        rec_bol document;
+        document.numero = static_cast<std::int16_t>(number_);
+        document.data = stored_day(of_.delivery_day);
+        document.testo1 = "";
+        document.testo2 = "";
+        document.progressivo = static_cast<float>(number_);
+        document.data_reg = of_.delivery_day + of_.seconds / 86400.0;
+        document.uno = std::int16_t{1};
+        document.vuoto = "";
+        document.cliente = static_cast<std::int16_t>(of_.customer);
+        into_.documents.push_back(document);
+    }
+
+ private:
+    const order& of_;
+    deliveries& into_;
+    int number_;
+    bool delivered_ = false;
+};
+
+/// All of a line, half of it in whole units, or nothing of it.
+long long delivered_part(draws& chance, const document_line& line) {
+    const int fate = chance.below(3);
+    if (fate == 0) return line.quantita;
+    return fate == 1 ? line.quantita / 20 * 10 : 0;
+}
+
+void deliver_order(draws& chance, order& one, std::vector<article>& articles, deliveries& into) {
+    delivery papers(one, into);
+    bool keep_open = one.state == order_state::partly_delivered;
+    for (document_line& line : one.lines) {
+        if (line.quantita == 0) continue;
+        long long quantity = line.quantita;
+        if (one.state == order_state::partly_delivered) {
+            quantity = keep_open ? line.quantita / 20 * 10 : delivered_part(chance, line);
+            keep_open = false;
+        }
+        if (quantity == 0) continue;
+        deliver(line, quantity, one.committed, articles);
+        papers.add(line, quantity);
+    }
+    papers.close();
+}
+
+void play_out(draws& chance, order& one, std::vector<article>& articles, deliveries& into) {
+    book_order(one.lines, one.committed, articles);
+    if (one.state == order_state::deleted) unbook_order(one.lines, one.committed, articles);
+    if (one.state == order_state::fulfilled || one.state == order_state::partly_delivered) {
+        deliver_order(chance, one, articles, into);
+    }
+}
+
+void set_line(rec_orc& row, const document_line& line) {
+    row.articolo = static_cast<std::int16_t>(line.articolo);
+    row.descrizione = line.first_part();
+    row.descrizione2 = line.second_part();
+    row.um = line.um;
+    row.quantita = line.stored_quantita();
+    row.prezzo = line.stored_prezzo();
+    row.evaso = line.stored_evaso();
+    row.iva = static_cast<std::int16_t>(line.iva);
+    row.sc1 = static_cast<std::int16_t>(line.sc1);
+    row.sc2 = static_cast<std::int16_t>(line.sc2);
+}
+
+template <class Text>
+void set_texts(rec_orc& row, const Text& first, const Text& second, const Text& third) {
+    row.testo1 = first;
+    row.testo2 = second;
+    row.testo3 = third;
+}
+
+/// The rows behind the fourth repeat its texts: that is how the orders' screen saves them.
+void fill_block(std::vector<rec_orc>& block, const order& one, const rec_cli& customer) {
+    rec_orc row;
+    set_line(row, {});
+    row.numero = std::to_string(one.number);
+    row.data = stored_day(one.day);
+    row.cliente = static_cast<std::int16_t>(one.customer);
+    row.data_evasione = stored_day(one.delivery_day);
+    row.evaso_flag = static_cast<std::int16_t>(one.state == order_state::fulfilled ? 1 : 0);
+    row.impegno = one.committed ? "1" : "0";
+    row.data_reg = one.data_reg();
+    row.annullato = static_cast<std::int16_t>(one.state == order_state::deleted ? 1 : 0);
+    set_texts(row, customer.vettore1.full(), customer.vettore2.full(), customer.vettore3.full());
+    block.assign(righe_blocco, row);
+
+    set_texts(block[0], one.references[0], one.references[1], one.references[2]);
+    set_texts(block[1], customer.amm_intestazione1.full(), customer.amm_intestazione2.full(),
+              customer.amm_indirizzo.full());
+    set_texts(block[2], customer.amm_cap.full(), customer.amm_citta.full(),
+              std::string_view(one.choices));
+    for (std::size_t i = 0; i < one.lines.size(); ++i) set_line(block[i], one.lines[i]);
+}
+
+/// The warehouse's file numbers its records in 16 bits: older movements have been closed off.
+void keep_latest(std::vector<rec_mag>& movements) {
+    constexpr std::size_t most = std::numeric_limits<std::int16_t>::max();
+    if (movements.size() <= most) return;
+    movements.erase(movements.begin(), movements.end() - static_cast<std::ptrdiff_t>(most));
+}
+
+}  // namespace
+
+deliveries write_orders(folder_writer& into, int count, std::uint64_t seed,
+                        const std::vector<rec_cli>& customers, std::vector<article>& articles) {
+    draws chance(seed, 3);
+    deliveries done;
+    auto file = into.create_records<rec_orc>("vantora.orc");
+    std::vector<rec_orc> block;
+    for (int number = 1; number <= count; ++number) {
+        order one = draw_order(chance, number, count, customers, articles);
+        play_out(chance, one, articles, done);
+        fill_block(block, one, customers[static_cast<std::size_t>(one.customer - 1)]);
+        folder_writer::check_written(file.write_block(block_record(number, 1), block),
+                                     "vantora.orc");
+    }
+    keep_latest(done.movements);
+    return done;
+}
+
+}  // namespace vantora::demo
