@@ -54,18 +54,23 @@ void set_long_text(article& one, draws& chance) {
     }
 }
 
+/// The maker's name is left out where it doesn't fit.
+std::string with_maker(const std::string& name, int maker) {
+    const std::string full = name + " " + std::string(makers[static_cast<std::size_t>(maker)]);
+    return full.size() <= decltype(rec_art::descrizione)::width ? full : name;
+}
+
 article make_article(draws& chance, int number) {
     article one;
     const product& kind = chance.one_of(products);
     const auto sizes = split(kind.sizes);
     const int size = chance.below(static_cast<int>(sizes.size()));
     const int maker = chance.below(static_cast<int>(makers.size()));
-    const std::string name = std::string(kind.name) + " " +
-                             std::string(sizes[static_cast<std::size_t>(size)]) + " " +
-                             std::string(makers[static_cast<std::size_t>(maker)]);
+    const std::string name =
+        std::string(kind.name) + " " + std::string(sizes[static_cast<std::size_t>(size)]);
 
     one.record.codice = std::string(kind.prefix) + zero_padded(number, 5);
-    one.record.descrizione = from_utf8(name);
+    one.record.descrizione = with_maker(from_utf8(name), maker);
     one.record.um = kind.um;
     one.record.categoria = std::to_string(kind.categoria);
     one.record.iva = static_cast<std::int16_t>(kind.iva);

@@ -118,7 +118,7 @@ constexpr std::string_view remark_table[] = {
     "Come da accordi telefonici con il sig. Nicolò",
     "Materiale in sostituzione, già concordato",
     "Seguirà conferma della quantità residua",
-    "Imballo a rendere, cauzione già versata con l'ordine",
+    "Imballo a rendere, cauzione versata con l'ordine",
 };
 
 }  // namespace

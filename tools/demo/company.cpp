@@ -159,10 +159,10 @@ void make_company(const demo_request& request, const std::filesystem::path& driv
     }
     drive suite(drive_root);
     const std::string company = cartella_azienda(request.numero_azienda);
-    if (is_there(suite, company)) {
-        throw demo_error("L'azienda esiste già: " + suite.locate(company).string());
-    }
     try {
+        if (is_there(suite, company)) {
+            throw demo_error("L'azienda esiste già: " + suite.locate(company).string());
+        }
         std::filesystem::create_directories(drive_root);
         for (const char* folder : {"\\mirwin", "\\mirwin\\mirwin", "\\mirwin\\PDF"}) {
             make_folder(suite, folder);

@@ -105,18 +105,25 @@ void set_trade_terms(rec_cli& one, draws& chance) {
     one.testo_documenti = quotes_job ? "C.I.G. Z" + zero_padded(chance.below(999'999'999), 9) : "";
 }
 
-void set_name(rec_cli& one, draws& chance, const person& owner) {
-    std::string name;
+std::string firm_name(draws& chance, const person& owner) {
+    const std::string surname(owner.surname);
+    const std::string form(chance.one_of(company_forms));
+    if (chance.percent(25)) return "F.lli " + surname + " " + form;
+    return std::string(chance.one_of(trades)) + " " + surname + " " + form;
+}
+
+void set_name_and_tax_codes(rec_cli& one, draws& chance, const person& owner) {
+    one.prefisso_iva = "IT";
+    const std::string number = zero_padded(chance.between(1, 3'999'999), 7);
+    one.partita_iva = partita_iva(number + zero_padded(chance.between(1, 103), 3));
     if (chance.percent(15)) {
-        name = std::string(owner.surname) + " " + std::string(owner.given_name);
-    } else if (chance.percent(20)) {
-        name =
-            "F.lli " + std::string(owner.surname) + " " + std::string(chance.one_of(company_forms));
+        one.intestazione1 =
+            from_utf8(std::string(owner.surname) + " " + std::string(owner.given_name));
+        one.codice_fiscale = personal_tax_code(chance, owner);
     } else {
-        name = std::string(chance.one_of(trades)) + " " + std::string(owner.surname) + " " +
-               std::string(chance.one_of(company_forms));
+        one.intestazione1 = from_utf8(firm_name(chance, owner));
+        one.codice_fiscale = one.partita_iva.full();
     }
-    one.intestazione1 = from_utf8(name);
     one.intestazione2 =
         chance.percent(6) ? from_utf8("Filiale di " + std::string(chance.one_of(towns).name)) : "";
 }
@@ -126,19 +133,13 @@ rec_cli make_customer(draws& chance) {
     blank_reserved(one);
     const person owner{chance.one_of(surnames), chance.one_of(given_names)};
     const town& where = chance.one_of(towns);
-    set_name(one, chance, owner);
+    set_name_and_tax_codes(one, chance, owner);
     set_address(one, chance, where);
     set_goods_address(one, chance);
     one.telefono1 = phone_number(chance, where);
     one.telefono2 = chance.percent(30) ? phone_number(chance, where) : "";
     one.telefono3 = chance.percent(50) ? "3" + zero_padded(chance.below(1'000'000'000), 9) : "";
     one.email = chance.percent(70) ? mail_address(owner.surname) : "";
-    one.prefisso_iva = "IT";
-    const std::string number = zero_padded(chance.between(1, 3'999'999), 7);
-    one.partita_iva = partita_iva(number + zero_padded(chance.between(1, 103), 3));
-    const bool is_person = one.intestazione1.full().starts_with(from_utf8(owner.surname));
-    one.codice_fiscale =
-        is_person ? personal_tax_code(chance, owner) : std::string(one.partita_iva.full());
     set_trade_terms(one, chance);
     return one;
 }

@@ -22,6 +22,11 @@ int draw_article(draws& chance, const std::vector<article>& articles) {
     return 0;
 }
 
+int vat_code(const rec_cli& customer, int usual) {
+    const int own = customer.iva_cliente;
+    return own > 0 ? own : usual;
+}
+
 document_line article_line(draws& chance, const article& one, int number, const rec_cli& customer) {
     document_line line;
     line.articolo = number;
@@ -30,7 +35,7 @@ document_line article_line(draws& chance, const article& one, int number, const 
     line.quantita =
         one.sold_by_measure() ? chance.one_of(metre_quantities) : chance.one_of(piece_quantities);
     line.prezzo = customer.listino.full() == "1" ? one.prezzo2_cents : one.prezzo1_cents;
-    line.iva = customer.iva_cliente > 0 ? customer.iva_cliente : one.record.iva;
+    line.iva = vat_code(customer, one.record.iva);
     line.sc1 = customer.sconto1;
     line.sc2 = customer.sconto2;
     if (chance.percent(8)) line.sc2 = chance.between(2, 10);

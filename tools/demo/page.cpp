@@ -3,6 +3,7 @@
 #include <array>
 
 #include "demo/codes.h"
+#include "store/text/code_page.h"
 
 namespace vantora::demo {
 
@@ -11,7 +12,7 @@ namespace {
 constexpr int layout_rows = 100;
 constexpr int background_switch_row = 99;
 constexpr int strip = 4;  ///< height of a panel's caption
-constexpr int logo_left = 10;
+constexpr int logo_left = 9;
 constexpr int logo_top = 10;
 constexpr int page_left = 10;
 constexpr int page_right = 200;
@@ -41,6 +42,15 @@ int right_edge(const body& lines, std::size_t place) {
 int text_x(const body& lines, std::size_t place) {
     const column& one = lines.columns[place];
     return one.aligned == side::left ? one.left + 2 : right_edge(lines, place) - 2;
+}
+
+/// A drawn text can only begin at its X: a head over numbers is moved by its estimated width.
+int title_x(const body& lines, std::size_t place) {
+    const column& one = lines.columns[place];
+    if (one.aligned == side::left) return text_x(lines, place);
+    constexpr int letter_hundredths = 143;
+    const int letters = static_cast<int>(from_utf8(one.title).size());
+    return text_x(lines, place) - letters * letter_hundredths / 100;
 }
 
 /// The elements of a drawing file: two texts and nine values each.
@@ -94,7 +104,7 @@ void draw_body(drawing& into, const body& lines) {
     for (std::size_t i = 0; i < lines.columns.size(); ++i) {
         const column& one = lines.columns[i];
         if (i > 0) into.line(one.left, head_bottom, one.left, bottom, frame);
-        into.text(one.left + 2, lines.head_top + 1, one.title,
+        into.text(title_x(lines, i), lines.head_top + 1, one.title,
                   {.points = 7, .bold = true, .colour = white});
     }
 }

@@ -29,9 +29,9 @@ constexpr panel panel_table[] = {
     {86, 214, 108, 223, "Peso kg"},
     {108, 214, 154, 223, "Porto"},
     {154, 214, 200, 223, "Trasporto a cura del"},
-    {10, 226, 137, 244, "Vettore"},
-    {140, 226, 200, 244, "Inizio del trasporto"},
-    {10, 247, 200, 259, "Annotazioni"},
+    {10, 226, 137, 243, "Vettore"},
+    {140, 226, 200, 243, "Inizio del trasporto"},
+    {10, 246, 200, 259, "Annotazioni"},
     {10, 262, 72, 278, "Firma del conducente"},
     {75, 262, 137, 278, "Firma del vettore"},
     {140, 262, 200, 278, "Firma del destinatario"},
@@ -49,15 +49,15 @@ constexpr field field_table[] = {
     {35, 187, 23, head_font},
     // Customer and destination
     {18, 12, 39, customer_font},
-    {19, 12, 43, plain_font},
+    {19, 12, 44, plain_font},
     {20, 12, 48, plain_font},
-    {21, 12, 53, plain_font},
-    {22, 24, 53, plain_font},
+    {21, 12, 52, plain_font},
+    {22, 24, 52, plain_font},
     {25, 109, 39, customer_font},
-    {26, 109, 43, plain_font},
+    {26, 109, 44, plain_font},
     {27, 109, 48, plain_font},
-    {28, 109, 53, plain_font},
-    {29, 121, 53, plain_font},
+    {28, 109, 52, plain_font},
+    {29, 121, 52, plain_font},
     {23, 12, 65, plain_font},
     {24, 52, 65, plain_font},
     {30, 96, 65, plain_font},
@@ -87,10 +87,10 @@ constexpr fixed_text text_table[] = {
 };
 
 constexpr column column_table[] = {
-    {53, 10, "Codice"},
+    {53, 10, "Codice", side::left, 9},
     {54, 42, "Descrizione dei beni", side::left, 9},
     {55, 162, "Quantità", side::right, 9},
-    {56, 188, "UM"},
+    {56, 188, "UM", side::left, 9},
 };
 
 }  // namespace

@@ -91,8 +91,11 @@ constexpr auto upper_table = [] {
     return table;
 }();
 
-/// Place in the alphabet: signs in the order of their codes, then digits, then letters; four steps
-/// and more apart for a base letter, its accented forms behind it.
+constexpr int first_letter = 2000;
+constexpr int letter_step = 16;
+
+/// Place in the alphabet: signs in the order of their codes, then digits, then letters; behind a
+/// base letter is room for its accented forms.
 constexpr auto alphabet = [] {
     std::array<unsigned short, 256> places{};
     for (unsigned code = 0; code < 256; ++code) places[code] = static_cast<unsigned short>(code);
@@ -100,7 +103,7 @@ constexpr auto alphabet = [] {
         places['0' + digit] = static_cast<unsigned short>(1000 + digit);
     }
     for (unsigned letter = 0; letter < 26; ++letter) {
-        places['A' + letter] = static_cast<unsigned short>(2000 + letter * 16);
+        places['A' + letter] = static_cast<unsigned short>(first_letter + letter * letter_step);
     }
     const auto beside = [&](char base, std::string_view accented) {
         unsigned short place = places[static_cast<unsigned char>(base)];
@@ -124,6 +127,12 @@ constexpr auto alphabet = [] {
     }
     return places;
 }();
+
+/// Place of a character without its accent.
+int base_letter(unsigned char character) {
+    const int place = alphabet[character];
+    return place < first_letter ? place : place - (place - first_letter) % letter_step;
+}
 
 }  // namespace
 
@@ -163,12 +172,14 @@ std::string_view trimmed(std::string_view text) {
 
 int compare_alphabetically(std::string_view left, std::string_view right) {
     const std::size_t shared = std::min(left.size(), right.size());
+    int accents = 0;
     for (std::size_t i = 0; i < shared; ++i) {
-        const int difference = alphabet[static_cast<unsigned char>(left[i])] -
-                               alphabet[static_cast<unsigned char>(right[i])];
-        if (difference != 0) return difference;
+        const auto l = static_cast<unsigned char>(left[i]);
+        const auto r = static_cast<unsigned char>(right[i]);
+        if (const int difference = base_letter(l) - base_letter(r)) return difference;
+        if (accents == 0) accents = alphabet[l] - alphabet[r];
     }
-    if (left.size() == right.size()) return 0;
+    if (left.size() == right.size()) return accents;
     return left.size() < right.size() ? -1 : 1;
 }
 

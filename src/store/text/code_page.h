@@ -28,7 +28,8 @@ std::string upper(std::string_view text);
 std::string_view trimmed(std::string_view text);
 
 /// Order of two texts by the alphabet, without regard to case: signs, then digits, then letters,
-/// an accented letter directly behind its base letter. Negative, zero or positive.
+/// an accented letter with its base letter, behind it where nothing else decides. Negative, zero or
+/// positive.
 int compare_alphabetically(std::string_view left, std::string_view right);
 
 inline namespace literals {

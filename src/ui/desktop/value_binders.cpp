@@ -60,6 +60,7 @@ class date_binder final : public widget_binder {
         : widget_binder(model, edit_ = new QDateEdit(parent), act), model_(model) {
         edit_->setCalendarPopup(true);
         edit_->setDisplayFormat("dd/MM/yyyy");
+        edit_->setMinimumWidth(edit_->fontMetrics().horizontalAdvance("00/00/0000") + 52);
         edit_->setDateRange(QDate(100, 1, 1), QDate(9999, 12, 31));
         const QLocale italian(QLocale::Italian, QLocale::Italy);
         edit_->setLocale(italian);

@@ -110,7 +110,7 @@ void lay_out_mirorc(form_window& window) {
     all->addLayout(body, 1);
 
     window.setMinimumSize(960, 520);
-    window.set_first_size(QSize(1240, 690));
+    window.set_first_size(QSize(1260, 724));
 }
 
 }  // namespace vantora::ui::desktop

@@ -1,0 +1,118 @@
+#include "store/channel.h"
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <fstream>
+
+#include "store/archives.h"
+#include "store/drive.h"
+#include "store/records.h"
+#include "support/faulty_files.h"
+#include "support/scratch_folder.h"
+
+namespace vantora {
+namespace {
+
+class channel_test : public testing::Test {
+ protected:
+    void write_bytes(const std::string& bytes) {
+        std::ofstream(folder.path() / "f", std::ios::binary) << bytes;
+    }
+    channel<rec_tot> open() { return channel<rec_tot>(port.open_records("\\f")); }
+
+    test::scratch_folder folder;
+    drive port{folder.path()};
+};
+
+TEST_F(channel_test, WhatLiesPastTheEndReadsAsZeroBytes) {
+    write_bytes(std::string(12, 'a') + "bc");
+    const auto tot = open();
+    rec_tot record;
+    record.ultimo_numero = 7;
+    ASSERT_TRUE(tot.read(2, record));
+    EXPECT_EQ(record.quanti, 'b' + 256 * 'c');
+    EXPECT_EQ(record.ultimo_numero, 0);
+    ASSERT_TRUE(tot.read(1000, record));
+    EXPECT_EQ(record.quanti, 0);
+    std::vector<rec_tot> block(4);
+    ASSERT_TRUE(tot.read_block(1, block));
+    EXPECT_EQ(block[0].quanti, 'a' + 256 * 'a');
+    EXPECT_EQ(block[1].modificato, 0);
+    EXPECT_EQ(block[3].quanti, 0);
+}
+
+TEST_F(channel_test, FailuresLeaveTheRecordsAsTheyWere) {
+    rec_tot record;
+    record.quanti = 5;
+    channel<rec_tot> closed;
+    EXPECT_FALSE(closed.read(1, record));
+    EXPECT_FALSE(closed.write(1, record));
+    EXPECT_FALSE(closed.flush());
+    auto tot = open();
+    for (const int number : {0, -1, -32768}) {
+        EXPECT_FALSE(tot.read(number, record)) << number;
+        EXPECT_FALSE(tot.write(number, record)) << number;
+    }
+    test::faulty_files faults(port);
+    faults.read_fails = [](auto&&...) { return true; };
+    const channel<rec_tot> failing(faults.open_records("\\f"));
+    std::vector<rec_tot> block(2, record);
+    EXPECT_FALSE(failing.read_block(1, block));
+    EXPECT_EQ(record.quanti, 5);
+    EXPECT_EQ(block[1].quanti, 5);
+}
+
+TEST_F(channel_test, WritingBeyondTheEndFillsTheGapWithZeroBytes) {
+    auto tot = open();
+    rec_tot record;
+    record.quanti = 0x0102;
+    ASSERT_TRUE(tot.write(3, record));
+    std::ifstream in(folder.path() / "f", std::ios::binary);
+    const std::string bytes{std::istreambuf_iterator<char>(in), {}};
+    EXPECT_EQ(bytes, std::string(24, '\0') + std::string("\x02\x01", 2) + std::string(10, '\0'));
+}
+
+TEST(fields, AreTheBytesOfTheFile) {
+    struct {
+        text<5> word;
+        i16le small;
+        f32le single;
+        f64le real;
+    } record;
+    record.word = "abcdefg";
+    record.small = std::int16_t{-2};
+    record.single = 1.0F;
+    record.real = -2.0;
+    const std::string expected("abcde\xFE\xFF\0\0\x80\x3F\0\0\0\0\0\0\0\xC0", 19);
+    EXPECT_EQ(std::string(reinterpret_cast<const char*>(&record), sizeof record), expected);
+    record.word = "a";
+    EXPECT_EQ(record.word.full(), "a    ");
+    EXPECT_EQ(record.word.trimmed(), "a");
+    EXPECT_EQ(text<3>().full(), std::string(3, '\0')) << "a field never stored";
+    EXPECT_EQ(record.real, -2.0);
+}
+
+TEST(archives, OpenTheCountersFirstAndCreateWhatIsMissing) {
+    test::scratch_folder folder;
+    std::filesystem::create_directories(folder.path() / "mirwin/mirwin/miraz0.003");
+    drive port(folder.path());
+    archivi files;
+    apri_archivi(files, port, 3);
+    EXPECT_TRUE(files.orc.is_open());
+    EXPECT_TRUE(files.art_blocchi.is_open());
+    EXPECT_TRUE(std::filesystem::exists(folder.path() / "mirwin/mirwin/miraz0.003/vantora.srb"));
+    rec_art article;
+    article.codice = "VENTI";
+    files.art.write(20, article);
+    blocco_articoli block;
+    files.art_blocchi.read(1, block);
+    EXPECT_EQ(block.articoli[19].codice.trimmed(), "VENTI");
+    chiudi_archivi(files);
+    EXPECT_FALSE(files.art.write(1, article));
+    apri_archivi(files, port, 4);
+    EXPECT_FALSE(files.tot.is_open()) << "there is no such folder";
+}
+
+}  // namespace
+}  // namespace vantora

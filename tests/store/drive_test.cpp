@@ -1,0 +1,79 @@
+#include "store/drive.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <fstream>
+
+#include "store/company.h"
+#include "support/scratch_folder.h"
+
+namespace vantora {
+namespace {
+
+class drive_test : public testing::Test {
+ protected:
+    test::scratch_folder folder;
+    drive port{folder.path()};
+};
+
+TEST_F(drive_test, FindsPathsWhateverTheirCase) {
+    std::filesystem::create_directories(folder.path() / "MirWin/mirwin");
+    std::ofstream(folder.path() / "MirWin/mirwin/Vantora.EUR") << "1";
+    EXPECT_EQ(port.read_whole("\\mirwin\\MIRWIN\\vantora.eur"), "1");
+    EXPECT_EQ(port.read_whole("c:\\mirwin/mirwin\\vantora.eur"), "1");
+    // The exact name goes before one in another case.
+    std::ofstream(folder.path() / "MirWin/mirwin/vantora.eur") << "2";
+    EXPECT_EQ(port.read_whole("\\mirwin\\mirwin\\vantora.eur"), "2");
+    // What is new takes the spelling of the code.
+    ASSERT_TRUE(port.create("c:\\Mirdoc.rto"));
+    EXPECT_TRUE(std::filesystem::exists(folder.path() / "Mirdoc.rto"));
+    EXPECT_TRUE(port.create_folder("\\MIRWIN\\PDF"));
+    EXPECT_TRUE(std::filesystem::is_directory(folder.path() / "MirWin/PDF"));
+    EXPECT_TRUE(port.create_folder("\\mirwin\\pdf")) << "an existing folder is no error";
+}
+
+TEST_F(drive_test, NeverLeavesItsFolder) {
+    EXPECT_EQ(port.locate("\\..\\..\\etc\\passwd"), folder.path() / "etc" / "passwd");
+    EXPECT_EQ(port.locate("\\a\\.\\b"), folder.path() / "a" / "b");
+    EXPECT_EQ(port.locate(""), folder.path());
+    EXPECT_EQ(port.locate("x:"), folder.path());
+}
+
+TEST_F(drive_test, OpensNothingButPlainFiles) {
+    std::filesystem::create_directory(folder.path() / "cartella");
+    ::mkfifo((folder.path() / "coda").c_str(), 0600);
+    for (const char* path : {"\\cartella", "\\coda", "\\manca\\file"}) {
+        EXPECT_EQ(port.open_records(path), nullptr) << path;
+        EXPECT_FALSE(port.read_whole(path).has_value()) << path;
+    }
+    EXPECT_FALSE(port.read_whole("\\manca").has_value());
+    EXPECT_FALSE(port.create_folder("\\manca\\dentro"));
+}
+
+TEST_F(drive_test, AFileThatMayOnlyBeReadIsOpenedForReading) {
+    if (::geteuid() == 0) GTEST_SKIP() << "permissions don't bind the superuser";
+    std::ofstream(folder.path() / "f") << "abc";
+    ::chmod((folder.path() / "f").c_str(), 0444);
+    const auto opened = port.open_records("\\f");
+    ASSERT_TRUE(opened);
+    std::byte byte{};
+    EXPECT_EQ(opened->read(1, std::span(&byte, 1)), 1U);
+    EXPECT_FALSE(opened->write(0, std::span(&byte, 1)));
+}
+
+TEST(company, NumbersAndFolders) {
+    const std::pair<const char*, int> arguments[] = {
+        {"ordini007", 7}, {"ordini123xyz", 123}, {"ordini00", 0},  {"", 0},
+        {"ordini -5", 0}, {"ordiniabc", 0},      {"ordini 42", 42}};
+    for (const auto& [argument, number] : arguments) {
+        EXPECT_EQ(numero_azienda_in(argument), number) << argument;
+    }
+    EXPECT_EQ(file_azienda(7, "orc"), "\\mirwin\\mirwin\\miraz0.007\\vantora.orc");
+    EXPECT_EQ(cartella_azienda(123), "\\mirwin\\mirwin\\miraz0.123");
+    EXPECT_EQ(file_generale("eur"), "\\mirwin\\mirwin\\vantora.eur");
+}
+
+}  // namespace
+}  // namespace vantora

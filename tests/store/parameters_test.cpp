@@ -1,0 +1,232 @@
+#include "store/parameters.h"
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <fstream>
+
+#include "store/drive.h"
+#include "support/scratch_folder.h"
+
+namespace vantora {
+namespace {
+
+class parameters_test : public testing::Test {
+ protected:
+    parameters_test() { std::filesystem::create_directories(company); }
+
+    void write(const std::filesystem::path& file, const std::string& content) {
+        std::ofstream(file, std::ios::binary) << content;
+    }
+    parametri load() {
+        parametri loaded;
+        loaded.numero_azienda = 1;
+        carica_parametri(loaded, port);
+        return loaded;
+    }
+    rec_gnr stored() {
+        rec_gnr record;
+        std::ifstream in(company / "vantora.gnr", std::ios::binary);
+        in.read(reinterpret_cast<char*>(&record), sizeof record);
+        return record;
+    }
+    void store(const std::filesystem::path& where, const rec_gnr& record) {
+        write(where / "vantora.gnr",
+              std::string(reinterpret_cast<const char*>(&record), sizeof record));
+    }
+    /// The report file, whole: margins, six groups, six lines, six lines.
+    static std::vector<std::string> report_lines() {
+        std::vector<std::string> lines = {"10,20,30,40,1"};
+        for (int group = 0; group <= 5; ++group) {
+            const std::string g = std::to_string(group);
+            for (const std::string& line :
+                 {std::string(group == 0 ? "2" : "77"), "Font" + g, "1" + g, std::string("1"),
+                  std::string("0"), "25" + g}) {
+                lines.push_back(line);
+            }
+        }
+        for (const char* line :
+             {"a", "b", "c", "d", "e", "123", "1", "11", "12", "13", "14", "x"}) {
+            lines.emplace_back(line);
+        }
+        return lines;
+    }
+    static std::string joined(const std::vector<std::string>& lines, std::size_t count) {
+        std::string all;
+        for (std::size_t i = 0; i < count; ++i) all += lines[i] + "\r\n";
+        return all;
+    }
+
+    test::scratch_folder folder;
+    std::filesystem::path general = folder.path() / "mirwin/mirwin";
+    std::filesystem::path company = general / "miraz0.001";
+    drive port{folder.path()};
+};
+
+TEST_F(parameters_test, CurrencySettingsFallBackTogether) {
+    struct {
+        const char* content;
+        const char* mode;
+        const char* price_decimals;
+        const char* seventh;
+    } cases[] = {
+        {nullptr, "1", "2", "9"},
+        {"", "1", "2", "9"},
+        {"0,1,\"A\",\"B\"", "1", "2", "9"},
+        {"0,1,\"A\",\"B\",3\r\n", "0", "3", "9"},
+        {"2,1,A,B,4\r\nsesta\r\nsettima\r\n", "1", "4", "settima"},
+        {"0\r\n1\r\nA\r\nB\r\n5\r\nsesta\r\n7\r\n", "0", "5", "7"},
+        {"x,1,A,B,2\r\n\r\n\r\n", "0", "2", ""},
+    };
+    for (const auto& one : cases) {
+        if (one.content) write(general / "vantora.eur", one.content);
+        const parametri loaded = load();
+        EXPECT_EQ(loaded.parametri_valuta[1], one.mode) << (one.content ? one.content : "none");
+        EXPECT_EQ(loaded.parametri_valuta[5], one.price_decimals);
+        EXPECT_EQ(loaded.parametri_valuta[11], one.seventh);
+    }
+}
+
+TEST_F(parameters_test, AWholeReportFileFillsItsEntries) {
+    const auto lines = report_lines();
+    write(general / "vantora.tbl", joined(lines, lines.size()));
+    const parametri loaded = load();
+    const auto& table = loaded.tabella_stampa;
+    EXPECT_EQ(table[0].margine_sinistro, 10);
+    EXPECT_EQ(table[0].margine_basso, 40);
+    EXPECT_EQ(table[0].stile, 1);
+    EXPECT_EQ(table[0].nome_carattere, "Font0");
+    EXPECT_EQ(table[0].altezza, 190);
+    EXPECT_EQ(table[0].sfondo, 123);
+    EXPECT_EQ(table[5].corpo_carattere, 15);
+    EXPECT_EQ(table[5].grassetto, 1);
+    EXPECT_EQ(table[5].colore, 255);
+    EXPECT_EQ(table[1].stile, 1);
+    EXPECT_EQ(table[1].altezza, 11);
+    EXPECT_EQ(table[2].altezza, 12);
+    EXPECT_EQ(table[1].sfondo, 13);
+    EXPECT_EQ(table[2].sfondo, 14);
+}
+
+TEST_F(parameters_test, AReportFileMayEndAnywhere) {
+    const auto lines = report_lines();
+    for (std::size_t kept = 0; kept < lines.size(); ++kept) {
+        write(general / "vantora.tbl", joined(lines, kept));
+        const parametri loaded = load();
+        const auto& table = loaded.tabella_stampa;
+        const bool margins = kept >= 1;
+        const bool fonts = kept >= 1 + 36;
+        const bool background = kept >= 1 + 36 + 6;
+        EXPECT_EQ(table[0].margine_destro, margins ? 20 : 950) << kept;
+        EXPECT_EQ(table[1].nome_carattere, fonts ? "Font1" : "Arial") << kept;
+        EXPECT_EQ(table[1].corpo_carattere, fonts ? 11 : 14) << kept;
+        EXPECT_EQ(table[3].corpo_carattere, fonts ? 13 : 9) << kept;
+        EXPECT_EQ(table[0].altezza, fonts ? 190 : 240) << kept;
+        EXPECT_EQ(table[0].sfondo, background ? 123 : 16777215) << kept;
+        EXPECT_EQ(table[2].altezza, kept >= 1 + 36 + 6 + 3 ? 12 : 0) << kept;
+    }
+}
+
+TEST_F(parameters_test, NumbersBeyondSixteenBitsCountAsUnreadable) {
+    auto lines = report_lines();
+    lines[0] = "40000,20,30,40,1";
+    write(general / "vantora.tbl", joined(lines, lines.size()));
+    EXPECT_EQ(load().tabella_stampa[0].margine_sinistro, 30);
+    lines = report_lines();
+    lines[1] = "30000";
+    write(general / "vantora.tbl", joined(lines, lines.size()));
+    EXPECT_EQ(load().tabella_stampa[0].altezza, 0) << "the height doesn't fit";
+}
+
+TEST_F(parameters_test, TheFirstStartOfACompanyMakesItsParameters) {
+    const parametri loaded = load();
+    const rec_gnr record = stored();
+    EXPECT_EQ(std::memcmp(&record, &loaded.gnr, sizeof record), 0);
+    EXPECT_EQ(record.formato_gnr.full(), "9");
+    EXPECT_EQ(record.aggiorna_elenco.full(), "1");
+    EXPECT_EQ(record.righe_alternate.full(), "1");
+    EXPECT_EQ(record.riservato_be.full(), "1");
+    EXPECT_EQ(record.codice_iva_base.full(), "01");
+    EXPECT_EQ(record.colore_riga_pari, 16579315);
+    EXPECT_EQ(record.vista_registro, 0);
+    EXPECT_TRUE(std::filesystem::is_directory(folder.path() / "mirwin/PDF"));
+}
+
+TEST_F(parameters_test, TheGeneralTemplateServesAsACompanysFirstParameters) {
+    rec_gnr record;
+    record.riservato_bd = "modello";
+    record.codice_iva_base = "77";
+    store(general, record);
+    load();
+    EXPECT_EQ(stored().riservato_bd.trimmed(), "modello");
+    EXPECT_EQ(stored().formato_gnr.full(), "9");
+    EXPECT_EQ(stored().codice_iva_base.full(), "77") << "not repaired on this path";
+    rec_gnr template_record;
+    std::ifstream in(general / "vantora.gnr", std::ios::binary);
+    in.read(reinterpret_cast<char*>(&template_record), sizeof template_record);
+    EXPECT_EQ(template_record.formato_gnr.full(), std::string(1, '\0')) << "the template stays";
+}
+
+TEST_F(parameters_test, ParametersAreRepairedAndNothingElseIsTouched) {
+    struct {
+        const char* code;
+        const char* repaired;
+    } cases[] = {{"00", "01"}, {"25", "01"}, {"24", "24"},
+                 {"  ", "01"}, {"-1", "01"}, {"07", "07"}};
+    for (const auto& one : cases) {
+        rec_gnr record;
+        record.riservato_bd = "di altri";
+        record.riservato_bl = "anche questo";
+        record.formato_gnr = "9";
+        record.righe_alternate = "0";
+        record.codice_iva_base = one.code;
+        store(company, record);
+        load();
+        record.codice_iva_base = one.repaired;
+        const rec_gnr after = stored();
+        EXPECT_EQ(std::memcmp(&after, &record, sizeof after), 0) << one.code;
+    }
+    rec_gnr old;
+    old.formato_gnr = "8";
+    old.codice_iva_base = "04";
+    old.riservato_bd = "resta";
+    store(company, old);
+    load();
+    EXPECT_EQ(stored().righe_alternate.full(), "1");
+    EXPECT_EQ(stored().riservato_bd.trimmed(), "resta");
+}
+
+TEST_F(parameters_test, ShortLongAndStrangeFilesDoNoHarm) {
+    for (const std::size_t size : {0U, 1U, 183U, 345U, 5000U}) {
+        write(company / "vantora.gnr", std::string(size, 'x'));
+        EXPECT_EQ(load().gnr.formato_gnr.full(), "9") << size;
+        EXPECT_EQ(load().gnr.codice_iva_base.full(), "01") << size;
+    }
+    std::filesystem::remove(company / "vantora.gnr");
+    std::filesystem::create_directory(company / "vantora.gnr");
+    EXPECT_EQ(load().gnr.formato_gnr.full(), "9");
+    std::filesystem::remove_all(company);
+    EXPECT_EQ(load().gnr.formato_gnr.full(), "9") << "no folder to save in";
+}
+
+TEST_F(parameters_test, HeadingLinesThatAreMissingStayEmpty) {
+    write(company / "vantora.int", "Ditta\r\nVia Po 1\r\n");
+    const parametri loaded = load();
+    EXPECT_EQ(loaded.intestazione_ditta[1], "Ditta");
+    EXPECT_EQ(loaded.intestazione_ditta[2], "Via Po 1");
+    EXPECT_EQ(loaded.intestazione_ditta[3], "");
+}
+
+TEST_F(parameters_test, NothingIsSavedWhileTheViewIsRestored) {
+    parametri loaded = load();
+    loaded.ripristino_vista = 1;
+    loaded.gnr.vista_registro = std::int16_t{12};
+    salva_parametri(loaded, port);
+    EXPECT_EQ(stored().vista_registro, 0);
+    loaded.ripristino_vista = 0;
+    salva_parametri(loaded, port);
+    EXPECT_EQ(stored().vista_registro, 12);
+}
+
+}  // namespace
+}  // namespace vantora

@@ -1,0 +1,96 @@
+#include "store/values.h"
+
+#include <gtest/gtest.h>
+
+namespace vantora {
+namespace {
+
+valuta lire() {
+    valuta currency;
+    currency.centesimi = false;
+    return currency;
+}
+
+valuta euro(int price_decimals = 2) {
+    valuta currency;
+    currency.decimali_prezzo = price_decimals;
+    return currency;
+}
+
+TEST(values, RoundingAddsItsBiasAndGoesDown) {
+    const std::pair<double, double> in_lire[] = {{10.48, 10},   {10.49, 11}, {10.50, 11},
+                                                 {-10.60, -11}, {0, 0},      {-0.2, 0}};
+    for (const auto& [value, rounded] : in_lire) {
+        EXPECT_EQ(arrotonda_valuta(value, lire()), rounded) << value;
+    }
+    const std::pair<double, double> in_euro[] = {{2.005, 2.01}, {5.555, 5.56}, {-1.006, -1.01}};
+    for (const auto& [value, rounded] : in_euro) {
+        EXPECT_EQ(arrotonda_valuta(value, euro()), rounded) << value;
+    }
+}
+
+TEST(values, PercentagesRoundByTheirOwnBias) {
+    EXPECT_EQ(percentuale_valuta(100, 22, lire()), 22);
+    EXPECT_EQ(percentuale_valuta(100, 22, euro()), 22);
+    EXPECT_EQ(percentuale_valuta(101, 10, lire()), 10);
+    EXPECT_EQ(percentuale_eccesso(101, 10, lire()), 11);
+    EXPECT_EQ(percentuale_eccesso(1001, 20, lire()), 201);
+    EXPECT_EQ(percentuale_valuta(1001, 10, lire()), 100);
+    EXPECT_EQ(percentuale_eccesso(25.65, 20, euro()), 5.13);
+    EXPECT_EQ(percentuale_valuta(30, 10, euro()), 3);
+}
+
+TEST(values, TypedTextsAreItalian) {
+    const std::pair<const char*, double> cases[] = {{" 1.234,56 ", 1234.56},
+                                                    {"12,5", 12.5},
+                                                    {"1.5", 15},
+                                                    {"1..5", 1},
+                                                    {"abc", 0},
+                                                    {"", 0},
+                                                    {".5", 5},
+                                                    {"-1.000", -1000},
+                                                    {"1.,5", 1.5},
+                                                    {"1,2,3", 1.2},
+                                                    {"3.", 3}};
+    for (const auto& [text, value] : cases) EXPECT_EQ(testo_a_numero(text), value) << text;
+}
+
+TEST(values, AmountsAndPricesShowNothingForZero) {
+    EXPECT_EQ(formato_importo(0, lire()), "");
+    EXPECT_EQ(formato_importo(0, euro()), "");
+    EXPECT_EQ(formato_prezzo(0, euro(5)), "");
+    EXPECT_EQ(formato_importo(1234.5, euro()), "1.234,50");
+    EXPECT_EQ(formato_importo(1234, lire()), "1.234");
+    EXPECT_EQ(formato_importo(-0.5, euro()), "-0,50");
+}
+
+TEST(values, PricesShowTheDecimalsOfTheCompany) {
+    const std::pair<int, const char*> cases[] = {
+        {2, "1.234,57"}, {3, "1.234,568"}, {4, "1.234,5679"}, {5, "1.234,56789"}};
+    for (const auto& [decimals, text] : cases) {
+        EXPECT_EQ(formato_prezzo(1234.56789, euro(decimals)), text);
+    }
+    EXPECT_EQ(formato_prezzo(1234.4, lire()), "1.234");
+}
+
+TEST(values, QuantitiesShowDecimalsOnlyIfThereAreAny) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"0", ""}, {"", ""}, {"1500", "1.500"}, {"2.5", "2,50"}, {"2,5", "2"}, {"-3", "-3"}};
+    for (const auto& [text, shown] : cases) EXPECT_EQ(formato_quantita(text), shown) << text;
+}
+
+TEST(values, SettingsComeFromTheirSlotsWhateverStandsThere) {
+    const std::pair<const char*, int> decimals[] = {{"2", 2}, {"3", 3}, {"5", 5}, {"6", 2},
+                                                    {"1", 2}, {"", 2},  {"x", 2}, {"-4", 2}};
+    for (const auto& [slot, expected] : decimals) {
+        parametri parameters;
+        parameters.parametri_valuta[valuta_slot::modo_decimali] = "0";
+        parameters.parametri_valuta[valuta_slot::decimali_prezzo] = slot;
+        const valuta currency(parameters);
+        EXPECT_EQ(currency.decimali_prezzo, expected) << slot;
+        EXPECT_FALSE(currency.centesimi);
+    }
+}
+
+}  // namespace
+}  // namespace vantora

@@ -1,0 +1,136 @@
+#include "ui/grid.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <random>
+
+namespace vantora::ui {
+namespace {
+
+using table = std::vector<std::vector<std::string>>;
+
+table texts_of(const grid& shown) {
+    table all;
+    for (int row = 0; row < shown.rows(); ++row) {
+        auto& cells = all.emplace_back();
+        for (int col = 0; col < shown.cols(); ++col) cells.emplace_back(shown.text(row, col));
+    }
+    return all;
+}
+
+/// A grid of one column with the texts below its head.
+std::vector<std::string> sorted(const std::vector<std::string>& texts, sort_order by) {
+    grid one;
+    one.set_columns({{"capo", 1}});
+    one.set_rows(static_cast<int>(texts.size()) + 1);
+    for (std::size_t i = 0; i < texts.size(); ++i)
+        one.set_text(static_cast<int>(i) + 1, 0, texts[i]);
+    one.sort(0, by);
+    EXPECT_EQ(one.text(0, 0), "capo");
+    std::vector<std::string> result;
+    for (int row = 1; row < one.rows(); ++row) result.emplace_back(one.text(row, 0));
+    return result;
+}
+
+TEST(grid, SortsAsTheSystemsListsDo) {
+    using texts = std::vector<std::string>;
+    const auto generic = sort_order::generic_ascending;
+    EXPECT_EQ(sorted({"10", "9", "-1", "2.5"}, generic), (texts{"-1", "2.5", "9", "10"}));
+    EXPECT_EQ(sorted({"b", "A", "a", "", "C"}, generic), (texts{"", "A", "a", "b", "C"}));
+    EXPECT_EQ(sorted({"rossi", "12", "", "Bianchi"}, generic),
+              (texts{"", "12", "Bianchi", "rossi"}));
+    EXPECT_EQ(sorted({"1.0", "1", "01"}, generic), (texts{"1.0", "1", "01"})) << "equal keys stay";
+    EXPECT_EQ(sorted({"20240105", "", "20231224x", "20240101"}, sort_order::numeric_ascending),
+              (texts{"", "20231224x", "20240101", "20240105"}));
+    // No order holds for all of these pairs; the rows must still all be there.
+    auto mixed = sorted({"2", "10", "1a", "1b", "3", "2", "11"}, generic);
+    std::ranges::sort(mixed);
+    EXPECT_EQ(mixed, (texts{"10", "11", "1a", "1b", "2", "2", "3"}));
+}
+
+TEST(grid, MovesWholeRowsWithTheirColours) {
+    grid one;
+    one.set_columns({{"a", 1}, {"b", 0}});
+    one.set_rows(3);
+    one.set_text(1, 0, "z");
+    one.set_text(1, 1, "hidden");
+    one.set_back_colour(1, 0, 1, 255);
+    one.set_text(2, 0, "a");
+    one.sort(0, sort_order::generic_ascending);
+    EXPECT_EQ(one.text(2, 1), "hidden");
+    EXPECT_EQ(one.back_colour(2, 0), 255U);
+    EXPECT_EQ(one.back_colour(1, 0), white);
+}
+
+/// Random work on a grid against the plainest table that could be.
+TEST(grid, HoldsWhatAPlainTableHolds) {
+    std::mt19937 random(3);
+    grid one;
+    one.set_columns({{"x", 1}, {"y", 1}, {"z", 1}});
+    table plain = {{"x", "y", "z"}};
+    for (int step = 0; step < 20000; ++step) {
+        const int row = static_cast<int>(random() % 70);
+        const int col = static_cast<int>(random() % 4);
+        const std::string text(random() % 90, static_cast<char>('a' + random() % 26));
+        switch (random() % 60) {
+            case 0: {
+                const int rows = static_cast<int>(random() % 60);
+                one.set_rows(rows);
+                plain.resize(static_cast<std::size_t>(std::max(rows, 1)),
+                             std::vector<std::string>(3));
+                break;
+            }
+            case 1:
+                one.sort(1, sort_order::generic_ascending);
+                std::stable_sort(plain.begin() + 1, plain.end(),
+                                 [](const auto& l, const auto& r) { return l[1] < r[1]; });
+                break;
+            default: {
+                const bool inside = row < static_cast<int>(plain.size()) && col < 3;
+                EXPECT_EQ(one.set_text(row, col, text), inside);
+                if (inside)
+                    plain[static_cast<std::size_t>(row)][static_cast<std::size_t>(col)] = text;
+            }
+        }
+        if (step % 500 == 0) {
+            ASSERT_EQ(texts_of(one), plain) << step;
+        }
+    }
+    EXPECT_EQ(texts_of(one), plain);
+}
+
+TEST(grid, KeepsItsPositionsInside) {
+    grid one;
+    one.set_columns({{"a", 1}});
+    one.set_rows(100);
+    one.set_top_row(500);
+    EXPECT_EQ(one.top_row(), 99);
+    EXPECT_TRUE(one.set_row(99));
+    EXPECT_FALSE(one.set_row(100));
+    EXPECT_FALSE(one.set_row(-1));
+    one.set_rows(10);
+    EXPECT_EQ(one.row(), 9);
+    EXPECT_EQ(one.top_row(), 9);
+    one.set_rows(0);
+    EXPECT_EQ(one.rows(), 1) << "the head stays";
+}
+
+TEST(grid, AClickOnTheHeadCountsWithTheCurrentRow) {
+    grid one;
+    one.set_columns({{"a", 1}, {"b", 1}});
+    one.set_rows(5);
+    int clicks = 0;
+    one.on_click = [&] { ++clicks; };
+    EXPECT_TRUE(one.click_cell(3, 1));
+    EXPECT_TRUE(one.click_cell(0, 0));
+    EXPECT_EQ(clicks, 2);
+    EXPECT_EQ(one.row(), 3);
+    EXPECT_EQ(one.mouse_column(), 0);
+    EXPECT_FALSE(one.click_cell(5, 0));
+    EXPECT_FALSE(one.click_cell(1, 2));
+    EXPECT_EQ(clicks, 2);
+}
+
+}  // namespace
+}  // namespace vantora::ui

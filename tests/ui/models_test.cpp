@@ -1,0 +1,153 @@
+#include <gtest/gtest.h>
+
+#include "store/text/code_page.h"
+#include "ui/controls.h"
+
+namespace vantora::ui {
+namespace {
+
+TEST(text_box, FiresOnlyWhenItsTextReallyChanges) {
+    text_box box;
+    int changes = 0;
+    box.on_change = [&] { ++changes; };
+    box.set_text("");
+    box.set_text("a");
+    box.set_text("a");
+    box.set_text("b");
+    EXPECT_EQ(changes, 2);
+}
+
+TEST(text_box, KeysReachTheEventsBeforeTheText) {
+    text_box box;
+    std::string seen;
+    box.on_key_down = [&](key_event& pressed) {
+        seen += "d" + std::to_string(pressed.code) + box.text();
+    };
+    box.on_key_press = [&](key_event& pressed) {
+        seen += "p" + std::to_string(pressed.code) + box.text() + " ";
+        if (pressed.code == 'x') pressed.swallow();
+        if (pressed.code == 'y') pressed.code = 'Z';
+    };
+    box.press_key('A', 'a');
+    box.press_key('X', 'x');
+    box.press_key('Y', 'y');
+    EXPECT_EQ(seen, "d65p97 d88ap120a d89ap121a ");
+    EXPECT_EQ(box.text(), "aZ");
+    box.press_key(key::backspace, static_cast<char>(key::backspace));
+    EXPECT_EQ(box.text(), "a");
+    box.press_key(key::del, {});
+    box.press_key(key::enter, static_cast<char>(key::enter));
+    EXPECT_EQ(box.text(), "a");
+
+    box.on_key_down = [](key_event& pressed) { pressed.swallow(); };
+    seen.clear();
+    box.press_key('B', 'b');
+    EXPECT_EQ(seen, "") << "a key swallowed on its way down is not pressed";
+    EXPECT_EQ(box.text(), "a");
+}
+
+TEST(check_box, ClicksWheneverItsMarkChanges) {
+    check_box box;
+    int clicks = 0;
+    box.on_click = [&] { ++clicks; };
+    box.set_on(false);
+    box.set_on(true);
+    box.set_on(true);
+    box.toggle();
+    EXPECT_EQ(clicks, 2);
+    EXPECT_FALSE(box.on());
+}
+
+TEST(option_button, OnlyTheOneThatGoesOnFires) {
+    option_button options[3];
+    option_group group;
+    group.join(options);
+    options[0].design_on(true);
+    std::string fired;
+    for (int i = 0; i < 3; ++i) options[i].on_click = [&, i] { fired += std::to_string(i); };
+    options[1].set_on(true);
+    options[1].choose();
+    options[2].choose();
+    options[2].press_key(key::up, {});
+    EXPECT_EQ(fired, "121");
+    EXPECT_FALSE(options[0].on());
+    EXPECT_TRUE(options[1].on());
+    EXPECT_FALSE(options[2].on());
+}
+
+TEST(list, ChoosingFiresByCodeOnlyForAnotherEntryByHandAlways) {
+    drop_down list;
+    int clicks = 0;
+    list.on_click = [&] { ++clicks; };
+    list.add_all({"uno", "due"});
+    EXPECT_EQ(list.chosen(), -1);
+    EXPECT_TRUE(list.choose(1));
+    EXPECT_TRUE(list.choose(1));
+    EXPECT_EQ(clicks, 1);
+    EXPECT_TRUE(list.pick(1));
+    EXPECT_EQ(clicks, 2);
+    EXPECT_FALSE(list.choose(2));
+    EXPECT_FALSE(list.choose(-2));
+    EXPECT_FALSE(list.pick(-1));
+    EXPECT_EQ(list.text(), "due");
+    list.clear();
+    EXPECT_EQ(list.chosen(), -1);
+    EXPECT_EQ(list.text(), "");
+    EXPECT_EQ(clicks, 2);
+}
+
+TEST(sorted_list, OrdersByTheAlphabetWithoutRegardToCase) {
+    const std::vector<std::string> given = {"zeta", "Élite"_cp, "eco", "Fine",   "10",
+                                            "2",    "-x",       "Eco", "ùva"_cp, "uva"};
+    const std::vector<std::string> expected = {"-x",       "10",   "2",   "eco",    "Eco",
+                                               "Élite"_cp, "Fine", "uva", "ùva"_cp, "zeta"};
+    sorted_list_box one_by_one;
+    for (const auto& item : given) one_by_one.add(item);
+    EXPECT_EQ(one_by_one.items(), expected);
+    sorted_list_box at_once;
+    at_once.add_all(given);
+    EXPECT_EQ(at_once.items(), expected);
+
+    one_by_one.choose(5);
+    one_by_one.add("dado");
+    EXPECT_EQ(one_by_one.text(), "Élite"_cp) << "the choice follows the sorting";
+}
+
+TEST(scroll_bar, LimitsPullItsValueInside) {
+    scroll_bar bar;
+    std::vector<int> seen;
+    bar.on_change = [&] { seen.push_back(bar.value()); };
+    bar.set_limits(1, 10);
+    EXPECT_FALSE(bar.set_value(11));
+    EXPECT_TRUE(bar.set_value(10));
+    EXPECT_TRUE(bar.drag(10));
+    bar.set_limits(1, 4);
+    bar.set_limits(1, 0);
+    EXPECT_EQ(seen, (std::vector<int>{1, 10, 4, 1}));
+}
+
+TEST(progress_bar, RefusesWhatIsOutsideItsRange) {
+    progress_bar bar;
+    EXPECT_FALSE(bar.set_range(1, 1));
+    EXPECT_TRUE(bar.set_range(1, 5));
+    EXPECT_EQ(bar.value(), 1);
+    EXPECT_FALSE(bar.set_value(6));
+    EXPECT_TRUE(bar.set_value(5));
+}
+
+TEST(date_picker, TakesOnlyDaysOfTheCalendar) {
+    date_picker picker;
+    int changes = 0;
+    int closings = 0;
+    picker.on_change = [&] { ++changes; };
+    picker.on_close_up = [&] { ++closings; };
+    EXPECT_FALSE(picker.set_value({2023, 2, 29}));
+    EXPECT_TRUE(picker.set_value({2024, 2, 29}));
+    EXPECT_TRUE(picker.choose({2024, 2, 29}));
+    EXPECT_EQ(changes, 1);
+    EXPECT_EQ(closings, 1);
+    EXPECT_EQ(picker.text(), "29/02/2024");
+}
+
+}  // namespace
+}  // namespace vantora::ui

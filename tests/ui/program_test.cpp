@@ -1,0 +1,86 @@
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <fstream>
+#include <nlohmann/json.hpp>
+
+#include "demo/company.h"
+#include "support/scratch_folder.h"
+
+namespace vantora {
+namespace {
+
+using nlohmann::json;
+
+struct outcome {
+    std::vector<json> replies;
+    int exit_code = 0;
+};
+
+/// Runs the scripted program on a drive, as from a shell.
+outcome run(const std::string& arguments, const std::vector<std::string>& commands) {
+    test::scratch_folder folder;
+    const auto script = folder.path() / "comandi";
+    std::ofstream(script) << [&] {
+        std::string all;
+        for (const auto& command : commands) all += command + "\n";
+        return all;
+    }();
+    const std::string line =
+        std::string(SCRIPT_PROGRAM) + " " + arguments + " <" + script.string() + " 2>/dev/null";
+    outcome result;
+    std::FILE* pipe = ::popen(line.c_str(), "r");
+    std::string output;
+    char part[4096];
+    while (const std::size_t got = std::fread(part, 1, sizeof part, pipe)) output.append(part, got);
+    result.exit_code = ::pclose(pipe) >> 8;
+    std::stringstream lines(output);
+    for (std::string reply; std::getline(lines, reply);)
+        result.replies.push_back(json::parse(reply));
+    return result;
+}
+
+TEST(vantora_script, ServesASessionOnADemonstrationCompany) {
+    test::scratch_folder folder;
+    demo::demo_request request;
+    request.numero_azienda = 7;
+    request.orders = 40;
+    request.articles = 30;
+    request.customers = 20;
+    demo::make_company(request, folder.path());
+    const std::string arguments =
+        "--drive " + folder.path().string() + " --clock \"2024-05-06 10:20:30\" ordini007";
+
+    const outcome first =
+        run(arguments, {"click mirorc.selvis(0)", "click mirorc.visua(0)", "get mirorc.elenco",
+                        "click mirorc.srx(3)", "rows mirorc.elenco 1 40", "click mirorc.srtt(1)",
+                        "answer no", "answer yes", "get mirorc.elenco", "click mirorc.bottone(0)"});
+    ASSERT_EQ(first.replies.size(), 10U);
+    EXPECT_EQ(first.exit_code, 0);
+    EXPECT_EQ(first.replies[2]["value"]["rows"], 41);
+    int deleted = 0;
+    for (const json& row : first.replies[4]["value"]) deleted += row[3] == "Ordine eliminato";
+    EXPECT_EQ(first.replies[8]["value"]["rows"], std::max(26, 41 - deleted));
+    EXPECT_EQ(first.replies[9]["ended"], "exit");
+
+    // What the first run left is there for the second one.
+    const outcome second = run(arguments, {"rows mirorc.elenco", "get mirorc.selvis(0)",
+                                           "click mirorc.bottone(2)", "get mirorcx.Text3(1)"});
+    EXPECT_EQ(second.replies[0]["value"].size(),
+              static_cast<std::size_t>(std::max(26, 41 - deleted)));
+    EXPECT_EQ(second.replies[1]["value"]["on"], true);
+    EXPECT_EQ(second.replies[3]["value"]["text"], "06/05/2024");
+}
+
+TEST(vantora_script, StartsOnAnythingAndRefusesWrongOptions) {
+    test::scratch_folder folder;
+    const std::string drive = "--drive " + folder.path().string();
+    EXPECT_EQ(run(drive, {"get mirorc.elenco"}).replies[0]["value"]["rows"], 26);
+    EXPECT_EQ(run(drive + " x", {}).exit_code, 0);
+    EXPECT_EQ(run("--drive /nessuna/cartella ordini001", {}).exit_code, 2);
+    EXPECT_EQ(run(drive + " --clock ieri ordini001", {}).exit_code, 2);
+    EXPECT_EQ(run(drive + " --sconosciuta", {}).exit_code, 2);
+}
+
+}  // namespace
+}  // namespace vantora
