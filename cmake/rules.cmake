@@ -6,7 +6,9 @@ target_compile_options(vantora_rules INTERFACE -Wall -Wextra -Wpedantic -Wshadow
                                                -Wnon-virtual-dtor -Woverloaded-virtual -Werror)
 if(VANTORA_SANITIZE)
   target_compile_options(vantora_rules INTERFACE -fsanitize=address,undefined
-                                                 -fno-sanitize-recover=all -fno-omit-frame-pointer)
+                                                 -fno-sanitize-recover=all -fno-omit-frame-pointer
+                                                 # the instrumented code misleads this warning
+                                                 -Wno-maybe-uninitialized)
   target_link_options(vantora_rules INTERFACE -fsanitize=address,undefined)
 endif()
 

@@ -29,7 +29,8 @@ std::int16_t bisect(const channel<Entry>& index, std::int16_t count, std::string
         const std::string key = how == matching::by_prefix
                                     ? upper(entry.chiave.full().substr(0, text.size()))
                                     : upper(entry.chiave.trimmed());
-        if (key == text) return static_cast<std::int16_t>(medio);
+        // A damaged count leads to positions that no entry has.
+        if (key == text) return static_cast<std::int16_t>(std::max(medio, 0));
         if (key > text) {
             alto = medio;
         } else {

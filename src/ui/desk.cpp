@@ -9,7 +9,9 @@ namespace vantora::ui {
 desk::desk(front_end& front, ui::clock& time, ui::printer& paper, ui::launcher& programs)
     : front_(front), clock_(time), printer_(paper), launcher_(programs) {}
 
-desk::~desk() = default;
+desk::~desk() {
+    for (const auto& one : loaded_) front_.form_unloaded(*one);
+}
 
 std::vector<form*> desk::forms() const {
     std::vector<form*> all;

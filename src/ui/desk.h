@@ -34,6 +34,7 @@ struct answered_box {
 /// to wait; front ends call it to pass on what the user does.
 class desk {
  public:
+    /// REQUIRES: all of these outlive the desk.
     desk(front_end& front, ui::clock& time, ui::printer& paper, ui::launcher& programs);
     desk(const desk&) = delete;
     desk& operator=(const desk&) = delete;

@@ -109,6 +109,7 @@ TEST_F(key_index, DamagedCountsNeitherHangNorReadWildly) {
         const int found = cerca_nominativo(index, static_cast<std::int16_t>(count), "zeta");
         EXPECT_EQ(found, 0) << count;
         EXPECT_LE(counted.reads, 18U) << count;
+        EXPECT_GE(cerca_nominativo(index, static_cast<std::int16_t>(count), ""), 0) << count;
     }
     EXPECT_EQ(cerca_nominativo(channel<rec_src>(), 100, "alfa"), 0) << "a closed channel";
 }

@@ -18,6 +18,9 @@ constexpr std::string_view deleted_mark = "~";
 /// Code of the exemption for goods that customers export themselves.
 constexpr std::int16_t exporter_vat_code = 16;
 
+/// Leaves room for the mark.
+constexpr std::size_t longest_name = decltype(rec_cli::intestazione1)::width - 1;
+
 struct person {
     std::string_view surname;
     std::string_view given_name;
@@ -108,8 +111,11 @@ void set_trade_terms(rec_cli& one, draws& chance) {
 std::string firm_name(draws& chance, const person& owner) {
     const std::string surname(owner.surname);
     const std::string form(chance.one_of(company_forms));
-    if (chance.percent(25)) return "F.lli " + surname + " " + form;
-    return std::string(chance.one_of(trades)) + " " + surname + " " + form;
+    const std::string firm = chance.percent(25)
+                                 ? "F.lli " + surname
+                                 : std::string(chance.one_of(trades)) + " " + surname;
+    const std::string whole = firm + " " + form;
+    return from_utf8(whole).size() <= longest_name ? whole : firm;
 }
 
 void set_name_and_tax_codes(rec_cli& one, draws& chance, const person& owner) {

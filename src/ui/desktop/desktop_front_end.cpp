@@ -36,12 +36,20 @@ desktop_front_end::desktop_front_end() {
     since_events_.start();
 }
 
-desktop_front_end::~desktop_front_end() = default;
+desktop_front_end::~desktop_front_end() {
+    // The windows of the last screens wait for their end.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
 
 // Waiting -----------------------------------------------------------------------------------------
 
 void desktop_front_end::run() {
     run_until([this] { return next_step_ == nullptr && desk_->ended().has_value(); });
+}
+
+void desktop_front_end::end_by_user() {
+    desk_->stop();
+    leave_finished_waits();
 }
 
 void desktop_front_end::run_until(const std::function<bool()>& done) {

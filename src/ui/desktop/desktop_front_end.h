@@ -33,6 +33,8 @@ class desktop_front_end final : public front_end {
 
     /// Serves the user until the program ends.
     void run();
+    /// Ends the program from outside, as when the user logs off.
+    void end_by_user();
 
     /// The window in front, for a picture of it; null if there is none.
     [[nodiscard]] QWidget* front_window() const;

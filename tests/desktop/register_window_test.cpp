@@ -1,0 +1,164 @@
+#include <gtest/gtest.h>
+
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QRadioButton>
+#include <QTableView>
+
+#include "app/start.h"
+#include "register/mirorc.h"
+#include "scripted/small_company.h"
+#include "store/drive.h"
+#include "window_bench.h"
+
+namespace vantora::ui::desktop {
+namespace {
+
+/// The register on a company with three orders, of which the second is deleted.
+class register_window : public testing::Test {
+ protected:
+    register_window() {
+        company.customers(
+            {vantora::test::customer_named("Zeta"), vantora::test::customer_named("Alfa")});
+        for (int i = 1; i <= 3; ++i) {
+            rec_orc row{};
+            row.numero = std::to_string(i);
+            row.data = "20240101";
+            row.data_evasione = "20240201";
+            row.cliente = static_cast<std::int16_t>(i == 1 ? 1 : 2);
+            row.testo1 = "Perché no"_cp;
+            row.annullato = static_cast<std::int16_t>(i == 2);
+            company.files.orc.write(block_record(i, 1), row);
+        }
+        company.counter(contatori::ordini, 3);
+    }
+    void run(std::vector<std::function<void()>> steps) {
+        bench.run([this] { start(app, "ordini001"); }, std::move(steps));
+    }
+    QTableView* table() { return bench.find<QTableView>("elenco"); }
+    QString cell(int row, int col) { return table()->model()->index(row, col).data().toString(); }
+    QMessageBox* box() { return qobject_cast<QMessageBox*>(bench.front.front_window()); }
+
+    vantora::test::small_company company;
+    drive files{company.drive()};
+    test::window_bench bench;
+    program app{files, bench.desk};
+};
+
+TEST_F(register_window, ShowsTheOrdersAndSortsThemByItsButtons) {
+    run({[&] {
+             EXPECT_EQ(bench.front.front_window()->windowTitle(), "Gestione ordini clienti");
+             EXPECT_EQ(table()->model()->rowCount(), 25);
+             EXPECT_EQ(cell(0, 4), "Perché no");
+             EXPECT_EQ(cell(1, 3), "Ordine eliminato");
+             EXPECT_TRUE(table()->isColumnHidden(8));
+             EXPECT_EQ(table()->model()->headerData(5, Qt::Horizontal).toString(), "Evasione");
+             bench.press_button("srx(3)");
+         },
+         [&] {
+             EXPECT_EQ(cell(0, 3), "Alfa");
+             EXPECT_TRUE(table()->hasFocus());
+             // The sort buttons stand above their columns.
+             for (const int col : {0, 2, 4}) {
+                 auto* button = bench.find(("srx(" + std::to_string(col) + ")").c_str());
+                 const int left = table()->viewport()->mapTo(table()->window(), QPoint()).x() +
+                                  table()->columnViewportPosition(col);
+                 const int at = button->mapTo(button->window(), QPoint()).x();
+                 EXPECT_NEAR(at, left, 2) << col;
+                 EXPECT_NEAR(button->width(), table()->columnWidth(col), 4) << col;
+             }
+         }});
+}
+
+TEST_F(register_window, RowsOpenByClickAndByEnter) {
+    run({[&] {
+             const QRect row = table()->visualRect(table()->model()->index(1, 3));
+             QTest::mouseClick(table()->viewport(), Qt::LeftButton, {}, row.center());
+         },
+         [&] {
+             ASSERT_TRUE(box());
+             EXPECT_EQ(box()->text(), "Ordine annullato");
+             QTest::keyClick(box(), Qt::Key_Return);
+         },
+         [&] {
+             EXPECT_FALSE(box());
+             QTest::keyClick(table(), Qt::Key_Up);
+             EXPECT_EQ(app.mirorc->elenco.row(), 1);
+             QTest::keyClick(table(), Qt::Key_Down);
+             QTest::keyClick(table(), Qt::Key_Return);
+         },
+         [&] {
+             ASSERT_TRUE(box());
+             QTest::keyClick(box(), Qt::Key_Escape);
+         },
+         [&] {
+             EXPECT_FALSE(box());
+             EXPECT_EQ(app.selezione_1, 2);
+         }});
+}
+
+TEST_F(register_window, OptionsChangeTheViewByMouseAndKeyboard) {
+    run({[&] {
+        QTest::mouseClick(bench.find("selvis(1)"), Qt::LeftButton, {}, QPoint(8, 8));
+        EXPECT_TRUE(bench.find<QRadioButton>("selvis(1)")->isChecked());
+        EXPECT_FALSE(bench.find<QRadioButton>("selvis(0)")->isChecked());
+        EXPECT_EQ(app.parameters.gnr.vista_registro, 1);
+        QTest::keyClick(bench.find("selvis(1)"), Qt::Key_Down);
+        EXPECT_EQ(app.parameters.gnr.vista_registro, 2);
+        EXPECT_TRUE(bench.find<QRadioButton>("selvis(2)")->isChecked());
+    }});
+}
+
+TEST_F(register_window, CompactsAfterItsTwoQuestions) {
+    run({[&] { QTest::mouseClick(bench.find("srtt(1)"), Qt::LeftButton); },
+         [&] {
+             ASSERT_TRUE(box());
+             EXPECT_EQ(box()->windowTitle(), "Compattazione archivio");
+             QTest::keyClick(box(), Qt::Key_Escape);
+         },
+         [&] {
+             ASSERT_TRUE(box());
+             EXPECT_EQ(box()->text(), "Confermi?");
+             QTest::keyClick(box(), Qt::Key_Return);
+         },
+         [&] {
+             EXPECT_FALSE(box());
+             EXPECT_EQ(cell(1, 1), "3");
+             EXPECT_TRUE(bench.find("bottone(2)")->isVisible());
+             EXPECT_FALSE(bench.find("srt")->isVisible());
+         }});
+}
+
+TEST_F(register_window, ClosingItEndsTheProgram) {
+    run({[&] { bench.front.front_window()->close(); }});
+    ASSERT_TRUE(bench.desk.ended().has_value());
+    EXPECT_FALSE(app.archives.tot.is_open());
+}
+
+TEST_F(register_window, ANewOrderIsTakenByTheKeyboard) {
+    run({[&] { bench.press_button("bottone(2)"); },
+         [&] {
+             QWidget* name = bench.find("nome");
+             EXPECT_TRUE(name->hasFocus());
+             QTest::keyClicks(name, "zet");
+             QTest::keyClick(name, Qt::Key_Return);
+             EXPECT_EQ(app.mirorcx.use().name(), "mirorcx");
+         },
+         [&] {
+             EXPECT_EQ(bench.find<QLineEdit>("Text2(0)")->text(), "Zeta");
+             QTest::keyClick(bench.find("Text2(0)"), Qt::Key_Return);
+             EXPECT_TRUE(bench.find("Text2(1)")->hasFocus());
+             bench.press_button("b_lista");
+         },
+         [&] {
+             EXPECT_EQ(bench.front.front_window()->objectName(), "mirsel");
+             EXPECT_EQ(bench.front.front_window()->windowModality(), Qt::ApplicationModal);
+             bench.press_button("indice");
+         },
+         [&] { bench.press_button("bottone"); },
+         [&] { EXPECT_EQ(bench.front.front_window()->objectName(), "mirorcs"); }});
+}
+
+}  // namespace
+}  // namespace vantora::ui::desktop

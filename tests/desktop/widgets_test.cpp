@@ -1,0 +1,144 @@
+#include <gtest/gtest.h>
+
+#include <QComboBox>
+#include <QDateEdit>
+#include <QLineEdit>
+#include <QListView>
+#include <QScrollBar>
+
+#include "store/text/code_page.h"
+#include "ui/controls.h"
+#include "window_bench.h"
+
+namespace vantora::ui::desktop {
+namespace {
+
+/// A screen without a layout of its own.
+class trial final : public form {
+ public:
+    explicit trial(ui::desk& on) : form(on, "prova", "Prova") {
+        add("testo", testo);
+        add("altro", altro);
+        add("spunta", spunta);
+        add("tendina", tendina);
+        add("lista", lista);
+        add("barra", barra);
+        add("data", data);
+        tendina.add_all({"uno", "due", "tre"});
+        std::vector<std::string> many;
+        for (int i = 0; i < 32767; ++i) many.push_back("voce " + std::to_string(i));
+        lista.add_all(many);
+        barra.set_limits(1, 100);
+        barra.set_value(1);
+    }
+
+    text_box testo;
+    text_box altro;
+    check_box spunta;
+    drop_down tendina;
+    sorted_list_box lista;
+    scroll_bar barra;
+    date_picker data;
+};
+
+class widgets : public testing::Test {
+ protected:
+    void run(std::vector<std::function<void()>> steps) {
+        bench.run(
+            [this] {
+                auto made = std::make_unique<trial>(bench.desk);
+                screen = made.get();
+                bench.desk.load(std::move(made)).show();
+            },
+            std::move(steps));
+    }
+
+    test::window_bench bench;
+    trial* screen = nullptr;
+};
+
+TEST_F(widgets, KeysGoToTheEventsFirstAndMayBeSwallowed) {
+    run({[&] {
+        std::string log;
+        screen->testo.on_key_press = [&](key_event& pressed) {
+            log += screen->testo.text() + "<" + static_cast<char>(pressed.code) + " ";
+            if (pressed.code == 'x') pressed.swallow();
+        };
+        screen->testo.on_change = [&] { log += "=" + screen->testo.text() + " "; };
+        QTest::keyClicks(bench.find("testo"), "axb");
+        EXPECT_EQ(log, "<a =a a<x a<b =ab ");
+        EXPECT_EQ(bench.find<QLineEdit>("testo")->text(), "ab");
+        QTest::keyClick(bench.find("testo"), Qt::Key_Home);
+        for (const char* typed : {"è", "€"}) {
+            QTest::sendKeyEvent(QTest::Click, bench.find("testo"), Qt::Key_unknown,
+                                QString::fromUtf8(typed), Qt::NoModifier);
+        }
+        EXPECT_EQ(screen->testo.text(), "è€ab"_cp) << "the cursor is the widget's business";
+        screen->testo.set_text("da fuori");
+        EXPECT_EQ(bench.find<QLineEdit>("testo")->text(), "da fuori");
+    }});
+}
+
+TEST_F(widgets, FocusFollowsBothWays) {
+    run({[&] {
+        EXPECT_EQ(bench.desk.focus(), &screen->testo);
+        QTest::keyClick(bench.find("testo"), Qt::Key_Tab);
+        EXPECT_EQ(bench.desk.focus(), &screen->altro);
+        bench.desk.dispatch([&] { screen->testo.set_focus(); });
+        EXPECT_TRUE(bench.find("testo")->hasFocus());
+        screen->altro.on_focus = [&] { screen->spunta.set_focus(); };
+        bench.find("altro")->setFocus();
+        EXPECT_TRUE(bench.find("spunta")->hasFocus()) << "the screen sent it on";
+        screen->testo.set_enabled(false);
+        EXPECT_FALSE(bench.find("testo")->isEnabled());
+    }});
+}
+
+TEST_F(widgets, ListsPickAStepAKey) {
+    run({[&] {
+        std::string picks;
+        screen->tendina.on_click = [&] { picks += std::to_string(screen->tendina.chosen()); };
+        bench.find("tendina")->setFocus();
+        QTest::keyClick(bench.find("tendina"), Qt::Key_Down);
+        QTest::keyClick(bench.find("tendina"), Qt::Key_Down);
+        QTest::keyClick(bench.find("tendina"), Qt::Key_Up);
+        EXPECT_EQ(picks, "010");
+        EXPECT_EQ(bench.find<QComboBox>("tendina")->currentText(), "uno");
+
+        screen->lista.choose(32000);
+        auto* list = bench.find<QListView>("lista");
+        EXPECT_EQ(list->model()->rowCount(), 32767);
+        EXPECT_EQ(list->currentIndex().row(), 32000);
+        QTest::keyClick(list, Qt::Key_Down);
+        EXPECT_EQ(screen->lista.chosen(), 32001);
+    }});
+}
+
+TEST_F(widgets, ValuesFollowBothWays) {
+    run({[&] {
+        int changes = 0;
+        screen->barra.on_change = [&] { ++changes; };
+        bench.find<QScrollBar>("barra")->setValue(40);
+        EXPECT_EQ(screen->barra.value(), 40);
+        screen->barra.set_value(50);
+        EXPECT_EQ(bench.find<QScrollBar>("barra")->value(), 50);
+        EXPECT_EQ(changes, 2);
+        screen->data.set_value({2024, 2, 29});
+        EXPECT_EQ(bench.find<QDateEdit>("data")->text(), "29/02/2024");
+        bench.find<QDateEdit>("data")->setDate(QDate(2025, 3, 4));
+        EXPECT_EQ(screen->data.text(), "04/03/2025");
+        QTest::keyClick(bench.find("spunta"), Qt::Key_Space);
+        EXPECT_TRUE(screen->spunta.on());
+    }});
+}
+
+TEST_F(widgets, AScreenMayGoInTheMidstOfItsOwnEvent) {
+    run({[&] {
+             screen->testo.on_change = [&] { screen->unload(); };
+             QTest::keyClicks(bench.find("testo"), "a");
+         },
+         [&] { EXPECT_TRUE(bench.desk.forms().empty()); }});
+}
+
+}  // namespace
+}  // namespace vantora::ui::desktop

@@ -1,0 +1,76 @@
+#pragma once
+
+#include <QApplication>
+#include <QTest>
+#include <QTimer>
+#include <QToolButton>
+
+#include "ui/desk.h"
+#include "ui/desktop/desktop_front_end.h"
+#include "ui/desktop/style.h"
+#include "ui/script/bench_ports.h"
+
+namespace vantora::ui::desktop::test {
+
+/// The one application object of all tests of this program.
+inline QApplication& application() {
+    static int count = 1;
+    static char name[] = "desktop_test";
+    static char* arguments[] = {name, nullptr};
+    static QApplication* one = [] {
+        auto* made = new QApplication(count, arguments);
+        QApplication::setQuitOnLastWindowClosed(false);
+        dress_application(*made);
+        return made;
+    }();
+    return *one;
+}
+
+/// A desk behind real windows. What the user does is prepared in steps, each of which runs when
+/// the program waits; the last one done, the program ends.
+class window_bench {
+ public:
+    window_bench() { front.begin(desk); }
+
+    void run(const std::function<void()>& begin, std::vector<std::function<void()>> steps) {
+        steps_ = std::move(steps);
+        come_back();
+        desk.dispatch(begin);
+        front.run();
+    }
+
+    /// A widget of the active window, by its control's address.
+    template <class Widget = QWidget>
+    Widget* find(const char* address) {
+        return front.front_window()->findChild<Widget*>(address);
+    }
+    void press_button(const char* address) { QTest::mouseClick(find(address), Qt::LeftButton); }
+
+    local_clock time;
+    script::recording_printer paper;
+    script::recording_launcher programs;
+    desktop_front_end front;
+    ui::desk desk{front, time, paper, programs};
+
+ private:
+    // Each step calls for the next before it runs, since it may itself wait for that one.
+    void come_back() {
+        QTimer::singleShot(5, &here_, [this] { next_step(); });
+    }
+    void next_step() {
+        if (desk.ended()) return;
+        come_back();
+        const QWidget* window = front.front_window();
+        if (window && !window->isActiveWindow()) return;
+        if (next_ == steps_.size()) return front.end_by_user();
+        const auto step = steps_[next_++];
+        step();
+    }
+
+    QApplication& application_ = application();
+    std::vector<std::function<void()>> steps_;
+    std::size_t next_ = 0;
+    QObject here_;
+};
+
+}  // namespace vantora::ui::desktop::test

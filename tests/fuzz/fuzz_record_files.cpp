@@ -1,0 +1,99 @@
+// Whatever bytes stand in the record files, the register opens, sorts and compacts, and the
+// searches end.
+
+#include <cstdlib>
+#include <cstring>
+#include <fstream>
+
+#include "app/start.h"
+#include "fuzz/fuzz_driver.h"
+#include "register/mirorc.h"
+#include "store/drive.h"
+#include "store/key_index.h"
+#include "support/scratch_folder.h"
+#include "ui/script/bench_ports.h"
+
+namespace {
+
+using namespace vantora;
+
+class yes_sayer final : public ui::front_end {
+    void run_until(const std::function<bool()>&) override {}
+    void let_events_run() override {}
+};
+
+constexpr std::size_t counters_size = 17 * sizeof(rec_tot);
+constexpr std::size_t orders_size = 3 * righe_blocco * sizeof(rec_orc);
+
+/// The input as counters, orders, and for the rest customers and their index.
+void write_files(const std::filesystem::path& company, const std::string& input) {
+    const auto part = [&](const char* name, std::size_t begin, std::size_t size) {
+        std::ofstream out(company / name, std::ios::binary);
+        if (begin < input.size()) out << input.substr(begin, size);
+    };
+    part("vantora.tot", 0, counters_size);
+    part("vantora.orc", counters_size, orders_size);
+    part("vantora.cli", counters_size + orders_size, std::string::npos);
+    part("vantora.src", counters_size + orders_size, std::string::npos);
+    part("vantora.gnr", 0, 346);
+}
+
+void require(bool holds) {
+    if (!holds) std::abort();
+}
+
+}  // namespace
+
+std::vector<std::string> fuzz_seeds() {
+    std::vector<std::string> seeds;
+    for (const int orders : {3, 1000, -1, 0}) {
+        std::vector<rec_tot> counters(17);
+        counters[contatori::ordini - 1].quanti = static_cast<std::int16_t>(orders);
+        counters[contatori::clienti - 1].quanti = 2;
+        std::vector<rec_orc> rows(3 * righe_blocco);
+        rows[200].annullato = 1;
+        for (auto& row : rows) row.cliente = 1;
+        std::vector<rec_cli> customers(2);
+        customers[0].intestazione1 = "ROSSI";
+        std::string seed(reinterpret_cast<const char*>(counters.data()), counters_size);
+        seed.append(reinterpret_cast<const char*>(rows.data()), orders_size);
+        seed.append(reinterpret_cast<const char*>(customers.data()), 2 * sizeof(rec_cli));
+        seeds.push_back(seed);
+    }
+    seeds.emplace_back();
+    return seeds;
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    test::scratch_folder folder;
+    const auto company = folder.path() / "mirwin/mirwin/miraz0.001";
+    std::filesystem::create_directories(company);
+    write_files(company, std::string(reinterpret_cast<const char*>(data), size));
+
+    drive files(folder.path());
+    yes_sayer front;
+    ui::local_clock time;
+    ui::script::recording_printer paper;
+    ui::script::recording_launcher programs;
+    ui::desk desk(front, time, paper, programs);
+    program app(files, desk);
+    desk.dispatch([&] { start(app, "ordini001"); });
+    require(!desk.ended().has_value());
+
+    ui::grid& list = app.mirorc->elenco;
+    require(list.rows() >= 26 && list.rows() <= 31999);
+    for (auto& button : app.mirorc->srx) desk.dispatch([&] { button.click(); });
+    desk.queue_answer(ui::answer::yes);
+    desk.queue_answer(ui::answer::yes);
+    rec_tot counter;
+    app.archives.tot.read(contatori::ordini, counter);
+    // A count far beyond the file only costs time here.
+    if (counter.quanti < 50) desk.dispatch([&] { app.mirorc->srtt[0].click(); });
+    app.archives.tot.read(contatori::clienti, counter);
+    for (const char* name : {"", "R", "\xFF"}) {
+        const int found = cerca_nominativo(app.archives.src, counter.quanti, name);
+        require(found >= 0 && found <= 32767);
+    }
+    require(!desk.ended().has_value());
+    return 0;
+}
