@@ -28,10 +28,10 @@ endfunction()
 
 # One test program per folder of tests.
 function(vantora_test name)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINKS;ENVIRONMENT")
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINKS")
   add_executable(${name} ${arg_SOURCES})
   target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
   target_link_libraries(${name} PRIVATE vantora_rules ${arg_LINKS} GTest::gtest_main)
   gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60
-                       PROPERTIES TIMEOUT 300 ENVIRONMENT "${arg_ENVIRONMENT}")
+                       PROPERTIES TIMEOUT 300)
 endfunction()

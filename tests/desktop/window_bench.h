@@ -18,6 +18,7 @@ inline QApplication& application() {
     static char name[] = "desktop_test";
     static char* arguments[] = {name, nullptr};
     static QApplication* one = [] {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
         auto* made = new QApplication(count, arguments);
         QApplication::setQuitOnLastWindowClosed(false);
         dress_application(*made);

@@ -16,7 +16,7 @@ template <class Model, class Widget>
 class choice_binder final : public widget_binder {
  public:
     choice_binder(Model& model, QWidget* parent, const user_action& act, void (Model::*clicked)())
-        : widget_binder(model, button_ = new Widget(parent), act), model_(model) {
+        : widget_binder(model, new Widget(parent), act), button_(as<Widget>()), model_(model) {
         button_->setAutoExclusive(false);
         connect(button_, &QAbstractButton::clicked, this, [this, clicked] {
             this->act([this, clicked] { (model_.*clicked)(); });

@@ -68,7 +68,8 @@ class cells_model final : public QAbstractTableModel {
 class grid_binder final : public widget_binder {
  public:
     grid_binder(grid& model, QWidget* parent, const user_action& act)
-        : widget_binder(model, view_ = new grid_view(model, parent), act),
+        : widget_binder(model, new grid_view(model, parent), act),
+          view_(as<grid_view>()),
           model_(model),
           cells_(new cells_model(model, view_)) {
         view_->setModel(cells_);

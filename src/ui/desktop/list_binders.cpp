@@ -36,7 +36,8 @@ class entries_model final : public QAbstractListModel {
 class list_box_binder final : public widget_binder {
  public:
     list_box_binder(list_control& model, QWidget* parent, const user_action& act)
-        : widget_binder(model, view_ = new QListView(parent), act),
+        : widget_binder(model, new QListView(parent), act),
+          view_(as<QListView>()),
           model_(model),
           entries_(new entries_model(model, view_)) {
         view_->setModel(entries_);
@@ -69,7 +70,8 @@ class list_box_binder final : public widget_binder {
 class drop_down_binder final : public widget_binder {
  public:
     drop_down_binder(list_control& model, QWidget* parent, const user_action& act)
-        : widget_binder(model, box_ = new QComboBox(parent), act),
+        : widget_binder(model, new QComboBox(parent), act),
+          box_(as<QComboBox>()),
           model_(model),
           entries_(new entries_model(model, box_)) {
         box_->setModel(entries_);

@@ -15,7 +15,7 @@ namespace {
 class text_box_binder final : public widget_binder {
  public:
     text_box_binder(text_box& model, QWidget* parent, const user_action& act)
-        : widget_binder(model, edit_ = new QLineEdit(parent), act), model_(model) {
+        : widget_binder(model, new QLineEdit(parent), act), edit_(as<QLineEdit>()), model_(model) {
         connect(edit_, &QLineEdit::textEdited, this, [this](const QString& text) {
             this->act([&] { model_.set_text(taken(text)); });
             show_again(aspect::text);
@@ -39,7 +39,7 @@ class text_box_binder final : public widget_binder {
 class label_binder final : public widget_binder {
  public:
     label_binder(label& model, QWidget* parent, const user_action& act)
-        : widget_binder(model, label_ = new QLabel(parent), act), model_(model) {
+        : widget_binder(model, new QLabel(parent), act), label_(as<QLabel>()), model_(model) {
         show_all();
     }
 
@@ -59,7 +59,9 @@ class label_binder final : public widget_binder {
 class button_binder final : public widget_binder {
  public:
     button_binder(button& model, QWidget* parent, const user_action& act)
-        : widget_binder(model, button_ = new QToolButton(parent), act), model_(model) {
+        : widget_binder(model, new QToolButton(parent), act),
+          button_(as<QToolButton>()),
+          model_(model) {
         button_->setToolButtonStyle(Qt::ToolButtonTextOnly);
         connect(button_, &QToolButton::clicked, this,
                 [this] { this->act([this] { model_.click(); }); });

@@ -15,7 +15,9 @@ namespace {
 class scroll_bar_binder final : public widget_binder {
  public:
     scroll_bar_binder(scroll_bar& model, QWidget* parent, const user_action& act)
-        : widget_binder(model, bar_ = new QScrollBar(Qt::Horizontal, parent), act), model_(model) {
+        : widget_binder(model, new QScrollBar(Qt::Horizontal, parent), act),
+          bar_(as<QScrollBar>()),
+          model_(model) {
         connect(bar_, &QScrollBar::valueChanged, this, [this](int value) {
             if (showing()) return;
             this->act([&] { model_.drag(value); });
@@ -40,7 +42,9 @@ class scroll_bar_binder final : public widget_binder {
 class progress_binder final : public widget_binder {
  public:
     progress_binder(progress_bar& model, QWidget* parent, const user_action& act)
-        : widget_binder(model, bar_ = new QProgressBar(parent), act), model_(model) {
+        : widget_binder(model, new QProgressBar(parent), act),
+          bar_(as<QProgressBar>()),
+          model_(model) {
         show_all();
     }
 
@@ -57,7 +61,7 @@ class progress_binder final : public widget_binder {
 class date_binder final : public widget_binder {
  public:
     date_binder(date_picker& model, QWidget* parent, const user_action& act)
-        : widget_binder(model, edit_ = new QDateEdit(parent), act), model_(model) {
+        : widget_binder(model, new QDateEdit(parent), act), edit_(as<QDateEdit>()), model_(model) {
         edit_->setCalendarPopup(true);
         edit_->setDisplayFormat("dd/MM/yyyy");
         edit_->setMinimumWidth(edit_->fontMetrics().horizontalAdvance("00/00/0000") + 52);

@@ -18,6 +18,12 @@ class widget_binder : public QObject, public binder {
  protected:
     widget_binder(control& model, QWidget* made, user_action act);
 
+    /// The widget as what the kind made it.
+    template <class Widget>
+    [[nodiscard]] Widget* as() {
+        return static_cast<Widget*>(widget_);
+    }
+
     /// Shows the model's whole state; to be called by the constructors of the kinds.
     void show_all();
     /// Shows what is particular to the kind.
