@@ -62,7 +62,8 @@ class window_bench {
         if (desk.ended()) return;
         come_back();
         const QWidget* window = front.front_window();
-        if (window && !window->isActiveWindow()) return;
+        const bool busy = desk.pointer_shape() == pointer::busy;
+        if (busy || (window && !window->isActiveWindow())) return;
         if (next_ == steps_.size()) return front.end_by_user();
         const auto step = steps_[next_++];
         step();

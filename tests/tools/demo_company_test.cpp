@@ -125,8 +125,6 @@ TEST(demo_company, archives_may_be_empty) {
 }
 
 TEST(demo_program, exit_code_tells_what_happened) {
-    const char* const program = std::getenv("VANTORA_DEMO");
-    ASSERT_NE(program, nullptr) << "the path of the program";
     const scratch_folder drive;
     const struct {
         std::string arguments;
@@ -147,7 +145,7 @@ TEST(demo_program, exit_code_tells_what_happened) {
         {"--help", 0},
     };
     for (const auto& run : runs) {
-        std::string command = std::string(program) + " " + run.arguments + " >/dev/null 2>&1";
+        std::string command = DEMO_PROGRAM " " + run.arguments + " >/dev/null 2>&1";
         if (const auto at = command.find("DRIVE"); at != std::string::npos) {
             command.replace(at, 5, drive.path().string());
         }

@@ -12,14 +12,14 @@ namespace vantora::ui::desktop {
 namespace {
 
 /// A check box or an option: the model decides whether it goes on, the widget follows.
-template <class Model, class Widget>
+template <class Model, class Widget, void (Model::*Click)()>
 class choice_binder final : public widget_binder {
  public:
-    choice_binder(Model& model, QWidget* parent, const user_action& act, void (Model::*clicked)())
+    choice_binder(Model& model, QWidget* parent, const user_action& act)
         : widget_binder(model, new Widget(parent), act), button_(as<Widget>()), model_(model) {
         button_->setAutoExclusive(false);
-        connect(button_, &QAbstractButton::clicked, this, [this, clicked] {
-            this->act([this, clicked] { (model_.*clicked)(); });
+        connect(button_, &QAbstractButton::clicked, this, [this] {
+            this->act([this] { (model_.*Click)(); });
             show_again(aspect::value);
         });
         show_all();
@@ -45,11 +45,11 @@ class choice_binder final : public widget_binder {
 
 std::unique_ptr<binder> bind_choice_kind(control& to, QWidget* parent, const user_action& act) {
     if (to.kind() == control_kind::check_box) {
-        return std::make_unique<choice_binder<check_box, QCheckBox>>(
-            static_cast<check_box&>(to), parent, act, &check_box::toggle);
+        return std::make_unique<choice_binder<check_box, QCheckBox, &check_box::toggle>>(
+            static_cast<check_box&>(to), parent, act);
     }
-    return std::make_unique<choice_binder<option_button, QRadioButton>>(
-        static_cast<option_button&>(to), parent, act, &option_button::choose);
+    return std::make_unique<choice_binder<option_button, QRadioButton, &option_button::choose>>(
+        static_cast<option_button&>(to), parent, act);
 }
 
 }  // namespace vantora::ui::desktop
