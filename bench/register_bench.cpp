@@ -11,6 +11,7 @@
 #include "register/mirorc.h"
 #include "store/drive.h"
 #include "support/scratch_folder.h"
+#include "ui/pictures/pixbuf_decoder.h"
 #include "ui/script/bench_ports.h"
 
 namespace vantora::bench {
@@ -83,7 +84,8 @@ int run(int orders, int customers, int rounds) {
     ui::script::recording_printer paper;
     ui::script::recording_launcher programs;
     ui::desk desk(front, time, paper, programs);
-    program app(port, desk);
+    ui::pixbuf_decoder pictures;
+    program app(port, desk, pictures);
     app.parameters.numero_azienda = 1;
     app.mirorc.made_by(desk, [&app] { return std::make_unique<mirorc>(app); });
     {

@@ -10,6 +10,7 @@
 #include "ui/desktop/script_runner.h"
 #include "ui/desktop/style.h"
 #include "ui/desktop/system_ports.h"
+#include "ui/pictures/pixbuf_decoder.h"
 
 namespace {
 
@@ -56,6 +57,7 @@ int main(int count, char** arguments) {
     drive files(options.drive);
     ui::local_clock time;
     if (options.clock) time.stop_at(*options.clock);
+    ui::pixbuf_decoder pictures;
     ui::desktop::desktop_front_end front;
 
     if (!options.script.empty()) {
@@ -63,7 +65,7 @@ int main(int count, char** arguments) {
         ui::desk desk(front, time, script.paper, script.programs);
         ui::script::interpreter commands(desk, time, script.paper, script.programs);
         ui::desktop::script_runner runner(front, commands, script.commands(), std::cout);
-        program app(files, desk);
+        program app(files, desk, pictures);
         front.begin(desk);
         front.served_by([&runner] { return runner.step(); });
         desk.dispatch([&] { start(app, options.argument); });
@@ -76,7 +78,7 @@ int main(int count, char** arguments) {
     ui::desktop::system_launcher programs(
         [&files](std::string_view path) { return files.locate(path).string(); });
     ui::desk desk(front, time, paper, programs);
-    program app(files, desk);
+    program app(files, desk, pictures);
     front.begin(desk);
     desk.dispatch([&] { start(app, options.argument); });
     front.run();

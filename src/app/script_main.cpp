@@ -3,6 +3,7 @@
 #include "app/options.h"
 #include "app/start.h"
 #include "store/drive.h"
+#include "ui/pictures/pixbuf_decoder.h"
 #include "ui/script/script_front_end.h"
 
 int main(int count, char** arguments) {
@@ -19,7 +20,8 @@ int main(int count, char** arguments) {
     ui::script::script_front_end front(std::cin, std::cout);
     ui::desk desk(front, time, paper, programs);
     ui::script::interpreter commands(desk, time, paper, programs);
-    program app(files, desk);
+    ui::pixbuf_decoder pictures;
+    program app(files, desk, pictures);
 
     front.begin(desk, commands);
     desk.dispatch([&] { start(app, options.argument); });

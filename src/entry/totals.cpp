@@ -28,6 +28,7 @@ double net_amount(const riga_ordine& line, bool by_piece, const valuta& currency
 totali_ordine calcola_totali(const righe_ordine& lines, const tabella_iva& rates,
                              const valuta& currency) {
     totali_ordine sums;
+    riepilogo_iva& vat = sums.iva;
     for (int number = 1; number <= righe_ordine::massimo; ++number) {
         const riga_ordine& line = lines[number];
         const bool by_piece = line.quantita != 0 && line.quantita != quantita_a_corpo;
@@ -35,16 +36,16 @@ totali_ordine calcola_totali(const righe_ordine& lines, const tabella_iva& rates
         const double amount = net_amount(line, by_piece, currency);
         const auto code = static_cast<std::size_t>(line.iva < 1 || line.iva > 24 ? 1 : line.iva);
         if (code < 13) {
-            sums.imponibile_iva[code] += amount;
+            vat.imponibile_iva[code] += amount;
         } else {
-            sums.esente_iva[code - 12] += amount;
+            vat.esente_iva[code - 12] += amount;
         }
     }
     for (std::size_t code = 1; code <= 12; ++code) {
         const double rate = number_at_head(rates.aliquota_iva[code]);
-        sums.imposta_iva[code] = percentuale_eccesso(sums.imponibile_iva[code], rate, currency);
-        sums.imponibile += sums.imponibile_iva[code] + sums.esente_iva[code];
-        sums.totale += sums.imposta_iva[code] + sums.imponibile_iva[code] + sums.esente_iva[code];
+        vat.imposta_iva[code] = percentuale_eccesso(vat.imponibile_iva[code], rate, currency);
+        sums.imponibile += vat.imponibile_iva[code] + vat.esente_iva[code];
+        sums.totale += vat.imposta_iva[code] + vat.imponibile_iva[code] + vat.esente_iva[code];
     }
     checked(sums.totale);
     checked(sums.pezzi);

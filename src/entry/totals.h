@@ -1,21 +1,17 @@
 #pragma once
 
-#include <array>
-
 #include "documents/suite_table.h"
-#include "entry/order_lines.h"
+#include "program/order_lines.h"
 #include "store/values.h"
 
 namespace vantora {
 
-/// What an order is worth, by VAT code and in all. Documents print from it.
+/// What an order is worth, by VAT code and in all.
 struct totali_ordine {
-    std::array<double, 17> imponibile_iva{};  ///< 1 to 12: net amounts by rate code
-    std::array<double, 17> imposta_iva{};     ///< 1 to 12: VAT on them
-    std::array<double, 17> esente_iva{};      ///< 1 to 12: net amounts by exemption code - 12
-    double imponibile = 0;                    ///< all net amounts
-    double totale = 0;                        ///< the same with VAT
-    double pezzi = 0;                         ///< sum of the quantities
+    riepilogo_iva iva;
+    double imponibile = 0;  ///< all net amounts
+    double totale = 0;      ///< the same with VAT
+    double pezzi = 0;       ///< sum of the quantities
 };
 
 /// A quantity that a user types to have a line's price count once, with no pieces.

@@ -5,6 +5,7 @@
 
 #include "store/archives.h"
 #include "store/parameters.h"
+#include "ui/bitmap.h"
 #include "ui/screen.h"
 
 namespace vantora {
@@ -26,10 +27,12 @@ class mirstov;
 /// pass from screen to screen, and the screens themselves. Built in `main`, handed to every screen
 /// by reference; nothing else is shared.
 struct program {
-    program(file_port& on_files, ui::desk& on_desk) : files(on_files), desk(on_desk) {}
+    program(file_port& on_files, ui::desk& on_desk, ui::picture_decoder& by)
+        : files(on_files), desk(on_desk), pictures(by) {}
 
     file_port& files;
     ui::desk& desk;
+    ui::picture_decoder& pictures;
     archivi archives;
     parametri parameters;
 

@@ -6,6 +6,7 @@
 
 #include "store/drive.h"
 #include "support/scratch_folder.h"
+#include "ui/pictures/pixbuf_decoder.h"
 #include "ui/script/script_front_end.h"
 
 namespace vantora {
@@ -24,7 +25,8 @@ std::string choose(const std::string& proposed, const std::string& reserve,
     ui::script::script_front_end front(input, output);
     ui::desk desk(front, time, paper, programs);
     ui::script::interpreter by(desk, time, paper, programs);
-    program app(files, desk);
+    ui::pixbuf_decoder pictures;
+    program app(files, desk, pictures);
     front.begin(desk, by);
     app.mirdata.made_by(desk, [&app] { return std::make_unique<mirdata>(app); });
     app.data_proposta = proposed;

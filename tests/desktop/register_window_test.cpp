@@ -10,6 +10,7 @@
 #include "register/mirorc.h"
 #include "scripted/small_company.h"
 #include "store/drive.h"
+#include "ui/pictures/pixbuf_decoder.h"
 #include "window_bench.h"
 
 namespace vantora::ui::desktop {
@@ -43,7 +44,8 @@ class register_window : public testing::Test {
     vantora::test::small_company company;
     drive files{company.drive()};
     test::window_bench bench;
-    program app{files, bench.desk};
+    ui::pixbuf_decoder pictures;
+    program app{files, bench.desk, pictures};
 };
 
 TEST_F(register_window, ShowsTheOrdersAndSortsThemByItsButtons) {

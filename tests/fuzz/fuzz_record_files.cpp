@@ -11,6 +11,7 @@
 #include "store/drive.h"
 #include "store/key_index.h"
 #include "support/scratch_folder.h"
+#include "ui/pictures/pixbuf_decoder.h"
 #include "ui/script/bench_ports.h"
 
 namespace {
@@ -76,7 +77,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     ui::script::recording_printer paper;
     ui::script::recording_launcher programs;
     ui::desk desk(front, time, paper, programs);
-    program app(files, desk);
+    ui::pixbuf_decoder pictures;
+    program app(files, desk, pictures);
     desk.dispatch([&] { start(app, "ordini001"); });
     require(!desk.ended().has_value());
 

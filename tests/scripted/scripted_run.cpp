@@ -4,6 +4,7 @@
 
 #include "app/start.h"
 #include "store/drive.h"
+#include "ui/pictures/pixbuf_decoder.h"
 #include "ui/script/script_front_end.h"
 
 namespace vantora::test {
@@ -22,7 +23,8 @@ std::vector<nlohmann::json> run_script(const std::filesystem::path& folder,
     ui::script::script_front_end front(input, output);
     ui::desk desk(front, time, paper, programs);
     ui::script::interpreter by(desk, time, paper, programs);
-    program app(files, desk);
+    ui::pixbuf_decoder pictures;
+    program app(files, desk, pictures);
     front.begin(desk, by);
     desk.dispatch([&] { start(app, "ordini001"); });
     front.run();

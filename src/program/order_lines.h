@@ -52,6 +52,13 @@ class righe_ordine {
     std::array<riga_ordine, massimo + 1> lines_;
 };
 
+/// The amounts of an order's lines by VAT code; documents print them.
+struct riepilogo_iva {
+    std::array<double, 17> imponibile_iva{};  ///< 1 to 12: net amounts by rate code
+    std::array<double, 17> imposta_iva{};     ///< 1 to 12: VAT on them
+    std::array<double, 17> esente_iva{};      ///< 1 to 12: net amounts by exemption code - 12
+};
+
 /// A line emptied, all but its fulfilled quantity.
 void clear_line(riga_ordine& line);
 

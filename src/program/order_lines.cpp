@@ -1,4 +1,4 @@
-#include "entry/order_lines.h"
+#include "program/order_lines.h"
 
 #include <utility>
 

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <optional>
+#include <string_view>
+#include <vector>
+
+#include "ui/grid.h"
+
+namespace vantora::ui {
+
+/// A picture point by point, from the upper left corner, row after row.
+struct bitmap {
+    int width = 0;
+    int height = 0;
+    std::vector<colour> points;  ///< width x height
+
+    /// REQUIRES: 0 <= x < width, 0 <= y < height.
+    [[nodiscard]] colour at(int x, int y) const {
+        return points[static_cast<std::size_t>(y) * static_cast<std::size_t>(width) +
+                      static_cast<std::size_t>(x)];
+    }
+};
+
+/// Light grey: what documents leave out of every picture.
+inline constexpr colour transparent_grey = 0xC0C0C0;
+
+/// Reads picture files of the usual kinds (BMP, PNG, JPEG, GIF).
+class picture_decoder {
+ public:
+    virtual ~picture_decoder() = default;
+
+    /// The picture in the bytes of a file; empty if they hold none. What the file itself has as
+    /// transparent comes as `transparent_grey`.
+    virtual std::optional<bitmap> decode(std::string_view bytes) = 0;
+};
+
+}  // namespace vantora::ui

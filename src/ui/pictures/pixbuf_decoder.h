@@ -1,0 +1,13 @@
+#pragma once
+
+#include "ui/bitmap.h"
+
+namespace vantora::ui {
+
+/// Leaves the reading of pictures to GdkPixbuf.
+class pixbuf_decoder final : public picture_decoder {
+ public:
+    std::optional<bitmap> decode(std::string_view bytes) override;
+};
+
+}  // namespace vantora::ui
