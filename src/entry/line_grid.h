@@ -71,6 +71,7 @@ class line_grid : public ui::form {
     totali_ordine totali_;
     tabelle_documento tabelle_;
     disegno disegno_;
+    valuta valuta_;
     rec_cli cliente_;
     rec_tot articoli_;  ///< counter of the articles
 
@@ -99,7 +100,6 @@ class line_grid : public ui::form {
     void clear_if_zero(ui::text_box& cell);
 
     const line_grid_kind& kind_;
-    valuta valuta_;
     ui::option_group prezz_group_;
     int riga_corrente_ = 0;  ///< grid row with the focus; after a `civ` cell the line's number
     int prima_riga_ = 0;     ///< first line last seen; after a `civ` cell the grid row

@@ -1,5 +1,10 @@
 #include "entry/mirorcs.h"
 
+#include "customer/mirorcx.h"
+#include "entry/order_head.h"
+#include "entry/order_printing.h"
+#include "store/text/dates.h"
+
 namespace vantora {
 
 namespace {
@@ -22,9 +27,13 @@ void mirorcs::activate() {
 }
 
 void mirorcs::run_command(int command) {
+    // A picture on paper lets the user's clicks through while it prints.
+    if (saving_) return;
     switch (command) {
         case uscita:
             return leave();
+        case salva:
+            return save();
         case inserisci:
             return insert_line();
         case cancella:
@@ -34,6 +43,37 @@ void mirorcs::run_command(int command) {
         default:
             return;
     }
+}
+
+void mirorcs::save() {
+    saving_ = true;
+    app_.data_sistema = date_number(app_.desk.clock().now());
+    testata_registrata head = testata_da_registrare(*app_.mirorcx, prezz[0].on()   ? 0
+                                                                   : prezz[1].on() ? 1
+                                                                                   : 2);
+    head.cliente = app_.selezione_1;
+    head.impegno = impegno.on();
+    head.data_reg = app_.data_sistema;
+    app_.desk.set_pointer(ui::pointer::busy);
+    const bool saved = salva_nuovo_ordine(app_.archives, head, righe_, articoli_.quanti);
+    app_.desk.set_pointer(ui::pointer::normal);
+    if (saved) offer_to_print();
+    saving_ = false;
+    if (!saved) {
+        app_.desk.message("Archivio degli ordini non leggibile: l'ordine non è stato salvato"_cp,
+                          "Attenzione", ui::icon::stop);
+        return;
+    }
+    app_.ricarica_registro = 1;
+    leave();
+}
+
+void mirorcs::offer_to_print() {
+    const testata_ordine head = testata_da_stampare(*app_.mirorcx);
+    offri_stampa(
+        app_, "Ordine cliente",
+        {head, righe_, totali_.iva, cliente_, valuta_, tabelle_, disegno_, Picture1},
+        {tipo_documento::ordine, head.text3[0], postael.on(), cliente_.email.full(), tabelle_});
 }
 
 void mirorcs::leave() {

@@ -15,7 +15,11 @@ class mirorcs final : public line_grid {
     void run_command(int command) override;
 
  private:
+    void save();
+    void offer_to_print();
     void leave();
+
+    bool saving_ = false;
 };
 
 }  // namespace vantora

@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "ui/grid.h"
+#include "ui/colour.h"
 
 namespace vantora::ui {
 

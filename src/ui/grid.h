@@ -5,13 +5,10 @@
 #include <string_view>
 #include <vector>
 
+#include "ui/colour.h"
 #include "ui/control.h"
 
 namespace vantora::ui {
-
-/// A colour as the files hold it: 24 bits, red in the low byte.
-using colour = std::uint32_t;
-inline constexpr colour white = 0xFFFFFF;
 
 enum class alignment { left, right };
 

@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "ui/bitmap.h"
 #include "ui/control.h"
 
 namespace vantora::ui {
@@ -69,6 +70,16 @@ class picture : public control {
     std::function<void()> on_click;
 
     void click() { fire(on_click); }
+
+    /// What it shows; without points as long as no file gave it any.
+    [[nodiscard]] const bitmap& shown() const { return shown_; }
+    void set_bitmap(bitmap image) {
+        shown_ = std::move(image);
+        show_change(aspect::content);
+    }
+
+ private:
+    bitmap shown_;
 };
 
 }  // namespace vantora::ui

@@ -1,0 +1,160 @@
+#include "documents/background.h"
+
+#include <algorithm>
+
+#include "store/text/code_page.h"
+
+namespace vantora {
+
+namespace {
+
+/// Kinds of drawing elements, in the first of their values; what is none of them isn't drawn.
+constexpr double linea = 1;
+constexpr double riquadro = 2;
+constexpr double testo = 3;
+constexpr double figura = 4;
+
+/// Columns of an element's values; what they mean beyond the position turns on its kind.
+enum colonna {
+    tipo,
+    sinistra,
+    alto,
+    destra,
+    basso,
+    colore,
+    riempito,
+    corpo = riempito,
+    grassetto,
+    corsivo
+};
+
+constexpr double larghezza_pagina = 210;
+constexpr double altezza_pagina = 297;
+
+/// A point of a picture is a point of a common screen, however large its file says it should be.
+constexpr double twip_per_punto = 15;
+/// The scale that places a picture, and the true one.
+constexpr double twip_per_mm_figura = 56.6868;
+constexpr double twip_per_mm = 56.6929;
+
+constexpr double corpo_minimo = 2;
+
+std::span<elemento_disegno> elements_in_use(disegno& drawing) {
+    const double count = std::clamp(drawing.elementi, 0.0, static_cast<double>(disegno::massimo));
+    return std::span(drawing.elenco).subspan(1, static_cast<std::size_t>(count));
+}
+
+ui::colour ink_of(const elemento_disegno& one) {
+    const double value = one.valori[colore];
+    return value >= 0 && value <= ui::white ? static_cast<ui::colour>(value) : 0;
+}
+
+/// Puts the points of a picture on paper one by one, as small filled squares: every printer shows
+/// them alike. The light grey ones are left out.
+void disegna_immagine(program& app, ui::printer& paper, const elemento_disegno& one,
+                      ui::picture& figure) {
+    const std::string_view path = trimmed(one.testi[0]);
+    const double x = one.valori[sinistra];
+    const double y = one.valori[alto];
+    if (path.empty() || !(x > 0) || !(y > 0)) return;
+    if (const auto bytes = app.files.read_whole(path)) {
+        // A file that holds no picture leaves the one before.
+        if (auto read = app.pictures.decode(*bytes)) figure.set_bitmap(std::move(*read));
+    }
+    figure.set_visible(true);
+    const ui::bitmap& image = figure.shown();
+    for (int row = 0; row < image.height; ++row) {
+        const double top = row * twip_per_punto + y * twip_per_mm_figura;
+        for (int col = 0; col < image.width; ++col) {
+            const ui::colour ink = image.at(col, row);
+            if (ink == ui::transparent_grey) continue;
+            const double left = col * twip_per_punto + x * twip_per_mm_figura;
+            paper.box(left / twip_per_mm, top / twip_per_mm, (left + twip_per_punto) / twip_per_mm,
+                      (top + twip_per_punto) / twip_per_mm, ink, true);
+        }
+        app.desk.let_events_run();
+    }
+    figure.set_visible(false);
+    app.desk.let_events_run();
+}
+
+void draw_picture(program& app, document_output& out, const elemento_disegno& one,
+                  ui::picture& figure) {
+    disegna_immagine(app, out.paper(), one, figure);
+    record_di_stampa record;
+    record.tipo = tipo_record::figura;
+    record.x1 = one.valori[sinistra];
+    record.y1 = one.valori[alto];
+    record.x2 = one.valori[destra];
+    record.y2 = one.valori[basso];
+    record.testo = one.testi[0];
+    out.file().write(record);
+}
+
+void pull_into_page(elemento_disegno& one) {
+    auto& values = one.valori;
+    values[sinistra] = std::max(values[sinistra], 0.0);
+    values[alto] = std::max(values[alto], 0.0);
+    values[destra] = std::min(values[destra], larghezza_pagina);
+    values[basso] = std::min(values[basso], altezza_pagina);
+}
+
+/// The record of a line or a box; both have their line 10.
+record_di_stampa shape_record(tipo_record kind, const elemento_disegno& one, double mark) {
+    record_di_stampa record;
+    record.tipo = kind;
+    record.x1 = one.valori[sinistra];
+    record.y1 = one.valori[alto];
+    record.x2 = one.valori[destra];
+    record.y2 = one.valori[basso];
+    record.colore = one.valori[colore];
+    record.grassetto = mark;
+    return record;
+}
+
+void draw_box(document_output& out, const elemento_disegno& one, bool filled) {
+    const auto& values = one.valori;
+    out.paper().box(values[sinistra], values[alto], values[destra], values[basso], ink_of(one),
+                    filled);
+    out.file().write(shape_record(tipo_record::riquadro, one, filled ? 1 : 0));
+}
+
+void draw_line(document_output& out, const elemento_disegno& one) {
+    const auto& values = one.valori;
+    out.paper().line(values[sinistra], values[alto], values[destra], values[basso], ink_of(one));
+    out.file().write(shape_record(tipo_record::linea, one, 1));
+}
+
+void draw_text(document_output& out, const elemento_disegno& one, std::int16_t selezione_2) {
+    const auto& values = one.valori;
+    std::string text = one.testi[0];
+    // The drawing lists are shared with the suite's invoices, which turn into credit notes.
+    const bool credit_note = selezione_2 == 1 && upper(trimmed(text)) == "FATTURA NUMERO";
+    if (credit_note) text = "Nota credito numero";
+    out.print(values[sinistra], values[alto], text,
+              {std::max(values[corpo], corpo_minimo), one.testi[1], values[grassetto] != 0,
+               values[corsivo] != 0, values[colore]});
+    out.file().write({tipo_record::testo, values[sinistra], values[alto], 0, 0, values[corpo],
+                      values[colore], std::move(text), one.testi[1], values[grassetto],
+                      values[corsivo]});
+}
+
+}  // namespace
+
+void disegna_sfondo(program& app, document_output& out, disegno& drawing, ui::picture& figure) {
+    const auto elements = elements_in_use(drawing);
+    for (const auto& one : elements) {
+        if (one.valori[tipo] == figura) draw_picture(app, out, one, figure);
+    }
+    std::ranges::for_each(elements, pull_into_page);
+    for (const auto& one : elements) {
+        if (one.valori[tipo] == riquadro && one.valori[riempito] == 1) draw_box(out, one, true);
+    }
+    for (const auto& one : elements) {
+        if (one.valori[tipo] == riquadro && one.valori[riempito] == 0) draw_box(out, one, false);
+        if (one.valori[tipo] == linea) draw_line(out, one);
+        if (one.valori[tipo] == testo) draw_text(out, one, app.selezione_2);
+    }
+}
+
+}  // namespace vantora

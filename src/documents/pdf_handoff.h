@@ -1,0 +1,27 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "documents/document_tables.h"
+#include "program/program.h"
+
+namespace vantora {
+
+/// A printed document of which a PDF can be made.
+struct documento_stampato {
+    tipo_documento tipo;
+    std::string numero;      ///< as typed; the number in it names the PDF
+    bool invia;              ///< send it by e-mail
+    std::string_view email;  ///< address of the customer
+    const tabelle_documento& tabelle;
+};
+
+/// The command line that has `mirxpdf` make the PDF of what the print file holds.
+std::string comando_pdf(const parametri& parameters, const documento_stampato& document);
+
+/// Asks whether to make the PDF of the document just printed, and to send it; on yes starts
+/// `mirxpdf` and goes on. Says so if that can't be started.
+void offri_pdf(program& app, const documento_stampato& document);
+
+}  // namespace vantora

@@ -1,0 +1,41 @@
+#include "entry/order_head.h"
+
+#include "customer/customer_head.h"
+
+namespace vantora {
+
+namespace {
+
+enum { porto, pagamento, trasporto };  // elements of Combo1
+
+}  // namespace
+
+testata_registrata testata_da_registrare(const customer_head& screen, int prezzo) {
+    const auto& fields = screen.Text2;
+    const auto& order = screen.Text3;
+    std::string choices;
+    for (const int list : {porto, trasporto, pagamento}) {
+        choices += std::to_string(screen.Combo1[list].chosen());
+    }
+    choices += std::to_string(prezzo);
+
+    testata_registrata head;
+    head.numero = order[0].text();
+    head.data = order[1].text();
+    head.data_evasione = order[2].text();
+    head.testi = {{{order[3].text(), order[4].text(), order[5].text()},
+                   {fields[8].text(), fields[9].text(), fields[10].text()},
+                   {fields[11].text(), fields[12].text(), choices},
+                   {fields[17].text(), fields[18].text(), fields[19].text()}}};
+    return head;
+}
+
+testata_ordine testata_da_stampare(const customer_head& screen) {
+    testata_ordine head;
+    for (std::size_t i = 0; i < head.text2.size(); ++i) head.text2[i] = screen.Text2[i].text();
+    for (std::size_t i = 0; i < head.text3.size(); ++i) head.text3[i] = screen.Text3[i].text();
+    head.pagamento = screen.Combo1[pagamento].text();
+    return head;
+}
+
+}  // namespace vantora

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "documents/order_document.h"
+#include "entry/save_order.h"
+
+namespace vantora {
+
+class customer_head;
+
+// The head of an order stands in the controls of the screen that holds it, hidden behind the lines.
+
+/// As it is stored. `prezzo`: which of the article's prices is on, 0 or 1; 2 for none.
+testata_registrata testata_da_registrare(const customer_head& screen, int prezzo);
+
+/// As it is printed.
+testata_ordine testata_da_stampare(const customer_head& screen);
+
+}  // namespace vantora
