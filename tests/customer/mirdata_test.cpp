@@ -46,6 +46,7 @@ TEST(mirdata, ProposesTheDateOrItsReserve) {
 TEST(mirdata, EveryWayOutGivesThePickersDate) {
     EXPECT_EQ(choose("03/04/2025", "", "date mirdata.nuovadata \"05/06/2025\""), "05/06/2025");
     EXPECT_EQ(choose("03/04/2025", "", "date mirdata.nuovadata \"03/04/2025\""), "03/04/2025");
+    EXPECT_EQ(choose("03/04/2025", "", "close mirdata"), "03/04/2025") << "there is no cancel";
 }
 
 }  // namespace
