@@ -1,6 +1,7 @@
 #include "customer/mirsel.h"
 
 #include "customer/mirorcx.h"
+#include "program/customer_stretches.h"
 #include "program/list_grid.h"
 #include "store/key_index.h"
 #include "store/text/number_text.h"
@@ -10,6 +11,8 @@ namespace vantora {
 namespace {
 
 constexpr int righe_minime = 26;
+/// Rows that the list takes, head included.
+constexpr int righe_elencabili = righe_riservate - 1;
 
 std::vector<ui::grid_column> customer_columns() {
     return {{"Nominativo", 3700},  {"", 3000}, {"Indirizzo", 3000}, {"Città"_cp, 3000},
@@ -17,6 +20,30 @@ std::vector<ui::grid_column> customer_columns() {
 }
 
 }  // namespace
+
+/// What the list shows and tests of a customer.
+struct mirsel::row_content {
+    row_content() = default;
+    explicit row_content(const rec_cli& customer)
+        : intestazione1(customer.intestazione1),
+          intestazione2(customer.intestazione2),
+          indirizzo(customer.indirizzo),
+          citta(customer.citta),
+          partita_iva(customer.partita_iva),
+          eliminato(customer.eliminato) {}
+
+    /// `part` in capitals; an empty one is in every name.
+    [[nodiscard]] bool name_holds(const std::string& part) const {
+        return part.empty() || upper(intestazione1.trimmed()).find(part) != std::string::npos;
+    }
+
+    text<40> intestazione1;
+    text<40> intestazione2;
+    text<40> indirizzo;
+    text<40> citta;
+    text<11> partita_iva;
+    i16le eliminato;
+};
 
 mirsel::mirsel(program& app) : form(app.desk, "mirsel", "Selezione cliente"), app_(app) {
     add("elenco", elenco);
@@ -36,7 +63,7 @@ mirsel::mirsel(program& app) : form(app.desk, "mirsel", "Selezione cliente"), ap
     for (int i = 0; i < 5; ++i) {
         srx[i].on_click = [this, i] {
             sort_list(elenco, i, ui::sort_order::generic_ascending, righe_elenco_, righe_minime,
-                      partita_iva, app_.parameters.gnr, app_.desk);
+                      numero, app_.parameters.gnr, app_.desk);
         };
     }
 }
@@ -62,28 +89,31 @@ void mirsel::build_list() {
 
     rec_tot counter;
     app_.archives.tot.read(contatori::clienti, counter);
-    const std::string wanted = upper(trimmed(selnome.text()));
-    rec_cli customer;
-    const std::function<bool(std::int16_t, const rec_src&)> visit = [&](std::int16_t,
-                                                                        const rec_src& entry) {
-        app_.archives.cli.read(entry.numero, customer);
-        const bool matches =
-            wanted.empty() ||
-            upper(customer.intestazione1.trimmed()).find(wanted) != std::string::npos;
-        if (matches && customer.eliminato == 0) list_customer(customer, entry.numero);
-        return app_.riga_elenco < righe_riservate - 1;
-    };
-    percorri_indice(app_.archives.src, counter.quanti, visit);
+    list_customers(counter.quanti);
 
     righe_elenco_ = app_.riga_elenco;
     cut_list(elenco, righe_elenco_, righe_minime);
-    paint_stripes(elenco, partita_iva, app_.parameters.gnr);
+    paint_stripes(elenco, numero, app_.parameters.gnr);
     elenco.set_visible(true);
     elenco.set_focus();
     app_.desk.set_pointer(ui::pointer::normal);
 }
 
-void mirsel::list_customer(const rec_cli& customer, std::int16_t number) {
+void mirsel::list_customers(std::int16_t count) {
+    const std::string wanted = upper(trimmed(selnome.text()));
+    customer_stretches<row_content> customers(app_.archives.cli);
+    const std::function<bool(std::int16_t, const rec_src&)> visit = [&](std::int16_t,
+                                                                        const rec_src& entry) {
+        const row_content& customer = customers.of(entry.numero);
+        if (customer.eliminato == 0 && customer.name_holds(wanted)) {
+            list_customer(customer, entry.numero);
+        }
+        return app_.riga_elenco < righe_elencabili;
+    };
+    percorri_indice(app_.archives.src, count, visit);
+}
+
+void mirsel::list_customer(const row_content& customer, std::int16_t number) {
     const int row = app_.riga_elenco++;
     elenco.set_text(row, nominativo, customer.intestazione1.trimmed());
     elenco.set_text(row, nominativo2, customer.intestazione2.trimmed());

@@ -31,8 +31,11 @@ class mirsel final : public ui::form {
     void close() override;
 
  private:
+    struct row_content;
+
     void build_list();
-    void list_customer(const rec_cli& customer, std::int16_t number);
+    void list_customers(std::int16_t count);
+    void list_customer(const row_content& customer, std::int16_t number);
     void pick_row();
     void leave(const std::string& chosen_name, int outcome);
     customer_head* caller();

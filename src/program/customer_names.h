@@ -1,37 +1,36 @@
 #pragma once
 
-#include <cstdint>
-#include <string>
 #include <string_view>
-#include <vector>
 
-#include "store/channel.h"
-#include "store/records/rec_cli.h"
+#include "program/customer_stretches.h"
 
 namespace vantora {
 
-/// The customers' names for one build of a list: neighbours are read together, and each stretch
-/// of the file once.
+/// The customers' names for one build of a list.
 class customer_names {
  public:
     /// `count`: customers in use, from the counters file.
-    customer_names(const channel<rec_cli>& customers, std::int16_t count);
+    customer_names(const channel<rec_cli>& customers, std::int16_t count)
+        : names_(customers), count_(count) {}
 
     /// First name line of customer `number`, without blanks around; empty for a number that is no
     /// customer. Where the customer can't be read it is the name that was looked up before.
     /// Valid until the next call.
-    std::string_view of(std::int16_t number);
+    std::string_view of(std::int16_t number) {
+        if (number < 1 || number > count_) return {};
+        return names_.of(number).intestazione1.trimmed();
+    }
 
  private:
-    enum class known : unsigned char { no, yes, one_by_one };
+    struct name {
+        name() = default;
+        explicit name(const rec_cli& customer) : intestazione1(customer.intestazione1) {}
 
-    void read_stretch(std::size_t stretch);
+        text<40> intestazione1;
+    };
 
-    const channel<rec_cli>& customers_;
+    customer_stretches<name> names_;
     std::int16_t count_;
-    std::vector<known> stretches_;
-    std::vector<text<40>> names_;
-    rec_cli last_;
 };
 
 }  // namespace vantora
