@@ -85,9 +85,7 @@ void customer_head::start_at_first_customer() {
 
 void customer_head::show_customer() {
     if (posizione_cliente_ <= 0) return;
-    rec_src entry;
-    if (app_.archives.src.read(posizione_cliente_, entry)) cliente_corrente_ = entry.numero;
-    app_.archives.cli.read(cliente_corrente_, cliente_);
+    read_customer();
     for (std::size_t i = 0; i < customer_fields.size(); ++i) {
         Text2[i].set_text(customer_fields[i](cliente_));
     }
@@ -100,13 +98,19 @@ void customer_head::show_customer() {
     for (int i = 2; i < 22; ++i) Text2[i].set_text("");
 }
 
+void customer_head::read_customer() {
+    app_.archives.src.read(posizione_cliente_, voce_);
+    cliente_corrente_ = voce_.numero;
+    app_.archives.cli.read(cliente_corrente_, cliente_);
+}
+
 bool customer_head::customer_usable() const {
     return cliente_.eliminato == 0 && cliente_corrente_ > 0;
 }
 
 void customer_head::scrolled() {
     app_.archives.tot.read(contatori::clienti, contatore_);
-    if (contatore_.quanti < 2 || HScroll1.value() == posizione_cliente_) return;
+    if (contatore_.quanti < 2) return;
     posizione_cliente_ = static_cast<std::int16_t>(HScroll1.value());
     show_customer();
 }

@@ -49,20 +49,25 @@ class customer_head : public ui::form {
 
     /// Puts the cursor on the first customer, with `HScroll1` over all of them.
     void start_at_first_customer();
-    void show_customer();
+    /// The cursor moved.
+    virtual void scrolled();
+    /// Shows the customer at `posizione_cliente_`.
+    virtual void show_customer();
+    /// Reads the customer at `posizione_cliente_`; what can't be read stays as it was.
+    void read_customer();
     /// True if the customer shown may get a document.
     [[nodiscard]] bool customer_usable() const;
 
     program& app_;
     std::int16_t posizione_cliente_ = 0;  ///< rank in the name index, from 1
     std::int16_t cliente_corrente_ = 0;   ///< record number
+    rec_src voce_;
     rec_cli cliente_;
     rec_tot contatore_;
 
  private:
     void wire_events();
     void follow_typed_date(int picker);
-    void scrolled();
     void take_carrier();
     void open_pick_list();
 
