@@ -82,6 +82,16 @@ TEST_F(mirsel, LeavesWithoutAChoice) {
     EXPECT_EQ(replies[6]["value"]["value"], 1);
 }
 
+TEST_F(mirsel, ClosingItsWindowChoosesNothing) {
+    const auto replies =
+        open("ro", {"close mirsel", "get mirorcx.nome", "get mirorcx.HScroll1", "screens"});
+    EXPECT_EQ(replies[3]["screen"], "mirorcx");
+    EXPECT_FALSE(replies[3].contains("modal"));
+    EXPECT_EQ(replies[4]["value"]["text"], "ro") << "the text stays for another try";
+    EXPECT_EQ(replies[5]["value"]["value"], 1);
+    for (const json& screen : replies[6]["value"]) EXPECT_NE(screen["name"], "mirsel");
+}
+
 TEST_F(mirsel, SortsWithItsBlankRowsAtTheBottom) {
     const auto replies = open("", {"click mirsel.srx(0)", "rows mirsel.elenco 1 5"});
     EXPECT_EQ(replies[3]["focus"], "elenco");
