@@ -60,6 +60,30 @@ TEST_F(document_tables, AShortLayoutCountsAsMissing) {
     }
 }
 
+TEST_F(document_tables, AWholeLayoutNeedsNoOtherFileAndNoLastLineEnd) {
+    write("lyo", counted(599));
+    std::ofstream(company / "vantora.lyo", std::ios::app) << "the last";
+    load(tipo_documento::ordine);
+    EXPECT_EQ(tables.tabella_layout[100].corsivo, "599");
+    EXPECT_EQ(tables.tabella_layout[100].colore, "the last");
+    EXPECT_EQ(tables.testi_intestazione[1], "");
+}
+
+TEST_F(document_tables, TheHeadingIsTwentyWholeLines) {
+    auto lines = counted(21);
+    lines[4] = "  Via Roma, 1 \"bis\" ";
+    write("int", lines);
+    load(tipo_documento::ordine);
+    EXPECT_EQ(tables.testi_intestazione[0], "");
+    EXPECT_EQ(tables.testi_intestazione[5], "  Via Roma, 1 \"bis\" ");
+    EXPECT_EQ(tables.testi_intestazione[20], "20");
+    tables = {};
+    write("int", counted(3));
+    load(tipo_documento::ordine);
+    EXPECT_EQ(tables.testi_intestazione[3], "3");
+    EXPECT_EQ(tables.testi_intestazione[4], "");
+}
+
 TEST_F(document_tables, PdfSettingsGoToTheirSlots) {
     auto lines = counted(80);
     lines[4 * 5 + 2] = "  C:\\PDF ";

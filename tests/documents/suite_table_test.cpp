@@ -36,10 +36,15 @@ std::vector<std::string> telling_lines() {
 class suite_table : public testing::Test {
  protected:
     tabella_suite read(const std::vector<std::string>& lines) {
+        std::string content;
+        for (const auto& line : lines) content += line + "\r\n";
+        return read_content(content);
+    }
+    tabella_suite read_content(const std::string& content) {
         const auto company = folder.path() / "mirwin/mirwin/miraz0.001";
         std::filesystem::create_directories(company);
         std::ofstream file(company / "vantora.tab", std::ios::binary);
-        for (const auto& line : lines) file << line << "\r\n";
+        file << content;
         file.close();
         drive files(folder.path());
         return leggi_tabella_suite(files, 1);
@@ -97,6 +102,51 @@ TEST_F(suite_table, AFileThatEndsAnywhereGivesWhatItHolds) {
         }
         EXPECT_EQ(table.pagamenti.size(), payments) << kept << " lines";
         EXPECT_EQ(table.causali.size(), causes) << kept << " lines";
+    }
+}
+
+TEST_F(suite_table, ItemsThatShareTheirLineMoveAllThatFollows) {
+    auto lines = telling_lines();
+    const auto at = [](int lines_before) { return static_cast<std::ptrdiff_t>(lines_before); };
+    // Two items of a group on one line each, then rest of the line behind every item.
+    const int section6 = 8 * 4 + 8 * 3 + 9 * 2 + 9 * 2 + 30 * 2;
+    const int section14 = section6 + 9 * 2 + 40 + 40 + 30 * 5 + 40 * 6 + 8 * 4 + 8 * 3 + 8 * 2;
+    lines.erase(lines.begin() + at(section14), lines.begin() + at(section14 + 8));
+    for (int i = 0; i < 8; ++i) lines[static_cast<std::size_t>(section14 + i)] = "\"a,b\" c, d, e";
+    lines.erase(lines.begin() + at(section6), lines.begin() + at(section6 + 9));
+    for (int i = 0; i < 9; ++i) lines[static_cast<std::size_t>(section6 + i)] = "1, \"2\"";
+    const tabella_suite table = read(lines);
+    EXPECT_EQ(table.vettori[0][0], "s10 g1 l3");
+    EXPECT_EQ(table.iva.descrizione_iva[16], "s13 g8 l1");
+    ASSERT_EQ(table.pagamenti.size(), 60U);
+    EXPECT_EQ(table.pagamenti[59], "s15 g30 l1");
+}
+
+TEST_F(suite_table, AFileCutInsideALineGivesTheBeginningOfTheWhole) {
+    auto lines = telling_lines();
+    for (auto& line : lines) {
+        if (line.starts_with("s3 ") || line.starts_with("s13 ")) line = "\"" + line + ", art.\"";
+    }
+    const tabella_suite whole = read(lines);
+    std::string content;
+    for (const auto& line : lines) content += line + "\r\n";
+    const auto begins = [](const auto& cut, const auto& all) {
+        if (cut.size() > all.size()) return false;
+        for (std::size_t i = 0; i + 1 < cut.size(); ++i) {
+            if (cut[i] != all[i]) return false;
+        }
+        return cut.empty() || all[cut.size() - 1].starts_with(cut.back());
+    };
+    for (std::size_t kept = 0; kept < content.size(); kept += 31) {
+        const tabella_suite cut = read_content(content.substr(0, kept));
+        EXPECT_TRUE(begins(cut.pagamenti, whole.pagamenti)) << kept;
+        EXPECT_TRUE(begins(cut.causali, whole.causali)) << kept;
+        EXPECT_TRUE(begins(cut.aspetti, whole.aspetti)) << kept;
+        EXPECT_LE(cut.vettori.size(), cut.aspetti.size()) << kept;
+        for (std::size_t code = 0; code <= 16; ++code) {
+            EXPECT_TRUE(whole.iva.aliquota_iva[code].starts_with(cut.iva.aliquota_iva[code]));
+            EXPECT_TRUE(whole.iva.descrizione_iva[code].starts_with(cut.iva.descrizione_iva[code]));
+        }
     }
 }
 
