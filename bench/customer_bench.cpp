@@ -1,0 +1,137 @@
+// How long the customer screens take over an archive filled to its limits: the build of the pick
+// list, a search, a step of the cursor, each against bare positioned reads of the same records.
+
+#include <cstring>
+#include <memory>
+#include <numeric>
+#include <random>
+#include <string>
+
+#include "bench/measure.h"
+#include "customer/mirorcx.h"
+#include "customer/mirsel.h"
+#include "store/drive.h"
+#include "support/scratch_folder.h"
+#include "ui/pictures/pixbuf_decoder.h"
+#include "ui/script/bench_ports.h"
+
+namespace vantora::bench {
+namespace {
+
+/// Closes the pick list as soon as it stands.
+class hasty_user final : public ui::front_end {
+ public:
+    std::function<void()> leave;
+
+    void run_until(const std::function<bool()>& done) override {
+        while (!done()) leave();
+    }
+    void let_events_run() override {}
+};
+
+std::string name_of(int rank) {
+    return "CLIENTE " + std::to_string(100000 + rank) + " S.R.L.";
+}
+
+/// Customers whose records lie in another order than their names.
+void write_customers(archivi& files, int customers) {
+    std::vector<std::int16_t> numbers(static_cast<std::size_t>(customers));
+    std::iota(numbers.begin(), numbers.end(), std::int16_t{1});
+    std::ranges::shuffle(numbers, std::mt19937(1));
+    rec_cli customer{};
+    customer.indirizzo = "Via Garibaldi 12";
+    customer.citta = "Perugia";
+    customer.partita_iva = "01234567890";
+    for (int rank = 1; rank <= customers; ++rank) {
+        const std::int16_t number = numbers[static_cast<std::size_t>(rank - 1)];
+        customer.intestazione1 = name_of(rank);
+        files.cli.write(number, customer);
+        files.src.write(rank, {customer.intestazione1, number});
+    }
+    rec_tot counter{};
+    counter.quanti = static_cast<std::int16_t>(customers);
+    files.tot.write(contatori::clienti, counter);
+}
+
+int run(int customers, int rounds) {
+    test::scratch_folder folder;
+    std::filesystem::create_directories(folder.path() / "mirwin/mirwin/miraz0.001");
+    drive port(folder.path());
+    hasty_user user;
+    ui::local_clock time;
+    ui::script::recording_printer paper;
+    ui::script::recording_launcher programs;
+    ui::desk desk(user, time, paper, programs);
+    ui::pixbuf_decoder pictures;
+    program app(port, desk, pictures);
+    app.parameters.numero_azienda = 1;
+    app.parameters.gnr.righe_alternate = "1";
+    app.mirorcx.made_by(desk, [&app] { return std::make_unique<mirorcx>(app); });
+    app.mirsel.made_by(desk, [&app] { return std::make_unique<mirsel>(app); });
+    apri_archivi(app.archives, port, 1);
+    write_customers(app.archives, customers);
+    app.mirorcx->show();
+    std::printf("%d customers\n", customers);
+
+    rec_src entry;
+    rec_cli customer;
+    const auto read_one = [&](int position) {
+        app.archives.src.read(position, entry);
+        app.archives.cli.read(entry.numero, customer);
+    };
+    const auto read_all = [&] {
+        for (int position = 1; position <= customers; ++position) read_one(position);
+    };
+
+    user.leave = [&app] { app.mirsel->indice.click(); };
+    const auto open_list = [&](const char* part) {
+        app.mirorcx->nome.set_text(part);
+        app.mirorcx->b_lista.click();
+    };
+    compare(
+        "pick list of all customers", rounds, [&] { open_list(""); },
+        "one read for each entry and its customer", read_all);
+    compare(
+        "pick list of a tenth of them", rounds, [&] { open_list("7 s.r"); },
+        "one read for each entry and its customer", read_all);
+
+    const int searches = std::min(customers, 1000);
+    const auto ranks = [&](const std::function<void(int)>& visit) {
+        std::mt19937 random(2);
+        for (int i = 0; i < searches; ++i) {
+            visit(static_cast<int>(random() % static_cast<unsigned>(customers)) + 1);
+        }
+    };
+    const auto search_all = [&] {
+        ranks([&](int rank) {
+            app.mirorcx->nome.set_text(name_of(rank));
+            app.mirorcx->b_cerca.click();
+        });
+    };
+    const auto probe_all = [&] {
+        ranks([&](int rank) {
+            for (int i = 0; i < 15; ++i) app.archives.src.read(rank, entry);
+            read_one(rank);
+        });
+    };
+    compare("1000 searches by name", rounds, search_all, "16 entries and one customer each",
+            probe_all);
+
+    const auto walk = [&] {
+        for (int position = customers; position >= 1; --position) {
+            app.mirorcx->HScroll1.drag(position);
+        }
+        app.mirorcx->HScroll1.drag(customers);
+    };
+    compare("cursor over every customer", rounds, walk, "one read for each entry and its customer",
+            read_all);
+    return 0;
+}
+
+}  // namespace
+}  // namespace vantora::bench
+
+int main(int count, char** arguments) {
+    const bool quick = count > 1 && std::strcmp(arguments[1], "--quick") == 0;
+    return quick ? vantora::bench::run(200, 3) : vantora::bench::run(32767, 9);
+}
