@@ -26,6 +26,7 @@ void lay_out(form_window& window) {
     }
     auto* rows = new QFormLayout(&window);
     for (const control* one : window.screen().controls()) {
+        if (one->kind() == control_kind::picture) continue;  // lies in front of all others
         rows->addRow(shown(one->address()),
                      window.widget(one->name().c_str(), one->index().value_or(-1)));
     }

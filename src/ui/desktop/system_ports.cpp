@@ -1,9 +1,13 @@
 #include "ui/desktop/system_ports.h"
 
-#include <QFontMetricsF>
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
 #include <QPainter>
 #include <QPrintDialog>
+#include <QPrinterInfo>
 #include <QProcess>
+#include <QStandardPaths>
 
 #include "ui/desktop/binder.h"
 
@@ -11,27 +15,43 @@ namespace vantora::ui::desktop {
 
 namespace {
 
-QFont toolkit_font(const font& wanted) {
-    QFont made(shown(wanted.name));
-    made.setStyleHint(QFont::SansSerif);
-    made.setPointSizeF(wanted.size > 0 ? wanted.size : 1);
-    made.setBold(wanted.bold);
-    made.setItalic(wanted.italic);
-    return made;
+/// A name that isn't taken yet, in the user's folder of documents.
+QString proposed_file() {
+    const QDir folder(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    QString name = "Documento.pdf";
+    for (int i = 2; folder.exists(name); ++i) name = QString("Documento %1.pdf").arg(i);
+    return folder.filePath(name);
 }
 
-QColor toolkit_colour(colour ink) {
-    return {static_cast<int>(ink & 0xFF), static_cast<int>(ink >> 8 & 0xFF),
-            static_cast<int>(ink >> 16 & 0xFF)};
+QString ask_by_dialog() {
+    // Long work may have set the busy pointer.
+    const QCursor* busy = QGuiApplication::overrideCursor();
+    if (busy) QGuiApplication::changeOverrideCursor(Qt::ArrowCursor);
+    QString file = QFileDialog::getSaveFileName(QApplication::activeWindow(),
+                                                "Nessuna stampante: salva il documento in PDF",
+                                                proposed_file(), "Documenti PDF (*.pdf)");
+    if (busy) QGuiApplication::changeOverrideCursor(Qt::WaitCursor);
+    if (!file.isEmpty() && QFileInfo(file).suffix().isEmpty()) file += ".pdf";
+    return file;
 }
-
-constexpr double pen_width = 0.2;  // millimetres
 
 }  // namespace
 
-system_printer::system_printer() : printer_(QPrinter::HighResolution) {
+/// A job that is printed; without a painter, one that is dropped.
+struct system_printer::job {
+    std::unique_ptr<QPainter> painter;
+    std::unique_ptr<page_painter> page;
+};
+
+system_printer::system_printer() : printer_(QPrinter::HighResolution), ask_(ask_by_dialog) {
     printer_.setPageSize(QPageSize(QPageSize::A4));
     printer_.setFullPage(true);
+    printer_.setDocName("Vantora Ordini");
+}
+
+system_printer::system_printer(ask_for_file ask) : system_printer() {
+    ask_ = std::move(ask);
+    printer_.setOutputFormat(QPrinter::PdfFormat);
 }
 
 system_printer::~system_printer() = default;
@@ -53,65 +73,67 @@ double system_printer::page_height() const {
     return printer_.pageLayout().fullRect(QPageLayout::Millimeter).height();
 }
 
-double system_printer::dots(double millimetres) const {
-    return millimetres * printer_.resolution() / 25.4;
-}
-
 double system_printer::text_width(std::string_view text, const font& in) const {
-    const QFontMetricsF metrics(toolkit_font(in), &printer_);
-    return metrics.horizontalAdvance(shown(text)) * 25.4 / printer_.resolution();
+    return page_text_width(text, in, printer_);
 }
 
-bool system_printer::ready() {
-    if (!painter_) {
-        painter_ = std::make_unique<QPainter>();
-        if (!painter_->begin(&printer_)) painter_.reset();
-    } else if (page_ended_) {
+void system_printer::begin_job() {
+    job_ = std::make_unique<job>();
+    const bool to_file = printer_.outputFormat() == QPrinter::PdfFormat ||
+                         QPrinterInfo::availablePrinterNames().isEmpty();
+    if (to_file && printer_.outputFileName().isEmpty()) {
+        const QString file = ask_();
+        if (file.isEmpty()) return;
+        printer_.setOutputFormat(QPrinter::PdfFormat);
+        printer_.setOutputFileName(file);
+    }
+    printer_.setFullPage(true);
+    auto painter = std::make_unique<QPainter>();
+    if (!painter->begin(&printer_)) return;
+    job_->page = std::make_unique<page_painter>(*painter);
+    job_->painter = std::move(painter);
+}
+
+page_painter* system_printer::page() {
+    if (!job_) {
+        begin_job();
+    } else if (page_ended_ && job_->page) {
         printer_.newPage();
     }
     page_ended_ = false;
-    return painter_ != nullptr;
+    return job_->page.get();
 }
 
 void system_printer::text(double x, double y, std::string_view text, const font& in, colour ink) {
-    if (!ready()) return;
-    const QFont face = toolkit_font(in);
-    painter_->setFont(face);
-    painter_->setPen(toolkit_colour(ink));
-    const double ascent = QFontMetricsF(face, &printer_).ascent();
-    painter_->drawText(QPointF(dots(x), dots(y) + ascent), shown(text));
+    if (page_painter* on = page()) on->text(x, y, text, in, ink);
 }
 
 void system_printer::line(double x1, double y1, double x2, double y2, colour ink) {
-    if (!ready()) return;
-    painter_->setPen(QPen(toolkit_colour(ink), dots(pen_width)));
-    painter_->drawLine(QPointF(dots(x1), dots(y1)), QPointF(dots(x2), dots(y2)));
+    if (page_painter* on = page()) on->line(x1, y1, x2, y2, ink);
 }
 
 void system_printer::box(double x1, double y1, double x2, double y2, colour ink, bool filled) {
-    if (!ready()) return;
-    const QRectF area(QPointF(dots(x1), dots(y1)), QPointF(dots(x2), dots(y2)));
-    if (filled) {
-        painter_->fillRect(area.normalized(), toolkit_colour(ink));
-        return;
-    }
-    painter_->setPen(QPen(toolkit_colour(ink), dots(pen_width)));
-    painter_->setBrush(Qt::NoBrush);
-    painter_->drawRect(area.normalized());
+    if (page_painter* on = page()) on->box(x1, y1, x2, y2, ink, filled);
 }
 
 void system_printer::new_page() {
-    if (page_ended_ || !painter_) ready();
+    if (page_ended_ || !job_) page();
+    if (job_->page) job_->page->finish_page();
     page_ended_ = true;
 }
 
 void system_printer::end_job() {
-    painter_.reset();
+    if (!job_) return;
+    job_.reset();
     page_ended_ = false;
+    // The next document must not take this one's place.
+    if (printer_.outputFormat() == QPrinter::PdfFormat) printer_.setOutputFileName(QString());
 }
 
 bool system_printer::choose_settings() {
-    QPrintDialog dialog(&printer_);
+    QPrintDialog dialog(&printer_, QApplication::activeWindow());
+    dialog.setWindowTitle("Imposta stampante");
+    dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize);
     return dialog.exec() == QDialog::Accepted;
 }
 

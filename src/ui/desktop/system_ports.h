@@ -5,17 +5,23 @@
 #include <memory>
 #include <string>
 
+#include "ui/desktop/page_painter.h"
 #include "ui/launcher.h"
 #include "ui/printer.h"
 
-class QPainter;
-
 namespace vantora::ui::desktop {
 
-/// The system's printer. On a machine that has none, the dialog offers to print into a PDF file.
+/// Where a document goes that has no printer: the name of a PDF file, empty for nowhere.
+using ask_for_file = std::function<QString()>;
+
+/// The system's printer. Where there is none, each job asks for a PDF file and goes there; a user
+/// who names none drops the job.
 class system_printer final : public printer {
  public:
+    /// Asks by the system's dialog.
     system_printer();
+    /// Every job goes into a file, whatever printers there are.
+    explicit system_printer(ask_for_file ask);
     ~system_printer() override;
 
     [[nodiscard]] int orientation() const override;
@@ -34,12 +40,16 @@ class system_printer final : public printer {
     bool choose_settings() override;
 
  private:
-    /// Begins the job or the page if none is open. False if the printer refuses.
-    bool ready();
-    [[nodiscard]] double dots(double millimetres) const;
+    struct job;
+
+    /// The page to draw on; begins the job or the page if none is open. Null if the job is
+    /// dropped.
+    page_painter* page();
+    void begin_job();
 
     mutable QPrinter printer_;
-    std::unique_ptr<QPainter> painter_;
+    ask_for_file ask_;
+    std::unique_ptr<job> job_;
     bool page_ended_ = false;  ///< the next mark begins a new page
 };
 

@@ -5,6 +5,7 @@
 #include <QToolButton>
 
 #include "ui/desktop/kinds.h"
+#include "ui/desktop/page_painter.h"
 #include "ui/desktop/widget_binder.h"
 #include "ui/text_controls.h"
 
@@ -84,15 +85,32 @@ class button_binder final : public widget_binder {
     button& model_;
 };
 
+/// A picture lies in the middle of its window, in front of everything, while there is one to see.
 class picture_binder final : public widget_binder {
  public:
     picture_binder(picture& model, QWidget* parent, const user_action& act)
-        : widget_binder(model, new QLabel(parent), act) {
+        : widget_binder(model, new QLabel(parent), act), label_(as<QLabel>()), model_(model) {
         show_all();
     }
 
  private:
-    void show_value(aspect) override {}
+    void show_value(aspect what) override {
+        if (what != aspect::content) return;
+        label_->setPixmap(QPixmap::fromImage(image_of(model_.shown())));
+        show_visibility();
+    }
+    void show_visibility() override {
+        const bool seen = model_.visible() && !label_->pixmap().isNull();
+        if (seen) {
+            label_->adjustSize();
+            label_->move(label_->parentWidget()->rect().center() - label_->rect().center());
+            label_->raise();
+        }
+        label_->setVisible(seen);
+    }
+
+    QLabel* label_;
+    picture& model_;
 };
 
 }  // namespace

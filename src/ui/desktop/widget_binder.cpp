@@ -67,7 +67,7 @@ widget_binder::widget_binder(control& model, QWidget* made, user_action act)
 
 void widget_binder::show_all() {
     for (const aspect what : {aspect::shape, aspect::items, aspect::limits, aspect::text,
-                              aspect::value, aspect::position, aspect::enabling}) {
+                              aspect::value, aspect::content, aspect::position, aspect::enabling}) {
         changed(what);
     }
     show_visibility();

@@ -28,6 +28,8 @@ class widget_binder : public QObject, public binder {
     void show_all();
     /// Shows what is particular to the kind.
     virtual void show_value(aspect what) = 0;
+    /// Whether the widget stands on the screen; called whenever that may have changed.
+    virtual void show_visibility();
 
     bool eventFilter(QObject* watched, QEvent* event) override;
     /// The control has the focus and a key is pressed. True if the widget must not see it.
@@ -57,8 +59,6 @@ class widget_binder : public QObject, public binder {
     };
 
  private:
-    void show_visibility();
-
     control& model_;
     QWidget* widget_;
     user_action act_;

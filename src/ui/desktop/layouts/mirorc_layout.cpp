@@ -86,7 +86,6 @@ QGroupBox* compaction(form_window& window) {
 }  // namespace
 
 void lay_out_mirorc(form_window& window) {
-    window.widget("xsfondo")->hide();
     auto* all = new QVBoxLayout(&window);
     all->setContentsMargins(0, 0, 0, 0);
     all->setSpacing(0);

@@ -157,7 +157,6 @@ QHBoxLayout* foot_line(form_window& window) {
 }  // namespace
 
 void lay_out_mirorcs(form_window& window) {
-    window.widget("Picture1")->hide();
     auto* all = new QVBoxLayout(&window);
     all->setContentsMargins(0, 0, 0, 0);
     all->setSpacing(0);

@@ -4,7 +4,6 @@
 namespace vantora::ui::desktop {
 
 void lay_out_mirsel(form_window& window) {
-    window.widget("xsfondo")->hide();
     auto* all = new QVBoxLayout(&window);
     all->setContentsMargins(12, 10, 12, 12);
     all->setSpacing(8);

@@ -1,0 +1,64 @@
+#pragma once
+
+#include <QFont>
+#include <QImage>
+#include <QRectF>
+#include <string_view>
+#include <vector>
+
+#include "ui/bitmap.h"
+#include "ui/printer.h"
+
+class QPaintDevice;
+class QPainter;
+
+namespace vantora::ui::desktop {
+
+/// A font of the documents as this machine has it: by name, else by its stand-in of the same
+/// widths.
+QFont page_font(const font& wanted);
+
+/// Width in millimetres of a text of the code page on a device.
+double page_text_width(std::string_view text, const font& in, const QPaintDevice& on);
+
+/// The points of a picture; the light grey ones are transparent.
+QImage image_of(const bitmap& points);
+
+/// Draws the marks of documents and reports. Positions are millimetres from the upper left corner
+/// of the sheet, a text's position is its upper left corner. Printer and PDF files look alike
+/// because both draw through here.
+class page_painter {
+ public:
+    /// REQUIRES: `painter` is active, its origin is the corner of the sheet and its unit a dot of
+    /// its device; it outlives this object.
+    explicit page_painter(QPainter& painter);
+    ~page_painter();
+    page_painter(const page_painter&) = delete;
+    page_painter& operator=(const page_painter&) = delete;
+
+    void text(double x, double y, std::string_view text, const font& in, colour ink);
+    void line(double x1, double y1, double x2, double y2, colour ink);
+    void box(double x1, double y1, double x2, double y2, colour ink, bool filled);
+    /// A picture of `width` by `height` millimetres, without smoothing.
+    void image(double x, double y, double width, double height, const QImage& points);
+
+    /// Draws what was held back; to be called before the page ends.
+    void finish_page();
+
+ private:
+    /// A small filled box, one point of a picture that is printed point by point.
+    struct tile {
+        QRectF area;  ///< dots
+        colour ink;
+    };
+
+    [[nodiscard]] double dots(double millimetres) const;
+    [[nodiscard]] bool lie_in_a_raster(int& columns, int& rows) const;
+
+    QPainter& painter_;
+    double dots_per_millimetre_;
+    // Abutting boxes show seams in viewers; tiles are held back and drawn as one image.
+    std::vector<tile> tiles_;
+};
+
+}  // namespace vantora::ui::desktop
