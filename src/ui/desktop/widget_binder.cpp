@@ -92,7 +92,10 @@ void widget_binder::changed(aspect what) {
 }
 
 void widget_binder::show_visibility() {
-    if (widget_->isHidden() == model_.visible()) widget_->setVisible(model_.visible());
+    if (widget_->isHidden() != model_.visible()) return;
+    widget_->setVisible(model_.visible());
+    // It may have been given the focus before it could be seen.
+    if (model_.visible() && model_.has_focus()) widget_->setFocus(Qt::OtherFocusReason);
 }
 
 bool widget_binder::key_pressed(QKeyEvent& event) {
