@@ -1,5 +1,6 @@
 #include "documents/suite_table.h"
 
+#include <cstdlib>
 #include <optional>
 #include <string_view>
 
@@ -79,7 +80,9 @@ tabella_suite leggi_tabella_suite(file_port& files, int numero_azienda) {
 }
 
 std::string two_digits(int number) {
-    return {static_cast<char>('0' + number / 10 % 10), static_cast<char>('0' + number % 10)};
+    std::string digits = std::to_string(std::abs(number));
+    if (digits.size() < 2) digits.insert(0, 1, '0');
+    return number < 0 ? "-" + digits : digits;
 }
 
 std::vector<std::string> voci_iva(const tabella_iva& iva) {

@@ -30,7 +30,7 @@ struct tabella_suite {
 /// lists and empty in the VAT table.
 tabella_suite leggi_tabella_suite(file_port& files, int numero_azienda);
 
-/// A code from 0 to 99 in two digits.
+/// A code in two digits; what a damaged file holds beyond them shows in full.
 std::string two_digits(int number);
 
 /// The 24 entries of a list of VAT codes: "04 Iva 22%", "14 Non imponibile".

@@ -40,11 +40,13 @@ std::vector<std::string> voci_articoli(const channel<blocco_articoli>& blocks,
     constexpr int at_once = 16;
     std::vector<std::string> entries;
     std::vector<blocco_articoli> read(at_once);
-    const int last = std::max<int>(articles, 0) / 20 + 1;
+    // The last block may hold records that no 16-bit number reaches.
+    constexpr int last_number = 32767;
+    const int last = static_cast<int>(integer_part(articles / 20.0)) + 1;
     for (int first = 1; first <= last; first += at_once) {
         const auto count = static_cast<std::size_t>(std::min(at_once, last - first + 1));
         const std::span<blocco_articoli> part(read.data(), count);
-        if (!blocks.read_block(first, part)) break;
+        if (!blocks.read_block(first, part)) continue;
         for (std::size_t block = 0; block < count; ++block) {
             for (std::size_t place = 0; place < 20; ++place) {
                 const rec_art& article = read[block].articoli[place];
@@ -52,7 +54,7 @@ std::vector<std::string> voci_articoli(const channel<blocco_articoli>& blocks,
                 if (deleted != 0 || filtra_stampa(article.codice.full()).empty()) continue;
                 const auto number =
                     (first - 1 + static_cast<int>(block)) * 20 + static_cast<int>(place) + 1;
-                entries.push_back(entry_of(article, number, mode));
+                if (number <= last_number) entries.push_back(entry_of(article, number, mode));
             }
         }
     }

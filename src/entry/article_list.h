@@ -13,7 +13,8 @@ enum modo_lista { per_codice = 0, per_descrizione = 1 };
 
 /// The entries of the list of all live articles, in the order of the file: code and description in
 /// their full widths, then the record number as the last characters. The file is read many blocks
-/// of twenty at a time; the last block may reach behind the count.
+/// of twenty at a time; the last block may reach behind the count. A part of the file that can't
+/// be read is left out.
 std::vector<std::string> voci_articoli(const channel<blocco_articoli>& blocks,
                                        std::int16_t articles, modo_lista mode);
 

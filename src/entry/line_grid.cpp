@@ -91,7 +91,7 @@ void line_grid::svuota_righe() {
             cell->set_text("");
         }
     }
-    totali_ = {};
+    compute_totals();
     VScroll1.set_value(1);
 }
 
@@ -292,31 +292,33 @@ void line_grid::take_vat_pick() {
 // Commands on lines -----------------------------------------------------------------------------
 
 void line_grid::insert_line() {
-    if (riga_corrente_ < 0) return;
-    prima_riga_ = VScroll1.value();
-    const int line = riga_corrente_ + prima_riga_;
-    if (line > righe_ordine::massimo) return;
-    const int row = riga_corrente_;
-    righe_.insert(line);
-    paint_rows(row);
-    if (row < rows) artic[row].set_focus();
+    shift_lines(&righe_ordine::insert);
 }
 
 void line_grid::delete_line() {
-    if (riga_corrente_ < 0) return;
+    shift_lines(&righe_ordine::remove);
+}
+
+void line_grid::shift_lines(void (righe_ordine::*shift)(int)) {
+    if (!current_row_shown()) return;
     prima_riga_ = VScroll1.value();
-    const int line = riga_corrente_ + prima_riga_;
-    if (line > righe_ordine::massimo) return;
-    const int row = riga_corrente_;
-    righe_.remove(line);
-    paint_rows(row);
-    if (row < rows) artic[row].set_focus();
+    (righe_.*shift)(prima_riga_ + riga_corrente_);
+    paint_rows(riga_corrente_);
+    return_to(artic);
 }
 
 void line_grid::sort_lines() {
     righe_.sort_by_code();
     paint();
-    if (riga_corrente_ >= 0 && riga_corrente_ < rows) artic[riga_corrente_].set_focus();
+    return_to(artic);
+}
+
+bool line_grid::current_row_shown() const {
+    return riga_corrente_ >= 0 && riga_corrente_ < rows;
+}
+
+void line_grid::return_to(ui::text_box (&column)[rows]) {
+    if (current_row_shown()) column[riga_corrente_].set_focus();
 }
 
 void line_grid::printer_setup() {

@@ -62,6 +62,7 @@ class line_grid : public ui::form {
     void svuota_righe();
     /// Paints the twelve rows from the lines.
     void paint();
+    /// At the current row, if that is one of the twelve.
     void insert_line();
     void delete_line();
     void printer_setup();
@@ -96,12 +97,17 @@ class line_grid : public ui::form {
     void open_vat_pick(int row);
     void take_vat_pick();
     void compute_totals();
+    void shift_lines(void (righe_ordine::*shift)(int));
     void sort_lines();
+    /// False while `riga_corrente_` holds a line's number that no row has.
+    [[nodiscard]] bool current_row_shown() const;
+    /// Gives the focus to the current row's cell of a column.
+    void return_to(ui::text_box (&column)[rows]);
     void clear_if_zero(ui::text_box& cell);
 
     const line_grid_kind& kind_;
     ui::option_group prezz_group_;
-    int riga_corrente_ = 0;  ///< grid row with the focus; after a `civ` cell the line's number
+    int riga_corrente_ = 0;  ///< grid row last in focus; after a `civ` cell the line's number
     int prima_riga_ = 0;     ///< first line last seen; after a `civ` cell the grid row
     bool combo_attivo_ = false;
 
@@ -113,7 +119,9 @@ class line_grid : public ui::form {
     void search_list(const std::string& wanted);
     void take_list_entry();
     void find_by_description(int row, ui::key_event& key);
-    void copy_article(const rec_art& article, std::string_view code);
+    bool find_bar_code(const std::string& code);
+    /// Fills the current row's line from `articolo_`.
+    void copy_article(std::string_view code);
     void unfold_long_text(int line);
     void attiva_lista(bool on);
     void carica_lista(modo_lista mode);

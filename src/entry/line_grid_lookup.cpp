@@ -1,3 +1,5 @@
+#include <cmath>
+
 #include "entry/line_grid.h"
 #include "store/key_index.h"
 #include "store/text/number_text.h"
@@ -42,7 +44,7 @@ void line_grid::attiva_lista(bool on) {
 void line_grid::reload_list() {
     stato_lista_ = lista_ferma;
     attiva_lista(true);
-    if (riga_corrente_ >= 0 && riga_corrente_ < rows) artic[riga_corrente_].set_focus();
+    return_to(artic);
 }
 
 void line_grid::search_list(const std::string& wanted) {
@@ -58,12 +60,13 @@ void line_grid::search_list(const std::string& wanted) {
 }
 
 void line_grid::take_list_entry() {
-    if (stato_lista_ < 0 || riga_corrente_ < 0 || riga_corrente_ >= rows) return;
+    if (stato_lista_ == lista_ferma || !current_row_shown()) return;
     const int state = stato_lista_;
     stato_lista_ = lista_ferma;
     articolo_corrente_ = numero_articolo(List1.text());
-    app_.archives.art.read(articolo_corrente_, articolo_);
-    copy_article(articolo_, articolo_.codice.trimmed());
+    if (app_.archives.art.read(articolo_corrente_, articolo_)) {
+        copy_article(articolo_.codice.trimmed());
+    }
     stato_lista_ = state;
 }
 
@@ -73,8 +76,8 @@ void line_grid::barcode_clicked() {
     } else if (stato_lista_ >= 0 || articoli_.quanti >= 1) {
         attiva_lista(true);
     }
-    if (riga_corrente_ < 0 || riga_corrente_ >= rows) riga_corrente_ = 0;
-    artic[riga_corrente_].set_focus();
+    if (!current_row_shown()) riga_corrente_ = 0;
+    return_to(artic);
 }
 
 // The code cell ---------------------------------------------------------------------------------
@@ -99,14 +102,17 @@ void line_grid::article_enter(int row) {
         if (lista_trovato_ != 0) return take_list_entry();
         return article_not_found(row);
     }
+    if (!find_bar_code(code)) return article_not_found(row);
+    copy_article(articolo_.codice_barre.trimmed());
+}
+
+bool line_grid::find_bar_code(const std::string& code) {
+    app_.archives.tot.read(contatori::articoli, articoli_);
     lista_trovato_ = cerca_codice_barre(app_.archives.srb, articoli_.quanti, code);
-    if (lista_trovato_ <= 0) return article_not_found(row);
     rec_srb entry;
-    app_.archives.srb.read(lista_trovato_, entry);
+    if (!app_.archives.srb.read(lista_trovato_, entry)) return false;
     articolo_corrente_ = entry.numero;
-    app_.archives.art.read(articolo_corrente_, articolo_);
-    if (articolo_.eliminato != 0) return article_not_found(row);
-    copy_article(articolo_, articolo_.codice_barre.trimmed());
+    return app_.archives.art.read(articolo_corrente_, articolo_) && articolo_.eliminato == 0;
 }
 
 void line_grid::article_not_found(int row) {
@@ -131,7 +137,8 @@ void line_grid::find_by_description(int row, ui::key_event& key) {
 
 // Into the line -----------------------------------------------------------------------------------
 
-void line_grid::copy_article(const rec_art& article, std::string_view code) {
+void line_grid::copy_article(std::string_view code) {
+    const rec_art& article = articolo_;
     const int number = line_of(riga_corrente_);
     riga_ordine& line = righe_[number];
     line.articolo = articolo_corrente_;
@@ -139,11 +146,12 @@ void line_grid::copy_article(const rec_art& article, std::string_view code) {
     line.descrizione = article.descrizione.trimmed();
     const std::int16_t own = cliente_.iva_cliente;
     line.iva = own >= 1 && own <= 24 ? own : static_cast<std::int16_t>(article.iva);
-    line.prezzo = prezz[0].on() ? article.prezzo1 : article.prezzo2;
+    const double price = prezz[0].on() ? article.prezzo1 : article.prezzo2;
+    line.prezzo = std::isfinite(price) ? price : 0;
     line.um = article.um.trimmed();
     unfold_long_text(number);
     paint();
-    quantita[riga_corrente_].set_focus();
+    return_to(quantita);
 }
 
 void line_grid::unfold_long_text(int line) {

@@ -47,6 +47,7 @@ totali_ordine calcola_totali(const righe_ordine& lines, const tabella_iva& rates
         sums.imponibile += vat.imponibile_iva[code] + vat.esente_iva[code];
         sums.totale += vat.imposta_iva[code] + vat.imponibile_iva[code] + vat.esente_iva[code];
     }
+    checked(sums.imponibile);
     checked(sums.totale);
     checked(sums.pezzi);
     return sums;

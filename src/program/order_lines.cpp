@@ -6,12 +6,18 @@ namespace vantora {
 
 void clear_line(riga_ordine& line) {
     const double fulfilled = line.evaso;
+    const double weight = line.peso;
     line = riga_ordine{};
     line.evaso = fulfilled;
+    line.peso = weight;
 }
 
 void righe_ordine::clear() {
-    for (int number = 1; number <= massimo; ++number) clear_line((*this)[number]);
+    for (int number = 1; number <= massimo; ++number) {
+        riga_ordine& line = (*this)[number];
+        clear_line(line);
+        line.peso = 0;
+    }
 }
 
 void righe_ordine::insert(int number) {

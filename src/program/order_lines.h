@@ -40,9 +40,9 @@ class righe_ordine {
     /// Empties all lines; what is fulfilled of them stays.
     void clear();
     /// Makes room at a line by pushing the following ones down; what stood in the last line is
-    /// lost. The new line is empty but for the fulfilled quantity of the one that stood there.
+    /// lost. The new line is empty as by clear_line.
     void insert(int number);
-    /// Takes a line out and pulls the following ones up.
+    /// Takes a line out and pulls the following ones up; the last one is emptied as by clear_line.
     void remove(int number);
     /// Orders the lines by code, ascending by character code, lines without a code last. Lines
     /// with equal codes end where the exchanges leave them.
@@ -59,7 +59,7 @@ struct riepilogo_iva {
     std::array<double, 17> esente_iva{};      ///< 1 to 12: net amounts by exemption code - 12
 };
 
-/// A line emptied, all but its fulfilled quantity.
+/// Empties a line, all but its fulfilled quantity and its weight.
 void clear_line(riga_ordine& line);
 
 }  // namespace vantora

@@ -82,5 +82,20 @@ TEST(vantora_script, StartsOnAnythingAndRefusesWrongOptions) {
     EXPECT_EQ(run(drive + " --sconosciuta", {}).exit_code, 2);
 }
 
+TEST(vantora_script, EndsWithCode3OnARunTimeError) {
+    test::scratch_folder folder;
+    demo::make_company(
+        {.numero_azienda = 7, .orders = 0, .articles = 30, .customers = 20, .seed = 1},
+        folder.path());
+    const outcome ended =
+        run("--drive " + folder.path().string() + " ordini007",
+            {"click mirorc.bottone(2)", "scroll mirorcx.HScroll1 3", "click mirorcx.bottone",
+             "set mirorcs.sc1(0) \"99999\"", "click mirorcs.comando(0)"});
+    EXPECT_EQ(ended.exit_code, 3);
+    EXPECT_EQ(ended.replies[2]["screen"], "mirorcs");
+    EXPECT_EQ(ended.replies[3]["fatal"], "Errore di run-time '6': Overflow");
+    EXPECT_EQ(ended.replies[4]["ok"], false);
+}
+
 }  // namespace
 }  // namespace vantora

@@ -112,7 +112,8 @@ void interpreter::set(const words& line) {
     if (one->kind() != control_kind::text_box) return refuse("the control is no text box");
     act([&] {
         one->set_focus();
-        static_cast<text_box*>(one)->set_text(from_utf8(line[2].text));
+        // A cell that hands the focus on takes no text.
+        if (one->has_focus()) static_cast<text_box*>(one)->set_text(from_utf8(line[2].text));
     });
 }
 

@@ -1,0 +1,187 @@
+#include "entry/totals.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <random>
+#include <vector>
+
+#include "ui/errors.h"
+
+namespace vantora {
+namespace {
+
+struct amounts {
+    double quantita, prezzo;
+    int sc1, sc2, iva;
+};
+
+constexpr double max_double = std::numeric_limits<double>::max();
+
+valuta currency(bool euro) {
+    parametri from;
+    from.parametri_valuta[valuta_slot::modo_decimali] = euro ? "1" : "0";
+    return valuta(from);
+}
+
+tabella_iva rates() {
+    tabella_iva table;
+    table.aliquota_iva[1] = "4";
+    table.aliquota_iva[2] = "20";
+    table.aliquota_iva[3] = "10.5";
+    table.aliquota_iva[4] = "22%";
+    table.aliquota_iva[5] = "nessuna";
+    table.aliquota_iva[6] = "10";
+    return table;
+}
+
+righe_ordine order_of(const std::vector<amounts>& all, int first = 1) {
+    righe_ordine lines;
+    for (const amounts& one : all) {
+        riga_ordine& line = lines[first++];
+        line.quantita = one.quantita;
+        line.prezzo = one.prezzo;
+        line.sc1 = static_cast<std::int16_t>(one.sc1);
+        line.sc2 = static_cast<std::int16_t>(one.sc2);
+        line.iva = static_cast<std::int16_t>(one.iva);
+    }
+    return lines;
+}
+
+TEST(calcola_totali, AmountsComputedByHand) {
+    struct {
+        const char* what;
+        bool euro;
+        std::vector<amounts> lines;
+        double imponibile, totale, pezzi;
+    } cases[] = {
+        {"empty order", true, {}, 0, 0, 0},
+        {"empty order in lire", false, {}, 0, 0, 0},
+        {"discounts cascade", true, {{3, 10, 10, 5, 2}}, 25.65, 30.78, 3},
+        {"VAT in lire rounds up", false, {{1, 1001, 0, 0, 2}}, 1001, 1202, 1},
+        {"a discount in lire doesn't", false, {{1, 1001, 10, 0, 2}}, 901, 1082, 1},
+        {"a price without quantity", true, {{0, 5.555, 0, 0, 14}}, 5.555, 5.555, 0},
+        {"the same with quantity", true, {{1, 5.555, 0, 0, 14}}, 5.56, 5.56, 1},
+        {"price that counts once", true, {{-9999, 100, 0, 0, 14}}, 100, 100, 0},
+        {"exempt", true, {{1, 100, 0, 0, 13}, {1, 50, 0, 0, 24}}, 150, 150, 2},
+        {"codes out of range count at 1",
+         true,
+         {{1, 100, 0, 0, 0}, {1, 100, 0, 0, 25}, {1, 100, 0, 0, -3}},
+         300,
+         312,
+         3},
+        {"rate with decimals", true, {{1, 100, 0, 0, 3}}, 100, 110.5, 1},
+        {"rate with a sign behind it", true, {{1, 100, 0, 0, 4}}, 100, 122, 1},
+        {"rates without number", true, {{1, 100, 0, 0, 5}, {1, 100, 0, 0, 12}}, 200, 200, 2},
+        // 0.06 at 10% is 0.01 for each line, but 0.02 on the sum of three.
+        {"rounding per line, VAT on the sum",
+         true,
+         {{1, 0.056, 0, 0, 6}, {1, 0.056, 0, 0, 6}, {1, 0.056, 0, 0, 6}},
+         0.18,
+         0.2,
+         3},
+        {"from .49 upward rounds up in lire", false, {{1, 10.49, 0, 0, 14}}, 11, 11, 1},
+        {"below .49 rounds down in lire", false, {{1, 10.48, 0, 0, 14}}, 10, 10, 1},
+        {"negative amounts go down", false, {{1, -10.6, 0, 0, 14}}, -11, -11, 1},
+        {"returned goods", true, {{-2, 10, 0, 0, 2}}, -20, -24, -2},
+        {"discount above 100", true, {{1, 100, 150, 0, 14}}, -50, -50, 1},
+        {"negative discount", true, {{1, 100, -10, 0, 14}}, 110, 110, 1},
+        {"quantity with decimals", true, {{2.5, 1.99, 0, 0, 14}}, 4.98, 4.98, 2.5},
+    };
+    for (const auto& one : cases) {
+        const auto sums = calcola_totali(order_of(one.lines), rates(), currency(one.euro));
+        EXPECT_NEAR(sums.imponibile, one.imponibile, 1e-9) << one.what;
+        EXPECT_NEAR(sums.totale, one.totale, 1e-9) << one.what;
+        EXPECT_NEAR(sums.pezzi, one.pezzi, 1e-9) << one.what;
+    }
+}
+
+TEST(calcola_totali, KeepsTheSumsByCode) {
+    const auto sums =
+        calcola_totali(order_of({{1, 100, 0, 0, 2}, {1, 50, 0, 0, 14}, {2, 10, 0, 0, 0}}, 198),
+                       rates(), currency(true));
+    EXPECT_EQ(sums.iva.imponibile_iva[2], 100);
+    EXPECT_EQ(sums.iva.imposta_iva[2], 20);
+    EXPECT_EQ(sums.iva.imponibile_iva[1], 20);
+    EXPECT_EQ(sums.iva.imposta_iva[1], 0.8);
+    EXPECT_EQ(sums.iva.esente_iva[2], 50);
+}
+
+/// The sums as the rules of the house tell them, step by step.
+struct plain_sums {
+    double taxed[25] = {};
+    double imponibile = 0, totale = 0, pezzi = 0;
+
+    plain_sums(const std::vector<amounts>& lines, bool euro, const double (&rate)[13]) {
+        const auto percent = [&](double value, double of, double bias) {
+            return euro ? std::floor(value * of + 0.51) / 100 : std::floor(value * of / 100 + bias);
+        };
+        for (const amounts& line : lines) {
+            double value = line.prezzo;
+            if (line.quantita != 0 && line.quantita != -9999) {
+                pezzi = pezzi + line.quantita;
+                value = value * line.quantita;
+                value = euro ? std::floor(value * 100 + 0.51) / 100 : std::floor(value + 0.51);
+            }
+            value = value - percent(value, line.sc1, 0.51);
+            value = value - percent(value, line.sc2, 0.51);
+            taxed[line.iva < 1 || line.iva > 24 ? 1 : line.iva] += value;
+        }
+        for (int code = 1; code <= 12; ++code) {
+            const double net = taxed[code] + taxed[code + 12];
+            imponibile += net;
+            totale += percent(taxed[code], rate[code], 0.99) + taxed[code] + taxed[code + 12];
+        }
+    }
+};
+
+TEST(calcola_totali, AgreesWithAPlainRecomputationOnRandomOrders) {
+    std::mt19937 random(11);
+    const auto below = [&](int limit) { return static_cast<int>(random()) % limit; };
+    const auto upto = [&](int limit) { return std::abs(below(limit)); };
+    const double rate_of[13] = {0, 4, 20, 10, 22, 10.5};
+    tabella_iva table;
+    const char* texts[] = {"", "4", " 20", "10%", "22", "10.5"};
+    for (std::size_t code = 1; code <= 5; ++code) table.aliquota_iva[code] = texts[code];
+    for (int round = 0; round < 300; ++round) {
+        const bool euro = round % 2 == 0;
+        std::vector<amounts> lines;
+        for (int i = upto(201); i > 0; --i) {
+            const double quantity = upto(6) == 0   ? 0
+                                    : upto(9) == 0 ? -9999
+                                                   : below(4000) / (upto(2) ? 100.0 : 1.0);
+            const double price = below(2000000) / (upto(2) ? 1000.0 : 1.0);
+            lines.push_back(
+                {quantity, price, upto(3) ? 0 : below(120), upto(3) ? 0 : below(60), upto(27) - 1});
+        }
+        const plain_sums expected(lines, euro, rate_of);
+        const auto sums = calcola_totali(order_of(lines), table, currency(euro));
+        ASSERT_DOUBLE_EQ(sums.imponibile, expected.imponibile) << round;
+        ASSERT_DOUBLE_EQ(sums.totale, expected.totale) << round;
+        ASSERT_DOUBLE_EQ(sums.pezzi, expected.pezzi) << round;
+        for (std::size_t code = 1; code <= 12; ++code) {
+            ASSERT_EQ(sums.iva.imponibile_iva[code], expected.taxed[code]) << round;
+            ASSERT_EQ(sums.iva.esente_iva[code], expected.taxed[code + 12]) << round;
+        }
+    }
+}
+
+TEST(calcola_totali, AmountsBeyondAllNumbersAreAnOverflow) {
+    const std::vector<amounts> wrong[] = {
+        {{1e10, 1e308, 0, 0, 14}},
+        {{1, 1e307, 0, 0, 14}},
+        {{0, max_double, 0, 0, 13}, {0, max_double, 0, 0, 14}},
+        {{0, max_double, 30000, 0, 14}},
+        {{0, std::nan(""), 0, 0, 14}},
+        {{max_double, 0, 0, 0, 14}, {max_double, 0, 0, 0, 14}},
+    };
+    for (const auto& lines : wrong) {
+        EXPECT_THROW(calcola_totali(order_of(lines), rates(), currency(true)), ui::overflow_error)
+            << lines[0].quantita << " x " << lines[0].prezzo;
+    }
+    EXPECT_NO_THROW(calcola_totali(order_of({{0, 1e300, 0, 0, 14}}), rates(), currency(true)));
+}
+
+}  // namespace
+}  // namespace vantora
