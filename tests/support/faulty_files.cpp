@@ -22,8 +22,9 @@ class faulty_file final : public file {
         return real_->write(offset, bytes);
     }
     bool flush() override {
+        // The disk itself is no part of a test, and slow.
         faults_.events.push_back({path_, 0, 0, true});
-        return real_->flush();
+        return true;
     }
 
  private:

@@ -1,0 +1,274 @@
+#include "entry/save_order.h"
+
+#include <gtest/gtest.h>
+
+#include <optional>
+
+#include "scripted/small_company.h"
+#include "store/drive.h"
+#include "support/faulty_files.h"
+
+namespace vantora::test {
+namespace {
+
+testata_registrata head_of(const std::string& number, bool commit = false) {
+    testata_registrata head;
+    head.numero = number;
+    head.data = "06/05/2024";
+    head.data_evasione = "31/12/2024";
+    head.cliente = 3;
+    head.testi = {
+        {{"r1", "r2", "r3"}, {"a1", "a2", "a3"}, {"c1", "c2", "0110"}, {"v1", "v2", "v3"}}};
+    head.impegno = commit;
+    head.data_reg = 45418.5;
+    return head;
+}
+
+riga_ordine line_of(std::int16_t article, double quantity, std::string_view text = "merce") {
+    riga_ordine line;
+    line.articolo = article;
+    line.descrizione = text;
+    line.um = "KG";
+    line.quantita = quantity;
+    line.prezzo = 1.25;
+    line.iva = 14;
+    line.sc1 = 10;
+    line.sc2 = -5;
+    return line;
+}
+
+rec_art stocked(double on_hand) {
+    rec_art one = article("A", "Articolo", 1);
+    one.giacenza = on_hand;
+    one.impegnato = 1.0;
+    one.ordinato_clienti = 100.0;
+    one.riservato_ba = "da tenere";
+    return one;
+}
+
+rec_orc row_of(archivi& files, int registrazione, int row) {
+    rec_orc read;
+    EXPECT_TRUE(files.orc.read(block_record(registrazione, row), read));
+    return read;
+}
+
+rec_tot counter_of(archivi& files) {
+    rec_tot counter;
+    EXPECT_TRUE(files.tot.read(contatori::ordini, counter));
+    return counter;
+}
+
+TEST(save_order, WritesTwoHundredRowsBehindTheLastBlock) {
+    small_company company;
+    company.counter(contatori::ordini, 7, 70);
+    righe_ordine lines;
+    const std::string long_text = std::string(38, 'x') + "0123456789012345678901";
+    lines[1] = line_of(0, 2.5, long_text);
+    lines[200] = line_of(-4, 0, "ultima");
+    ASSERT_TRUE(salva_nuovo_ordine(company.files, head_of("12/B-0000000000", true), lines, 0));
+
+    EXPECT_EQ(std::filesystem::file_size(company.file("orc")), 1600U * 284);
+    const rec_orc first = row_of(company.files, 8, 1);
+    EXPECT_EQ(first.numero.full(), "12/B-00000");
+    EXPECT_EQ(first.data.full(), "20240506");
+    EXPECT_EQ(first.data_evasione.full(), "20241231");
+    EXPECT_EQ(first.cliente, 3);
+    EXPECT_EQ(first.testo1.trimmed(), "r1");
+    EXPECT_EQ(first.articolo, 0);
+    EXPECT_EQ(first.descrizione.full(), std::string(38, 'x') + "01");
+    EXPECT_EQ(first.descrizione2.full(), "2345678901") << "what is behind 50 characters is lost";
+    EXPECT_EQ(first.um.full(), "KG");
+    EXPECT_EQ(first.quantita, 2.5);
+    EXPECT_EQ(first.prezzo, 1.25);
+    EXPECT_EQ(first.iva, 14);
+    EXPECT_EQ(first.sc1, 10);
+    EXPECT_EQ(first.sc2, -5);
+    EXPECT_EQ(first.evaso, 0);
+    EXPECT_EQ(first.data_reg, 45418.5);
+    EXPECT_EQ(first.impegno.full(), "1");
+    EXPECT_EQ(row_of(company.files, 8, 3).testo3.trimmed(), "0110");
+    const rec_orc last = row_of(company.files, 8, 200);
+    EXPECT_EQ(last.numero.full(), "12/B-00000");
+    EXPECT_EQ(last.testo1.trimmed(), "v1") << "rows behind the fourth repeat its texts";
+    EXPECT_EQ(last.articolo, -4);
+    EXPECT_EQ(last.descrizione.trimmed(), "ultima");
+    EXPECT_EQ(row_of(company.files, 8, 100).descrizione.full(), std::string(40, ' '));
+    EXPECT_EQ(counter_of(company.files).quanti, 8);
+    EXPECT_EQ(counter_of(company.files).ultimo_numero, 12);
+}
+
+TEST(save_order, CountersTakeWhatFitsAndKeepTheRest) {
+    const struct {
+        int in_use;
+        const char* number;
+        int then_in_use;
+        int then_last;
+    } cases[] = {
+        {0, "1", 1, 1},      {0, "abc", 1, 0},       {3, "7.5", 4, 8},   {3, "6.5", 4, 6},
+        {3, "99999", 4, 55}, {32767, "9", 32767, 9}, {3, " 1 2", 4, 12}, {3, "", 4, 0},
+    };
+    for (const auto& one : cases) {
+        small_company company;
+        rec_tot before{};
+        before.quanti = static_cast<std::int16_t>(one.in_use);
+        before.modificato = 5;
+        before.riservato_a = 6;
+        before.ultimo_numero = 55;
+        before.progressivo = 7.5F;
+        company.files.tot.write(contatori::ordini, before);
+        ASSERT_TRUE(salva_nuovo_ordine(company.files, head_of(one.number), {}, 0));
+        const rec_tot after = counter_of(company.files);
+        EXPECT_EQ(after.quanti, one.then_in_use) << one.number;
+        EXPECT_EQ(after.ultimo_numero, one.then_last) << one.number;
+        EXPECT_EQ(after.modificato, 5);
+        EXPECT_EQ(after.riservato_a, 6);
+        EXPECT_EQ(after.progressivo, 7.5F);
+    }
+}
+
+TEST(save_order, StockIsCommittedAsFarAsItGoes) {
+    struct figures {
+        double on_hand, committed, ordered;
+        bool operator==(const figures&) const = default;
+    };
+    const struct {
+        bool commit;
+        double on_hand;
+        std::vector<double> quantities;
+        figures after;
+    } cases[] = {
+        {false, 4, {10}, {4, 1, 110}},   {true, 4, {10}, {0, 5, 110}},
+        {true, 40, {10}, {30, 11, 110}}, {true, 12, {10, 5}, {0, 13, 115}},
+        {true, -3, {10}, {0, -2, 110}},  {true, 4, {-9999}, {10003, -9998, -9899}},
+        {true, 4, {0}, {4, 1, 100}},
+    };
+    for (const auto& one : cases) {
+        small_company company;
+        company.articles({stocked(77), stocked(one.on_hand)});
+        righe_ordine lines;
+        int number = 1;
+        for (const double quantity : one.quantities) lines[number++] = line_of(2, quantity);
+        lines[number++] = line_of(3, 5);
+        lines[number++] = line_of(0, 5);
+        lines[number++] = line_of(-1, 5);
+        ASSERT_TRUE(salva_nuovo_ordine(company.files, head_of("1", one.commit), lines, 2));
+        rec_art after;
+        company.files.art.read(2, after);
+        EXPECT_EQ((figures{after.giacenza, after.impegnato, after.ordinato_clienti}), one.after);
+        EXPECT_EQ(after.riservato_ba.trimmed(), "da tenere");
+        company.files.art.read(1, after);
+        EXPECT_EQ(after.giacenza, 77);
+        EXPECT_EQ(after.ordinato_clienti, 100);
+        EXPECT_EQ(std::filesystem::file_size(company.file("art")), 2U * 327)
+            << "beyond the count there is no article";
+    }
+}
+
+/// A save on an archive of one order, over files that may fail.
+struct save_bench {
+    save_bench() {
+        company.articles({stocked(10), stocked(10), stocked(10)});
+        lines[1] = line_of(1, 4);
+        lines[2] = line_of(0, 4);
+        lines[3] = line_of(3, 4);
+        apri_archivi(files, faults, 1);
+        salva_nuovo_ordine(files, head_of("1"), {}, 3);
+        faults.events.clear();
+        faults.writes = 0;
+    }
+    bool save() { return salva_nuovo_ordine(files, head_of("2", true), lines, 3); }
+    double ordered(int number) {
+        rec_art read;
+        company.files.art.read(number, read);
+        return read.ordinato_clienti;
+    }
+
+    small_company company;
+    drive real{company.drive()};
+    faulty_files faults{real};
+    archivi files;
+    righe_ordine lines;
+};
+
+std::string extension(const std::string& path) {
+    return path.substr(path.rfind('.') + 1);
+}
+
+TEST(save_order, EveryRowFollowsItsArticleAndTheCounterFollowsTheDisk) {
+    save_bench bench;
+    ASSERT_TRUE(bench.save());
+    std::vector<std::string> order;
+    for (const auto& event : bench.faults.events) {
+        order.push_back(extension(event.path) + (event.flush ? "!" : ""));
+    }
+    std::vector<std::string> expected = {"art", "orc", "orc", "art"};
+    expected.insert(expected.end(), 198, "orc");
+    for (const char* last : {"art!", "orc!", "tot", "tot!"}) expected.emplace_back(last);
+    EXPECT_EQ(order, expected);
+    EXPECT_EQ(bench.faults.events[1].offset, 200 * 284);
+}
+
+TEST(save_order, ACrashLeavesNoCountedOrderWithoutItsStockMovements) {
+    // 2 articles, 200 rows, 1 counter
+    for (std::size_t writes = 0; writes <= 203; ++writes) {
+        save_bench bench;
+        bench.faults.writes_before_crash = writes;
+        bool crashed = false;
+        try {
+            bench.save();
+        } catch (const crash&) {
+            crashed = true;
+        }
+        EXPECT_EQ(crashed, writes < 203);
+        const rec_tot counter = counter_of(bench.company.files);
+        EXPECT_EQ(counter.quanti, writes < 203 ? 1 : 2) << "after " << writes << " writes";
+        EXPECT_EQ(counter.ultimo_numero, writes < 203 ? 1 : 2);
+        EXPECT_EQ(row_of(bench.company.files, 1, 1).numero.trimmed(), "1")
+            << "the order before is unharmed";
+        // A row on the disk has its article's movement there too.
+        const auto size = std::filesystem::file_size(bench.company.file("orc"));
+        const auto rows = static_cast<std::int64_t>(size / 284) - 200;
+        if (rows >= 1) {
+            EXPECT_EQ(bench.ordered(1), 104) << "after " << writes << " writes";
+        }
+        if (rows >= 3) {
+            EXPECT_EQ(bench.ordered(3), 104) << "after " << writes << " writes";
+        }
+
+        // The next order takes the same block and the archive is whole again.
+        if (!crashed) continue;
+        bench.faults.writes_before_crash = 1000;
+        ASSERT_TRUE(salva_nuovo_ordine(bench.files, head_of("3"), {}, 3));
+        EXPECT_EQ(counter_of(bench.company.files).quanti, 2);
+        EXPECT_EQ(row_of(bench.company.files, 2, 1).numero.trimmed(), "3");
+        EXPECT_EQ(row_of(bench.company.files, 2, 3).articolo, 0);
+    }
+}
+
+TEST(save_order, FailedWritesArePassedOverAndUnreadableArticlesLeftAlone) {
+    save_bench bench;
+    bench.faults.read_fails = [](const std::string& path, std::int64_t offset, std::size_t) {
+        return extension(path) == "art" && offset == 0;
+    };
+    bench.faults.write_fails = [](const std::string& path, std::int64_t offset) {
+        return extension(path) == "orc" && offset == block_record(2, 2) * 284 - 284;
+    };
+    ASSERT_TRUE(bench.save());
+    EXPECT_EQ(bench.ordered(1), 100);
+    EXPECT_EQ(bench.ordered(3), 104);
+    EXPECT_EQ(counter_of(bench.company.files).quanti, 2);
+    EXPECT_EQ(row_of(bench.company.files, 2, 2).numero.full(), std::string(10, '\0'));
+    EXPECT_EQ(row_of(bench.company.files, 2, 3).articolo, 3);
+}
+
+TEST(save_order, WithoutItsCounterNothingIsWritten) {
+    save_bench bench;
+    bench.faults.read_fails = [](const std::string& path, std::int64_t, std::size_t) {
+        return extension(path) == "tot";
+    };
+    EXPECT_FALSE(bench.save());
+    EXPECT_TRUE(bench.faults.events.empty());
+}
+
+}  // namespace
+}  // namespace vantora::test
