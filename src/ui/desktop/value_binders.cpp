@@ -27,6 +27,23 @@ class scroll_bar_binder final : public widget_binder {
     }
 
  private:
+    /// The toolkit's bars go back on the right arrow, as suits upright ones.
+    bool key_pressed(QKeyEvent& event) override {
+        if (widget_binder::key_pressed(event)) return true;
+        switch (event.key()) {
+            case Qt::Key_Right:
+            case Qt::Key_Down:
+                bar_->triggerAction(QScrollBar::SliderSingleStepAdd);
+                return true;
+            case Qt::Key_Left:
+            case Qt::Key_Up:
+                bar_->triggerAction(QScrollBar::SliderSingleStepSub);
+                return true;
+            default:
+                return false;
+        }
+    }
+
     void show_value(aspect) override {
         const quiet while_showing(*this);
         bar_->setRange(std::min(model_.minimum(), model_.maximum()),

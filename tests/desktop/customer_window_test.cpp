@@ -1,0 +1,115 @@
+#include <gtest/gtest.h>
+
+#include <QDateEdit>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QScrollBar>
+#include <QTableView>
+
+#include "app/start.h"
+#include "customer/mirorcx.h"
+#include "scripted/small_company.h"
+#include "store/drive.h"
+#include "ui/pictures/pixbuf_decoder.h"
+#include "window_bench.h"
+
+namespace vantora::ui::desktop {
+namespace {
+
+/// A new order over three customers, the register already left.
+class customer_window : public testing::Test {
+ protected:
+    customer_window() {
+        using vantora::test::customer_named;
+        company.customers(
+            {customer_named("Zeta"), customer_named("Alfa"), customer_named("Perché no"_cp)});
+    }
+    void run(std::vector<std::function<void()>> steps) {
+        steps.insert(steps.begin(), [this] { bench.press_button("bottone(2)"); });
+        bench.run([this] { start(app, "ordini001"); }, std::move(steps));
+    }
+    QString text(const char* address) { return bench.find<QLineEdit>(address)->text(); }
+
+    vantora::test::small_company company;
+    drive files{company.drive()};
+    test::window_bench bench;
+    ui::pixbuf_decoder pictures;
+    program app{files, bench.desk, pictures};
+};
+
+TEST_F(customer_window, TheCursorAndTheSearchMoveTogether) {
+    run({[&] {
+             auto* cursor = bench.find<QScrollBar>("HScroll1");
+             EXPECT_EQ(cursor->minimum(), 1);
+             EXPECT_EQ(cursor->maximum(), 3);
+             QTest::keyClick(cursor, Qt::Key_Right);
+             EXPECT_EQ(text("Text2(0)"), "Perché no");
+             cursor->setValue(3);
+             EXPECT_EQ(text("Text2(0)"), "Zeta");
+             QTest::keyClicks(bench.find("nome"), "perch");
+             QTest::keyClick(bench.find("nome"), Qt::Key_Return);
+         },
+         [&] {
+             EXPECT_EQ(bench.find<QScrollBar>("HScroll1")->value(), 2);
+             EXPECT_EQ(text("Text2(0)"), "Perché no");
+             EXPECT_EQ(text("nome"), "");
+             EXPECT_TRUE(bench.find("nome")->hasFocus());
+         }});
+}
+
+TEST_F(customer_window, ARowOfTheListIsTakenByAClick) {
+    run({[&] {
+             QTest::keyClicks(bench.find("nome"), "ta");
+             bench.press_button("b_lista");
+         },
+         [&] {
+             EXPECT_EQ(text("selnome"), "ta");
+             auto* table = bench.find<QTableView>("elenco");
+             EXPECT_TRUE(table->isColumnHidden(5));
+             const QRect cell = table->visualRect(table->model()->index(0, 2));
+             QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, cell.center());
+         },
+         [&] {
+             EXPECT_EQ(bench.front.front_window()->objectName(), "mirorcx");
+             EXPECT_EQ(text("Text2(0)"), "Zeta");
+             bench.press_button("b_lista");
+         },
+         [&] {
+             EXPECT_EQ(bench.front.front_window()->objectName(), "mirsel");
+             bench.front.front_window()->close();
+         },
+         [&] {
+             EXPECT_EQ(bench.front.front_window()->objectName(), "mirorcx");
+             bench.front.front_window()->close();
+         },
+         [&] {
+             EXPECT_EQ(bench.front.front_window()->objectName(), "mirorc");
+             EXPECT_FALSE(app.mirorcx.loaded());
+         }});
+}
+
+TEST_F(customer_window, TypedAndPickedDatesKeepInStep) {
+    run({[&] {
+             auto* typed = bench.find<QLineEdit>("Text3(1)");
+             typed->selectAll();
+             QTest::keyClicks(typed, "3/4/2025");
+             auto* picker = bench.find<QDateEdit>("text5(0)");
+             EXPECT_EQ(picker->date(), QDate(2025, 4, 3));
+             EXPECT_EQ(typed->text(), "3/4/2025") << "what is typed stays";
+             picker->setDate(QDate(2026, 12, 31));
+             EXPECT_EQ(typed->text(), "31/12/2026");
+             typed->selectAll();
+             QTest::keyClicks(typed, "3/4/2025");
+             bench.press_button("bottone");
+         },
+         [&] {
+             auto* box = qobject_cast<QMessageBox*>(bench.front.front_window());
+             ASSERT_TRUE(box);
+             EXPECT_EQ(box->text(), "La data dell'ordine non è corretta");
+             QTest::keyClick(box, Qt::Key_Return);
+         },
+         [&] { EXPECT_TRUE(bench.find("Text3(1)")->hasFocus()); }});
+}
+
+}  // namespace
+}  // namespace vantora::ui::desktop
