@@ -83,18 +83,16 @@ void customer_head::start_at_first_customer() {
     nome.set_focus();
 }
 
+void customer_head::fill_lists(const tabella_suite& table) {
+    Combo1[1].add_all(table.pagamenti);
+}
+
 void customer_head::show_customer() {
     if (posizione_cliente_ <= 0) return;
     read_customer();
-    for (std::size_t i = 0; i < customer_fields.size(); ++i) {
-        Text2[i].set_text(customer_fields[i](cliente_));
-    }
+    show_fields();
     Combo1[1].choose(cliente_.pagamento - 1);
-    const bool deleted = cliente_.eliminato == 1;
-    Label2.set_visible(deleted);
-    if (!deleted) return;
-    // A deleted customer's name carries a mark in front.
-    if (!Text2[0].text().empty()) Text2[0].set_text(Text2[0].text().substr(1));
+    if (!customer_deleted()) return;
     for (int i = 2; i < 22; ++i) Text2[i].set_text("");
 }
 
@@ -102,6 +100,20 @@ void customer_head::read_customer() {
     app_.archives.src.read(posizione_cliente_, voce_);
     cliente_corrente_ = voce_.numero;
     app_.archives.cli.read(cliente_corrente_, cliente_);
+}
+
+void customer_head::show_fields() {
+    for (std::size_t i = 0; i < customer_fields.size(); ++i) {
+        Text2[i].set_text(customer_fields[i](cliente_));
+    }
+    Label2.set_visible(customer_deleted());
+    // A deleted customer's name carries a mark in front.
+    const std::string name = Text2[0].text();
+    if (customer_deleted() && !name.empty()) Text2[0].set_text(name.substr(1));
+}
+
+bool customer_head::customer_deleted() const {
+    return cliente_.eliminato == 1;
 }
 
 bool customer_head::customer_usable() const {

@@ -42,8 +42,9 @@ class customer_head : public ui::form {
     /// Back from the pick list with a choice: looks it up. True if that was so.
     bool take_choice();
 
-    /// Fills the lists that differ from screen to screen.
-    virtual void fill_lists(const tabella_suite& table) = 0;
+    /// Fills the lists that differ from screen to screen: the payment terms, where a screen has no
+    /// others.
+    virtual void fill_lists(const tabella_suite& table);
     /// The user goes on to the next screen.
     virtual void go_on() = 0;
 
@@ -55,6 +56,9 @@ class customer_head : public ui::form {
     virtual void show_customer();
     /// Reads the customer at `posizione_cliente_`; what can't be read stays as it was.
     void read_customer();
+    /// Shows the fields of the customer read, and whether it is deleted.
+    void show_fields();
+    [[nodiscard]] bool customer_deleted() const;
     /// True if the customer shown may get a document.
     [[nodiscard]] bool customer_usable() const;
 

@@ -12,10 +12,6 @@ constexpr customer_head_kind nuovo_ordine{"mirorcx", "Selezione cliente", 51, {1
 
 mirorcx::mirorcx(program& app) : customer_head(app, nuovo_ordine) {}
 
-void mirorcx::fill_lists(const tabella_suite& table) {
-    Combo1[1].add_all(table.pagamenti);
-}
-
 void mirorcx::activate() {
     take_choice();
     if (app_.schermo_pronto == 0) start_fresh();

@@ -13,7 +13,6 @@ class mirorcx final : public customer_head {
  protected:
     void activate() override;
     void close() override;
-    void fill_lists(const tabella_suite& table) override;
     void go_on() override;
 
  private:
