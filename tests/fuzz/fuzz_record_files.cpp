@@ -1,11 +1,13 @@
-// Whatever bytes stand in the record files, the register opens, sorts and compacts, and the
-// searches end.
+// Whatever bytes stand in the record files, the register opens, sorts and compacts, the customer
+// screens show and list what there is, and the searches end.
 
 #include <cstdlib>
 #include <cstring>
 #include <fstream>
 
 #include "app/start.h"
+#include "customer/mirorcx.h"
+#include "customer/mirsel.h"
 #include "fuzz/fuzz_driver.h"
 #include "register/mirorc.h"
 #include "store/drive.h"
@@ -41,6 +43,24 @@ void write_files(const std::filesystem::path& company, const std::string& input)
 
 void require(bool holds) {
     if (!holds) std::abort();
+}
+
+void use_customers(program& app) {
+    ui::desk& desk = app.desk;
+    desk.dispatch([&] { app.mirorcx->show(); });
+    auto& screen = *app.mirorcx;
+    const int ends[] = {screen.HScroll1.minimum(), screen.HScroll1.maximum(), 1, 2, 3};
+    for (const int to : ends) desk.dispatch([&] { screen.HScroll1.drag(to); });
+    for (const char* name : {"", "R", "\xFF"}) {
+        desk.queue_answer(ui::answer::ok);
+        screen.nome.set_text(name);
+        desk.dispatch([&] { screen.b_cerca.click(); });
+    }
+    desk.dispatch([&] { screen.b_lista.click(); });
+    require(app.mirsel->elenco.rows() >= 26 && app.mirsel->elenco.rows() <= 31999);
+    for (auto& button : app.mirsel->srx) desk.dispatch([&] { button.click(); });
+    desk.queue_answer(ui::answer::ok);
+    desk.dispatch([&] { app.mirsel->elenco.click_cell(1, 0); });
 }
 
 }  // namespace
@@ -96,6 +116,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         const int found = cerca_nominativo(app.archives.src, counter.quanti, name);
         require(found >= 0 && found <= 32767);
     }
+    use_customers(app);
     require(!desk.ended().has_value());
     return 0;
 }
