@@ -37,6 +37,14 @@ TEST_F(customer_damage, EntriesThatPointNowhereListTheCustomerBefore) {
     EXPECT_EQ(desk.app.selezione_cliente, 0) << "neither of the two could be picked";
 }
 
+TEST_F(customer_damage, NoOrderIsMadeForTheCustomerOfAnEmptyEntry) {
+    entry(1, "AAA", 0);
+    customer_desk desk(company);
+    desk.app.selezione_1 = -1;
+    desk.app.mirorcx->bottone.click();
+    EXPECT_EQ(desk.app.selezione_1, -1);
+}
+
 TEST_F(customer_damage, CountsThatAreNoCountsNeitherHangNorOverrun) {
     struct {
         int count;
@@ -113,6 +121,9 @@ TEST_F(customer_damage, MarksAndPaymentTermsOfAllValues) {
         screen.bottone.click();
         EXPECT_EQ(desk.app.selezione_1, cases[i].usable ? i + 1 : -1) << i;
     }
+    desk.with_pick_list([](mirsel& list) {
+        EXPECT_EQ(customer_desk::column(list, mirsel::nominativo), (names{"C0", "C1", "C2"}));
+    });
 }
 
 TEST_F(customer_damage, NamesWithZeroBytesAreFoundAsTheyStand) {

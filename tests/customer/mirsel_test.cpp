@@ -44,11 +44,13 @@ TEST_F(mirsel, ListsTheLivingCustomersThatHoldTheTextAnywhere) {
 }
 
 TEST_F(mirsel, IsModalAndShowsItsColumns) {
-    const auto replies = open("z", {"get mirsel.elenco", "rows mirsel.elenco 0 1",
-                                    "click mirorcx.b_cerca", "close mirorcx"});
+    const auto replies =
+        open("z", {"get mirsel.elenco", "rows mirsel.elenco 0 1", "click mirorcx.b_cerca",
+                   "close mirorcx", "colors mirsel.elenco 1 3"});
     EXPECT_EQ(replies[2]["modal"], "mirsel");
     EXPECT_EQ(replies[2]["screen"], "mirsel");
     EXPECT_EQ(replies[3]["value"]["rows"], 26);
+    EXPECT_EQ(replies[7]["value"], (json{16777215, 16579315, 16777215}));
     EXPECT_EQ(replies[4]["value"],
               (json{{"Nominativo", "", "Indirizzo", "Città", "Partita iva", ""},
                     {"ZETA", "seconda riga", "indirizzo", "citta", "00000000001", "4"}}));
@@ -93,8 +95,10 @@ TEST_F(mirsel, ClosingItsWindowChoosesNothing) {
 }
 
 TEST_F(mirsel, SortsWithItsBlankRowsAtTheBottom) {
-    const auto replies = open("", {"click mirsel.srx(0)", "rows mirsel.elenco 1 5"});
+    const auto replies =
+        open("", {"click mirsel.srx(0)", "rows mirsel.elenco 1 5", "colors mirsel.elenco 24 25"});
     EXPECT_EQ(replies[3]["focus"], "elenco");
+    EXPECT_EQ(replies[5]["value"], (json{16579315, 16777215}));
     EXPECT_EQ(replies[4]["value"][0][0], "Bianchi e Rossi srl");
     EXPECT_EQ(replies[4]["value"][3][0], "ZETA");
     EXPECT_EQ(replies[4]["value"][4][0], "");

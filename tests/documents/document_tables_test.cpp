@@ -55,7 +55,8 @@ TEST_F(document_tables, AShortLayoutCountsAsMissing) {
         EXPECT_EQ(tables.tabella_layout[1].posizione, "000000") << lines;
         EXPECT_EQ(tables.tabella_layout[50].carattere, "Arial") << lines;
         EXPECT_EQ(tables.tabella_layout[100].colore, " 0") << lines;
-        EXPECT_EQ(tables.tabella_layout[98].posizione, "") << lines;
+        const voce_layout& odd = tables.tabella_layout[98];
+        EXPECT_EQ(odd.posizione + odd.corpo + odd.carattere, "") << lines;
         EXPECT_EQ(tables.tabella_layout[98].grassetto, "0") << lines;
     }
 }
