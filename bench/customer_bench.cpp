@@ -8,12 +8,9 @@
 #include <string>
 
 #include "bench/measure.h"
+#include "bench/program_bench.h"
 #include "customer/mirorcx.h"
 #include "customer/mirsel.h"
-#include "store/drive.h"
-#include "support/scratch_folder.h"
-#include "ui/pictures/pixbuf_decoder.h"
-#include "ui/script/bench_ports.h"
 
 namespace vantora::bench {
 namespace {
@@ -54,21 +51,13 @@ void write_customers(archivi& files, int customers) {
 }
 
 int run(int customers, int rounds) {
-    test::scratch_folder folder;
-    std::filesystem::create_directories(folder.path() / "mirwin/mirwin/miraz0.001");
-    drive port(folder.path());
-    hasty_user user;
-    ui::local_clock time;
-    ui::script::recording_printer paper;
-    ui::script::recording_launcher programs;
-    ui::desk desk(user, time, paper, programs);
-    ui::pixbuf_decoder pictures;
-    program app(port, desk, pictures);
-    app.parameters.numero_azienda = 1;
+    program_bench<hasty_user> bench;
+    program& app = bench.app;
+    hasty_user& user = bench.front;
     app.parameters.gnr.righe_alternate = "1";
-    app.mirorcx.made_by(desk, [&app] { return std::make_unique<mirorcx>(app); });
-    app.mirsel.made_by(desk, [&app] { return std::make_unique<mirsel>(app); });
-    apri_archivi(app.archives, port, 1);
+    bench.provide(app.mirorcx);
+    bench.provide(app.mirsel);
+    apri_archivi(app.archives, bench.files, 1);
     write_customers(app.archives, customers);
     app.mirorcx->show();
     std::printf("%d customers\n", customers);

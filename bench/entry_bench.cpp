@@ -10,19 +10,11 @@
 #include <vector>
 
 #include "bench/measure.h"
+#include "bench/program_bench.h"
 #include "entry/mirorcs.h"
-#include "store/drive.h"
-#include "support/scratch_folder.h"
-#include "ui/pictures/pixbuf_decoder.h"
-#include "ui/script/bench_ports.h"
 
 namespace vantora::bench {
 namespace {
-
-class silent_front_end final : public ui::front_end {
-    void run_until(const std::function<bool()>&) override {}
-    void let_events_run() override {}
-};
 
 void write_articles(archivi& files, int count) {
     std::mt19937 random(1);
@@ -128,19 +120,10 @@ void totals_bench(const valuta& currency, int rounds) {
 }
 
 int run(int articles, int rounds) {
-    test::scratch_folder folder;
-    std::filesystem::create_directories(folder.path() / "mirwin/mirwin/miraz0.001");
-    drive port(folder.path());
-    silent_front_end front;
-    ui::local_clock time;
-    ui::script::recording_printer paper;
-    ui::script::recording_launcher programs;
-    ui::desk desk(front, time, paper, programs);
-    ui::pixbuf_decoder pictures;
-    program app(port, desk, pictures);
-    app.parameters.numero_azienda = 1;
-    app.mirorcs.made_by(desk, [&app] { return std::make_unique<mirorcs>(app); });
-    apri_archivi(app.archives, port, 1);
+    program_bench bench;
+    program& app = bench.app;
+    bench.provide(app.mirorcs);
+    apri_archivi(app.archives, bench.files, 1);
     write_articles(app.archives, articles);
     app.mirorcs->show();
     std::printf("%d articles\n", articles);

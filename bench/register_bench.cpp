@@ -8,19 +8,11 @@
 #include <string>
 
 #include "bench/measure.h"
+#include "bench/program_bench.h"
 #include "register/mirorc.h"
-#include "store/drive.h"
-#include "support/scratch_folder.h"
-#include "ui/pictures/pixbuf_decoder.h"
-#include "ui/script/bench_ports.h"
 
 namespace vantora::bench {
 namespace {
-
-class silent_front_end final : public ui::front_end {
-    void run_until(const std::function<bool()>&) override {}
-    void let_events_run() override {}
-};
 
 void write_archive(archivi& files, int orders, int customers) {
     std::mt19937 random(1);
@@ -76,21 +68,12 @@ void sort_benches(ui::grid& list, int rounds) {
 }
 
 int run(int orders, int customers, int rounds) {
-    test::scratch_folder folder;
-    std::filesystem::create_directories(folder.path() / "mirwin/mirwin/miraz0.001");
-    drive port(folder.path());
-    silent_front_end front;
-    ui::local_clock time;
-    ui::script::recording_printer paper;
-    ui::script::recording_launcher programs;
-    ui::desk desk(front, time, paper, programs);
-    ui::pixbuf_decoder pictures;
-    program app(port, desk, pictures);
-    app.parameters.numero_azienda = 1;
-    app.mirorc.made_by(desk, [&app] { return std::make_unique<mirorc>(app); });
+    program_bench bench;
+    program& app = bench.app;
+    bench.provide(app.mirorc);
     {
         archivi files;
-        apri_archivi(files, port, 1);
+        apri_archivi(files, bench.files, 1);
         write_archive(files, orders, customers);
     }
     app.mirorc->show();

@@ -1,0 +1,140 @@
+// What the end of an order costs beyond the disk: saving 200 article lines, against the bare reads
+// and writes of the same records, and composing a document of ten pages, against writing the same
+// print file from memory.
+
+#include <cstring>
+#include <span>
+
+#include "bench/measure.h"
+#include "bench/program_bench.h"
+#include "demo/company.h"
+#include "documents/order_document.h"
+#include "documents/print_file.h"
+#include "entry/save_order.h"
+#include "entry/totals.h"
+#include "store/company.h"
+
+namespace vantora::bench {
+namespace {
+
+/// Passes a file's reads and writes on and doesn't wait for the disk, which takes its own time.
+class unflushed_file final : public file {
+ public:
+    explicit unflushed_file(std::unique_ptr<file> real) : real_(std::move(real)) {}
+    std::optional<std::size_t> read(std::int64_t offset, std::span<std::byte> into) override {
+        return real_->read(offset, into);
+    }
+    bool write(std::int64_t offset, std::span<const std::byte> bytes) override {
+        return real_->write(offset, bytes);
+    }
+    bool flush() override { return true; }
+
+ private:
+    std::unique_ptr<file> real_;
+};
+
+template <class Record>
+channel<Record> unflushed(file_port& files, std::string_view extension) {
+    return channel<Record>(
+        std::make_unique<unflushed_file>(files.open_records(file_azienda(1, extension))));
+}
+
+righe_ordine full_order(const channel<rec_art>& articles) {
+    righe_ordine lines;
+    for (int number = 1; number <= righe_ordine::massimo; ++number) {
+        rec_art article;
+        articles.read(number, article);
+        riga_ordine& line = lines[number];
+        line.articolo = static_cast<std::int16_t>(number);
+        line.codice = article.codice.full();
+        line.descrizione = article.descrizione.full();
+        line.um = article.um.full();
+        line.iva = article.iva;
+        line.quantita = 1 + number % 7;
+        line.prezzo = article.prezzo1;
+        line.sc1 = 10;
+    }
+    return lines;
+}
+
+void save_bench(program& app, const righe_ordine& lines, int rounds) {
+    testata_registrata head;
+    head.numero = "1";
+    head.impegno = true;
+    const auto save = [&] {
+        rec_tot counter{};
+        app.archives.tot.write(contatori::ordini, counter);
+        salva_nuovo_ordine(app.archives, head, lines, 300);
+    };
+    const auto bare = [&] {
+        rec_art article;
+        const rec_orc row{};
+        for (int number = 1; number <= righe_blocco; ++number) {
+            app.archives.art.read(number, article);
+            app.archives.art.write(number, article);
+            app.archives.orc.write(number, row);
+        }
+    };
+    compare("save of 200 article lines", rounds, save, "bare reads and writes of its records",
+            bare);
+}
+
+void document_bench(program_bench<>& bench, righe_ordine& lines, int rounds) {
+    tabelle_documento tables;
+    disegno background;
+    carica_documento(tables, tipo_documento::ordine, bench.app.parameters, bench.files);
+    carica_disegno(background, tipo_documento::ordine, 1, bench.files);
+    // Twenty lines a page make ten pages.
+    tables.tabella_layout[68].posizione = "100000";
+    tables.tabella_layout[69].posizione = "180000";
+    const valuta currency;
+    const auto totals = calcola_totali(lines, tables.iva, currency);
+    const testata_ordine head;
+    const rec_cli customer;
+    ui::picture figure;
+    std::size_t pages = 0;
+    const auto compose = [&] {
+        bench.desk.queue_answer(ui::answer::yes);
+        stampa_ordine(bench.app,
+                      {head, lines, totals.iva, customer, currency, tables, background, figure});
+        pages = bench.paper.take_jobs().at(0).pages.size();
+    };
+    compose();
+    const std::string whole = bench.files.read_whole(file_di_stampa).value_or("");
+    const auto write_again = [&] {
+        bench.files.create(file_di_stampa)->write(0, std::as_bytes(std::span(whole)));
+    };
+    std::printf("%zu pages, %zu bytes of print file\n", pages, whole.size());
+    compare("composition of a document", rounds, compose, "its print file from memory",
+            write_again);
+    tables.tabella_layout[99].posizione = "000000";
+    compare("the same without its background", rounds, compose, "its print file from memory",
+            write_again);
+}
+
+int run(int rounds) {
+    program_bench bench;
+    std::filesystem::remove_all(bench.folder.path() / "mirwin");
+    demo::demo_request request;
+    request.numero_azienda = 1;
+    request.orders = 1;
+    request.articles = 300;
+    request.customers = 5;
+    demo::make_company(request, bench.folder.path());
+    archivi& files = bench.app.archives;
+    files.art = unflushed<rec_art>(bench.files, "art");
+    files.orc = unflushed<rec_orc>(bench.files, "orc");
+    files.tot = unflushed<rec_tot>(bench.files, "tot");
+    righe_ordine lines = full_order(files.art);
+    save_bench(bench.app, lines, rounds);
+    document_bench(bench, lines, rounds);
+    return 0;
+}
+
+}  // namespace
+}  // namespace vantora::bench
+
+int main(int count, char** arguments) {
+    const bool quick = count > 1 && std::strcmp(arguments[1], "--quick") == 0;
+    return vantora::bench::run(quick ? 3 : 31);
+}
