@@ -54,6 +54,15 @@ class window_bench {
     ui::desk desk{front, time, paper, programs};
 
  private:
+    /// What the program waits behind; a step that opened something lets the next one run inside it.
+    struct stage {
+        const void* box;
+        const void* modal;
+        bool waiting;
+        bool operator==(const stage&) const = default;
+    };
+    [[nodiscard]] stage now() const { return {desk.open_box(), desk.modal(), desk.waiting()}; }
+
     // Each step calls for the next before it runs, since it may itself wait for that one.
     void come_back() {
         QTimer::singleShot(5, &here_, [this] { next_step(); });
@@ -64,14 +73,19 @@ class window_bench {
         const QWidget* window = front.front_window();
         const bool busy = desk.pointer_shape() == pointer::busy;
         if (busy || (window && !window->isActiveWindow())) return;
+        // A step in the midst of its work only serves events.
+        if (running_ && *running_ == now()) return;
         if (next_ == steps_.size()) return front.end_by_user();
         const auto step = steps_[next_++];
+        const auto outer = std::exchange(running_, now());
         step();
+        running_ = outer;
     }
 
     QApplication& application_ = application();
     std::vector<std::function<void()>> steps_;
     std::size_t next_ = 0;
+    std::optional<stage> running_;  ///< how things stood when the step at work began
     QObject here_;
 };
 
