@@ -12,7 +12,6 @@ namespace vantora {
 
 void line_grid::wire_controls() {
     VScroll1.set_limits(1, righe_ordine::massimo - rows + 1);
-    VScroll1.set_value(1);
     VScroll1.on_change = [this] { paint(); };
     Combo1.set_visible(false);
     Combo1.on_click = [this] { take_vat_pick(); };

@@ -234,6 +234,7 @@ TEST_F(line_grid, AVatPickTakesOneKey) {
     EXPECT_EQ(controls["tota(1)"]["text"], "100,00 ");  // code 5 has no rate
 
     // The entry that is chosen already counts as well, a blank cell stands for code 1.
+    EXPECT_EQ(run({"focus mirorcs.civ(0)", "get mirorcs.Combo1"})[1]["value"]["index"], 0);
     EXPECT_EQ(text_after({"focus mirorcs.civ(0)", "pick mirorcs.Combo1 0"}, "civ(0)"), "01");
     // Opening, typing and leaving change nothing.
     for (const script& nothing :
@@ -297,8 +298,10 @@ TEST_F(line_grid, InsertAndDeleteWorkOnTheRowLastInFocus) {
         all.insert(all.end(), more.begin(), more.end());
         return all;
     };
-    json controls = controls_after(with({"focus mirorcs.um(1)", "click mirorcs.comando(2)"}));
+    json controls = controls_after(
+        with({set("artic(0)", "a meta"), "focus mirorcs.um(1)", "click mirorcs.comando(2)"}));
     EXPECT_EQ(controls["ds(0)"]["text"], "uno");
+    EXPECT_EQ(controls["artic(0)"]["text"], "a meta");  // rows above aren't painted
     EXPECT_EQ(row_of(controls, 1), script(8, ""));
     EXPECT_EQ(row_of(controls, 2), (script{"", "due", "", "", "", "", "2", "04"}));
     EXPECT_EQ(row_of(controls, 3), (script{"", "tre", "", "", "", "", "3", "04"}));

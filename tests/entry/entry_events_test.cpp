@@ -1,0 +1,137 @@
+#include <gtest/gtest.h>
+
+#include <utility>
+
+#include "entry/mirorcs.h"
+#include "scripted/small_company.h"
+#include "store/drive.h"
+#include "ui/pictures/pixbuf_decoder.h"
+#include "ui/script/bench_ports.h"
+
+namespace vantora::test {
+namespace {
+
+/// A user who acts in the midst of a painting.
+class hasty_user final : public ui::front_end {
+ public:
+    std::function<void()> pending;
+    std::string fatal;
+
+    void run_until(const std::function<bool()>&) override {}
+    void let_events_run() override {
+        if (const auto action = std::exchange(pending, nullptr)) action();
+    }
+    void report_fatal(const std::string& message) override { fatal = message; }
+};
+
+/// The line screen alone, with its controls in reach.
+class entry_events : public testing::Test {
+ protected:
+    entry_events()
+        : port_(company.drive()),
+          desk(user, time_, paper_, programs_),
+          app(port_, desk, pictures_) {
+        company.customers({customer_named("ROSSI")});
+        company.articles({article("A", "Uno", 1), article("B", "Due", 2)});
+        app.parameters.numero_azienda = 1;
+        app.selezione_1 = 1;
+        apri_archivi(app.archives, port_, 1);
+        desk.at_end = [this] { chiudi_archivi(app.archives); };
+        app.mirorcs.made_by(desk, [this] { return std::make_unique<mirorcs>(app); });
+        app.mirorcs->show();
+    }
+    mirorcs& screen() { return *app.mirorcs; }
+
+    small_company company;
+    hasty_user user;
+
+ private:
+    drive port_;
+    ui::local_clock time_;
+    ui::script::recording_printer paper_;
+    ui::script::recording_launcher programs_;
+    ui::pixbuf_decoder pictures_;
+
+ protected:
+    ui::desk desk;
+    program app;
+};
+
+TEST_F(entry_events, AScrollIsServedBeforeThePaintingBegins) {
+    screen().ds[0].set_text("prima");
+    screen().VScroll1.set_value(2);
+    user.pending = [&] { screen().VScroll1.set_value(1); };
+    screen().VScroll1.set_value(40);
+    EXPECT_EQ(screen().VScroll1.value(), 1);
+    EXPECT_EQ(screen().ds[0].text(), "prima");
+    EXPECT_FALSE(user.pending);
+}
+
+TEST_F(entry_events, AVatCellThatTakesTheFocusDuringAPickLeavesNoRowToGoTo) {
+    screen().VScroll1.set_value(20);
+    screen().um[2].set_focus();
+    user.pending = [&] { screen().civ[3].set_focus(); };
+    screen().List1.pick(1);
+    EXPECT_EQ(screen().artic[2].text(), "B");
+    EXPECT_TRUE(screen().Combo1.has_focus());
+}
+
+TEST_F(entry_events, TheListIsDeafWhileAPickIsUnderWay) {
+    screen().um[2].set_focus();
+    user.pending = [&] { screen().List1.pick(0); };
+    screen().List1.pick(1);
+    EXPECT_EQ(screen().artic[2].text(), "B");
+    screen().List1.pick(0);
+    EXPECT_EQ(screen().artic[2].text(), "A");
+}
+
+TEST_F(entry_events, TheStockLineIsReadOnceAndPricesEachTime) {
+    screen().List1.pick(0);
+    const std::string stock = screen().listx.text();
+    auto changed = article("A", "Uno", 5);
+    changed.giacenza = 99;
+    company.files.art.write(1, changed);
+    screen().List1.pick(0);
+    EXPECT_EQ(screen().prezzo[0].text(), "5");
+    EXPECT_EQ(screen().listx.text(), stock);
+    screen().um[1].set_focus();  // a line without article shows no other stock
+    EXPECT_EQ(screen().listx.text(), stock);
+    screen().List1.pick(1);
+    screen().um[0].set_focus();
+    EXPECT_NE(screen().listx.text().find("Giacenza:99 "), std::string::npos);
+}
+
+TEST_F(entry_events, ComingBackFreshStartsTheOrderOver) {
+    const auto leave_and_come_back = [&](int modo_ordine) {
+        screen().List1.pick(0);
+        screen().VScroll1.set_value(30);
+        screen().hide();
+        app.modo_ordine = modo_ordine;
+        screen().show();
+    };
+    leave_and_come_back(99);
+    EXPECT_EQ(screen().VScroll1.value(), 30);
+    EXPECT_EQ(screen().tota[0].text(), "1 ");
+    // The lines out of sight go, too, and the totals with them.
+    screen().barcode.set_on(true);
+    screen().impegno.set_on(true);
+    leave_and_come_back(0);
+    EXPECT_EQ(screen().VScroll1.value(), 1);
+    EXPECT_EQ(screen().artic[0].text(), "");
+    EXPECT_EQ(screen().tota[0].text(), " ");
+    EXPECT_EQ(screen().tota[2].text(), "0 ");
+    EXPECT_FALSE(screen().barcode.on() || screen().impegno.on());
+    EXPECT_TRUE(screen().List1.enabled());
+    EXPECT_TRUE(screen().artic[0].has_focus());
+}
+
+TEST_F(entry_events, AFatalErrorIsToldAndClosesAllChannels) {
+    desk.dispatch([&] { screen().sc2[0].set_text("40000"); });
+    EXPECT_EQ(user.fatal, "Errore di run-time '6': Overflow");
+    ASSERT_TRUE(desk.ended() && desk.ended()->fatal);
+    EXPECT_FALSE(app.archives.art.is_open() || app.archives.art_blocchi.is_open() ||
+                 app.archives.orc.is_open() || app.archives.tot.is_open());
+}
+
+}  // namespace
+}  // namespace vantora::test
