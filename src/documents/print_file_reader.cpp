@@ -2,89 +2,123 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
+#include <optional>
+#include <utility>
 
 #include "store/text/code_page.h"
 #include "store/text/number_text.h"
-#include "store/text_reader.h"
 
 namespace vantora {
 
 namespace {
 
-/// Positions beyond this are no place on any paper.
-constexpr double farthest = 100'000;
+/// Beyond this there is no place on any paper, and no size of a letter.
+constexpr double largest = 100'000;
+constexpr double unlimited = std::numeric_limits<double>::max();
 
-struct reader {
-    text_reader lines;
-    std::size_t at = 0;  ///< number of the line last read
-    std::optional<errore_di_stampa> error;
+std::string_view line_end_of(std::string_view content) {
+    const std::string_view first = content.substr(0, content.find('\n'));
+    return first.size() < content.size() && !first.ends_with('\r') ? "\n" : "\r\n";
+}
 
-    void fail(std::string what) {
-        if (!error) error = errore_di_stampa{std::move(what), at};
-    }
+class reader {
+ public:
+    explicit reader(std::string_view content) : rest_(content), line_end_(line_end_of(content)) {}
 
-    std::string line() {
-        std::string text;
-        ++at;
-        if (!lines.line(text)) fail("the file ends inside a record");
-        return text;
-    }
+    [[nodiscard]] bool at_end() const { return rest_.empty(); }
+    [[nodiscard]] const std::optional<errore_di_stampa>& error() const { return error_; }
 
-    double number(bool may_be_empty = false) {
-        std::string text(trimmed(line()));
-        std::ranges::replace(text, ',', '.');
-        if (text.empty() && may_be_empty) return 0;
-        const auto value = whole_number_text(text);
-        if (!value) {
-            fail("a number is expected");
-            return 0;
+    /// True for a landscape page.
+    bool mark() {
+        const std::string_view text = trimmed(line());
+        const bool landscape = text == marca_orizzontale;
+        // Whatever else is wrong with a file without its mark: it is another kind of file.
+        if (!landscape && text != marca_verticale) {
+            error_ = errore_di_stampa{difetto_di_stampa::senza_marca, 1};
         }
-        return *value;
-    }
-
-    double position() {
-        const double value = number();
-        if (std::abs(value) > farthest) fail("a position lies off every page");
-        return value;
+        return landscape;
     }
 
     record_di_stampa record() {
         record_di_stampa made;
-        const double type = number();
-        if (type != 0 && type != 1 && type != 2 && type != 3 && type != 9) {
-            fail("there is no such kind of record");
-            return made;
-        }
-        made.tipo = static_cast<tipo_record>(static_cast<int>(type));
+        made.tipo = kind();
         if (made.tipo == tipo_record::pagina) {
             for (int i = 1; i < righe_per_record; ++i) line();
             return made;
         }
-        made.x1 = position();
-        made.y1 = position();
-        made.x2 = position();
-        made.y2 = position();
-        made.corpo = number();
-        made.colore = number(true);
+        made.x1 = number(largest);
+        made.y1 = number(largest);
+        made.x2 = number(largest);
+        made.y2 = number(largest);
+        made.corpo = number(largest);
+        made.colore = number(unlimited);
         made.testo = line();
         made.carattere = line();
-        made.grassetto = number();
-        made.corsivo = number();
+        made.grassetto = number(largest);
+        made.corsivo = number(largest);
         return made;
     }
+
+ private:
+    void fail(difetto_di_stampa fault) {
+        if (!error_) error_ = errore_di_stampa{fault, line_number_};
+    }
+
+    std::string_view line() {
+        ++line_number_;
+        const std::size_t end = rest_.find(line_end_);
+        if (end == std::string_view::npos) {
+            fail(difetto_di_stampa::troncato);
+            return std::exchange(rest_, {});
+        }
+        const std::string_view text = rest_.substr(0, end);
+        rest_.remove_prefix(end + line_end_.size());
+        return text;
+    }
+
+    std::optional<double> number_in(std::string_view text) {
+        std::string pointed(text);
+        std::ranges::replace(pointed, ',', '.');
+        const auto value = whole_number_text(pointed);
+        if (!value) fail(difetto_di_stampa::numero_illeggibile);
+        return value;
+    }
+
+    double number(double limit) {
+        const std::string_view text = trimmed(line());
+        if (text.empty()) return 0;
+        const double value = number_in(text).value_or(0);
+        if (std::abs(value) > limit) fail(difetto_di_stampa::numero_fuori_campo);
+        return value;
+    }
+
+    tipo_record kind() {
+        const double value = number_in(trimmed(line())).value_or(0);
+        for (const tipo_record one :
+             {tipo_record::figura, tipo_record::linea, tipo_record::riquadro, tipo_record::testo,
+              tipo_record::pagina}) {
+            if (value == static_cast<double>(one)) return one;
+        }
+        fail(difetto_di_stampa::tipo_sconosciuto);
+        return tipo_record::pagina;
+    }
+
+    std::string_view rest_;
+    std::string_view line_end_;
+    std::size_t line_number_ = 0;
+    std::optional<errore_di_stampa> error_;
 };
 
 }  // namespace
 
 std::variant<documento_di_stampa, errore_di_stampa> leggi_file_di_stampa(std::string_view content) {
-    reader in{text_reader(std::string(content)), 0, {}};
+    reader in(content);
     documento_di_stampa document;
-    const std::string mark(trimmed(in.line()));
-    document.orizzontale = mark == marca_orizzontale;
-    if (mark != marca_verticale && mark != marca_orizzontale) in.fail("this is no print file");
+    document.orizzontale = in.mark();
 
     std::vector<record_di_stampa> page;
-    while (!in.error && !in.lines.at_end()) {
+    while (!in.error() && !in.at_end()) {
         record_di_stampa one = in.record();
         if (one.tipo == tipo_record::pagina) {
             document.pagine.push_back(std::move(page));
@@ -93,7 +127,7 @@ std::variant<documento_di_stampa, errore_di_stampa> leggi_file_di_stampa(std::st
             page.push_back(std::move(one));
         }
     }
-    if (in.error) return *in.error;
+    if (in.error()) return *in.error();
     // What follows the last page record is a page of its own.
     if (!page.empty()) document.pagine.push_back(std::move(page));
     return document;

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <optional>
-#include <string>
+#include <string_view>
 #include <variant>
 #include <vector>
 
@@ -15,14 +14,24 @@ struct documento_di_stampa {
     std::vector<std::vector<record_di_stampa>> pagine;  ///< without the records that end them
 };
 
-/// Why a text is no print file: what is wrong, and in which line (from 1).
-struct errore_di_stampa {
-    std::string what;
-    std::size_t line = 0;
+/// Why a text is no print file.
+enum class difetto_di_stampa {
+    senza_marca,         ///< its first line is neither mark
+    troncato,            ///< it ends inside a record
+    tipo_sconosciuto,    ///< the first line of a record is no kind of record
+    numero_illeggibile,  ///< a number is expected
+    numero_fuori_campo,  ///< a number is larger than any that fits on paper
 };
 
-/// Reads the content of a print file. Numbers may have a point or a comma for their decimals.
-/// A file that breaks the grammar anywhere gives its first error and no page.
+struct errore_di_stampa {
+    difetto_di_stampa difetto = difetto_di_stampa::senza_marca;
+    std::size_t riga = 0;  ///< line of the file, from 1
+};
+
+/// Reads the content of a print file. Numbers may have a point or a comma for their decimals; an
+/// empty one is 0. A line ends as the file's first line does, so that another line end inside a
+/// text of a report breaks no record. A file that breaks the grammar anywhere gives its first error
+/// and no page.
 std::variant<documento_di_stampa, errore_di_stampa> leggi_file_di_stampa(std::string_view content);
 
 }  // namespace vantora
