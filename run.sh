@@ -5,7 +5,7 @@ set -eu
 cd "$(dirname "$0")"
 
 scripts/install-packages.sh
-scripts/build.sh release vantora-ordini vantora-script vantora-demo
+scripts/build.sh release vantora-ordini vantora-script vantora-demo mirxpdf
 
 bin=build/release/bin
 drive=demo
@@ -14,6 +14,9 @@ if [ ! -d "$drive/mirwin/mirwin/miraz0.$company" ]; then
     echo "Making the demonstration company in $drive/"
     "$bin/vantora-demo" "$drive" "$company"
 fi
+general=$drive/mirwin/mirwin
+cmp -s "$bin/mirxpdf" "$general/mirxpdf" || install -m 755 "$bin/mirxpdf" "$general/mirxpdf"
+[ -e "$general/mirxpdf.conf" ] || install -m 600 "$bin/mirxpdf.conf" "$general/mirxpdf.conf"
 
 if [ -n "${DISPLAY:-}" ] || [ -n "${WAYLAND_DISPLAY:-}" ]; then
     exec "$bin/vantora-ordini" --drive "$drive" "ordini$company" "$@"

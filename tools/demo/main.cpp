@@ -1,6 +1,7 @@
 #include <CLI/CLI.hpp>
 #include <iostream>
 
+#include "demo/companion.h"
 #include "demo/company.h"
 
 namespace {
@@ -51,6 +52,7 @@ int main(int argc, char** argv) {
     request.numero_azienda = std::stoi(company);
     try {
         make_company(request, drive);
+        install_companion(std::filesystem::read_symlink("/proc/self/exe").parent_path(), drive);
     } catch (const std::exception& error) {
         std::cerr << error.what() << '\n';
         return refused;
