@@ -94,13 +94,18 @@ class date_binder final : public widget_binder {
                 model_.set_value({day.year(), day.month(), day.day()});
             });
         });
-        connect(edit_->calendarWidget(), &QCalendarWidget::activated, this, [this](QDate day) {
-            this->act([&] { model_.choose({day.year(), day.month(), day.day()}); });
-        });
+        edit_->calendarWidget()->installEventFilter(this);
         show_all();
     }
 
  private:
+    /// The calendar goes away after a choice as without one; the date stands by then.
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (watched == &widget()) return widget_binder::eventFilter(watched, event);
+        if (event->type() == QEvent::Hide) this->act([&] { model_.choose(model_.value()); });
+        return false;
+    }
+
     void show_value(aspect) override {
         const date& day = model_.value();
         edit_->setDate(QDate(day.year, day.month, day.day));
