@@ -1,14 +1,16 @@
 #include "program/list_grid.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace vantora {
 
 namespace {
 
 ui::colour stored_colour(double value) {
-    if (!(value >= 0 && value <= ui::white)) return ui::white;
-    return static_cast<ui::colour>(value);
+    const double nearest = std::nearbyint(value);
+    if (!(nearest >= 0 && nearest <= ui::white)) return ui::white;
+    return static_cast<ui::colour>(nearest);
 }
 
 }  // namespace

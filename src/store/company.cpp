@@ -1,13 +1,14 @@
 #include "store/company.h"
 
+#include <cmath>
+
 #include "store/text/number_text.h"
 
 namespace vantora {
 
 int numero_azienda_in(std::string_view argument) {
     if (argument.size() < 9) return 0;
-    const double number = number_at_head(argument.substr(6, 3));
-    return number >= 0 && number <= 999 ? static_cast<int>(number) : 0;
+    return static_cast<int>(std::fmod(number_at_head(argument.substr(6, 3)), 1000));
 }
 
 std::string cartella_azienda(int numero_azienda) {

@@ -9,7 +9,7 @@ namespace vantora {
 inline constexpr std::string_view cartella_generale = "\\mirwin\\mirwin\\";
 
 /// The company number in the argument of the suite's menu program: its characters 7 to 9, read as
-/// a number; 0 if they aren't there.
+/// a number, of which only the last three digits count ("1e3" is 0); 0 if they aren't there.
 int numero_azienda_in(std::string_view argument);
 
 /// A company's folder, without a closing backslash: "\mirwin\mirwin\miraz0.007" for company 7.

@@ -14,7 +14,7 @@ namespace vantora {
 
 namespace {
 
-/// Text files of the suite are small; what is larger isn't one.
+/// Text files of the suite are small; of a larger file its head will do.
 constexpr std::size_t largest_text_file = 64U << 20U;
 
 class system_file final : public file {
@@ -113,9 +113,9 @@ std::optional<std::string> drive::read_whole(std::string_view path) {
     std::array<std::byte, 16384> part;
     while (true) {
         const auto got = opened->read(static_cast<std::int64_t>(content.size()), part);
-        if (!got || content.size() + *got > largest_text_file) return {};
+        if (!got) return {};
         content.append(reinterpret_cast<const char*>(part.data()), *got);
-        if (*got < part.size()) return content;
+        if (*got < part.size() || content.size() >= largest_text_file) return content;
     }
 }
 

@@ -27,7 +27,7 @@ class text {
     /// Pads with blanks, cuts at the width.
     text& operator=(std::string_view value) {
         const std::size_t kept = value.size() < N ? value.size() : N;
-        std::memcpy(bytes_, value.data(), kept);
+        value.copy(bytes_, kept);
         std::memset(bytes_ + kept, ' ', N - kept);
         return *this;
     }

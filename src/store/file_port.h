@@ -39,7 +39,8 @@ class file_port {
     /// then fail. Null if it can't be opened at all.
     virtual std::unique_ptr<file> open_records(std::string_view path) = 0;
 
-    /// The whole content of a text file; empty if it doesn't exist or can't be read.
+    /// The whole content of a text file, or the head of one that is far too large to be a text of
+    /// the suite; empty if it doesn't exist or can't be read.
     virtual std::optional<std::string> read_whole(std::string_view path) = 0;
 
     /// Creates a file anew, empty, for writing. Null if that isn't possible.

@@ -51,6 +51,7 @@ class parameter_file {
 };
 
 void load_heading(parametri& into, file_port& files) {
+    into.intestazione_ditta = {};
     parameter_file file(files, file_azienda(into.numero_azienda, "int"));
     for (std::size_t slot = 1; slot <= 3; ++slot) file.line(into.intestazione_ditta[slot]);
 }
@@ -91,8 +92,12 @@ void load_report_margins(voce_stampa& report, parameter_file& file) {
 void load_report_fonts(std::array<voce_stampa, 31>& table, std::int16_t& header_size,
                        parameter_file& file) {
     for (std::size_t group = 0; group <= 5; ++group) {
-        std::int16_t other = 0;
-        file.line(group == 0 ? header_size : other);
+        if (group == 0) {
+            file.line(header_size);
+        } else {
+            std::string ignored;
+            file.line(ignored);
+        }
         voce_stampa& entry = table[group];
         file.line(entry.nome_carattere);
         file.line(entry.corpo_carattere);

@@ -62,6 +62,17 @@ inline constexpr int up = 38;
 inline constexpr int down = 40;
 inline constexpr int del = 46;
 inline constexpr int f1 = 112;
+/// Keys of signs and accented letters lie elsewhere on each keyboard; they share this code.
+inline constexpr int sign = 255;
+
+/// Code of the key that types a character: letters have that of their capital.
+constexpr int of(char character) {
+    if (character >= 'a' && character <= 'z') return character - 'a' + 'A';
+    const bool same = (character >= 'A' && character <= 'Z') ||
+                      (character >= '0' && character <= '9') ||
+                      (character >= 0 && character <= ' ');
+    return same ? character : sign;
+}
 }  // namespace key
 
 /// One control of a screen, without a toolkit. A control belongs to the form that registered it

@@ -63,8 +63,8 @@ class grid : public control {
     [[nodiscard]] int top_row() const { return top_row_; }
     void set_top_row(int row);
 
-    /// Reorders all rows but the head by one column; whole rows move, rows with equal keys keep
-    /// their order.
+    /// Reorders all rows but the head by one column, empty cells first; whole rows move, rows with
+    /// equal keys keep their order.
     void sort(int col, sort_order by);
 
     /// The user clicks a cell: the grid takes the focus, the cell becomes current (a click on the

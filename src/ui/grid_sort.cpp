@@ -11,6 +11,7 @@ namespace {
 /// One row's place in a sort, read once and compared often.
 struct sort_key {
     std::uint32_t row = 0;  ///< storage row
+    bool empty = false;
     bool number = false;
     double value = 0;
     std::uint32_t begin = 0;  ///< of the text in capitals, among the texts of all keys
@@ -18,6 +19,7 @@ struct sort_key {
 };
 
 bool stands_behind(const sort_key& left, const sort_key& right, const std::string& texts) {
+    if (left.empty || right.empty) return right.empty && !left.empty;
     if (left.number && right.number) return left.value > right.value;
     const std::string_view all = texts;
     return all.substr(left.begin, left.size) > all.substr(right.begin, right.size);
@@ -55,6 +57,7 @@ void grid::sort(int col, sort_order by) {
         const std::string_view shown = text(row, col);
         sort_key key;
         key.row = order_[static_cast<std::size_t>(row)];
+        key.empty = shown.empty();
         if (by == sort_order::numeric_ascending) {
             key.number = true;
             key.value = number_at_head(shown);

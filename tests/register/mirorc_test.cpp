@@ -176,7 +176,9 @@ TEST_F(mirorc, StripesItsRowsByParity) {
     record.colore_riga_dispari = -4e300;
     set_parameters(record);
     EXPECT_EQ(value_after(company.drive(), {"colors mirorc.elenco 2"})[0], 16777215);
-    record.colore_riga_pari = 255;
+    record.colore_riga_pari = 254.6;
+    set_parameters(record);
+    EXPECT_EQ(value_after(company.drive(), {"colors mirorc.elenco 2"})[0], 255);
     record.righe_alternate = "0";
     set_parameters(record);
     EXPECT_EQ(value_after(company.drive(), {"colors mirorc.elenco 2"})[0], 16777215);

@@ -89,6 +89,8 @@ TEST(fields, AreTheBytesOfTheFile) {
     record.word = "a";
     EXPECT_EQ(record.word.full(), "a    ");
     EXPECT_EQ(record.word.trimmed(), "a");
+    record.word = std::string_view{};
+    EXPECT_EQ(record.word.full(), "     ");
     EXPECT_EQ(text<3>().full(), std::string(3, '\0')) << "a field never stored";
     EXPECT_EQ(record.real, -2.0);
 }

@@ -52,6 +52,15 @@ TEST_F(drive_test, OpensNothingButPlainFiles) {
     EXPECT_FALSE(port.create_folder("\\manca\\dentro"));
 }
 
+TEST_F(drive_test, OfATextFarTooLargeItReadsTheHead) {
+    std::ofstream(folder.path() / "f") << "prima riga\n";
+    std::filesystem::resize_file(folder.path() / "f", 200U << 20U);
+    const auto content = port.read_whole("\\f");
+    ASSERT_TRUE(content.has_value());
+    EXPECT_TRUE(content->starts_with("prima riga\n"));
+    EXPECT_LT(content->size(), 100U << 20U);
+}
+
 TEST_F(drive_test, AFileThatMayOnlyBeReadIsOpenedForReading) {
     if (::geteuid() == 0) GTEST_SKIP() << "permissions don't bind the superuser";
     std::ofstream(folder.path() / "f") << "abc";
@@ -65,13 +74,15 @@ TEST_F(drive_test, AFileThatMayOnlyBeReadIsOpenedForReading) {
 
 TEST(company, NumbersAndFolders) {
     const std::pair<const char*, int> arguments[] = {
-        {"ordini007", 7}, {"ordini123xyz", 123}, {"ordini00", 0},  {"", 0},
-        {"ordini -5", 0}, {"ordiniabc", 0},      {"ordini 42", 42}};
+        {"ordini007", 7},  {"ordini123xyz", 123}, {"ordini00", 0},   {"", 0},
+        {"ordini -5", -5}, {"ordiniabc", 0},      {"ordini 42", 42}, {"ordini1e3", 0},
+        {"ordini9e9", 0},  {"ordini2 x9", 2}};
     for (const auto& [argument, number] : arguments) {
         EXPECT_EQ(numero_azienda_in(argument), number) << argument;
     }
     EXPECT_EQ(file_azienda(7, "orc"), "\\mirwin\\mirwin\\miraz0.007\\vantora.orc");
     EXPECT_EQ(cartella_azienda(123), "\\mirwin\\mirwin\\miraz0.123");
+    EXPECT_EQ(cartella_azienda(-5), "\\mirwin\\mirwin\\miraz0.0-5");
     EXPECT_EQ(file_generale("eur"), "\\mirwin\\mirwin\\vantora.eur");
 }
 

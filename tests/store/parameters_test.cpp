@@ -136,6 +136,10 @@ TEST_F(parameters_test, NumbersBeyondSixteenBitsCountAsUnreadable) {
     lines[1] = "30000";
     write(general / "vantora.tbl", joined(lines, lines.size()));
     EXPECT_EQ(load().tabella_stampa[0].altezza, 0) << "the height doesn't fit";
+    lines = report_lines();
+    lines[1 + 3 * 6] = "99999";
+    write(general / "vantora.tbl", joined(lines, lines.size()));
+    EXPECT_EQ(load().tabella_stampa[1].nome_carattere, "Font1") << "a line that counts for nothing";
 }
 
 TEST_F(parameters_test, TheFirstStartOfACompanyMakesItsParameters) {
@@ -211,10 +215,13 @@ TEST_F(parameters_test, ShortLongAndStrangeFilesDoNoHarm) {
 
 TEST_F(parameters_test, HeadingLinesThatAreMissingStayEmpty) {
     write(company / "vantora.int", "Ditta\r\nVia Po 1\r\n");
-    const parametri loaded = load();
+    parametri loaded = load();
     EXPECT_EQ(loaded.intestazione_ditta[1], "Ditta");
     EXPECT_EQ(loaded.intestazione_ditta[2], "Via Po 1");
     EXPECT_EQ(loaded.intestazione_ditta[3], "");
+    std::filesystem::remove(company / "vantora.int");
+    carica_parametri(loaded, port);
+    EXPECT_EQ(loaded.intestazione_ditta[1], "") << "loading again rebuilds everything";
 }
 
 TEST_F(parameters_test, NothingIsSavedWhileTheViewIsRestored) {

@@ -72,6 +72,12 @@ TEST_F(desk_test, ShowingLoadsOnceActivatesAndGivesTheFirstControlTheFocus) {
     EXPECT_EQ(taken(), (log{"b load", "a -primo", "b activate", "b +primo"}));
     a->secondo.set_focus();
     EXPECT_EQ(taken(), (log{"b -primo", "a activate", "a +secondo"}));
+    b->when_activated = [&] { b->secondo.set_focus(); };
+    b->show();
+    EXPECT_EQ(taken(), (log{"a -secondo", "b activate", "b +secondo"}))
+        << "a focus given on activation stays";
+    a->show();
+    EXPECT_TRUE(a->secondo.has_focus()) << "a screen remembers where it had the focus";
 }
 
 TEST_F(desk_test, AMessageBoxIsNoReturnFromAnotherScreen) {
@@ -94,6 +100,11 @@ TEST_F(desk_test, FocusGoesNowhereHiddenDisabledOrUnshown) {
     EXPECT_EQ(bench.desk.focus(), &a->primo);
     a->primo.set_visible(false);
     EXPECT_EQ(bench.desk.focus(), &a->bottone) << "hiding passes the focus on";
+    a->bottone.set_enabled(false);
+    a->primo.set_visible(true);
+    EXPECT_EQ(bench.desk.focus(), nullptr) << "nothing comes back by itself";
+    bench.desk.tab(false);
+    EXPECT_EQ(bench.desk.focus(), &a->primo) << "from nowhere to the first";
 }
 
 TEST_F(desk_test, HidingKeepsContentUnloadingDropsIt) {
@@ -197,6 +208,45 @@ TEST_F(desk_test, ARunTimeErrorEndsTheProgramWithItsMessage) {
         EXPECT_EQ(fresh.desk.ended()->message, one.message);
         EXPECT_TRUE(closed);
     }
+}
+
+TEST_F(desk_test, WaitingIsToldOnlyWhileNoBoxIsOpen) {
+    a->show();
+    bool done = false;
+    bench.user.actions = {
+        [&] {
+            EXPECT_TRUE(bench.desk.waiting());
+            bench.desk.message("Fatto", "Attenzione", icon::information);
+            done = true;
+        },
+        [&] {
+            EXPECT_FALSE(bench.desk.waiting());
+            EXPECT_TRUE(bench.desk.obstacle(a->primo).has_value());
+            bench.desk.answer_box(answer::ok);
+        },
+    };
+    bench.desk.dispatch([&] { bench.desk.wait_until([&] { return done; }); });
+    EXPECT_FALSE(bench.desk.waiting());
+    EXPECT_FALSE(bench.desk.ended().has_value());
+}
+
+TEST_F(desk_test, AListMayBeEmptiedByTheFocusThatComesToIt) {
+    class list_form final : public form {
+     public:
+        explicit list_form(ui::desk& on) : form(on, "l", "") {
+            add("inizio", inizio);
+            add("lista", lista);
+            lista.add_all({"a", "b"});
+            lista.on_focus = [this] { lista.clear(); };
+            lista.on_click = [] { ADD_FAILURE() << "there is no entry any more"; };
+        }
+        button inizio;
+        list_box lista;
+    };
+    auto& shown = static_cast<list_form&>(bench.desk.load(std::make_unique<list_form>(bench.desk)));
+    shown.show();
+    EXPECT_FALSE(shown.lista.pick(1));
+    EXPECT_EQ(shown.lista.chosen(), -1);
 }
 
 TEST_F(desk_test, PendingEventsMayEndTheProgramInTheMidstOfWork) {

@@ -15,6 +15,9 @@ TEST(text_box, FiresOnlyWhenItsTextReallyChanges) {
     box.set_text("a");
     box.set_text("b");
     EXPECT_EQ(changes, 2);
+    box.on_change = [&] { box.set_text(upper(box.text())); };
+    box.set_text("abc");
+    EXPECT_EQ(box.text(), "ABC") << "the event may correct the text";
 }
 
 TEST(text_box, KeysReachTheEventsBeforeTheText) {
@@ -46,6 +49,13 @@ TEST(text_box, KeysReachTheEventsBeforeTheText) {
     EXPECT_EQ(box.text(), "a");
 }
 
+TEST(key, SignsHaveNoNamedKeysCode) {
+    EXPECT_EQ(key::of('p'), 'P') << "a small p has the code of F1 as its character";
+    EXPECT_EQ(key::of('7'), '7');
+    EXPECT_EQ(key::of(' '), key::blank);
+    for (const char sign : {'(', '&', '.', '\'', '%', '\xE8'}) EXPECT_EQ(key::of(sign), key::sign);
+}
+
 TEST(check_box, ClicksWheneverItsMarkChanges) {
     check_box box;
     int clicks = 0;
@@ -64,15 +74,19 @@ TEST(option_button, OnlyTheOneThatGoesOnFires) {
     group.join(options);
     options[0].design_on(true);
     std::string fired;
-    for (int i = 0; i < 3; ++i) options[i].on_click = [&, i] { fired += std::to_string(i); };
+    for (int i = 0; i < 3; ++i) {
+        options[i].on_click = [&, i] {
+            fired += std::to_string(i);
+            EXPECT_EQ(options[0].on() + options[1].on() + options[2].on(), 1);
+        };
+    }
     options[1].set_on(true);
     options[1].choose();
     options[2].choose();
+    options[2].press_key(key::down, {});
     options[2].press_key(key::up, {});
     EXPECT_EQ(fired, "121");
-    EXPECT_FALSE(options[0].on());
     EXPECT_TRUE(options[1].on());
-    EXPECT_FALSE(options[2].on());
 }
 
 TEST(list, ChoosingFiresByCodeOnlyForAnotherEntryByHandAlways) {
@@ -90,10 +104,16 @@ TEST(list, ChoosingFiresByCodeOnlyForAnotherEntryByHandAlways) {
     EXPECT_FALSE(list.choose(-2));
     EXPECT_FALSE(list.pick(-1));
     EXPECT_EQ(list.text(), "due");
+    list.press_key(key::down, {});
+    list.press_key(key::sign, '(');
+    EXPECT_EQ(list.chosen(), 1) << "there is none below";
+    list.press_key(key::up, {});
+    EXPECT_EQ(clicks, 3);
+    EXPECT_TRUE(list.choose(-1));
     list.clear();
     EXPECT_EQ(list.chosen(), -1);
     EXPECT_EQ(list.text(), "");
-    EXPECT_EQ(clicks, 2);
+    EXPECT_EQ(clicks, 3);
 }
 
 TEST(sorted_list, OrdersByTheAlphabetWithoutRegardToCase) {
@@ -109,7 +129,10 @@ TEST(sorted_list, OrdersByTheAlphabetWithoutRegardToCase) {
     EXPECT_EQ(at_once.items(), expected);
 
     one_by_one.choose(5);
+    one_by_one.on_click = [] { ADD_FAILURE() << "nobody chose"; };
     one_by_one.add("dado");
+    one_by_one.add("zio");
+    one_by_one.add_all({"cane", "yak"});
     EXPECT_EQ(one_by_one.text(), "Élite"_cp) << "the choice follows the sorting";
 }
 
@@ -124,6 +147,13 @@ TEST(scroll_bar, LimitsPullItsValueInside) {
     bar.set_limits(1, 4);
     bar.set_limits(1, 0);
     EXPECT_EQ(seen, (std::vector<int>{1, 10, 4, 1}));
+    seen.clear();
+    bar.set_limits(9, 5);
+    EXPECT_EQ(bar.value(), 5) << "a bar may run the other way";
+    bar.press_key(key::up, {});
+    bar.press_key(key::down, {});
+    bar.press_key(key::down, {});
+    EXPECT_EQ(seen, (std::vector<int>{5, 6, 5}));
 }
 
 TEST(progress_bar, RefusesWhatIsOutsideItsRange) {
@@ -137,16 +167,15 @@ TEST(progress_bar, RefusesWhatIsOutsideItsRange) {
 
 TEST(date_picker, TakesOnlyDaysOfTheCalendar) {
     date_picker picker;
-    int changes = 0;
-    int closings = 0;
-    picker.on_change = [&] { ++changes; };
-    picker.on_close_up = [&] { ++closings; };
+    std::string seen;
+    picker.on_change = [&] { seen += picker.text() + " "; };
+    picker.on_close_up = [&] { seen += "closed "; };
     EXPECT_FALSE(picker.set_value({2023, 2, 29}));
+    EXPECT_FALSE(picker.choose({2023, 2, 29}));
     EXPECT_TRUE(picker.set_value({2024, 2, 29}));
     EXPECT_TRUE(picker.choose({2024, 2, 29}));
-    EXPECT_EQ(changes, 1);
-    EXPECT_EQ(closings, 1);
-    EXPECT_EQ(picker.text(), "29/02/2024");
+    EXPECT_TRUE(picker.choose({2024, 3, 1}));
+    EXPECT_EQ(seen, "29/02/2024 closed 01/03/2024 closed ");
 }
 
 }  // namespace

@@ -290,6 +290,7 @@ TEST(script, TheEndIsToldAndNothingIsAcceptedAfterIt) {
     EXPECT_EQ(replies[0]["ended"], "exit");
     EXPECT_EQ(replies[1]["ok"], false);
     EXPECT_EQ(replies[2]["ok"], true);
+    EXPECT_EQ(run({"type prova.bottone(1) \"x\\n\""})[0]["ended"], "exit") << "Enter, typed";
     replies = run({"click prova.bottone(2)", "click prova.spunta"});
     EXPECT_EQ(replies[0]["ended"], "fatal");
     EXPECT_EQ(replies[0]["fatal"], "Errore di run-time '6': Overflow");

@@ -52,7 +52,7 @@ pressed_key key_of(const QKeyEvent& event) {
                          (event.modifiers() & Qt::GroupSwitchModifier) == 0;
     const std::string text = taken(event.text());
     if (command || text.size() != 1 || static_cast<unsigned char>(text[0]) < key::blank) return {};
-    return {static_cast<unsigned char>(upper(text[0])), text[0]};
+    return {key::of(text[0]), text[0]};
 }
 
 }  // namespace

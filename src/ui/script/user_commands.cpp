@@ -25,11 +25,10 @@ constexpr named_key named_keys[] = {
     {"Down", key::down, {}},
 };
 
-/// The key that types a character: letters have the code of their capital.
+/// The key that types a character; a line feed in a text stands for Enter.
 named_key key_of(char character) {
-    const bool small_letter = character >= 'a' && character <= 'z';
-    const char code = small_letter ? upper(character) : character;
-    return {{}, static_cast<unsigned char>(code), character};
+    if (character == '\n') character = static_cast<char>(key::enter);
+    return {{}, key::of(character), character};
 }
 
 std::optional<named_key> read_key(const std::string& name) {
