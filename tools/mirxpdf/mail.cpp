@@ -183,7 +183,9 @@ std::optional<std::string> send_pdf(const mail_settings& settings,
 
     const CURLcode done = curl_easy_perform(curl);
     if (done == CURLE_OK) return {};
-    return std::string(reason[0] ? reason.data() : curl_easy_strerror(done));
+    std::string why = reason[0] ? reason.data() : curl_easy_strerror(done);
+    while (why.ends_with(' ')) why.pop_back();
+    return why;
 }
 
 }  // namespace vantora::mirxpdf

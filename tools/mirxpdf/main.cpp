@@ -1,6 +1,8 @@
 #include <CLI/CLI.hpp>
 #include <QApplication>
+#include <QDesktopServices>
 #include <QSaveFile>
+#include <QUrl>
 #include <cstdlib>
 
 #include "mirxpdf/document_pdf.h"
@@ -11,6 +13,7 @@
 #include "store/drive.h"
 #include "store/text/code_page.h"
 #include "ui/desktop/binder.h"
+#include "ui/desktop/style.h"
 #include "ui/pictures/pixbuf_decoder.h"
 
 namespace {
@@ -188,7 +191,12 @@ int main(int count, char** arguments) {
     QApplication application(toolkit_count, arguments);
     QApplication::setOrganizationName("Vantora");
     QApplication::setApplicationName("mirxpdf");
-    const notices tell(QGuiApplication::platformName() != "offscreen");
+    notices tell;
+    if (QGuiApplication::platformName() != "offscreen") {
+        ui::desktop::dress_application(application);
+        tell = notices(
+            [](const QString& file) { QDesktopServices::openUrl(QUrl::fromLocalFile(file)); });
+    }
     if (given.drive.empty()) {
         tell.failure("Il programma non sta in mirwin/mirwin: indicare il disco con --drive.");
         return wrong_arguments;

@@ -1,10 +1,8 @@
 #include "mirxpdf/notices.h"
 
-#include <QDesktopServices>
 #include <QDir>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QUrl>
 #include <iostream>
 
 namespace vantora::mirxpdf {
@@ -15,24 +13,27 @@ void write(const QString& what) {
     std::cerr << "mirxpdf: " << what.toStdString() << '\n';
 }
 
-void show_with_open(QMessageBox::Icon icon, const QString& text, const QString& pdf) {
-    QMessageBox box(icon, "Documento PDF", text);
-    box.setTextFormat(Qt::PlainText);
-    box.setInformativeText(QDir::toNativeSeparators(pdf));
-    box.setTextInteractionFlags(Qt::TextSelectableByMouse);
-    const auto* open = box.addButton("Apri", QMessageBox::AcceptRole);
-    auto* close = box.addButton("Chiudi", QMessageBox::RejectRole);
-    box.setEscapeButton(close);
-    box.exec();
-    if (box.clickedButton() == open) QDesktopServices::openUrl(QUrl::fromLocalFile(pdf));
-}
+constexpr const char* title = "Documento PDF";
 
 }  // namespace
 
+void notices::show_with_open(const QString& text, const QString& pdf, bool is_warning) const {
+    QMessageBox box(is_warning ? QMessageBox::Warning : QMessageBox::Information, title, text);
+    box.setTextFormat(Qt::PlainText);
+    box.setInformativeText(QDir::toNativeSeparators(pdf));
+    box.setTextInteractionFlags(Qt::TextSelectableByMouse);
+    auto* open = box.addButton("Apri", QMessageBox::AcceptRole);
+    auto* close = box.addButton("Chiudi", QMessageBox::RejectRole);
+    box.setDefaultButton(open);
+    box.setEscapeButton(close);
+    box.exec();
+    if (box.clickedButton() == open) open_(pdf);
+}
+
 void notices::failure(const QString& what) const {
     write(what);
-    if (!in_windows_) return;
-    QMessageBox box(QMessageBox::Critical, "Documento PDF", what, QMessageBox::Ok);
+    if (!open_) return;
+    QMessageBox box(QMessageBox::Critical, title, what, QMessageBox::Ok);
     box.setTextFormat(Qt::PlainText);
     box.exec();
 }
@@ -40,11 +41,11 @@ void notices::failure(const QString& what) const {
 void notices::not_sent(const QString& what, const QString& pdf) const {
     write(what);
     write("il PDF resta in " + pdf);
-    if (in_windows_) show_with_open(QMessageBox::Warning, what, pdf);
+    if (open_) show_with_open(what, pdf, true);
 }
 
 void notices::done(const QString& what, const QString& pdf) const {
-    if (in_windows_) show_with_open(QMessageBox::Information, what, pdf);
+    if (open_) show_with_open(what, pdf, false);
 }
 
 }  // namespace vantora::mirxpdf

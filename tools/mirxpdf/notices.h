@@ -1,14 +1,19 @@
 #pragma once
 
 #include <QString>
+#include <functional>
 
 namespace vantora::mirxpdf {
 
 /// Tells the user how it went: on standard error, and in a message box where there is a screen.
 class notices {
  public:
-    /// `in_windows`: REQUIRES a QApplication.
-    explicit notices(bool in_windows) : in_windows_(in_windows) {}
+    using opener = std::function<void(const QString& file)>;
+
+    /// On standard error alone.
+    notices() = default;
+    /// Also in windows; `open` shows a file that the user wants to see. REQUIRES: a QApplication.
+    explicit notices(opener open) : open_(std::move(open)) {}
 
     void failure(const QString& what) const;
     /// The PDF is there but didn't leave.
@@ -17,7 +22,9 @@ class notices {
     void done(const QString& what, const QString& pdf) const;
 
  private:
-    bool in_windows_;
+    void show_with_open(const QString& text, const QString& pdf, bool is_warning) const;
+
+    opener open_;  ///< null: no windows
 };
 
 }  // namespace vantora::mirxpdf

@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
 #include <QByteArray>
+#include <chrono>
+#include <thread>
 
 #include "mail_server.h"
 #include "run_of_program.h"
@@ -102,6 +104,55 @@ TEST_F(mirxpdf_mail, AServerThatOffersNoEncryptionIsToldNothing) {
     EXPECT_FALSE(server.was_told("AUTH"));
     EXPECT_FALSE(server.was_told("MAIL"));
     EXPECT_EQ(server.message, "");
+}
+
+/// A server behind an encrypted connection, with a certificate that nobody vouches for.
+class unknown_server {
+ public:
+    unknown_server()
+        : made_(running_program({"openssl", "req", "-x509", "-newkey", "ec", "-pkeyopt",
+                                 "ec_paramgen_curve:prime256v1", "-nodes", "-keyout", "key.pem",
+                                 "-out", "cert.pem", "-days", "2", "-subj", "/CN=127.0.0.1",
+                                 "-addext", "subjectAltName=IP:127.0.0.1"},
+                                folder_.path(), folder_.path() / "made")
+                    .wait()),
+          service_({"openssl", "s_server", "-accept", "127.0.0.1:0", "-cert", "cert.pem", "-key",
+                    "key.pem", "-www", "-naccept", "1"},
+                   folder_.path(), folder_.path() / "said") {}
+
+    /// 0 if it doesn't come up.
+    [[nodiscard]] int port() const {
+        constexpr std::string_view mark = "ACCEPT 127.0.0.1:";
+        for (int i = 0; i < 200; ++i) {
+            const std::string said = bytes_of(folder_.path() / "said");
+            const std::size_t at = said.find(mark);
+            if (at != std::string::npos && said.find('\n', at) != std::string::npos) {
+                return std::stoi(said.substr(at + mark.size()));
+            }
+            std::this_thread::sleep_for(std::chrono::milliseconds(50));
+        }
+        return 0;
+    }
+    /// All that it heard until its connection ended.
+    [[nodiscard]] std::string heard() const {
+        (void)service_.wait();
+        return bytes_of(folder_.path() / "said");
+    }
+
+ private:
+    scratch_folder folder_;
+    int made_;
+    running_program service_;
+};
+
+TEST_F(mirxpdf_mail, AServerWithAnUnknownCertificateIsToldNothing) {
+    const unknown_server server;
+    const int port = server.port();
+    ASSERT_NE(port, 0);
+    drive.write_settings("server = 127.0.0.1\nporta = " + std::to_string(port) +
+                         "\nutente = a@b.it\npassword = segreta\n");
+    expect_not_sent("rossi@verdi.it", "certificate");
+    EXPECT_EQ(server.heard().find("EHLO"), std::string::npos);
 }
 
 TEST_F(mirxpdf_mail, AServerThatRefusesOrEndsIsReported) {
