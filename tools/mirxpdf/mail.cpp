@@ -145,7 +145,6 @@ void set_up(CURL* to, const mail_settings& settings, CURLU* server) {
         curl_easy_setopt(to, CURLOPT_USERNAME, settings.utente.c_str());
         curl_easy_setopt(to, CURLOPT_PASSWORD, settings.password.c_str());
     }
-    curl_easy_setopt(to, CURLOPT_NOSIGNAL, 1L);
     curl_easy_setopt(to, CURLOPT_CONNECTTIMEOUT, patience_to_connect);
     curl_easy_setopt(to, CURLOPT_SERVER_RESPONSE_TIMEOUT, patience_for_bytes);
     curl_easy_setopt(to, CURLOPT_LOW_SPEED_LIMIT, 1L);

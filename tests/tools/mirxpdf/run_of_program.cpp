@@ -35,7 +35,6 @@ running_program::running_program(const std::vector<std::string>& command,
     ::dup2(into, 1);
     ::dup2(into, 2);
     for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) ::unsetenv(name);
-    ::setenv("LSAN_OPTIONS", "suppressions=" LEAKS_OF_LIBRARIES ":print_suppressions=0", 1);
     if (::chdir(working.c_str()) == 0) ::execvp(arguments[0], arguments.data());
     ::_exit(127);
 }
