@@ -7,6 +7,7 @@
 #include <QUuid>
 #include <algorithm>
 #include <array>
+#include <map>
 #include <memory>
 
 namespace vantora::mirxpdf {
@@ -151,6 +152,23 @@ void set_up(CURL* to, const mail_settings& settings, CURLU* server) {
     curl_easy_setopt(to, CURLOPT_LOW_SPEED_TIME, patience_for_bytes);
 }
 
+/// What it means to the user, and in brackets the library's own words for whoever helps.
+std::string explained(CURLcode code, std::string_view details) {
+    static const std::map<CURLcode, std::string_view> meanings = {
+        {CURLE_COULDNT_RESOLVE_HOST, "il server non si trova"},
+        {CURLE_COULDNT_CONNECT, "il server non risponde"},
+        {CURLE_OPERATION_TIMEDOUT, "il server non risponde"},
+        {CURLE_USE_SSL_FAILED, "il server non offre un collegamento cifrato"},
+        {CURLE_PEER_FAILED_VERIFICATION, "il certificato del server non è attendibile"},
+        {CURLE_LOGIN_DENIED, "nome o password non sono accettati"},
+    };
+    if (details.empty()) details = curl_easy_strerror(code);
+    details = details.substr(0, details.find_last_not_of(" .") + 1);
+    const auto meaning = meanings.find(code);
+    if (meaning == meanings.end()) return std::string(details);
+    return std::string(meaning->second).append(" (").append(details).append(")");
+}
+
 }  // namespace
 
 std::optional<std::string> send_pdf(const mail_settings& settings,
@@ -182,9 +200,7 @@ std::optional<std::string> send_pdf(const mail_settings& settings,
 
     const CURLcode done = curl_easy_perform(curl);
     if (done == CURLE_OK) return {};
-    std::string why = reason[0] ? reason.data() : curl_easy_strerror(done);
-    while (why.ends_with(' ')) why.pop_back();
-    return why;
+    return explained(done, reason.data());
 }
 
 }  // namespace vantora::mirxpdf

@@ -124,8 +124,8 @@ std::optional<QString> send(drive& suite, const pdf_request& request,
     }
     const auto problem = send_pdf(settings, addressees, path.filename().string(), pdf);
     if (!problem) return {};
-    return QString::fromStdString("il server della posta " + settings.server +
-                                  " non ha accettato il documento: " + *problem);
+    return QString::fromStdString("invio tramite " + settings.server +
+                                  " non riuscito: " + *problem);
 }
 
 int run(drive& suite, const pdf_request& request, const std::optional<std::string>& print_file,

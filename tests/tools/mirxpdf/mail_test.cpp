@@ -98,7 +98,7 @@ TEST_F(mirxpdf_mail, AServerThatOffersNoEncryptionIsToldNothing) {
     mail_server server({.offers = "AUTH PLAIN"});
     const std::string login = "\nutente = ordini\npassword = segreta";
     drive.write_settings(settings_for(server, "sicurezza = starttls" + login));
-    expect_not_sent("rossi@verdi.it", "STARTTLS");
+    expect_not_sent("rossi@verdi.it", "non offre un collegamento cifrato");
     server.close();
     EXPECT_EQ(server.connections, 1);
     EXPECT_FALSE(server.was_told("AUTH"));
@@ -151,7 +151,7 @@ TEST_F(mirxpdf_mail, AServerWithAnUnknownCertificateIsToldNothing) {
     ASSERT_NE(port, 0);
     drive.write_settings("server = 127.0.0.1\nporta = " + std::to_string(port) +
                          "\nutente = a@b.it\npassword = segreta\n");
-    expect_not_sent("rossi@verdi.it", "certificate");
+    expect_not_sent("rossi@verdi.it", "certificato del server non è attendibile");
     EXPECT_EQ(server.heard().find("EHLO"), std::string::npos);
 }
 
@@ -165,12 +165,12 @@ TEST_F(mirxpdf_mail, AServerThatRefusesOrEndsIsReported) {
     {
         const mail_server server({.hangs_up = true});
         drive.write_settings(settings_for(server, "sicurezza = nessuna"));
-        expect_not_sent("rossi@verdi.it", "127.0.0.1");
+        expect_not_sent("rossi@verdi.it", "invio tramite 127.0.0.1 non riuscito");
         closed_port = server.port();
     }
     drive.write_settings("server = 127.0.0.1\nsicurezza = nessuna\nmittente = a@b.it\nporta = " +
                          std::to_string(closed_port) + "\n");
-    expect_not_sent("rossi@verdi.it", "Failed to connect");
+    expect_not_sent("rossi@verdi.it", "non risponde");
     drive.write_settings("server = a/b@c\nmittente = a@b.it\n");
     expect_not_sent("rossi@verdi.it", "nome del server");
 }
