@@ -16,18 +16,18 @@ constexpr qint64 serving_pause = 16;
 
 constexpr const char* program_title = "Vantora Ordini";
 
-QMessageBox::Icon toolkit_icon(icon sign) {
+const char* picture_of(icon sign) {
     switch (sign) {
         case icon::stop:
-            return QMessageBox::Critical;
+            return "fermo";
         case icon::warning:
-            return QMessageBox::Warning;
+            return "avviso";
         case icon::question:
-            return QMessageBox::Question;
+            return "domanda";
         case icon::information:
             break;
     }
-    return QMessageBox::Information;
+    return "informazione";
 }
 
 }  // namespace
@@ -111,16 +111,24 @@ void desktop_front_end::form_loaded(form& which) {
 }
 
 void desktop_front_end::form_shown(form& which) {
-    if (form_window* window = window_of(which)) window->appear();
+    form_window* window = window_of(which);
+    if (!window) return;
+    form_window* before = desk_->active() ? window_of(*desk_->active()) : nullptr;
+    if (before && before->isVisible()) place_ = before->place();
+    window->appear(place_);
 }
 
 void desktop_front_end::form_hidden(form& which) {
-    if (form_window* window = window_of(which)) window->hide();
+    form_window* window = window_of(which);
+    if (!window) return;
+    if (window->isVisible()) place_ = window->place();
+    window->hide();
 }
 
 void desktop_front_end::form_unloaded(form& which) {
     const auto found = windows_.find(&which);
     if (found == windows_.end()) return;
+    if (found->second->isVisible() && !found->second->isModal()) place_ = found->second->place();
     found->second->hide();
     // The window may be in the midst of one of its own events.
     form_window* window = found->second.release();
@@ -152,7 +160,10 @@ QWidget* desktop_front_end::front_window() const {
 void desktop_front_end::box_opened(const message_box& box) {
     QWidget* parent = desk_->active() ? window_of(*desk_->active()) : nullptr;
     auto* shown_box = new QMessageBox(parent);
-    shown_box->setIcon(toolkit_icon(box.icon));
+    shown_box->setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                              Qt::WindowCloseButtonHint);
+    shown_box->setIconPixmap(
+        picture_named(picture_of(box.icon)).pixmap(QSize(40, 40), shown_box->devicePixelRatio()));
     shown_box->setWindowTitle(shown(box.title));
     shown_box->setText(shown(box.text));
     if (box.buttons == buttons::yes_no) {
@@ -173,6 +184,7 @@ void desktop_front_end::box_opened(const message_box& box) {
         carry_out([&] { desk_->answer_box(given); });
     });
     boxes_.push_back(shown_box);
+    show_pointer();
     shown_box->show();
 }
 
@@ -180,6 +192,7 @@ void desktop_front_end::box_closed() {
     if (boxes_.empty()) return;
     QMessageBox* box = boxes_.back();
     boxes_.pop_back();
+    show_pointer();
     QObject::disconnect(box, &QMessageBox::finished, nullptr, nullptr);
     box->hide();
     box->deleteLater();
@@ -187,8 +200,16 @@ void desktop_front_end::box_closed() {
     focus_moved(desk_->focus());
 }
 
-void desktop_front_end::pointer_changed(pointer shape) {
-    if (shape == pointer::busy) {
+void desktop_front_end::pointer_changed(pointer) {
+    show_pointer();
+}
+
+void desktop_front_end::show_pointer() {
+    // A box can be answered even if the work that asks isn't over.
+    const bool busy = desk_->pointer_shape() == pointer::busy && boxes_.empty();
+    if (busy == busy_shown_) return;
+    busy_shown_ = busy;
+    if (busy) {
         QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     } else {
         QGuiApplication::restoreOverrideCursor();

@@ -62,11 +62,14 @@ class desktop_front_end final : public front_end {
     void carry_out(const std::function<void()>& action);
     void leave_finished_waits();
     form_window* window_of(form& which);
+    void show_pointer();
 
     desk* desk_ = nullptr;
     std::function<bool()> next_step_;
     std::map<form*, std::unique_ptr<form_window>> windows_;
+    window_place place_;  ///< of the last window
     std::vector<QMessageBox*> boxes_;
+    bool busy_shown_ = false;
     std::vector<wait> waits_;
     QElapsedTimer since_events_;
 };

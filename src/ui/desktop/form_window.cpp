@@ -4,12 +4,22 @@
 #include <QGuiApplication>
 #include <QScreen>
 #include <QSettings>
+#include <QShortcut>
 #include <QToolButton>
+#include <algorithm>
 
 #include "ui/desk.h"
 #include "ui/desktop/layouts.h"
 
 namespace vantora::ui::desktop {
+
+namespace {
+
+// What the window system's frame takes, about.
+constexpr int title_room = 30;
+constexpr QSize frame_room(8, title_room + 6);
+
+}  // namespace
 
 QIcon picture_named(const char* name) {
     return QIcon(QString(":/icons/%1.svg").arg(name));
@@ -49,13 +59,17 @@ void form_window::dress(const char* name, int index, const command_look& look,
     button->setText(QString::fromUtf8(look.caption));
     button->setToolButtonStyle(style);
     QString tip = QString::fromUtf8(look.tooltip);
-    if (*look.shortcut != '\0') {
-        button->setShortcut(QKeySequence(look.shortcut));
-        tip += QString(" (%1)").arg(button->shortcut().toString(QKeySequence::NativeText));
-    }
     button->setToolTip(tip);
+    if (*look.shortcut != '\0') add_shortcut(*button, look.shortcut);
     button->setAccessibleName(QString::fromUtf8(look.caption).remove('&'));
     button->setAccessibleDescription(QString::fromUtf8(look.tooltip));
+}
+
+void add_shortcut(QAbstractButton& button, const char* keys) {
+    auto* shortcut = new QShortcut(QKeySequence(keys), &button);
+    QObject::connect(shortcut, &QShortcut::activated, &button, &QAbstractButton::click);
+    const QString named = QString("(%1)").arg(shortcut->key().toString(QKeySequence::NativeText));
+    button.setToolTip((button.toolTip() + " " + named).trimmed());
 }
 
 void form_window::set_tab_order() {
@@ -68,19 +82,39 @@ void form_window::set_tab_order() {
     }
 }
 
-void form_window::appear() {
-    if (!placed_) {
-        placed_ = true;
-        QSize size = first_size_;
-        if (remember_) {
-            size = QSettings().value("windows/" + objectName() + "/size", size).toSize();
-        }
-        const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
-        resize(size.boundedTo(room.size()));
-        move(room.center() - rect().center());
+QSize form_window::size_on(const QRect& room) const {
+    QSize size = first_size_;
+    if (remember_) {
+        size = QSettings().value("windows/" + objectName() + "/size", size).toSize();
     }
-    setWindowModality(screen_->desk().modal() == screen_ ? Qt::ApplicationModal : Qt::NonModal);
+    return size.boundedTo(room.size() - frame_room);
+}
+
+void form_window::appear(const window_place& place) {
+    const bool modal = screen_->desk().modal() == screen_;
+    const QScreen* around = place.known ? QGuiApplication::screenAt(place.middle) : nullptr;
+    const QRect room = (around ? around : QGuiApplication::primaryScreen())->availableGeometry();
+    if (!placed_) resize(size_on(room));
+    placed_ = true;
+    setWindowModality(modal ? Qt::ApplicationModal : Qt::NonModal);
+    setWindowState(place.full_screen && !modal ? windowState() | Qt::WindowMaximized
+                                               : windowState() & ~Qt::WindowMaximized);
+    QRect inside(QPoint(), normal_size());
+    inside.moveCenter(place.known ? place.middle : room.center() + QPoint(0, title_room / 2));
+    inside.moveRight(std::min(inside.right(), room.right()));
+    inside.moveBottom(std::min(inside.bottom(), room.bottom()));
+    inside.moveTopLeft(QPoint(std::max(inside.left(), room.left()),
+                              std::max(inside.top(), room.top() + title_room)));
+    setGeometry(inside);
     show();
+}
+
+QSize form_window::normal_size() const {
+    return isMaximized() && normalGeometry().isValid() ? normalGeometry().size() : size();
+}
+
+window_place form_window::place() const {
+    return {true, geometry().center(), isMaximized()};
 }
 
 void form_window::focus_on(control& one) {
@@ -95,8 +129,8 @@ void form_window::closeEvent(QCloseEvent* event) {
 }
 
 bool form_window::event(QEvent* event) {
-    if (event->type() == QEvent::Resize && placed_ && remember_ && isVisible()) {
-        QSettings().setValue("windows/" + objectName() + "/size", size());
+    if (event->type() == QEvent::Hide && placed_ && remember_) {
+        QSettings().setValue("windows/" + objectName() + "/size", normal_size());
     }
     if (event->type() == QEvent::WindowActivate && screen_ && screen_->visible() &&
         screen_->desk().active() && screen_->desk().active() != screen_ &&

@@ -9,6 +9,7 @@
 #include "ui/desktop/binder.h"
 #include "ui/form.h"
 
+class QAbstractButton;
 class QToolButton;
 
 namespace vantora::ui::desktop {
@@ -19,6 +20,13 @@ struct command_look {
     const char* caption;   ///< short, UTF-8, "&" before the letter for Alt
     const char* tooltip;   ///< one sentence, UTF-8
     const char* shortcut;  ///< empty for none
+};
+
+/// Where a window stands.
+struct window_place {
+    bool known = false;
+    QPoint middle;
+    bool full_screen = false;
 };
 
 /// The window of one screen. Makes the widgets of all its controls; the screen's layout arranges
@@ -49,8 +57,10 @@ class form_window final : public QWidget {
 
     /// Size of the first showing.
     void set_first_size(const QSize& size) { first_size_ = size; }
-    /// Shows the window: where it was, or in the middle of the screen.
-    void appear();
+    /// Shows the window in the place of another one, or in the middle of the screen if there was
+    /// none yet.
+    void appear(const window_place& place);
+    [[nodiscard]] window_place place() const;
     void focus_on(control& one);
 
  protected:
@@ -59,6 +69,8 @@ class form_window final : public QWidget {
 
  private:
     void set_tab_order();
+    [[nodiscard]] QSize size_on(const QRect& room) const;
+    [[nodiscard]] QSize normal_size() const;
 
     form* screen_;  ///< null when it is gone
     user_action act_;
@@ -68,6 +80,9 @@ class form_window final : public QWidget {
     QSize first_size_{800, 500};
     std::map<const control*, std::unique_ptr<binder>> binders_;
 };
+
+/// Further keys for a button, told by its tooltip.
+void add_shortcut(QAbstractButton& button, const char* keys);
 
 /// A picture of the program.
 QIcon picture_named(const char* name);

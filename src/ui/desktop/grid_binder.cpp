@@ -85,6 +85,12 @@ class grid_binder final : public widget_binder {
         connect(view_->verticalScrollBar(), &QScrollBar::valueChanged, this, [this](int value) {
             if (!showing()) this->act([&] { model_.set_top_row(value + 1); });
         });
+        // A top row set before the view had its size and rows comes true when it has them.
+        connect(view_->verticalScrollBar(), &QScrollBar::rangeChanged, this, [this] {
+            if (showing()) return;
+            const quiet while_showing(*this);
+            if (model_.visible()) show_top_row();
+        });
         show_all();
     }
 
@@ -119,6 +125,10 @@ class grid_binder final : public widget_binder {
             view_->selectionModel()->setCurrentIndex(
                 here, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
         }
+        show_top_row();
+    }
+
+    void show_top_row() {
         if (view_->verticalScrollBar()->value() + 1 != model_.top_row()) {
             view_->verticalScrollBar()->setValue(model_.top_row() - 1);
         }

@@ -1,8 +1,11 @@
 #include "ui/desktop/style.h"
 
 #include <QApplication>
+#include <QLibraryInfo>
+#include <QLocale>
 #include <QPalette>
-#include <QStyleFactory>
+#include <QProxyStyle>
+#include <QTranslator>
 
 #include "ui/desktop/form_window.h"
 
@@ -15,6 +18,32 @@ static void make_pictures_known() {
 namespace vantora::ui::desktop {
 
 namespace {
+
+/// Fusion without the pictures on the buttons of dialogs and with room beside the texts of cells.
+class calm_style final : public QProxyStyle {
+ public:
+    calm_style() : QProxyStyle("Fusion") {}
+
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* result) const override {
+        if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+        return QProxyStyle::styleHint(hint, option, widget, result);
+    }
+    int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                    const QWidget* widget) const override {
+        if (metric == PM_FocusFrameHMargin) return 5;
+        return QProxyStyle::pixelMetric(metric, option, widget);
+    }
+};
+
+/// The toolkit's own texts, as in its printer dialog, in the language of the program.
+void speak_italian(QApplication& application) {
+    QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));
+    auto* texts = new QTranslator(&application);
+    if (texts->load("qtbase_it", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+        QApplication::installTranslator(texts);
+    }
+}
 
 constexpr const char* sheet = R"(
 QToolButton { border: 1px solid transparent; border-radius: 5px; padding: 4px 8px; }
@@ -40,8 +69,26 @@ QLineEdit:focus, QComboBox:focus, QDateEdit:focus { border: 1px solid #2f6ea5;
 QComboBox::drop-down, QDateEdit::drop-down { border: none; width: 22px; }
 QComboBox::down-arrow, QDateEdit::down-arrow { image: url(:/icons/giu.svg); width: 12px;
                        height: 12px; }
+QDateEdit[look="calendar"] { padding: 0; background: #f6f8fa; }
+QDateEdit[look="calendar"]::drop-down { width: 30px; subcontrol-position: center; }
+QDateEdit[look="calendar"]::down-arrow { image: url(:/icons/scadenziario.svg); width: 17px;
+                       height: 17px; }
+QDateEdit[look="calendar"]:focus { border: 1px solid #2f6ea5; background: #d8e9f8; }
 QLineEdit[cell="true"] { border-radius: 0; padding: 2px 4px; border-color: #d9e0e6; }
-QLineEdit[cell="true"]:focus { border: 1px solid #2f6ea5; background: #fff8dc; }
+QLineEdit[cell="current"] { border-radius: 0; padding: 2px 4px; border-color: #b9d3ea;
+                       background: #eaf3fb; }
+QLineEdit[cell]:focus { border: 1px solid #2f6ea5; background: #fff8dc; }
+QComboBox[look="over"] { border: 1px solid #2f6ea5; background: #fff8dc; border-radius: 2px; }
+QPushButton { border: 1px solid #c5ced6; border-radius: 5px; background: #f6f8fa;
+              padding: 5px 16px; min-width: 62px; }
+QPushButton:hover { background: #e3edf6; }
+QPushButton:pressed { background: #cfe0ee; }
+QPushButton:disabled { color: #9aa5ae; }
+QPushButton:default { border-color: #2f6ea5; }
+QPushButton:focus { border: 2px solid #2f6ea5; padding: 4px 15px; }
+QMessageBox QLabel#qt_msgbox_label { min-width: 230px; padding: 8px 8px 8px 2px; }
+QMessageBox QLabel#qt_msgboxex_icon_label { padding: 4px 6px 4px 8px; }
+QToolTip { border: 1px solid #c5ced6; background: #ffffff; color: #1e2b36; padding: 3px 5px; }
 QGroupBox { border: 1px solid #d3dbe2; border-radius: 6px; margin-top: 9px; padding: 8px 8px 6px 8px;
             background: #fbfcfd; }
 QGroupBox::title { subcontrol-origin: margin; left: 10px; padding: 0 4px; color: #24527a;
@@ -57,6 +104,8 @@ QHeaderView::section { background: #e9eef3; color: #24527a; border: none;
 QProgressBar { border: 1px solid #c5ced6; border-radius: 4px; text-align: center;
                background: white; }
 QProgressBar::chunk { background: #7fb2da; border-radius: 3px; }
+QLabel[role="number"] { color: #93a1ad; }
+QFrame[role="stock"] { background: #eef3f7; border: 1px solid #d3dbe2; border-radius: 4px; }
 QLabel[role="link"] { color: #1d66a6; text-decoration: underline; }
 QLabel[role="faint"] { color: #6b7a87; }
 QLabel[role="warning"] { color: #a3271c; font-weight: 600; }
@@ -69,7 +118,8 @@ QFrame[role="bar"] { background: #f1f5f8; border: none; border-bottom: 1px solid
 
 void dress_application(QApplication& application) {
     make_pictures_known();
-    QApplication::setStyle(QStyleFactory::create("Fusion"));
+    speak_italian(application);
+    QApplication::setStyle(new calm_style);
     QPalette palette;
     palette.setColor(QPalette::Window, QColor("#f7f9fb"));
     palette.setColor(QPalette::WindowText, QColor("#1e2b36"));

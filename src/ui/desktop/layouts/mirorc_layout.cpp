@@ -17,7 +17,7 @@ constexpr command_look commands[] = {
     {"valore", "&Valorizzazione", "Valore degli ordini", "Ctrl+Y"},
     {"clienti", "Schede &clienti", "Ordini di ogni cliente", "Ctrl+K"},
     {"articoli", "Schede a&rticoli", "Ordini di ogni articolo", "Ctrl+J"},
-    {"evasione", "Evasio&ne", "Evade gli ordini di un cliente", "Ctrl+E"},
+    {"evasione", "Evas&ione", "Evade gli ordini di un cliente", "Ctrl+E"},
 };
 
 QFrame* command_bar(form_window& window) {
@@ -109,7 +109,7 @@ void lay_out_mirorc(form_window& window) {
     all->addLayout(body, 1);
 
     window.setMinimumSize(960, 520);
-    window.set_first_size(QSize(1260, 724));
+    window.set_first_size(QSize(1280, 690));
 }
 
 }  // namespace vantora::ui::desktop

@@ -105,7 +105,9 @@ QGroupBox* order_head(form_window& window) {
     const auto text = [&](int i) { return window.widget("Text3", i); };
     const auto picker = [&](int i) {
         QWidget* one = window.widget("text5", i);
-        one->setToolTip("Sceglie la data dal calendario");
+        one->setToolTip("Sceglie la data dal calendario (frecce: giorno per giorno)");
+        set_look(one, "look", "calendar");
+        one->setFixedWidth(32);
         return one;
     };
     add_row(fields, "Numero attribuito all'ordine", {text(0)});
@@ -149,7 +151,7 @@ void lay_out_mirorcx(form_window& window) {
     all->addLayout(foot);
 
     window.setMinimumSize(980, 620);
-    window.set_first_size(QSize(1160, 660));
+    window.set_first_size(QSize(1180, 690));
 }
 
 }  // namespace vantora::ui::desktop

@@ -3,7 +3,7 @@
 namespace vantora::ui::desktop {
 
 QLabel* caption(const char* utf8, QWidget* parent) {
-    auto* label = new QLabel(QString::fromUtf8(utf8), parent);
+    auto* label = new QLabel(QString::fromUtf8(utf8).trimmed(), parent);
     label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     return label;
 }

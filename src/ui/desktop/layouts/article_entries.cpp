@@ -1,0 +1,61 @@
+#include "ui/desktop/layouts/article_entries.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QHelpEvent>
+#include <QPainter>
+#include <QToolTip>
+
+namespace vantora::ui::desktop {
+
+namespace {
+
+constexpr int code_width = 15;  // characters
+constexpr int between = 3;      // " - "
+constexpr int margin = 6;       // dots
+constexpr const char* widest_code = "WWW00000";
+
+QString description_of(QString entry) {
+    while (!entry.isEmpty() && entry.back().isDigit()) entry.chop(1);
+    return entry.mid(code_width + between).trimmed();
+}
+
+}  // namespace
+
+void article_entries::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                            const QModelIndex& index) const {
+    QStyleOptionViewItem row = option;
+    initStyleOption(&row, index);
+    const QString entry = row.text;
+    row.text.clear();
+    const QStyle* style = row.widget ? row.widget->style() : QApplication::style();
+    style->drawControl(QStyle::CE_ItemViewItem, &row, painter, row.widget);
+
+    const bool chosen = (row.state & QStyle::State_Selected) != 0;
+    const bool enabled = (row.state & QStyle::State_Enabled) != 0;
+    painter->setPen(row.palette.color(enabled ? QPalette::Active : QPalette::Disabled,
+                                      chosen ? QPalette::HighlightedText : QPalette::Text));
+    painter->setFont(row.font);
+    const QFontMetrics& metrics = row.fontMetrics;
+    const QRect room = row.rect.adjusted(margin, 0, -margin, 0);
+    const QString code = entry.left(code_width).trimmed();
+    const int column =
+        std::max(metrics.horizontalAdvance(widest_code), metrics.horizontalAdvance(code)) + margin;
+    painter->drawText(room, Qt::AlignVCenter | Qt::TextSingleLine, code);
+    const QRect rest = room.adjusted(column, 0, 0, 0);
+    painter->drawText(rest, Qt::AlignVCenter | Qt::TextSingleLine,
+                      metrics.elidedText(description_of(entry), Qt::ElideRight, rest.width()));
+}
+
+QSize article_entries::sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const {
+    return {100, option.fontMetrics.height() + 4};
+}
+
+bool article_entries::helpEvent(QHelpEvent* event, QAbstractItemView* view,
+                                const QStyleOptionViewItem&, const QModelIndex& index) {
+    if (event->type() != QEvent::ToolTip || !index.isValid()) return false;
+    QToolTip::showText(event->globalPos(), description_of(index.data().toString()), view);
+    return true;
+}
+
+}  // namespace vantora::ui::desktop

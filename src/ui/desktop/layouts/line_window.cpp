@@ -1,0 +1,245 @@
+#include "ui/desktop/layouts/line_window.h"
+
+#include <QLineEdit>
+#include <QListView>
+#include <QScrollBar>
+#include <QShortcut>
+
+#include "ui/desktop/layouts/article_entries.h"
+#include "ui/desktop/layouts/line_rows.h"
+#include "ui/value_controls.h"
+
+namespace vantora::ui::desktop {
+
+namespace {
+
+constexpr int rows = line_rows::count;
+constexpr int stock_characters = 140;  ///< the record number behind them is not for the eye
+
+struct column {
+    const char* control;
+    const char* head;
+    int characters;  ///< width; 0 takes what is left
+    bool number;
+};
+
+constexpr column columns[] = {
+    {"artic", "Articolo", 13, false},
+    {"ds", "Descrizione", 0, false},
+    {"um", "", 1, false},
+    {"quantita", "Quantità", 9, true},
+    {"evaso", "Evaso", 9, true},
+    {"sc1", "Sconti", 2, true},
+    {"sc2", "", 2, true},
+    {"prezzo", "Prezzo", 11, true},
+    {"civ", "Iva", 1, false},
+};
+
+QFrame* command_bar(form_window& window, const std::vector<line_command>& commands) {
+    auto* bar = new QFrame(&window);
+    set_look(bar, "role", "bar");
+    auto* row = new QHBoxLayout(bar);
+    row->setContentsMargins(8, 5, 8, 5);
+    row->setSpacing(2);
+    for (const line_command& one : commands) {
+        // Leaving stands apart.
+        if (one.index == 0) row->addStretch(1);
+        window.dress("comando", one.index, one.look);
+        auto* button = window.as<QToolButton>("comando", one.index);
+        button->setIconSize(QSize(26, 26));
+        button->setMinimumWidth(84);
+        row->addWidget(button);
+    }
+    return bar;
+}
+
+void add_column(form_window& window, line_rows& lines, QGridLayout* cells, const column& one) {
+    const int at = cells->columnCount();
+    auto* head = new QLabel(QString::fromUtf8(one.head), &window);
+    set_look(head, "role", "faint");
+    head->setContentsMargins(5, 0, 5, 0);
+    if (one.number) head->setAlignment(Qt::AlignRight);
+    cells->addWidget(head, 0, at);
+    for (int row = 0; row < rows; ++row) {
+        auto* cell = window.as<QLineEdit>(one.control, row);
+        lines.add_cell(row, cell);
+        if (one.number) cell->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        if (one.characters > 0) sized(cell, one.characters);
+        cell->setMinimumHeight(cell->fontMetrics().height() + 6);
+        cell->setSizePolicy(cell->sizePolicy().horizontalPolicy(), QSizePolicy::Expanding);
+        cells->addWidget(cell, row + 1, at);
+    }
+    if (one.characters == 0) cells->setColumnStretch(at, 1);
+}
+
+/// The lines move under the cells by pages; the cell keeps the focus.
+void add_paging(form_window& window) {
+    auto& bar = static_cast<scroll_bar&>(*window.screen().find("VScroll1", {}));
+    for (const int step : {-rows, rows}) {
+        auto* keys =
+            new QShortcut(QKeySequence(step < 0 ? Qt::Key_PageUp : Qt::Key_PageDown), &window);
+        QObject::connect(keys, &QShortcut::activated, &window, [&window, &bar, step] {
+            window.act_on(bar, [&bar, step] {
+                bar.set_value(std::clamp(bar.value() + step, bar.minimum(), bar.maximum()));
+            });
+        });
+    }
+    window.widget("VScroll1")->setToolTip(QString::fromUtf8("Righe da 1 a 200 (Pag su, Pag giù)"));
+}
+
+QGroupBox* line_frame(form_window& window) {
+    auto* box = new QGroupBox("Dettaglio documento", &window);
+    auto* lines = new line_rows(window);
+    auto* cells = new QGridLayout;
+    cells->setSpacing(1);
+    for (int row = 0; row < rows; ++row) {
+        cells->addWidget(lines->number(row), row + 1, 0);
+        cells->setRowStretch(row + 1, 1);
+    }
+    for (const column& one : columns) {
+        if (window.screen().find(one.control, 0)) add_column(window, *lines, cells, one);
+    }
+    auto* bar = window.as<QScrollBar>("VScroll1");
+    bar->setOrientation(Qt::Vertical);
+    bar->setFixedWidth(18);
+    cells->addWidget(bar, 1, cells->columnCount(), rows, 1);
+    add_paging(window);
+
+    auto* vat = new QShortcut(QKeySequence("F4"), &window);
+    QObject::connect(vat, &QShortcut::activated, &window, [&window, lines] {
+        auto& cell = *window.screen().find("civ", std::max(lines->current(), 0));
+        window.act_on(cell, [&cell] { cell.set_focus(); });
+    });
+    for (int row = 0; row < rows; ++row) {
+        window.widget("civ", row)->setToolTip("Sceglie il codice iva (F4)");
+    }
+
+    auto* hint =
+        new QLabel("Per cercare un articolo tramite la descrizione, inserirla e premere F1)", box);
+    set_look(hint, "role", "faint");
+    auto* all = new QVBoxLayout(box);
+    all->addLayout(cells, 1);
+    all->addWidget(hint);
+    return box;
+}
+
+QGroupBox* list_frame(form_window& window) {
+    auto* box = new QGroupBox("Lista articoli memorizzati in magazzino", &window);
+    auto* column = new QVBoxLayout(box);
+    auto* list = window.as<QListView>("List1");
+    list->setItemDelegate(new article_entries(list));
+    list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    list->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    column->addWidget(list, 1);
+    auto* line = new QHBoxLayout;
+    window.dress("command3d3", -1,
+                 {"aggiorna", "&Ricarica", "Rilegge la lista degli articoli", "F5"},
+                 Qt::ToolButtonTextBesideIcon);
+    window.dress("riordina", -1,
+                 {"riordina", "Ri&ordina righe", "Ordina le righe per codice", "Ctrl+R"},
+                 Qt::ToolButtonTextBesideIcon);
+    for (const char* name : {"command3d3", "riordina"}) {
+        set_look(window.widget(name), "look", "plain");
+        line->addWidget(window.widget(name));
+    }
+    line->addStretch(1);
+    column->addLayout(line);
+    return box;
+}
+
+QFrame* stock_line(form_window& window) {
+    auto* frame = new QFrame(&window);
+    set_look(frame, "role", "stock");
+    auto* stock = window.as<QLabel>("listx");
+    stock->setFont(QFont("Liberation Mono", 9));
+    stock->setFixedHeight(stock->fontMetrics().height() + 6);
+    stock->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    stock->setMaximumWidth(stock->fontMetrics().horizontalAdvance(QString(stock_characters, '0')));
+    auto* line = new QHBoxLayout(frame);
+    line->setContentsMargins(8, 1, 8, 1);
+    line->addWidget(stock, 1000);
+    line->addStretch(1);
+    return frame;
+}
+
+struct choice {
+    const char* control;
+    int index;
+    const char* keys;
+    const char* tooltip;
+};
+
+constexpr choice choices[] = {
+    {"prezz", 0, "Alt+1", "Le righe prendono il primo prezzo dell'articolo"},
+    {"prezz", 1, "Alt+2", "Le righe prendono il secondo prezzo dell'articolo"},
+    {"barcode", -1, "Alt+B", "Le righe si registrano per codice a barre"},
+    {"impegno", -1, "Alt+G", "L'ordine impegna la giacenza degli articoli"},
+    {"postael", -1, "Alt+M", "Il documento si spedisce per posta elettronica"},
+    {"eva", -1, "Alt+V", "L'ordine non ha altro da evadere"},
+};
+
+QGridLayout* choice_table(form_window& window) {
+    auto* table = new QGridLayout;
+    table->setVerticalSpacing(4);
+    table->setHorizontalSpacing(18);
+    int at = 0;
+    for (const choice& one : choices) {
+        if (!window.screen().find(one.control, std::max(one.index, 0))) continue;
+        auto* button = window.as<QAbstractButton>(one.control, one.index);
+        button->setToolTip(QString::fromUtf8(one.tooltip));
+        add_shortcut(*button, one.keys);
+        table->addWidget(button, at % 2, at / 2);
+        ++at;
+    }
+    return table;
+}
+
+QHBoxLayout* foot_line(form_window& window) {
+    auto* foot = new QHBoxLayout;
+    foot->setSpacing(12);
+    QGridLayout* options = choice_table(window);
+    foot->addLayout(options);
+    foot->setAlignment(options, Qt::AlignVCenter);
+    foot->addStretch(1);
+    constexpr const char* captions[] = {"Totale imponibile", "Totale complessivo", "Numero pezzi"};
+    for (int i = 0; i < 3; ++i) {
+        auto* total = window.as<QLabel>("tota", i);
+        set_look(total, "role", "total");
+        total->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        total->setFixedWidth(136);
+        auto* column = new QVBoxLayout;
+        column->setSpacing(2);
+        auto* text = caption(captions[i], &window);
+        set_look(text, "role", "faint");
+        column->addWidget(text);
+        column->addWidget(total);
+        foot->addLayout(column);
+    }
+    return foot;
+}
+
+}  // namespace
+
+void lay_out_line_window(form_window& window, const std::vector<line_command>& commands) {
+    auto* all = new QVBoxLayout(&window);
+    all->setContentsMargins(0, 0, 0, 0);
+    all->setSpacing(0);
+    all->addWidget(command_bar(window, commands));
+
+    auto* body = new QVBoxLayout;
+    body->setContentsMargins(10, 8, 10, 8);
+    body->setSpacing(8);
+    auto* middle = new QHBoxLayout;
+    middle->setSpacing(10);
+    middle->addWidget(line_frame(window), 19);
+    middle->addWidget(list_frame(window), 8);
+    body->addLayout(middle, 1);
+    body->addWidget(stock_line(window));
+    body->addLayout(foot_line(window));
+    all->addLayout(body, 1);
+
+    window.setMinimumSize(1040, 600);
+    window.set_first_size(QSize(1340, 690));
+}
+
+}  // namespace vantora::ui::desktop
