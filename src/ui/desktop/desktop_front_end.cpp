@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QEventLoop>
+#include <QGridLayout>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -174,6 +175,9 @@ void desktop_front_end::box_opened(const message_box& box) {
     } else {
         shown_box->setStandardButtons(QMessageBox::Ok);
     }
+    // The shortest texts too make a box that is seen.
+    auto* rows = static_cast<QGridLayout*>(shown_box->layout());
+    rows->addItem(new QSpacerItem(330, 0), rows->rowCount(), 0, 1, rows->columnCount());
     shown_box->setWindowModality(Qt::ApplicationModal);
     const bool question = box.buttons == buttons::yes_no;
     QObject::connect(shown_box, &QMessageBox::finished, shown_box, [this, shown_box, question] {

@@ -27,7 +27,7 @@ grid_view::grid_view(const grid& model, QWidget* parent) : QTableView(parent), m
 
 std::vector<int> grid_view::shared_widths() const {
     const auto& columns = model_.columns();
-    const int least = fontMetrics().horizontalAdvance("00/00/0000") + 14;
+    const int least = fontMetrics().horizontalAdvance("00000000000") + 14;
     int room = viewport()->width();
     int shares = 0;
     for (const auto& column : columns) shares += column.width;

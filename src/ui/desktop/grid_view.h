@@ -32,7 +32,7 @@ class grid_view final : public QTableView {
     };
 
     void place_followers();
-    /// Widths of the columns, by their shares; narrow ones keep room for a date.
+    /// Widths of the columns, by their shares; narrow ones keep room for a date or a VAT number.
     [[nodiscard]] std::vector<int> shared_widths() const;
 
     const grid& model_;

@@ -86,8 +86,12 @@ QPushButton:pressed { background: #cfe0ee; }
 QPushButton:disabled { color: #9aa5ae; }
 QPushButton:default { border-color: #2f6ea5; }
 QPushButton:focus { border: 2px solid #2f6ea5; padding: 4px 15px; }
-QMessageBox QLabel#qt_msgbox_label { min-width: 230px; padding: 8px 8px 8px 2px; }
+QMessageBox QLabel#qt_msgbox_label { padding: 8px 8px 8px 2px; }
 QMessageBox QLabel#qt_msgboxex_icon_label { padding: 4px 6px 4px 8px; }
+QCalendarWidget QWidget#qt_calendar_navigationbar { background: #e9eef3; }
+QCalendarWidget QToolButton { color: #24527a; font-weight: 600; }
+QCalendarWidget QToolButton#qt_calendar_prevmonth { qproperty-icon: url(:/icons/indietro.svg); }
+QCalendarWidget QToolButton#qt_calendar_nextmonth { qproperty-icon: url(:/icons/avanti.svg); }
 QToolTip { border: 1px solid #c5ced6; background: #ffffff; color: #1e2b36; padding: 3px 5px; }
 QGroupBox { border: 1px solid #d3dbe2; border-radius: 6px; margin-top: 9px; padding: 8px 8px 6px 8px;
             background: #fbfcfd; }

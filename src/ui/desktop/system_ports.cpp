@@ -1,12 +1,14 @@
 #include "ui/desktop/system_ports.h"
 
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinterInfo>
 #include <QProcess>
+#include <QPushButton>
 #include <QStandardPaths>
 
 #include "ui/desktop/binder.h"
@@ -134,6 +136,10 @@ bool system_printer::choose_settings() {
     QPrintDialog dialog(&printer_, QApplication::activeWindow());
     dialog.setWindowTitle("Imposta stampante");
     dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize);
+    // Nothing is printed here.
+    if (const auto* buttons = dialog.findChild<QDialogButtonBox*>()) {
+        if (auto* accept = buttons->button(QDialogButtonBox::Ok)) accept->setText("OK");
+    }
     return dialog.exec() == QDialog::Accepted;
 }
 

@@ -87,6 +87,7 @@ class date_binder final : public widget_binder {
         edit_->setLocale(italian);
         edit_->calendarWidget()->setLocale(italian);
         edit_->calendarWidget()->setFirstDayOfWeek(Qt::Monday);
+        edit_->calendarWidget()->setMinimumSize(330, 240);
         connect(edit_, &QDateEdit::dateChanged, this, [this](QDate day) {
             if (showing()) return;
             this->act([&] {

@@ -150,7 +150,7 @@ void lay_out_mirorcx(form_window& window) {
     foot->addWidget(window.widget("bottone"));
     all->addLayout(foot);
 
-    window.setMinimumSize(980, 620);
+    window.setMinimumSize(980, 664);
     window.set_first_size(QSize(1180, 690));
 }
 

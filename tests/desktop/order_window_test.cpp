@@ -1,0 +1,187 @@
+#include <gtest/gtest.h>
+
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QMessageBox>
+#include <QTableView>
+
+#include "app/start.h"
+#include "entry/mirorcs.h"
+#include "register/mirorc.h"
+#include "scripted/small_company.h"
+#include "store/drive.h"
+#include "ui/pictures/pixbuf_decoder.h"
+#include "window_bench.h"
+
+namespace vantora::ui::desktop {
+namespace {
+
+/// Counts how often a widget is painted.
+class paint_counter final : public QObject {
+ public:
+    explicit paint_counter(QWidget* of) : QObject(of) { of->installEventFilter(this); }
+    int paints = 0;
+
+ private:
+    bool eventFilter(QObject*, QEvent* event) override {
+        paints += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+};
+
+/// A clerk types an order with the keyboard alone.
+class order_window : public testing::Test {
+ protected:
+    order_window() {
+        using vantora::test::article;
+        company.customers(
+            {vantora::test::customer_named("Alfa"), vantora::test::customer_named("Zeta")});
+        std::vector<rec_art> articles{article("A100", "Dado", 10), article("A200", "Vite", 25),
+                                      article("A300", "Rondella", 5)};
+        articles[2].codice_barre = "8001";
+        company.articles(articles);
+        company.table_file();
+        company.counter(contatori::ordini, 0, 76);
+    }
+
+    void run(std::vector<std::function<void()>> steps) {
+        steps.insert(steps.begin(), {[&] { press(Qt::Key_N, Qt::ControlModifier); },
+                                     [&] {
+                                         write("zeta");
+                                         press(Qt::Key_Return);
+                                         press(Qt::Key_F12);
+                                     }});
+        bench.run([this] { start(app, "ordini001"); }, std::move(steps));
+    }
+    static QWidget* focused() { return QApplication::focusWidget(); }
+    static std::string focus() { return focused()->objectName().toStdString(); }
+    static void press(Qt::Key key, Qt::KeyboardModifiers with = Qt::NoModifier) {
+        QTest::keyClick(focused(), key, with);
+    }
+    static void write(const char* text) { QTest::keyClicks(focused(), text); }
+    /// A cell after the other, each left by Enter.
+    static void write_cells(std::initializer_list<const char*> texts) {
+        for (const char* text : texts) {
+            write(text);
+            press(Qt::Key_Return);
+        }
+    }
+    std::string text(const char* address) {
+        return bench.find<QLineEdit>(address)->text().toStdString();
+    }
+    /// Taxable, grand total and pieces, as the clerk sees them.
+    std::string totals() {
+        QStringList all;
+        for (const char* one : {"tota(0)", "tota(1)", "tota(2)"}) {
+            all << bench.find<QLabel>(one)->text().trimmed();
+        }
+        return all.join(' ').toStdString();
+    }
+    QRect place(const char* address) {
+        QWidget* one = bench.find(address);
+        return {one->mapTo(one->window(), QPoint()), one->size()};
+    }
+
+    vantora::test::small_company company;
+    drive files{company.drive()};
+    test::window_bench bench;
+    ui::pixbuf_decoder pictures;
+    program app{files, bench.desk, pictures};
+};
+
+TEST_F(order_window, AnOrderIsTypedByTheKeyboardAlone) {
+    run({[&] {
+             ASSERT_EQ(focus(), "artic(0)");
+             // Enter walks code, quantity, discounts, price, next row.
+             write_cells({"a100", "3", "10", "", ""});
+             EXPECT_EQ(text("ds(0)"), "Dado");
+             EXPECT_EQ(totals(), "27,00 32,94 3");
+             EXPECT_EQ(focus(), "artic(1)");
+             // By description.
+             press(Qt::Key_Return);
+             EXPECT_EQ(focus(), "ds(1)");
+             write("vit");
+             press(Qt::Key_F1);
+             EXPECT_EQ(text("artic(1)"), "A200");
+             write_cells({"2", "", "", ""});
+             // By bar code.
+             press(Qt::Key_B, Qt::AltModifier);
+             EXPECT_EQ(focus(), "artic(2)");
+             write_cells({"8001", "4", "", "", ""});
+             EXPECT_EQ(text("ds(2)"), "Rondella");
+             press(Qt::Key_B, Qt::AltModifier);
+             // The list follows the code; a click takes an entry.
+             auto* list = bench.find<QListView>("List1");
+             write("a3");
+             EXPECT_EQ(list->currentIndex().row(), 2);
+             QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
+                               list->visualRect(list->model()->index(1, 0)).center());
+             EXPECT_EQ(text("artic(3)"), "A200");
+             EXPECT_EQ(focus(), "quantita(3)");
+             write("1");
+             EXPECT_EQ(totals(), "122,00 148,84 10");
+             EXPECT_TRUE(bench.find<QLabel>("listx")->text().startsWith("A200"));
+         },
+         [&] {
+             // The pick of the VAT code lies over its row, and one arrow picks.
+             press(Qt::Key_F4);
+             EXPECT_EQ(focus(), "Combo1");
+             EXPECT_EQ(place("Combo1").top(), place("civ(3)").top());
+             EXPECT_TRUE(place("Combo1").intersects(place("civ(3)")));
+             EXPECT_FALSE(place("Combo1").intersects(place("prezzo(3)")));
+             press(Qt::Key_Down);
+             EXPECT_EQ(text("civ(3)"), "05");
+             EXPECT_EQ(focus(), "prezzo(3)");
+             EXPECT_FALSE(bench.find("Combo1")->isVisible());
+             EXPECT_EQ(totals(), "122,00 143,34 10");
+         },
+         [&] {
+             press(Qt::Key_F7);
+             EXPECT_EQ(text("artic(3)"), "");
+             EXPECT_EQ(text("artic(4)"), "A200");
+             press(Qt::Key_F7, Qt::ShiftModifier);
+             press(Qt::Key_F7, Qt::ShiftModifier);
+             EXPECT_EQ(text("artic(3)"), "");
+             EXPECT_EQ(totals(), "97,00 118,34 9");
+             press(Qt::Key_F12);
+         },
+         [&] {
+             auto* box = qobject_cast<QMessageBox*>(bench.front.front_window());
+             ASSERT_TRUE(box);
+             EXPECT_EQ(box->text(), "Stampare l'ordine?");
+             QTest::keyClick(box, Qt::Key_Escape);
+         },
+         [&] {
+             ASSERT_EQ(bench.front.front_window()->objectName().toStdString(), "mirorc");
+             const auto* cells = bench.find<QTableView>("elenco")->model();
+             EXPECT_EQ(cells->index(0, 1).data().toString(), "77");
+             EXPECT_EQ(cells->index(0, 3).data().toString(), "Zeta");
+         }});
+}
+
+TEST_F(order_window, TheRowWorkedOnIsMarkedAndPagesArePaintedOnce) {
+    paint_counter* counter = nullptr;
+    run({[&] {
+             write_cells({"a100", "3", "", "", ""});
+             EXPECT_EQ(bench.find("ds(0)")->property("cell"), "true");
+             EXPECT_EQ(bench.find("ds(1)")->property("cell"), "current");
+         },
+         [&] {
+             counter = new paint_counter(bench.find("artic(0)"));
+             press(Qt::Key_PageDown);
+             EXPECT_EQ(text("artic(0)"), "");
+             EXPECT_EQ(app.mirorcs->VScroll1.value(), 13);
+             EXPECT_EQ(focus(), "artic(1)");
+         },
+         [&] {
+             EXPECT_EQ(counter->paints, 1);
+             press(Qt::Key_PageUp);
+             EXPECT_EQ(text("artic(0)"), "A100");
+             EXPECT_EQ(totals(), "30,00 36,60 3");
+         }});
+}
+
+}  // namespace
+}  // namespace vantora::ui::desktop
