@@ -82,6 +82,21 @@ void grid_view::resizeEvent(QResizeEvent* event) {
     share_width();
 }
 
+void grid_view::align_first_row() {
+    verticalHeader()->setOffsetToSectionPosition(verticalScrollBar()->value());
+    viewport()->update();
+}
+
+void grid_view::scrollContentsBy(int dx, int dy) {
+    QTableView::scrollContentsBy(dx, dy);
+    align_first_row();
+}
+
+void grid_view::updateGeometries() {
+    QTableView::updateGeometries();
+    align_first_row();
+}
+
 void grid_view::moveEvent(QMoveEvent* event) {
     QTableView::moveEvent(event);
     place_followers();

@@ -21,6 +21,9 @@ class grid_view final : public QTableView {
 
  protected:
     void resizeEvent(QResizeEvent* event) override;
+    // The first row shown is whole, at the end of the table too.
+    void scrollContentsBy(int dx, int dy) override;
+    void updateGeometries() override;
     void moveEvent(QMoveEvent* event) override;
     /// The focus alone makes no row the current one.
     void focusInEvent(QFocusEvent* event) override;
@@ -32,6 +35,7 @@ class grid_view final : public QTableView {
     };
 
     void place_followers();
+    void align_first_row();
     /// Widths of the columns, by their shares; narrow ones keep room for a date or a VAT number.
     [[nodiscard]] std::vector<int> shared_widths() const;
 

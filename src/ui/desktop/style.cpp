@@ -79,6 +79,7 @@ QLineEdit[cell="current"] { border-radius: 0; padding: 2px 4px; border-color: #b
                        background: #eaf3fb; }
 QLineEdit[cell]:focus { border: 1px solid #2f6ea5; background: #fff8dc; }
 QComboBox[look="over"] { border: 1px solid #2f6ea5; background: #fff8dc; border-radius: 2px; }
+QCheckBox:focus, QRadioButton:focus { background: #dcebf8; border-radius: 3px; }
 QPushButton { border: 1px solid #c5ced6; border-radius: 5px; background: #f6f8fa;
               padding: 5px 16px; min-width: 62px; }
 QPushButton:hover { background: #e3edf6; }

@@ -36,7 +36,9 @@ line_rows::line_rows(form_window& window)
     connect(bar_, &QScrollBar::valueChanged, this, [this](int first) { show_numbers(first); });
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
         const auto row = row_of_.constFind(now);
-        if (row != row_of_.constEnd()) mark(*row);
+        if (row == row_of_.constEnd()) return;
+        last_cell_ = now;
+        mark(*row);
     });
 }
 
@@ -58,6 +60,10 @@ void line_rows::mark(int row) {
         }
     }
     current_ = row;
+}
+
+void line_rows::go_back() {
+    if (last_cell_) last_cell_->setFocus(Qt::ShortcutFocusReason);
 }
 
 void line_rows::show_numbers(int first) {

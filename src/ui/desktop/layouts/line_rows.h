@@ -28,6 +28,9 @@ class line_rows final : public QObject {
     [[nodiscard]] QLabel* number(int row) const { return numbers_[static_cast<std::size_t>(row)]; }
     [[nodiscard]] int current() const { return current_; }
 
+    /// The focus comes back to the cell that had it last.
+    void go_back();
+
     bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
@@ -42,6 +45,7 @@ class line_rows final : public QObject {
     std::array<std::vector<QWidget*>, count> cells_;
     QHash<const QWidget*, int> row_of_;
     int current_ = -1;
+    QWidget* last_cell_ = nullptr;
 };
 
 }  // namespace vantora::ui::desktop

@@ -114,6 +114,10 @@ QGroupBox* line_frame(form_window& window) {
         window.widget("civ", row)->setToolTip("Sceglie il codice iva (F4)");
     }
 
+    auto* back = new QShortcut(QKeySequence("F2"), &window);
+    QObject::connect(back, &QShortcut::activated, lines, &line_rows::go_back);
+    box->setToolTip("F2: torna alla cella di prima");
+
     auto* hint =
         new QLabel("Per cercare un articolo tramite la descrizione, inserirla e premere F1)", box);
     set_look(hint, "role", "faint");
