@@ -100,10 +100,10 @@ constexpr field field_table[] = {
 };
 
 constexpr fixed_text text_table[] = {
-    {12, 231, "Imponibile", footer_font},
+    {26, 231, "Imponibile", footer_font},
     {44, 231, "Aliquota %", footer_font},
     {61, 231, "Imposta", footer_font},
-    {77, 231, "Importo", footer_font},
+    {88, 231, "Importo", footer_font},
     {100, 231, "Titolo", footer_font},
     {142, 231, "Totale imponibile", text_font},
     {142, 236, "Totale IVA", text_font},
