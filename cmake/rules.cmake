@@ -3,7 +3,9 @@
 add_library(vantora_rules INTERFACE)
 target_include_directories(vantora_rules INTERFACE ${PROJECT_SOURCE_DIR}/src)
 target_compile_options(vantora_rules INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
-                                               -Wnon-virtual-dtor -Woverloaded-virtual -Werror)
+                                               -Wnon-virtual-dtor -Woverloaded-virtual -Werror
+                                               # amounts round step by step on every processor
+                                               -ffp-contract=off)
 if(VANTORA_SANITIZE)
   target_compile_options(vantora_rules INTERFACE -fsanitize=address,undefined
                                                  -fno-sanitize-recover=all -fno-omit-frame-pointer
