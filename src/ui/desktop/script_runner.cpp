@@ -36,9 +36,8 @@ bool script_runner::shoot(const std::filesystem::path& file) {
     if (QWidget* behind = front->parentWidget()) {
         // A message box is shown where it stands in front of its window.
         QPixmap whole = behind->window()->grab();
-        QPainter(&whole).drawPixmap(
-            (QPoint(whole.width(), whole.height()) - QPoint(picture.width(), picture.height())) / 2,
-            picture);
+        const QSizeF room = whole.deviceIndependentSize() - picture.deviceIndependentSize();
+        QPainter(&whole).drawPixmap(QPointF(room.width() / 2, room.height() / 2), picture);
         picture = whole;
     }
     return picture.save(QString::fromStdString(file.string()));

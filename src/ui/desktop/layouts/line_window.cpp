@@ -14,6 +14,7 @@ namespace vantora::ui::desktop {
 namespace {
 
 constexpr int rows = line_rows::count;
+constexpr int tallest_row = 48;        ///< dots
 constexpr int stock_characters = 140;  ///< the record number behind them is not for the eye
 
 struct column {
@@ -90,7 +91,10 @@ void add_paging(form_window& window) {
 QGroupBox* line_frame(form_window& window) {
     auto* box = new QGroupBox("Dettaglio documento", &window);
     auto* lines = new line_rows(window);
-    auto* cells = new QGridLayout;
+    auto* table = new QWidget(box);
+    table->setMaximumHeight(rows * tallest_row);
+    auto* cells = new QGridLayout(table);
+    cells->setContentsMargins(0, 0, 0, 0);
     cells->setSpacing(1);
     for (int row = 0; row < rows; ++row) {
         cells->addWidget(lines->number(row), row + 1, 0);
@@ -122,8 +126,9 @@ QGroupBox* line_frame(form_window& window) {
         new QLabel("Per cercare un articolo tramite la descrizione, inserirla e premere F1)", box);
     set_look(hint, "role", "faint");
     auto* all = new QVBoxLayout(box);
-    all->addLayout(cells, 1);
+    all->addWidget(table, 1);
     all->addWidget(hint);
+    all->addStretch(0);
     return box;
 }
 
