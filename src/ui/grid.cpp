@@ -1,6 +1,7 @@
 #include "ui/grid.h"
 
 #include <algorithm>
+#include <numeric>
 
 namespace vantora::ui {
 
@@ -20,30 +21,35 @@ void grid::set_columns(std::vector<grid_column> columns) {
 
 void grid::set_rows(int rows) {
     const auto wanted = static_cast<std::size_t>(std::max(rows, 1));
-    const std::size_t width = columns_.size();
-    if (wanted < order_.size()) {
-        // The rows that stay move to the front of the storage, in the order shown.
-        std::vector<cell> kept;
-        kept.reserve(wanted * width);
-        for (std::size_t row = 0; row < wanted; ++row) {
-            const auto first = cells_.begin() + static_cast<std::ptrdiff_t>(order_[row] * width);
-            kept.insert(kept.end(), first, first + static_cast<std::ptrdiff_t>(width));
-        }
-        cells_ = std::move(kept);
-        order_.resize(wanted);
-        for (std::size_t row = 0; row < wanted; ++row)
-            order_[row] = static_cast<std::uint32_t>(row);
-        tidy_arena();
+    const std::size_t had = order_.size();
+    if (wanted < had) store_as_shown();
+    const auto dropped =
+        cells_.begin() + static_cast<std::ptrdiff_t>(std::min(wanted, had) * columns_.size());
+    for (auto one = dropped; one != cells_.end(); ++one) wasted_ += one->room;
+    cells_.resize(wanted * columns_.size());
+    order_.resize(wanted);
+    if (wanted > had) {
+        std::iota(order_.begin() + static_cast<std::ptrdiff_t>(had), order_.end(),
+                  static_cast<std::uint32_t>(had));
     } else {
-        cells_.resize(wanted * width);
-        order_.reserve(wanted);
-        for (std::size_t row = order_.size(); row < wanted; ++row) {
-            order_.push_back(static_cast<std::uint32_t>(row));
-        }
+        tidy_arena();
     }
     row_ = std::min(row_, this->rows() - 1);
     top_row_ = std::clamp(top_row_, 1, std::max(1, this->rows() - 1));
     show_change(aspect::shape);
+}
+
+void grid::store_as_shown() {
+    if (std::ranges::is_sorted(order_)) return;
+    const std::size_t width = columns_.size();
+    std::vector<cell> shown;
+    shown.reserve(cells_.size());
+    for (const std::uint32_t row : order_) {
+        const auto first = cells_.begin() + static_cast<std::ptrdiff_t>(row * width);
+        shown.insert(shown.end(), first, first + static_cast<std::ptrdiff_t>(width));
+    }
+    cells_ = std::move(shown);
+    std::iota(order_.begin(), order_.end(), 0U);
 }
 
 bool grid::holds(int row, int col) const {
@@ -79,12 +85,14 @@ bool grid::set_text(int row, int col, std::string_view text) {
         std::copy(text.begin(), text.end(), arena_.begin() + one.begin);
     }
     one.size = size;
-    if (wasted_ > 65536 && wasted_ > arena_.size() / 2) tidy_arena();
+    tidy_arena();
     show_change(aspect::content);
     return true;
 }
 
 void grid::tidy_arena() {
+    constexpr std::size_t tolerated = 65536;
+    if (wasted_ <= tolerated || wasted_ <= arena_.size() / 2) return;
     std::string fresh;
     for (cell& one : cells_) {
         const auto begin = static_cast<std::uint32_t>(fresh.size());
@@ -92,7 +100,7 @@ void grid::tidy_arena() {
         one.begin = begin;
         one.room = one.size;
     }
-    arena_ = std::move(fresh);
+    arena_.assign(fresh);  // keeps its room: a list is mostly filled again
     wasted_ = 0;
 }
 

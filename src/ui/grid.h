@@ -86,6 +86,9 @@ class grid : public control {
     [[nodiscard]] bool holds(int row, int col) const;
     [[nodiscard]] const cell& at(int row, int col) const;
     cell& at(int row, int col);
+    /// Moves the cells into the order in which their rows are shown.
+    void store_as_shown();
+    /// Takes the leftovers out of the arena when they are most of it.
     void tidy_arena();
 
     std::vector<grid_column> columns_;
