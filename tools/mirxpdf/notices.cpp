@@ -5,6 +5,8 @@
 #include <QPushButton>
 #include <iostream>
 
+#include "ui/desktop/box_look.h"
+
 namespace vantora::mirxpdf {
 
 namespace {
@@ -18,7 +20,7 @@ constexpr const char* title = "Documento PDF";
 }  // namespace
 
 void notices::show_with_open(const QString& text, const QString& pdf, bool is_warning) const {
-    QMessageBox box(is_warning ? QMessageBox::Warning : QMessageBox::Information, title, text);
+    QMessageBox box(QMessageBox::NoIcon, title, text);
     box.setTextFormat(Qt::PlainText);
     box.setInformativeText(QDir::toNativeSeparators(pdf));
     box.setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -26,6 +28,7 @@ void notices::show_with_open(const QString& text, const QString& pdf, bool is_wa
     auto* close = box.addButton("Chiudi", QMessageBox::RejectRole);
     box.setDefaultButton(open);
     box.setEscapeButton(close);
+    ui::desktop::dress_box(box, is_warning ? ui::icon::warning : ui::icon::information);
     box.exec();
     if (box.clickedButton() == open) open_(pdf);
 }
@@ -33,8 +36,9 @@ void notices::show_with_open(const QString& text, const QString& pdf, bool is_wa
 void notices::failure(const QString& what) const {
     write(what);
     if (!open_) return;
-    QMessageBox box(QMessageBox::Critical, title, what, QMessageBox::Ok);
+    QMessageBox box(QMessageBox::NoIcon, title, what, QMessageBox::Ok);
     box.setTextFormat(Qt::PlainText);
+    ui::desktop::dress_box(box, ui::icon::stop);
     box.exec();
 }
 

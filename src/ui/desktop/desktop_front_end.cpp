@@ -2,11 +2,11 @@
 
 #include <QApplication>
 #include <QEventLoop>
-#include <QGridLayout>
 #include <QMessageBox>
 #include <QPushButton>
 
 #include "ui/desk.h"
+#include "ui/desktop/box_look.h"
 
 namespace vantora::ui::desktop {
 
@@ -16,20 +16,6 @@ namespace {
 constexpr qint64 serving_pause = 16;
 
 constexpr const char* program_title = "Vantora Ordini";
-
-const char* picture_of(icon sign) {
-    switch (sign) {
-        case icon::stop:
-            return "fermo";
-        case icon::warning:
-            return "avviso";
-        case icon::question:
-            return "domanda";
-        case icon::information:
-            break;
-    }
-    return "informazione";
-}
 
 }  // namespace
 
@@ -161,10 +147,6 @@ QWidget* desktop_front_end::front_window() const {
 void desktop_front_end::box_opened(const message_box& box) {
     QWidget* parent = desk_->active() ? window_of(*desk_->active()) : nullptr;
     auto* shown_box = new QMessageBox(parent);
-    shown_box->setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
-                              Qt::WindowCloseButtonHint);
-    shown_box->setIconPixmap(
-        picture_named(picture_of(box.icon)).pixmap(QSize(40, 40), shown_box->devicePixelRatio()));
     shown_box->setWindowTitle(shown(box.title));
     shown_box->setText(shown(box.text));
     if (box.buttons == buttons::yes_no) {
@@ -175,9 +157,7 @@ void desktop_front_end::box_opened(const message_box& box) {
     } else {
         shown_box->setStandardButtons(QMessageBox::Ok);
     }
-    // The shortest texts too make a box that is seen.
-    auto* rows = static_cast<QGridLayout*>(shown_box->layout());
-    rows->addItem(new QSpacerItem(330, 0), rows->rowCount(), 0, 1, rows->columnCount());
+    dress_box(*shown_box, box.icon);
     shown_box->setWindowModality(Qt::ApplicationModal);
     const bool question = box.buttons == buttons::yes_no;
     QObject::connect(shown_box, &QMessageBox::finished, shown_box, [this, shown_box, question] {
@@ -222,7 +202,11 @@ void desktop_front_end::show_pointer() {
 
 void desktop_front_end::report_fatal(const std::string& message) {
     if (next_step_) return;
-    QMessageBox::critical(nullptr, program_title, shown(message));
+    QMessageBox box;
+    box.setWindowTitle(program_title);
+    box.setText(shown(message));
+    dress_box(box, icon::stop);
+    box.exec();
 }
 
 }  // namespace vantora::ui::desktop

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "ui/message_box.h"
+
+class QMessageBox;
+
+namespace vantora::ui::desktop {
+
+/// Gives a box the program's own picture for its kind, a frame with nothing but its closing button,
+/// and a width that is seen even if its text is short. REQUIRES: its text is already set.
+void dress_box(QMessageBox& box, icon sign);
+
+}  // namespace vantora::ui::desktop
