@@ -8,9 +8,9 @@
 #include <string>
 
 #include "bench/measure.h"
-#include "bench/program_bench.h"
 #include "customer/mirorcx.h"
 #include "customer/mirsel.h"
+#include "support/program_stage.h"
 
 namespace vantora::bench {
 namespace {
@@ -51,7 +51,7 @@ void write_customers(archivi& files, int customers) {
 }
 
 int run(int customers, int rounds) {
-    program_bench<hasty_user> bench;
+    test::program_stage<hasty_user> bench;
     program& app = bench.app;
     hasty_user& user = bench.front;
     app.parameters.gnr.righe_alternate = "1";

@@ -10,8 +10,8 @@
 #include <vector>
 
 #include "bench/measure.h"
-#include "bench/program_bench.h"
 #include "entry/mirorcs.h"
+#include "support/program_stage.h"
 
 namespace vantora::bench {
 namespace {
@@ -120,7 +120,7 @@ void totals_bench(const valuta& currency, int rounds) {
 }
 
 int run(int articles, int rounds) {
-    program_bench bench;
+    test::program_stage bench;
     program& app = bench.app;
     bench.provide(app.mirorcs);
     apri_archivi(app.archives, bench.files, 1);

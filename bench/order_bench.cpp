@@ -6,13 +6,13 @@
 #include <span>
 
 #include "bench/measure.h"
-#include "bench/program_bench.h"
 #include "demo/company.h"
 #include "documents/order_document.h"
 #include "documents/print_file.h"
 #include "entry/save_order.h"
 #include "entry/totals.h"
 #include "store/company.h"
+#include "support/program_stage.h"
 
 namespace vantora::bench {
 namespace {
@@ -79,7 +79,7 @@ void save_bench(program& app, const righe_ordine& lines, int rounds) {
             bare);
 }
 
-void document_bench(program_bench<>& bench, righe_ordine& lines, int rounds) {
+void document_bench(test::program_stage<>& bench, righe_ordine& lines, int rounds) {
     tabelle_documento tables;
     disegno background;
     carica_documento(tables, tipo_documento::ordine, bench.app.parameters, bench.files);
@@ -113,7 +113,7 @@ void document_bench(program_bench<>& bench, righe_ordine& lines, int rounds) {
 }
 
 int run(int rounds) {
-    program_bench bench;
+    test::program_stage bench;
     std::filesystem::remove_all(bench.folder.path() / "mirwin");
     demo::demo_request request;
     request.numero_azienda = 1;

@@ -8,8 +8,8 @@
 #include <string>
 
 #include "bench/measure.h"
-#include "bench/program_bench.h"
 #include "register/mirorc.h"
+#include "support/program_stage.h"
 
 namespace vantora::bench {
 namespace {
@@ -68,7 +68,7 @@ void sort_benches(ui::grid& list, int rounds) {
 }
 
 int run(int orders, int customers, int rounds) {
-    program_bench bench;
+    test::program_stage bench;
     program& app = bench.app;
     bench.provide(app.mirorc);
     {

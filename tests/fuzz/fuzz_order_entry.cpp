@@ -7,19 +7,11 @@
 
 #include "entry/mirorcs.h"
 #include "fuzz/fuzz_driver.h"
-#include "store/drive.h"
-#include "support/scratch_folder.h"
-#include "ui/pictures/pixbuf_decoder.h"
-#include "ui/script/bench_ports.h"
+#include "support/program_stage.h"
 
 namespace {
 
 using namespace vantora;
-
-class patient_user final : public ui::front_end {
-    void run_until(const std::function<bool()>&) override {}
-    void let_events_run() override {}
-};
 
 constexpr int articles = 25;
 constexpr std::pair<const char*, std::size_t> files_in_input[] = {
@@ -107,28 +99,19 @@ std::vector<std::string> fuzz_seeds() {
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    test::scratch_folder folder;
-    const auto company = folder.path() / "mirwin/mirwin/miraz0.001";
-    std::filesystem::create_directories(company);
+    test::program_stage stage;
+    program& app = stage.app;
+    ui::desk& desk = stage.desk;
     std::string_view rest(reinterpret_cast<const char*>(data), size);
     for (const auto& [name, most] : files_in_input) {
         const std::size_t taken = std::min(most, rest.size());
-        std::ofstream(company / name, std::ios::binary) << rest.substr(0, taken);
+        std::ofstream(stage.company() / name, std::ios::binary) << rest.substr(0, taken);
         rest.remove_prefix(taken);
     }
 
-    drive files(folder.path());
-    patient_user front;
-    ui::local_clock time;
-    ui::script::recording_printer paper;
-    ui::script::recording_launcher programs;
-    ui::desk desk(front, time, paper, programs);
-    ui::pixbuf_decoder pictures;
-    program app(files, desk, pictures);
-    app.parameters.numero_azienda = 1;
     app.selezione_1 = 1;
-    apri_archivi(app.archives, files, 1);
-    app.mirorcs.made_by(desk, [&app] { return std::make_unique<mirorcs>(app); });
+    apri_archivi(app.archives, stage.files, 1);
+    stage.provide(app.mirorcs);
     for (int i = 0; i < 100; ++i) desk.queue_answer(ui::answer::ok);
     desk.dispatch([&] { app.mirorcs->show(); });
     for (const int line : {1, 100, 189}) {

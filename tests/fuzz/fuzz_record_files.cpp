@@ -10,20 +10,12 @@
 #include "customer/mirsel.h"
 #include "fuzz/fuzz_driver.h"
 #include "register/mirorc.h"
-#include "store/drive.h"
 #include "store/key_index.h"
-#include "support/scratch_folder.h"
-#include "ui/pictures/pixbuf_decoder.h"
-#include "ui/script/bench_ports.h"
+#include "support/program_stage.h"
 
 namespace {
 
 using namespace vantora;
-
-class yes_sayer final : public ui::front_end {
-    void run_until(const std::function<bool()>&) override {}
-    void let_events_run() override {}
-};
 
 constexpr std::size_t counters_size = 17 * sizeof(rec_tot);
 constexpr std::size_t orders_size = 3 * righe_blocco * sizeof(rec_orc);
@@ -86,19 +78,10 @@ std::vector<std::string> fuzz_seeds() {
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    test::scratch_folder folder;
-    const auto company = folder.path() / "mirwin/mirwin/miraz0.001";
-    std::filesystem::create_directories(company);
-    write_files(company, std::string(reinterpret_cast<const char*>(data), size));
-
-    drive files(folder.path());
-    yes_sayer front;
-    ui::local_clock time;
-    ui::script::recording_printer paper;
-    ui::script::recording_launcher programs;
-    ui::desk desk(front, time, paper, programs);
-    ui::pixbuf_decoder pictures;
-    program app(files, desk, pictures);
+    test::program_stage stage;
+    program& app = stage.app;
+    ui::desk& desk = stage.desk;
+    write_files(stage.company(), std::string(reinterpret_cast<const char*>(data), size));
     desk.dispatch([&] { start(app, "ordini001"); });
     require(!desk.ended().has_value());
 

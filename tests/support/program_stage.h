@@ -8,7 +8,7 @@
 #include "ui/pictures/pixbuf_decoder.h"
 #include "ui/script/bench_ports.h"
 
-namespace vantora::bench {
+namespace vantora::test {
 
 /// Nobody: nothing is shown, nothing is waited for.
 class silent_front_end : public ui::front_end {
@@ -17,12 +17,16 @@ class silent_front_end : public ui::front_end {
     void let_events_run() override {}
 };
 
-/// The program over an empty company 1, for one kind of user.
+/// The program over the empty company 1 of a folder of its own, in front of one kind of user.
 template <class FrontEnd = silent_front_end>
-struct program_bench {
-    program_bench() {
-        std::filesystem::create_directories(folder.path() / "mirwin/mirwin/miraz0.001");
+struct program_stage {
+    program_stage() {
+        std::filesystem::create_directories(company());
         app.parameters.numero_azienda = 1;
+    }
+
+    [[nodiscard]] std::filesystem::path company() const {
+        return folder.path() / "mirwin/mirwin/miraz0.001";
     }
 
     /// Tells the program how one of its screens is made.
@@ -31,7 +35,7 @@ struct program_bench {
         place.made_by(desk, [this] { return std::make_unique<Form>(app); });
     }
 
-    test::scratch_folder folder;
+    scratch_folder folder;
     drive files{folder.path()};
     FrontEnd front;
     ui::local_clock time;
@@ -42,4 +46,4 @@ struct program_bench {
     program app{files, desk, pictures};
 };
 
-}  // namespace vantora::bench
+}  // namespace vantora::test
