@@ -183,5 +183,14 @@ TEST_F(order_window, TheRowWorkedOnIsMarkedAndPagesArePaintedOnce) {
          }});
 }
 
+TEST_F(order_window, AnOrderIsLeftWhileItsNewTotalsStillWaitToBeShown) {
+    run({[&] {
+             write_cells({"a100", "3000"});
+             // What the totals need is laid out by a later event, when the order is gone.
+             press(Qt::Key_Q, Qt::ControlModifier);
+         },
+         [&] { EXPECT_EQ(bench.front.front_window()->objectName().toStdString(), "mirorc"); }});
+}
+
 }  // namespace
 }  // namespace vantora::ui::desktop

@@ -29,6 +29,9 @@ line_rows::line_rows(form_window& window)
         label->setMinimumWidth(label->fontMetrics().horizontalAdvance("000") + 4);
         set_look(label, "role", "number");
     }
+    for (int row = 0; row < count; ++row) {
+        codes_[static_cast<std::size_t>(row)] = window.widget("civ", row);
+    }
     set_look(pick_, "look", "over");
     pick_->installEventFilter(this);
     window.installEventFilter(this);
@@ -72,7 +75,7 @@ void line_rows::show_numbers(int first) {
 
 void line_rows::place_pick() {
     if (current_ < 0) return;
-    const QWidget* over = window_.widget("civ", current_);
+    const QWidget* over = codes_[static_cast<std::size_t>(current_)];
     QRect area(over->mapTo(&window_, QPoint()), QSize(pick_width, over->height()));
     area.moveRight(std::min(area.right(), window_.rect().right() - 8));
     pick_->setGeometry(area);

@@ -42,6 +42,8 @@ class line_rows final : public QObject {
     QScrollBar* bar_;
     QComboBox* pick_;
     std::array<QLabel*, count> numbers_{};
+    /// The cells that the pick lies over, kept since the window outlives its screen by some events.
+    std::array<const QWidget*, count> codes_{};
     std::array<std::vector<QWidget*>, count> cells_;
     QHash<const QWidget*, int> row_of_;
     int current_ = -1;
