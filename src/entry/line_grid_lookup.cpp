@@ -70,6 +70,7 @@ void line_grid::take_list_entry() {
 }
 
 void line_grid::barcode_clicked() {
+    app_.archives.tot.read(contatori::articoli, articoli_);
     if (barcode.on()) {
         attiva_lista(false);
     } else if (stato_lista_ >= 0 || articoli_.quanti >= 1) {

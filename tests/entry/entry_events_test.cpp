@@ -101,6 +101,19 @@ TEST_F(entry_events, TheStockLineIsReadOnceAndPricesEachTime) {
     EXPECT_NE(screen().listx.text().find("Giacenza:99 "), std::string::npos);
 }
 
+TEST_F(entry_events, ArticlesThatCameMeanwhileAreListedWhenCodesAreTypedAgain) {
+    company.articles({});
+    screen().hide();
+    screen().show();
+    screen().barcode.set_on(true);
+    screen().barcode.set_on(false);
+    EXPECT_FALSE(screen().List1.enabled());
+    screen().barcode.set_on(true);
+    company.articles({article("A", "Uno", 1)});
+    screen().barcode.set_on(false);
+    EXPECT_TRUE(screen().List1.enabled());
+}
+
 TEST_F(entry_events, ComingBackFreshStartsTheOrderOver) {
     const auto leave_and_come_back = [&](int modo_ordine) {
         screen().List1.pick(0);
