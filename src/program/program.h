@@ -10,12 +10,17 @@
 
 namespace vantora {
 
-class mirorc;
 class mirdata;
+class mirorc;
+class mirorca;
+class mirorcb;
+class mirorcc;
+class mirorcm;
+class mirorcr;
 class mirorcs;
 class mirorcx;
-class mirorcc;
 class mirorcz;
+class mirpref;
 class mirsel;
 class mirstoa;
 class mirstoe;
@@ -60,8 +65,13 @@ struct program {
     ui::screen<vantora::mirorcs> mirorcs;  ///< lines of a new order
     ui::screen<vantora::mirsel> mirsel;    ///< customer pick list
     ui::screen<vantora::mirdata> mirdata;  ///< date dialog
-    ui::screen<vantora::mirorcz> mirorcz;  ///< an existing order
+    ui::screen<vantora::mirorcz> mirorcz;  ///< lines of an existing order
+    ui::screen<vantora::mirorcm> mirorcm;  ///< head of an existing order
+    ui::screen<vantora::mirorcb> mirorcb;  ///< quotes to import
+    ui::screen<vantora::mirpref> mirpref;  ///< orders to import
     ui::screen<vantora::mirorcc> mirorcc;  ///< transport data
+    ui::screen<vantora::mirorcr> mirorcr;  ///< fulfilment worklist
+    ui::screen<vantora::mirorca> mirorca;  ///< lines of a transport document
     ui::screen<vantora::mirstoe> mirstoe;  ///< order list
     ui::screen<vantora::mirstos> mirstos;  ///< order schedule
     ui::screen<vantora::mirstov> mirstov;  ///< order valuation
