@@ -1,0 +1,36 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+#include "program/program.h"
+#include "ui/grid.h"
+
+namespace vantora {
+
+/// A column of a report, as it goes into an entry of the report table.
+struct colonna_report {
+    std::string_view titolo_colonna;
+    std::int16_t larghezza = 0;      ///< share of the page width, in parts of the sum of all shares
+    std::int16_t formato_cella = 0;  ///< 0: a text; 1 to 8: a number, by its code
+};
+
+/// How the list of one screen goes out. All texts are of the code page and outlive the report.
+struct descrizione_report {
+    std::string_view titolo_domanda;  ///< over "Iniziare la stampa?": "Stampa schede articoli"
+    std::string_view titolo;          ///< on every page: "Schede articoli"
+    std::string_view file_pdf;        ///< in small letters: "schedearticoli.pdf"
+    std::span<const colonna_report> colonne;  ///< grid columns 0 to n - 1, at most 30
+};
+
+/// Where a report goes.
+enum class uscita_report { stampante = 0, pdf = 1 };
+
+/// Outputs rows 1 to the last of a screen's list as they stand there. To the printer it goes after
+/// a question; for a PDF into the print file, which `mirxpdf` is then started on, with a message
+/// that names the PDF's folder (slot `cartella_pdf`, already filled) or says that it can't be made.
+void stampa_report(program& app, const descrizione_report& report, const ui::grid& elenco,
+                   uscita_report uscita);
+
+}  // namespace vantora
