@@ -164,9 +164,7 @@ class contenuto_ordine final : public contenuto_documento {
         const valuta& currency = order_.importi;
         lordo_ = line.quantita == 0 ? line.prezzo : line.prezzo * line.quantita;
         lordo_ = arrotonda_valuta(lordo_, currency);
-        netto_ = lordo_;
-        netto_ -= percentuale_valuta(netto_, line.sc1, currency);
-        netto_ -= percentuale_valuta(netto_, line.sc2, currency);
+        netto_ = importo_scontato(lordo_, line.sc1, line.sc2, currency);
         netto_ = arrotonda_valuta(netto_, currency);
     }
 

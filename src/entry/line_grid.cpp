@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "program/vat_codes.h"
 #include "store/text/int16.h"
 #include "store/text/number_text.h"
 #include "ui/errors.h"
@@ -159,10 +160,9 @@ void line_grid::price_changed(int row) {
     riga_ordine& line = changed_line(row);
     line.prezzo = number_at_head(prezzo[row].text());
     if (line.prezzo != 0 && line.iva == 0) {
-        const std::int16_t own = cliente_.iva_cliente;
-        if (own >= 1 && own <= 24) {
-            line.iva = own;
-            civ[row].set_text(two_digits(own));
+        if (const auto own = own_vat_code(cliente_)) {
+            line.iva = *own;
+            civ[row].set_text(two_digits(*own));
         } else {
             const auto& base = app_.parameters.gnr.codice_iva_base;
             line.iva = to_int16(number_at_head(base.full())).value_or(0);
@@ -267,7 +267,7 @@ void line_grid::open_vat_pick(int row) {
     combo_attivo_ = false;
     prima_riga_ = row;
     const auto typed = to_int16(number_at_head(civ[row].text())).value_or(1);
-    const int code = std::clamp<int>(typed, 1, 24);
+    const int code = std::clamp<int>(typed, 1, ultimo_codice_iva);
     riga_corrente_ = line_of(row);
     Combo1.choose(code - 1);
     mostra_giacenza(righe_[riga_corrente_].articolo);

@@ -1,6 +1,7 @@
 #include <cmath>
 
 #include "entry/line_grid.h"
+#include "program/vat_codes.h"
 #include "store/key_index.h"
 #include "store/text/number_text.h"
 
@@ -144,8 +145,7 @@ void line_grid::copy_article(std::string_view code) {
     line.articolo = articolo_corrente_;
     line.codice = code;
     line.descrizione = article.descrizione.trimmed();
-    const std::int16_t own = cliente_.iva_cliente;
-    line.iva = own >= 1 && own <= 24 ? own : static_cast<std::int16_t>(article.iva);
+    line.iva = own_vat_code(cliente_).value_or(article.iva);
     const double price = prezz[0].on() ? article.prezzo1 : article.prezzo2;
     line.prezzo = std::isfinite(price) ? price : 0;
     line.um = article.um.trimmed();

@@ -1,7 +1,6 @@
 #include "entry/save_order.h"
 
-#include <algorithm>
-
+#include "program/stock.h"
 #include "store/text/dates.h"
 #include "store/text/int16.h"
 #include "store/text/number_text.h"
@@ -37,24 +36,6 @@ void fill_line(rec_orc& row, const riga_ordine& line) {
     row.sc2 = line.sc2;
 }
 
-/// What an ordered quantity does to its article. Commitment goes only as far as there is stock;
-/// negative stock and negative quantities move the figures by the same rule.
-void order_article(rec_art& article, double quantity, bool commit) {
-    article.ordinato_clienti = article.ordinato_clienti + quantity;
-    if (!commit) return;
-    const double committed = std::min<double>(quantity, article.giacenza);
-    article.giacenza = article.giacenza - committed;
-    article.impegnato = article.impegnato + committed;
-}
-
-/// False if the article can't be read: it is then left alone.
-bool move_stock(channel<rec_art>& articles, const riga_ordine& line, bool commit) {
-    rec_art article;
-    if (!articles.read(line.articolo, article)) return false;
-    order_article(article, line.quantita, commit);
-    return articles.write(line.articolo, article);
-}
-
 }  // namespace
 
 bool salva_nuovo_ordine(archivi& files, const testata_registrata& head, const righe_ordine& lines,
@@ -68,9 +49,12 @@ bool salva_nuovo_ordine(archivi& files, const testata_registrata& head, const ri
         const riga_ordine& line = lines[number];
         fill_head(row, head, static_cast<std::size_t>(number));
         fill_line(row, line);
-        const bool has_stock =
-            line.quantita != 0 && line.articolo >= 1 && line.articolo <= articles;
-        if (has_stock && move_stock(files.art, line, head.impegno)) stock_moved = true;
+        const auto ordered = [&](rec_art& article) {
+            order_stock(article, line.quantita, head.impegno);
+        };
+        if (line.quantita != 0 && change_article(files.art, line.articolo, articles, ordered)) {
+            stock_moved = true;
+        }
         files.orc.write(block_record(block, number), row);
     }
     if (stock_moved) files.art.flush();

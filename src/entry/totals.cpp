@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "program/vat_codes.h"
 #include "store/text/number_text.h"
 #include "ui/errors.h"
 
@@ -18,9 +19,7 @@ double checked(double value) {
 double net_amount(const riga_ordine& line, bool by_piece, const valuta& currency) {
     double amount = line.prezzo;
     if (by_piece) amount = arrotonda_valuta(amount * line.quantita, currency);
-    amount -= percentuale_valuta(amount, line.sc1, currency);
-    amount -= percentuale_valuta(amount, line.sc2, currency);
-    return checked(amount);
+    return checked(importo_scontato(amount, line.sc1, line.sc2, currency));
 }
 
 }  // namespace
@@ -34,14 +33,14 @@ totali_ordine calcola_totali(const righe_ordine& lines, const tabella_iva& rates
         const bool by_piece = line.quantita != 0 && line.quantita != quantita_a_corpo;
         if (by_piece) sums.pezzi += line.quantita;
         const double amount = net_amount(line, by_piece, currency);
-        const auto code = static_cast<std::size_t>(line.iva < 1 || line.iva > 24 ? 1 : line.iva);
-        if (code < 13) {
+        const auto code = static_cast<std::size_t>(is_vat_code(line.iva) ? line.iva : 1);
+        if (code <= ultima_aliquota) {
             vat.imponibile_iva[code] += amount;
         } else {
-            vat.esente_iva[code - 12] += amount;
+            vat.esente_iva[code - ultima_aliquota] += amount;
         }
     }
-    for (std::size_t code = 1; code <= 12; ++code) {
+    for (std::size_t code = 1; code <= ultima_aliquota; ++code) {
         const double rate = number_at_head(rates.aliquota_iva[code]);
         vat.imposta_iva[code] = percentuale_eccesso(vat.imponibile_iva[code], rate, currency);
         sums.imponibile += vat.imponibile_iva[code] + vat.esente_iva[code];

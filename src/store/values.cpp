@@ -50,6 +50,12 @@ double percentuale_eccesso(double value, double percent, const valuta& in) {
     return rounded_percentage(value, percent, eccesso, in);
 }
 
+double importo_scontato(double amount, double sc1, double sc2, const valuta& in) {
+    amount -= percentuale_valuta(amount, sc1, in);
+    amount -= percentuale_valuta(amount, sc2, in);
+    return amount;
+}
+
 double testo_a_numero(std::string_view text) {
     text = trimmed(text);
     std::string number;

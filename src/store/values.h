@@ -38,6 +38,10 @@ double percentuale_valuta(double value, double percent, const valuta& in);
 /// The same, but a fraction of a lira always rounds up; for VAT.
 double percentuale_eccesso(double value, double percent, const valuta& in);
 
+/// An amount after the two discounts of a line, in percent: the second is taken on what the first
+/// leaves, each is rounded to the currency's unit.
+double importo_scontato(double amount, double sc1, double sc2, const valuta& in);
+
 /// The number in an Italian text: points are thousands marks and dropped, the comma is the
 /// decimal mark. Of two points side by side the second stays and ends the number.
 double testo_a_numero(std::string_view text);
