@@ -1,7 +1,7 @@
 #pragma once
 
 #include <memory>
-#include <string>
+#include <vector>
 
 #include "documents/print_file.h"
 #include "store/file_port.h"
@@ -21,17 +21,26 @@ class print_file_writer {
 
     /// Writes one record with the lines that its kind has.
     void write(const record_di_stampa& record);
+    /// The same for a record whose texts lie elsewhere.
+    void write_view(const vista_di_record& record, forma_stile form = forma_stile::numeri);
     /// Ends the page.
     void end_page();
 
+    /// Hands the rest to the file and closes it; nothing may be written afterwards. True if the
+    /// file holds everything that was written: only then may another program be given it.
+    [[nodiscard]] bool finish();
+
  private:
-    void line(std::string_view text);
-    void number(double value);
+    /// Room for so many bytes more, to be filled up to what `filled` is told.
+    char* room(std::size_t size);
+    void filled(const char* end);
     void hand_over();
 
     std::unique_ptr<file> file_;
-    std::string pending_;  ///< lines on their way to the file
+    std::vector<char> pending_;  ///< lines on their way to the file
+    std::size_t used_ = 0;
     std::int64_t written_ = 0;
+    bool whole_ = true;
 };
 
 }  // namespace vantora

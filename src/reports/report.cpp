@@ -1,14 +1,105 @@
 #include "reports/report.h"
 
+#include <algorithm>
+
+#include "documents/print_file_writer.h"
+#include "reports/report_engine.h"
+#include "store/company.h"
+
 namespace vantora {
 
-void stampa_report(program& app, const descrizione_report& report, const ui::grid&,
-                   uscita_report uscita) {
-    constexpr const char* domanda = "Iniziare la stampa?";
-    if (uscita == uscita_report::stampante &&
-        !app.desk.ask(domanda, std::string(report.titolo_domanda))) {
+namespace {
+
+constexpr const char* attenzione = "Attenzione";
+
+/// The count of rows starts here: the first page has one row less than the others.
+constexpr int prima_riga = 1;
+
+foglio_report sheet_of(const descrizione_report& report) {
+    foglio_report sheet;
+    sheet.titolo = report.titolo;
+    sheet.righe_stampate = prima_riga;
+    for (const colonna_report& one : report.colonne) {
+        colonna_pagina& column = sheet.colonne.emplace_back();
+        column.titolo_colonna[0] = one.titolo_colonna;
+        column.larghezza = one.larghezza;
+        column.formato_cella = one.formato_cella;
+    }
+    return sheet;
+}
+
+void print_rows(program& app, const descrizione_report& report, const ui::grid& elenco,
+                report_output& out, uscita_report uscita) {
+    report_engine engine(app.parameters, app.desk.clock(), out, uscita, sheet_of(report));
+    std::vector<std::string_view> cells(report.colonne.size());
+    for (int row = 1; row < elenco.rows(); ++row) {
+        for (std::size_t i = 0; i < cells.size(); ++i) {
+            cells[i] = elenco.text(row, static_cast<int>(i));
+        }
+        engine.print_row(cells);
+    }
+    engine.end_report();
+}
+
+void print_on_paper(program& app, const descrizione_report& report, const ui::grid& elenco) {
+    ui::printer& paper = app.desk.printer();
+    report_on_printer out(paper);
+    print_rows(app, report, elenco, out, uscita_report::stampante);
+    paper.end_job();
+}
+
+/// True if the print file holds the whole report.
+bool print_into_file(program& app, const descrizione_report& report, const ui::grid& elenco) {
+    ui::printer& paper = app.desk.printer();
+    const bool upright = paper.orientation() == ui::printer::upright;
+    print_file_writer file(app.files, upright ? marca_verticale : marca_orizzontale);
+    report_in_print_file out(paper, file);
+    print_rows(app, report, elenco, out, uscita_report::pdf);
+    return file.finish();
+}
+
+std::string_view pdf_folder(const program& app) {
+    return trimmed(app.parameters.parametri_valuta[valuta_slot::cartella_pdf]);
+}
+
+std::string pdf_command(const program& app, const descrizione_report& report) {
+    std::string command(cartella_generale);
+    command.append("mirxpdf ***,").append(file_di_stampa).append(",").append(pdf_folder(app));
+    if (!command.ends_with('\\')) command.append("\\");
+    return command.append(report.file_pdf).append(", ***");
+}
+
+void tell_of_pdf(program& app, const descrizione_report& report, bool started) {
+    if (!started) {
+        app.desk.message("Non è possibile eseguire il programma di generazione dei files PDF."_cp,
+                         attenzione, ui::icon::stop);
         return;
     }
+    std::string text =
+        "Il file " + upper(report.file_pdf) + " è stato creato all'interno della cartella "_cp;
+    text.append(app.parameters.parametri_valuta[valuta_slot::cartella_pdf]);
+    app.desk.message(text, attenzione, ui::icon::warning);
+}
+
+}  // namespace
+
+void stampa_report(program& app, const descrizione_report& report, const ui::grid& elenco,
+                   uscita_report uscita) {
+    const bool on_paper = uscita == uscita_report::stampante;
+    if (on_paper && !app.desk.ask("Iniziare la stampa?", std::string(report.titolo_domanda))) {
+        return;
+    }
+    app.desk.set_pointer(ui::pointer::busy);
+    if (on_paper) {
+        print_on_paper(app, report, elenco);
+        app.desk.set_pointer(ui::pointer::normal);
+        return;
+    }
+    // A file that isn't whole is never handed over: the PDF would lack pages without a word.
+    const bool started =
+        print_into_file(app, report, elenco) && app.desk.launcher().start(pdf_command(app, report));
+    app.desk.set_pointer(ui::pointer::normal);
+    tell_of_pdf(app, report, started);
 }
 
 }  // namespace vantora

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "program/program.h"
+#include "reports/page_figures.h"
 #include "ui/grid.h"
 
 namespace vantora {
@@ -23,9 +24,6 @@ struct descrizione_report {
     std::string_view file_pdf;        ///< in small letters: "schedearticoli.pdf"
     std::span<const colonna_report> colonne;  ///< grid columns 0 to n - 1, at most 30
 };
-
-/// Where a report goes.
-enum class uscita_report { stampante = 0, pdf = 1 };
 
 /// Outputs rows 1 to the last of a screen's list as they stand there. To the printer it goes after
 /// a question; for a PDF into the print file, which `mirxpdf` is then started on, with a message
