@@ -30,7 +30,7 @@ void mirorc::build_list() {
     righe_registro_ = app_.riga_elenco;
     cut_list(elenco, righe_registro_, righe_minime);
     if (visua[1].on() && righe_registro_ > righe_in_vista + 1) {
-        elenco.set_top_row(elenco.rows() - righe_in_vista);
+        elenco.show_end(righe_in_vista);
     }
     paint_stripes(elenco, evasione, app_.parameters.gnr);
     elenco.set_visible(true);

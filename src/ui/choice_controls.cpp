@@ -16,7 +16,7 @@ void check_box::toggle() {
     set_on(!on_);
 }
 
-void check_box::default_key(int code, std::optional<char>) {
+void check_box::take_effect(int code, std::optional<char>) {
     if (code == key::blank) toggle();
 }
 
@@ -44,7 +44,7 @@ void option_button::choose() {
     set_on(true);
 }
 
-void option_button::default_key(int code, std::optional<char> character) {
+void option_button::take_effect(int code, std::optional<char> character) {
     if (code == key::blank) return choose();
     if (character || !group_ || (code != key::up && code != key::down)) return;
     const auto& options = group_->options();

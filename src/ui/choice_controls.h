@@ -18,9 +18,8 @@ class check_box : public text_control {
     /// The user clicks it: it takes the focus, then the mark changes.
     void toggle();
 
- protected:
     /// Blank toggles.
-    void default_key(int code, std::optional<char> character) override;
+    void take_effect(int code, std::optional<char> character) override;
 
  private:
     bool on_ = false;
@@ -44,9 +43,8 @@ class option_button : public text_control {
     /// As the screen is designed: no event, others of the group stay as they are.
     void design_on(bool on) { on_ = on; }
 
- protected:
     /// Blank chooses this one, arrows the neighbour in the group.
-    void default_key(int code, std::optional<char> character) override;
+    void take_effect(int code, std::optional<char> character) override;
 
  private:
     friend class option_group;

@@ -51,9 +51,9 @@ bool control::offer_key(int code, std::optional<char>& character) {
 }
 
 void control::press_key(int code, std::optional<char> character) {
-    if (offer_key(code, character)) default_key(code, character);
+    if (offer_key(code, character)) take_effect(code, character);
 }
 
-void control::default_key(int, std::optional<char>) {}
+void control::take_effect(int, std::optional<char>) {}
 
 }  // namespace vantora::ui

@@ -111,22 +111,23 @@ class control {
     /// done, if it can't take it.
     bool set_focus();
 
-    /// The user presses a key here; the control has the focus. Key down comes first, then, for a
-    /// key with a character, key press; what isn't swallowed takes its usual effect.
+    /// The user presses a key here; the control has the focus. It is offered once; if it wasn't
+    /// swallowed, it takes its usual effect.
     void press_key(int code, std::optional<char> character);
 
-    /// Only the key events, for a front end whose widget takes the usual effect itself. False if
-    /// the key was swallowed.
+    /// Offers a key to the key events: key down first, then, for a key with a character, key
+    /// press. False if one of them swallowed it.
     bool offer_key(int code, std::optional<char>& character);
+
+    /// What a key that wasn't swallowed does in this kind of control. A front end whose fields
+    /// have a cursor edits there in its place.
+    virtual void take_effect(int code, std::optional<char> character);
 
     /// The front end's widget; null while there is none.
     void attach(control_view* view) { view_ = view; }
 
  protected:
     explicit control(control_kind kind) : kind_(kind) {}
-
-    /// What an unswallowed key does in this kind of control.
-    virtual void default_key(int code, std::optional<char> character);
 
     void show_change(aspect what) {
         if (view_) view_->changed(what);

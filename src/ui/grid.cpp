@@ -35,6 +35,7 @@ void grid::set_rows(int rows) {
         tidy_arena();
     }
     row_ = std::min(row_, this->rows() - 1);
+    if (wanted == 1) shows_end_ = false;
     top_row_ = std::clamp(top_row_, 1, std::max(1, this->rows() - 1));
     show_change(aspect::shape);
 }
@@ -130,7 +131,14 @@ bool grid::set_col(int col) {
 }
 
 void grid::set_top_row(int row) {
+    shows_end_ = false;
     top_row_ = std::clamp(row, 1, std::max(1, rows() - 1));
+    show_change(aspect::position);
+}
+
+void grid::show_end(int rows) {
+    set_top_row(this->rows() - rows);
+    shows_end_ = true;
     show_change(aspect::position);
 }
 
@@ -147,7 +155,7 @@ bool grid::click_cell(int row, int col) {
     return true;
 }
 
-void grid::default_key(int code, std::optional<char> character) {
+void grid::take_effect(int code, std::optional<char> character) {
     if (!character && code == key::down) set_row(row_ + 1);
     if (!character && code == key::up && row_ > 1) set_row(row_ - 1);
     if (code == key::enter && row_ > 0) click_cell(row_, col_);

@@ -62,6 +62,11 @@ class grid : public control {
     /// First row shown under the head, from 1. Past what fits it stops at the last row.
     [[nodiscard]] int top_row() const { return top_row_; }
     void set_top_row(int row);
+    /// The end of the list: the top row has `rows` rows below it. A window that shows fewer rows
+    /// still shows the last one.
+    void show_end(int rows);
+    /// True from show_end until the top row is set otherwise.
+    [[nodiscard]] bool shows_end() const { return shows_end_; }
 
     /// Reorders all rows but the head by one column, empty cells first; whole rows move, rows with
     /// equal keys keep their order.
@@ -71,9 +76,8 @@ class grid : public control {
     /// head leaves the current row as it is), then the click fires. False outside the grid.
     bool click_cell(int row, int col);
 
- protected:
     /// Arrows move the current row; Enter clicks it.
-    void default_key(int code, std::optional<char> character) override;
+    void take_effect(int code, std::optional<char> character) override;
 
  private:
     struct cell {
@@ -99,6 +103,7 @@ class grid : public control {
     int row_ = 0;
     int col_ = 0;
     int top_row_ = 1;
+    bool shows_end_ = false;
     int mouse_column_ = 0;
 };
 

@@ -66,7 +66,7 @@ bool list_control::pick(int position) {
     return true;
 }
 
-void list_control::default_key(int code, std::optional<char> character) {
+void list_control::take_effect(int code, std::optional<char> character) {
     if (character) return;
     if (code == key::down) pick(chosen_ + 1);
     if (code == key::up) pick(chosen_ - 1);

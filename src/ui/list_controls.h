@@ -38,11 +38,11 @@ class list_control : public control {
     /// Entries in the order of the alphabet, without regard to case, equal ones as they came.
     [[nodiscard]] bool sorted() const { return sorted_; }
 
+    /// Arrows pick the neighbour.
+    void take_effect(int code, std::optional<char> character) override;
+
  protected:
     list_control(control_kind kind, bool sorted) : control(kind), sorted_(sorted) {}
-
-    /// Arrows pick the neighbour.
-    void default_key(int code, std::optional<char> character) override;
 
  private:
     bool sorted_;

@@ -9,7 +9,7 @@ void text_control::set_text(std::string_view text) {
     text_changed();
 }
 
-void text_box::default_key(int code, std::optional<char> character) {
+void text_box::take_effect(int code, std::optional<char> character) {
     if (code == key::backspace) {
         if (!text().empty()) set_text(std::string_view(text()).substr(0, text().size() - 1));
         return;
@@ -23,7 +23,7 @@ void button::click() {
     fire(on_click);
 }
 
-void button::default_key(int code, std::optional<char>) {
+void button::take_effect(int code, std::optional<char>) {
     if (code == key::enter || code == key::blank) click();
 }
 

@@ -30,11 +30,11 @@ class text_box : public text_control {
 
     std::function<void()> on_change;  ///< the text became another one, whoever set it
 
+    /// A character joins the end of the text, backspace takes the last one off.
+    void take_effect(int code, std::optional<char> character) override;
+
  protected:
     void text_changed() override { fire(on_change); }
-    /// A character joins the end of the text, backspace takes the last one off. A front end with
-    /// a cursor of its own edits in its widget and sets the text.
-    void default_key(int code, std::optional<char> character) override;
 };
 
 /// A fixed text; it can be clicked and takes no focus.
@@ -57,9 +57,8 @@ class button : public text_control {
     /// The user presses it: it takes the focus, then the click fires.
     void click();
 
- protected:
     /// Enter and blank press the button.
-    void default_key(int code, std::optional<char> character) override;
+    void take_effect(int code, std::optional<char> character) override;
 };
 
 /// A picture of the screen, by decoration or from a file; takes no focus.

@@ -32,7 +32,7 @@ bool scroll_bar::drag(int value) {
     return set_value(value);
 }
 
-void scroll_bar::default_key(int code, std::optional<char> character) {
+void scroll_bar::take_effect(int code, std::optional<char> character) {
     if (character) return;
     const int forward = maximum_ >= minimum_ ? 1 : -1;
     if (code == key::down) set_value(value_ + forward);

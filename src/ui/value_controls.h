@@ -26,9 +26,8 @@ class scroll_bar : public control {
     /// The user drags it: it takes the focus, then moves. False outside the limits.
     bool drag(int value);
 
- protected:
     /// Arrows move by one.
-    void default_key(int code, std::optional<char> character) override;
+    void take_effect(int code, std::optional<char> character) override;
 
  private:
     int minimum_ = 0;

@@ -5,6 +5,8 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QScrollBar>
+#include <QTableView>
+#include <random>
 
 #include "store/text/code_page.h"
 #include "ui/controls.h"
@@ -24,6 +26,8 @@ class trial final : public form {
         add("lista", lista);
         add("barra", barra);
         add("data", data);
+        add("elenco", elenco);
+        elenco.set_columns({{"a", 1}, {"b", 1}});
         tendina.add_all({"uno", "due", "tre"});
         std::vector<std::string> many;
         for (int i = 0; i < 32767; ++i) many.push_back("voce " + std::to_string(i));
@@ -39,6 +43,7 @@ class trial final : public form {
     sorted_list_box lista;
     scroll_bar barra;
     date_picker data;
+    grid elenco;
 };
 
 class widgets : public testing::Test {
@@ -111,6 +116,48 @@ TEST_F(widgets, ListsPickAStepAKey) {
         EXPECT_EQ(list->currentIndex().row(), 32000);
         QTest::keyClick(list, Qt::Key_Down);
         EXPECT_EQ(screen->lista.chosen(), 32001);
+    }});
+}
+
+/// Whatever keys and wheel do, the highlighted row is in sight and is the one that Enter takes.
+TEST_F(widgets, AListTakesTheRowThatIsHighlighted) {
+    run({[&] {
+        grid& list = screen->elenco;
+        auto* view = bench.find<QTableView>("elenco");
+        int taken = 0;
+        list.on_click = [&] { taken = list.row(); };
+        std::mt19937 random(7);
+        for (const int rows : {3, 32767}) {
+            list.set_rows(rows + 20);
+            for (int row = 1; row <= rows; ++row) list.set_text(row, 0, std::to_string(row));
+            QTest::qWait(1);
+            view->setFocus();
+            for (int step = 0; step < 300; ++step) {
+                constexpr Qt::Key keys[] = {Qt::Key_Down, Qt::Key_Down,   Qt::Key_Up,
+                                            Qt::Key_Home, Qt::Key_PageUp, Qt::Key_PageDown,
+                                            Qt::Key_End,  Qt::Key_Left};
+                if (random() % 9 == 0) {
+                    view->verticalScrollBar()->setValue(static_cast<int>(random() % rows));
+                }
+                const Qt::Key key = keys[random() % std::size(keys)];
+                const int before = list.row();
+                QTest::keyClick(view, key);
+                const QRect lit = view->visualRect(view->currentIndex());
+                ASSERT_EQ(view->currentIndex().row() + 1, list.row()) << key;
+                if (key == Qt::Key_Home || key == Qt::Key_End) {
+                    ASSERT_EQ(list.row(), key == Qt::Key_Home ? 1 : rows);
+                }
+                ASSERT_TRUE(list.row() >= 1 && list.row() <= rows) << "no filler is marked";
+                if (key == Qt::Key_Down && before > 0) {
+                    ASSERT_EQ(list.row(), std::min(before + 1, rows));
+                }
+                ASSERT_TRUE(view->viewport()->rect().intersects(lit)) << key;
+                QTest::keyClick(view, Qt::Key_Return);
+                ASSERT_EQ(taken, list.row());
+            }
+        }
+        list.show_end(4);
+        EXPECT_EQ(view->verticalScrollBar()->value(), view->verticalScrollBar()->maximum());
     }});
 }
 

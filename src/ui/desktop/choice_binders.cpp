@@ -1,6 +1,5 @@
 #include <QAbstractButton>
 #include <QCheckBox>
-#include <QKeyEvent>
 #include <QRadioButton>
 
 #include "ui/choice_controls.h"
@@ -29,12 +28,6 @@ class choice_binder final : public widget_binder {
     void show_value(aspect what) override {
         if (what == aspect::text) button_->setText(shown(model_.text()));
         if (what == aspect::value) button_->setChecked(model_.on());
-    }
-    bool key_pressed(QKeyEvent& event) override {
-        if (widget_binder::key_pressed(event)) return true;
-        if (event.key() != Qt::Key_Up && event.key() != Qt::Key_Down) return false;
-        act([&] { model_.press_key(event.key() == Qt::Key_Up ? key::up : key::down, {}); });
-        return true;
     }
 
     QAbstractButton* button_;

@@ -1,6 +1,5 @@
 #include <QAbstractTableModel>
 #include <QColor>
-#include <QHeaderView>
 #include <QKeyEvent>
 #include <QScrollBar>
 #include <QTableView>
@@ -45,6 +44,23 @@ class cells_model final : public QAbstractTableModel {
         if (role == Qt::TextAlignmentRole) return aligned(section);
         return {};
     }
+    /// Rows that only fill the window up can't be marked.
+    [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override {
+        return holds_text(index.row() + 1) ? Qt::ItemIsEnabled | Qt::ItemIsSelectable
+                                           : Qt::NoItemFlags;
+    }
+    [[nodiscard]] bool holds_text(int row) const {
+        if (row < 1) return false;
+        for (int col = 0; col < grid_.cols(); ++col) {
+            if (!grid_.text(row, col).empty()) return true;
+        }
+        return false;
+    }
+    [[nodiscard]] int last_filled() const {
+        int row = grid_.rows() - 1;
+        while (row > 0 && !holds_text(row)) --row;
+        return row;
+    }
     void reset() {
         beginResetModel();
         endResetModel();
@@ -65,6 +81,7 @@ class cells_model final : public QAbstractTableModel {
     const grid& grid_;
 };
 
+/// The highlighted row and the first one in sight are those of the model, whoever moves them.
 class grid_binder final : public widget_binder {
  public:
     grid_binder(grid& model, QWidget* parent, const user_action& act)
@@ -73,21 +90,22 @@ class grid_binder final : public widget_binder {
           model_(model),
           cells_(new cells_model(model, view_)) {
         view_->setModel(cells_);
-        connect(view_, &QTableView::clicked, this,
-                [this](const QModelIndex& index) { click(index.row() + 1, index.column()); });
-        connect(view_->horizontalHeader(), &QHeaderView::sectionClicked, this,
-                [this](int section) { click(0, section); });
-        connect(view_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+        connect(view_, &QTableView::clicked, this, [this](const QModelIndex& index) {
+            this->act([&] { model_.click_cell(index.row() + 1, index.column()); });
+        });
+        connect(view_->selectionModel(), &QItemSelectionModel::currentChanged, this,
                 [this](const QModelIndex& now) {
-                    if (showing() || !now.isValid()) return;
-                    this->act([&] { model_.set_row(now.row() + 1); });
+                    if (!showing() && now.isValid())
+                        follow([&] {
+                            model_.set_row(now.row() + 1);
+                            model_.set_col(now.column());
+                        });
                 });
         connect(view_->verticalScrollBar(), &QScrollBar::valueChanged, this, [this](int value) {
-            if (!showing()) this->act([&] { model_.set_top_row(value + 1); });
+            if (!showing()) follow([&] { model_.set_top_row(value + 1); });
         });
         // A top row set before the view had its size and rows comes true when it has them.
         connect(view_->verticalScrollBar(), &QScrollBar::rangeChanged, this, [this] {
-            if (showing()) return;
             const quiet while_showing(*this);
             if (model_.visible()) show_top_row();
         });
@@ -95,8 +113,12 @@ class grid_binder final : public widget_binder {
     }
 
  private:
-    void click(int row, int col) {
-        act([&] { model_.click_cell(row, col); });
+    /// The model goes where the view went; the view needn't be told.
+    template <class Move>
+    void follow(const Move& move) {
+        following_ = true;
+        act(move);
+        following_ = false;
     }
 
     void show_value(aspect what) override {
@@ -113,6 +135,7 @@ class grid_binder final : public widget_binder {
     }
 
     void changed(aspect what) override {
+        if (following_) return;
         widget_binder::changed(what);
         if (what != aspect::visibility || !model_.visible() || !stale_) return;
         stale_ = false;
@@ -120,31 +143,59 @@ class grid_binder final : public widget_binder {
     }
 
     void show_position() {
-        const QModelIndex here = cells_->index(model_.row() - 1, 0);
-        if (view_->currentIndex().row() != here.row()) {
+        const QModelIndex here = cells_->index(model_.row() - 1, model_.col());
+        if (view_->currentIndex() != here) {
+            // A current row set by the program doesn't scroll by itself.
+            view_->setAutoScroll(false);
             view_->selectionModel()->setCurrentIndex(
                 here, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+            view_->setAutoScroll(true);
         }
         show_top_row();
+        view_->place_followers();
     }
 
     void show_top_row() {
-        if (view_->verticalScrollBar()->value() + 1 != model_.top_row()) {
-            view_->verticalScrollBar()->setValue(model_.top_row() - 1);
+        QScrollBar& bar = *view_->verticalScrollBar();
+        bar.setValue(model_.shows_end() ? bar.maximum() : model_.top_row() - 1);
+    }
+
+    [[nodiscard]] bool widget_takes(bool typed) const override { return typed; }
+
+    bool key_pressed(QKeyEvent& event) override {
+        switch (event.key()) {
+            case Qt::Key_Home:
+                return go_to(1);
+            case Qt::Key_End:
+                return go_to(cells_->last_filled());
+            case Qt::Key_Up:
+            case Qt::Key_Down:
+                return arrow_pressed(event);
+            default:
+                return widget_binder::key_pressed(event);
         }
     }
 
-    bool key_pressed(QKeyEvent& event) override {
-        if (widget_binder::key_pressed(event)) return true;
-        const bool enter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-        if (!enter || !view_->currentIndex().isValid()) return false;
-        click(view_->currentIndex().row() + 1, 0);
+    bool go_to(int row) {
+        if (cells_->holds_text(row)) view_->setCurrentIndex(cells_->index(row - 1, 0));
+        view_->scrollTo(view_->currentIndex());
         return true;
+    }
+
+    bool arrow_pressed(QKeyEvent& event) {
+        // The first arrow goes to what the eye sees.
+        if (model_.row() == 0) return go_to(view_->verticalScrollBar()->value() + 1);
+        const bool down = event.key() == Qt::Key_Down;
+        const bool taken =
+            (down && !cells_->holds_text(model_.row() + 1)) || widget_binder::key_pressed(event);
+        if (taken) view_->scrollTo(view_->currentIndex());
+        return taken;
     }
 
     grid_view* view_;
     grid& model_;
     cells_model* cells_;
+    bool following_ = false;
     bool stale_ = false;  ///< the grid changed while it was hidden
 };
 

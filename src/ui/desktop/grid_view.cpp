@@ -1,6 +1,7 @@
 #include "ui/desktop/grid_view.h"
 
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QScrollBar>
 #include <QSignalBlocker>
 
@@ -64,12 +65,23 @@ void grid_view::share_width() {
 }
 
 void grid_view::keep_above(int column, QWidget* widget) {
-    followers_.push_back({column, widget});
+    above_.push_back({column, widget});
+    place_followers();
+}
+
+void grid_view::keep_over(QWidget* widget, int column) {
+    const bool seen = !widget->isHidden();
+    widget->setParent(viewport());
+    widget->setVisible(seen);
+    over_.push_back({column, widget});
     place_followers();
 }
 
 void grid_view::place_followers() {
-    for (const follower& one : followers_) {
+    for (const follower& one : over_) {
+        one.widget->setGeometry(visualRect(model()->index(currentIndex().row(), one.column)));
+    }
+    for (const follower& one : above_) {
         const QPoint corner(frameWidth() + columnViewportPosition(one.column), 0);
         const int left = one.widget->parentWidget()->mapFromGlobal(mapToGlobal(corner)).x();
         one.widget->setGeometry(left + 1, one.widget->y(), columnWidth(one.column) - 2,
@@ -85,6 +97,7 @@ void grid_view::resizeEvent(QResizeEvent* event) {
 void grid_view::align_first_row() {
     verticalHeader()->setOffsetToSectionPosition(verticalScrollBar()->value());
     viewport()->update();
+    place_followers();
 }
 
 void grid_view::scrollContentsBy(int dx, int dy) {
@@ -100,6 +113,11 @@ void grid_view::updateGeometries() {
 void grid_view::moveEvent(QMoveEvent* event) {
     QTableView::moveEvent(event);
     place_followers();
+}
+
+void grid_view::keyPressEvent(QKeyEvent* event) {
+    QTableView::keyPressEvent(event);
+    if (currentIndex().isValid()) scrollTo(currentIndex());
 }
 
 void grid_view::focusInEvent(QFocusEvent* event) {

@@ -33,6 +33,8 @@ class text_box_binder final : public widget_binder {
         edit_->setCursorPosition(edit_->hasFocus() ? cursor : 0);
     }
 
+    [[nodiscard]] bool widget_takes(bool) const override { return true; }
+
     QLineEdit* edit_;
     text_box& model_;
 };
@@ -73,12 +75,6 @@ class button_binder final : public widget_binder {
     // A command without a caption of its own is captioned by the screen's layout.
     void show_value(aspect what) override {
         if (what == aspect::text && !model_.text().empty()) button_->setText(shown(model_.text()));
-    }
-    bool key_pressed(QKeyEvent& event) override {
-        if (widget_binder::key_pressed(event)) return true;
-        if (event.key() != Qt::Key_Return && event.key() != Qt::Key_Enter) return false;
-        button_->click();
-        return true;
     }
 
     QToolButton* button_;

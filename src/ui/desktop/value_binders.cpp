@@ -27,21 +27,13 @@ class scroll_bar_binder final : public widget_binder {
     }
 
  private:
-    /// The toolkit's bars go back on the right arrow, as suits upright ones.
+    /// Left and right, as the bar lies; up and down are the model's.
     bool key_pressed(QKeyEvent& event) override {
         if (widget_binder::key_pressed(event)) return true;
-        switch (event.key()) {
-            case Qt::Key_Right:
-            case Qt::Key_Down:
-                bar_->triggerAction(QScrollBar::SliderSingleStepAdd);
-                return true;
-            case Qt::Key_Left:
-            case Qt::Key_Up:
-                bar_->triggerAction(QScrollBar::SliderSingleStepSub);
-                return true;
-            default:
-                return false;
-        }
+        if (event.key() != Qt::Key_Right && event.key() != Qt::Key_Left) return false;
+        bar_->triggerAction(event.key() == Qt::Key_Right ? QScrollBar::SliderSingleStepAdd
+                                                         : QScrollBar::SliderSingleStepSub);
+        return true;
     }
 
     void show_value(aspect) override {
@@ -111,6 +103,8 @@ class date_binder final : public widget_binder {
         const date& day = model_.value();
         edit_->setDate(QDate(day.year, day.month, day.day));
     }
+
+    [[nodiscard]] bool widget_takes(bool) const override { return true; }
 
     QDateEdit* edit_;
     date_picker& model_;

@@ -101,9 +101,15 @@ void widget_binder::show_visibility() {
 bool widget_binder::key_pressed(QKeyEvent& event) {
     pressed_key pressed = key_of(event);
     if (pressed.code == 0) return false;
-    bool goes_on = true;
-    act([&] { goes_on = model_.offer_key(pressed.code, pressed.character); });
-    return !goes_on;
+    const bool typed =
+        pressed.character && static_cast<unsigned char>(*pressed.character) >= key::blank;
+    const bool leave = widget_takes(typed);
+    bool goes_on = false;
+    act([&] {
+        goes_on = model_.offer_key(pressed.code, pressed.character);
+        if (goes_on && !leave) model_.take_effect(pressed.code, pressed.character);
+    });
+    return !(goes_on && leave);
 }
 
 bool widget_binder::eventFilter(QObject* watched, QEvent* event) {

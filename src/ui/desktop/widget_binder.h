@@ -32,8 +32,12 @@ class widget_binder : public QObject, public binder {
     virtual void show_visibility();
 
     bool eventFilter(QObject* watched, QEvent* event) override;
-    /// The control has the focus and a key is pressed. True if the widget must not see it.
+    /// The control has the focus and a key is pressed: it is offered to the model, and what isn't
+    /// swallowed takes the model's effect. True if the widget must not see it.
     virtual bool key_pressed(QKeyEvent& event);
+    /// Whether the widget takes the effect of a key itself, as a field with a cursor does.
+    /// `typed`: a key with a character, Enter and Backspace left out.
+    [[nodiscard]] virtual bool widget_takes(bool /*typed*/) const { return false; }
 
     /// Carries out what the user does; the model may be gone afterwards.
     void act(const std::function<void()>& action) {

@@ -34,7 +34,6 @@ line_rows::line_rows(form_window& window)
     }
     set_look(pick_, "look", "over");
     pick_->installEventFilter(this);
-    window.installEventFilter(this);
     show_numbers(bar_->value());
     connect(bar_, &QScrollBar::valueChanged, this, [this](int first) { show_numbers(first); });
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
@@ -83,14 +82,14 @@ void line_rows::place_pick() {
 }
 
 bool line_rows::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::Wheel && watched != &window_ && watched != pick_) {
+    if (event->type() == QEvent::Wheel && watched != pick_) {
         return QApplication::sendEvent(bar_, event);
     }
     const bool pick_shows = watched == pick_ && event->type() == QEvent::Show;
-    if (pick_shows || (watched == &window_ && event->type() == QEvent::LayoutRequest) ||
-        (watched == &window_ && event->type() == QEvent::Resize)) {
-        place_pick();
-    }
+    const bool moved = event->type() == QEvent::Resize || event->type() == QEvent::Move;
+    const bool cell_moved =
+        moved && current_ >= 0 && watched == codes_[static_cast<std::size_t>(current_)];
+    if (pick_shows || cell_moved) place_pick();
     return QObject::eventFilter(watched, event);
 }
 
