@@ -49,7 +49,7 @@ void list_benches(mirorcs& screen, const program& app, int articles, int rounds)
         });
 
     // The last key of a code that no article has: the whole list is walked.
-    const auto& entries = screen.List1.items();
+    const auto& entries = screen.lookup().List1.items();
     screen.artic[0].set_focus();
     screen.artic[0].set_text("TUBO-123");
     int found = 0;

@@ -21,9 +21,10 @@ std::string shown(double value) {
 }  // namespace
 
 line_grid::line_grid(program& app, const line_grid_kind& kind)
-    : form(app.desk, kind.name, kind.title), app_(app), kind_(kind) {
+    : form(app.desk, kind.name, kind.title), app_(app), lookup_(app), kind_(kind) {
     register_controls();
     wire_controls();
+    wire_lookup();
     for (int row = 0; row < rows; ++row) wire_cells(row);
 }
 
@@ -42,24 +43,39 @@ void line_grid::register_controls() {
     }
     add("VScroll1", VScroll1);
     add("Combo1", Combo1);
-    add("List1", List1);
-    add("listx", listx);
+    add("List1", lookup_.List1);
+    add("listx", lookup_.listx);
     add("command3d3", command3d3);
     add("riordina", riordina);
     add("prezz", prezz);
-    add("barcode", barcode);
+    add("barcode", lookup_.barcode);
     add("postael", postael);
-    add("impegno", impegno);
+    if (kind_.has_impegno) add("impegno", impegno);
+    if (kind_.has_eva) add("eva", eva);
+    if (kind_.has_scarica) add("scarica", scarica);
     add("tota", tota);
-    add("comando", comando);
+    for (int i = 0; i < kind_.commands; ++i) add_element("comando", i, comando[i]);
     add("Picture1", Picture1);
     prezz_group_.join(prezz);
     prezz[0].design_on(true);
     prezz[0].set_text("Prezzo 1");
     prezz[1].set_text("prezzo 2");
-    barcode.set_text("Utilizza codici a barre");
+    lookup_.barcode.set_text("Utilizza codici a barre");
     postael.set_text("Invia documento via e-mail");
     impegno.set_text("Impegna articoli ordinati");
+    eva.set_text("Considera l'ordine completamente evaso");
+    scarica.set_text("Scarica articoli da magazzino");
+}
+
+void line_grid::wire_controls() {
+    VScroll1.set_limits(1, righe_ordine::massimo - rows + 1);
+    VScroll1.on_change = [this] { paint(); };
+    Combo1.set_visible(false);
+    Combo1.on_click = [this] { take_vat_pick(); };
+    riordina.on_click = [this] { sort_lines(); };
+    for (int i = 0; i < kind_.commands; ++i) {
+        comando[i].on_click = [this, i] { command_clicked(i); };
+    }
 }
 
 void line_grid::load() {
@@ -70,16 +86,20 @@ void line_grid::load() {
     valuta_ = valuta(app_.parameters);
 }
 
-void line_grid::open_fresh(std::int16_t customer) {
+void line_grid::close() {
+    if (at_work()) return;
+    unload();
+    app_.mirorc.use().show();
+}
+
+void line_grid::open_lines(std::int16_t customer) {
     svuota_righe();
     combo_attivo_ = true;
-    app_.archives.tot.read(contatori::articoli, articoli_);
     app_.archives.cli.read(customer, cliente_);
-    stato_lista_ = lista_ferma;
-    barcode.set_on(app_.parameters.gnr.usa_barcode != 0);
-    if (articoli_.quanti >= 1 && !barcode.on()) attiva_lista(true);
-    prezz[number_at_head(cliente_.listino.full()) == 1 ? 1 : 0].set_on(true);
-    impegno.set_on(false);
+    lookup_.open();
+}
+
+void line_grid::propose_mail() {
     const auto& mail = app_.parameters.parametri_valuta[valuta_slot::invio_email];
     postael.set_on(cliente_.invio_email.full() == "1" && number_at_head(mail) != 0);
 }
@@ -174,9 +194,22 @@ void line_grid::price_changed(int row) {
 
 void line_grid::compute_totals() {
     totali_ = calcola_totali(righe_, tabelle_.iva, valuta_);
-    tota[0].set_text(formato_importo(totali_.imponibile, valuta_) + " ");
-    tota[1].set_text(formato_importo(totali_.totale, valuta_) + " ");
-    tota[2].set_text(plain_text(totali_.pezzi) + " ");
+    for (int i = 0; i < 3; ++i) {
+        std::string shows;
+        switch (kind_.tota[i]) {
+            case totale_mostrato::imponibile:
+                shows = formato_importo(totali_.imponibile, valuta_);
+                break;
+            case totale_mostrato::complessivo:
+                shows = formato_importo(totali_.totale, valuta_);
+                break;
+            case totale_mostrato::pezzi:
+                shows = plain_text(totali_.pezzi);
+                break;
+        }
+        tota[i].set_text(shows + " ");
+    }
+    totals_changed();
 }
 
 // Focus and Enter -----------------------------------------------------------------------------
@@ -184,21 +217,19 @@ void line_grid::compute_totals() {
 void line_grid::take_focus(int row, bool show_stock) {
     Combo1.set_visible(false);
     riga_corrente_ = row;
-    if (show_stock) mostra_giacenza(righe_[line_of(row)].articolo);
+    if (show_stock) lookup_.mostra_giacenza(righe_[line_of(row)].articolo);
 }
 
 void line_grid::wire_cell_focus(int row) {
     artic[row].on_focus = [this, row] {
         take_focus(row, true);
-        lista_trovato_ = 0;
-        const std::string_view code = trimmed(artic[row].text());
-        if (!artic[row].text().empty()) search_list(upper(code));
+        lookup_.follow_cell(artic[row].text());
     };
     artic[row].on_key_press = [this, row](ui::key_event& key) { article_key(row, key); };
 
     ds[row].on_focus = [this, row] { description_gains_focus(row); };
     ds[row].on_key_down = [this, row](ui::key_event& key) {
-        if (key.code == ui::key::f1) find_by_description(row, key);
+        if (key.code == ui::key::f1 && lookup_.take_description(ds[row].text())) key.swallow();
         if (key.code == ui::key::enter) {
             key.swallow();
             um[row].set_focus();
@@ -270,7 +301,7 @@ void line_grid::open_vat_pick(int row) {
     const int code = std::clamp<int>(typed, 1, ultimo_codice_iva);
     riga_corrente_ = line_of(row);
     Combo1.choose(code - 1);
-    mostra_giacenza(righe_[riga_corrente_].articolo);
+    lookup_.mostra_giacenza(righe_[riga_corrente_].articolo);
     Combo1.set_focus();
     combo_attivo_ = true;
 }
@@ -289,14 +320,24 @@ void line_grid::take_vat_pick() {
     compute_totals();
 }
 
-// Commands on lines -----------------------------------------------------------------------------
+// Commands ------------------------------------------------------------------------------------
 
-void line_grid::insert_line() {
-    shift_lines(&righe_ordine::insert);
+void line_grid::command_clicked(int command) {
+    if (at_work()) return;
+    switch (command) {
+        case inserisci_riga:
+            return shift_lines(&righe_ordine::insert);
+        case cancella_riga:
+            return shift_lines(&righe_ordine::remove);
+        case stampante:
+            return printer_setup();
+        default:
+            return run_command(command);
+    }
 }
 
-void line_grid::delete_line() {
-    shift_lines(&righe_ordine::remove);
+void line_grid::printer_setup() {
+    app_.desk.printer().choose_settings();
 }
 
 void line_grid::shift_lines(void (righe_ordine::*shift)(int)) {
@@ -319,10 +360,6 @@ bool line_grid::current_row_shown() const {
 
 void line_grid::return_to(ui::text_box (&column)[rows]) {
     if (current_row_shown()) column[riga_corrente_].set_focus();
-}
-
-void line_grid::printer_setup() {
-    app_.desk.printer().choose_settings();
 }
 
 }  // namespace vantora

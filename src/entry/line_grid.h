@@ -1,20 +1,32 @@
 #pragma once
 
 #include "documents/document_tables.h"
-#include "entry/article_list.h"
+#include "entry/article_lookup.h"
 #include "entry/totals.h"
 #include "program/program.h"
 #include "ui/controls.h"
 
 namespace vantora {
 
+/// What the labels `tota` can show.
+enum class totale_mostrato { imponibile, complessivo, pezzi };
+
 /// In what the screens that edit an order's lines differ.
 struct line_grid_kind {
     const char* name;
     const char* title;
     tipo_documento documento;
-    bool has_evaso;  ///< a column with the fulfilled quantity, between quantity and discounts
+    int commands = 7;          ///< elements of `comando` in use
+    bool has_evaso = false;    ///< a column with the fulfilled quantity, behind the quantity
+    bool has_impegno = false;  ///< check boxes
+    bool has_eva = false;
+    bool has_scarica = false;
+    totale_mostrato tota[3] = {totale_mostrato::imponibile, totale_mostrato::complessivo,
+                               totale_mostrato::pezzi};
 };
+
+/// Commands of `comando` that all of these screens have.
+enum comando_comune { uscita, conferma, inserisci_riga, cancella_riga, stampante };
 
 /// The grid in which an order's lines are edited: twelve rows over 200 lines, the list of articles
 /// beside it, prices and totals. Typing, painting and picking all go through the change events of
@@ -34,38 +46,45 @@ class line_grid : public ui::form {
     ui::text_box sc2[rows];
     ui::text_box prezzo[rows];
     ui::text_box civ[rows];
-    ui::scroll_bar VScroll1;    ///< first line shown, 1 to 189
-    ui::drop_down Combo1;       ///< VAT codes, shown while a `civ` cell is worked on
-    ui::sorted_list_box List1;  ///< all live articles
-    ui::label listx;            ///< stock of the current article
-    ui::button command3d3;      ///< loads `List1` anew
+    ui::scroll_bar VScroll1;  ///< first line shown, 1 to 189
+    ui::drop_down Combo1;     ///< VAT codes, shown while a `civ` cell is worked on
+    ui::button command3d3;    ///< loads the list of articles anew
     ui::button riordina;
     ui::option_button prezz[2];  ///< which of the article's prices a line takes
-    ui::check_box barcode;
     ui::check_box postael;
     ui::check_box impegno;
-    ui::label tota[3];  ///< taxable, grand total, pieces
+    ui::check_box eva;
+    ui::check_box scarica;
+    ui::label tota[3];
     ui::button comando[7];
     ui::picture Picture1;
 
+    /// Holds the controls `List1`, `listx` and `barcode` of this screen.
+    [[nodiscard]] article_lookup& lookup() { return lookup_; }
     [[nodiscard]] const righe_ordine& lines() const { return righe_; }
     [[nodiscard]] const totali_ordine& totals() const { return totali_; }
 
  protected:
     void load() override;
+    /// Only shows the register; what stays behind is loaded afresh by its next use.
+    void close() override;
 
-    /// What a command does, by its index in `comando`.
+    /// A command of `comando` that isn't one of `comando_comune` on lines and printer. It never
+    /// comes while the screen saves or prints.
     virtual void run_command(int command) = 0;
+    /// The user sets the printer up.
+    virtual void printer_setup();
+    /// The totals were computed anew.
+    virtual void totals_changed() {}
 
-    /// A fresh order of `cliente_`: no lines, the options as company and customer have them.
-    void open_fresh(std::int16_t customer);
+    /// Empties the screen for the document of a customer and makes the article lookup ready.
+    void open_lines(std::int16_t customer);
+    /// Ticks `postael` where customer and company want documents by e-mail.
+    void propose_mail();
     void svuota_righe();
+    void compute_totals();
     /// Paints the twelve rows from the lines.
     void paint();
-    /// At the current row, if that is one of the twelve.
-    void insert_line();
-    void delete_line();
-    void printer_setup();
 
     program& app_;
     righe_ordine righe_;
@@ -74,16 +93,16 @@ class line_grid : public ui::form {
     disegno disegno_;
     valuta valuta_;
     rec_cli cliente_;
-    rec_tot articoli_;  ///< counter of the articles
+    article_lookup lookup_;
 
  private:
-    friend class article_lookup;
-
     void register_controls();
     void wire_cells(int row);
     void wire_cell_focus(int row);
     void wire_enter(ui::text_box& cell, std::function<void()> then);
     void wire_controls();
+    void wire_lookup();
+    void command_clicked(int command);
 
     [[nodiscard]] int line_of(int row) const { return VScroll1.value() + row; }
     riga_ordine& changed_line(int row);
@@ -96,7 +115,7 @@ class line_grid : public ui::form {
     void go_to_next_row(int row);
     void open_vat_pick(int row);
     void take_vat_pick();
-    void compute_totals();
+    /// At the current row, if that is one of the twelve.
     void shift_lines(void (righe_ordine::*shift)(int));
     void sort_lines();
     /// False while `riga_corrente_` holds a line's number that no row has.
@@ -111,29 +130,13 @@ class line_grid : public ui::form {
     int prima_riga_ = 0;     ///< first line last seen; after a `civ` cell the grid row
     bool combo_attivo_ = false;
 
-    // Article lookup ----------------------------------------------------------------------------
+    // Articles ------------------------------------------------------------------------------------
 
     void article_key(int row, ui::key_event& key);
     void article_enter(int row);
-    void article_not_found(int row);
-    void search_list(const std::string& wanted);
-    void take_list_entry();
-    void find_by_description(int row, ui::key_event& key);
-    bool find_bar_code(const std::string& code);
-    /// Fills the current row's line from `articolo_`.
-    void copy_article(std::string_view code);
-    void unfold_long_text(int line);
-    void attiva_lista(bool on);
-    void carica_lista(modo_lista mode);
-    void reload_list();
-    void barcode_clicked();
-    void mostra_giacenza(std::int16_t article);
-
-    static constexpr int lista_ferma = -1;
-    int stato_lista_ = lista_ferma;  ///< -1: list not loaded or busy; else a modo_lista
-    int lista_trovato_ = 0;          ///< outcome of the last search
-    std::int16_t articolo_corrente_ = 0;
-    rec_art articolo_;
+    /// Fills the current row's line.
+    void take_article(std::int16_t number, const rec_art& article, std::string_view code);
+    void unfold_long_text(std::int16_t article, int line);
 };
 
 }  // namespace vantora

@@ -1,25 +1,18 @@
 #pragma once
 
-#include "entry/line_grid.h"
+#include "entry/order_screen.h"
 
 namespace vantora {
 
-/// The lines of a new order; its customer and head stand in `mirorcx`, hidden behind.
-class mirorcs final : public line_grid {
+/// The lines of a new order; its customer and head stand in `mirorcx`.
+class mirorcs final : public order_screen {
  public:
     explicit mirorcs(program& app);
 
  protected:
-    void activate() override;
-    void close() override;
-    void run_command(int command) override;
-
- private:
-    void save();
-    void offer_to_print();
-    void leave();
-
-    bool saving_ = false;
+    void open() override;
+    bool store() override;
+    void run_own_command(int command) override;
 };
 
 }  // namespace vantora

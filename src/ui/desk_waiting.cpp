@@ -103,6 +103,7 @@ std::optional<std::string> desk::obstacle(const form& which) const {
     if (!boxes_.empty()) return "a message box is open";
     if (modal() && modal() != &which) return "another screen is modal";
     if (!which.visible()) return "the screen is not visible";
+    if (which.at_work()) return "the screen saves or prints";
     return {};
 }
 

@@ -31,6 +31,10 @@ class form {
 
     [[nodiscard]] ui::desk& desk() const { return desk_; }
 
+    /// True while the screen saves or prints. The user can then neither work in it nor close it,
+    /// though some of its work lets events run.
+    [[nodiscard]] bool at_work() const { return at_work_ > 0; }
+
     /// Shows the screen and makes it the active one.
     void show();
     /// Shows it in front of its caller and comes back when it is hidden or unloaded.
@@ -51,6 +55,18 @@ class form {
 
     void add_element(const std::string& name, int index, control& one);
 
+    /// The screen is at work as long as one of these lives.
+    class work {
+     public:
+        explicit work(form& of) : of_(of) { ++of_.at_work_; }
+        work(const work&) = delete;
+        work& operator=(const work&) = delete;
+        ~work() { --of_.at_work_; }
+
+     private:
+        form& of_;
+    };
+
     /// Once, when the screen comes into being.
     virtual void load() {}
     /// Whenever it becomes the active screen, coming from another one.
@@ -67,6 +83,7 @@ class form {
     std::string title_;
     bool visible_ = false;
     bool modal_ = false;
+    int at_work_ = 0;
     control* remembered_ = nullptr;  ///< had the focus when the form was last active
     std::vector<control*> controls_;
 };

@@ -52,18 +52,18 @@ void enter_lines(mirorcs& screen, int line) {
     screen.VScroll1.drag(line);
     type(screen.quantita[0], "2.5");
     for (int row = 0; row < mirorcs::rows; ++row) {
-        if (row < screen.List1.count()) {
+        if (row < screen.lookup().List1.count()) {
             screen.um[row].set_focus();
-            screen.List1.pick(row);
+            screen.lookup().List1.pick(row);
         }
         type(screen.artic[row], "A" + std::to_string(row));
         walk_cells(screen, row);
     }
     screen.ds[1].set_focus();
     screen.ds[1].press_key(ui::key::f1, {});
-    screen.barcode.toggle();
+    screen.lookup().barcode.toggle();
     for (const char* code : {"800", "8003", "\xFF", "8024"}) type(screen.artic[2], code);
-    screen.barcode.toggle();
+    screen.lookup().barcode.toggle();
     screen.riordina.click();
     for (const int command : {2, 3}) screen.comando[command].click();
 }

@@ -1,0 +1,136 @@
+#include "entry/article_lookup.h"
+
+#include "store/key_index.h"
+#include "store/text/number_text.h"
+
+namespace vantora {
+
+// While code moves the list's selection, and while a line takes an article, `stato_lista_` keeps
+// the list's own click from counting.
+
+void article_lookup::count_articles() {
+    app_.archives.tot.read(contatori::articoli, contatore_);
+}
+
+// The list --------------------------------------------------------------------------------------
+
+void article_lookup::open() {
+    count_articles();
+    stato_lista_ = lista_ferma;
+    barcode.set_on(app_.parameters.gnr.usa_barcode != 0);
+    if (articles() >= 1 && !barcode.on()) attiva_lista(true);
+}
+
+void article_lookup::reload() {
+    stato_lista_ = lista_ferma;
+    attiva_lista(true);
+}
+
+void article_lookup::barcode_switched() {
+    count_articles();
+    if (barcode.on()) {
+        attiva_lista(false);
+    } else if (stato_lista_ >= 0 || articles() >= 1) {
+        attiva_lista(true);
+    }
+}
+
+void article_lookup::attiva_lista(bool on) {
+    count_articles();
+    List1.set_enabled(on);
+    if (on && stato_lista_ == lista_ferma) carica_lista(per_codice);
+}
+
+void article_lookup::carica_lista(modo_lista mode) {
+    app_.desk.set_pointer(ui::pointer::busy);
+    count_articles();
+    List1.clear();
+    List1.add_all(voci_articoli(app_.archives.art_blocchi, articles(), mode));
+    app_.desk.set_pointer(ui::pointer::normal);
+    stato_lista_ = mode;
+}
+
+bool article_lookup::can_search() const {
+    return List1.enabled() && stato_lista_ == per_codice;
+}
+
+void article_lookup::search_list(const std::string& wanted) {
+    if (!can_search()) return;
+    stato_lista_ = lista_ferma;
+    lista_trovato_ = 0;
+    const int found = cerca_voce(List1.items(), wanted);
+    if (found >= 0) {
+        lista_trovato_ = 1;
+        List1.choose(found);
+    }
+    stato_lista_ = per_codice;
+}
+
+void article_lookup::take_list_entry() {
+    if (stato_lista_ == lista_ferma) return;
+    const int state = stato_lista_;
+    stato_lista_ = lista_ferma;
+    articolo_corrente_ = numero_articolo(List1.text());
+    if (app_.archives.art.read(articolo_corrente_, articolo_)) report(articolo_.codice.trimmed());
+    stato_lista_ = state;
+}
+
+void article_lookup::report(std::string_view code) {
+    if (on_found) on_found(articolo_corrente_, articolo_, code);
+}
+
+// Codes -----------------------------------------------------------------------------------------
+
+void article_lookup::follow_cell(std::string_view code) {
+    lista_trovato_ = 0;
+    if (!code.empty()) search_list(upper(trimmed(code)));
+}
+
+void article_lookup::follow_key(std::string_view code, char key) {
+    search_list(upper(trimmed(code)) + upper(key));
+}
+
+bool article_lookup::take_code(std::string_view code) {
+    if (!barcode.on()) {
+        if (lista_trovato_ == 0) return false;
+        take_list_entry();
+        return true;
+    }
+    if (!find_bar_code(upper(trimmed(code)))) return false;
+    report(articolo_.codice_barre.trimmed());
+    return true;
+}
+
+bool article_lookup::find_bar_code(const std::string& code) {
+    count_articles();
+    lista_trovato_ = cerca_codice_barre(app_.archives.srb, articles(), code);
+    rec_srb entry;
+    if (!app_.archives.srb.read(lista_trovato_, entry)) return false;
+    articolo_corrente_ = entry.numero;
+    return app_.archives.art.read(articolo_corrente_, articolo_) && articolo_.eliminato == 0;
+}
+
+// Descriptions and stock --------------------------------------------------------------------------
+
+bool article_lookup::take_description(std::string_view text) {
+    if (!can_search()) return false;
+    lista_trovato_ = 0;
+    count_articles();
+    const std::int16_t found = cerca_descrizione(app_.archives.art, articles(), trimmed(text));
+    lista_trovato_ = found;
+    if (found == 0) return true;
+    rec_art article;
+    app_.archives.art.read(found, article);
+    search_list(upper(article.codice.trimmed()));
+    if (lista_trovato_ == 1) take_list_entry();
+    return true;
+}
+
+void article_lookup::mostra_giacenza(std::int16_t article) {
+    if (article <= 0 || article == numero_articolo(listx.text())) return;
+    rec_art record;
+    app_.archives.art.read(article, record);
+    listx.set_text(riga_giacenza(record, article));
+}
+
+}  // namespace vantora

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "entry/article_list.h"
+#include "program/program.h"
+#include "ui/controls.h"
+
+namespace vantora {
+
+/// Finds the article of a line: by a code that the list follows while it is typed, by a bar code,
+/// by a click on the list, or by a description; and shows an article's stock. What was found goes
+/// to `on_found`; which line takes it is its screen's business.
+class article_lookup {
+ public:
+    explicit article_lookup(program& app) : app_(app) {}
+    article_lookup(const article_lookup&) = delete;
+    article_lookup& operator=(const article_lookup&) = delete;
+
+    ui::sorted_list_box List1;  ///< all live articles
+    ui::label listx;            ///< stock of the current article
+    ui::check_box barcode;      ///< codes are bar codes
+
+    /// Takes an article that was found, with the code that stands for it on a line.
+    std::function<void(std::int16_t number, const rec_art& article, std::string_view code)>
+        on_found;
+
+    /// How many articles there are, by the last look at their counter.
+    [[nodiscard]] std::int16_t articles() const { return contatore_.quanti; }
+
+    /// A screen begins: bar codes as the company has it, else the list, read anew.
+    void open();
+    /// Reads the list of articles anew.
+    void reload();
+    /// The user switched bar codes on or off.
+    void barcode_switched();
+
+    /// A code cell takes the focus: the list goes to what stands in it.
+    void follow_cell(std::string_view code);
+    /// A key is typed behind a code.
+    void follow_key(std::string_view code, char key);
+    /// The code is confirmed. False if no article has it.
+    bool take_code(std::string_view code);
+    /// The user clicks the list.
+    void take_list_entry();
+    /// Takes the first article whose description begins so; none: nothing happens. False if the
+    /// list isn't there to search.
+    bool take_description(std::string_view text);
+
+    /// Shows the stock of an article, unless it is the one that shows.
+    void mostra_giacenza(std::int16_t article);
+
+ private:
+    void count_articles();
+    void attiva_lista(bool on);
+    void carica_lista(modo_lista mode);
+    [[nodiscard]] bool can_search() const;
+    void search_list(const std::string& wanted);
+    bool find_bar_code(const std::string& code);
+    void report(std::string_view code);
+
+    static constexpr int lista_ferma = -1;
+
+    program& app_;
+    rec_tot contatore_;              ///< of the articles
+    int stato_lista_ = lista_ferma;  ///< -1: list not loaded or busy; else a modo_lista
+    int lista_trovato_ = 0;          ///< outcome of the last search
+    std::int16_t articolo_corrente_ = 0;
+    rec_art articolo_;
+};
+
+}  // namespace vantora

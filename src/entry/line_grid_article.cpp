@@ -1,0 +1,77 @@
+#include <cmath>
+
+#include "entry/line_grid.h"
+#include "program/vat_codes.h"
+
+namespace vantora {
+
+// How a line takes the article that was found for it.
+
+void line_grid::wire_lookup() {
+    lookup_.on_found = [this](std::int16_t number, const rec_art& article, std::string_view code) {
+        take_article(number, article, code);
+    };
+    lookup_.List1.on_click = [this] {
+        if (current_row_shown()) lookup_.take_list_entry();
+    };
+    lookup_.List1.set_enabled(false);
+    lookup_.barcode.on_click = [this] {
+        lookup_.barcode_switched();
+        if (!current_row_shown()) riga_corrente_ = 0;
+        return_to(artic);
+    };
+    command3d3.on_click = [this] {
+        lookup_.reload();
+        return_to(artic);
+    };
+}
+
+void line_grid::article_key(int row, ui::key_event& key) {
+    if (key.code == ui::key::enter) {
+        key.swallow();
+        article_enter(row);
+        return;
+    }
+    lookup_.follow_key(artic[row].text(), static_cast<char>(key.code));
+}
+
+void line_grid::article_enter(int row) {
+    const std::string code(trimmed(artic[row].text()));
+    if (code.empty()) {
+        ds[row].set_focus();
+        return;
+    }
+    if (lookup_.take_code(code)) return;
+    app_.desk.message("Articolo non esistente", "Attenzione", ui::icon::stop);
+    artic[row].set_focus();
+}
+
+void line_grid::take_article(std::int16_t number, const rec_art& article, std::string_view code) {
+    const int at = line_of(riga_corrente_);
+    riga_ordine& line = righe_[at];
+    line.articolo = number;
+    line.codice = code;
+    line.descrizione = article.descrizione.trimmed();
+    line.iva = own_vat_code(cliente_).value_or(article.iva);
+    const double price = prezz[0].on() ? article.prezzo1 : article.prezzo2;
+    line.prezzo = std::isfinite(price) ? price : 0;
+    line.um = article.um.trimmed();
+    unfold_long_text(number, at);
+    paint();
+    return_to(quantita);
+}
+
+void line_grid::unfold_long_text(std::int16_t article, int line) {
+    rec_prx text;
+    if (!app_.archives.prx.read(article, text)) return;
+    if (text.marca_testo != rec_prx::ha_testo) return;
+    for (const auto& written : text.righe) {
+        const std::string clean = filtra_stampa(written.full());
+        if (trimmed(clean).empty()) continue;
+        riga_ordine& below = righe_[++line];
+        clear_line(below);
+        below.descrizione = trimmed(clean);
+    }
+}
+
+}  // namespace vantora

@@ -1,0 +1,77 @@
+#include "entry/order_screen.h"
+
+#include "customer/customer_head.h"
+#include "entry/order_head.h"
+#include "entry/order_printing.h"
+#include "store/text/number_text.h"
+
+namespace vantora {
+
+order_screen::order_screen(program& app, const line_grid_kind& kind, ui::screen_place& head,
+                           const char* print_title)
+    : line_grid(app, kind), head_(head), print_title_(print_title) {}
+
+customer_head& order_screen::head() const {
+    return static_cast<customer_head&>(head_.use());
+}
+
+void order_screen::activate() {
+    if (at_work()) return;
+    Picture1.set_visible(false);
+    Combo1.set_visible(false);
+    open();
+    artic[0].set_focus();
+}
+
+void order_screen::open_order(std::int16_t customer) {
+    open_lines(customer);
+    prezz[number_at_head(cliente_.listino.full()) == 1 ? 1 : 0].set_on(true);
+    propose_mail();
+}
+
+int order_screen::chosen_price() const {
+    for (const int price : {0, 1}) {
+        if (prezz[price].on()) return price;
+    }
+    return 2;
+}
+
+void order_screen::run_command(int command) {
+    if (command == uscita) return leave();
+    if (command == conferma) return save();
+    run_own_command(command);
+}
+
+void order_screen::save() {
+    const work saving(*this);
+    app_.desk.set_pointer(ui::pointer::busy);
+    const bool saved = store();
+    app_.desk.set_pointer(ui::pointer::normal);
+    if (!saved) {
+        app_.desk.message("Archivio degli ordini non leggibile: l'ordine non è stato salvato"_cp,
+                          "Attenzione", ui::icon::stop);
+        return;
+    }
+    offer_to_print();
+    app_.ricarica_registro = 1;
+    leave();
+}
+
+void order_screen::offer_to_print() {
+    // Printing lets events run, and cleans the lines it prints: it gets those that were saved.
+    righe_ordine lines = righe_;
+    const totali_ordine totals = totali_;
+    const testata_ordine head_printed = testata_da_stampare(head());
+    offri_stampa(app_, print_title_,
+                 {head_printed, lines, totals.iva, cliente_, valuta_, tabelle_, disegno_, Picture1},
+                 {tipo_documento::ordine, head_printed.text3[0], postael.on(),
+                  cliente_.email.full(), tabelle_});
+}
+
+void order_screen::leave() {
+    unload();
+    if (head_.loaded()) head_.use().unload();
+    app_.mirorc.use().show();
+}
+
+}  // namespace vantora

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "entry/line_grid.h"
+
+namespace vantora {
+
+class customer_head;
+
+/// The lines of a customer's order, new or existing: what happens around them until the order is
+/// stored, printed and the register is back. Its customer and head stand in a screen of their own,
+/// hidden behind.
+class order_screen : public line_grid {
+ public:
+    /// `head`: the place of the screen that holds the head, which is a customer_head.
+    /// `print_title`: of the question whether to print.
+    order_screen(program& app, const line_grid_kind& kind, ui::screen_place& head,
+                 const char* print_title);
+
+ protected:
+    void activate() override;
+    /// Leaves and saves; other commands are the screen's own.
+    void run_command(int command) override;
+
+    /// The screen becomes active.
+    virtual void open() = 0;
+    /// Stores the order; false if that isn't possible: the screen then stays.
+    virtual bool store() = 0;
+    /// A command that leaves and saving don't cover.
+    virtual void run_own_command(int command) = 0;
+
+    [[nodiscard]] customer_head& head() const;
+    /// A fresh screen for an order of a customer: no lines, options as company and customer have
+    /// them.
+    void open_order(std::int16_t customer);
+    /// Which of the article's prices is on, 0 or 1; 2 for none.
+    [[nodiscard]] int chosen_price() const;
+    /// Back to the register; the order's screens go.
+    void leave();
+
+ private:
+    void save();
+    void offer_to_print();
+
+    ui::screen_place& head_;
+    const char* print_title_;
+};
+
+}  // namespace vantora
