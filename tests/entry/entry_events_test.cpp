@@ -71,52 +71,52 @@ TEST_F(entry_events, AVatCellThatTakesTheFocusDuringAPickLeavesNoRowToGoTo) {
     screen().VScroll1.set_value(20);
     screen().um[2].set_focus();
     user.pending = [&] { screen().civ[3].set_focus(); };
-    screen().List1.pick(1);
+    screen().lookup().List1.pick(1);
     EXPECT_EQ(screen().artic[2].text(), "B");
     EXPECT_TRUE(screen().Combo1.has_focus());
 }
 
 TEST_F(entry_events, TheListIsDeafWhileAPickIsUnderWay) {
     screen().um[2].set_focus();
-    user.pending = [&] { screen().List1.pick(0); };
-    screen().List1.pick(1);
+    user.pending = [&] { screen().lookup().List1.pick(0); };
+    screen().lookup().List1.pick(1);
     EXPECT_EQ(screen().artic[2].text(), "B");
-    screen().List1.pick(0);
+    screen().lookup().List1.pick(0);
     EXPECT_EQ(screen().artic[2].text(), "A");
 }
 
 TEST_F(entry_events, TheStockLineIsReadOnceAndPricesEachTime) {
-    screen().List1.pick(0);
-    const std::string stock = screen().listx.text();
+    screen().lookup().List1.pick(0);
+    const std::string stock = screen().lookup().listx.text();
     auto changed = article("A", "Uno", 5);
     changed.giacenza = 99;
     company.files.art.write(1, changed);
-    screen().List1.pick(0);
+    screen().lookup().List1.pick(0);
     EXPECT_EQ(screen().prezzo[0].text(), "5");
-    EXPECT_EQ(screen().listx.text(), stock);
+    EXPECT_EQ(screen().lookup().listx.text(), stock);
     screen().um[1].set_focus();  // a line without article shows no other stock
-    EXPECT_EQ(screen().listx.text(), stock);
-    screen().List1.pick(1);
+    EXPECT_EQ(screen().lookup().listx.text(), stock);
+    screen().lookup().List1.pick(1);
     screen().um[0].set_focus();
-    EXPECT_NE(screen().listx.text().find("Giacenza:99 "), std::string::npos);
+    EXPECT_NE(screen().lookup().listx.text().find("Giacenza:99 "), std::string::npos);
 }
 
 TEST_F(entry_events, ArticlesThatCameMeanwhileAreListedWhenCodesAreTypedAgain) {
     company.articles({});
     screen().hide();
     screen().show();
-    screen().barcode.set_on(true);
-    screen().barcode.set_on(false);
-    EXPECT_FALSE(screen().List1.enabled());
-    screen().barcode.set_on(true);
+    screen().lookup().barcode.set_on(true);
+    screen().lookup().barcode.set_on(false);
+    EXPECT_FALSE(screen().lookup().List1.enabled());
+    screen().lookup().barcode.set_on(true);
     company.articles({article("A", "Uno", 1)});
-    screen().barcode.set_on(false);
-    EXPECT_TRUE(screen().List1.enabled());
+    screen().lookup().barcode.set_on(false);
+    EXPECT_TRUE(screen().lookup().List1.enabled());
 }
 
 TEST_F(entry_events, ComingBackFreshStartsTheOrderOver) {
     const auto leave_and_come_back = [&](int modo_ordine) {
-        screen().List1.pick(0);
+        screen().lookup().List1.pick(0);
         screen().VScroll1.set_value(30);
         screen().hide();
         app.modo_ordine = modo_ordine;
@@ -126,15 +126,15 @@ TEST_F(entry_events, ComingBackFreshStartsTheOrderOver) {
     EXPECT_EQ(screen().VScroll1.value(), 30);
     EXPECT_EQ(screen().tota[0].text(), "1 ");
     // The lines out of sight go, too, and the totals with them.
-    screen().barcode.set_on(true);
+    screen().lookup().barcode.set_on(true);
     screen().impegno.set_on(true);
     leave_and_come_back(0);
     EXPECT_EQ(screen().VScroll1.value(), 1);
     EXPECT_EQ(screen().artic[0].text(), "");
     EXPECT_EQ(screen().tota[0].text(), " ");
     EXPECT_EQ(screen().tota[2].text(), "0 ");
-    EXPECT_FALSE(screen().barcode.on() || screen().impegno.on());
-    EXPECT_TRUE(screen().List1.enabled());
+    EXPECT_FALSE(screen().lookup().barcode.on() || screen().impegno.on());
+    EXPECT_TRUE(screen().lookup().List1.enabled());
     EXPECT_TRUE(screen().artic[0].has_focus());
 }
 
