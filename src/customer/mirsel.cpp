@@ -2,7 +2,6 @@
 
 #include "customer/mirorcx.h"
 #include "program/customer_stretches.h"
-#include "program/list_grid.h"
 #include "store/key_index.h"
 #include "store/text/number_text.h"
 
@@ -11,8 +10,6 @@ namespace vantora {
 namespace {
 
 constexpr int righe_minime = 26;
-/// Rows that the list takes, head included.
-constexpr int righe_elencabili = righe_riservate - 1;
 
 std::vector<ui::grid_column> customer_columns() {
     return {{"Nominativo", 3700},  {"", 3000}, {"Indirizzo", 3000}, {"Città"_cp, 3000},
@@ -45,7 +42,10 @@ struct mirsel::row_content {
     i16le eliminato;
 };
 
-mirsel::mirsel(program& app) : form(app.desk, "mirsel", "Selezione cliente"), app_(app) {
+mirsel::mirsel(program& app)
+    : form(app.desk, "mirsel", "Selezione cliente"),
+      app_(app),
+      lista_(elenco, app, righe_minime, numero) {
     add("elenco", elenco);
     add("srx", srx);
     add("selnome", selnome);
@@ -61,10 +61,7 @@ mirsel::mirsel(program& app) : form(app.desk, "mirsel", "Selezione cliente"), ap
     };
     indice.on_click = [this] { leave("", 0); };
     for (int i = 0; i < 5; ++i) {
-        srx[i].on_click = [this, i] {
-            sort_list(elenco, i, ui::sort_order::generic_ascending, righe_elenco_, righe_minime,
-                      numero, app_.parameters.gnr, app_.desk);
-        };
+        srx[i].on_click = [this, i] { lista_.sort(i, ui::sort_order::generic_ascending); };
     }
 }
 
@@ -82,45 +79,34 @@ void mirsel::close() {
 }
 
 void mirsel::build_list() {
-    app_.desk.set_pointer(ui::pointer::busy);
-    elenco.set_visible(false);
-    empty_list(elenco);
-    app_.riga_elenco = 1;
-
-    rec_tot counter;
-    app_.archives.tot.read(contatori::clienti, counter);
-    list_customers(counter.quanti);
-
-    righe_elenco_ = app_.riga_elenco;
-    cut_list(elenco, righe_elenco_, righe_minime);
-    paint_stripes(elenco, numero, app_.parameters.gnr);
-    elenco.set_visible(true);
+    lista_.build([this](list_rows& list) { list_customers(list); });
     elenco.set_focus();
-    app_.desk.set_pointer(ui::pointer::normal);
 }
 
-void mirsel::list_customers(std::int16_t count) {
+void mirsel::list_customers(list_rows& list) {
+    rec_tot counter;
+    app_.archives.tot.read(contatori::clienti, counter);
     const std::string wanted = upper(trimmed(selnome.text()));
     customer_stretches<row_content> customers(app_.archives.cli);
     const std::function<bool(std::int16_t, const rec_src&)> visit = [&](std::int16_t,
                                                                         const rec_src& entry) {
         const row_content& customer = customers.of(entry.numero);
         if (customer.eliminato == 0 && customer.name_holds(wanted)) {
-            list_customer(customer, entry.numero);
+            list_customer(list, customer, entry.numero);
         }
-        return app_.riga_elenco < righe_elencabili;
+        return !list.full();
     };
-    percorri_indice(app_.archives.src, count, visit);
+    percorri_indice(app_.archives.src, counter.quanti, visit);
 }
 
-void mirsel::list_customer(const row_content& customer, std::int16_t number) {
-    const int row = app_.riga_elenco++;
-    elenco.set_text(row, nominativo, customer.intestazione1.trimmed());
-    elenco.set_text(row, nominativo2, customer.intestazione2.trimmed());
-    elenco.set_text(row, indirizzo, customer.indirizzo.trimmed());
-    elenco.set_text(row, citta, customer.citta.trimmed());
-    elenco.set_text(row, partita_iva, customer.partita_iva.trimmed());
-    elenco.set_text(row, numero, std::to_string(number));
+void mirsel::list_customer(list_rows& list, const row_content& customer, std::int16_t number) {
+    list.next();
+    list.write(nominativo, customer.intestazione1.trimmed());
+    list.write(nominativo2, customer.intestazione2.trimmed());
+    list.write(indirizzo, customer.indirizzo.trimmed());
+    list.write(citta, customer.citta.trimmed());
+    list.write(partita_iva, customer.partita_iva.trimmed());
+    list.write(numero, std::to_string(number));
 }
 
 void mirsel::pick_row() {

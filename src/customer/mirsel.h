@@ -1,6 +1,6 @@
 #pragma once
 
-#include "program/program.h"
+#include "program/list_grid.h"
 #include "ui/controls.h"
 
 namespace vantora {
@@ -34,14 +34,14 @@ class mirsel final : public ui::form {
     struct row_content;
 
     void build_list();
-    void list_customers(std::int16_t count);
-    void list_customer(const row_content& customer, std::int16_t number);
+    void list_customers(list_rows& list);
+    void list_customer(list_rows& list, const row_content& customer, std::int16_t number);
     void pick_row();
     void leave(const std::string& chosen_name, int outcome);
     customer_head* caller();
 
     program& app_;
-    int righe_elenco_ = 1;  ///< rows of the grid in use, head included
+    list_grid lista_;
 };
 
 }  // namespace vantora

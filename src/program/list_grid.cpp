@@ -15,34 +15,49 @@ ui::colour stored_colour(double value) {
 
 }  // namespace
 
-void empty_list(ui::grid& list) {
-    list.set_rows(1);
-    list.set_rows(righe_riservate);
+void list_grid::build(const filling& fill) {
+    const bool had_focus = grid_.has_focus();
+    app_.desk.set_pointer(ui::pointer::busy);
+    grid_.set_visible(false);
+    empty();
+    list_rows rows(grid_);
+    fill(rows);
+    finish(rows.in_use());
+    grid_.set_visible(true);
+    if (had_focus) grid_.set_focus();
+    app_.desk.set_pointer(ui::pointer::normal);
 }
 
-void cut_list(ui::grid& list, int rows_in_use, int minimum) {
-    list.set_rows(std::max(rows_in_use, minimum));
+void list_grid::sort(int col, ui::sort_order by) {
+    if (in_use_ < minimum_) grid_.set_rows(in_use_);
+    grid_.sort(col, by);
+    app_.desk.let_events_run();
+    // The user may have had the list built anew meanwhile, with more rows.
+    grid_.set_rows(std::max(grid_.rows(), minimum_));
+    paint_stripes();
+    grid_.set_focus();
 }
 
-void paint_stripes(ui::grid& list, int last_col, const rec_gnr& parameters) {
+void list_grid::empty() {
+    grid_.set_rows(1);
+    grid_.set_rows(righe_riservate);
+    in_use_ = 1;
+}
+
+void list_grid::finish(int in_use) {
+    in_use_ = in_use;
+    grid_.set_rows(std::max(in_use, minimum_));
+    paint_stripes();
+}
+
+void list_grid::paint_stripes() {
+    const rec_gnr& parameters = app_.parameters.gnr;
     if (parameters.righe_alternate.full() != "1") return;
     const ui::colour even = stored_colour(parameters.colore_riga_pari);
     const ui::colour odd = stored_colour(parameters.colore_riga_dispari);
-    for (int row = 1; row < list.rows(); ++row) {
-        list.set_back_colour(row, 0, last_col, row % 2 == 0 ? even : odd);
+    for (int row = 1; row < grid_.rows(); ++row) {
+        grid_.set_back_colour(row, 0, last_col_, row % 2 == 0 ? even : odd);
     }
-}
-
-void sort_list(ui::grid& list, int col, ui::sort_order by, int rows_in_use, int minimum,
-               int last_col, const rec_gnr& parameters, ui::desk& desk) {
-    const int shown_rows = list.rows();
-    const bool has_blanks = rows_in_use < minimum;
-    if (has_blanks) list.set_rows(rows_in_use);
-    list.sort(col, by);
-    desk.let_events_run();
-    if (has_blanks) list.set_rows(shown_rows);
-    paint_stripes(list, last_col, parameters);
-    list.set_focus();
 }
 
 }  // namespace vantora

@@ -1,7 +1,9 @@
 #pragma once
 
-#include "store/records/rec_gnr.h"
-#include "ui/desk.h"
+#include <functional>
+#include <string_view>
+
+#include "program/program.h"
 #include "ui/grid.h"
 
 namespace vantora {
@@ -9,21 +11,67 @@ namespace vantora {
 // What the lists of all screens share: they are filled behind a hidden grid, never show less than
 // a page of rows, are striped, and are sorted without their blank rows.
 
-/// Rows that a list reserves while it is filled, head included; what lies beyond isn't listed.
+/// Rows that a list reserves while it is filled, head included.
 inline constexpr int righe_riservate = 32000;
+/// Rows that a list takes, without the head; what lies beyond isn't listed.
+inline constexpr int righe_elencabili = righe_riservate - 2;
 
-/// Empties a list down to its head and reserves its room.
-void empty_list(ui::grid& list);
+/// The rows of a list while it is filled, one behind the other.
+class list_rows {
+ public:
+    /// `most`: rows that the list takes, without the head.
+    explicit list_rows(ui::grid& list, int most = righe_elencabili) : list_(list), most_(most) {}
 
-/// Cuts a filled list to the rows in use, head included, but never below `minimum`.
-void cut_list(ui::grid& list, int rows_in_use, int minimum);
+    /// Whether nothing further can be listed.
+    [[nodiscard]] bool full() const { return in_use_ > most_; }
+    /// Starts the next row. REQUIRES: !full().
+    void next() { ++in_use_; }
+    /// Writes into the row at hand.
+    void write(int col, std::string_view text) { list_.set_text(in_use_ - 1, col, text); }
+    /// Rows in use, head included.
+    [[nodiscard]] int in_use() const { return in_use_; }
 
-/// Stripes all rows from column 0 to `last_col`, if the company wants its lists striped.
-void paint_stripes(ui::grid& list, int last_col, const rec_gnr& parameters);
+ private:
+    ui::grid& list_;
+    int most_;
+    int in_use_ = 1;
+};
 
-/// Sorts a list by a column with its blank rows kept at the bottom: `rows_in_use`, head included,
-/// below `minimum` means that there are some. Stripes it again and puts the focus on it.
-void sort_list(ui::grid& list, int col, ui::sort_order by, int rows_in_use, int minimum,
-               int last_col, const rec_gnr& parameters, ui::desk& desk);
+/// A list over a grid of a screen: builds it, sorts it, knows how many of its rows are in use. Its
+/// steps also stand alone, for a screen that lets the user work while its list fills.
+class list_grid {
+ public:
+    /// `minimum`: the grid never shows fewer rows, head included. `last_col`: the stripes go from
+    /// column 0 to here. REQUIRES: grid and program outlive the list.
+    list_grid(ui::grid& grid, program& app, int minimum, int last_col)
+        : grid_(grid), app_(app), minimum_(minimum), last_col_(last_col) {}
+
+    using filling = std::function<void(list_rows&)>;
+
+    /// Fills the list anew, hidden and under the busy pointer. A focus on the grid stays there.
+    void build(const filling& fill);
+    /// Sorts the list, with its blank rows kept at the bottom, lets pending events run, and puts
+    /// the focus on the grid. What those events make of the list stays.
+    void sort(int col, ui::sort_order by);
+
+    /// Rows in use, head included.
+    [[nodiscard]] int in_use() const { return in_use_; }
+
+    // The steps of a build ----------------------------------------------------------------------
+
+    /// Empties the list down to its head and reserves its room.
+    void empty();
+    /// Cuts the list to the rows in use, but never below its minimum, and stripes it.
+    void finish(int in_use);
+    /// Stripes all rows, blank ones too, if the company wants its lists striped.
+    void paint_stripes();
+
+ private:
+    ui::grid& grid_;
+    program& app_;
+    int minimum_;
+    int last_col_;
+    int in_use_ = 1;
+};
 
 }  // namespace vantora

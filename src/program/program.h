@@ -50,7 +50,6 @@ struct program {
     int schermo_pronto = 0;     ///< 0: the next screen starts fresh
     int ricarica_registro = 0;  ///< 1: the register rebuilds its list on return
     int selezione_cliente = 0;  ///< who called the customer pick list, 99: a customer was chosen
-    int riga_elenco = 1;        ///< row counter of the list being built
     double data_sistema = 0;    ///< date number of the last confirmation
 
     // The date dialog: dates as texts, dd/mm/yyyy.

@@ -1,6 +1,5 @@
 #include "register/mirorc.h"
 
-#include "program/list_grid.h"
 #include "store/text/int16.h"
 #include "store/text/number_text.h"
 
@@ -25,7 +24,10 @@ std::vector<ui::grid_column> register_columns() {
 
 }  // namespace
 
-mirorc::mirorc(program& app) : form(app.desk, "mirorc", "Gestione ordini clienti"), app_(app) {
+mirorc::mirorc(program& app)
+    : form(app.desk, "mirorc", "Gestione ordini clienti"),
+      app_(app),
+      lista_(elenco, app, righe_minime, evasione) {
     add("elenco", elenco);
     add("srx", srx);
     add("selvis", selvis);
@@ -105,9 +107,8 @@ void mirorc::sort_by(int button) {
         elenco.set_focus();
         return;
     }
-    const int col = button == data ? data_stored : button;
-    sort_list(elenco, col, button == data ? numeric_ascending : generic_ascending, righe_registro_,
-              righe_minime, evasione, app_.parameters.gnr, app_.desk);
+    if (button == data) return lista_.sort(data_stored, numeric_ascending);
+    lista_.sort(button, generic_ascending);
 }
 
 void mirorc::run_command(int button) {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "program/customer_names.h"
-#include "program/program.h"
+#include "program/list_grid.h"
 #include "ui/controls.h"
 
 namespace vantora {
@@ -61,13 +61,13 @@ class mirorc final : public ui::form {
     void lead_to_if_customers(ui::screen_place& next);
 
     [[nodiscard]] int first_listed(int last) const;
-    void list_orders(int last, std::int16_t customers);
-    void list_order(int registrazione, customer_names& names);
+    void list_orders(list_rows& list);
+    void list_order(list_rows& list, int registrazione, customer_names& names);
 
     program& app_;
     ui::option_group selvis_group_;
     ui::option_group visua_group_;
-    int righe_registro_ = 1;  ///< rows of the grid in use, head included
+    list_grid lista_;
     bool compacting_ = false;
     rec_orc riga_;       ///< work copy of an order's row
     rec_tot contatore_;  ///< work copy of a counters record

@@ -1,7 +1,6 @@
 #include <algorithm>
 #include <charconv>
 
-#include "program/list_grid.h"
 #include "register/mirorc.h"
 #include "store/text/dates.h"
 
@@ -11,31 +10,14 @@ namespace {
 
 /// Rows that the window shows; the view of the latest orders leaves so many at the bottom.
 constexpr int righe_in_vista = 22;
-constexpr int ordini_elencabili = righe_riservate - 2;
 
 }  // namespace
 
 void mirorc::build_list() {
-    const bool had_focus = elenco.has_focus();
-    app_.desk.set_pointer(ui::pointer::busy);
-    elenco.set_visible(false);
-    empty_list(elenco);
-    app_.riga_elenco = 1;
-
-    rec_tot customers;
-    app_.archives.tot.read(contatori::ordini, contatore_);
-    app_.archives.tot.read(contatori::clienti, customers);
-    list_orders(contatore_.quanti, customers.quanti);
-
-    righe_registro_ = app_.riga_elenco;
-    cut_list(elenco, righe_registro_, righe_minime);
-    if (visua[1].on() && righe_registro_ > righe_in_vista + 1) {
+    lista_.build([this](list_rows& list) { list_orders(list); });
+    if (visua[1].on() && lista_.in_use() > righe_in_vista + 1) {
         elenco.show_end(righe_in_vista);
     }
-    paint_stripes(elenco, evasione, app_.parameters.gnr);
-    elenco.set_visible(true);
-    if (had_focus) elenco.set_focus();
-    app_.desk.set_pointer(ui::pointer::normal);
 }
 
 int mirorc::first_listed(int last) const {
@@ -45,36 +27,39 @@ int mirorc::first_listed(int last) const {
     return std::max(first, 1);
 }
 
-void mirorc::list_orders(int last, std::int16_t customers) {
-    customer_names names(app_.archives.cli, customers);
-    const int first = first_listed(last);
-    last = std::min(last, first + ordini_elencabili - 1);
-    for (int registrazione = first; registrazione <= last; ++registrazione) {
+void mirorc::list_orders(list_rows& list) {
+    rec_tot customers;
+    app_.archives.tot.read(contatori::ordini, contatore_);
+    app_.archives.tot.read(contatori::clienti, customers);
+    customer_names names(app_.archives.cli, customers.quanti);
+    const int last = contatore_.quanti;
+    for (int registrazione = first_listed(last); registrazione <= last; ++registrazione) {
+        if (list.full()) return;
         app_.archives.orc.read(block_record(registrazione, 1), riga_);
-        list_order(registrazione, names);
+        list_order(list, registrazione, names);
     }
 }
 
-void mirorc::list_order(int registrazione, customer_names& names) {
-    const int row = app_.riga_elenco++;
+void mirorc::list_order(list_rows& list, int registrazione, customer_names& names) {
+    list.next();
     char digits[8];
     const auto end = std::to_chars(digits, digits + sizeof digits, registrazione).ptr;
     const std::string_view number(digits, static_cast<std::size_t>(end - digits));
     if (riga_.annullato == 1) {
-        elenco.set_text(row, registr, number);
-        elenco.set_text(row, cliente, "Ordine eliminato");
+        list.write(registr, number);
+        list.write(cliente, "Ordine eliminato");
         return;
     }
-    elenco.set_text(row, data_stored, riga_.data.full());
-    elenco.set_text(row, registr, number);
-    elenco.set_text(row, ordine, riga_.numero.trimmed());
-    elenco.set_text(row, data, date_text_of_stored(riga_.data.full()));
-    elenco.set_text(row, cliente, names.of(riga_.cliente));
-    elenco.set_text(row, descrizione, riga_.testo1.trimmed());
+    list.write(data_stored, riga_.data.full());
+    list.write(registr, number);
+    list.write(ordine, riga_.numero.trimmed());
+    list.write(data, date_text_of_stored(riga_.data.full()));
+    list.write(cliente, names.of(riga_.cliente));
+    list.write(descrizione, riga_.testo1.trimmed());
     if (riga_.evaso_flag == 1) {
-        elenco.set_text(row, evasione, "EVASO");
+        list.write(evasione, "EVASO");
     } else {
-        elenco.set_text(row, evasione, date_text_of_stored(riga_.data_evasione.full()));
+        list.write(evasione, date_text_of_stored(riga_.data_evasione.full()));
     }
 }
 

@@ -1,0 +1,83 @@
+#include "program/list_grid.h"
+
+#include <gtest/gtest.h>
+
+#include "support/program_stage.h"
+#include "ui/controls.h"
+
+namespace vantora::test {
+namespace {
+
+/// Does its own work whenever pending events are let through.
+class busy_user : public silent_front_end {
+ public:
+    std::function<void()> meanwhile;
+
+    void let_events_run() override {
+        if (meanwhile) meanwhile();
+    }
+};
+
+struct plain_screen : ui::form {
+    explicit plain_screen(program& app) : form(app.desk, "prova", ""), lista(elenco, app, 26, 0) {
+        add("altro", altro);
+        add("elenco", elenco);
+        elenco.set_columns({{"Numero", 100}, {"", 0}});
+    }
+    void show_numbers(int from, int to) {
+        lista.build([&](list_rows& list) {
+            for (int i = from; i <= to && !list.full(); ++i) {
+                list.next();
+                list.write(0, std::to_string(i));
+            }
+        });
+    }
+
+    ui::button altro;
+    ui::grid elenco;
+    list_grid lista;
+};
+
+class list_grid_of_a_screen : public testing::Test {
+ protected:
+    program_stage<busy_user> stage;
+    ui::screen<plain_screen> place;
+    plain_screen& screen = [this]() -> plain_screen& {
+        place.made_by(stage.desk, [this] { return std::make_unique<plain_screen>(stage.app); });
+        stage.app.parameters.gnr.righe_alternate = "1";
+        stage.app.parameters.gnr.colore_riga_pari = 1;
+        stage.app.parameters.gnr.colore_riga_dispari = 2;
+        place->show();
+        return *place;
+    }();
+};
+
+TEST_F(list_grid_of_a_screen, HoldsItsRowsAndNoMoreThanItsRoom) {
+    for (const auto& [last, in_use, shown] :
+         {std::tuple{0, 1, 26}, {25, 26, 26}, {26, 27, 27}, {40000, 31999, 31999}, {3, 4, 26}}) {
+        screen.elenco.set_focus();
+        screen.show_numbers(1, last);
+        EXPECT_EQ(screen.lista.in_use(), in_use);
+        EXPECT_EQ(screen.elenco.rows(), shown);
+        EXPECT_EQ(screen.elenco.text(in_use, 0), "") << "nothing is left of a longer list";
+        EXPECT_EQ(screen.elenco.back_colour(shown - 1, 0), shown % 2 == 0 ? 2U : 1U);
+        EXPECT_TRUE(screen.elenco.has_focus());
+        EXPECT_EQ(stage.desk.pointer_shape(), ui::pointer::normal);
+    }
+}
+
+TEST_F(list_grid_of_a_screen, ARefreshServedDuringASortStays) {
+    for (const auto& [before, after] : {std::pair{3, 60}, {60, 3}, {3, 5}, {60, 70}}) {
+        screen.show_numbers(1, before);
+        stage.front.meanwhile = [&, last = after] { screen.show_numbers(1, last); };
+        screen.lista.sort(0, ui::sort_order::generic_ascending);
+        EXPECT_EQ(screen.elenco.rows(), std::max(after + 1, 26)) << before;
+        EXPECT_EQ(screen.elenco.text(after, 0), std::to_string(after)) << before;
+        stage.front.meanwhile = nullptr;
+        screen.lista.sort(0, ui::sort_order::generic_ascending);
+        EXPECT_EQ(screen.elenco.text(1, 0), "1") << "blank rows stay at the bottom";
+    }
+}
+
+}  // namespace
+}  // namespace vantora::test
