@@ -2,8 +2,8 @@
 
 #include <vector>
 
-#include "documents/suite_table.h"
 #include "program/program.h"
+#include "store/suite_table.h"
 #include "ui/controls.h"
 
 namespace vantora {

@@ -4,13 +4,12 @@
 #include <string>
 #include <string_view>
 
-#include "documents/suite_table.h"
+#include "documents/document_kind.h"
+#include "documents/pdf_settings.h"
 #include "store/parameters.h"
+#include "store/suite_table.h"
 
 namespace vantora {
-
-/// The kinds of document that this module makes, as the suite numbers them.
-enum class tipo_documento { documento_trasporto = 5, ordine = 6 };
 
 /// One placed item of a document's layout, all as texts of the layout file.
 struct voce_layout {
@@ -21,9 +20,6 @@ struct voce_layout {
     std::string corsivo;    ///< "0": upright, anything else: italic
     std::string colore;     ///< 24 bits as a decimal number, red in the low byte
 };
-
-/// One row of "vantora.pdf".
-using voce_pdf = std::array<std::string, 4>;
 
 /// One element of a page's background: nine values and two texts.
 struct elemento_disegno {
@@ -44,7 +40,7 @@ struct tabelle_documento {
     std::array<std::string, 21> testi_intestazione;  ///< from 1
     tabella_iva iva;
     std::array<voce_layout, 101> tabella_layout;  ///< from 1
-    std::array<voce_pdf, 21> tabella_pdf;         ///< from 1, by kind of document
+    tabella_pdf pdf;
 };
 
 /// Loads the tables of a document, and its PDF settings into their slots of
@@ -56,8 +52,5 @@ void carica_documento(tabelle_documento& into, tipo_documento kind, parametri& p
 /// Loads the drawing list of a document. A missing file leaves a list without elements; one that
 /// ends early leaves the values behind its end as they were.
 void carica_disegno(disegno& into, tipo_documento kind, int numero_azienda, file_port& files);
-
-/// The text without control characters and without the character 255: what may go on a document.
-std::string filtra_stampa(std::string_view text);
 
 }  // namespace vantora

@@ -12,26 +12,18 @@ constexpr const char* titolo = "Attenzione";
 constexpr std::string_view nessun_indirizzo = "***";
 constexpr std::size_t colonna_argomento = 3;  ///< of a row of the PDF table
 
-struct nomi_pdf {
-    std::string_view layout;    ///< extension of the PDF program's own layout file
-    std::string_view prefisso;  ///< of the PDF's name, before the document's number
-};
-
-nomi_pdf names_of(tipo_documento kind) {
-    return kind == tipo_documento::ordine ? nomi_pdf{"lxo", "\\orc"} : nomi_pdf{"lxb", "\\bll"};
-}
-
 }  // namespace
 
 std::string comando_pdf(const parametri& parameters, const documento_stampato& document) {
-    const nomi_pdf names = names_of(document.tipo);
+    const nomi_documento names = nomi_di(document.tipo);
     std::string command(cartella_generale);
-    command.append("mirxpdf ").append(file_azienda(parameters.numero_azienda, names.layout));
+    command.append("mirxpdf ").append(file_azienda(parameters.numero_azienda, names.layout_pdf));
     command.append(",").append(file_di_stampa);
     command.append(",").append(trimmed(parameters.parametri_valuta[valuta_slot::cartella_pdf]));
-    command.append(names.prefisso).append(plain_text(number_at_head(document.numero)));
+    command.append("\\").append(names.prefisso_pdf);
+    command.append(plain_text(number_at_head(document.numero)));
     command.append(".pdf,").append(document.invia ? trimmed(document.email) : nessun_indirizzo);
-    const auto& row = document.tabelle.tabella_pdf[static_cast<std::size_t>(document.tipo)];
+    const auto& row = document.tabelle.pdf[static_cast<std::size_t>(document.tipo)];
     const std::string_view extra = trimmed(row[colonna_argomento]);
     if (!extra.empty()) command.append(",").append(extra);
     return command;

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "documents/document_tables.h"
+#include "store/text/code_page.h"
 #include "store/text/int16.h"
 #include "store/text/number_text.h"
 

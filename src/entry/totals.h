@@ -1,7 +1,7 @@
 #pragma once
 
-#include "documents/suite_table.h"
 #include "program/order_lines.h"
+#include "store/suite_table.h"
 #include "store/values.h"
 
 namespace vantora {

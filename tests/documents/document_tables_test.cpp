@@ -94,7 +94,7 @@ TEST_F(document_tables, PdfSettingsGoToTheirSlots) {
     EXPECT_EQ(parameters.parametri_valuta[valuta_slot::riservato_pdf], "21");
     EXPECT_EQ(parameters.parametri_valuta[valuta_slot::invio_email], "22");
     EXPECT_EQ(parameters.parametri_valuta[valuta_slot::cartella_pdf], "C:\\PDF");
-    EXPECT_EQ(tables.tabella_pdf[6][3], "24");
+    EXPECT_EQ(tables.pdf[6][3], "24");
     load(tipo_documento::documento_trasporto);
     EXPECT_EQ(parameters.parametri_valuta[valuta_slot::cartella_pdf], "C:");
 }
@@ -114,12 +114,6 @@ TEST_F(document_tables, ADrawingReadsAllItsBlocksWhateverItsCountSays) {
     EXPECT_EQ(list->elenco[2].testi[1], "Verdana");
     EXPECT_EQ(list->elenco[2].valori[2], 3);
     EXPECT_EQ(list->elenco[2].valori[3], 0);
-}
-
-TEST(filtra_stampa, KeepsWhatMayBePrinted) {
-    EXPECT_EQ(filtra_stampa("a\tb\r\nc"), "abc");
-    EXPECT_EQ(filtra_stampa("caff\xE8 \xFF\xFE"), "caff\xE8 \xFE");
-    EXPECT_EQ(filtra_stampa(std::string_view("\0x", 2)), "x");
 }
 
 }  // namespace

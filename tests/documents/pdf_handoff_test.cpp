@@ -24,7 +24,7 @@ TEST(pdf_handoff, TheCommandNamesLayoutFileAndAddress) {
     };
     for (const auto& one : cases) {
         tabelle_documento tables;
-        tables.tabella_pdf[6][3] = one.extra;
+        tables.pdf[6][3] = one.extra;
         parametri parameters;
         parameters.numero_azienda = 7;
         parameters.parametri_valuta[valuta_slot::cartella_pdf] = one.folder;

@@ -42,5 +42,11 @@ TEST(compare_alphabetically, PutsAccentsBesideTheirBaseLetter) {
     EXPECT_EQ(compare_alphabetically("Citt\xC0", "cITT\xE0"), 0);
 }
 
+TEST(filtra_stampa, KeepsWhatMayBePrinted) {
+    EXPECT_EQ(filtra_stampa("a\tb\r\nc"), "abc");
+    EXPECT_EQ(filtra_stampa("caff\xE8 \xFF\xFE"), "caff\xE8 \xFE");
+    EXPECT_EQ(filtra_stampa(std::string_view("\0x", 2)), "x");
+}
+
 }  // namespace
 }  // namespace vantora

@@ -170,6 +170,16 @@ std::string_view trimmed(std::string_view text) {
     return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
+std::string filtra_stampa(std::string_view text) {
+    std::string kept;
+    kept.reserve(text.size());
+    for (const char character : text) {
+        const auto code = static_cast<unsigned char>(character);
+        if (code >= 32 && code < 255) kept.push_back(character);
+    }
+    return kept;
+}
+
 int compare_alphabetically(std::string_view left, std::string_view right) {
     const std::size_t shared = std::min(left.size(), right.size());
     int accents = 0;

@@ -27,6 +27,9 @@ std::string upper(std::string_view text);
 /// The text without blanks at both ends. Only blanks: zero bytes and tabs stay.
 std::string_view trimmed(std::string_view text);
 
+/// The text without control characters and without the character 255: what may go on a document.
+std::string filtra_stampa(std::string_view text);
+
 /// Order of two texts by the alphabet, without regard to case: signs, then digits, then letters,
 /// an accented letter with its base letter, behind it where nothing else decides. Negative, zero or
 /// positive.

@@ -1,4 +1,4 @@
-#include "documents/suite_table.h"
+#include "store/suite_table.h"
 
 #include <gtest/gtest.h>
 

@@ -1,0 +1,23 @@
+#include "documents/pdf_settings.h"
+
+#include "store/company.h"
+#include "store/text/code_page.h"
+#include "store/text_reader.h"
+
+namespace vantora {
+
+void carica_pdf(tabella_pdf& into, tipo_documento kind, parametri& parameters, file_port& files) {
+    const std::string path = file_azienda(parameters.numero_azienda, "pdf");
+    text_reader lines(files.read_whole(path).value_or(""));
+    for (std::size_t row = 1; row < into.size(); ++row) {
+        for (auto& column : into[row]) lines.line(column);
+    }
+    const voce_pdf& settings = into[static_cast<std::size_t>(kind)];
+    auto& slots = parameters.parametri_valuta;
+    slots[valuta_slot::riservato_pdf] = trimmed(settings[0]);
+    slots[valuta_slot::invio_email] = trimmed(settings[1]);
+    slots[valuta_slot::cartella_pdf] = trimmed(settings[2]);
+    if (slots[valuta_slot::cartella_pdf].empty()) slots[valuta_slot::cartella_pdf] = "C:";
+}
+
+}  // namespace vantora
