@@ -1,7 +1,7 @@
 #include "customer/mirsel.h"
 
 #include "customer/mirorcx.h"
-#include "program/customer_stretches.h"
+#include "program/record_stretches.h"
 #include "store/key_index.h"
 #include "store/text/number_text.h"
 

@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "program/customer_stretches.h"
+#include "program/record_stretches.h"
 
 namespace vantora {
 

@@ -10,19 +10,20 @@
 
 namespace vantora {
 
-/// The customers for one build of a list. Neighbours in the file are read together, each stretch
-/// of the file once, and only the part of a customer that the list needs is kept: a Part is made
-/// from a `rec_cli`. Lives as long as the build, so what other programs write shows in the next.
-template <class Part>
-class customer_stretches {
+/// The customers or articles for one build of a list. Neighbours in the file are read together,
+/// each stretch of the file once, and only the part of a record that the list needs is kept: a Part
+/// is made from a Record. Lives as long as the build, so what other programs write shows in the
+/// next.
+template <class Record, class Part>
+class record_stretches {
  public:
-    explicit customer_stretches(const channel<rec_cli>& customers)
-        : customers_(customers), stretches_(stretches) {}
-    customer_stretches(const customer_stretches&) = delete;
-    customer_stretches& operator=(const customer_stretches&) = delete;
+    explicit record_stretches(const channel<Record>& records)
+        : records_(records), stretches_(stretches) {}
+    record_stretches(const record_stretches&) = delete;
+    record_stretches& operator=(const record_stretches&) = delete;
 
-    /// The part of customer `number`. Where the customer can't be read it is the one that was
-    /// looked up before, at first that of an empty record. Valid until the next call.
+    /// The part of record `number`. Where the record can't be read it is the one that was looked up
+    /// before, at first that of an empty record. Valid until the next call.
     const Part& of(std::int16_t number) {
         if (number < 1) return *last_;
         const auto place = static_cast<std::size_t>(number - 1);
@@ -30,7 +31,7 @@ class customer_stretches {
         if (!known) known = read_stretch(place / stretch_length);
         if (known->readable) {
             last_ = &known->parts[place % stretch_length];
-        } else if (rec_cli record; customers_.read(number, record)) {
+        } else if (Record record; records_.read(number, record)) {
             alone_ = Part(record);
             last_ = &alone_;
         }
@@ -48,18 +49,21 @@ class customer_stretches {
 
     std::unique_ptr<stretch> read_stretch(std::size_t number) {
         auto read = std::make_unique<stretch>();
-        std::array<rec_cli, stretch_length> records;
+        std::array<Record, stretch_length> records;
         const auto first = static_cast<std::int64_t>(number * stretch_length) + 1;
-        read->readable = customers_.read_block(first, records);
+        read->readable = records_.read_block(first, records);
         if (!read->readable) return read;
         for (std::size_t i = 0; i < stretch_length; ++i) read->parts[i] = Part(records[i]);
         return read;
     }
 
-    const channel<rec_cli>& customers_;
+    const channel<Record>& records_;
     std::vector<std::unique_ptr<stretch>> stretches_;
     Part alone_;
     const Part* last_ = &alone_;
 };
+
+template <class Part>
+using customer_stretches = record_stretches<rec_cli, Part>;
 
 }  // namespace vantora
