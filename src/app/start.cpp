@@ -5,6 +5,11 @@
 #include "customer/mirsel.h"
 #include "entry/mirorcs.h"
 #include "register/mirorc.h"
+#include "reports/mirstoa.h"
+#include "reports/mirstoe.h"
+#include "reports/mirston.h"
+#include "reports/mirstos.h"
+#include "reports/mirstov.h"
 #include "store/company.h"
 
 namespace vantora {
@@ -24,6 +29,11 @@ void start(program& app, std::string_view argument) {
     provide(app.mirsel, app);
     provide(app.mirdata, app);
     provide(app.mirorcs, app);
+    provide(app.mirstoe, app);
+    provide(app.mirstos, app);
+    provide(app.mirstov, app);
+    provide(app.mirston, app);
+    provide(app.mirstoa, app);
 
     app.desk.at_end = [&app] { chiudi_archivi(app.archives); };
     app.parameters.numero_azienda = numero_azienda_in(argument);

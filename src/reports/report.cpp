@@ -28,11 +28,11 @@ foglio_report sheet_of(const descrizione_report& report) {
     return sheet;
 }
 
-void print_rows(program& app, const descrizione_report& report, const ui::grid& elenco,
+void print_rows(program& app, const descrizione_report& report, const ui::grid& elenco, int righe,
                 report_output& out, uscita_report uscita) {
     report_engine engine(app.parameters, app.desk.clock(), out, uscita, sheet_of(report));
     std::vector<std::string_view> cells(report.colonne.size());
-    for (int row = 1; row < elenco.rows(); ++row) {
+    for (int row = 1; row < righe; ++row) {
         for (std::size_t i = 0; i < cells.size(); ++i) {
             cells[i] = elenco.text(row, static_cast<int>(i));
         }
@@ -41,20 +41,22 @@ void print_rows(program& app, const descrizione_report& report, const ui::grid& 
     engine.end_report();
 }
 
-void print_on_paper(program& app, const descrizione_report& report, const ui::grid& elenco) {
+void print_on_paper(program& app, const descrizione_report& report, const ui::grid& elenco,
+                    int righe) {
     ui::printer& paper = app.desk.printer();
     report_on_printer out(paper);
-    print_rows(app, report, elenco, out, uscita_report::stampante);
+    print_rows(app, report, elenco, righe, out, uscita_report::stampante);
     paper.end_job();
 }
 
 /// True if the print file holds the whole report.
-bool print_into_file(program& app, const descrizione_report& report, const ui::grid& elenco) {
+bool print_into_file(program& app, const descrizione_report& report, const ui::grid& elenco,
+                     int righe) {
     ui::printer& paper = app.desk.printer();
     const bool upright = paper.orientation() == ui::printer::upright;
     print_file_writer file(app.files, upright ? marca_verticale : marca_orizzontale);
     report_in_print_file out(paper, file);
-    print_rows(app, report, elenco, out, uscita_report::pdf);
+    print_rows(app, report, elenco, righe, out, uscita_report::pdf);
     return file.finish();
 }
 
@@ -84,20 +86,20 @@ void tell_of_pdf(program& app, const descrizione_report& report, bool started) {
 }  // namespace
 
 void stampa_report(program& app, const descrizione_report& report, const ui::grid& elenco,
-                   uscita_report uscita) {
+                   int righe, uscita_report uscita) {
     const bool on_paper = uscita == uscita_report::stampante;
     if (on_paper && !app.desk.ask("Iniziare la stampa?", std::string(report.titolo_domanda))) {
         return;
     }
     app.desk.set_pointer(ui::pointer::busy);
     if (on_paper) {
-        print_on_paper(app, report, elenco);
+        print_on_paper(app, report, elenco, righe);
         app.desk.set_pointer(ui::pointer::normal);
         return;
     }
     // A file that isn't whole is never handed over: the PDF would lack pages without a word.
-    const bool started =
-        print_into_file(app, report, elenco) && app.desk.launcher().start(pdf_command(app, report));
+    const bool started = print_into_file(app, report, elenco, righe) &&
+                         app.desk.launcher().start(pdf_command(app, report));
     app.desk.set_pointer(ui::pointer::normal);
     tell_of_pdf(app, report, started);
 }

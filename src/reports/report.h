@@ -25,10 +25,12 @@ struct descrizione_report {
     std::span<const colonna_report> colonne;  ///< grid columns 0 to n - 1, at most 30
 };
 
-/// Outputs rows 1 to the last of a screen's list as they stand there. To the printer it goes after
-/// a question; for a PDF into the print file, which `mirxpdf` is then started on, with a message
-/// that names the PDF's folder (slot `cartella_pdf`, already filled) or says that it can't be made.
+/// Outputs a screen's list as it stands: rows 1 to `righe` - 1, where `righe` counts the rows in
+/// use with the head; blank rows that only fill the window aren't among them. To the printer it
+/// goes after a question; for a PDF into the print file, which `mirxpdf` is then started on, with a
+/// message that names the PDF's folder (slot `cartella_pdf`, already filled) or says that it can't
+/// be made.
 void stampa_report(program& app, const descrizione_report& report, const ui::grid& elenco,
-                   uscita_report uscita);
+                   int righe, uscita_report uscita);
 
 }  // namespace vantora

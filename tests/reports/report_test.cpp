@@ -24,7 +24,7 @@ struct report_road : testing::Test {
     void print(int rows, uscita_report to) {
         list.set_rows(rows + 1);
         for (int row = 1; row <= rows; ++row) list.set_text(row, 0, "n. " + std::to_string(row));
-        stampa_report(app, report, list, to);
+        stampa_report(app, report, list, list.rows(), to);
     }
     std::vector<ui::answered_box> boxes() { return stage.desk.take_answered(); }
     /// Rows of the list on each page of the print file.
@@ -152,7 +152,7 @@ TEST_F(report_road, ALineEndInATextBreaksNoRecord) {
     list.set_rows(2);
     list.set_text(1, 0, "n. 1\r\n9\r\n");
     stage.desk.queue_answer(ui::answer::ok);
-    stampa_report(app, report, list, uscita_report::pdf);
+    stampa_report(app, report, list, list.rows(), uscita_report::pdf);
     EXPECT_EQ(rows_in_file(), std::vector{1});
 }
 

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "store/text/code_page.h"
+
+namespace vantora {
+
+/// A range of codes or names, in capitals and without the blanks around them. An end that is left
+/// empty lies at the first or last character of all.
+class key_range {
+ public:
+    key_range(std::string_view from, std::string_view to)
+        : from_(upper(trimmed(from))), to_(upper(trimmed(to))) {
+        if (from_.empty()) from_ = std::string(1, '\0');
+        if (to_.empty()) to_ = std::string(1, '\xFF');
+    }
+
+    [[nodiscard]] bool holds(std::string_view key) const {
+        const std::string capital = upper(trimmed(key));
+        return capital >= from_ && capital <= to_;
+    }
+
+ private:
+    std::string from_;
+    std::string to_;
+};
+
+}  // namespace vantora

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <string>
+
+#include "program/record_stretches.h"
+#include "store/records/rec_art.h"
+#include "store/records/rec_orc.h"
+
+namespace vantora {
+
+// What the lists of the reports write into their cells.
+
+/// What a list shows of an article.
+struct etichetta_articolo {
+    etichetta_articolo() = default;
+    explicit etichetta_articolo(const rec_art& article)
+        : codice(article.codice), descrizione(article.descrizione) {}
+
+    /// Code and description.
+    [[nodiscard]] std::string text() const;
+
+    vantora::text<15> codice;
+    vantora::text<40> descrizione;
+};
+
+/// The articles of one build.
+using etichette_articoli = record_stretches<rec_art, etichetta_articolo>;
+
+/// A free text in two fields, as one.
+std::string free_text(const text<40>& descrizione, const text<10>& descrizione2);
+
+/// A quantity with two decimals; empty for 0.
+std::string quantity_text(double quantity);
+
+/// Whether a field holds nothing but blanks.
+template <std::size_t N>
+bool is_blank(const text<N>& field) {
+    return field.full().find_first_not_of(' ') == std::string_view::npos;
+}
+
+/// Whether a row of an order is more than an empty line.
+inline bool in_use(const rec_orc& row) {
+    return row.quantita != 0 || !is_blank(row.descrizione);
+}
+
+}  // namespace vantora

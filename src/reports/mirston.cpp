@@ -1,0 +1,140 @@
+#include "reports/mirston.h"
+
+#include "reports/key_range.h"
+#include "reports/report_list.h"
+#include "store/key_index.h"
+#include "store/text/dates.h"
+
+namespace vantora {
+
+namespace {
+
+constexpr colonna_report colonne_stampa[] = {
+    {"Cliente", 27, 0},  {"Ordine", 11, 0},   {"Data", 13, 0},  {"Descrizione", 27, 0},
+    {"Articolo", 32, 0}, {"Ordinato", 13, 2}, {"Evaso", 13, 2},
+};
+
+const tipo_report& schede_clienti() {
+    using enum ui::alignment;
+    using enum filtro;
+    static const tipo_report kind{
+        "mirston",
+        "Schede clienti",
+        {{"Cliente", 2900, left},
+         {"Ordine", 1000, left},
+         {"Data", 1100, left},
+         {"Descrizione", 2900, left},
+         {"Articolo", 3600, left},
+         {"Ordinato", 1100, right},
+         {"Evaso", 1100, right},
+         {"", 0, left}},
+        28,
+        {inizio, fine, primo_ordine, ultimo_ordine},
+        false,
+        {"Per visualizzare il prospetto selezionare i", "clienti e/o gli ordini e clic sul bottone",
+         "'Aggiorna lista'"},
+        {"Stampa schede clienti", "Schede clienti", "schedeclienti.pdf", colonne_stampa}};
+    return kind;
+}
+
+}  // namespace
+
+/// What is shown and tested of a customer.
+struct mirston::cliente {
+    cliente() = default;
+    explicit cliente(const rec_cli& record)
+        : nome(record.intestazione1), eliminato(record.eliminato) {}
+
+    text<40> nome;
+    i16le eliminato;
+};
+
+mirston::mirston(program& app) : sheet_report(app, schede_clienti()) {}
+
+int mirston::last_step(const limiti_ordini&) const {
+    return clienti_.quanti;
+}
+
+// One read for 512 entries of the index, one for every 32 customers, one an order and a second one
+// for an order in question, then one for every 32 articles in question.
+void mirston::fill(report_list& list, const limiti_ordini& orders) {
+    plan(clienti_.quanti, orders);
+    raccolta found{{}, sheet_rows<riga>(report_list::massimo), {}};
+    if (!choose_customers(found)) return;
+    for (int order = orders.primo; order <= orders.ultimo && !found.righe.complete(); ++order) {
+        take_rows(found, order);
+        if (!order_done()) return;
+    }
+    list_sheets(list, found);
+}
+
+bool mirston::choose_customers(raccolta& found) {
+    const key_range names(t_inizio.text(), t_fine.text());
+    customer_stretches<cliente> customers(app_.archives.cli);
+    bool going_on = true;
+    percorri_indice<rec_src>(app_.archives.src, clienti_.quanti,
+                             [&](std::int16_t, const rec_src& entry) {
+                                 const cliente& one = customers.of(entry.numero);
+                                 if (one.eliminato == 0 && names.holds(one.nome.full())) {
+                                     found.schede.push_back({entry.numero, one.nome});
+                                     found.righe.expect(entry.numero);
+                                 }
+                                 return going_on = entry_done();
+                             });
+    return going_on;
+}
+
+void mirston::take_rows(raccolta& found, int order) {
+    const std::int16_t owner = ordini_.first_row(order).cliente;
+    if (!found.righe.wants(owner)) return;
+    const auto rows = ordini_.block(order);
+    for (const rec_orc& row : rows) {
+        if (!in_use(row) && row.prezzo == 0) continue;
+        if (!found.righe.wants(owner)) return;
+        const bool first = &row == &rows.front();
+        if (first) found.teste.emplace_back(row);
+        found.righe.add(owner, {first,
+                                found.teste.size() - (first ? 1 : 0),
+                                row.articolo,
+                                row.descrizione,
+                                row.descrizione2,
+                                {row.quantita, row.evaso}});
+    }
+}
+
+std::string mirston::article_text(const riga& row, etichette_articoli& articles) const {
+    const bool known = row.articolo >= 1 && row.articolo <= articoli_.quanti;
+    if (known) return articles.of(row.articolo).text();
+    return free_text(row.descrizione, row.descrizione2);
+}
+
+void mirston::list_sheets(report_list& list, raccolta& found) {
+    etichette_articoli articles(app_.archives.art);
+    found.righe.group();
+    for (const scheda_cliente& sheet : found.schede) {
+        if (list.full()) return;
+        const auto rows = found.righe.rows_of(sheet.numero);
+        if (rows.empty()) continue;
+        somme sums;
+        for (const riga& row : rows) {
+            list.next_row();
+            if (row.con_testa) {
+                const testa_ordine& head = found.teste[row.testa];
+                list.write(ordine, head.numero.trimmed());
+                list.write(data, date_text_of_stored(head.data.full()));
+                list.write(descrizione, head.testo1.trimmed());
+            }
+            list.write(articolo, article_text(row, articles));
+            list_quantities(list, row.quantita);
+            if (&row == &rows.front()) {
+                list.write(scheda, sheet.nome.trimmed());
+                list.write(numero, std::to_string(sheet.numero));
+            }
+            sums.ordinato += row.quantita.ordinato;
+            sums.evaso += row.quantita.evaso;
+        }
+        list_totals(list, sums);
+    }
+}
+
+}  // namespace vantora

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "reports/list_cells.h"
+#include "reports/report_screen.h"
+
+namespace vantora {
+
+/// A list of the orders' rows in the archive's order: one line an order or all its rows, each order
+/// with its head on the first row shown.
+class order_rows_report : public report_screen {
+ protected:
+    using report_screen::report_screen;
+
+    /// Entries of `Combo2`.
+    enum dettaglio { sintetico, analitico };
+
+    /// Columns that don't stand at the same place in all lists, -1 where a list has none.
+    struct colonne {
+        int evasione;
+        int cliente;
+        int articolo;
+        int ordinato;
+        int evaso;
+        int numero_record;
+        int registrazione;
+    };
+    enum colonna { ordine, data, descrizione };
+
+    void fill(report_list& list, const limiti_ordini& orders) override;
+
+    /// The rows of an order that may be listed, from its row 1 on; none where it isn't.
+    virtual std::span<const rec_orc> rows_of(int order) = 0;
+    /// Whether a row is listed.
+    [[nodiscard]] virtual bool takes(const rec_orc& row) const = 0;
+    [[nodiscard]] virtual const colonne& places() const = 0;
+
+    [[nodiscard]] bool whole_orders() const { return Combo2.chosen() == analitico; }
+
+ private:
+    void list_row(report_list& list, const rec_orc& row, etichette_articoli& articles) const;
+    void list_head(report_list& list, const rec_orc& row, std::string_view customer) const;
+};
+
+}  // namespace vantora

@@ -1,0 +1,217 @@
+#include "reports/report_screen.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "documents/pdf_settings.h"
+#include "program/list_grid.h"
+#include "reports/report_list.h"
+
+namespace vantora {
+
+report_screen::report_screen(program& app, const tipo_report& kind)
+    : form(app.desk, kind.name, kind.title), app_(app), ordini_(app.archives.orc), kind_(kind) {
+    for (std::size_t i = 0; i < kind.filtri.size(); ++i) {
+        const campo one = field(kind.filtri[i]);
+        if (one.index) {
+            add_element(one.name, *one.index, one.control);
+        } else {
+            add(one.name, one.control);
+        }
+        one.control.on_key_press = [this, i](ui::key_event& key) {
+            if (key.code != ui::key::enter) return;
+            key.swallow();
+            go_on_from(i);
+        };
+    }
+    add("bottone", bottone);
+    add("srt", srt);
+    add("elenco", elenco);
+    bottone[aggiorna].set_text("Aggiorna lista");
+    for (int i = 0; i < 5; ++i) bottone[i].on_click = [this, i] { run_command(i); };
+    Combo1.add_all({"Tutti gli ordini", "Solo ordini da evadere", "Solo ordini evasi"});
+    Combo2.add_all({"Sintetico", "Analitico"});
+}
+
+report_screen::campo report_screen::field(filtro which) {
+    switch (which) {
+        case filtro::inizio:
+            return {"t_inizio", {}, t_inizio};
+        case filtro::fine:
+            return {"t_fine", {}, t_fine};
+        case filtro::categoria:
+            return {"Combo0", {}, Combo0};
+        case filtro::fornitore:
+            return {"Text", 1, Text};
+        case filtro::descrizione:
+            return {"Text3", {}, Text3};
+        case filtro::stato_ordini:
+            return {"Combo1", {}, Combo1};
+        case filtro::dettaglio:
+            return {"Combo2", {}, Combo2};
+        case filtro::primo_ordine:
+            return {"text1", 0, text1[0]};
+        case filtro::ultimo_ordine:
+            return {"text1", 1, text1[1]};
+        case filtro::prima_data:
+            return {"text2", 0, text2[0]};
+        case filtro::ultima_data:
+            break;
+    }
+    return {"text2", 1, text2[1]};
+}
+
+// Opening and leaving -----------------------------------------------------------------------------
+
+void report_screen::load() {
+    if (kind_.rilegge_parametri) carica_parametri(app_.parameters, app_.files);
+    tabella_pdf settings;
+    carica_pdf(settings, tipo_documento::ordine, app_.parameters, app_.files);
+    srt.set_visible(false);
+    elenco.set_columns(kind_.colonne);
+    elenco.set_rows(kind_.righe_minime);
+}
+
+void report_screen::activate() {
+    if (opened_) return;
+    opened_ = true;
+    read_counters();
+    fill_fields();
+    Combo1.on_click = [this] { select(filtro::stato_ordini); };
+    Combo2.on_click = [this] { select(filtro::dettaglio); };
+    if (kind_.suggerimento.empty()) return build_list();
+    show_suggestion();
+}
+
+void report_screen::fill_fields() {
+    text1[0].set_text("1");
+    text1[1].set_text(std::to_string(contatore_.quanti));
+    Combo1.choose(0);
+    Combo2.choose(0);
+}
+
+void report_screen::show_suggestion() {
+    for (const char* line : kind_.suggerimento) elenco.set_text(righe_elenco_++, 0, line);
+    stripe();
+}
+
+void report_screen::close() {
+    leave();
+}
+
+void report_screen::leave() {
+    left_ = true;
+    unload();
+    app_.mirorc.use().show();
+}
+
+// Commands and fields -----------------------------------------------------------------------------
+
+void report_screen::run_command(int button) {
+    if (button == uscita) return leave();
+    if (building_) return;
+    switch (button) {
+        case pdf:
+            return stampa_report(app_, kind_.stampa, elenco, righe_elenco_, uscita_report::pdf);
+        case stampa:
+            return stampa_report(app_, kind_.stampa, elenco, righe_elenco_,
+                                 uscita_report::stampante);
+        case stampante:
+            app_.desk.printer().choose_settings();
+            return;
+        default:
+            return build_list();
+    }
+}
+
+void report_screen::go_on_from(std::size_t place) {
+    if (kind_.filtri[place] == filtro::ultimo_ordine) correct_limits();
+    if (place + 1 < kind_.filtri.size()) {
+        field(kind_.filtri[place + 1]).control.set_focus();
+    } else {
+        bottone[aggiorna].set_focus();
+    }
+}
+
+void report_screen::select(filtro which) {
+    if (building_) wanted_anew_ = true;
+    selector_changed(which);
+}
+
+limiti_ordini report_screen::limits() {
+    return read_limits(text1[0].text(), text1[1].text());
+}
+
+limiti_ordini report_screen::correct_limits() {
+    read_counters();
+    const limiti_ordini right =
+        corrected(read_limits(text1[0].text(), text1[1].text()), contatore_.quanti);
+    text1[0].set_text(std::to_string(right.primo));
+    text1[1].set_text(std::to_string(right.ultimo));
+    return right;
+}
+
+void report_screen::read_counters() {
+    app_.archives.tot.read(contatori::articoli, articoli_);
+    app_.archives.tot.read(contatori::ordini, contatore_);
+    app_.archives.tot.read(contatori::clienti, clienti_);
+}
+
+// Building ----------------------------------------------------------------------------------------
+
+void report_screen::build_list() {
+    if (building_) return;
+    const bool had_focus = elenco.has_focus();
+    building_ = true;
+    app_.desk.set_pointer(ui::pointer::busy);
+    elenco.set_visible(false);
+    do {
+        wanted_anew_ = false;
+        build_once();
+    } while (wanted_anew_ && !left_);
+    building_ = false;
+    app_.desk.set_pointer(ui::pointer::normal);
+    if (left_) return;
+    srt.set_visible(false);
+    elenco.set_visible(true);
+    if (had_focus) elenco.set_focus();
+}
+
+void report_screen::build_once() {
+    empty_list(elenco);
+    read_counters();
+    const limiti_ordini orders = limits();
+    srt.set_range(1, last_step(orders));
+    srt.set_visible(true);
+    report_list list(elenco);
+    fill(list, orders);
+    if (left_ || wanted_anew_) return;
+    righe_elenco_ = app_.riga_elenco = list.rows();
+    cut_list(elenco, righe_elenco_, kind_.righe_minime);
+    stripe();
+}
+
+int report_screen::last_step(const limiti_ordini& orders) const {
+    return orders.ultimo - orders.primo + 1;
+}
+
+double report_screen::share_done(int order, const limiti_ordini& orders) {
+    return double(order - orders.primo + 1) / (orders.ultimo - orders.primo + 1);
+}
+
+bool report_screen::carry_on(double done) {
+    constexpr double shown_steps = 200;
+    const double steps = srt.maximum() - srt.minimum();
+    const double shown = std::floor(done * shown_steps) / shown_steps;
+    srt.set_value(srt.minimum() + static_cast<int>(steps * shown));
+    app_.desk.let_events_run();
+    return !left_ && !wanted_anew_;
+}
+
+void report_screen::stripe() {
+    const auto hidden = [](const ui::grid_column& one) { return one.width == 0; };
+    const auto visible = std::ranges::find_if(kind_.colonne, hidden) - kind_.colonne.begin();
+    paint_stripes(elenco, static_cast<int>(visible) - 1, app_.parameters.gnr);
+}
+
+}  // namespace vantora

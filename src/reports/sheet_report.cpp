@@ -1,0 +1,40 @@
+#include "reports/sheet_report.h"
+
+#include "reports/list_cells.h"
+#include "reports/report_list.h"
+
+namespace vantora {
+
+namespace {
+
+/// An order takes so much longer than an entry of the index and its master record.
+constexpr double order_weight = 20;
+
+}  // namespace
+
+void sheet_report::list_quantities(report_list& list, const somme& amounts) {
+    list.write(ordinato, quantity_text(amounts.ordinato));
+    list.write(evaso, quantity_text(amounts.evaso));
+}
+
+void sheet_report::list_totals(report_list& list, const somme& sums) {
+    list.next_row();
+    list.write(descrizione, "Totale");
+    list_quantities(list, sums);
+    list.next_row();
+}
+
+void sheet_report::plan(int entries, const limiti_ordini& orders) {
+    planned_ = entries + order_weight * (orders.ultimo - orders.primo + 1);
+    done_ = 0;
+}
+
+bool sheet_report::entry_done() {
+    return carry_on((done_ += 1) / planned_);
+}
+
+bool sheet_report::order_done() {
+    return carry_on((done_ += order_weight) / planned_);
+}
+
+}  // namespace vantora
