@@ -81,7 +81,7 @@ std::filesystem::path entry_named(const std::filesystem::path& folder, const std
 
 }  // namespace
 
-drive::drive(std::filesystem::path root) : root_(std::move(root)) {}
+drive::drive(std::filesystem::path root, access to) : root_(std::move(root)), access_(to) {}
 
 std::filesystem::path drive::locate(std::string_view path) const {
     if (path.size() >= 2 && path[1] == ':') path.remove_prefix(2);
@@ -99,6 +99,7 @@ std::filesystem::path drive::locate(std::string_view path) const {
 
 std::unique_ptr<file> drive::open_records(std::string_view path) {
     const auto located = locate(path);
+    if (access_ == access::reading_only) return open_plain(located, O_RDONLY);
     auto opened = open_plain(located, O_RDWR | O_CREAT);
     if (!opened && (errno == EACCES || errno == EPERM || errno == EROFS)) {
         opened = open_plain(located, O_RDONLY);
@@ -120,13 +121,14 @@ std::optional<std::string> drive::read_whole(std::string_view path) {
 }
 
 std::unique_ptr<file> drive::create(std::string_view path) {
+    if (access_ == access::reading_only) return nullptr;
     return open_plain(locate(path), O_RDWR | O_CREAT | O_TRUNC);
 }
 
 bool drive::create_folder(std::string_view path) {
     const auto located = locate(path);
     std::error_code failed;
-    std::filesystem::create_directory(located, failed);
+    if (access_ != access::reading_only) std::filesystem::create_directory(located, failed);
     return std::filesystem::is_directory(located, failed);
 }
 

@@ -15,8 +15,11 @@ namespace vantora {
 /// it is spelled is looked up without regard to case; what is created takes the given spelling.
 class drive final : public file_port {
  public:
+    /// What may be done with the files; `reading_only` neither writes nor creates any.
+    enum class access { reading_and_writing, reading_only };
+
     /// REQUIRES: `root` is a folder, or can become one.
-    explicit drive(std::filesystem::path root);
+    explicit drive(std::filesystem::path root, access to = access::reading_and_writing);
 
     /// Where a path of the suite lies in this system. ".." and "." never lead out of the drive.
     [[nodiscard]] std::filesystem::path locate(std::string_view path) const;
@@ -28,6 +31,7 @@ class drive final : public file_port {
 
  private:
     std::filesystem::path root_;
+    access access_;
 };
 
 }  // namespace vantora

@@ -1,0 +1,45 @@
+#include "archive/open_quantities.h"
+
+#include <cmath>
+
+namespace vantora::archive {
+
+namespace {
+
+/// Figures that saves and fulfilments moved step by step differ in their last digits.
+constexpr double tolerance = 1e-9;
+
+}  // namespace
+
+open_quantities::open_quantities(std::int16_t articles)
+    : by_article_(static_cast<std::size_t>(articles) + 1) {}
+
+void open_quantities::add(std::span<const rec_orc> order) {
+    if (order.front().annullato == 1) return;
+    for (const rec_orc& row : order) {
+        const std::int16_t article = row.articolo;
+        if (article < 1 || static_cast<std::size_t>(article) >= by_article_.size()) continue;
+        const double quantity = row.quantita;
+        const double fulfilled = row.evaso;
+        if (!std::isfinite(quantity) || !std::isfinite(fulfilled)) continue;
+        sum& its = by_article_[static_cast<std::size_t>(article)];
+        its.open += quantity - fulfilled;
+        its.moved += std::abs(quantity) + std::abs(fulfilled);
+    }
+}
+
+std::vector<wrong_ordered_quantity> open_quantities::compare(
+    const channel<rec_art>& articles) const {
+    std::vector<wrong_ordered_quantity> wrong;
+    scan(articles, std::ssize(by_article_) - 1, [&](std::int64_t number, const rec_art& article) {
+        const sum& its = by_article_[static_cast<std::size_t>(number)];
+        const double stored = article.ordinato_clienti;
+        const double allowed = tolerance * std::max({1.0, its.moved, std::abs(stored)});
+        if (std::abs(stored - its.open) <= allowed) return;
+        wrong.push_back({static_cast<std::int16_t>(number), to_utf8(article.codice.trimmed()),
+                         stored, its.open});
+    });
+    return wrong;
+}
+
+}  // namespace vantora::archive
