@@ -4,13 +4,27 @@
 #include <cmath>
 
 #include "documents/pdf_settings.h"
-#include "program/list_grid.h"
 #include "reports/report_list.h"
 
 namespace vantora {
 
+namespace {
+
+/// The columns that are shown come first.
+int last_shown(const tipo_report& kind) {
+    const auto hidden = [](const ui::grid_column& one) { return one.width == 0; };
+    const auto shown = std::ranges::find_if(kind.colonne, hidden) - kind.colonne.begin();
+    return static_cast<int>(shown) - 1;
+}
+
+}  // namespace
+
 report_screen::report_screen(program& app, const tipo_report& kind)
-    : form(app.desk, kind.name, kind.title), app_(app), ordini_(app.archives.orc), kind_(kind) {
+    : form(app.desk, kind.name, kind.title),
+      app_(app),
+      ordini_(app.archives.orc),
+      kind_(kind),
+      lista_(elenco, app, kind.righe_minime, last_shown(kind)) {
     for (std::size_t i = 0; i < kind.filtri.size(); ++i) {
         const campo one = field(kind.filtri[i]);
         if (one.index) {
@@ -92,7 +106,7 @@ void report_screen::fill_fields() {
 
 void report_screen::show_suggestion() {
     for (const char* line : kind_.suggerimento) elenco.set_text(righe_elenco_++, 0, line);
-    stripe();
+    lista_.paint_stripes();
 }
 
 void report_screen::close() {
@@ -178,7 +192,7 @@ void report_screen::build_list() {
 }
 
 void report_screen::build_once() {
-    empty_list(elenco);
+    lista_.empty();
     read_counters();
     const limiti_ordini orders = limits();
     srt.set_range(1, last_step(orders));
@@ -186,9 +200,8 @@ void report_screen::build_once() {
     report_list list(elenco);
     fill(list, orders);
     if (left_ || wanted_anew_) return;
-    righe_elenco_ = app_.riga_elenco = list.rows();
-    cut_list(elenco, righe_elenco_, kind_.righe_minime);
-    stripe();
+    righe_elenco_ = list.rows();
+    lista_.finish(righe_elenco_);
 }
 
 int report_screen::last_step(const limiti_ordini& orders) const {
@@ -206,12 +219,6 @@ bool report_screen::carry_on(double done) {
     srt.set_value(srt.minimum() + static_cast<int>(steps * shown));
     app_.desk.let_events_run();
     return !left_ && !wanted_anew_;
-}
-
-void report_screen::stripe() {
-    const auto hidden = [](const ui::grid_column& one) { return one.width == 0; };
-    const auto visible = std::ranges::find_if(kind_.colonne, hidden) - kind_.colonne.begin();
-    paint_stripes(elenco, static_cast<int>(visible) - 1, app_.parameters.gnr);
 }
 
 }  // namespace vantora

@@ -3,6 +3,7 @@
 #include <optional>
 #include <vector>
 
+#include "program/list_grid.h"
 #include "program/program.h"
 #include "reports/order_bounds.h"
 #include "reports/order_reader.h"
@@ -112,7 +113,6 @@ class report_screen : public ui::form {
     campo field(filtro which);
     void read_counters();
     void show_suggestion();
-    void stripe();
     void go_on_from(std::size_t place);
     void select(filtro which);
     void run_command(int button);
@@ -120,6 +120,7 @@ class report_screen : public ui::form {
     void build_once();
 
     const tipo_report& kind_;
+    list_grid lista_;
     bool opened_ = false;
     bool building_ = false;
     bool wanted_anew_ = false;  ///< a selector changed during a build
