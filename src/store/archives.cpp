@@ -8,7 +8,8 @@ namespace {
 
 template <class Record>
 void open(channel<Record>& into, file_port& port, int numero_azienda, const char* extension) {
-    into = channel<Record>(port.open_records(file_azienda(numero_azienda, extension)));
+    into = channel<Record>(port.open_records(file_azienda(numero_azienda, extension)),
+                           std::string("vantora.") + extension);
 }
 
 }  // namespace

@@ -1,9 +1,12 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
+#include <cstring>
 #include <memory>
 #include <optional>
 #include <span>
+#include <string>
 #include <type_traits>
 #include <utility>
 
@@ -21,25 +24,29 @@ class channel {
     static constexpr std::int64_t record_length = sizeof(Record);
 
     channel() = default;
-    explicit channel(std::unique_ptr<file> opened) : file_(std::move(opened)) {}
+    /// `name`: as users know the file, "vantora.orc".
+    explicit channel(std::shared_ptr<file> opened, std::string name = {})
+        : file_(std::move(opened)), name_(std::move(name)) {}
 
+    [[nodiscard]] const std::string& name() const { return name_; }
     [[nodiscard]] bool is_open() const { return file_ != nullptr; }
     void close() { file_.reset(); }
 
     /// Reads record `number`. What lies past the end of the file reads as zero bytes. False, with
     /// the record left as it was, for a closed channel, a number below 1 or a failed read.
     bool read(std::int64_t number, Record& record) const {
-        return read_block(number, std::span(&record, 1));
+        std::byte fresh[sizeof(Record)];
+        if (!fill(number, fresh)) return false;
+        std::memcpy(&record, fresh, sizeof fresh);
+        return true;
     }
 
     /// Reads records `first`, `first` + 1, ... in one call, under the same rules; on failure all
     /// of `records` stay as they were.
     bool read_block(std::int64_t first, std::span<Record> records) const {
-        if (!file_ || first < 1) return false;
-        const auto bytes = std::as_writable_bytes(records);
-        const auto had = file_->read((first - 1) * record_length, bytes);
-        if (!had) return false;
-        for (auto& byte : bytes.subspan(*had)) byte = std::byte{0};
+        const auto fresh = std::make_unique_for_overwrite<std::byte[]>(records.size_bytes());
+        if (!fill(first, {fresh.get(), records.size_bytes()})) return false;
+        std::memcpy(records.data(), fresh.get(), records.size_bytes());
         return true;
     }
 
@@ -57,8 +64,38 @@ class channel {
     /// Waits until everything written has reached the disk.
     bool flush() { return file_ && file_->flush(); }
 
+    /// Whether records can be written here: the channel is open, and not for reading only.
+    [[nodiscard]] bool writable() const { return file_ && file_->writable(); }
+
+    /// Sets room on the disk aside for `count` records from `first` on; the file's length stays.
+    /// False for a closed channel, a number below 1 or a full disk.
+    bool reserve(std::int64_t first, std::int64_t count) {
+        return file_ && first >= 1 &&
+               file_->reserve((first - 1) * record_length, count * record_length);
+    }
+
+    /// How many whole records the file holds; empty for a closed channel, or if that can't be told.
+    [[nodiscard]] std::optional<std::int64_t> records_held() const {
+        const auto bytes = file_ ? file_->length() : std::nullopt;
+        if (!bytes) return {};
+        return *bytes / record_length;
+    }
+
+    /// The file behind, for what outlives the channel: a read under way, a lock. Null if closed.
+    [[nodiscard]] const std::shared_ptr<file>& shared_file() const { return file_; }
+
  private:
-    std::unique_ptr<file> file_;
+    /// Reads into bytes that nobody needs if it fails half way.
+    bool fill(std::int64_t first, std::span<std::byte> bytes) const {
+        if (!file_ || first < 1) return false;
+        const auto had = file_->read((first - 1) * record_length, bytes);
+        if (!had) return false;
+        std::ranges::fill(bytes.subspan(*had), std::byte{0});
+        return true;
+    }
+
+    std::shared_ptr<file> file_;
+    std::string name_;
 };
 
 }  // namespace vantora

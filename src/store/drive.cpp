@@ -1,6 +1,7 @@
 #include "store/drive.h"
 
 #include <fcntl.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -17,19 +18,47 @@ namespace {
 /// Text files of the suite are small; of a larger file its head will do.
 constexpr std::size_t largest_text_file = 64U << 20U;
 
+/// Bytes that stand for the locks, so far behind the largest record file that no program comes
+/// near them, and still within what every system can count.
+constexpr off_t first_lock_byte = off_t{1} << 62;
+
+struct flock lock_of(program_lock which, short type) {
+    struct flock lock {};
+    lock.l_type = type;
+    lock.l_whence = SEEK_SET;
+    lock.l_start = first_lock_byte + static_cast<off_t>(which);
+    lock.l_len = 1;
+    return lock;
+}
+
+/// Calls until the call isn't interrupted.
+template <class Call>
+auto uninterrupted(const Call& call) {
+    auto result = call();
+    while (result < 0 && errno == EINTR) result = call();
+    return result;
+}
+
 class system_file final : public file {
  public:
-    explicit system_file(int descriptor) : descriptor_(descriptor) {}
+    /// `new_in`: the folder that the file is a new entry of; empty for a file that was there.
+    explicit system_file(int descriptor, std::filesystem::path new_in = {})
+        : descriptor_(descriptor), new_in_(std::move(new_in)) {}
     system_file(const system_file&) = delete;
     system_file& operator=(const system_file&) = delete;
-    ~system_file() override { ::close(descriptor_); }
+    ~system_file() override {
+        const int error = errno;
+        ::close(descriptor_);
+        errno = error;
+    }
 
     std::optional<std::size_t> read(std::int64_t offset, std::span<std::byte> into) override {
         std::size_t done = 0;
         while (done < into.size()) {
-            const ssize_t got = ::pread(descriptor_, into.data() + done, into.size() - done,
-                                        offset + static_cast<std::int64_t>(done));
-            if (got < 0 && errno == EINTR) continue;
+            const ssize_t got = uninterrupted([&] {
+                return ::pread(descriptor_, into.data() + done, into.size() - done,
+                               offset + static_cast<std::int64_t>(done));
+            });
             if (got < 0) return {};
             if (got == 0) break;
             done += static_cast<std::size_t>(got);
@@ -40,28 +69,92 @@ class system_file final : public file {
     bool write(std::int64_t offset, std::span<const std::byte> bytes) override {
         std::size_t done = 0;
         while (done < bytes.size()) {
-            const ssize_t put = ::pwrite(descriptor_, bytes.data() + done, bytes.size() - done,
-                                         offset + static_cast<std::int64_t>(done));
-            if (put < 0 && errno == EINTR) continue;
+            const ssize_t put = uninterrupted([&] {
+                return ::pwrite(descriptor_, bytes.data() + done, bytes.size() - done,
+                                offset + static_cast<std::int64_t>(done));
+            });
             if (put <= 0) return false;
             done += static_cast<std::size_t>(put);
         }
         return true;
     }
 
-    bool flush() override { return ::fdatasync(descriptor_) == 0; }
+    bool flush() override {
+        if (uninterrupted([&] { return ::fdatasync(descriptor_); }) != 0) return false;
+        // A new file is lost with its name: the folder goes to the disk too, once.
+        if (!new_in_.empty() && flush_folder(new_in_)) new_in_.clear();
+        return true;
+    }
+
+    [[nodiscard]] std::optional<std::int64_t> length() const override {
+        struct stat state {};
+        if (::fstat(descriptor_, &state) != 0) return {};
+        return state.st_size;
+    }
+
+    [[nodiscard]] bool writable() const override {
+        const int flags = ::fcntl(descriptor_, F_GETFL);
+        return flags >= 0 && (flags & O_ACCMODE) != O_RDONLY;
+    }
+
+    bool reserve(std::int64_t offset, std::int64_t size) override {
+        struct rlimit limit {};
+        if (::getrlimit(RLIMIT_FSIZE, &limit) == 0 && limit.rlim_cur != RLIM_INFINITY &&
+            static_cast<rlim_t>(offset + size) > limit.rlim_cur) {
+            return false;
+        }
+        if (size <= 0) return true;
+        const int done = uninterrupted(
+            [&] { return ::fallocate(descriptor_, FALLOC_FL_KEEP_SIZE, offset, size); });
+        return done == 0 || (errno != ENOSPC && errno != EDQUOT && errno != EFBIG &&
+                             errno != EROFS && errno != EBADF);
+    }
+
+    lock_answer try_lock(program_lock which) override {
+        struct flock lock = lock_of(which, F_WRLCK);
+        if (uninterrupted([&] { return ::fcntl(descriptor_, F_OFD_SETLK, &lock); }) == 0) {
+            return lock_answer::held;
+        }
+        return errno == EAGAIN || errno == EACCES ? lock_answer::busy : lock_answer::unknown;
+    }
+
+    void unlock(program_lock which) override {
+        struct flock lock = lock_of(which, F_UNLCK);
+        uninterrupted([&] { return ::fcntl(descriptor_, F_OFD_SETLK, &lock); });
+    }
+
+    [[nodiscard]] bool locked_elsewhere(program_lock which) const override {
+        struct flock lock = lock_of(which, F_WRLCK);
+        return uninterrupted([&] { return ::fcntl(descriptor_, F_OFD_GETLK, &lock); }) == 0 &&
+               lock.l_type != F_UNLCK;
+    }
 
  private:
+    static bool flush_folder(const std::filesystem::path& folder) {
+        const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+        if (descriptor < 0) return false;
+        const bool done = uninterrupted([&] { return ::fsync(descriptor); }) == 0;
+        ::close(descriptor);
+        return done;
+    }
+
     int descriptor_;
+    std::filesystem::path new_in_;
 };
 
 /// Opens a plain file; never a folder, and never something that would block, such as a pipe.
 std::unique_ptr<file> open_plain(const std::filesystem::path& path, int flags) {
-    const int descriptor = ::open(path.c_str(), flags | O_CLOEXEC | O_NONBLOCK, 0666);
+    const bool is_new = (flags & O_CREAT) != 0 && ::access(path.c_str(), F_OK) != 0;
+    const int descriptor =
+        uninterrupted([&] { return ::open(path.c_str(), flags | O_CLOEXEC | O_NONBLOCK, 0666); });
     if (descriptor < 0) return nullptr;
-    auto opened = std::make_unique<system_file>(descriptor);
+    auto opened = std::make_unique<system_file>(
+        descriptor, is_new ? path.parent_path() : std::filesystem::path());
     struct stat state {};
-    if (::fstat(descriptor, &state) != 0 || !S_ISREG(state.st_mode)) return nullptr;
+    if (::fstat(descriptor, &state) != 0 || !S_ISREG(state.st_mode)) {
+        errno = EINVAL;
+        return nullptr;
+    }
     return opened;
 }
 
@@ -118,6 +211,11 @@ std::optional<std::string> drive::read_whole(std::string_view path) {
         content.append(reinterpret_cast<const char*>(part.data()), *got);
         if (*got < part.size() || content.size() >= largest_text_file) return content;
     }
+}
+
+bool drive::exists(std::string_view path) {
+    std::error_code failed;
+    return std::filesystem::exists(std::filesystem::symlink_status(locate(path), failed));
 }
 
 std::unique_ptr<file> drive::create(std::string_view path) {

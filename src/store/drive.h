@@ -26,6 +26,7 @@ class drive final : public file_port {
 
     std::unique_ptr<file> open_records(std::string_view path) override;
     std::optional<std::string> read_whole(std::string_view path) override;
+    bool exists(std::string_view path) override;
     std::unique_ptr<file> create(std::string_view path) override;
     bool create_folder(std::string_view path) override;
 

@@ -10,14 +10,29 @@
 
 namespace vantora {
 
+/// What instances of this program, at work on one company from several stations, keep each other
+/// out of. The other programs of the suite know nothing of it and are never stopped by it.
+enum class program_lock {
+    counters,    ///< from reading a counter to writing it
+    compaction,  ///< while blocks of orders move
+};
+
+enum class lock_answer {
+    held,     ///< this file has it now, until it is unlocked or closed
+    busy,     ///< another instance has it
+    unknown,  ///< the file system knows no such locks
+};
+
 /// One open file, read and written at byte offsets. Other programs hold the same file open, so
-/// nothing is kept back: every call reaches the system.
+/// nothing is kept back: every call reaches the system. What a file system may lack is answered
+/// here as one that lacks it would.
 class file {
  public:
     virtual ~file() = default;
 
     /// Fills `into` from `offset` on. Returns the number of bytes that the file had there (fewer
-    /// only at its end), empty if the system refused.
+    /// only at its end), empty if the system refused; `into` may then be filled in part. Several
+    /// threads may read at once.
     virtual std::optional<std::size_t> read(std::int64_t offset, std::span<std::byte> into) = 0;
 
     /// Writes all bytes at `offset`; a gap behind the old end fills with zero bytes. False if the
@@ -26,6 +41,25 @@ class file {
 
     /// Waits until everything written has reached the disk.
     virtual bool flush() = 0;
+
+    /// The length in bytes; empty if the system doesn't tell.
+    [[nodiscard]] virtual std::optional<std::int64_t> length() const { return {}; }
+
+    /// Whether it was opened for writing.
+    [[nodiscard]] virtual bool writable() const { return true; }
+
+    /// Sets room on the disk aside for `size` bytes from `offset` on, without changing the length
+    /// or what readers see: writes there don't meet a full disk. False if there isn't enough room;
+    /// true where the file system sets nothing aside.
+    virtual bool reserve(std::int64_t /*offset*/, std::int64_t /*size*/) { return true; }
+
+    /// Asks once for a lock, without waiting. It covers no byte that a record could lie on. Asking
+    /// again for a lock held through this very file is granted, and one `unlock` gives it up.
+    virtual lock_answer try_lock(program_lock /*which*/) { return lock_answer::unknown; }
+    virtual void unlock(program_lock /*which*/) {}
+
+    /// Whether another instance has the lock.
+    [[nodiscard]] virtual bool locked_elsewhere(program_lock /*which*/) const { return false; }
 };
 
 /// The system's files, by the paths of the suite ("\mirwin\mirwin\vantora.eur", "c:\mirdoc.rto"),
@@ -42,6 +76,9 @@ class file_port {
     /// The whole content of a text file, or the head of one that is far too large to be a text of
     /// the suite; empty if it doesn't exist or can't be read.
     virtual std::optional<std::string> read_whole(std::string_view path) = 0;
+
+    /// Whether something stands under the name, be it readable or not.
+    virtual bool exists(std::string_view path) = 0;
 
     /// Creates a file anew, empty, for writing. Null if that isn't possible.
     virtual std::unique_ptr<file> create(std::string_view path) = 0;

@@ -19,6 +19,7 @@ class one_content final : public file_port {
 
     std::unique_ptr<file> open_records(std::string_view) override { return nullptr; }
     std::optional<std::string> read_whole(std::string_view) override { return content_; }
+    bool exists(std::string_view) override { return true; }
     std::unique_ptr<file> create(std::string_view) override { return nullptr; }
     bool create_folder(std::string_view) override { return false; }
 

@@ -1,13 +1,16 @@
 #include "store/channel.h"
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
 #include <cstring>
 #include <fstream>
 
 #include "store/archives.h"
 #include "store/drive.h"
+#include "store/instance_lock.h"
 #include "store/records.h"
+#include "store/write_plan.h"
 #include "support/faulty_files.h"
 #include "support/scratch_folder.h"
 
@@ -71,6 +74,87 @@ TEST_F(channel_test, WritingBeyondTheEndFillsTheGapWithZeroBytes) {
     std::ifstream in(folder.path() / "f", std::ios::binary);
     const std::string bytes{std::istreambuf_iterator<char>(in), {}};
     EXPECT_EQ(bytes, std::string(24, '\0') + std::string("\x02\x01", 2) + std::string(10, '\0'));
+}
+
+TEST_F(channel_test, RoomIsSetAsideWithoutChangingTheFile) {
+    write_bytes(std::string(30, 'a'));
+    auto tot = open();
+    EXPECT_TRUE(tot.reserve(2, 5000));
+    EXPECT_EQ(tot.records_held(), 2);
+    EXPECT_EQ(std::filesystem::file_size(folder.path() / "f"), 30U);
+    EXPECT_FALSE(tot.reserve(0, 1));
+    rlimit before{};
+    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
+    const rlimit small{1000, before.rlim_max};
+    ::setrlimit(RLIMIT_FSIZE, &small);
+    EXPECT_TRUE(tot.reserve(2, 5));
+    EXPECT_FALSE(tot.reserve(2, 5000));
+    ::setrlimit(RLIMIT_FSIZE, &before);
+}
+
+TEST_F(channel_test, ASaveIsPlannedOnlyWhereItCanBeWritten) {
+    write_bytes(std::string("\5\0          \xFF\xFF          ", 24));
+    test::faulty_files faults(port);
+    struct {
+        const char* what;
+        int counter;
+        std::function<void()> damage;
+        const char* obstacle;
+    } const cases[] = {
+        {"sound", 1, [] {}, ""},
+        {"a negative counter", 2, [] {}, "vantora.tot"},
+        {"unreadable", 1, [&] { faults.read_fails = [](auto&&...) { return true; }; },
+         "vantora.tot"},
+        {"read only", 1, [&] { faults.read_only = [](auto& path) { return path == "\\o"; }; },
+         "vantora.orc"},
+        {"full", 1, [&] { faults.room_lacks = [](auto&, auto end) { return end > 1199 * 284; }; },
+         "vantora.orc"},
+    };
+    for (const auto& one : cases) {
+        faults.read_fails = nullptr;
+        faults.read_only = nullptr;
+        faults.room_lacks = nullptr;
+        channel<rec_tot> tot(faults.open_records("\\f"), "vantora.tot");
+        channel<rec_orc> orc(faults.open_records("\\o"), "vantora.orc");
+        one.damage();
+        write_plan plan;
+        rec_tot counter;
+        plan.counts(tot, one.counter, counter);
+        plan.writes(orc, block_record(counter.quanti + 1, 1), righe_blocco);
+        EXPECT_EQ(plan.obstacle(), one.obstacle) << one.what;
+        EXPECT_EQ(plan.possible(), plan.obstacle().empty());
+    }
+    write_faults refused;
+    const channel<rec_orc> orc(nullptr, "vantora.orc");
+    const channel<rec_art> art(nullptr, "vantora.art");
+    for (const bool done : {true, false, false}) refused.note(done, orc);
+    refused.note(false, art);
+    EXPECT_EQ(refused.names(), "vantora.orc, vantora.art");
+}
+
+TEST_F(channel_test, TwoStationsKeepEachOtherOutAndACompactionSaysSo) {
+    using namespace std::chrono_literals;
+    using enum instance_lock::outcome;
+    using enum instance_lock::kind;
+    const auto here = open();
+    auto there = open();
+    {
+        instance_lock first(here, records);
+        EXPECT_EQ(first.result(), held);
+        EXPECT_EQ(instance_lock(there, records, 10ms).result(), without);
+        rec_tot record;
+        EXPECT_TRUE(there.write(1, record) && there.read(1, record)) << "nothing else waits";
+        first.release();
+        const instance_lock second(there, compaction, 10ms);
+        EXPECT_EQ(second.result(), held);
+        EXPECT_EQ(instance_lock(here, records, 10ms).result(), compaction_elsewhere);
+        EXPECT_EQ(instance_lock(here, compaction, 10ms).result(), compaction_elsewhere);
+        there.close();
+        EXPECT_EQ(instance_lock(here, records, 10ms).result(), compaction_elsewhere);
+    }
+    EXPECT_EQ(instance_lock(here, records, 10ms).result(), held);
+    EXPECT_EQ(std::filesystem::file_size(folder.path() / "f"), 12U);
+    EXPECT_EQ(instance_lock(channel<rec_tot>(), records).result(), without);
 }
 
 TEST(fields, AreTheBytesOfTheFile) {

@@ -1,8 +1,9 @@
 #include "support/faulty_files.h"
 
-namespace vantora::test {
+#include <algorithm>
+#include <thread>
 
-namespace {
+namespace vantora::test {
 
 class faulty_file final : public file {
  public:
@@ -10,8 +11,11 @@ class faulty_file final : public file {
         : faults_(faults), path_(std::move(path)), real_(std::move(real)) {}
 
     std::optional<std::size_t> read(std::int64_t offset, std::span<std::byte> into) override {
-        ++faults_.reads;
-        if (faults_.read_fails && faults_.read_fails(path_, offset, into.size())) return {};
+        if (faults_.refuses_read(path_, offset, into.size())) {
+            // A disk that gives up has often delivered a part.
+            std::ranges::fill(into.first((into.size() + 1) / 2), std::byte{0xEE});
+            return {};
+        }
         return real_->read(offset, into);
     }
     bool write(std::int64_t offset, std::span<const std::byte> bytes) override {
@@ -24,7 +28,20 @@ class faulty_file final : public file {
     bool flush() override {
         // The disk itself is no part of a test, and slow.
         faults_.events.push_back({path_, 0, 0, true});
-        return true;
+        return !faults_.flush_fails || !faults_.flush_fails(path_);
+    }
+    [[nodiscard]] std::optional<std::int64_t> length() const override { return real_->length(); }
+    [[nodiscard]] bool writable() const override {
+        return real_->writable() && (!faults_.read_only || !faults_.read_only(path_));
+    }
+    bool reserve(std::int64_t offset, std::int64_t size) override {
+        if (faults_.room_lacks && faults_.room_lacks(path_, offset + size)) return false;
+        return real_->reserve(offset, size);
+    }
+    lock_answer try_lock(program_lock which) override { return real_->try_lock(which); }
+    void unlock(program_lock which) override { real_->unlock(which); }
+    [[nodiscard]] bool locked_elsewhere(program_lock which) const override {
+        return real_->locked_elsewhere(which);
     }
 
  private:
@@ -33,15 +50,27 @@ class faulty_file final : public file {
     std::unique_ptr<file> real_;
 };
 
-}  // namespace
+bool faulty_files::refuses_read(const std::string& path, std::int64_t offset, std::size_t size) {
+    if (read_takes.count() > 0) std::this_thread::sleep_for(read_takes);
+    const std::scoped_lock one_at_a_time(counting_);
+    ++reads;
+    return read_fails && read_fails(path, offset, size);
+}
 
 std::unique_ptr<file> faulty_files::open_records(std::string_view path) {
+    if (open_fails && open_fails(std::string(path))) return nullptr;
     auto real = real_.open_records(path);
     if (!real) return nullptr;
     return std::make_unique<faulty_file>(*this, std::string(path), std::move(real));
 }
 
+std::optional<std::string> faulty_files::read_whole(std::string_view path) {
+    if (refuses_read(std::string(path), 0, 0)) return {};
+    return real_.read_whole(path);
+}
+
 std::unique_ptr<file> faulty_files::create(std::string_view path) {
+    if (open_fails && open_fails(std::string(path))) return nullptr;
     auto real = real_.create(path);
     if (!real) return nullptr;
     return std::make_unique<faulty_file>(*this, std::string(path), std::move(real));

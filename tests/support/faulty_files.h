@@ -1,7 +1,10 @@
 #pragma once
 
+#include <atomic>
+#include <chrono>
 #include <functional>
 #include <limits>
+#include <mutex>
 #include <string>
 #include <vector>
 
@@ -23,7 +26,7 @@ struct file_event {
 };
 
 /// Passes everything on to other files, notes the order of writes and flushes, and fails where a
-/// test wants it to.
+/// test wants it to. Reads may come from several threads, all else from one.
 class faulty_files final : public file_port {
  public:
     explicit faulty_files(file_port& real) : real_(real) {}
@@ -31,22 +34,34 @@ class faulty_files final : public file_port {
     std::vector<file_event> events;
     /// The process ends right after so many writes: the next one throws `crash`.
     std::size_t writes_before_crash = std::numeric_limits<std::size_t>::max();
-    /// Whether a read of so many bytes at an offset of a file fails.
+    /// Whether a read of so many bytes at an offset of a file fails; of a whole text, 0 bytes.
     std::function<bool(const std::string& path, std::int64_t offset, std::size_t size)> read_fails;
     /// Whether a write at an offset of a file fails.
     std::function<bool(const std::string& path, std::int64_t offset)> write_fails;
-    std::size_t reads = 0;
+    std::function<bool(const std::string& path)> flush_fails;
+    /// Whether a file can't be opened or created.
+    std::function<bool(const std::string& path)> open_fails;
+    /// Whether a file is open for reading only.
+    std::function<bool(const std::string& path)> read_only;
+    /// Whether the disk has no room for bytes up to `end` of a file.
+    std::function<bool(const std::string& path, std::int64_t end)> room_lacks;
+    /// How long the disk takes over each read, of any number at once.
+    std::chrono::microseconds read_takes{0};
+    std::atomic<std::size_t> reads = 0;
     std::size_t writes = 0;
 
     std::unique_ptr<file> open_records(std::string_view path) override;
-    std::optional<std::string> read_whole(std::string_view path) override {
-        return real_.read_whole(path);
-    }
+    std::optional<std::string> read_whole(std::string_view path) override;
+    bool exists(std::string_view path) override { return real_.exists(path); }
     std::unique_ptr<file> create(std::string_view path) override;
     bool create_folder(std::string_view path) override { return real_.create_folder(path); }
 
  private:
+    friend class faulty_file;
+    bool refuses_read(const std::string& path, std::int64_t offset, std::size_t size);
+
     file_port& real_;
+    std::mutex counting_;
 };
 
 }  // namespace vantora::test

@@ -1,0 +1,33 @@
+#include "program/write_messages.h"
+
+namespace vantora {
+
+namespace {
+
+void warn(ui::desk& desk, const std::string& text) {
+    desk.message(text, "Attenzione", ui::icon::stop);
+}
+
+}  // namespace
+
+bool may_write(ui::desk& desk, const instance_lock& lock) {
+    if (lock.may_go_on()) return true;
+    warn(desk,
+         "Un'altra postazione sta compattando l'archivio: nulla è stato salvato. Riprovare tra "
+         "poco."_cp);
+    return false;
+}
+
+bool may_write(ui::desk& desk, const write_plan& plan) {
+    if (plan.possible()) return true;
+    warn(desk, "Impossibile leggere o scrivere il file "_cp + plan.obstacle() +
+                   ": nulla è stato salvato."_cp);
+    return false;
+}
+
+void tell_faults(ui::desk& desk, const write_faults& faults) {
+    if (faults.none()) return;
+    warn(desk, "Salvataggio incompleto: errore di scrittura su "_cp + faults.names() + "."_cp);
+}
+
+}  // namespace vantora
