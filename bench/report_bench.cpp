@@ -1,0 +1,47 @@
+// How long a report of the longest list takes on its way into the print file, against writing the
+// same file from memory.
+
+#include <cstring>
+#include <fstream>
+#include <iterator>
+#include <span>
+
+#include "bench/measure.h"
+#include "bench/report_list.h"
+#include "documents/print_file.h"
+#include "support/program_stage.h"
+
+namespace vantora::bench {
+namespace {
+
+int run(int rows, int rounds) {
+    test::program_stage<> stage;
+    ui::grid list;
+    fill(list, rows);
+    for (const std::int16_t look : {std::int16_t{0}, std::int16_t{1}}) {
+        carica_parametri(stage.app.parameters, stage.files);
+        stage.app.parameters.tabella_stampa[1].stile = look;
+        stage.app.parameters.tabella_stampa[2].altezza = look;
+        const auto print = [&] {
+            stage.desk.queue_answer(ui::answer::ok);
+            stampa_report(stage.app, schede, list, uscita_report::pdf);
+        };
+        print();
+        std::ifstream in(stage.files.locate(file_di_stampa), std::ios::binary);
+        const std::string whole{std::istreambuf_iterator<char>(in), {}};
+        std::printf("%d rows, %zu bytes of print file\n", rows, whole.size());
+        compare(look == 0 ? "report, plain look" : "report, grey look", rounds, print,
+                "its print file from memory", [&] {
+                    stage.files.create(file_di_stampa)->write(0, std::as_bytes(std::span(whole)));
+                });
+    }
+    return 0;
+}
+
+}  // namespace
+}  // namespace vantora::bench
+
+int main(int count, char** arguments) {
+    const bool quick = count > 1 && std::strcmp(arguments[1], "--quick") == 0;
+    return quick ? vantora::bench::run(300, 3) : vantora::bench::run(32000, 15);
+}

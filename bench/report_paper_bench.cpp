@@ -1,0 +1,48 @@
+// How long a thousand rows of a report take on the system's printer, measured as a PDF file that
+// the toolkit prints; and how long they take into the print file, whose texts it measures.
+
+#include <QApplication>
+#include <QString>
+#include <cstring>
+
+#include "bench/measure.h"
+#include "bench/report_list.h"
+#include "support/program_stage.h"
+#include "ui/desktop/system_ports.h"
+
+namespace vantora::bench {
+namespace {
+
+int run(int rows, int rounds) {
+    test::program_stage<> stage;
+    const std::string pdf = (stage.folder.path() / "report.pdf").string();
+    ui::desktop::system_printer paper([&] { return QString::fromStdString(pdf); });
+    ui::desk desk(stage.front, stage.time, paper, stage.programs);
+    program app(stage.files, desk, stage.pictures);
+    carica_parametri(app.parameters, stage.files);
+    ui::grid list;
+    fill(list, rows);
+    std::vector<double> printed;
+    std::vector<double> filed;
+    for (int round = 0; round < rounds; ++round) {
+        desk.queue_answer(ui::answer::yes);
+        printed.push_back(
+            milliseconds([&] { stampa_report(app, schede, list, uscita_report::stampante); }));
+        desk.queue_answer(ui::answer::ok);
+        filed.push_back(
+            milliseconds([&] { stampa_report(app, schede, list, uscita_report::pdf); }));
+    }
+    std::printf("%d rows: %.0f ms on the printer, %.0f ms into the print file\n", rows,
+                median(printed), median(filed));
+    return 0;
+}
+
+}  // namespace
+}  // namespace vantora::bench
+
+int main(int count, char** arguments) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(count, arguments);
+    const bool quick = count > 1 && std::strcmp(arguments[1], "--quick") == 0;
+    return quick ? vantora::bench::run(50, 1) : vantora::bench::run(1000, 5);
+}
