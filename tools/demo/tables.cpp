@@ -42,7 +42,7 @@ std::vector<std::string> currency_lines() {
 std::vector<std::string> report_table_lines() {
     const std::string white = "16777215";
     const std::string pale_blue = "16579315";
-    std::vector<std::string> lines = {"30", "950", "30", "950", "2"};
+    std::vector<std::string> lines = {"40", "960", "30", "950", "2"};
     const auto add_font = [&](const char* first, const char* name, const char* points,
                               const char* bold, const char* colour) {
         lines.insert(lines.end(), {first, name, points, bold, "0", colour});
