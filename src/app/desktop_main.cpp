@@ -7,6 +7,7 @@
 #include "app/start.h"
 #include "store/drive.h"
 #include "ui/desktop/desktop_front_end.h"
+#include "ui/desktop/outside_end.h"
 #include "ui/desktop/script_runner.h"
 #include "ui/desktop/style.h"
 #include "ui/desktop/system_ports.h"
@@ -62,6 +63,10 @@ int main(int count, char** arguments) {
 
     if (!options.script.empty()) {
         scripted_run script(options.script);
+        if (!script.commands()) {
+            std::cerr << "Vantora Ordini: non si apre " << options.script << ".\n";
+            return 2;
+        }
         ui::desk desk(front, time, script.paper, script.programs);
         ui::script::interpreter commands(desk, time, script.paper, script.programs);
         ui::desktop::script_runner runner(front, commands, script.commands(), std::cout);
@@ -80,6 +85,7 @@ int main(int count, char** arguments) {
     ui::desk desk(front, time, paper, programs);
     program app(files, desk, pictures);
     front.begin(desk);
+    const ui::desktop::outside_end from_outside([&front] { front.end_by_user(); });
     desk.dispatch([&] { start(app, options.argument); });
     front.run();
     return exit_code(desk);

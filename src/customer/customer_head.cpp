@@ -20,6 +20,12 @@ customer_head::customer_head(program& app, const customer_head_kind& kind)
     add("bottone", bottone);
     add("Label2", Label2);
     Label2.set_text("Attenzione:questo cliente è stato eliminato!"_cp);
+    // A record never stored: its fields have their full widths.
+    const rec_cli widths;
+    for (std::size_t i = 0; i < customer_fields.size(); ++i) {
+        Text2[i].accepts = ui::input_rule::text(customer_fields[i](widths).size());
+    }
+    for (const int field : kind_.date_fields) Text3[field].accepts = ui::input_rule::day();
     wire_events();
 }
 

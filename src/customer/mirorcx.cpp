@@ -10,7 +10,13 @@ constexpr customer_head_kind nuovo_ordine{"mirorcx", "Selezione cliente", 51, {1
 
 }  // namespace
 
-mirorcx::mirorcx(program& app) : customer_head(app, nuovo_ordine) {}
+mirorcx::mirorcx(program& app) : customer_head(app, nuovo_ordine) {
+    using ui::input_rule;
+    Text3[0].accepts = input_rule::text(decltype(rec_orc::numero)::width);
+    for (int i = 3; i < 6; ++i) {
+        Text3[i].accepts = input_rule::text(decltype(rec_orc::testo1)::width);
+    }
+}
 
 void mirorcx::activate() {
     take_choice();

@@ -174,6 +174,19 @@ void line_grid::wire_cells(int row) {
     discount(&sc2[row], &riga_ordine::sc2);
     prezzo[row].on_change = [this, row] { price_changed(row); };
     wire_cell_focus(row);
+    limit_hands(row);
+}
+
+void line_grid::limit_hands(int row) {
+    using ui::input_rule;
+    constexpr std::size_t description =
+        decltype(rec_orc::descrizione)::width + decltype(rec_orc::descrizione2)::width;
+    ds[row].accepts = input_rule::text(description);
+    um[row].accepts = input_rule::text(decltype(rec_orc::um)::width);
+    for (ui::text_box* cell : {&quantita[row], &evaso[row], &prezzo[row]}) {
+        cell->accepts = input_rule::number();
+    }
+    for (ui::text_box* cell : {&sc1[row], &sc2[row]}) cell->accepts = input_rule::small_number();
 }
 
 void line_grid::price_changed(int row) {

@@ -67,6 +67,12 @@ void mirorc::load() {
     srt.set_visible(false);
     elenco.set_columns(register_columns());
     build_list();
+    const std::pair<int, const ui::screen_place*> ways[] = {
+        {nuovo_ordine, &app_.mirorcx},   {elenco_ordini, &app_.mirstoe},
+        {scadenziario, &app_.mirstos},   {valorizzazione, &app_.mirstov},
+        {schede_clienti, &app_.mirston}, {schede_articoli, &app_.mirstoa},
+    };
+    for (const auto& [button, place] : ways) bottone[button].set_enabled(place->exists());
 }
 
 void mirorc::activate() {

@@ -7,8 +7,9 @@ void mirorc::compact() {
     if (compacting_) return;
     constexpr const char* titolo = "Compattazione archivio";
     app_.archives.tot.read(contatori::ordini, contatore_);
-    const bool elimina_evasi = app_.desk.ask("Eliminare anche gli ordini evasi?", titolo);
-    if (!app_.desk.ask("Confermi?", titolo)) return;
+    const bool elimina_evasi = app_.desk.ask("Eliminare anche gli ordini evasi?", titolo,
+                                             ui::icon::question, ui::answer::no);
+    if (!app_.desk.ask("Confermi?", titolo, ui::icon::question, ui::answer::no)) return;
 
     compacting_ = true;
     app_.desk.set_pointer(ui::pointer::busy);

@@ -44,7 +44,6 @@ void desk::show(form& which) {
 
 void desk::show_modal(form& which) {
     modals_.push_back(&which);
-    which.modal_ = true;
     show(which);
     run_until([this, &which] { return std::ranges::find(modals_, &which) == modals_.end(); });
 }
@@ -78,7 +77,6 @@ void desk::drop_focus() {
 void desk::hide(form& which) {
     if (!which.visible_) return;
     which.visible_ = false;
-    which.modal_ = false;
     std::erase(stacking_, &which);
     std::erase(modals_, &which);
     if (active_ == &which) {

@@ -45,8 +45,9 @@ class desk {
     /// Shows a box and waits for its answer.
     answer show_box(message_box box);
     void message(std::string text, std::string title, icon sign);
-    /// True for yes.
-    bool ask(std::string text, std::string title, icon sign = icon::question);
+    /// True for yes. Where a yes destroys something, no is proposed.
+    bool ask(std::string text, std::string title, icon sign = icon::question,
+             answer proposed = answer::yes);
 
     /// Waits in a loop, letting events run, until `done` answers true.
     void wait_until(const std::function<bool()>& done);
@@ -89,6 +90,7 @@ class desk {
     void close(form& which);
     /// Answers the open box. False if there is none or it has no such button.
     bool answer_box(answer given);
+
     /// Keeps an answer for the boxes to come.
     void queue_answer(answer given) { queued_.push_back(given); }
     /// The boxes answered from the queue since the last call.
@@ -115,6 +117,9 @@ class desk {
     void activate(form& which);
     void drop_focus();
     void finish(ending how);
+    void fail(const std::string& message);
+
+    class depth_guard;
 
     front_end& front_;
     ui::clock& clock_;

@@ -9,19 +9,38 @@ namespace vantora::ui {
 // the screens' code as an exception, but never through a front end: each wait of the desk throws
 // it anew on its own side.
 
+/// Counts the dispatches that run inside one another; behind the last one, screens that went
+/// meanwhile are dropped.
+class desk::depth_guard {
+ public:
+    explicit depth_guard(desk& of) : of_(of) { ++of_.depth_; }
+    ~depth_guard() {
+        if (--of_.depth_ == 0) of_.buried_.clear();
+    }
+    depth_guard(const depth_guard&) = delete;
+    depth_guard& operator=(const depth_guard&) = delete;
+
+ private:
+    desk& of_;
+};
+
 void desk::dispatch(const std::function<void()>& action) {
     if (ended_) return;
-    ++depth_;
+    const depth_guard inside(*this);
     try {
         action();
     } catch (const program_end&) {
         // finish() has done what there is to do
-    } catch (const runtime_error& error) {
-        finish({true, error.what()});
-        front_.report_fatal(error.what());
+    } catch (const std::exception& error) {
+        fail(error.what());
+    } catch (...) {
+        fail("Errore imprevisto");
     }
-    --depth_;
-    if (depth_ == 0) buried_.clear();
+}
+
+void desk::fail(const std::string& message) {
+    finish({true, message});
+    front_.report_fatal(message);
 }
 
 void desk::finish(ending how) {
@@ -94,8 +113,9 @@ void desk::message(std::string text, std::string title, icon sign) {
     show_box({std::move(text), std::move(title), sign, buttons::ok});
 }
 
-bool desk::ask(std::string text, std::string title, icon sign) {
-    return show_box({std::move(text), std::move(title), sign, buttons::yes_no}) == answer::yes;
+bool desk::ask(std::string text, std::string title, icon sign, answer proposed) {
+    return show_box({std::move(text), std::move(title), sign, buttons::yes_no, proposed}) ==
+           answer::yes;
 }
 
 std::optional<std::string> desk::obstacle(const form& which) const {

@@ -82,7 +82,6 @@ class form {
     std::string name_;
     std::string title_;
     bool visible_ = false;
-    bool modal_ = false;
     int at_work_ = 0;
     control* remembered_ = nullptr;  ///< had the focus when the form was last active
     std::vector<control*> controls_;

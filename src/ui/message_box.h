@@ -14,6 +14,8 @@ struct message_box {
     std::string title;
     ui::icon icon = ui::icon::information;
     ui::buttons buttons = ui::buttons::ok;
+    /// What Enter gives in a window: no where a yes destroys something.
+    answer proposed = answer::yes;
 };
 
 /// True if the box has a button for the answer.

@@ -43,6 +43,9 @@ class printer {
     virtual void new_page() = 0;
     virtual void end_job() = 0;
 
+    /// What the next job is called, as "Ordine 401"; a job printed into a file proposes it.
+    virtual void set_job_name(std::string_view /*name*/) {}
+
     /// Shows the system's printer dialog in set-up mode and takes its choice over. False if the
     /// user left it without a choice.
     virtual bool choose_settings() = 0;

@@ -5,6 +5,7 @@
 
 #include "ui/bitmap.h"
 #include "ui/control.h"
+#include "ui/input_rule.h"
 
 namespace vantora::ui {
 
@@ -29,6 +30,7 @@ class text_box : public text_control {
     text_box() : text_control(control_kind::text_box) {}
 
     std::function<void()> on_change;  ///< the text became another one, whoever set it
+    input_rule accepts;               ///< from a hand in a window
 
     /// A character joins the end of the text, backspace takes the last one off.
     void take_effect(int code, std::optional<char> character) override;

@@ -74,7 +74,7 @@ class printing : public testing::Test {
 
 TEST_F(printing, EveryMarkStandsWhereItWasPut) {
     const QString pdf = file("ordine.pdf");
-    system_printer paper([&] { return pdf; });
+    system_printer paper([&](const QString&) { return pdf; }, {});
     const font small{"Arial", 10, false, false};
     const double width = paper.text_width("Quantità"_cp, small);
     paper.text(100, 60, "Quantità"_cp, small, 0);
@@ -120,7 +120,7 @@ TEST_F(printing, EveryMarkStandsWhereItWasPut) {
 // A logo comes as one small box a point; seams between them would show as paler lines.
 TEST_F(printing, APicturePrintedPointByPointHasNoSeams) {
     const QString pdf = file("logo.pdf");
-    system_printer paper([&] { return pdf; });
+    system_printer paper([&](const QString&) { return pdf; }, {});
     constexpr double side = 15 / 56.6929;
     constexpr int points = 60;
     for (int j = 0; j < points; ++j) {
@@ -151,11 +151,18 @@ TEST_F(printing, APicturePrintedPointByPointHasNoSeams) {
 }
 
 TEST_F(printing, EachJobAsksForItsFileAndADroppedOneLeavesNothing) {
-    QStringList answers{file("uno.pdf"), QString(), file("tre.pdf")};
-    int asked = 0;
-    system_printer paper([&] { return answers[asked++]; });
+    QStringList answers{file("uno.pdf"), QString(), "/dev/null/no.pdf", file("tre.pdf")};
+    QStringList asked;
+    QString told;
+    system_printer paper(
+        [&](const QString& proposed) {
+            asked << proposed;
+            return answers[asked.size() - 1];
+        },
+        [&](const QString& why) { told = why; });
     paper.end_job();
-    for (const char* word : {"primo", "secondo", "terzo"}) {
+    paper.set_job_name("Ordine 4/1");
+    for (const char* word : {"primo", "secondo", "nessuno", "terzo"}) {
         paper.text(20, 20, word, {}, 0);
         paper.new_page();
         paper.text(20, 20, "seguito", {}, 0);
@@ -163,7 +170,8 @@ TEST_F(printing, EachJobAsksForItsFileAndADroppedOneLeavesNothing) {
         paper.set_orientation(printer::landscape);
         EXPECT_EQ(paper.page_width(), 297);
     }
-    EXPECT_EQ(asked, 3);
+    EXPECT_EQ(asked, (QStringList{"Ordine 4-1", "Documento", "Documento", "Documento"}));
+    EXPECT_TRUE(told.contains("/dev/null/no.pdf")) << "a file that can't be written is named";
     EXPECT_FALSE(place_of(file("uno.pdf"), "primo").isEmpty());
     EXPECT_FALSE(place_of(file("tre.pdf"), "terzo").isEmpty());
     EXPECT_TRUE(place_of(file("tre.pdf"), "secondo").isEmpty());

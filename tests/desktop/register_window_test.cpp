@@ -3,6 +3,7 @@
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QTableView>
 
@@ -124,7 +125,12 @@ TEST_F(register_window, CompactsAfterItsTwoQuestions) {
          [&] {
              ASSERT_TRUE(box());
              EXPECT_EQ(box()->text(), "Confermi?");
-             QTest::keyClick(box(), Qt::Key_Return);
+             EXPECT_EQ(box()->buttonRole(box()->defaultButton()), QMessageBox::NoRole);
+             for (QAbstractButton* one : box()->buttons()) {
+                 if (box()->buttonRole(one) == QMessageBox::YesRole) {
+                     return QTest::mouseClick(one, Qt::LeftButton);
+                 }
+             }
          },
          [&] {
              EXPECT_FALSE(box());

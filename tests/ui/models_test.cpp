@@ -49,6 +49,49 @@ TEST(text_box, KeysReachTheEventsBeforeTheText) {
     EXPECT_EQ(box.text(), "a");
 }
 
+TEST(input_rule, AHandTypesOnlyWhatAFieldHolds) {
+    const auto number = input_rule::number();
+    const auto percent = input_rule::small_number();
+    const auto four = input_rule::text(4);
+    input_rule starred = number;
+    starred.alone = '*';
+    struct {
+        const input_rule& rule;
+        const char *before, *now, *admitted;  // null: refused
+    } cases[] = {
+        {number, "2", "2,", "2."},
+        {number, "2.", "2.,", nullptr},
+        {number, "", "-1,5", "-1.5"},
+        {number, "1", "1-", nullptr},
+        {number, "", "€ 1.234,50", "1234.50"},
+        {number, "", "1.234.567", "1234567"},
+        {number, "1", "1e", nullptr},
+        {number, "", "1,2,3", nullptr},
+        {number, "", "123456789012345", "123456789012345"},
+        {number, "123456789012345", "1234567890123456", nullptr},
+        {number, "12", "", ""},
+        {number, "", "*", nullptr},
+        {starred, "", "*", "*"},
+        {percent, "3276", "32767", "32767"},
+        {percent, "3276", "32768", nullptr},
+        {percent, "3.99999", "399999", nullptr},
+        {four, "abcd", "abxcd", nullptr},
+        {four, "ab", "aXYZb", "aXYb"},
+        {four, "abcdef", "abcdf", "abcdf"},
+    };
+    for (const auto& one : cases) {
+        const auto admitted = one.rule.admit(from_utf8(one.before), from_utf8(one.now));
+        EXPECT_EQ(admitted, one.admitted ? std::optional<std::string>(one.admitted) : std::nullopt)
+            << one.before << " -> " << one.now;
+    }
+    for (const char* typed : {"24/11", "24112026", "241126", "24-11-26", " 24.11.2026 "}) {
+        EXPECT_EQ(written_out_day(typed, 2026), "24/11/2026") << typed;
+    }
+    for (const char* typed : {"", "24", "99/99", "2411", "31022026"}) {
+        EXPECT_FALSE(written_out_day(typed, 2026)) << typed;
+    }
+}
+
 TEST(key, SignsHaveNoNamedKeysCode) {
     EXPECT_EQ(key::of('p'), 'P') << "a small p has the code of F1 as its character";
     EXPECT_EQ(key::of('7'), '7');

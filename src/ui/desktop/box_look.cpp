@@ -1,6 +1,7 @@
 #include "ui/desktop/box_look.h"
 
 #include <QGridLayout>
+#include <QLabel>
 #include <QMessageBox>
 
 #include "ui/desktop/form_window.h"
@@ -33,6 +34,13 @@ void dress_box(QMessageBox& box, icon sign) {
                        Qt::WindowCloseButtonHint);
     box.setIconPixmap(picture_named(picture_of(sign)).pixmap(picture_size, box.devicePixelRatio()));
     auto* rows = static_cast<QGridLayout*>(box.layout());
+    // Icon and text stand on one line.
+    for (const char* name : {"qt_msgbox_label", "qt_msgboxex_icon_label"}) {
+        auto* part = box.findChild<QLabel*>(name);
+        if (!part) continue;
+        part->setAlignment(Qt::AlignVCenter | Qt::AlignLeft);
+        rows->setAlignment(part, Qt::AlignVCenter);
+    }
     rows->addItem(new QSpacerItem(narrowest, 0), rows->rowCount(), 0, 1, rows->columnCount());
 }
 

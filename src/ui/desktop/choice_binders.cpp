@@ -18,7 +18,7 @@ class choice_binder final : public widget_binder {
         : widget_binder(model, new Widget(parent), act), button_(as<Widget>()), model_(model) {
         button_->setAutoExclusive(false);
         connect(button_, &QAbstractButton::clicked, this, [this] {
-            this->act([this] { (model_.*Click)(); });
+            act_click(*button_, [this] { (model_.*Click)(); });
             show_again(aspect::value);
         });
         show_all();
@@ -27,7 +27,12 @@ class choice_binder final : public widget_binder {
  private:
     void show_value(aspect what) override {
         if (what == aspect::text) button_->setText(shown(model_.text()));
-        if (what == aspect::value) button_->setChecked(model_.on());
+        if (what != aspect::value) return;
+        button_->setChecked(model_.on());
+        // Tab stops once in a group of options, at the one that is on.
+        if (model_.kind() == control_kind::option_button) {
+            button_->setFocusPolicy(model_.on() ? Qt::StrongFocus : Qt::ClickFocus);
+        }
     }
 
     QAbstractButton* button_;

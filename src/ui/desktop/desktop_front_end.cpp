@@ -36,26 +36,36 @@ void desktop_front_end::run() {
 
 void desktop_front_end::end_by_user() {
     desk_->stop();
+    // The system's own dialogs wait in loops of theirs.
+    for (QWidget* open : QApplication::topLevelWidgets()) {
+        auto* dialog = qobject_cast<QDialog*>(open);
+        if (dialog && dialog->isVisible()) dialog->reject();
+    }
     leave_finished_waits();
 }
 
 void desktop_front_end::run_until(const std::function<bool()>& done) {
-    if (next_step_) {
-        while (!done()) {
-            for (int settling = 0; settling < 3; ++settling) QCoreApplication::processEvents();
-            if (!next_step_()) {
-                desk_->stop();
-                return;
-            }
-        }
-        return;
-    }
     if (done()) return;
+    if (next_step_) return step_until(done);
     QEventLoop loop;
     waits_.push_back({&loop, &done});
     loop.exec();
     waits_.pop_back();
     leave_finished_waits();
+}
+
+void desktop_front_end::step_until(const std::function<bool()>& done) {
+    ++stepping_;
+    while (!done()) {
+        for (int settling = 0; settling < 3; ++settling) QCoreApplication::processEvents();
+        // Closed windows go when none of their events can still be under way.
+        if (stepping_ == 1) QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        if (!next_step_()) {
+            desk_->stop();
+            break;
+        }
+    }
+    --stepping_;
 }
 
 void desktop_front_end::leave_finished_waits() {
@@ -94,6 +104,10 @@ void desktop_front_end::form_loaded(form& which) {
         [this](form& closing) {
             if (!desk_->obstacle(closing)) carry_out([&] { desk_->close(closing); });
         },
+        [this](form& chosen) {
+            const bool another = desk_->active() && desk_->active() != &chosen;
+            if (another && !desk_->obstacle(chosen)) carry_out([&] { chosen.show(); });
+        },
         next_step_ == nullptr);
 }
 
@@ -127,6 +141,7 @@ void desktop_front_end::form_unloaded(form& which) {
 void desktop_front_end::form_activated(form& which) {
     form_window* window = window_of(which);
     if (!window) return;
+    keys_.screen_came_up();
     window->raise();
     window->activateWindow();
 }
@@ -152,7 +167,7 @@ void desktop_front_end::box_opened(const message_box& box) {
     if (box.buttons == buttons::yes_no) {
         auto* yes = shown_box->addButton(QString::fromUtf8("&Sì"), QMessageBox::YesRole);
         auto* no = shown_box->addButton("&No", QMessageBox::NoRole);
-        shown_box->setDefaultButton(yes);
+        shown_box->setDefaultButton(box.proposed == answer::no ? no : yes);
         shown_box->setEscapeButton(no);
     } else {
         shown_box->setStandardButtons(QMessageBox::Ok);
@@ -168,6 +183,7 @@ void desktop_front_end::box_opened(const message_box& box) {
         carry_out([&] { desk_->answer_box(given); });
     });
     boxes_.push_back(shown_box);
+    keys_.screen_came_up();
     show_pointer();
     shown_box->show();
 }
@@ -182,6 +198,10 @@ void desktop_front_end::box_closed() {
     box->deleteLater();
     if (form* active = desk_->active()) form_activated(*active);
     focus_moved(desk_->focus());
+    // The next bar code takes the place of the one that the box complained about.
+    if (control* worked_on = desk_->focus()) {
+        if (form_window* window = window_of(worked_on->owner())) window->select_text(*worked_on);
+    }
 }
 
 void desktop_front_end::pointer_changed(pointer) {

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "ui/desktop/form_window.h"
+#include "ui/desktop/key_guard.h"
 #include "ui/front_end.h"
 
 class QEventLoop;
@@ -60,6 +61,7 @@ class desktop_front_end final : public front_end {
 
     void act(control& on, const std::function<void()>& action);
     void carry_out(const std::function<void()>& action);
+    void step_until(const std::function<bool()>& done);
     void leave_finished_waits();
     form_window* window_of(form& which);
     void show_pointer();
@@ -71,7 +73,9 @@ class desktop_front_end final : public front_end {
     std::vector<QMessageBox*> boxes_;
     bool busy_shown_ = false;
     std::vector<wait> waits_;
+    int stepping_ = 0;  ///< waits served by steps, inside one another
     QElapsedTimer since_events_;
+    key_guard keys_;
 };
 
 }  // namespace vantora::ui::desktop

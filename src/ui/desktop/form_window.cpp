@@ -2,14 +2,19 @@
 
 #include <QCloseEvent>
 #include <QGuiApplication>
+#include <QLineEdit>
 #include <QScreen>
+#include <QScrollArea>
 #include <QSettings>
 #include <QShortcut>
+#include <QSplitter>
 #include <QToolButton>
-#include <algorithm>
+#include <QVBoxLayout>
 
 #include "ui/desk.h"
+#include "ui/desktop/grid_view.h"
 #include "ui/desktop/layouts.h"
+#include "ui/desktop/widget_binder.h"
 
 namespace vantora::ui::desktop {
 
@@ -26,13 +31,19 @@ QIcon picture_named(const char* name) {
 }
 
 form_window::form_window(form& screen, user_action act, std::function<void(form&)> close,
-                         bool remember)
-    : screen_(&screen), act_(std::move(act)), close_(std::move(close)), remember_(remember) {
+                         std::function<void(form&)> come_forward, bool remember)
+    : screen_(&screen),
+      act_(std::move(act)),
+      close_(std::move(close)),
+      come_forward_(std::move(come_forward)),
+      remember_(remember) {
     setObjectName(shown(screen.name()));
     setWindowTitle(shown(screen.title()));
     for (control* one : screen.controls()) binders_[one] = make_binder(*one, this, act_);
+    follow_controls_by_tab();
     lay_out(*this);
-    set_tab_order();
+    make_scrollable();
+    if (remember_) recall();
 }
 
 form_window::~form_window() {
@@ -67,18 +78,56 @@ void form_window::dress(const char* name, int index, const command_look& look,
 
 void add_shortcut(QAbstractButton& button, const char* keys) {
     auto* shortcut = new QShortcut(QKeySequence(keys), &button);
-    QObject::connect(shortcut, &QShortcut::activated, &button, &QAbstractButton::click);
+    shortcut->setAutoRepeat(false);
+    QObject::connect(shortcut, &QShortcut::activated, &button, [&button] { click_by_key(button); });
     const QString named = QString("(%1)").arg(shortcut->key().toString(QKeySequence::NativeText));
     button.setToolTip((button.toolTip() + " " + named).trimmed());
 }
 
-void form_window::set_tab_order() {
-    QWidget* before = nullptr;
+void form_window::make_scrollable() {
+    area_ = new QScrollArea(this);
+    area_->setFrameShape(QFrame::NoFrame);
+    area_->setWidgetResizable(true);
+    area_->setFocusPolicy(Qt::NoFocus);
+    auto* body = new QWidget(area_);
+    body->setLayout(layout());
+    // What lies over the layout goes with it.
+    for (auto* one : findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+        if (one == area_) continue;
+        const bool seen = !one->isHidden();
+        one->setParent(body);
+        one->setVisible(seen);
+    }
+    body->setMinimumSize(minimumSize().expandedTo(body->minimumSizeHint()));
+    setMinimumSize(0, 0);
+    area_->setWidget(body);
+    auto* whole = new QVBoxLayout(this);
+    whole->setContentsMargins(0, 0, 0, 0);
+    whole->addWidget(area_);
+}
+
+void form_window::follow_controls_by_tab() {
+    std::vector<QWidget*> stops;
     for (control* one : screen_->controls()) {
-        if (!one->focusable()) continue;
-        QWidget* next = &binders_.at(one)->widget();
-        if (before) setTabOrder(before, next);
-        before = next;
+        if (one->focusable()) stops.push_back(&binders_.at(one)->widget());
+    }
+    set_tab_order(stops);
+}
+
+void form_window::set_tab_order(const std::vector<QWidget*>& stops) {
+    for (std::size_t i = 1; i < stops.size(); ++i) setTabOrder(stops[i - 1], stops[i]);
+}
+
+/// How the user left what can be dragged in the window.
+void form_window::recall() {
+    for (grid_view* table : findChildren<grid_view*>()) {
+        table->remember_widths("windows/" + objectName() + "/" + table->objectName());
+    }
+    for (auto* splitter : findChildren<QSplitter*>()) {
+        const QString name = "windows/" + objectName() + "/" + splitter->objectName();
+        splitter->restoreState(QSettings().value(name).toByteArray());
+        connect(splitter, &QSplitter::splitterMoved, this,
+                [splitter, name] { QSettings().setValue(name, splitter->saveState()); });
     }
 }
 
@@ -97,15 +146,19 @@ void form_window::appear(const window_place& place) {
     if (!placed_) resize(size_on(room));
     placed_ = true;
     setWindowModality(modal ? Qt::ApplicationModal : Qt::NonModal);
-    setWindowState(place.full_screen && !modal ? windowState() | Qt::WindowMaximized
-                                               : windowState() & ~Qt::WindowMaximized);
+    const bool full_screen = place.known
+                                 ? place.full_screen
+                                 : remember_ && QSettings().value("windows/maximised").toBool();
+    setWindowState(full_screen && !modal ? windowState() | Qt::WindowMaximized
+                                         : windowState() & ~Qt::WindowMaximized);
     QRect inside(QPoint(), normal_size());
     inside.moveCenter(place.known ? place.middle : room.center() + QPoint(0, title_room / 2));
     inside.moveRight(std::min(inside.right(), room.right()));
     inside.moveBottom(std::min(inside.bottom(), room.bottom()));
     inside.moveTopLeft(QPoint(std::max(inside.left(), room.left()),
                               std::max(inside.top(), room.top() + title_room)));
-    setGeometry(inside);
+    // A geometry set now would be that of the maximised window.
+    if (!isMaximized()) setGeometry(inside);
     show();
 }
 
@@ -119,7 +172,15 @@ window_place form_window::place() const {
 
 void form_window::focus_on(control& one) {
     QWidget& target = binders_.at(&one)->widget();
-    if (!target.hasFocus()) target.setFocus(Qt::OtherFocusReason);
+    // As if the user had come by Tab: what stands in a field is there to be typed over.
+    if (!target.hasFocus()) target.setFocus(Qt::TabFocusReason);
+    if (area_->widget()->isAncestorOf(&target)) area_->ensureWidgetVisible(&target);
+}
+
+void form_window::select_text(control& one) {
+    if (one.kind() == control_kind::text_box) {
+        static_cast<QLineEdit&>(binders_.at(&one)->widget()).selectAll();
+    }
 }
 
 void form_window::closeEvent(QCloseEvent* event) {
@@ -130,13 +191,10 @@ void form_window::closeEvent(QCloseEvent* event) {
 
 bool form_window::event(QEvent* event) {
     if (event->type() == QEvent::Hide && placed_ && remember_) {
-        QSettings().setValue("windows/" + objectName() + "/size", normal_size());
+        if (!isMaximized()) QSettings().setValue("windows/" + objectName() + "/size", size());
+        if (!isModal()) QSettings().setValue("windows/maximised", isMaximized());
     }
-    if (event->type() == QEvent::WindowActivate && screen_ && screen_->visible() &&
-        screen_->desk().active() && screen_->desk().active() != screen_ &&
-        !screen_->desk().obstacle(*screen_)) {
-        screen_->desk().dispatch([this] { screen_->show(); });
-    }
+    if (event->type() == QEvent::WindowActivate && screen_) come_forward_(*screen_);
     return QWidget::event(event);
 }
 

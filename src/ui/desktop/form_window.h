@@ -2,6 +2,7 @@
 
 #include <QIcon>
 #include <QWidget>
+#include <algorithm>
 #include <map>
 #include <memory>
 #include <vector>
@@ -10,6 +11,7 @@
 #include "ui/form.h"
 
 class QAbstractButton;
+class QScrollArea;
 class QToolButton;
 
 namespace vantora::ui::desktop {
@@ -33,8 +35,10 @@ struct window_place {
 /// them.
 class form_window final : public QWidget {
  public:
+    /// `close` and `come_forward`: the user closes the window, or brings it to the front.
     /// `remember`: sizes are kept from run to run.
-    form_window(form& screen, user_action act, std::function<void(form&)> close, bool remember);
+    form_window(form& screen, user_action act, std::function<void(form&)> close,
+                std::function<void(form&)> come_forward, bool remember);
     ~form_window() override;
 
     [[nodiscard]] form& screen() const { return *screen_; }
@@ -52,8 +56,16 @@ class form_window final : public QWidget {
     void dress(const char* name, int index, const command_look& look,
                Qt::ToolButtonStyle style = Qt::ToolButtonTextUnderIcon);
 
-    /// Carries out what the user does with a control by other means than its widget.
-    void act_on(control& one, const std::function<void()>& action) { act_(one, action); }
+    /// Carries out what the user does with a control by other means than its widget. Nothing, if
+    /// the screen has gone meanwhile or has no such control.
+    template <class Control = control, class Action>
+    void act_on(const char* name, int index, const Action& action) const {
+        control* one = screen_ ? screen_->find(name, std::max(index, 0)) : nullptr;
+        if (one) act_(*one, [&] { action(static_cast<Control&>(*one)); });
+    }
+
+    /// The way of Tab, where it isn't that of the controls.
+    void set_tab_order(const std::vector<QWidget*>& stops);
 
     /// Size of the first showing.
     void set_first_size(const QSize& size) { first_size_ = size; }
@@ -62,26 +74,33 @@ class form_window final : public QWidget {
     void appear(const window_place& place);
     [[nodiscard]] window_place place() const;
     void focus_on(control& one);
+    /// Selects the whole text of a field; nothing for other kinds.
+    void select_text(control& one);
 
  protected:
     void closeEvent(QCloseEvent* event) override;
     bool event(QEvent* event) override;
 
  private:
-    void set_tab_order();
+    void follow_controls_by_tab();
+    void recall();
+    /// Puts what the layout arranged into an area that scrolls where the screen is too small.
+    void make_scrollable();
     [[nodiscard]] QSize size_on(const QRect& room) const;
     [[nodiscard]] QSize normal_size() const;
 
     form* screen_;  ///< null when it is gone
     user_action act_;
     std::function<void(form&)> close_;
+    std::function<void(form&)> come_forward_;
     bool remember_;
     bool placed_ = false;
     QSize first_size_{800, 500};
+    QScrollArea* area_ = nullptr;
     std::map<const control*, std::unique_ptr<binder>> binders_;
 };
 
-/// Further keys for a button, told by its tooltip.
+/// Further keys for a button, told by its tooltip; pressed by them it leaves the focus where it is.
 void add_shortcut(QAbstractButton& button, const char* keys);
 
 /// A picture of the program.

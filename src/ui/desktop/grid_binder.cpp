@@ -117,11 +117,15 @@ class grid_binder final : public widget_binder {
     template <class Move>
     void follow(const Move& move) {
         following_ = true;
-        act(move);
+        act([&] {
+            move();
+            marked_ = model_.text(model_.row(), 0);
+        });
         following_ = false;
     }
 
     void show_value(aspect what) override {
+        if (what == aspect::shape && model_.rows() == 1) view_->show_sorted(-1);
         if (!model_.visible()) {
             stale_ = true;
             return;
@@ -129,6 +133,7 @@ class grid_binder final : public widget_binder {
         if (what == aspect::shape) {
             cells_->reset();
             view_->share_width();
+            keep_mark();
         }
         if (what == aspect::shape || what == aspect::position) show_position();
         if (what == aspect::content) view_->viewport()->update();
@@ -142,6 +147,20 @@ class grid_binder final : public widget_binder {
         widget_binder::changed(aspect::shape);
     }
 
+    /// Where the view wants it, the mark goes with its entry.
+    void keep_mark() {
+        const int filled = cells_->last_filled();
+        const bool joined = filled_ > 0 && filled > filled_;
+        if (filled > 0) filled_ = filled;
+        if (!view_->keeps_mark() || filled == 0 || (marked_.empty() && !joined)) return;
+        int row = joined ? filled : 1;
+        while (!joined && row <= filled && model_.text(row, 0) != marked_) ++row;
+        if (row > filled) return;
+        marked_ = model_.text(row, 0);
+        follow([&] { model_.set_row(row); });
+        brings_into_sight_ = true;
+    }
+
     void show_position() {
         const QModelIndex here = cells_->index(model_.row() - 1, model_.col());
         if (view_->currentIndex() != here) {
@@ -152,6 +171,7 @@ class grid_binder final : public widget_binder {
             view_->setAutoScroll(true);
         }
         show_top_row();
+        if (std::exchange(brings_into_sight_, false)) view_->scrollTo(here);
         view_->place_followers();
     }
 
@@ -195,6 +215,9 @@ class grid_binder final : public widget_binder {
     grid_view* view_;
     grid& model_;
     cells_model* cells_;
+    std::string marked_;  ///< column 0 of the row marked last
+    int filled_ = 0;      ///< entries when the list last came
+    bool brings_into_sight_ = false;
     bool following_ = false;
     bool stale_ = false;  ///< the grid changed while it was hidden
 };

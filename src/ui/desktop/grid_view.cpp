@@ -1,9 +1,15 @@
 #include "ui/desktop/grid_view.h"
 
+#include <QAbstractButton>
+#include <QApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QScrollBar>
+#include <QSettings>
 #include <QSignalBlocker>
+
+#include "store/text/code_page.h"
+#include "ui/desktop/binder.h"
 
 namespace vantora::ui::desktop {
 
@@ -20,52 +26,106 @@ grid_view::grid_view(const grid& model, QWidget* parent) : QTableView(parent), m
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 4);
-    horizontalHeader()->setHighlightSections(false);
-    horizontalHeader()->setSectionsClickable(true);
-    horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    horizontalHeader()->setFixedHeight(fontMetrics().height() + 12);
+    QHeaderView* heads = horizontalHeader();
+    heads->setHighlightSections(false);
+    heads->setSectionsClickable(true);
+    heads->setSectionResizeMode(QHeaderView::Interactive);
+    heads->setFixedHeight(fontMetrics().height() + 12);
+    heads->viewport()->installEventFilter(this);
+    connect(heads, &QHeaderView::sectionClicked, this,
+            [this](int column) { head_clicked(column); });
+    connect(heads, &QHeaderView::sectionResized, this, [this] { dragging_ |= !sharing_; });
+}
+
+// Widths --------------------------------------------------------------------------------------
+
+int grid_view::share_of(int column) const {
+    const auto at = static_cast<std::size_t>(column);
+    const int designed = model_.columns()[at].width;
+    return designed == 0 || dragged_.size() != model_.columns().size() ? designed : dragged_[at];
 }
 
 std::vector<int> grid_view::shared_widths() const {
-    const auto& columns = model_.columns();
-    const int least = fontMetrics().horizontalAdvance("00000000000") + 14;
+    const int columns = model_.cols();
+    const int least = dragged_.empty() ? fontMetrics().horizontalAdvance("00000000000") + 14
+                                       : horizontalHeader()->minimumSectionSize();
     int room = viewport()->width();
     int shares = 0;
-    for (const auto& column : columns) shares += column.width;
-    std::vector<int> widths(columns.size(), 0);
+    for (int i = 0; i < columns; ++i) shares += share_of(i);
+    std::vector<int> widths(static_cast<std::size_t>(columns), 0);
     // Columns that would get too narrow take their least first; the others share what is left.
     for (bool again = true; again;) {
         again = false;
-        for (std::size_t i = 0; i < columns.size(); ++i) {
-            if (columns[i].width == 0 || widths[i] != 0 || shares == 0) continue;
-            if (static_cast<long long>(room) * columns[i].width / shares >= least) continue;
-            widths[i] = least;
+        for (int i = 0; i < columns; ++i) {
+            int& width = widths[static_cast<std::size_t>(i)];
+            const int share = share_of(i);
+            if (share == 0 || width != 0 || shares == 0) continue;
+            if (static_cast<long long>(room) * share / shares >= least) continue;
+            width = least;
             room -= least;
-            shares -= columns[i].width;
+            shares -= share;
             again = true;
         }
     }
-    for (std::size_t i = 0; i < columns.size(); ++i) {
-        if (columns[i].width == 0 || widths[i] != 0) continue;
-        widths[i] = static_cast<int>(static_cast<long long>(room) * columns[i].width / shares);
-        room -= widths[i];
-        shares -= columns[i].width;
+    for (int i = 0; i < columns; ++i) {
+        int& width = widths[static_cast<std::size_t>(i)];
+        const int share = share_of(i);
+        if (share == 0 || width != 0) continue;
+        width = static_cast<int>(static_cast<long long>(room) * share / shares);
+        room -= width;
+        shares -= share;
     }
     return widths;
 }
 
 void grid_view::share_width() {
+    sharing_ = true;
     const std::vector<int> widths = shared_widths();
     for (int i = 0; i < model_.cols(); ++i) {
         const int width = widths[static_cast<std::size_t>(i)];
         setColumnHidden(i, width == 0);
         if (width != 0) setColumnWidth(i, width);
     }
+    sharing_ = false;
     place_followers();
 }
 
+void grid_view::remember_widths(const QString& name) {
+    widths_name_ = name;
+    dragged_.clear();
+    for (const QVariant& width : QSettings().value(name).toList()) {
+        dragged_.push_back(std::max(width.toInt(), 1));
+    }
+    share_width();
+}
+
+void grid_view::take_dragged_widths() {
+    dragging_ = false;
+    dragged_.clear();
+    QVariantList kept;
+    for (int i = 0; i < model_.cols(); ++i) {
+        dragged_.push_back(std::max(columnWidth(i), 1));
+        kept << dragged_.back();
+    }
+    if (!widths_name_.isEmpty()) QSettings().setValue(widths_name_, kept);
+    share_width();
+}
+
+bool grid_view::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == horizontalHeader()->viewport() && event->type() == QEvent::MouseButtonRelease &&
+        dragging_) {
+        take_dragged_widths();
+    }
+    return QTableView::eventFilter(watched, event);
+}
+
+// What follows columns and cells ----------------------------------------------------------------
+
 void grid_view::keep_above(int column, QWidget* widget) {
     above_.push_back({column, widget});
+    if (auto* button = qobject_cast<QAbstractButton*>(widget)) {
+        connect(button, &QAbstractButton::clicked, this, [this, column] { show_sorted(column); });
+    }
     place_followers();
 }
 
@@ -88,6 +148,43 @@ void grid_view::place_followers() {
                                 one.widget->height());
     }
 }
+
+void grid_view::head_clicked(int column) {
+    for (const follower& one : above_) {
+        auto* button = qobject_cast<QAbstractButton*>(one.widget);
+        if (button && one.column == column && button->isEnabled()) button->click();
+    }
+    show_sorted(sorted_);
+}
+
+void grid_view::show_sorted(int column) {
+    sorted_ = column;
+    horizontalHeader()->setSortIndicatorShown(column >= 0);
+    horizontalHeader()->setSortIndicator(column, Qt::AscendingOrder);
+}
+
+// Typing ----------------------------------------------------------------------------------------
+
+void grid_view::keyboardSearch(const QString& typed) {
+    const bool goes_on =
+        since_typed_.isValid() && since_typed_.elapsed() < QApplication::keyboardInputInterval();
+    since_typed_.start();
+    typed_ = goes_on ? typed_ + typed : typed;
+    const std::string wanted = upper(taken(typed_));
+    const int column = sorted_ >= 0 ? sorted_ : search_column_;
+    const int rows = model_.rows() - 1;
+    // A text typed on may still fit the row that was found by its beginning.
+    const int start = currentIndex().row() + (goes_on ? 0 : 1);
+    for (int step = 0; step < rows; ++step) {
+        const int row = (std::max(start, 0) + step) % rows;
+        const std::string_view text = model_.text(row + 1, column);
+        if (upper(std::string(text.substr(0, wanted.size()))) != wanted) continue;
+        setCurrentIndex(model()->index(row, 0));
+        return;
+    }
+}
+
+// Scrolling and focus -----------------------------------------------------------------------------
 
 void grid_view::resizeEvent(QResizeEvent* event) {
     QTableView::resizeEvent(event);

@@ -1,7 +1,8 @@
 #include <QAbstractListModel>
 #include <QComboBox>
-#include <QKeyEvent>
+#include <QGuiApplication>
 #include <QListView>
+#include <QMouseEvent>
 
 #include "ui/desktop/kinds.h"
 #include "ui/desktop/widget_binder.h"
@@ -43,8 +44,13 @@ class list_box_binder final : public widget_binder {
         view_->setModel(entries_);
         view_->setUniformItemSizes(true);
         view_->setEditTriggers(QAbstractItemView::NoEditTriggers);
-        connect(view_, &QListView::clicked, this,
-                [this](const QModelIndex& index) { this->act([&] { model_.pick(index.row()); }); });
+        connect(view_->selectionModel(), &QItemSelectionModel::currentChanged, this,
+                [this](const QModelIndex& now) {
+                    // The mouse picks when it lets go.
+                    const bool by_mouse = QGuiApplication::mouseButtons() != Qt::NoButton;
+                    if (!showing() && !by_mouse && now.isValid()) pick(now.row());
+                });
+        view_->viewport()->installEventFilter(this);
         show_all();
     }
 
@@ -55,11 +61,20 @@ class list_box_binder final : public widget_binder {
         view_->setCurrentIndex(chosen);
         if (chosen.isValid()) view_->scrollTo(chosen);
     }
-    bool key_pressed(QKeyEvent& event) override {
-        if (widget_binder::key_pressed(event)) return true;
-        if (event.key() != Qt::Key_Up && event.key() != Qt::Key_Down) return false;
-        act([&] { model_.pick(model_.chosen() + (event.key() == Qt::Key_Up ? -1 : 1)); });
-        return true;
+    // The entry that is highlighted is the one picked, by whatever key.
+    [[nodiscard]] bool widget_takes(bool typed) const override { return typed; }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (watched == &widget()) return widget_binder::eventFilter(watched, event);
+        if (event->type() == QEvent::MouseButtonRelease) {
+            const auto& mouse = static_cast<QMouseEvent&>(*event);
+            const bool on_entry = view_->indexAt(mouse.position().toPoint()).isValid();
+            if (mouse.button() == Qt::LeftButton && on_entry) pick(view_->currentIndex().row());
+        }
+        return false;
+    }
+    void pick(int entry) {
+        act([&] { model_.pick(entry); });
     }
 
     QListView* view_;

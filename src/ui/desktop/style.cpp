@@ -50,7 +50,7 @@ QToolButton { border: 1px solid transparent; border-radius: 5px; padding: 4px 8p
 QToolButton:hover { background: #e3edf6; border-color: #c3d6e6; }
 QToolButton:pressed { background: #cfe0ee; padding: 5px 8px 3px 8px; }
 QToolButton:focus { border-color: #2f6ea5; }
-QToolButton:disabled { color: #9aa5ae; }
+QToolButton:disabled { color: #616d78; }
 QToolButton[look="plain"] { background: #f6f8fa; border-color: #c5ced6; }
 QToolButton[look="plain"]:hover { background: #e3edf6; }
 QToolButton[look="plain"]:focus { border-color: #2f6ea5; }
@@ -62,7 +62,8 @@ QToolButton[look="main"] { background: #24527a; color: white; border-color: #245
                            padding: 6px 14px; font-weight: 600; }
 QToolButton[look="main"]:hover { background: #2f6ea5; }
 QToolButton[look="main"]:focus { border: 2px solid #8fc0e8; }
-QLineEdit, QComboBox, QDateEdit { border: 1px solid #c5ced6; border-radius: 4px; padding: 3px 5px;
+QToolButton[look="blank"] { background: transparent; border: none; }
+QLineEdit, QComboBox, QDateEdit { border: 1px solid #84919d; border-radius: 4px; padding: 3px 5px;
                        background: white; selection-background-color: #2f6ea5; }
 QLineEdit:focus, QComboBox:focus, QDateEdit:focus { border: 1px solid #2f6ea5;
                        background: #f4f9ff; }
@@ -74,8 +75,10 @@ QDateEdit[look="calendar"]::drop-down { width: 30px; subcontrol-position: center
 QDateEdit[look="calendar"]::down-arrow { image: url(:/icons/scadenziario.svg); width: 17px;
                        height: 17px; }
 QDateEdit[look="calendar"]:focus { border: 1px solid #2f6ea5; background: #d8e9f8; }
-QLineEdit[cell="true"] { border-radius: 0; padding: 2px 4px; border-color: #d9e0e6; }
-QLineEdit[cell="current"] { border-radius: 0; padding: 2px 4px; border-color: #b9d3ea;
+QLineEdit:disabled, QComboBox:disabled, QListView:disabled { background: #e8ecf0;
+                       color: #616d78; }
+QLineEdit[cell="true"] { border-radius: 0; padding: 2px 4px; border-color: #84919d; }
+QLineEdit[cell="current"] { border-radius: 0; padding: 2px 4px; border-color: #5f8fb8;
                        background: #eaf3fb; }
 QLineEdit[cell]:focus { border: 1px solid #2f6ea5; background: #fff8dc; }
 QComboBox[look="over"] { border: 1px solid #2f6ea5; background: #fff8dc; border-radius: 2px; }
@@ -84,7 +87,7 @@ QPushButton { border: 1px solid #c5ced6; border-radius: 5px; background: #f6f8fa
               padding: 5px 16px; min-width: 62px; }
 QPushButton:hover { background: #e3edf6; }
 QPushButton:pressed { background: #cfe0ee; }
-QPushButton:disabled { color: #9aa5ae; }
+QPushButton:disabled { color: #616d78; }
 QPushButton:default { border-color: #2f6ea5; }
 QPushButton:focus { border: 2px solid #2f6ea5; padding: 4px 15px; }
 QMessageBox QLabel#qt_msgbox_label { padding: 8px 8px 8px 2px; }
@@ -106,13 +109,35 @@ QListView { border: 1px solid #c5ced6; background: white; selection-background-c
 QHeaderView::section { background: #e9eef3; color: #24527a; border: none;
                        border-right: 1px solid #d3dbe2; border-bottom: 1px solid #c5ced6;
                        padding: 3px 6px; font-weight: 600; }
+QHeaderView::down-arrow { image: url(:/icons/su.svg); width: 12px; height: 12px; }
+QScrollBar { background: #eef1f4; }
+QScrollBar:vertical { width: 18px; margin: 17px 0; }
+QScrollBar:horizontal { height: 18px; margin: 0 17px; }
+QScrollBar::handle { background: #71818f; border-radius: 4px; margin: 2px 3px; }
+QScrollBar::handle:vertical { min-height: 30px; margin: 2px 3px; }
+QScrollBar::handle:horizontal { min-width: 30px; margin: 3px 2px; }
+QScrollBar::handle:hover { background: #55656f; }
+QScrollBar::handle:disabled { background: #c5ced6; }
+QScrollBar:focus { border: 2px solid #2f6ea5; }
+QScrollBar:focus::handle { background: #2f6ea5; }
+QScrollBar::add-line, QScrollBar::sub-line { background: #e3e8ec; border: none; }
+QScrollBar::add-line:vertical { height: 17px; subcontrol-position: bottom; subcontrol-origin: margin; }
+QScrollBar::sub-line:vertical { height: 17px; subcontrol-position: top; subcontrol-origin: margin; }
+QScrollBar::add-line:horizontal { width: 17px; subcontrol-position: right; subcontrol-origin: margin; }
+QScrollBar::sub-line:horizontal { width: 17px; subcontrol-position: left; subcontrol-origin: margin; }
+QScrollBar::down-arrow { image: url(:/icons/giu.svg); width: 11px; height: 11px; }
+QScrollBar::up-arrow { image: url(:/icons/su.svg); width: 11px; height: 11px; }
+QScrollBar::right-arrow { image: url(:/icons/avanti.svg); width: 11px; height: 11px; }
+QScrollBar::left-arrow { image: url(:/icons/indietro.svg); width: 11px; height: 11px; }
+QSplitter::handle { background: transparent; }
+QSplitter::handle:hover { background: #c3d6e6; }
 QProgressBar { border: 1px solid #c5ced6; border-radius: 4px; text-align: center;
                background: white; }
 QProgressBar::chunk { background: #7fb2da; border-radius: 3px; }
-QLabel[role="number"] { color: #93a1ad; }
+QLabel[role="number"] { color: #586673; }
 QFrame[role="stock"] { background: #eef3f7; border: 1px solid #d3dbe2; border-radius: 4px; }
 QLabel[role="link"] { color: #1d66a6; text-decoration: underline; }
-QLabel[role="faint"] { color: #6b7a87; }
+QLabel[role="faint"] { color: #586673; }
 QLabel[role="warning"] { color: #a3271c; font-weight: 600; }
 QLabel[role="total"] { background: white; border: 1px solid #d3dbe2; border-radius: 4px;
                        padding: 4px 8px; font-weight: 600; }
@@ -135,6 +160,9 @@ void dress_application(QApplication& application) {
     palette.setColor(QPalette::ButtonText, QColor("#1e2b36"));
     palette.setColor(QPalette::Highlight, QColor("#2f6ea5"));
     palette.setColor(QPalette::HighlightedText, Qt::white);
+    for (const auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText}) {
+        palette.setColor(QPalette::Disabled, role, QColor("#616d78"));
+    }
     QApplication::setPalette(palette);
     QFont font = QApplication::font();
     font.setFamilies({"Liberation Sans", "DejaVu Sans", font.family()});

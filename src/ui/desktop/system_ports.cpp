@@ -3,7 +3,9 @@
 #include <QApplication>
 #include <QDialogButtonBox>
 #include <QDir>
+#include <QFile>
 #include <QFileDialog>
+#include <QMessageBox>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinterInfo>
@@ -12,29 +14,62 @@
 #include <QStandardPaths>
 
 #include "ui/desktop/binder.h"
+#include "ui/desktop/box_look.h"
 
 namespace vantora::ui::desktop {
 
 namespace {
 
+constexpr const char* nameless = "Documento";
+
 /// A name that isn't taken yet, in the user's folder of documents.
-QString proposed_file() {
+QString proposed_file(const QString& called) {
     const QDir folder(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
-    QString name = "Documento.pdf";
-    for (int i = 2; folder.exists(name); ++i) name = QString("Documento %1.pdf").arg(i);
+    QString name = called + ".pdf";
+    for (int i = 2; folder.exists(name); ++i) name = QString("%1 (%2).pdf").arg(called).arg(i);
     return folder.filePath(name);
 }
 
-QString ask_by_dialog() {
-    // Long work may have set the busy pointer.
-    const QCursor* busy = QGuiApplication::overrideCursor();
-    if (busy) QGuiApplication::changeOverrideCursor(Qt::ArrowCursor);
-    QString file = QFileDialog::getSaveFileName(QApplication::activeWindow(),
-                                                "Nessuna stampante: salva il documento in PDF",
-                                                proposed_file(), "Documenti PDF (*.pdf)");
-    if (busy) QGuiApplication::changeOverrideCursor(Qt::WaitCursor);
-    if (!file.isEmpty() && QFileInfo(file).suffix().isEmpty()) file += ".pdf";
-    return file;
+/// Long work may have set the busy pointer; a dialog is no place for it.
+class plain_pointer {
+ public:
+    plain_pointer() : busy_(QGuiApplication::overrideCursor() != nullptr) {
+        if (busy_) QGuiApplication::changeOverrideCursor(Qt::ArrowCursor);
+    }
+    ~plain_pointer() {
+        if (busy_) QGuiApplication::changeOverrideCursor(Qt::WaitCursor);
+    }
+    plain_pointer(const plain_pointer&) = delete;
+    plain_pointer& operator=(const plain_pointer&) = delete;
+
+ private:
+    bool busy_;
+};
+
+QString ask_by_dialog(const QString& called) {
+    const plain_pointer shown_meanwhile;
+    QFileDialog dialog(QApplication::activeWindow(), "Nessuna stampante: salva il documento in PDF",
+                       proposed_file(called), "Documenti PDF (*.pdf)");
+    // The system's own dialog speaks the system's language.
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix("pdf");
+    dialog.setLabelText(QFileDialog::LookIn, "Cerca in:");
+    dialog.setLabelText(QFileDialog::FileName, "Nome del file:");
+    dialog.setLabelText(QFileDialog::FileType, "Tipo di file:");
+    dialog.setLabelText(QFileDialog::Accept, "&Salva");
+    dialog.setLabelText(QFileDialog::Reject, "&Annulla");
+    dialog.selectFile(proposed_file(called));
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
+void tell_by_box(const QString& why) {
+    const plain_pointer shown_meanwhile;
+    QMessageBox box(QApplication::activeWindow());
+    box.setWindowTitle("Attenzione");
+    box.setText(why);
+    dress_box(box, icon::warning);
+    box.exec();
 }
 
 }  // namespace
@@ -45,14 +80,19 @@ struct system_printer::job {
     std::unique_ptr<page_painter> page;
 };
 
-system_printer::system_printer() : printer_(QPrinter::HighResolution), ask_(ask_by_dialog) {
+system_printer::system_printer()
+    : printer_(QPrinter::HighResolution),
+      ask_(ask_by_dialog),
+      tell_(tell_by_box),
+      job_name_(nameless) {
     printer_.setPageSize(QPageSize(QPageSize::A4));
     printer_.setFullPage(true);
     printer_.setDocName("Vantora Ordini");
 }
 
-system_printer::system_printer(ask_for_file ask) : system_printer() {
+system_printer::system_printer(ask_for_file ask, tell_failure tell) : system_printer() {
     ask_ = std::move(ask);
+    tell_ = std::move(tell);
     printer_.setOutputFormat(QPrinter::PdfFormat);
 }
 
@@ -84,16 +124,26 @@ void system_printer::begin_job() {
     const bool to_file = printer_.outputFormat() == QPrinter::PdfFormat ||
                          QPrinterInfo::availablePrinterNames().isEmpty();
     if (to_file && printer_.outputFileName().isEmpty()) {
-        const QString file = ask_();
-        if (file.isEmpty()) return;
+        const QString file = ask_(job_name_);
+        if (file.isEmpty() || !open_file(file)) return;
         printer_.setOutputFormat(QPrinter::PdfFormat);
         printer_.setOutputFileName(file);
     }
     printer_.setFullPage(true);
     auto painter = std::make_unique<QPainter>();
-    if (!painter->begin(&printer_)) return;
+    if (!painter->begin(&printer_)) {
+        tell_(QString::fromUtf8("Il documento non si può stampare su ") + printer_.printerName());
+        return;
+    }
     job_->page = std::make_unique<page_painter>(*painter);
     job_->painter = std::move(painter);
+}
+
+bool system_printer::open_file(const QString& file) {
+    QFile target(file);
+    if (target.open(QIODevice::ReadWrite)) return true;
+    tell_(QString::fromUtf8("Il file %1 non si può scrivere: %2").arg(file, target.errorString()));
+    return false;
 }
 
 page_painter* system_printer::page() {
@@ -127,9 +177,16 @@ void system_printer::new_page() {
 void system_printer::end_job() {
     if (!job_) return;
     job_.reset();
+    job_name_ = nameless;
     page_ended_ = false;
     // The next document must not take this one's place.
     if (printer_.outputFormat() == QPrinter::PdfFormat) printer_.setOutputFileName(QString());
+}
+
+void system_printer::set_job_name(std::string_view name) {
+    job_name_ = shown(name).replace('/', '-').trimmed();
+    if (job_name_.isEmpty()) job_name_ = nameless;
+    printer_.setDocName(job_name_);
 }
 
 bool system_printer::choose_settings() {

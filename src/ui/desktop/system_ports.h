@@ -12,7 +12,10 @@
 namespace vantora::ui::desktop {
 
 /// Where a document goes that has no printer: the name of a PDF file, empty for nowhere.
-using ask_for_file = std::function<QString()>;
+/// `proposed`: what it might be called.
+using ask_for_file = std::function<QString(const QString& proposed)>;
+/// Tells the user why a job isn't printed.
+using tell_failure = std::function<void(const QString& why)>;
 
 /// The system's printer. Where there is none, each job asks for a PDF file and goes there; a user
 /// who names none drops the job.
@@ -21,7 +24,7 @@ class system_printer final : public printer {
     /// Asks by the system's dialog.
     system_printer();
     /// Every job goes into a file, whatever printers there are.
-    explicit system_printer(ask_for_file ask);
+    system_printer(ask_for_file ask, tell_failure tell);
     ~system_printer() override;
 
     [[nodiscard]] int orientation() const override;
@@ -37,6 +40,7 @@ class system_printer final : public printer {
     void box(double x1, double y1, double x2, double y2, colour ink, bool filled) override;
     void new_page() override;
     void end_job() override;
+    void set_job_name(std::string_view name) override;
     bool choose_settings() override;
 
  private:
@@ -46,9 +50,13 @@ class system_printer final : public printer {
     /// dropped.
     page_painter* page();
     void begin_job();
+    /// False, with the user told, if the file can't be written.
+    bool open_file(const QString& file);
 
     mutable QPrinter printer_;
     ask_for_file ask_;
+    tell_failure tell_;
+    QString job_name_;
     std::unique_ptr<job> job_;
     bool page_ended_ = false;  ///< the next mark begins a new page
 };

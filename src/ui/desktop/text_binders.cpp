@@ -1,9 +1,10 @@
-#include <QKeyEvent>
+#include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QToolButton>
 
+#include "ui/desk.h"
 #include "ui/desktop/kinds.h"
 #include "ui/desktop/page_painter.h"
 #include "ui/desktop/widget_binder.h"
@@ -13,30 +14,73 @@ namespace vantora::ui::desktop {
 
 namespace {
 
+/// Without the characters that the code page lacks.
+QString without_strange(QString text) {
+    constexpr QChar replacement = '?';
+    qsizetype at = 0;
+    while (at < text.size()) {
+        const qsizetype units = text[at].isHighSurrogate() ? 2 : 1;
+        const QString one = text.mid(at, units);
+        if (one != replacement && taken(one).starts_with('?')) {
+            text.remove(at, units);
+        } else {
+            at += units;
+        }
+    }
+    return text;
+}
+
 class text_box_binder final : public widget_binder {
  public:
     text_box_binder(text_box& model, QWidget* parent, const user_action& act)
         : widget_binder(model, new QLineEdit(parent), act), edit_(as<QLineEdit>()), model_(model) {
-        connect(edit_, &QLineEdit::textEdited, this, [this](const QString& text) {
-            this->act([&] { model_.set_text(taken(text)); });
-            show_again(aspect::text);
-        });
+        connect(edit_, &QLineEdit::textEdited, this, [this](const QString& text) { edited(text); });
         show_all();
     }
 
  private:
+    void edited(const QString& text) {
+        const QString kept = without_strange(text);
+        behind_cursor_ = text.size() - edit_->cursorPosition();
+        this->act([&] {
+            const auto admitted = model_.accepts.admit(model_.text(), taken(kept));
+            if (!admitted || kept != text) QApplication::beep();
+            if (admitted) model_.set_text(*admitted);
+        });
+        show_again(aspect::text);
+        behind_cursor_.reset();
+    }
+
+    // A text that comes while the field is worked on is there to be typed over; one that the
+    // hand itself typed stays with the cursor in it.
     void show_value(aspect) override {
         const QString text = shown(model_.text());
         if (edit_->text() == text) return;
-        const int cursor = edit_->cursorPosition();
         edit_->setText(text);
-        edit_->setCursorPosition(edit_->hasFocus() ? cursor : 0);
+        if (behind_cursor_) {
+            edit_->setCursorPosition(static_cast<int>(text.size() - *behind_cursor_));
+        } else if (edit_->hasFocus()) {
+            edit_->selectAll();
+        } else {
+            edit_->setCursorPosition(0);
+        }
+    }
+
+    /// A day is written out when its field is left.
+    void focus_lost() override {
+        if (model_.accepts.holds != input_rule::content::day) return;
+        act([&] {
+            const int year = model_.owner().desk().clock().now().day.year;
+            const auto day = written_out_day(model_.text(), year);
+            if (day) model_.set_text(*day);
+        });
     }
 
     [[nodiscard]] bool widget_takes(bool) const override { return true; }
 
     QLineEdit* edit_;
     text_box& model_;
+    std::optional<qsizetype> behind_cursor_;  ///< while the hand's own change is shown
 };
 
 class label_binder final : public widget_binder {
@@ -67,7 +111,7 @@ class button_binder final : public widget_binder {
           model_(model) {
         button_->setToolButtonStyle(Qt::ToolButtonTextOnly);
         connect(button_, &QToolButton::clicked, this,
-                [this] { this->act([this] { model_.click(); }); });
+                [this] { act_click(*button_, [this] { model_.click(); }); });
         show_all();
     }
 

@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <QProgressBar>
 #include <QScrollBar>
+#include <QTextCharFormat>
 
 #include "ui/desktop/kinds.h"
 #include "ui/desktop/widget_binder.h"
@@ -80,6 +81,9 @@ class date_binder final : public widget_binder {
         edit_->calendarWidget()->setLocale(italian);
         edit_->calendarWidget()->setFirstDayOfWeek(Qt::Monday);
         edit_->calendarWidget()->setMinimumSize(330, 240);
+        QPalette greyed = edit_->calendarWidget()->palette();
+        greyed.setColor(QPalette::Disabled, QPalette::Text, QColor("#98a3ad"));
+        edit_->calendarWidget()->setPalette(greyed);
         connect(edit_, &QDateEdit::dateChanged, this, [this](QDate day) {
             if (showing()) return;
             this->act([&] {
@@ -95,6 +99,7 @@ class date_binder final : public widget_binder {
     /// The calendar goes away after a choice as without one; the date stands by then.
     bool eventFilter(QObject* watched, QEvent* event) override {
         if (watched == &widget()) return widget_binder::eventFilter(watched, event);
+        if (event->type() == QEvent::Show) mark_today();
         if (event->type() == QEvent::Hide) this->act([&] { model_.choose(model_.value()); });
         return false;
     }
@@ -102,6 +107,15 @@ class date_binder final : public widget_binder {
     void show_value(aspect) override {
         const date& day = model_.value();
         edit_->setDate(QDate(day.year, day.month, day.day));
+    }
+
+    void mark_today() {
+        QTextCharFormat today;
+        today.setFontWeight(QFont::Bold);
+        today.setFontUnderline(true);
+        today.setBackground(QColor("#dcebf8"));
+        edit_->calendarWidget()->setDateTextFormat({}, {});
+        edit_->calendarWidget()->setDateTextFormat(QDate::currentDate(), today);
     }
 
     [[nodiscard]] bool widget_takes(bool) const override { return true; }

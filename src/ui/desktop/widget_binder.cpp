@@ -1,10 +1,13 @@
 #include "ui/desktop/widget_binder.h"
 
+#include <QAbstractButton>
 #include <QKeyEvent>
+#include <QPointer>
+#include <QShortcutEvent>
 #include <QTimer>
 
 #include "store/text/code_page.h"
-#include "ui/form.h"
+#include "ui/desk.h"
 
 namespace vantora::ui::desktop {
 
@@ -24,6 +27,9 @@ std::string taken(const QString& text) {
 
 namespace {
 
+/// Set while a button is pressed by a key of its own.
+constexpr const char* by_key = "by_key";
+
 struct pressed_key {
     int code = 0;
     std::optional<char> character;
@@ -39,6 +45,8 @@ pressed_key key_of(const QKeyEvent& event) {
             return {key::backspace, static_cast<char>(key::backspace)};
         case Qt::Key_Delete:
             return {key::del, {}};
+        case Qt::Key_Tab:
+            return {key::tab, {}};
         case Qt::Key_F1:
             return {key::f1, {}};
         case Qt::Key_Up:
@@ -56,6 +64,22 @@ pressed_key key_of(const QKeyEvent& event) {
 }
 
 }  // namespace
+
+void click_by_key(QAbstractButton& button) {
+    const QPointer<QAbstractButton> pressed(&button);
+    button.setProperty(by_key, true);
+    button.click();
+    if (pressed) pressed->setProperty(by_key, false);
+}
+
+void widget_binder::act_click(const QAbstractButton& button, const std::function<void()>& click) {
+    const bool gives_back = button.property(by_key).toBool();
+    act([&] {
+        control* before = model_.owner().desk().focus();
+        click();
+        if (gives_back && before && before != &model_ && model_.has_focus()) before->set_focus();
+    });
+}
 
 widget_binder::widget_binder(control& model, QWidget* made, user_action act)
     : model_(model), widget_(made), act_(std::move(act)) {
@@ -103,7 +127,7 @@ bool widget_binder::key_pressed(QKeyEvent& event) {
     if (pressed.code == 0) return false;
     const bool typed =
         pressed.character && static_cast<unsigned char>(*pressed.character) >= key::blank;
-    const bool leave = widget_takes(typed);
+    const bool leave = pressed.code == key::tab || widget_takes(typed);
     bool goes_on = false;
     act([&] {
         goes_on = model_.offer_key(pressed.code, pressed.character);
@@ -112,15 +136,35 @@ bool widget_binder::key_pressed(QKeyEvent& event) {
     return !(goes_on && leave);
 }
 
+bool widget_binder::wheel_changes_value() const {
+    const auto kind = model_.kind();
+    return kind == control_kind::drop_down || kind == control_kind::date_picker ||
+           kind == control_kind::scroll_bar;
+}
+
 bool widget_binder::eventFilter(QObject* watched, QEvent* event) {
     if (retired_) return false;
     if (event->type() == QEvent::FocusIn && !model_.has_focus()) {
         act([this] { model_.set_focus(); });
     }
+    // The letter with Alt; the toolkit would take the focus first.
+    if (event->type() == QEvent::Shortcut && !static_cast<QShortcutEvent*>(event)->isAmbiguous()) {
+        if (auto* button = qobject_cast<QAbstractButton*>(widget_)) {
+            click_by_key(*button);
+            return true;
+        }
+    }
+    if (event->type() == QEvent::FocusOut) {
+        const auto why = static_cast<QFocusEvent*>(event)->reason();
+        if (why != Qt::ActiveWindowFocusReason && why != Qt::PopupFocusReason) focus_lost();
+    }
     if (event->type() == QEvent::KeyPress && !retired_) {
-        auto& key = static_cast<QKeyEvent&>(*event);
-        const bool walking = key.key() == Qt::Key_Tab || key.key() == Qt::Key_Backtab;
-        if (!walking && key_pressed(key)) return true;
+        if (key_pressed(static_cast<QKeyEvent&>(*event))) return true;
+    }
+    // The wheel changes nothing where the focus isn't; what lies around may scroll.
+    if (event->type() == QEvent::Wheel && !widget_->hasFocus() && wheel_changes_value()) {
+        event->ignore();
+        return true;
     }
     return QObject::eventFilter(watched, event);
 }

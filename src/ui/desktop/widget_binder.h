@@ -4,9 +4,13 @@
 
 #include "ui/desktop/binder.h"
 
+class QAbstractButton;
 class QKeyEvent;
 
 namespace vantora::ui::desktop {
+
+/// Presses a button as its keys do: where the screen doesn't move the focus, it stays.
+void click_by_key(QAbstractButton& button);
 
 /// What the binders of all kinds share: visibility, enabling, focus and keys.
 class widget_binder : public QObject, public binder {
@@ -35,6 +39,8 @@ class widget_binder : public QObject, public binder {
     /// The control has the focus and a key is pressed: it is offered to the model, and what isn't
     /// swallowed takes the model's effect. True if the widget must not see it.
     virtual bool key_pressed(QKeyEvent& event);
+    /// The focus goes from the widget to another one of the same window.
+    virtual void focus_lost() {}
     /// Whether the widget takes the effect of a key itself, as a field with a cursor does.
     /// `typed`: a key with a character, Enter and Backspace left out.
     [[nodiscard]] virtual bool widget_takes(bool /*typed*/) const { return false; }
@@ -43,6 +49,8 @@ class widget_binder : public QObject, public binder {
     void act(const std::function<void()>& action) {
         if (!retired_) act_(model_, action);
     }
+    /// Carries out a click on a button; pressed by a key of its own, it gives the focus back.
+    void act_click(const QAbstractButton& button, const std::function<void()>& click);
     /// The model may have decided otherwise than the widget: shows it again, if it is still there.
     void show_again(aspect what) {
         if (!retired_) changed(what);
@@ -63,6 +71,8 @@ class widget_binder : public QObject, public binder {
     };
 
  private:
+    [[nodiscard]] bool wheel_changes_value() const;
+
     control& model_;
     QWidget* widget_;
     user_action act_;

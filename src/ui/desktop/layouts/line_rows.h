@@ -6,8 +6,10 @@
 #include <vector>
 
 class QComboBox;
+class QKeyEvent;
 class QLabel;
 class QScrollBar;
+class QWheelEvent;
 class QWidget;
 
 namespace vantora::ui::desktop {
@@ -15,7 +17,8 @@ namespace vantora::ui::desktop {
 class form_window;
 
 /// What goes with the rows of an order's lines besides their cells: the row that is worked on is
-/// marked, each row shows its line's number, the pick of the VAT code lies over its row.
+/// marked, each row shows its line's number, keys walk from cell to cell, the wheel moves the
+/// lines, the pick of the VAT code lies over its row.
 class line_rows final : public QObject {
  public:
     static constexpr int count = 12;
@@ -23,30 +26,47 @@ class line_rows final : public QObject {
     /// REQUIRES: the window's cells are made. The object belongs to the window.
     explicit line_rows(form_window& window);
 
-    void add_cell(int row, QWidget* cell);
+    /// Column by column from left to right, row by row; `name` outlives the object.
+    void add_cell(const char* name, int row, QWidget* cell);
+    /// Where the wheel moves the lines.
+    void take_wheel_over(QWidget* area);
     /// The number of a row's line, to be placed before its cells.
     [[nodiscard]] QLabel* number(int row) const { return numbers_[static_cast<std::size_t>(row)]; }
     [[nodiscard]] int current() const { return current_; }
 
     /// The focus comes back to the cell that had it last.
     void go_back();
+    /// Moves the lines under the cells; the focus stays in its cell.
+    void scroll(int lines);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+    struct place {
+        int row = -1;
+        int column = 0;
+    };
+
     void mark(int row);
     void show_numbers(int first);
     void place_pick();
+    bool key_pressed(const place& from, int key);
+    /// To a cell; a row above or below the twelve scrolls by one. False past the first and the
+    /// last line.
+    bool go_to(place to, int step);
+    bool walk(place from, int step);
+    void wheel(const QWheelEvent& turned);
+    [[nodiscard]] bool passes_over(const place& cell) const;
 
     form_window& window_;
     QScrollBar* bar_;
     QComboBox* pick_;
     std::array<QLabel*, count> numbers_{};
-    /// The cells that the pick lies over, kept since the window outlives its screen by some events.
-    std::array<const QWidget*, count> codes_{};
-    std::array<std::vector<QWidget*>, count> cells_;
-    QHash<const QWidget*, int> row_of_;
+    std::vector<const char*> columns_;
+    std::vector<std::array<QWidget*, count>> cells_;  ///< by column
+    QHash<const QObject*, place> place_of_;
     int current_ = -1;
+    int wheel_rest_ = 0;  ///< turned by less than a step, in eighths of a degree
     QWidget* last_cell_ = nullptr;
 };
 

@@ -4,6 +4,7 @@
 #include <QListView>
 #include <QScrollBar>
 #include <QShortcut>
+#include <QSplitter>
 
 #include "ui/desktop/layouts/article_entries.h"
 #include "ui/desktop/layouts/line_rows.h"
@@ -27,7 +28,7 @@ struct column {
 constexpr column columns[] = {
     {"artic", "Articolo", 13, false},
     {"ds", "Descrizione", 0, false},
-    {"um", "", 1, false},
+    {"um", "U.m.", 2, false},
     {"quantita", "Quantità", 9, true},
     {"evaso", "Evaso", 9, true},
     {"sc1", "Sconti", 2, true},
@@ -63,7 +64,7 @@ void add_column(form_window& window, line_rows& lines, QGridLayout* cells, const
     cells->addWidget(head, 0, at);
     for (int row = 0; row < rows; ++row) {
         auto* cell = window.as<QLineEdit>(one.control, row);
-        lines.add_cell(row, cell);
+        lines.add_cell(one.control, row, cell);
         if (one.number) cell->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         if (one.characters > 0) sized(cell, one.characters);
         cell->setMinimumHeight(cell->fontMetrics().height() + 6);
@@ -74,16 +75,12 @@ void add_column(form_window& window, line_rows& lines, QGridLayout* cells, const
 }
 
 /// The lines move under the cells by pages; the cell keeps the focus.
-void add_paging(form_window& window) {
-    auto& bar = static_cast<scroll_bar&>(*window.screen().find("VScroll1", {}));
+void add_paging(form_window& window, line_rows& lines) {
     for (const int step : {-rows, rows}) {
         auto* keys =
             new QShortcut(QKeySequence(step < 0 ? Qt::Key_PageUp : Qt::Key_PageDown), &window);
-        QObject::connect(keys, &QShortcut::activated, &window, [&window, &bar, step] {
-            window.act_on(bar, [&bar, step] {
-                bar.set_value(std::clamp(bar.value() + step, bar.minimum(), bar.maximum()));
-            });
-        });
+        QObject::connect(keys, &QShortcut::activated, &window,
+                         [&lines, step] { lines.scroll(step); });
     }
     window.widget("VScroll1")->setToolTip(QString::fromUtf8("Righe da 1 a 200 (Pag su, Pag giù)"));
 }
@@ -106,13 +103,14 @@ QGroupBox* line_frame(form_window& window) {
     auto* bar = window.as<QScrollBar>("VScroll1");
     bar->setOrientation(Qt::Vertical);
     bar->setFixedWidth(18);
+    bar->setFocusPolicy(Qt::ClickFocus);
+    lines->take_wheel_over(table);
     cells->addWidget(bar, 1, cells->columnCount(), rows, 1);
-    add_paging(window);
+    add_paging(window, *lines);
 
     auto* vat = new QShortcut(QKeySequence("F4"), &window);
     QObject::connect(vat, &QShortcut::activated, &window, [&window, lines] {
-        auto& cell = *window.screen().find("civ", std::max(lines->current(), 0));
-        window.act_on(cell, [&cell] { cell.set_focus(); });
+        window.act_on("civ", lines->current(), [](control& cell) { cell.set_focus(); });
     });
     for (int row = 0; row < rows; ++row) {
         window.widget("civ", row)->setToolTip("Sceglie il codice iva (F4)");
@@ -136,6 +134,7 @@ QGroupBox* list_frame(form_window& window) {
     auto* box = new QGroupBox("Lista articoli memorizzati in magazzino", &window);
     auto* column = new QVBoxLayout(box);
     auto* list = window.as<QListView>("List1");
+    list->setFocusPolicy(Qt::ClickFocus);
     list->setItemDelegate(new article_entries(list));
     list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     list->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
@@ -238,16 +237,21 @@ void lay_out_line_window(form_window& window, const std::vector<line_command>& c
     auto* body = new QVBoxLayout;
     body->setContentsMargins(10, 8, 10, 8);
     body->setSpacing(8);
-    auto* middle = new QHBoxLayout;
-    middle->setSpacing(10);
-    middle->addWidget(line_frame(window), 19);
-    middle->addWidget(list_frame(window), 8);
-    body->addLayout(middle, 1);
+    // Lines and list share the room as the user wants.
+    auto* middle = new QSplitter(Qt::Horizontal, &window);
+    middle->setObjectName("righe_e_lista");
+    middle->setChildrenCollapsible(false);
+    middle->setHandleWidth(10);
+    middle->addWidget(line_frame(window));
+    middle->addWidget(list_frame(window));
+    middle->setStretchFactor(0, 19);
+    middle->setStretchFactor(1, 8);
+    body->addWidget(middle, 1);
     body->addWidget(stock_line(window));
     body->addLayout(foot_line(window));
     all->addLayout(body, 1);
 
-    window.setMinimumSize(1040, 600);
+    window.setMinimumSize(1040, 560);
     window.set_first_size(QSize(1340, 690));
 }
 

@@ -8,6 +8,11 @@ namespace vantora::ui::desktop {
 
 namespace {
 
+constexpr int order_number = 1;  ///< column of the list
+
+// Daily work first, leaving last.
+constexpr int commands_from_left[] = {2, 8, 1, 3, 4, 5, 6, 7, 0};
+
 constexpr command_look commands[] = {
     {"uscita", "&Esci", "Chiude il programma", "Ctrl+Q"},
     {"aggiorna", "&Aggiorna", "Rilegge l'archivio degli ordini", "F5"},
@@ -26,8 +31,7 @@ QFrame* command_bar(form_window& window) {
     auto* row = new QHBoxLayout(bar);
     row->setContentsMargins(8, 6, 8, 6);
     row->setSpacing(2);
-    // Daily work first, leaving last.
-    for (const int i : {2, 8, 1, 3, 4, 5, 6, 7, 0}) {
+    for (const int i : commands_from_left) {
         if (i == 3) row->addSpacing(18);
         if (i == 0) row->addStretch(1);
         window.dress("bottone", i, commands[i]);
@@ -65,9 +69,10 @@ QGroupBox* compaction(form_window& window) {
 
     // The two labels take no focus; the keyboard reaches them this way.
     auto* shortcut = new QShortcut(QKeySequence("Ctrl+Shift+C"), &window);
-    auto& model = static_cast<label&>(*window.screen().find("srtt", 1));
-    QObject::connect(shortcut, &QShortcut::activated, link,
-                     [&window, &model] { window.act_on(model, [&model] { model.click(); }); });
+    shortcut->setAutoRepeat(false);
+    QObject::connect(shortcut, &QShortcut::activated, link, [&window] {
+        window.act_on<label>("srtt", 1, [](label& here) { here.click(); });
+    });
 
     auto* version = window.as<QLabel>("xx_versione");
     set_look(version, "role", "faint");
@@ -95,6 +100,9 @@ void lay_out_mirorc(form_window& window) {
     body->setContentsMargins(10, 8, 10, 10);
     body->setSpacing(8);
     body->addLayout(grid_with_sort_buttons(window, "elenco", "srx", 6), 1);
+    auto* orders = window.as<grid_view>("elenco");
+    orders->search_in(order_number);
+    orders->keep_mark();
 
     auto* progress = window.widget("srt");
     progress->setFixedHeight(progress->fontMetrics().height() + 8);
@@ -107,6 +115,14 @@ void lay_out_mirorc(form_window& window) {
     foot->addWidget(compaction(window), 1);
     body->addLayout(foot);
     all->addLayout(body, 1);
+
+    std::vector<QWidget*> stops;
+    for (const int i : commands_from_left) stops.push_back(window.widget("bottone", i));
+    for (int i = 0; i < 6; ++i) stops.push_back(window.widget("srx", i));
+    stops.push_back(window.widget("elenco"));
+    for (int i = 0; i < 3; ++i) stops.push_back(window.widget("selvis", i));
+    for (int i = 0; i < 2; ++i) stops.push_back(window.widget("visua", i));
+    window.set_tab_order(stops);
 
     window.setMinimumSize(960, 520);
     window.set_first_size(QSize(1280, 690));

@@ -8,6 +8,15 @@ QLabel* caption(const char* utf8, QWidget* parent) {
     return label;
 }
 
+QLabel* caption_of(QWidget* field, const char* utf8, QWidget* parent) {
+    QLabel* label = caption(utf8, parent);
+    label->setBuddy(field);
+    if (field->accessibleName().isEmpty()) {
+        field->setAccessibleName(label->text().remove('&').replace('\n', ' '));
+    }
+    return label;
+}
+
 QWidget* sized(QWidget* field, int characters) {
     field->setFixedWidth(field->fontMetrics().averageCharWidth() * (characters + 2) + 14);
     return field;
@@ -29,6 +38,7 @@ QVBoxLayout* grid_with_sort_buttons(form_window& window, const char* grid, const
         if (button->text().isEmpty()) {
             button->setEnabled(false);
             button->setToolTip(QString());
+            set_look(button, "look", "blank");
         } else {
             button->setToolTip(QString::fromUtf8("Riordina l'elenco su questa colonna"));
         }

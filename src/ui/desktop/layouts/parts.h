@@ -17,6 +17,9 @@ namespace vantora::ui::desktop {
 /// A fixed text in front of a field.
 QLabel* caption(const char* utf8, QWidget* parent);
 
+/// The same, for a field that it names: to the keyboard and to those who listen instead of reading.
+QLabel* caption_of(QWidget* field, const char* utf8, QWidget* parent);
+
 /// A text box made so wide that about `characters` fit.
 QWidget* sized(QWidget* field, int characters);
 

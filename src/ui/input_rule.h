@@ -1,0 +1,41 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace vantora::ui {
+
+/// What a window lets a hand type or paste into a field. The field's model takes any text: what a
+/// screen or a script sets is not asked.
+struct input_rule {
+    enum class content {
+        text,
+        number,  ///< digits, one sign in front, one decimal point; a comma becomes the point
+        day,     ///< a date, written out as dd/mm/yyyy when the field is left
+    };
+
+    content holds = content::text;
+    int longest = 32767;    ///< characters
+    double largest = 1e15;  ///< of a number, by its absolute value
+    char alone = 0;         ///< a sign that may stand instead of a number; 0: none
+
+    /// A text of at most `longest` characters.
+    static input_rule text(std::size_t longest);
+    /// A number of at most 15 digits.
+    static input_rule number();
+    /// A number that still fits a 16-bit integer.
+    static input_rule small_number();
+    static input_rule day();
+
+    /// What becomes of a field in which `before` stood and the hand made `now` of it: `now` itself,
+    /// or cleaned of what can't stand there. Empty if the change is refused.
+    [[nodiscard]] std::optional<std::string> admit(std::string_view before,
+                                                   std::string_view now) const;
+};
+
+/// A day as hands type it, "24/11", "24112026" or "24/11/26", as dd/mm/yyyy; the year may be left
+/// out. Empty if it is none.
+std::optional<std::string> written_out_day(std::string_view typed, int this_year);
+
+}  // namespace vantora::ui
