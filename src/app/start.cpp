@@ -1,6 +1,7 @@
 #include "app/start.h"
 
 #include "customer/mirdata.h"
+#include "customer/mirorcm.h"
 #include "customer/mirorcx.h"
 #include "customer/mirsel.h"
 #include "entry/mirorcs.h"
@@ -26,6 +27,7 @@ void provide(ui::screen<Form>& place, program& app) {
 void start(program& app, std::string_view argument) {
     provide(app.mirorc, app);
     provide(app.mirorcx, app);
+    provide(app.mirorcm, app);
     provide(app.mirsel, app);
     provide(app.mirdata, app);
     provide(app.mirorcs, app);

@@ -2,7 +2,9 @@
 
 #include "customer/customer_fields.h"
 #include "customer/mirsel.h"
+#include "program/pick_list.h"
 #include "store/key_index.h"
+#include "ui/enter_key.h"
 
 namespace vantora {
 
@@ -35,20 +37,9 @@ void customer_head::wire_events() {
     bottone.on_click = [this] { go_on(); };
     HScroll1.on_change = [this] { scrolled(); };
     Combo3.on_click = [this] { take_carrier(); };
-    nome.on_key_press = [this](ui::key_event& key) {
-        if (key.code != ui::key::enter) return;
-        key.swallow();
-        search();
-    };
-    const auto enter_moves_on = [](ui::text_box* field, ui::text_box* next) {
-        field->on_key_press = [next](ui::key_event& key) {
-            if (key.code != ui::key::enter) return;
-            key.swallow();
-            next->set_focus();
-        };
-    };
-    for (int i = 0; i < 21; ++i) enter_moves_on(&Text2[i], &Text2[i + 1]);
-    for (int i = 0; i < 5; ++i) enter_moves_on(&Text3[i], &Text3[i + 1]);
+    ui::on_enter(nome, [this] { search(); });
+    for (int i = 0; i < 21; ++i) ui::enter_moves(Text2[i], Text2[i + 1]);
+    for (int i = 0; i < 5; ++i) ui::enter_moves(Text3[i], Text3[i + 1]);
     for (int i = 0; i < 2; ++i) {
         ui::text_box& field = Text3[kind_.date_fields[i]];
         field.on_change = [this, i] { follow_typed_date(i); };
@@ -67,14 +58,14 @@ void customer_head::load() {
     Combo3.choose(0);
     loading_ = false;
     fill_lists(table);
-    Combo1[0].add_all({"Porto franco", "Porto assegnato", "Addebito in fattura", ""});
-    Combo1[2].add_all({"Mittente", "Destinatario", "Vettore", ""});
-    Combo1[0].choose(0);
-    Combo1[2].choose(0);
+    Combo1[porto].add_all({"Porto franco", "Porto assegnato", "Addebito in fattura", ""});
+    Combo1[trasporto].add_all({"Mittente", "Destinatario", "Vettore", ""});
+    Combo1[porto].choose(0);
+    Combo1[trasporto].choose(0);
 }
 
 bool customer_head::take_choice() {
-    if (app_.selezione_cliente != scelta_fatta) return false;
+    if (app_.selezione_cliente != elenco_clienti::scelta_fatta) return false;
     app_.selezione_cliente = 0;
     search();
     return true;
@@ -90,14 +81,14 @@ void customer_head::start_at_first_customer() {
 }
 
 void customer_head::fill_lists(const tabella_suite& table) {
-    Combo1[1].add_all(table.pagamenti);
+    Combo1[pagamento].add_all(table.pagamenti);
 }
 
 void customer_head::show_customer() {
     if (posizione_cliente_ <= 0) return;
     read_customer();
     show_fields();
-    Combo1[1].choose(cliente_.pagamento - 1);
+    Combo1[pagamento].choose(cliente_.pagamento - 1);
     if (!customer_deleted()) return;
     for (int i = 2; i < 22; ++i) Text2[i].set_text("");
 }
@@ -137,14 +128,19 @@ void customer_head::search() {
     app_.archives.tot.read(contatori::clienti, contatore_);
     const std::int16_t found = cerca_nominativo(app_.archives.src, contatore_.quanti, nome.text());
     if (found > 0) {
-        posizione_cliente_ = found;
-        HScroll1.set_value(found);
+        found_at(found);
     } else {
         app_.desk.message("Anagrafica non trovata", "Attenzione", ui::icon::warning);
+        show_customer();
     }
-    show_customer();
     nome.set_text("");
     nome.set_focus();
+}
+
+void customer_head::found_at(std::int16_t position) {
+    posizione_cliente_ = position;
+    HScroll1.set_value(position);
+    show_customer();
 }
 
 void customer_head::open_pick_list() {

@@ -22,6 +22,9 @@ class customer_head : public ui::form {
  public:
     customer_head(program& app, const customer_head_kind& kind);
 
+    /// Lists of `Combo1`.
+    enum { porto, pagamento, trasporto };
+
     ui::text_box nome;  ///< name to search for
     ui::button b_cerca;
     ui::button b_lista;
@@ -30,9 +33,9 @@ class customer_head : public ui::form {
     ui::drop_down Combo3;     ///< carriers
     ui::text_box Text3[6];    ///< number, dates, references
     ui::date_picker text5[2];
-    ui::drop_down Combo1[3];  ///< 0 port, 1 payment, 2 transport
-    ui::button bottone;       ///< goes on
-    ui::label Label2;         ///< "this customer is deleted"
+    ui::drop_down Combo1[3];
+    ui::button bottone;  ///< goes on
+    ui::label Label2;    ///< "this customer is deleted"
 
     /// Finds the customer whose name begins with the text of `nome`, or says that there is none.
     void search();
@@ -52,6 +55,8 @@ class customer_head : public ui::form {
     void start_at_first_customer();
     /// The cursor moved.
     virtual void scrolled();
+    /// The search ended at a position of the name index.
+    virtual void found_at(std::int16_t position);
     /// Shows the customer at `posizione_cliente_`.
     virtual void show_customer();
     /// Reads the customer at `posizione_cliente_`; what can't be read stays as it was.

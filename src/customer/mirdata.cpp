@@ -1,15 +1,13 @@
 #include "customer/mirdata.h"
 
+#include "ui/enter_key.h"
+
 namespace vantora {
 
 mirdata::mirdata(program& app) : form(app.desk, "mirdata", "Imposta data"), app_(app) {
     add("nuovadata", nuovadata);
     nuovadata.on_close_up = [this] { choose(); };
-    nuovadata.on_key_down = [this](ui::key_event& key) {
-        if (key.code != ui::key::enter) return;
-        key.swallow();
-        choose();
-    };
+    ui::on_enter(nuovadata, [this] { choose(); });
 }
 
 void mirdata::load() {

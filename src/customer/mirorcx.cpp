@@ -1,12 +1,14 @@
 #include "customer/mirorcx.h"
 
+#include "program/pick_list.h"
 #include "store/text/int16.h"
 
 namespace vantora {
 
 namespace {
 
-constexpr customer_head_kind nuovo_ordine{"mirorcx", "Selezione cliente", 51, {1, 2}};
+constexpr customer_head_kind nuovo_ordine{
+    "mirorcx", "Selezione cliente", elenco_clienti::da_mirorcx, {1, 2}};
 
 }  // namespace
 

@@ -1,9 +1,11 @@
 #include "customer/mirsel.h"
 
-#include "customer/mirorcx.h"
+#include "customer/customer_head.h"
+#include "program/pick_list.h"
 #include "program/record_stretches.h"
 #include "store/key_index.h"
 #include "store/text/number_text.h"
+#include "ui/enter_key.h"
 
 namespace vantora {
 
@@ -54,11 +56,7 @@ mirsel::mirsel(program& app)
     for (auto& button : srx) button.set_text("Riordina");
 
     elenco.on_click = [this] { pick_row(); };
-    selnome.on_key_press = [this](ui::key_event& key) {
-        if (key.code != ui::key::enter) return;
-        key.swallow();
-        build_list();
-    };
+    ui::on_enter(selnome, [this] { build_list(); });
     indice.on_click = [this] { leave("", 0); };
     for (int i = 0; i < 5; ++i) {
         srx[i].on_click = [this, i] { lista_.sort(i, ui::sort_order::generic_ascending); };
@@ -111,22 +109,15 @@ void mirsel::list_customer(list_rows& list, const row_content& customer, std::in
 
 void mirsel::pick_row() {
     if (number_at_head(elenco.text(elenco.row(), numero)) <= 0) return;
-    leave(std::string(elenco.text(elenco.row(), nominativo)), scelta_fatta);
+    leave(std::string(elenco.text(elenco.row(), nominativo)), elenco_clienti::scelta_fatta);
 }
 
 void mirsel::leave(const std::string& chosen_name, int outcome) {
-    if (customer_head* calling = caller()) calling->nome.set_text(chosen_name);
+    if (ui::screen_place* caller = chiamante(app_, app_.selezione_cliente)) {
+        static_cast<customer_head&>(caller->use()).nome.set_text(chosen_name);
+    }
     app_.selezione_cliente = outcome;
     unload();
-}
-
-customer_head* mirsel::caller() {
-    switch (app_.selezione_cliente) {
-        case 51:
-            return &*app_.mirorcx;
-        default:
-            return nullptr;
-    }
 }
 
 }  // namespace vantora

@@ -5,11 +5,6 @@
 
 namespace vantora {
 
-class customer_head;
-
-/// `selezione_cliente` on the way back from the pick list: a customer was chosen.
-inline constexpr int scelta_fatta = 99;
-
 /// A modal list of customers, found by any part of the name. Gives the chosen name back in the
 /// field `nome` of the screen that called it.
 class mirsel final : public ui::form {
@@ -38,7 +33,6 @@ class mirsel final : public ui::form {
     void list_customer(list_rows& list, const row_content& customer, std::int16_t number);
     void pick_row();
     void leave(const std::string& chosen_name, int outcome);
-    customer_head* caller();
 
     program& app_;
     list_grid lista_;

@@ -1,23 +1,14 @@
 #include "entry/order_head.h"
 
 #include "customer/customer_head.h"
+#include "customer/shipping_data.h"
 
 namespace vantora {
-
-namespace {
-
-enum { porto, pagamento, trasporto };  // elements of Combo1
-
-}  // namespace
 
 testata_registrata testata_da_registrare(const customer_head& screen, int prezzo) {
     const auto& fields = screen.Text2;
     const auto& order = screen.Text3;
-    std::string choices;
-    for (const int list : {porto, trasporto, pagamento}) {
-        choices += std::to_string(screen.Combo1[list].chosen());
-    }
-    choices += std::to_string(prezzo);
+    const std::string choices = scelte_registrate(screen, prezzo);
 
     testata_registrata head;
     head.numero = order[0].text();
@@ -34,7 +25,7 @@ testata_ordine testata_da_stampare(const customer_head& screen) {
     testata_ordine head;
     for (std::size_t i = 0; i < head.text2.size(); ++i) head.text2[i] = screen.Text2[i].text();
     for (std::size_t i = 0; i < head.text3.size(); ++i) head.text3[i] = screen.Text3[i].text();
-    head.pagamento = screen.Combo1[pagamento].text();
+    head.pagamento = screen.Combo1[customer_head::pagamento].text();
     return head;
 }
 

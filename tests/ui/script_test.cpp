@@ -168,6 +168,7 @@ TEST(script, WhatAUserCantDoIsRefusedWithoutEffect) {
                                 "key prova.testo Invio",
                                 "key prova.scritta Enter",
                                 "close altro",
+                                "activate altro",
                                 "answer forse",
                                 "vola",
                                 "clock \"ieri\"",

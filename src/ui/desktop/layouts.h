@@ -8,9 +8,10 @@ class form_window;
 /// screen that has none.
 void lay_out(form_window& window);
 
-// One file a screen.
+// One file a screen, or a family of them.
 void lay_out_mirorc(form_window& window);
 void lay_out_mirorcx(form_window& window);
+void lay_out_mirorcm(form_window& window);
 void lay_out_mirsel(form_window& window);
 void lay_out_mirdata(form_window& window);
 void lay_out_mirorcs(form_window& window);

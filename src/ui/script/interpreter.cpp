@@ -14,18 +14,31 @@ struct interpreter::command {
 
 const std::vector<interpreter::command>& interpreter::commands() {
     static const std::vector<command> all = {
-        {"click", 1, 1, &interpreter::click},       {"cell", 3, 3, &interpreter::cell},
-        {"key", 2, 2, &interpreter::key},           {"type", 2, 2, &interpreter::type},
-        {"set", 2, 2, &interpreter::set},           {"pick", 2, 2, &interpreter::pick},
-        {"scroll", 2, 2, &interpreter::scroll},     {"date", 2, 2, &interpreter::date},
-        {"focus", 1, 1, &interpreter::focus},       {"close", 1, 1, &interpreter::close},
-        {"answer", 1, 1, &interpreter::answer},     {"quit", 0, 0, &interpreter::quit},
-        {"clock", 1, 1, &interpreter::stop_clock},  {"printer", 0, 2, &interpreter::set_printer},
-        {"launch", 1, 1, &interpreter::set_launch}, {"shot", 1, 1, &interpreter::shot},
-        {"get", 1, 1, &interpreter::get},           {"items", 1, 1, &interpreter::items},
-        {"rows", 1, 3, &interpreter::rows},         {"colors", 1, 3, &interpreter::colors},
-        {"controls", 1, 1, &interpreter::controls}, {"screens", 0, 0, &interpreter::screens},
-        {"prints", 0, 0, &interpreter::prints},     {"launched", 0, 0, &interpreter::launched},
+        {"click", 1, 1, &interpreter::click},
+        {"cell", 3, 3, &interpreter::cell},
+        {"key", 2, 2, &interpreter::key},
+        {"type", 2, 2, &interpreter::type},
+        {"set", 2, 2, &interpreter::set},
+        {"pick", 2, 2, &interpreter::pick},
+        {"scroll", 2, 2, &interpreter::scroll},
+        {"date", 2, 2, &interpreter::date},
+        {"focus", 1, 1, &interpreter::focus},
+        {"activate", 1, 1, &interpreter::activate},
+        {"close", 1, 1, &interpreter::close},
+        {"answer", 1, 1, &interpreter::answer},
+        {"quit", 0, 0, &interpreter::quit},
+        {"clock", 1, 1, &interpreter::stop_clock},
+        {"printer", 0, 2, &interpreter::set_printer},
+        {"launch", 1, 1, &interpreter::set_launch},
+        {"shot", 1, 1, &interpreter::shot},
+        {"get", 1, 1, &interpreter::get},
+        {"items", 1, 1, &interpreter::items},
+        {"rows", 1, 3, &interpreter::rows},
+        {"colors", 1, 3, &interpreter::colors},
+        {"controls", 1, 1, &interpreter::controls},
+        {"screens", 0, 0, &interpreter::screens},
+        {"prints", 0, 0, &interpreter::prints},
+        {"launched", 0, 0, &interpreter::launched},
     };
     return all;
 }
@@ -93,6 +106,19 @@ control* interpreter::touchable(const word& text) {
         return nullptr;
     }
     return found;
+}
+
+form* interpreter::reachable(const word& text) {
+    form* screen = desk_.find(from_utf8(text.text));
+    if (!screen) {
+        refuse("the screen is not loaded");
+        return nullptr;
+    }
+    if (const auto why = desk_.obstacle(*screen)) {
+        refuse(*why);
+        return nullptr;
+    }
+    return screen;
 }
 
 bool interpreter::takes_focus(const control& one) {

@@ -53,6 +53,8 @@ class interpreter {
 
     control* find_control(const word& address);
     control* touchable(const word& address);
+    /// A screen by its name, if the user can get at it.
+    form* reachable(const word& name);
     bool takes_focus(const control& one);
 
     void click(const words& line);
@@ -64,6 +66,7 @@ class interpreter {
     void scroll(const words& line);
     void date(const words& line);
     void focus(const words& line);
+    void activate(const words& line);
     void close(const words& line);
     void answer(const words& line);
     void quit(const words& line);

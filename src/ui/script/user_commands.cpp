@@ -155,12 +155,16 @@ void interpreter::focus(const words& line) {
     act([&] { one->set_focus(); });
 }
 
+void interpreter::activate(const words& line) {
+    form* screen = reachable(line[1]);
+    if (!screen) return;
+    if (desk_.modal()) return refuse("a modal screen is open");
+    act([&] { screen->show(); });
+}
+
 void interpreter::close(const words& line) {
-    form* screen = desk_.find(from_utf8(line[1].text));
-    if (!screen) return refuse("the screen is not loaded");
-    if (const auto why = desk_.obstacle(*screen)) return refuse(*why);
-    if (desk_.active() != screen) return refuse("the screen is not the active one");
-    act([&] { desk_.close(*screen); });
+    form* screen = reachable(line[1]);
+    if (screen) act([&] { desk_.close(*screen); });
 }
 
 void interpreter::answer(const words& line) {

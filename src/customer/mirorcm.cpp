@@ -1,0 +1,59 @@
+#include "customer/mirorcm.h"
+
+#include "program/pick_list.h"
+#include "store/key_index.h"
+
+namespace vantora {
+
+namespace {
+
+constexpr customer_head_kind ordine_esistente{
+    "mirorcm", "Modifica cliente", elenco_clienti::da_mirorcm, {1, 2}};
+
+}  // namespace
+
+mirorcm::mirorcm(program& app) : customer_head(app, ordine_esistente) {}
+
+void mirorcm::activate() {
+    if (!take_choice()) place_on_customer();
+}
+
+// An index tells a customer from a position and not the other way round, so it is walked, many
+// entries to a read. What the lines put into the fields stays.
+void mirorcm::place_on_customer() {
+    posizione_cliente_ = 1;
+    scorrimento_bloccato_ = true;
+    app_.archives.tot.read(contatori::clienti, contatore_);
+    HScroll1.set_limits(1, contatore_.quanti);
+    const std::function<bool(std::int16_t, const rec_src&)> visit = [this](std::int16_t position,
+                                                                           const rec_src& entry) {
+        if (entry.numero != app_.selezione_2) return true;
+        posizione_cliente_ = position;
+        return false;
+    };
+    percorri_indice(app_.archives.src, contatore_.quanti, visit);
+    HScroll1.set_value(posizione_cliente_);
+    cliente_corrente_ = app_.selezione_2;
+    scorrimento_bloccato_ = false;
+    nome.set_focus();
+}
+
+void mirorcm::scrolled() {
+    if (!scorrimento_bloccato_) customer_head::scrolled();
+}
+
+void mirorcm::go_on() {
+    if (!customer_usable()) return;
+    app_.schermo_pronto = 0;
+    app_.selezione_2 = cliente_corrente_;
+    hide();
+    if (app_.mirorcz.loaded()) app_.mirorcz.use().show();
+}
+
+// The order's lines may still be open behind and need their head, so it is hidden, not dropped.
+void mirorcm::close() {
+    hide();
+    app_.mirorc.use().show();
+}
+
+}  // namespace vantora
