@@ -4,6 +4,7 @@
 #include "customer/mirorcm.h"
 #include "customer/mirorcx.h"
 #include "customer/mirsel.h"
+#include "entry/import_picker.h"
 #include "entry/mirorcs.h"
 #include "register/mirorc.h"
 #include "reports/mirstoa.h"
@@ -36,6 +37,8 @@ void start(program& app, std::string_view argument) {
     provide(app.mirstov, app);
     provide(app.mirston, app);
     provide(app.mirstoa, app);
+    provide(app.mirorcb, app);
+    provide(app.mirpref, app);
 
     app.desk.at_end = [&app] { chiudi_archivi(app.archives); };
     app.parameters.numero_azienda = numero_azienda_in(argument);

@@ -1,8 +1,12 @@
 #include "entry/mirorcs.h"
 
 #include "customer/mirorcx.h"
+#include "entry/import_lines.h"
+#include "entry/import_picker.h"
 #include "entry/order_head.h"
 #include "store/text/dates.h"
+#include "store/text/int16.h"
+#include "store/text/number_text.h"
 
 namespace vantora {
 
@@ -13,14 +17,26 @@ constexpr line_grid_kind nuovo_ordine{.name = "mirorcs",
                                       .documento = tipo_documento::ordine,
                                       .has_impegno = true};
 
+/// Commands of `comando` that only a new order has.
+enum { importa_ordine = stampante + 1, importa_preventivo };
+
 }  // namespace
 
-mirorcs::mirorcs(program& app) : order_screen(app, nuovo_ordine, app.mirorcx, "Ordine cliente") {}
+mirorcs::mirorcs(program& app) : order_screen(app, nuovo_ordine, app.mirorcx, "Ordine cliente") {
+    add("numfat", numfat);
+    numfat.set_visible(false);
+}
 
 void mirorcs::open() {
-    if (app_.modo_ordine != 0) return;
-    open_order(app_.selezione_1);
-    impegno.set_on(false);
+    if (app_.modo_ordine == 0) {
+        open_order(app_.selezione_1);
+        impegno.set_on(false);
+    }
+    if (app_.modo_ordine == 99 && app_.selezione_2 > 0) {
+        // The quote stays chosen: whenever the screen comes to the front, it is added once more.
+        aggiungi_preventivo(righe_, app_.archives, app_.selezione_2);
+        paint();
+    }
 }
 
 bool mirorcs::store() {
@@ -32,6 +48,34 @@ bool mirorcs::store() {
     return salva_nuovo_ordine(app_.archives, saved, righe_, lookup_.articles());
 }
 
-void mirorcs::run_own_command(int) {}
+void mirorcs::run_own_command(int command) {
+    if (command == importa_ordine) return import_order();
+    if (command == importa_preventivo) choose_quote();
+}
+
+void mirorcs::choose_quote() {
+    hide();
+    app_.mirorcb.use().show();
+}
+
+// The picker lies in front of this screen, in which the user can go on working meanwhile, choose
+// another import, save or leave.
+void mirorcs::import_order() {
+    numfat.set_text("0");
+    app_.mirpref.use().show();
+    app_.desk.wait_until([this] { return numfat.text() != "0" || gone(); });
+    if (gone()) return;
+    const std::string& chosen = app_.parameters.parametri_valuta[valuta_slot::scelta_ordine];
+    if (const auto block = to_int16(number_at_head(chosen)); !chosen.empty() && block) {
+        sostituisci_con_ordine(righe_, app_.archives, *block);
+        compute_totals();
+        paint();
+    }
+    artic[0].set_focus();
+}
+
+bool mirorcs::gone() const {
+    return !app_.mirorcs.loaded() || &*app_.mirorcs != this;
+}
 
 }  // namespace vantora

@@ -9,10 +9,19 @@ class mirorcs final : public order_screen {
  public:
     explicit mirorcs(program& app);
 
+    /// "0" while an order to import is being chosen in `mirpref`, which sets it to "1".
+    ui::label numfat;
+
  protected:
     void open() override;
     bool store() override;
     void run_own_command(int command) override;
+
+ private:
+    void choose_quote();
+    void import_order();
+    /// The user left the order, and it may stand here anew.
+    [[nodiscard]] bool gone() const;
 };
 
 }  // namespace vantora

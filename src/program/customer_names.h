@@ -18,6 +18,12 @@ class customer_names {
     /// Valid until the next call.
     std::string_view of(std::int16_t number) {
         if (number < 1 || number > count_) return {};
+        return as_read(number);
+    }
+
+    /// The same for any record of the file, in use or not; for what is no record's number it is
+    /// the name that was looked up before.
+    std::string_view as_read(std::int16_t number) {
         return names_.of(number).intestazione1.trimmed();
     }
 

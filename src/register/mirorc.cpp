@@ -160,6 +160,7 @@ void mirorc::lead_to_if_customers(ui::screen_place& next) {
 }
 
 void mirorc::open_order() {
+    if (compacting_) return;
     elenco.set_col(registr);
     const auto registrazione = to_int16(number_at_head(elenco.text(elenco.row(), registr)));
     if (!registrazione || *registrazione < 1) return;

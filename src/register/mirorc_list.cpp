@@ -14,6 +14,8 @@ constexpr int righe_in_vista = 22;
 }  // namespace
 
 void mirorc::build_list() {
+    // Blocks are on the move; the compaction ends with a build.
+    if (compacting_) return;
     lista_.build([this](list_rows& list) { list_orders(list); });
     if (visua[1].on() && lista_.in_use() > righe_in_vista + 1) {
         elenco.show_end(righe_in_vista);

@@ -14,8 +14,9 @@ struct screen_layout {
 };
 
 constexpr screen_layout known_layouts[] = {
-    {"mirorc", lay_out_mirorc}, {"mirorcx", lay_out_mirorcx}, {"mirorcm", lay_out_mirorcm},
-    {"mirsel", lay_out_mirsel}, {"mirdata", lay_out_mirdata}, {"mirorcs", lay_out_mirorcs},
+    {"mirorc", lay_out_mirorc},  {"mirorcx", lay_out_mirorcx}, {"mirorcm", lay_out_mirorcm},
+    {"mirsel", lay_out_mirsel},  {"mirdata", lay_out_mirdata}, {"mirorcs", lay_out_mirorcs},
+    {"mirorcb", lay_out_import}, {"mirpref", lay_out_import},
 };
 
 }  // namespace

@@ -1,0 +1,138 @@
+#include "entry/import_picker.h"
+
+#include "entry/mirorcs.h"
+#include "program/customer_names.h"
+#include "store/records/order_block.h"
+#include "store/text/dates.h"
+#include "store/text/number_text.h"
+
+namespace vantora {
+
+namespace {
+
+constexpr int righe_minime = 28;
+
+/// Walks the head rows of all blocks, one read each. A row that can't be read is the one before
+/// it; a block counts as deleted by any mark.
+template <class Row>
+void list_heads(const channel<Row>& rows, std::int16_t blocks, import_picker& picker,
+                list_rows& list, const std::function<bool(const Row&)>& wanted,
+                const std::function<void(const Row&)>& list_more) {
+    Row head;
+    for (int block = 1; block <= blocks && !list.full(); ++block) {
+        rows.read(block_record(block, 1), head);
+        if (head.annullato != 0 || !wanted(head)) continue;
+        list.next();
+        list.write(0, head.numero.trimmed());
+        list.write(1, date_text_of_stored(head.data.full()));
+        list.write(2, head.testo1.trimmed());
+        list_more(head);
+        list.write(picker.block_col(), std::to_string(block));
+    }
+}
+
+void list_quotes(program& app, import_picker& picker, list_rows& list) {
+    rec_tot counter;
+    app.archives.tot.read(contatori::preventivi, counter);
+    list_heads<rec_prv>(
+        app.archives.prv, counter.quanti, picker, list,
+        [&app](const rec_prv& head) { return head.cliente == app.selezione_1; },
+        [](const rec_prv&) {});
+}
+
+void list_orders(program& app, import_picker& picker, list_rows& list) {
+    rec_tot counter;
+    app.archives.tot.read(contatori::ordini, counter);
+    customer_names names(app.archives.cli, INT16_MAX);
+    list_heads<rec_orc>(
+        app.archives.orc, counter.quanti, picker, list, [](const rec_orc&) { return true; },
+        [&](const rec_orc& head) { list.write(3, names.as_read(head.cliente)); });
+}
+
+const import_picker_kind& preventivi() {
+    static const import_picker_kind kind{
+        "mirorcb",
+        "Seleziona preventivo da importare",
+        "Clic sulla griglia per selezionare il preventivo da importare oppure clic sul bottone "
+        "'indietro' per non importare alcun preventivo",
+        {{"Preventivo", 1200}, {"Data", 1200}, {"Descrizione", 6000}, {"", 0}},
+        list_quotes};
+    return kind;
+}
+
+const import_picker_kind& ordini() {
+    static const import_picker_kind kind{
+        "mirpref",
+        "Seleziona ordine da importare",
+        "Clic sulla griglia per selezionare l'ordine da importare oppure clic sul bottone "
+        "'indietro' per non importare alcun ordine",
+        {{"Ordine", 1200},
+         {"Data", 1200},
+         {"Descrizione ordine", 5000},
+         {"Cliente", 5000},
+         {"", 0}},
+        list_orders};
+    return kind;
+}
+
+}  // namespace
+
+import_picker::import_picker(program& app, const import_picker_kind& kind)
+    : form(app.desk, kind.name, kind.title),
+      app_(app),
+      kind_(kind),
+      lista_(elenco, app, righe_minime, static_cast<int>(kind.columns.size()) - 2) {
+    add("elenco", elenco);
+    add("Label1", Label1);
+    add("bottone", bottone);
+    Label1.set_text(kind.hint);
+    elenco.on_click = [this] {
+        const std::string block(elenco.text(elenco.row(), block_col()));
+        if (number_at_head(block) > 0) leave(block);
+    };
+    bottone.on_click = [this] { leave(""); };
+}
+
+void import_picker::load() {
+    elenco.set_columns(kind_.columns);
+}
+
+void import_picker::activate() {
+    lista_.build([this](list_rows& list) { kind_.fill(app_, *this, list); });
+}
+
+// Quotes ------------------------------------------------------------------------------------------
+
+mirorcb::mirorcb(program& app) : import_picker(app, preventivi()) {}
+
+void mirorcb::leave(const std::string& block) {
+    app_.modo_ordine = 99;
+    app_.selezione_2 = static_cast<std::int16_t>(number_at_head(block));
+    hide();
+    app_.mirorcs.use().show();
+}
+
+void mirorcb::close() {
+    unload();
+    app_.mirorcs.use().show();
+}
+
+// Orders ------------------------------------------------------------------------------------------
+
+mirpref::mirpref(program& app) : import_picker(app, ordini()) {}
+
+// Dropping the picker brings the order to the front, so what its activation does comes before the
+// chosen lines do.
+void mirpref::leave(const std::string& block) {
+    app_.parameters.parametri_valuta[valuta_slot::scelta_ordine] = block;
+    app_.mirorcs->numfat.set_text("1");
+    unload();
+}
+
+// The order goes on waiting for a choice. It may have been left meanwhile.
+void mirpref::close() {
+    unload();
+    if (app_.mirorcs.loaded()) app_.mirorcs.use().show();
+}
+
+}  // namespace vantora
