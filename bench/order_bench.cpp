@@ -64,7 +64,7 @@ void save_bench(program& app, const righe_ordine& lines, int rounds) {
     const auto save = [&] {
         rec_tot counter{};
         app.archives.tot.write(contatori::ordini, counter);
-        salva_nuovo_ordine(app.archives, head, lines, 300);
+        salva_nuovo_ordine(app.archives, head, 0, lines, 300);
     };
     const auto bare = [&] {
         rec_art article;

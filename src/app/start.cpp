@@ -6,6 +6,7 @@
 #include "customer/mirsel.h"
 #include "entry/import_picker.h"
 #include "entry/mirorcs.h"
+#include "entry/mirorcz.h"
 #include "register/mirorc.h"
 #include "reports/mirstoa.h"
 #include "reports/mirstoe.h"
@@ -39,6 +40,7 @@ void start(program& app, std::string_view argument) {
     provide(app.mirstoa, app);
     provide(app.mirorcb, app);
     provide(app.mirpref, app);
+    provide(app.mirorcz, app);
 
     app.desk.at_end = [&app] { chiudi_archivi(app.archives); };
     app.parameters.numero_azienda = numero_azienda_in(argument);

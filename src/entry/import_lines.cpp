@@ -1,10 +1,6 @@
 #include "entry/import_lines.h"
 
-#include <span>
-#include <vector>
-
 #include "entry/stored_lines.h"
-#include "store/records/order_block.h"
 
 namespace vantora {
 
@@ -13,22 +9,14 @@ namespace {
 /// Copies the first rows of a block into the lines from `first` on, as far as there are lines. One
 /// read for the rows, and one for each article.
 template <class Row>
-void copy_rows(righe_ordine& lines, int first, const channel<Row>& rows,
+void copy_rows(righe_ordine& lines, int first, const channel<Row>& from,
                const channel<rec_art>& articles, std::int64_t block) {
-    std::vector<Row> read(righe_blocco);
-    const auto count = static_cast<std::size_t>(righe_ordine::massimo - first + 1);
-    const bool together =
-        count > 0 && rows.read_block(block_record(block, 1), std::span(read.data(), count));
+    if (first > righe_ordine::massimo) return;
+    const stored_rows<Row> rows(from, block);
     stored_lines into(articles);
-    Row row;
-    for (std::size_t i = 0; i < count; ++i) {
-        if (together) {
-            row = read[i];
-        } else {
-            rows.read(block_record(block, static_cast<std::int64_t>(i) + 1), row);
-        }
-        riga_ordine& line = lines[first + static_cast<int>(i)];
-        into.read(row, line);
+    for (int number = first; number <= righe_ordine::massimo; ++number) {
+        riga_ordine& line = lines[number];
+        into.read(rows[number - first + 1], line);
         if (line.prezzo == 0) line.iva = 0;
     }
 }

@@ -1,6 +1,5 @@
-#include <cmath>
-
 #include "entry/line_grid.h"
+#include "entry/stored_lines.h"
 #include "program/vat_codes.h"
 
 namespace vantora {
@@ -53,8 +52,7 @@ void line_grid::take_article(std::int16_t number, const rec_art& article, std::s
     line.codice = code;
     line.descrizione = article.descrizione.trimmed();
     line.iva = own_vat_code(cliente_).value_or(article.iva);
-    const double price = prezz[0].on() ? article.prezzo1 : article.prezzo2;
-    line.prezzo = std::isfinite(price) ? price : 0;
+    line.prezzo = finite_or_zero(prezz[0].on() ? article.prezzo1 : article.prezzo2);
     line.um = article.um.trimmed();
     unfold_long_text(number, at);
     paint();

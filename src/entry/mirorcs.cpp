@@ -4,6 +4,7 @@
 #include "entry/import_lines.h"
 #include "entry/import_picker.h"
 #include "entry/order_head.h"
+#include "entry/save_order.h"
 #include "store/text/dates.h"
 #include "store/text/int16.h"
 #include "store/text/number_text.h"
@@ -44,8 +45,7 @@ bool mirorcs::store() {
     testata_registrata saved = testata_da_registrare(head(), chosen_price());
     saved.cliente = app_.selezione_1;
     saved.impegno = impegno.on();
-    saved.data_reg = app_.data_sistema;
-    return salva_nuovo_ordine(app_.archives, saved, righe_, lookup_.articles());
+    return salva_nuovo_ordine(app_.archives, saved, app_.data_sistema, righe_, lookup_.articles());
 }
 
 void mirorcs::run_own_command(int command) {

@@ -2,6 +2,7 @@
 
 #include "customer/customer_head.h"
 #include "customer/shipping_data.h"
+#include "store/text/dates.h"
 
 namespace vantora {
 
@@ -27,6 +28,19 @@ testata_ordine testata_da_stampare(const customer_head& screen) {
     for (std::size_t i = 0; i < head.text3.size(); ++i) head.text3[i] = screen.Text3[i].text();
     head.pagamento = screen.Combo1[customer_head::pagamento].text();
     return head;
+}
+
+void mostra_testata(customer_head& screen, const stored_rows<rec_orc>& rows) {
+    auto& order = screen.Text3;
+    order[0].set_text(rows[1].numero.trimmed());
+    order[1].set_text(date_text_of_stored(rows[1].data.full()));
+    order[2].set_text(date_text_of_stored(rows[1].data_evasione.full()));
+    order[3].set_text(rows[1].testo1.trimmed());
+    order[4].set_text(rows[1].testo2.trimmed());
+    order[5].set_text(rows[1].testo3.trimmed());
+    for (const int number : {2, 3, 4}) mostra_spedizione(screen, number, rows[number]);
+    const int payment = scelta(rows[3].testo3, scelta_testata::pagamento);
+    screen.Combo1[customer_head::pagamento].choose(payment);
 }
 
 }  // namespace vantora

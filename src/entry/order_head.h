@@ -1,7 +1,8 @@
 #pragma once
 
 #include "documents/order_document.h"
-#include "entry/save_order.h"
+#include "entry/order_rows.h"
+#include "entry/stored_lines.h"
 
 namespace vantora {
 
@@ -14,5 +15,8 @@ testata_registrata testata_da_registrare(const customer_head& screen, int prezzo
 
 /// As it is printed.
 testata_ordine testata_da_stampare(const customer_head& screen);
+
+/// Shows the whole head of a stored order.
+void mostra_testata(customer_head& screen, const stored_rows<rec_orc>& rows);
 
 }  // namespace vantora

@@ -9,7 +9,9 @@ namespace vantora {
 
 order_screen::order_screen(program& app, const line_grid_kind& kind, ui::screen_place& head,
                            const char* print_title)
-    : line_grid(app, kind), head_(head), print_title_(print_title) {}
+    : line_grid(app, kind), head_(head), print_title_(print_title) {
+    add("testata", testata);
+}
 
 customer_head& order_screen::head() const {
     return static_cast<customer_head&>(head_.use());
@@ -20,7 +22,14 @@ void order_screen::activate() {
     Picture1.set_visible(false);
     Combo1.set_visible(false);
     open();
+    show_head();
     artic[0].set_focus();
+}
+
+void order_screen::show_head() {
+    const customer_head& shown = head();
+    testata.set_text(shown.Text2[0].text() + " - Ordine " + shown.Text3[0].text() + " del " +
+                     shown.Text3[1].text());
 }
 
 void order_screen::open_order(std::int16_t customer) {

@@ -16,6 +16,8 @@ class order_screen : public line_grid {
     order_screen(program& app, const line_grid_kind& kind, ui::screen_place& head,
                  const char* print_title);
 
+    ui::label testata;  ///< which order it is: customer, number, date
+
  protected:
     void activate() override;
     /// Leaves and saves; other commands are the screen's own.
@@ -38,6 +40,7 @@ class order_screen : public line_grid {
     void leave();
 
  private:
+    void show_head();
     void save();
     void offer_to_print();
 

@@ -20,7 +20,6 @@ testata_registrata head_of(const std::string& number, bool commit = false) {
     head.testi = {
         {{"r1", "r2", "r3"}, {"a1", "a2", "a3"}, {"c1", "c2", "0110"}, {"v1", "v2", "v3"}}};
     head.impegno = commit;
-    head.data_reg = 45418.5;
     return head;
 }
 
@@ -36,6 +35,8 @@ riga_ordine line_of(std::int16_t article, double quantity, std::string_view text
     line.sc2 = -5;
     return line;
 }
+
+constexpr double data_reg = 45418.5;
 
 rec_art stocked(double on_hand) {
     rec_art one = article("A", "Articolo", 1);
@@ -65,7 +66,8 @@ TEST(save_order, WritesTwoHundredRowsBehindTheLastBlock) {
     const std::string long_text = std::string(38, 'x') + "0123456789012345678901";
     lines[1] = line_of(0, 2.5, long_text);
     lines[200] = line_of(-4, 0, "ultima");
-    ASSERT_TRUE(salva_nuovo_ordine(company.files, head_of("12/B-0000000000", true), lines, 0));
+    ASSERT_TRUE(
+        salva_nuovo_ordine(company.files, head_of("12/B-0000000000", true), data_reg, lines, 0));
 
     EXPECT_EQ(std::filesystem::file_size(company.file("orc")), 1600U * 284);
     const rec_orc first = row_of(company.files, 8, 1);
@@ -116,7 +118,7 @@ TEST(save_order, CountersTakeWhatFitsAndKeepTheRest) {
         before.ultimo_numero = 55;
         before.progressivo = 7.5F;
         company.files.tot.write(contatori::ordini, before);
-        ASSERT_TRUE(salva_nuovo_ordine(company.files, head_of(one.number), {}, 0));
+        ASSERT_TRUE(salva_nuovo_ordine(company.files, head_of(one.number), data_reg, {}, 0));
         const rec_tot after = counter_of(company.files);
         EXPECT_EQ(after.quanti, one.then_in_use) << one.number;
         EXPECT_EQ(after.ultimo_numero, one.then_last) << one.number;
@@ -151,7 +153,8 @@ TEST(save_order, StockIsCommittedAsFarAsItGoes) {
         lines[number++] = line_of(3, 5);
         lines[number++] = line_of(0, 5);
         lines[number++] = line_of(-1, 5);
-        ASSERT_TRUE(salva_nuovo_ordine(company.files, head_of("1", one.commit), lines, 2));
+        ASSERT_TRUE(
+            salva_nuovo_ordine(company.files, head_of("1", one.commit), data_reg, lines, 2));
         rec_art after;
         company.files.art.read(2, after);
         EXPECT_EQ((figures{after.giacenza, after.impegnato, after.ordinato_clienti}), one.after);
@@ -172,11 +175,11 @@ struct save_bench {
         lines[2] = line_of(0, 4);
         lines[3] = line_of(3, 4);
         apri_archivi(files, faults, 1);
-        salva_nuovo_ordine(files, head_of("1"), {}, 3);
+        salva_nuovo_ordine(files, head_of("1"), data_reg, {}, 3);
         faults.events.clear();
         faults.writes = 0;
     }
-    bool save() { return salva_nuovo_ordine(files, head_of("2", true), lines, 3); }
+    bool save() { return salva_nuovo_ordine(files, head_of("2", true), data_reg, lines, 3); }
     double ordered(int number) {
         rec_art read;
         company.files.art.read(number, read);
@@ -238,7 +241,7 @@ TEST(save_order, ACrashLeavesNoCountedOrderWithoutItsStockMovements) {
         // The next order takes the same block and the archive is whole again.
         if (!crashed) continue;
         bench.faults.writes_before_crash = 1000;
-        ASSERT_TRUE(salva_nuovo_ordine(bench.files, head_of("3"), {}, 3));
+        ASSERT_TRUE(salva_nuovo_ordine(bench.files, head_of("3"), data_reg, {}, 3));
         EXPECT_EQ(counter_of(bench.company.files).quanti, 2);
         EXPECT_EQ(row_of(bench.company.files, 2, 1).numero.trimmed(), "3");
         EXPECT_EQ(row_of(bench.company.files, 2, 3).articolo, 0);

@@ -16,7 +16,7 @@ struct screen_layout {
 constexpr screen_layout known_layouts[] = {
     {"mirorc", lay_out_mirorc},  {"mirorcx", lay_out_mirorcx}, {"mirorcm", lay_out_mirorcm},
     {"mirsel", lay_out_mirsel},  {"mirdata", lay_out_mirdata}, {"mirorcs", lay_out_mirorcs},
-    {"mirorcb", lay_out_import}, {"mirpref", lay_out_import},
+    {"mirorcb", lay_out_import}, {"mirpref", lay_out_import},  {"mirorcz", lay_out_mirorcz},
 };
 
 }  // namespace

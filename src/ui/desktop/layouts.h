@@ -16,5 +16,6 @@ void lay_out_mirsel(form_window& window);
 void lay_out_mirdata(form_window& window);
 void lay_out_mirorcs(form_window& window);
 void lay_out_import(form_window& window);
+void lay_out_mirorcz(form_window& window);
 
 }  // namespace vantora::ui::desktop

@@ -65,6 +65,7 @@ void add_column(form_window& window, line_rows& lines, QGridLayout* cells, const
     for (int row = 0; row < rows; ++row) {
         auto* cell = window.as<QLineEdit>(one.control, row);
         lines.add_cell(one.control, row, cell);
+        set_look(cell, "column", one.control);
         if (one.number) cell->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         if (one.characters > 0) sized(cell, one.characters);
         cell->setMinimumHeight(cell->fontMetrics().height() + 6);
@@ -170,6 +171,18 @@ QFrame* stock_line(form_window& window) {
     return frame;
 }
 
+/// Which order it is that is worked on.
+QFrame* head_strip(form_window& window) {
+    auto* strip = new QFrame(&window);
+    set_look(strip, "role", "head");
+    auto* text = window.as<QLabel>("testata");
+    text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    auto* line = new QHBoxLayout(strip);
+    line->setContentsMargins(12, 4, 12, 4);
+    line->addWidget(text);
+    return strip;
+}
+
 struct choice {
     const char* control;
     int index;
@@ -233,6 +246,7 @@ void lay_out_line_window(form_window& window, const std::vector<line_command>& c
     all->setContentsMargins(0, 0, 0, 0);
     all->setSpacing(0);
     all->addWidget(command_bar(window, commands));
+    if (window.screen().find("testata", {})) all->addWidget(head_strip(window));
 
     auto* body = new QVBoxLayout;
     body->setContentsMargins(10, 8, 10, 8);

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "entry/order_rows.h"
+#include "store/archives.h"
+
+namespace vantora {
+
+/// An order that is in the archive, by its block, and what stands on the screen about it.
+struct ordine_esistente {
+    std::int16_t registrazione = 0;
+    std::int16_t articoli = 0;  ///< how many articles there are
+    bool impegno = false;       ///< commit the stock now, and free what the rows had committed
+};
+
+/// Saves an order anew over its block. Row by row what the stored row still had open is taken out
+/// of its article, what the new line has open is put in, and the row is written, its other fields
+/// as the file has them; `data_reg` too. The counters stay. At the end all is on the disk.
+///
+/// Failed reads and writes are passed over: an article or a row that can't be read is left alone,
+/// and a row that is left alone moves no stock. What ends the program on the way leaves rows before
+/// it new, rows behind it old, each with its article's stock.
+void salva_ordine(archivi& files, const ordine_esistente& order, const testata_registrata& head,
+                  bool evaso, const righe_ordine& lines);
+
+/// Deletes an order: what its stored rows still had open is taken out of their articles, and every
+/// row is marked, under the same rules. The block stays until the archive is compacted.
+void elimina_ordine(archivi& files, const ordine_esistente& order);
+
+}  // namespace vantora

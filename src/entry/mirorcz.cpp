@@ -1,0 +1,86 @@
+#include "entry/mirorcz.h"
+
+#include "customer/customer_fields.h"
+#include "customer/customer_head.h"
+#include "customer/shipping_data.h"
+#include "entry/order_head.h"
+#include "entry/stored_lines.h"
+
+namespace vantora {
+
+namespace {
+
+constexpr line_grid_kind ordine_da_modificare{.name = "mirorcz",
+                                              .title = "Modifica ordine clienti",
+                                              .documento = tipo_documento::ordine,
+                                              .has_evaso = true,
+                                              .has_impegno = true,
+                                              .has_eva = true};
+
+/// Commands of `comando` of its own.
+enum { modifica_testata = 5, elimina = 6 };
+
+}  // namespace
+
+mirorcz::mirorcz(program& app)
+    : order_screen(app, ordine_da_modificare, app.mirorcm, "Ordine clienti") {}
+
+void mirorcz::open() {
+    if (app_.modo_ordine != 0) return;
+    open_order(app_.selezione_2);
+    customer_head& screen = head();
+    for (std::size_t i = 0; i < customer_fields.size(); ++i) {
+        screen.Text2[i].set_text(customer_fields[i](cliente_));
+    }
+    read_order();
+    compute_totals();
+    paint();
+}
+
+void mirorcz::read_order() {
+    const stored_rows<rec_orc> stored(app_.archives.orc, app_.selezione_1);
+    stored_lines lines(app_.archives.art);
+    for (int number = 1; number <= righe_ordine::massimo; ++number) {
+        riga_ordine& line = righe_[number];
+        lines.read(stored[number], line);
+        line.evaso = finite_or_zero(stored[number].evaso);
+    }
+    mostra_testata(head(), stored);
+    const int price = scelta(stored[3].testo3, scelta_testata::prezzo);
+    if (price == 0 || price == 1) prezz[price].set_on(true);
+    impegno.set_on(stored[1].impegno.full() == "1");
+    eva.set_on(stored[1].evaso_flag == 1);
+}
+
+ordine_esistente mirorcz::order() const {
+    return {app_.selezione_1, lookup_.articles(), impegno.on()};
+}
+
+bool mirorcz::store() {
+    testata_registrata saved = testata_da_registrare(head(), chosen_price());
+    saved.cliente = app_.selezione_2;
+    saved.impegno = impegno.on();
+    salva_ordine(app_.archives, order(), saved, eva.on(), righe_);
+    return true;
+}
+
+void mirorcz::run_own_command(int command) {
+    if (command == modifica_testata) change_head();
+    if (command == elimina) delete_order();
+}
+
+void mirorcz::change_head() {
+    app_.modo_ordine = 1;
+    head().show();
+}
+
+void mirorcz::delete_order() {
+    if (!app_.desk.ask("Sei proprio sicuro?", "Eliminazione ordine")) return;
+    const work deleting(*this);
+    app_.desk.set_pointer(ui::pointer::busy);
+    elimina_ordine(app_.archives, order());
+    app_.desk.set_pointer(ui::pointer::normal);
+    leave();
+}
+
+}  // namespace vantora

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "entry/edit_order.h"
+#include "entry/order_screen.h"
+
+namespace vantora {
+
+/// The lines of an existing order; its customer and head stand in `mirorcm`. Lines that are
+/// fulfilled stay in their place and can be edited like all others.
+class mirorcz final : public order_screen {
+ public:
+    explicit mirorcz(program& app);
+
+ protected:
+    void open() override;
+    bool store() override;
+    void run_own_command(int command) override;
+
+ private:
+    /// Fills lines and head from the order's block.
+    void read_order();
+    void change_head();
+    void delete_order();
+    [[nodiscard]] ordine_esistente order() const;
+};
+
+}  // namespace vantora

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "program/order_lines.h"
+#include "store/records/rec_orc.h"
+
+namespace vantora {
+
+/// The head of an order as its rows store it.
+struct testata_registrata {
+    std::string numero;
+    std::string data;           ///< dd/mm/yyyy
+    std::string data_evasione;  ///< dd/mm/yyyy
+    std::int16_t cliente = 0;
+    /// `testo1` to `testo3` of rows 1 to 4.
+    std::array<std::array<std::string, 3>, 4> testi;
+    bool impegno = false;  ///< commit the stock
+};
+
+/// Puts the head on row `number` of its order; the texts go on the first four rows only. All other
+/// fields of the row stay as they are.
+void fill_head(rec_orc& row, const testata_registrata& head, std::size_t number);
+
+/// Puts a line on its row. All other fields stay, the fulfilled quantity included.
+void fill_line(rec_orc& row, const riga_ordine& line);
+
+}  // namespace vantora
