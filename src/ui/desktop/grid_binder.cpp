@@ -16,7 +16,10 @@ namespace {
 /// Shows a grid's cells where they are, without copying them. Row 0 of the grid is the header.
 class cells_model final : public QAbstractTableModel {
  public:
-    cells_model(const grid& table, QObject* parent) : QAbstractTableModel(parent), grid_(table) {}
+    cells_model(const grid& table, grid_view* view)
+        : QAbstractTableModel(view), grid_(table), view_(*view), strong_(view->font()) {
+        strong_.setBold(true);
+    }
 
     [[nodiscard]] int rowCount(const QModelIndex& parent) const override {
         return parent.isValid() ? 0 : grid_.rows() - 1;
@@ -34,6 +37,8 @@ class cells_model final : public QAbstractTableModel {
                 return colour_of(grid_.back_colour(row, col));
             case Qt::TextAlignmentRole:
                 return aligned(col);
+            case Qt::FontRole:
+                return view_.is_set_off(row) ? QVariant(strong_) : QVariant();
             default:
                 return {};
         }
@@ -79,6 +84,8 @@ class cells_model final : public QAbstractTableModel {
     }
 
     const grid& grid_;
+    const grid_view& view_;
+    QFont strong_;
 };
 
 /// The highlighted row and the first one in sight are those of the model, whoever moves them.

@@ -137,6 +137,19 @@ void grid_view::keep_over(QWidget* widget, int column) {
     place_followers();
 }
 
+void grid_view::set_off(int column, std::string text) {
+    sum_column_ = column;
+    sum_text_ = std::move(text);
+}
+
+bool grid_view::is_set_off(int row) const {
+    if (sum_column_ < 0 || model_.text(row, sum_column_) != sum_text_) return false;
+    for (int col = 0; col < sum_column_; ++col) {
+        if (!model_.text(row, col).empty()) return false;
+    }
+    return true;
+}
+
 void grid_view::place_followers() {
     for (const follower& one : over_) {
         one.widget->setGeometry(visualRect(model()->index(currentIndex().row(), one.column)));

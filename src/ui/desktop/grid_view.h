@@ -2,6 +2,7 @@
 
 #include <QElapsedTimer>
 #include <QTableView>
+#include <string>
 #include <vector>
 
 #include "ui/grid.h"
@@ -42,6 +43,10 @@ class grid_view final : public QTableView {
     /// entry that joined the end is marked.
     void keep_mark() { keeps_mark_ = true; }
     [[nodiscard]] bool keeps_mark() const { return keeps_mark_; }
+    /// Sets off the rows that sum others up: nothing stands before their column `column`, and
+    /// there `text`.
+    void set_off(int column, std::string text);
+    [[nodiscard]] bool is_set_off(int row) const;
 
  protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -82,6 +87,8 @@ class grid_view final : public QTableView {
     bool keeps_mark_ = false;
     QString typed_;  ///< what is searched for
     QElapsedTimer since_typed_;
+    int sum_column_ = -1;
+    std::string sum_text_;
 };
 
 }  // namespace vantora::ui::desktop

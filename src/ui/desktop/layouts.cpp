@@ -14,9 +14,11 @@ struct screen_layout {
 };
 
 constexpr screen_layout known_layouts[] = {
-    {"mirorc", lay_out_mirorc},  {"mirorcx", lay_out_mirorcx}, {"mirorcm", lay_out_mirorcm},
-    {"mirsel", lay_out_mirsel},  {"mirdata", lay_out_mirdata}, {"mirorcs", lay_out_mirorcs},
-    {"mirorcb", lay_out_import}, {"mirpref", lay_out_import},  {"mirorcz", lay_out_mirorcz},
+    {"mirorc", lay_out_mirorc},   {"mirorcx", lay_out_mirorcx}, {"mirorcm", lay_out_mirorcm},
+    {"mirsel", lay_out_mirsel},   {"mirdata", lay_out_mirdata}, {"mirorcs", lay_out_mirorcs},
+    {"mirorcz", lay_out_mirorcz}, {"mirstoe", lay_out_mirstoe}, {"mirstos", lay_out_mirstos},
+    {"mirstov", lay_out_mirstov}, {"mirston", lay_out_mirston}, {"mirstoa", lay_out_mirstoa},
+    {"mirorcb", lay_out_import},  {"mirpref", lay_out_import},
 };
 
 }  // namespace

@@ -17,5 +17,10 @@ void lay_out_mirdata(form_window& window);
 void lay_out_mirorcs(form_window& window);
 void lay_out_import(form_window& window);
 void lay_out_mirorcz(form_window& window);
+void lay_out_mirstoe(form_window& window);
+void lay_out_mirstos(form_window& window);
+void lay_out_mirstov(form_window& window);
+void lay_out_mirston(form_window& window);
+void lay_out_mirstoa(form_window& window);
 
 }  // namespace vantora::ui::desktop

@@ -1,0 +1,157 @@
+#include <span>
+
+#include "ui/desktop/layouts.h"
+#include "ui/desktop/layouts/parts.h"
+
+namespace vantora::ui::desktop {
+
+namespace {
+
+constexpr command_look commands[] = {
+    {"uscita", "&Esci", "Torna al registro degli ordini", "Esc"},
+    {"pdf", "P&DF", "Genera il PDF della lista", "Ctrl+G"},
+    {"stampante", "&Stampa", "Stampa la lista", "Ctrl+P"},
+    {"imposta_stampante", "Stam&pante", "Imposta la stampante", "Ctrl+Shift+P"},
+    {"aggiorna", "&Aggiorna lista", "Costruisce la lista con i filtri scelti", "F5"},
+};
+
+/// A filter and how wide it is, in characters; `stretch`: takes its share of what is left.
+struct filter_look {
+    const char* caption;
+    const char* name;
+    int index;
+    int width;
+    int stretch;
+};
+
+constexpr filter_look article_filters[] = {
+    {"Dall'articolo", "t_inizio", -1, 10, 2},
+    {"All'articolo", "t_fine", -1, 10, 2},
+    {"Categoria merceologica", "Combo0", -1, 14, 3},
+    {"Codice fornitore", "Text", 1, 6, 0},
+    {"Descrizione", "Text3", -1, 12, 3},
+    {"Dall'ordine numero", "text1", 0, 6, 0},
+    {"All'ordine numero", "text1", 1, 6, 0},
+};
+constexpr filter_look customer_filters[] = {
+    {"Dal cliente", "t_inizio", -1, 20, 3},
+    {"Al cliente", "t_fine", -1, 20, 3},
+    {"Dall'ordine numero", "text1", 0, 6, 0},
+    {"All'ordine numero", "text1", 1, 6, 0},
+};
+constexpr filter_look order_filters[] = {
+    {"Ordini", "Combo1", -1, 20, 0},
+    {"Dettaglio", "Combo2", -1, 12, 0},
+    {"Dall'ordine numero", "text1", 0, 6, 0},
+    {"All'ordine numero", "text1", 1, 6, 0},
+};
+constexpr filter_look schedule_filters[] = {
+    {"Dettaglio", "Combo2", -1, 12, 0},      {"Dall'ordine numero", "text1", 0, 6, 0},
+    {"All'ordine numero", "text1", 1, 6, 0}, {"Dalla data", "text2", 0, 10, 0},
+    {"Alla data", "text2", 1, 10, 0},
+};
+constexpr filter_look value_filters[] = {
+    {"Ordini", "Combo1", -1, 20, 0},
+    {"Dall'ordine numero", "text1", 0, 6, 0},
+    {"All'ordine numero", "text1", 1, 6, 0},
+};
+
+QFrame* command_bar(form_window& window) {
+    auto* bar = new QFrame(&window);
+    set_look(bar, "role", "bar");
+    auto* row = new QHBoxLayout(bar);
+    row->setContentsMargins(8, 6, 8, 6);
+    row->setSpacing(2);
+    for (const int i : {2, 1, 3, 0}) {
+        if (i == 0) row->addStretch(1);
+        window.dress("bottone", i, commands[i]);
+        auto* button = window.as<QToolButton>("bottone", i);
+        button->setIconSize(QSize(28, 28));
+        button->setMinimumWidth(86);
+        row->addWidget(button);
+    }
+    return bar;
+}
+
+/// The command that builds the list, with the progress of the build at its side.
+void add_building(form_window& window, QHBoxLayout* row) {
+    window.dress("bottone", 4, commands[4], Qt::ToolButtonTextBesideIcon);
+    set_look(window.widget("bottone", 4), "look", "plain");
+    auto* progress = window.widget("srt");
+    progress->setFixedWidth(150);
+    progress->setFixedHeight(progress->fontMetrics().height() + 8);
+    QSizePolicy place(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    place.setRetainSizeWhenHidden(true);
+    progress->setSizePolicy(place);
+    row->addSpacing(6);
+    row->addWidget(window.widget("bottone", 4), 0, Qt::AlignBottom);
+    row->addWidget(progress, 0, Qt::AlignBottom);
+}
+
+QHBoxLayout* filter_row(form_window& window, std::span<const filter_look> filters) {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(10);
+    bool stretches = false;
+    for (const filter_look& one : filters) {
+        QWidget* field = window.widget(one.name, one.index);
+        sized(field, one.width);
+        if (one.stretch > 0) {
+            field->setMinimumWidth(field->width());
+            field->setMaximumWidth(2 * field->width());
+        }
+        auto* above = caption(one.caption, &window);
+        above->setAlignment(Qt::AlignLeft);
+        set_look(above, "role", "faint");
+        above->setBuddy(field);
+        auto* column = new QVBoxLayout;
+        column->setSpacing(2);
+        column->addWidget(above);
+        column->addWidget(field);
+        row->addLayout(column, one.stretch);
+        stretches = stretches || one.stretch > 0;
+    }
+    add_building(window, row);
+    if (!stretches) row->addStretch(1);
+    return row;
+}
+
+void lay_out_report(form_window& window, std::span<const filter_look> filters, int total_column,
+                    const char* total) {
+    auto* all = new QVBoxLayout(&window);
+    all->setContentsMargins(0, 0, 0, 0);
+    all->setSpacing(0);
+    all->addWidget(command_bar(window));
+    auto* body = new QVBoxLayout;
+    body->setContentsMargins(10, 8, 10, 10);
+    body->setSpacing(8);
+    body->addLayout(filter_row(window, filters));
+    auto* list = window.as<grid_view>("elenco");
+    if (total) list->set_off(total_column, total);
+    QSizePolicy place(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    place.setRetainSizeWhenHidden(true);
+    list->setSizePolicy(place);
+    body->addWidget(list, 1);
+    all->addLayout(body, 1);
+    window.setMinimumSize(960, 520);
+    window.set_first_size(QSize(1280, 690));
+}
+
+}  // namespace
+
+void lay_out_mirstoa(form_window& window) {
+    lay_out_report(window, article_filters, 3, "Totale");
+}
+void lay_out_mirston(form_window& window) {
+    lay_out_report(window, customer_filters, 3, "Totale");
+}
+void lay_out_mirstoe(form_window& window) {
+    lay_out_report(window, order_filters, 0, nullptr);
+}
+void lay_out_mirstos(form_window& window) {
+    lay_out_report(window, schedule_filters, 0, nullptr);
+}
+void lay_out_mirstov(form_window& window) {
+    lay_out_report(window, value_filters, 2, "Importo complessivo");
+}
+
+}  // namespace vantora::ui::desktop
