@@ -24,7 +24,7 @@ int run(int rows, int rounds) {
         stage.app.parameters.tabella_stampa[2].altezza = look;
         const auto print = [&] {
             stage.desk.queue_answer(ui::answer::ok);
-            stampa_report(stage.app, schede, list, uscita_report::pdf);
+            stampa_report(stage.app, schede, list, list.rows(), uscita_report::pdf);
         };
         print();
         std::ifstream in(stage.files.locate(file_di_stampa), std::ios::binary);

@@ -16,7 +16,8 @@ namespace {
 int run(int rows, int rounds) {
     test::program_stage<> stage;
     const std::string pdf = (stage.folder.path() / "report.pdf").string();
-    ui::desktop::system_printer paper([&] { return QString::fromStdString(pdf); });
+    ui::desktop::system_printer paper([&] { return QString::fromStdString(pdf); },
+                                      [](const QString&) {});
     ui::desk desk(stage.front, stage.time, paper, stage.programs);
     program app(stage.files, desk, stage.pictures);
     carica_parametri(app.parameters, stage.files);
@@ -26,11 +27,11 @@ int run(int rows, int rounds) {
     std::vector<double> filed;
     for (int round = 0; round < rounds; ++round) {
         desk.queue_answer(ui::answer::yes);
-        printed.push_back(
-            milliseconds([&] { stampa_report(app, schede, list, uscita_report::stampante); }));
+        printed.push_back(milliseconds(
+            [&] { stampa_report(app, schede, list, list.rows(), uscita_report::stampante); }));
         desk.queue_answer(ui::answer::ok);
-        filed.push_back(
-            milliseconds([&] { stampa_report(app, schede, list, uscita_report::pdf); }));
+        filed.push_back(milliseconds(
+            [&] { stampa_report(app, schede, list, list.rows(), uscita_report::pdf); }));
     }
     std::printf("%d rows: %.0f ms on the printer, %.0f ms into the print file\n", rows,
                 median(printed), median(filed));
