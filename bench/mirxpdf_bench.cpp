@@ -13,6 +13,7 @@
 #include "mirxpdf/document_pdf.h"
 #include "store/drive.h"
 #include "support/scratch_folder.h"
+#include "ui/pictures/pixbuf_decoder.h"
 
 namespace {
 
@@ -55,9 +56,10 @@ std::string print_file(int pages) {
 
 qsizetype by_mirxpdf(const std::string& content) {
     const auto read = leggi_file_di_stampa(content);
-    return mirxpdf::make_pdf(std::get<documento_di_stampa>(read), "bench",
-                             [](std::string_view) { return std::optional<ui::bitmap>(); })
-        .size();
+    drive files(".");
+    ui::pixbuf_decoder decoder;
+    figure_documento pictures(files, decoder);
+    return mirxpdf::make_pdf(std::get<documento_di_stampa>(read), "bench", pictures).size();
 }
 
 /// All texts of the document at one place, in one font, without lines.

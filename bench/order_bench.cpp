@@ -7,8 +7,8 @@
 
 #include "bench/measure.h"
 #include "demo/company.h"
-#include "documents/order_document.h"
 #include "documents/print_file.h"
+#include "documents/printed_document.h"
 #include "entry/save_order.h"
 #include "entry/totals.h"
 #include "store/company.h"
@@ -89,14 +89,14 @@ void document_bench(test::program_stage<>& bench, righe_ordine& lines, int round
     tables.tabella_layout[69].posizione = "180000";
     const valuta currency;
     const auto totals = calcola_totali(lines, tables.iva, currency);
-    const testata_ordine head;
+    const testata_documento head;
     const rec_cli customer;
     ui::picture figure;
     std::size_t pages = 0;
     const auto compose = [&] {
         bench.desk.queue_answer(ui::answer::yes);
-        stampa_ordine(bench.app,
-                      {head, lines, totals.iva, customer, currency, tables, background, figure});
+        stampa_documento(bench.app, {tipo_documento::ordine, head, lines, totals.iva, customer,
+                                     currency, tables, background, figure});
         pages = bench.paper.take_jobs().at(0).pages.size();
     };
     compose();

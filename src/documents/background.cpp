@@ -31,12 +31,6 @@ enum colonna {
 constexpr double larghezza_pagina = 210;
 constexpr double altezza_pagina = 297;
 
-/// A point of a picture is a point of a common screen, however large its file says it should be.
-constexpr double twip_per_punto = 15;
-/// The scale that places a picture, and the true one.
-constexpr double twip_per_mm_figura = 56.6868;
-constexpr double twip_per_mm = 56.6929;
-
 constexpr double corpo_minimo = 2;
 
 std::span<elemento_disegno> elements_in_use(disegno& drawing) {
@@ -49,38 +43,24 @@ ui::colour ink_of(const elemento_disegno& one) {
     return value >= 0 && value <= ui::white ? static_cast<ui::colour>(value) : 0;
 }
 
-/// Puts the points of a picture on paper one by one, as small filled squares: every printer shows
-/// them alike. The light grey ones are left out.
+/// The user sees each picture while it goes to the paper.
 void disegna_immagine(program& app, ui::printer& paper, const elemento_disegno& one,
-                      ui::picture& figure) {
-    const std::string_view path = trimmed(one.testi[0]);
+                      figure_documento& pictures, ui::picture& figure) {
     const double x = one.valori[sinistra];
     const double y = one.valori[alto];
-    if (path.empty() || !(x > 0) || !(y > 0)) return;
-    if (const auto bytes = app.files.read_whole(path)) {
-        // A file that holds no picture leaves the one before.
-        if (auto read = app.pictures.decode(*bytes)) figure.set_bitmap(std::move(*read));
-    }
+    const auto image = pictures.at(one.testi[0], x, y, paper.page_width(), paper.page_height());
+    if (!image) return;
+    figure.set_bitmap(image);
     figure.set_visible(true);
-    const ui::bitmap& image = figure.shown();
-    for (int row = 0; row < image.height; ++row) {
-        const double top = row * twip_per_punto + y * twip_per_mm_figura;
-        for (int col = 0; col < image.width; ++col) {
-            const ui::colour ink = image.at(col, row);
-            if (ink == ui::transparent_grey) continue;
-            const double left = col * twip_per_punto + x * twip_per_mm_figura;
-            paper.box(left / twip_per_mm, top / twip_per_mm, (left + twip_per_punto) / twip_per_mm,
-                      (top + twip_per_punto) / twip_per_mm, ink, true);
-        }
-        app.desk.let_events_run();
-    }
+    paper.picture(x * scala_posto_figura, y * scala_posto_figura, lato_punto_figura, image);
+    app.desk.let_events_run();
     figure.set_visible(false);
     app.desk.let_events_run();
 }
 
 void draw_picture(program& app, document_output& out, const elemento_disegno& one,
-                  ui::picture& figure) {
-    disegna_immagine(app, out.paper(), one, figure);
+                  figure_documento& pictures, ui::picture& figure) {
+    disegna_immagine(app, out.paper(), one, pictures, figure);
     record_di_stampa record;
     record.tipo = tipo_record::figura;
     record.x1 = one.valori[sinistra];
@@ -141,19 +121,24 @@ void draw_text(document_output& out, const elemento_disegno& one, std::int16_t s
 
 }  // namespace
 
-void disegna_sfondo(program& app, document_output& out, disegno& drawing, ui::picture& figure) {
-    const auto elements = elements_in_use(drawing);
+void disegna_sfondo(program& app, document_output& out, const documento_da_stampare& document,
+                    figure_documento& pictures) {
+    const auto elements = elements_in_use(document.sfondo);
+    pictures.begin_page();
     for (const auto& one : elements) {
-        if (one.valori[tipo] == figura) draw_picture(app, out, one, figure);
+        if (one.valori[tipo] == figura) draw_picture(app, out, one, pictures, document.figura);
     }
     std::ranges::for_each(elements, pull_into_page);
     for (const auto& one : elements) {
         if (one.valori[tipo] == riquadro && one.valori[riempito] == 1) draw_box(out, one, true);
     }
+    std::size_t characters = 0;
     for (const auto& one : elements) {
         if (one.valori[tipo] == riquadro && one.valori[riempito] == 0) draw_box(out, one, false);
         if (one.valori[tipo] == linea) draw_line(out, one);
-        if (one.valori[tipo] == testo) draw_text(out, one, app.selezione_2);
+        if (one.valori[tipo] != testo) continue;
+        characters += one.testi[0].size();
+        if (characters <= caratteri_sfondo) draw_text(out, one, app.selezione_2);
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "documents/document_content.h"
 #include "store/text/int16.h"
 #include "store/text/number_text.h"
 
@@ -54,27 +55,28 @@ paginazione impagina(const forma_documento& shape, const tabelle_documento& tabl
     return pages;
 }
 
-void componi_pagine(const forma_documento& shape, const tabelle_documento& tables,
-                    const paginazione& pages, contenuto_documento& content, document_output& out,
-                    const std::function<void()>& draw_background) {
+void componi_pagine(const documento_da_stampare& document, const paginazione& pages,
+                    document_output& out, const std::function<void()>& draw_background) {
+    const forma_documento& shape = forma_di(document.tipo);
+    const tabelle_documento& tables = document.tabelle;
+    const contenuto_documento content(document);
     const bool has_background = number_at_head(tables.tabella_layout[riga_sfondo].posizione) == 1;
     const double body_top = first_three(row_of(tables, shape.riga_alto));
     for (int page = 1; page <= pages.pagine; ++page) {
         out.begin_page();
         if (has_background) draw_background();
-        for (int number = 1; number <= shape.campi; ++number) {
-            const testo_posto item = content.campo(number, page);
-            const voce_layout& look = row_of(tables, number);
+        for (std::size_t number = 1; number < shape.campi.size(); ++number) {
+            const voce_layout& look = tables.tabella_layout[number];
             const int x = whole_millimetres(first_three(look));
             const int y = whole_millimetres(last_three(look));
-            if (x > 0 && y > 0) out.place(x, y, item, look);
+            if (x > 0 && y > 0) out.place(x, y, content.campo(shape.campi[number], page), look);
         }
         for (int place = 1; place <= pages.righe_pagina; ++place) {
             const int line = place + pages.righe_pagina * (page - 1);
             if (line > ultima_riga_stampata) break;
-            for (int number = 1; number <= shape.colonne; ++number) {
-                const testo_posto item = content.colonna(line, number);
-                const voce_layout& look = row_of(tables, shape.prima_colonna + number - 1);
+            int row = shape.prima_colonna;
+            for (const testo_posto& item : content.riga(line, shape.colonne)) {
+                const voce_layout& look = row_of(tables, row++);
                 const double x = first_three(look);
                 if (x > 0) out.place(x, body_top + passo_righe * (place - 1), item, look);
             }

@@ -3,28 +3,10 @@
 #include <functional>
 
 #include "documents/document_output.h"
-#include "program/order_lines.h"
+#include "documents/document_shape.h"
+#include "documents/printed_document.h"
 
 namespace vantora {
-
-/// Where a kind of document has its parts in the rows of its layout.
-struct forma_documento {
-    int campi;          ///< fields around the lines, from row 1
-    int riga_alto;      ///< row with the upper limit of the lines
-    int riga_basso;     ///< row with the lower limit
-    int prima_colonna;  ///< row of the first column of the lines
-    int colonne;
-};
-
-/// What a document says, field by field and line by line.
-class contenuto_documento {
- public:
-    virtual ~contenuto_documento() = default;
-
-    virtual testo_posto campo(int number, int page) = 0;
-    /// A line's columns are asked for one after the other, from 1.
-    virtual testo_posto colonna(int line, int number) = 0;
-};
 
 /// How many pages a document has, and how many lines fit on one.
 struct paginazione {
@@ -39,8 +21,7 @@ paginazione impagina(const forma_documento& shape, const tabelle_documento& tabl
 
 /// Composes all pages in one pass, each with its background if the layout wants one, the fields
 /// around it and its lines. The frame is the same on every page. Line 200 has no place.
-void componi_pagine(const forma_documento& shape, const tabelle_documento& tables,
-                    const paginazione& pages, contenuto_documento& content, document_output& out,
-                    const std::function<void()>& draw_background);
+void componi_pagine(const documento_da_stampare& document, const paginazione& pages,
+                    document_output& out, const std::function<void()>& draw_background);
 
 }  // namespace vantora

@@ -17,8 +17,10 @@ void document_output::end_page() {
     file_.end_page();
 }
 
-void document_output::end() {
+bool document_output::end() {
+    const bool whole = file_.finish();
     paper_.end_job();
+    return whole;
 }
 
 void document_output::set_look(const aspetto_testo& look) {

@@ -3,17 +3,11 @@
 #include <string>
 #include <string_view>
 
-#include "documents/document_tables.h"
+#include "documents/document_content.h"
 #include "documents/print_file_writer.h"
 #include "ui/printer.h"
 
 namespace vantora {
-
-/// A text of a document, and which of its ends stands at its position.
-struct testo_posto {
-    std::string testo;
-    ui::alignment allineamento = ui::alignment::left;
-};
 
 /// How a text looks, as numbers and names of a company's files.
 struct aspetto_testo {
@@ -37,8 +31,9 @@ class document_output {
     /// Every page begins in an upright Arial.
     void begin_page();
     void end_page();
-    /// Ends the print job.
-    void end();
+    /// Ends the print job and the print file; nothing may follow. False if the file doesn't hold
+    /// all of the document.
+    [[nodiscard]] bool end();
 
     /// Prints a text in its look. A size, name or colour that no printer takes leaves the one
     /// before in force.

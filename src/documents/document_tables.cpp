@@ -11,12 +11,19 @@ text_reader open(file_port& files, int numero_azienda, std::string_view extensio
     return text_reader(files.read_whole(file_azienda(numero_azienda, extension)).value_or(""));
 }
 
+/// One line of a file, as much of it as a document may use.
+bool read_text(text_reader& reader, std::string& into) {
+    if (!reader.line(into)) return false;
+    if (into.size() > testo_piu_lungo) into.resize(testo_piu_lungo);
+    return true;
+}
+
 bool read_layout(std::array<voce_layout, 101>& layout, text_reader reader) {
     for (std::size_t row = 1; row < layout.size(); ++row) {
         voce_layout& one = layout[row];
         for (std::string* column : {&one.posizione, &one.corpo, &one.carattere, &one.grassetto,
                                     &one.corsivo, &one.colore}) {
-            if (!reader.line(*column)) return false;
+            if (!read_text(reader, *column)) return false;
         }
     }
     return true;
@@ -39,7 +46,7 @@ void carica_documento(tabelle_documento& into, tipo_documento kind, parametri& p
     const int company = parameters.numero_azienda;
     text_reader heading = open(files, company, "int");
     for (std::size_t i = 1; i < into.testi_intestazione.size(); ++i) {
-        heading.line(into.testi_intestazione[i]);
+        read_text(heading, into.testi_intestazione[i]);
     }
     into.iva = leggi_tabella_suite(files, company).iva;
     if (!read_layout(into.tabella_layout, open(files, company, nomi_di(kind).layout))) {
@@ -52,7 +59,7 @@ void carica_disegno(disegno& into, tipo_documento kind, int numero_azienda, file
     text_reader reader = open(files, numero_azienda, nomi_di(kind).disegno);
     if (!reader.item(into.elementi)) return;
     for (std::size_t i = 1; i < into.elenco.size(); ++i) {
-        for (auto& text : into.elenco[i].testi) reader.line(text);
+        for (auto& text : into.elenco[i].testi) read_text(reader, text);
         for (auto& value : into.elenco[i].valori) reader.item(value);
     }
 }

@@ -11,6 +11,9 @@
 
 namespace vantora {
 
+/// Texts of layouts, drawings and headings end here: no page has room for more.
+inline constexpr std::size_t testo_piu_lungo = 2000;
+
 /// One placed item of a document's layout, all as texts of the layout file.
 struct voce_layout {
     std::string posizione;  ///< xxxyyy in millimetres from the page's upper left corner

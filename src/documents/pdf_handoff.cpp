@@ -33,7 +33,8 @@ void offri_pdf(program& app, const documento_stampato& document) {
     constexpr const char* domanda =
         "Generare il file PDF ed eventualmente inviarlo tramite posta elettronica?";
     if (!app.desk.ask(domanda, titolo)) return;
-    const bool started = app.desk.launcher().start(comando_pdf(app.parameters, document));
+    const bool started =
+        document.file_intero && app.desk.launcher().start(comando_pdf(app.parameters, document));
     app.desk.set_pointer(ui::pointer::normal);
     if (started) return;
     app.desk.message(

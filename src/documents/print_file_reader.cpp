@@ -27,6 +27,7 @@ class reader {
     explicit reader(std::string_view content) : rest_(content), line_end_(line_end_of(content)) {}
 
     [[nodiscard]] bool at_end() const { return rest_.empty(); }
+    /// What makes it no print file.
     [[nodiscard]] const std::optional<errore_di_stampa>& error() const { return error_; }
 
     /// True for a landscape page.
@@ -40,13 +41,20 @@ class reader {
         return landscape;
     }
 
-    record_di_stampa record() {
+    /// The next record as far as it can be read, and what is odd about it.
+    struct read_record {
+        std::optional<record_di_stampa> record;
+        std::optional<errore_di_stampa> odd;
+    };
+    read_record record() {
+        odd_.reset();
         record_di_stampa made;
-        made.tipo = kind();
-        if (made.tipo == tipo_record::pagina) {
+        const auto kind = kind_of(trimmed(line()));
+        if (!kind || *kind == tipo_record::pagina) {
             for (int i = 1; i < righe_per_record; ++i) line();
-            return made;
+            return {kind ? std::optional(made) : std::nullopt, odd_};
         }
+        made.tipo = *kind;
         made.x1 = number(largest);
         made.y1 = number(largest);
         made.x2 = number(largest);
@@ -57,19 +65,23 @@ class reader {
         made.carattere = line();
         made.grassetto = number(largest);
         made.corsivo = number(largest);
-        return made;
+        if (odd_ && odd_->difetto == difetto_di_stampa::numero_illeggibile) return {{}, odd_};
+        return {std::move(made), odd_};
     }
 
  private:
-    void fail(difetto_di_stampa fault) {
-        if (!error_) error_ = errore_di_stampa{fault, line_number_};
+    /// The fault that loses the record is told before one that only changes it.
+    void note(difetto_di_stampa fault) {
+        if (!odd_ || odd_->difetto == difetto_di_stampa::numero_fuori_campo) {
+            odd_ = errore_di_stampa{fault, line_number_};
+        }
     }
 
     std::string_view line() {
         ++line_number_;
         const std::size_t end = rest_.find(line_end_);
         if (end == std::string_view::npos) {
-            fail(difetto_di_stampa::troncato);
+            if (!error_) error_ = errore_di_stampa{difetto_di_stampa::troncato, line_number_};
             return std::exchange(rest_, {});
         }
         const std::string_view text = rest_.substr(0, end);
@@ -81,7 +93,7 @@ class reader {
         std::string pointed(text);
         std::ranges::replace(pointed, ',', '.');
         const auto value = whole_number_text(pointed);
-        if (!value) fail(difetto_di_stampa::numero_illeggibile);
+        if (!value) note(difetto_di_stampa::numero_illeggibile);
         return value;
     }
 
@@ -89,25 +101,26 @@ class reader {
         const std::string_view text = trimmed(line());
         if (text.empty()) return 0;
         const double value = number_in(text).value_or(0);
-        if (std::abs(value) > limit) fail(difetto_di_stampa::numero_fuori_campo);
-        return value;
+        if (std::abs(value) > limit) note(difetto_di_stampa::numero_fuori_campo);
+        return std::clamp(value, -limit, limit);
     }
 
-    tipo_record kind() {
-        const double value = number_in(trimmed(line())).value_or(0);
+    std::optional<tipo_record> kind_of(std::string_view text) {
+        const double value = whole_number_text(text).value_or(-1);
         for (const tipo_record one :
              {tipo_record::figura, tipo_record::linea, tipo_record::riquadro, tipo_record::testo,
               tipo_record::pagina}) {
             if (value == static_cast<double>(one)) return one;
         }
-        fail(difetto_di_stampa::tipo_sconosciuto);
-        return tipo_record::pagina;
+        note(difetto_di_stampa::tipo_sconosciuto);
+        return {};
     }
 
     std::string_view rest_;
     std::string_view line_end_;
     std::size_t line_number_ = 0;
     std::optional<errore_di_stampa> error_;
+    std::optional<errore_di_stampa> odd_;  ///< of the record at hand
 };
 
 }  // namespace
@@ -118,16 +131,21 @@ std::variant<documento_di_stampa, errore_di_stampa> leggi_file_di_stampa(std::st
     document.orizzontale = in.mark();
 
     std::vector<record_di_stampa> page;
+    std::size_t records = 0;
     while (!in.error() && !in.at_end()) {
-        record_di_stampa one = in.record();
-        if (one.tipo == tipo_record::pagina) {
+        auto [one, odd] = in.record();
+        ++records;
+        if (odd && document.anomalie++ == 0) document.prima_anomalia = *odd;
+        if (!one) continue;
+        if (one->tipo == tipo_record::pagina) {
             document.pagine.push_back(std::move(page));
             page.clear();
         } else {
-            page.push_back(std::move(one));
+            page.push_back(std::move(*one));
         }
     }
     if (in.error()) return *in.error();
+    if (document.anomalie > records / 2) return document.prima_anomalia;
     // What follows the last page record is a page of its own.
     if (!page.empty()) document.pagine.push_back(std::move(page));
     return document;

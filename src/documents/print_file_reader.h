@@ -8,13 +8,7 @@
 
 namespace vantora {
 
-/// A whole print file, page by page.
-struct documento_di_stampa {
-    bool orizzontale = false;
-    std::vector<std::vector<record_di_stampa>> pagine;  ///< without the records that end them
-};
-
-/// Why a text is no print file.
+/// What can be wrong with a print file.
 enum class difetto_di_stampa {
     senza_marca,         ///< its first line is neither mark
     troncato,            ///< it ends inside a record
@@ -28,10 +22,20 @@ struct errore_di_stampa {
     std::size_t riga = 0;  ///< line of the file, from 1
 };
 
+/// A whole print file, page by page.
+struct documento_di_stampa {
+    bool orizzontale = false;
+    std::vector<std::vector<record_di_stampa>> pagine;  ///< without the records that end them
+    std::size_t anomalie = 0;                           ///< records with an odd value
+    errore_di_stampa prima_anomalia;                    ///< where the first of them is
+};
+
 /// Reads the content of a print file. Numbers may have a point or a comma for their decimals; an
 /// empty one is 0. A line ends as the file's first line does, so that another line end inside a
-/// text of a report breaks no record. A file that breaks the grammar anywhere gives its first error
-/// and no page.
+/// text of a report breaks no record. One odd value doesn't lose a document: a number too large is
+/// brought into its range, a record with an unreadable one or of no kind is passed over. Without
+/// its mark, cut off, or with more odd records than others it is no print file: that gives the
+/// first error and no page.
 std::variant<documento_di_stampa, errore_di_stampa> leggi_file_di_stampa(std::string_view content);
 
 }  // namespace vantora

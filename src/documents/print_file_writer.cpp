@@ -38,7 +38,10 @@ char* put_number(char* at, double value) {
 }  // namespace
 
 print_file_writer::print_file_writer(file_port& files, std::string_view mark)
-    : file_(files.create(file_di_stampa)), pending_(handed_over_at) {
+    : files_(files),
+      file_(files.create_instead(file_di_stampa)),
+      pending_(handed_over_at),
+      whole_(file_ != nullptr) {
     filled(put_line(room(mark.size() + line_end.size()), mark));
 }
 
@@ -60,10 +63,13 @@ void print_file_writer::filled(const char* end) {
 
 void print_file_writer::hand_over() {
     if (used_ == 0) return;
-    if (file_ && file_->write(written_, std::as_bytes(std::span(pending_).first(used_)))) {
+    const auto bytes = std::as_bytes(std::span(pending_).first(used_));
+    if (file_ && file_->write(written_, bytes)) {
         written_ += static_cast<std::int64_t>(used_);
-    } else {
+    } else if (file_) {
         whole_ = false;
+        file_.reset();
+        files_.create_instead(file_di_stampa);
     }
     used_ = 0;
 }

@@ -9,10 +9,12 @@
 namespace vantora {
 
 /// Writes a print file. Failures are passed over: a file that can't be created or filled takes
-/// nothing from what goes to the printer.
+/// nothing from what goes to the printer. After the first failure nothing more is written, and the
+/// file is left empty where the system allows it, so that nobody takes it for a document.
 class print_file_writer {
  public:
-    /// Empties the file and writes its first line, `marca_verticale` or `marca_orizzontale`.
+    /// Puts a new file in the place of the old one, which whoever has it open keeps, and writes its
+    /// first line, `marca_verticale` or `marca_orizzontale`.
     print_file_writer(file_port& files, std::string_view mark);
     print_file_writer(const print_file_writer&) = delete;
     print_file_writer& operator=(const print_file_writer&) = delete;
@@ -36,11 +38,12 @@ class print_file_writer {
     void filled(const char* end);
     void hand_over();
 
-    std::unique_ptr<file> file_;
-    std::vector<char> pending_;  ///< lines on their way to the file
+    file_port& files_;
+    std::unique_ptr<file> file_;  ///< null once a failure has left it empty
+    std::vector<char> pending_;   ///< lines on their way to the file
     std::size_t used_ = 0;
     std::int64_t written_ = 0;
-    bool whole_ = true;
+    bool whole_;
 };
 
 }  // namespace vantora

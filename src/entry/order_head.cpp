@@ -22,11 +22,11 @@ testata_registrata testata_da_registrare(const customer_head& screen, int prezzo
     return head;
 }
 
-testata_ordine testata_da_stampare(const customer_head& screen) {
-    testata_ordine head;
+testata_documento testata_da_stampare(const customer_head& screen) {
+    testata_documento head;
     for (std::size_t i = 0; i < head.text2.size(); ++i) head.text2[i] = screen.Text2[i].text();
     for (std::size_t i = 0; i < head.text3.size(); ++i) head.text3[i] = screen.Text3[i].text();
-    head.pagamento = screen.Combo1[customer_head::pagamento].text();
+    for (std::size_t i = 0; i < head.combo1.size(); ++i) head.combo1[i] = screen.Combo1[i].text();
     return head;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "documents/order_document.h"
+#include "documents/printed_document.h"
 #include "entry/order_rows.h"
 #include "entry/stored_lines.h"
 
@@ -14,7 +14,7 @@ class customer_head;
 testata_registrata testata_da_registrare(const customer_head& screen, int prezzo);
 
 /// As it is printed.
-testata_ordine testata_da_stampare(const customer_head& screen);
+testata_documento testata_da_stampare(const customer_head& screen);
 
 /// Shows the whole head of a stored order.
 void mostra_testata(customer_head& screen, const stored_rows<rec_orc>& rows);

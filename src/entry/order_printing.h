@@ -1,13 +1,11 @@
 #pragma once
 
-#include "documents/order_document.h"
-#include "documents/pdf_handoff.h"
+#include "documents/printed_document.h"
 
 namespace vantora {
 
 /// Asks under `titolo` whether to print the order just saved; prints as many copies as the user
-/// wants, and offers a PDF of what came out.
-void offri_stampa(program& app, const char* titolo, const ordine_da_stampare& order,
-                  const documento_stampato& printed);
+/// wants, and offers a PDF of what came out, to be sent by e-mail if `invia`.
+void offri_stampa(program& app, const char* titolo, const documento_da_stampare& order, bool invia);
 
 }  // namespace vantora

@@ -70,11 +70,11 @@ void order_screen::offer_to_print() {
     // Printing lets events run, and cleans the lines it prints: it gets those that were saved.
     righe_ordine lines = righe_;
     const totali_ordine totals = totali_;
-    const testata_ordine head_printed = testata_da_stampare(head());
+    const testata_documento printed = testata_da_stampare(head());
     offri_stampa(app_, print_title_,
-                 {head_printed, lines, totals.iva, cliente_, valuta_, tabelle_, disegno_, Picture1},
-                 {tipo_documento::ordine, head_printed.text3[0], postael.on(),
-                  cliente_.email.full(), tabelle_});
+                 {tipo_documento::ordine, printed, lines, totals.iva, cliente_, valuta_, tabelle_,
+                  disegno_, Picture1},
+                 postael.on());
 }
 
 void order_screen::leave() {

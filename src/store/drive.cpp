@@ -223,6 +223,20 @@ std::unique_ptr<file> drive::create(std::string_view path) {
     return open_plain(locate(path), O_RDWR | O_CREAT | O_TRUNC);
 }
 
+std::unique_ptr<file> drive::create_instead(std::string_view path) {
+    const auto located = locate(path);
+    // A link stays what it is, and leads to the file that is emptied.
+    struct stat state {};
+    if (::lstat(located.c_str(), &state) == 0 && S_ISREG(state.st_mode) &&
+        ::unlink(located.c_str()) == 0) {
+        auto made = open_plain(located, O_RDWR | O_CREAT | O_EXCL);
+        // Who could read and write the old one can the new one.
+        if (made) ::chmod(located.c_str(), state.st_mode & 0777);
+        return made;
+    }
+    return open_plain(located, O_RDWR | O_CREAT | O_TRUNC);
+}
+
 bool drive::create_folder(std::string_view path) {
     const auto located = locate(path);
     std::error_code failed;

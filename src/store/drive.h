@@ -28,6 +28,7 @@ class drive final : public file_port {
     std::optional<std::string> read_whole(std::string_view path) override;
     bool exists(std::string_view path) override;
     std::unique_ptr<file> create(std::string_view path) override;
+    std::unique_ptr<file> create_instead(std::string_view path) override;
     bool create_folder(std::string_view path) override;
 
  private:

@@ -83,6 +83,11 @@ class file_port {
     /// Creates a file anew, empty, for writing. Null if that isn't possible.
     virtual std::unique_ptr<file> create(std::string_view path) = 0;
 
+    /// Puts a new, empty file in the place of what is there: who has the old one open keeps it as
+    /// it is. Where the folder doesn't allow that, the old one is emptied. Null if neither is
+    /// possible.
+    virtual std::unique_ptr<file> create_instead(std::string_view path) { return create(path); }
+
     /// Makes one folder. True if it stands afterwards.
     virtual bool create_folder(std::string_view path) = 0;
 };

@@ -24,14 +24,24 @@ struct bitmap {
 /// Light grey: what documents leave out of every picture.
 inline constexpr colour transparent_grey = 0xC0C0C0;
 
+/// No logo is larger. A file that claims more is left alone: a few bytes may claim any size.
+inline constexpr int picture_side_max = 2'000;
+inline constexpr int picture_points_max = 4'000'000;
+
+/// What a picture file gave.
+struct decoded_picture {
+    std::optional<bitmap> image;  ///< empty if the bytes hold no picture, or one too large
+    bool too_large = false;
+};
+
 /// Reads picture files of the usual kinds (BMP, PNG, JPEG, GIF).
 class picture_decoder {
  public:
     virtual ~picture_decoder() = default;
 
-    /// The picture in the bytes of a file; empty if they hold none. What the file itself has as
-    /// transparent comes as `transparent_grey`.
-    virtual std::optional<bitmap> decode(std::string_view bytes) = 0;
+    /// The picture in the bytes of a file. What the file itself has as transparent comes as
+    /// `transparent_grey`.
+    virtual decoded_picture decode(std::string_view bytes) = 0;
 };
 
 }  // namespace vantora::ui

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <memory>
 #include <string>
 #include <string_view>
 
+#include "ui/bitmap.h"
 #include "ui/grid.h"
 
 namespace vantora::ui {
@@ -40,6 +42,10 @@ class printer {
     virtual void text(double x, double y, std::string_view text, const font& in, colour ink) = 0;
     virtual void line(double x1, double y1, double x2, double y2, colour ink) = 0;
     virtual void box(double x1, double y1, double x2, double y2, colour ink, bool filled) = 0;
+    /// A picture from its upper left corner (x, y), each point a filled square of `side`
+    /// millimetres, the light grey ones left out.
+    virtual void picture(double x, double y, double side,
+                         const std::shared_ptr<const bitmap>& image) = 0;
     virtual void new_page() = 0;
     virtual void end_job() = 0;
 

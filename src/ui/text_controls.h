@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -72,15 +74,16 @@ class picture : public control {
 
     void click() { fire(on_click); }
 
-    /// What it shows; without points as long as no file gave it any.
-    [[nodiscard]] const bitmap& shown() const { return shown_; }
-    void set_bitmap(bitmap image) {
+    /// What it shows; null as long as no file gave it anything.
+    [[nodiscard]] const std::shared_ptr<const bitmap>& shown() const { return shown_; }
+    void set_bitmap(std::shared_ptr<const bitmap> image) {
+        if (image == shown_) return;
         shown_ = std::move(image);
         show_change(aspect::content);
     }
 
  private:
-    bitmap shown_;
+    std::shared_ptr<const bitmap> shown_;
 };
 
 }  // namespace vantora::ui

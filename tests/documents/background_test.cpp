@@ -2,13 +2,19 @@
 
 #include <gtest/gtest.h>
 
+#include <ctime>
+#include <fstream>
+#include <sstream>
+
 #include "documents/document_bench.h"
+#include "documents/document_pictures.h"
 
 namespace vantora::test {
 namespace {
 
 using ui::script::printed_box;
 using ui::script::printed_line;
+using ui::script::printed_picture;
 using ui::script::printed_text;
 
 /// One page on an empty order, with its background.
@@ -47,10 +53,12 @@ TEST(background, DrawsFilledBoxesUnderTheRestAndPullsItIntoThePage) {
     EXPECT_FALSE(outline.filled);
     EXPECT_EQ(std::tie(outline.x1, outline.x2), std::make_tuple(0.0, 210.0));
 
-    const auto file = order.print_file();
-    std::vector<std::string> kinds;
-    for (std::size_t i = 1; i < file.size(); i += 11) kinds.push_back(file[i]);
-    EXPECT_EQ(kinds, (std::vector<std::string>{" 2 \r", " 3 \r", " 1 \r", " 2 \r", " 9 \r"}));
+    std::vector<std::string> file;
+    std::istringstream lines(order.print_file());
+    for (std::string row; std::getline(lines, row);) file.push_back(row);
+    std::string kinds;
+    for (std::size_t i = 1; i < file.size(); i += 11) kinds += file[i].at(1);
+    EXPECT_EQ(kinds, "23129");
     EXPECT_EQ(file[12 + 5], " 1 \r") << "the file keeps the size as it stands";
     EXPECT_EQ(file[23 + 9], " 1 \r") << "lines carry a mark";
     EXPECT_EQ(file[34 + 3], " 210 \r");
@@ -88,57 +96,90 @@ TEST(background, InvoiceNumbersBecomeCreditNotes) {
         order.app.selezione_2 = one.selezione_2;
         const auto pages = order.print();
         EXPECT_EQ(std::get<printed_text>(pages.at(0).at(0)).text, one.printed);
-        EXPECT_EQ(order.print_file().at(8), std::string(one.printed) + "\r");
+        EXPECT_NE(order.print_file().find(std::string("\r\n") + one.printed + "\r\n"),
+                  std::string::npos);
     }
 }
 
-/// A bitmap file of two points a row: red and light grey, light grey and blue.
-std::string small_bitmap() {
-    const unsigned char bytes[] = {'B', 'M', 70, 0, 0, 0, 0, 0, 0, 0, 54, 0, 0, 0, 40, 0, 0, 0, 2,
-                                   0, 0, 0, 2, 0, 0, 0, 1, 0, 24, 0, 0, 0, 0, 0, 16, 0, 0, 0, 0, 0,
-                                   0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0,
-                                   // from the bottom row up: blue, green, red
-                                   192, 192, 192, 255, 0, 0, 0, 0, 0, 0, 255, 192, 192, 192, 0, 0};
-    return {reinterpret_cast<const char*>(bytes), sizeof bytes};
+/// A bitmap file of white points, with any size in its head.
+std::string bitmap_file(int width, int height, int claimed_width, int claimed_height) {
+    std::string bytes(54, '\0');
+    const auto put = [&](std::size_t at, int value) {
+        for (int i = 0; i < 4; ++i) bytes[at++] = static_cast<char>(value >> 8 * i);
+    };
+    bytes[0] = 'B';
+    bytes[1] = 'M';
+    put(10, 54);
+    put(14, 40);
+    put(18, claimed_width);
+    put(22, claimed_height);
+    put(26, 1 | 24 << 16);
+    const int row = (width * 3 + 3) / 4 * 4;
+    put(2, 54 + row * height);
+    put(34, row * height);
+    return bytes + std::string(static_cast<std::size_t>(row * height), '\xFF');
 }
 
-TEST(background, PicturesArePrintedPointByPointWithoutTheirLightGrey) {
-    background_bench order;
-    std::ofstream(order.folder.path() / "logo.bmp", std::ios::binary) << small_bitmap();
-    order.element({4, 10, 20, 3, 4}, " c:\\LOGO.bmp ");
-    const auto pages = order.print();
-    ASSERT_EQ(pages.at(0).size(), 2U);
-    const auto& red = std::get<printed_box>(pages[0][0]);
-    const auto& blue = std::get<printed_box>(pages[0][1]);
-    EXPECT_EQ(red.ink, 0x0000FFU);
-    EXPECT_EQ(blue.ink, 0xFF0000U);
-    constexpr double point = 25.4 / 96;
-    EXPECT_NEAR(red.x1, 10, 0.01);
-    EXPECT_NEAR(red.y1, 20, 0.01);
-    EXPECT_NEAR(red.x2 - red.x1, point, 0.001);
-    EXPECT_NEAR(blue.x1 - red.x1, point, 0.001);
-    EXPECT_NEAR(blue.y1 - red.y1, point, 0.001);
-    EXPECT_FALSE(order.figure.visible());
-    const std::vector<std::string> record = {" 0 \r", " 10 \r", " 20 \r", " 3 \r",
-                                             " 4 \r", " 0 \r",  "\r",     " c:\\LOGO.bmp \r",
-                                             "\r",    " 0 \r",  " 0 \r"};
-    const auto file = order.print_file();
-    EXPECT_EQ(std::vector<std::string>(file.begin() + 1, file.begin() + 12), record);
+TEST(background, PicturesAreOneMarkEachAndOnlyAsFarAsThePaperGoes) {
+    constexpr double side = 25.4 / 96;
+    // Paper holds 780 points of 15 twips behind 3.6 mm.
+    const struct {
+        const char* what;
+        std::string file;
+        double x, y;
+        double width, height;  ///< points; 0: not drawn
+        bool told;
+    } cases[] = {
+        {"small", bitmap_file(5, 2, 5, 2), 10, 20, 5, 2, false},
+        {"no place", bitmap_file(5, 2, 5, 2), 0, 20, 0, 0, false},
+        {"off the paper", bitmap_file(5, 2, 5, 2), 10, 300, 0, 0, false},
+        {"over the edge", bitmap_file(9, 2, 9, 2), 209, 20, 4, 2, false},
+        {"no picture", bitmap_file(5, 2, 5, 2).substr(0, 40), 10, 20, 0, 0, false},
+        {"claims too much a side", bitmap_file(5, 2, 2001, 2), 10, 20, 0, 0, true},
+        {"claims too many", bitmap_file(5, 2, 30000, 30000), 10, 20, 0, 0, true},
+        {"largest", bitmap_file(2000, 2000, 2000, 2000), 10, 20, 756, 1047, false},
+    };
+    for (const auto& one : cases) {
+        background_bench order;
+        std::ofstream(order.folder.path() / "logo.bmp", std::ios::binary) << one.file;
+        order.element({4, one.x, one.y, 3, 4}, " c:\\LOGO.bmp ");
+        order.bench.desk.queue_answer(ui::answer::yes);
+        order.bench.desk.queue_answer(ui::answer::ok);
+        stampa_documento(order.app, order.document());
+        const auto pages = order.bench.paper.take_jobs().at(0).pages;
+        const bool told = order.bench.desk.take_answered().size() == 2;
+        EXPECT_EQ(told, one.told) << one.what;
+        ASSERT_EQ(pages.at(0).size(), one.width > 0 ? 1U : 0U) << one.what;
+        if (one.width > 0) {
+            const auto& drawn = std::get<printed_picture>(pages[0][0]);
+            EXPECT_NEAR(drawn.x, one.x, 0.03) << one.what;
+            EXPECT_NEAR(drawn.width, one.width * side, 0.01) << one.what;
+            EXPECT_NEAR(drawn.height, one.height * side, 0.01) << one.what;
+        }
+        EXPECT_FALSE(order.figure.visible());
+        EXPECT_NE(order.print_file().find("\r\n c:\\LOGO.bmp \r\n"), std::string::npos)
+            << "its record stands in any case";
+    }
 }
 
-TEST(background, APictureThatCantBeReadLeavesTheOneBefore) {
+TEST(background, APictureThatCantBeReadLeavesTheOneBeforeAndManyAreReadOnce) {
     background_bench order;
-    std::ofstream(order.folder.path() / "logo.bmp", std::ios::binary) << small_bitmap();
-    std::ofstream(order.folder.path() / "rotto.bmp", std::ios::binary)
-        << small_bitmap().substr(0, 40);
-    order.element({4, 10, 20}, "\\rotto.bmp");
-    order.element({4, 10, 20}, "\\logo.bmp");
+    std::ofstream(order.folder.path() / "logo.bmp", std::ios::binary)
+        << bitmap_file(300, 300, 300, 300);
     order.element({4, 10, 20}, "\\manca.bmp");
-    order.element({4, 0, 20}, "\\logo.bmp");
-    order.element({4, 10, 20}, "  ");
-    const auto pages = order.print();
-    EXPECT_EQ(pages.at(0).size(), 4U) << "nothing, the logo, the logo again, and no place";
-    EXPECT_EQ(order.print_file().size(), 1U + 11 * 6) << "each has its record all the same";
+    for (int i = 0; i < 498; ++i) order.element({4, 10, 20}, i == 1 ? "\\manca.bmp" : "\\logo.bmp");
+    order.fill_lines(20);
+    order.bench.desk.queue_answer(ui::answer::yes);
+    order.bench.desk.queue_answer(ui::answer::ok);
+    const std::clock_t begin = std::clock();
+    stampa_documento(order.app, order.document());
+    EXPECT_LT(std::clock() - begin, 2 * CLOCKS_PER_SEC);
+    const auto pages = order.bench.paper.take_jobs().at(0).pages;
+    ASSERT_EQ(pages.size(), 20U);
+    EXPECT_EQ(pages[19].size(), punti_per_pagina / (300 * 300)) << "as many as a page has room for";
+    const auto told = order.bench.desk.take_answered();
+    ASSERT_EQ(told.size(), 2U) << "once, however many";
+    EXPECT_NE(told[1].box.text.find("\\logo.bmp"), std::string::npos);
 }
 
 }  // namespace

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <fstream>
 #include <string>
 #include <vector>
 
-#include "documents/order_document.h"
+#include "documents/document_shape.h"
+#include "documents/printed_document.h"
 #include "store/drive.h"
 #include "support/scratch_folder.h"
 #include "ui/bench_desk.h"
@@ -12,7 +12,7 @@
 
 namespace vantora::test {
 
-/// An order on the bench, with the printer and the print file that it goes to.
+/// A document on the bench, with the printer and the print file that it goes to.
 struct document_bench {
     scratch_folder folder;
     drive files{folder.path()};
@@ -20,7 +20,7 @@ struct document_bench {
     ui::pixbuf_decoder pictures;
     program app{files, bench.desk, pictures};
 
-    testata_ordine head;
+    testata_documento head;
     righe_ordine lines;
     riepilogo_iva vat;
     rec_cli customer;
@@ -28,15 +28,18 @@ struct document_bench {
     tabelle_documento tables;
     disegno background;
     ui::picture figure;
+    esito_stampa outcome = esito_stampa::rifiutata;
 
     document_bench() {
         for (auto& row : tables.tabella_layout) row = {"000000", "9", "Arial", "0", "0", "0"};
     }
 
     /// Limits of the lines, in millimetres from the top.
-    void body(const std::string& top, const std::string& bottom) {
-        tables.tabella_layout[68].posizione = top + "000";
-        tables.tabella_layout[69].posizione = bottom + "000";
+    void body(const std::string& top, const std::string& bottom,
+              tipo_documento kind = tipo_documento::ordine) {
+        const auto first = static_cast<std::size_t>(forma_di(kind).riga_alto);
+        tables.tabella_layout[first].posizione = top + "000";
+        tables.tabella_layout[first + 1].posizione = bottom + "000";
     }
     /// Lines 1 to `count` of free text.
     void fill_lines(int count) {
@@ -45,12 +48,14 @@ struct document_bench {
         }
     }
 
-    /// Prints the order, and gives the pages that came out.
-    std::vector<std::vector<ui::script::print_operation>> print() {
+    documento_da_stampare document(tipo_documento kind = tipo_documento::ordine) {
+        return {kind, head, lines, vat, customer, currency, tables, background, figure};
+    }
+    /// Prints the document, and gives the pages that came out.
+    std::vector<std::vector<ui::script::print_operation>> print(
+        tipo_documento kind = tipo_documento::ordine) {
         bench.desk.queue_answer(ui::answer::yes);
-        const bool out =
-            stampa_ordine(app, {head, lines, vat, customer, currency, tables, background, figure});
-        if (!out) return {};
+        outcome = stampa_documento(app, document(kind));
         auto jobs = bench.paper.take_jobs();
         return jobs.empty() ? decltype(jobs.front().pages){} : std::move(jobs.front().pages);
     }
@@ -67,12 +72,8 @@ struct document_bench {
         return found;
     }
 
-    /// The lines of the print file.
-    [[nodiscard]] std::vector<std::string> print_file() const {
-        std::ifstream in(folder.path() / "mirdoc.rto", std::ios::binary);
-        std::vector<std::string> all;
-        for (std::string line; std::getline(in, line);) all.push_back(line);
-        return all;
+    [[nodiscard]] std::string print_file() {
+        return files.read_whole("c:\\mirdoc.rto").value_or("no file");
     }
 };
 

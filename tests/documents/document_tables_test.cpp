@@ -61,15 +61,6 @@ TEST_F(document_tables, AShortLayoutCountsAsMissing) {
     }
 }
 
-TEST_F(document_tables, AWholeLayoutNeedsNoOtherFileAndNoLastLineEnd) {
-    write("lyo", counted(599));
-    std::ofstream(company / "vantora.lyo", std::ios::app) << "the last";
-    load(tipo_documento::ordine);
-    EXPECT_EQ(tables.tabella_layout[100].corsivo, "599");
-    EXPECT_EQ(tables.tabella_layout[100].colore, "the last");
-    EXPECT_EQ(tables.testi_intestazione[1], "");
-}
-
 TEST_F(document_tables, TheHeadingIsTwentyWholeLines) {
     auto lines = counted(21);
     lines[4] = "  Via Roma, 1 \"bis\" ";

@@ -36,28 +36,33 @@ TEST(pdf_handoff, TheCommandNamesLayoutFileAndAddress) {
     }
 }
 
-TEST(pdf_handoff, StartsTheProgramOnYesAndSaysWhenItCant) {
-    document_bench order;
-    const documento_stampato printed{tipo_documento::ordine, "1", false, "", order.tables};
-    const auto offer = [&](std::initializer_list<ui::answer> answers) {
-        for (const auto answer : answers) order.bench.desk.queue_answer(answer);
-        offri_pdf(order.app, printed);
-        std::vector<std::string> said;
-        for (const auto& box : order.bench.desk.take_answered()) said.push_back(box.box.text);
-        said.push_back(std::to_string(order.bench.programs.take_started().size()));
-        return said;
+TEST(pdf_handoff, StartsTheProgramOnYesAndSaysWhenItCantOrMayNot) {
+    const struct {
+        bool yes, can_start, whole;
+        std::size_t boxes, started;
+    } cases[] = {
+        {false, true, true, 1, 0},
+        {true, true, true, 1, 1},
+        {true, false, true, 2, 0},
+        {true, true, false, 2, 0},
     };
-    const std::string question =
-        "Generare il file PDF ed eventualmente inviarlo tramite posta elettronica?";
-    using strings = std::vector<std::string>;
-    EXPECT_EQ(offer({ui::answer::no}), (strings{question, "0"}));
-    EXPECT_EQ(offer({ui::answer::yes}), (strings{question, "1"}));
-    order.bench.programs.allow(false);
-    EXPECT_EQ(
-        offer({ui::answer::yes, ui::answer::ok}),
-        (strings{question,
-                 "Non è possibile eseguire il programma invio del documento a mezzo internet."_cp,
-                 "0"}));
+    for (const auto& one : cases) {
+        document_bench order;
+        order.bench.programs.allow(one.can_start);
+        order.bench.desk.queue_answer(one.yes ? ui::answer::yes : ui::answer::no);
+        order.bench.desk.queue_answer(ui::answer::ok);
+        offri_pdf(order.app, {tipo_documento::ordine, "1", false, "", order.tables, one.whole});
+        const auto boxes = order.bench.desk.take_answered();
+        ASSERT_EQ(boxes.size(), one.boxes);
+        EXPECT_EQ(boxes[0].box.text,
+                  "Generare il file PDF ed eventualmente inviarlo tramite posta elettronica?");
+        if (one.boxes == 2) {
+            EXPECT_EQ(
+                boxes[1].box.text,
+                "Non è possibile eseguire il programma invio del documento a mezzo internet."_cp);
+        }
+        EXPECT_EQ(order.bench.programs.take_started().size(), one.started);
+    }
 }
 
 }  // namespace

@@ -1,6 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <fstream>
+#include <optional>
+#include <sstream>
 
 #include "documents/print_file_reader.h"
 #include "documents/print_file_writer.h"
@@ -36,14 +39,6 @@ const record_di_stampa logo{figura, 9, 10, 40, -2, 0, 0, "\\mirwin\\logo.bmp", "
 const record_di_stampa rule{linea, 0, -1.5, 210, 31, 0, 0xAAAAAA, "", "", 1, 0};
 const record_di_stampa shade{riquadro, 10, 40, 200, 44, 0, 0xFFFFFF, "", "", 1, 0};
 const record_di_stampa amount{testo, 190.25, 60, 0, 1, 8.5, 255, " 12,50 ", "Verdana", 0, 1};
-
-TEST_F(print_file, OneFieldOnOnePageTakesTwentyThreeLines) {
-    write(marca_verticale, {{heading}});
-    EXPECT_EQ(content(),
-              "#FILEFORMAT=KLP-RTO\r\n 3 \r\n 100 \r\n 20 \r\n 0 \r\n 0 \r\n 12 \r\n 0 \r\n"
-              "ORDINE CLIENTE\r\nArial\r\n 1 \r\n 0 \r\n 9 \r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n"
-              "\r\n");
-}
 
 TEST_F(print_file, LinesThatAKindDoesNotUseAreEmpty) {
     write(marca_orizzontale, {{logo, rule}});
@@ -87,26 +82,44 @@ TEST_F(print_file, WhatIsWrittenIsReadAgain) {
     }
 }
 
-TEST_F(print_file, EachDocumentEmptiesTheFileOfTheOneBefore) {
-    write(marca_verticale, {{heading, heading}, {heading}});
-    write(marca_orizzontale, {});
-    EXPECT_EQ(content(), "#FILEFORMAT=KLP-RTO-O\r\n");
-    EXPECT_TRUE(read().pagine.empty());
-}
-
-TEST_F(print_file, AFileThatCannotBeFilledDisturbsNobody) {
-    test::faulty_files full(files);
-    full.write_fails = [](const std::string&, std::int64_t) { return true; };
-    {
-        print_file_writer out(full, marca_verticale);
-        for (int i = 0; i < 3000; ++i) out.write(heading);
-        out.end_page();
-    }
-    EXPECT_EQ(content(), "");
+TEST_F(print_file, ANewFileTakesThePlaceOfTheOldOneWhichItsReadersKeep) {
+    write(marca_verticale, {{heading}});
+    const std::string before = content();
+    std::ifstream reader(folder.path() / "mirdoc.rto", std::ios::binary);
+    reader.get();
+    write(marca_orizzontale, {{heading, heading}});
+    reader.seekg(0);
+    std::ostringstream still;
+    still << reader.rdbuf();
+    EXPECT_EQ(still.str(), before);
+    EXPECT_NE(content(), before);
     std::filesystem::remove(folder.path() / "mirdoc.rto");
     std::filesystem::create_directory(folder.path() / "mirdoc.rto");
-    write(marca_verticale, {{heading}});
+    EXPECT_FALSE(print_file_writer(files, marca_verticale).finish());
     EXPECT_TRUE(std::filesystem::is_directory(folder.path() / "mirdoc.rto"));
+}
+
+/// Every write fails in turn, once and from there on: nothing is left that could be taken for a
+/// document, and nothing is written behind the failure.
+TEST_F(print_file, AFileThatCannotBeFilledIsLeftEmpty) {
+    for (const bool for_good : {false, true}) {
+        for (int n = 1;; ++n) {
+            test::faulty_files faulty(files);
+            int writes = 0;
+            faulty.write_fails = [&](const std::string&, std::int64_t) {
+                ++writes;
+                return writes == n || (for_good && writes > n);
+            };
+            print_file_writer out(faulty, marca_verticale);
+            for (int i = 0; i < 3000; ++i) out.write(heading);
+            out.end_page();
+            const bool whole = out.finish();
+            EXPECT_EQ(whole, writes < n);
+            if (whole) break;
+            EXPECT_EQ(writes, n);
+            EXPECT_EQ(content(), "");
+        }
+    }
 }
 
 /// A record of eleven lines, as a test wants them.
@@ -155,13 +168,44 @@ TEST(print_file_reading, ALineEndInsideATextOfAReportBreaksNoRecord) {
     EXPECT_EQ(page[1].testo, "one\rother");
 }
 
-TEST(print_file_reading, TheFirstFaultIsToldWithItsLine) {
-    const auto text_with = [](std::size_t line, const std::string& content) {
-        std::vector<std::string> eleven = {" 3 ", " 1 ", " 2 ",   " 0 ", " 0 ", " 9 ",
-                                           " 0 ", "x",   "Arial", " 0 ", " 0 "};
-        eleven[line - 1] = content;
-        return upright + lines(eleven) + end_of_page;
+/// Six records of a page, one of them with an odd value.
+TEST(print_file_reading, OddValuesAreCorrectedOrTheirRecordPassedOver) {
+    using enum difetto_di_stampa;
+    const struct {
+        std::size_t line;
+        const char* content;
+        std::optional<difetto_di_stampa> fault;
+        std::size_t kept;
+    } cases[] = {
+        {1, "4", tipo_sconosciuto, 3},        {1, "-1", tipo_sconosciuto, 3},
+        {1, "2.5", tipo_sconosciuto, 3},      {1, "", tipo_sconosciuto, 3},
+        {2, "Arial", numero_illeggibile, 3},  {3, "1;2", numero_illeggibile, 3},
+        {11, "- ", numero_illeggibile, 3},    {6, "nan", numero_illeggibile, 3},
+        {2, "100001", numero_fuori_campo, 4}, {6, "-1E300", numero_fuori_campo, 4},
+        {7, "1E300", std::nullopt, 4},
     };
+    for (const auto& one : cases) {
+        std::vector<std::string> good = {" 3 ", " 1 ", " 2 ",   " 0 ", " 0 ", " 9 ",
+                                         " 0 ", "x",   "Arial", " 0 ", " 0 "};
+        auto odd = good;
+        odd[one.line - 1] = one.content;
+        const auto read = leggi_file_di_stampa(upright + lines(good) + lines(odd) + lines(good) +
+                                               lines(good) + end_of_page);
+        const auto& document = std::get<documento_di_stampa>(read);
+        EXPECT_EQ(document.anomalie, one.fault ? 1U : 0U) << one.content;
+        if (one.fault) {
+            EXPECT_EQ(document.prima_anomalia.difetto, *one.fault) << one.content;
+            EXPECT_EQ(document.prima_anomalia.riga, 12 + one.line) << one.content;
+        }
+        ASSERT_EQ(document.pagine.size(), 1U);
+        EXPECT_EQ(document.pagine[0].size(), one.kept) << one.content;
+        for (const auto& record : document.pagine[0]) {
+            EXPECT_LE(std::abs(record.x1) + std::abs(record.corpo), 100'010);
+        }
+    }
+}
+
+TEST(print_file_reading, WhatIsNoPrintFileIsToldWithItsLine) {
     using enum difetto_di_stampa;
     const struct {
         std::string content;
@@ -169,23 +213,10 @@ TEST(print_file_reading, TheFirstFaultIsToldWithItsLine) {
         std::size_t line;
     } cases[] = {
         {"", senza_marca, 1},
-        {"#FILEFORMAT=KLP-RT", senza_marca, 1},
         {"#FILEFORMAT=KLP-RTO-O-O\r\n", senza_marca, 1},
         {"%PDF-1.4\r\n", senza_marca, 1},
         {"#FILEFORMAT=KLP-RTO", troncato, 1},
-        {text_with(1, "4"), tipo_sconosciuto, 2},
-        {text_with(1, "-1"), tipo_sconosciuto, 2},
-        {text_with(1, "2.5"), tipo_sconosciuto, 2},
-        {text_with(1, "1E300"), tipo_sconosciuto, 2},
-        {text_with(1, ""), numero_illeggibile, 2},
-        {text_with(2, "Arial"), numero_illeggibile, 3},
-        {text_with(3, "1;2"), numero_illeggibile, 4},
-        {text_with(6, "nan"), numero_illeggibile, 7},
-        {text_with(11, "- "), numero_illeggibile, 12},
-        {text_with(2, "100001"), numero_fuori_campo, 3},
-        {text_with(6, "-1E300"), numero_fuori_campo, 7},
-        // One line more: what follows is read in the wrong place.
-        {text_with(8, "one\r\nother"), numero_illeggibile, 11},
+        {upright + lines(std::vector<std::string>(22, "noise")), tipo_sconosciuto, 2},
     };
     for (const auto& one : cases) {
         const auto read = leggi_file_di_stampa(one.content);

@@ -87,24 +87,6 @@ TEST_F(suite_table, ItemsLoseQuotesAndMayShareTheirLineWithTheRest) {
     EXPECT_EQ(table.pagamenti[0], "s5 g1 l1");
 }
 
-TEST_F(suite_table, AFileThatEndsAnywhereGivesWhatItHolds) {
-    const auto whole = telling_lines();
-    for (std::size_t kept = 0; kept <= whole.size(); kept += 7) {
-        const tabella_suite table = read({whole.begin(), whole.begin() + static_cast<long>(kept)});
-        std::size_t payments = 0;
-        std::size_t causes = 0;
-        for (std::size_t i = 0; i < kept; ++i) {
-            const bool first_line = whole[i].ends_with(" l1");
-            if ((whole[i].starts_with("s5 ") || whole[i].starts_with("s15 ")) && first_line) {
-                ++payments;
-            }
-            if (whole[i].starts_with("s10 ") && first_line) ++causes;
-        }
-        EXPECT_EQ(table.pagamenti.size(), payments) << kept << " lines";
-        EXPECT_EQ(table.causali.size(), causes) << kept << " lines";
-    }
-}
-
 TEST_F(suite_table, ItemsThatShareTheirLineMoveAllThatFollows) {
     auto lines = telling_lines();
     const auto at = [](int lines_before) { return static_cast<std::ptrdiff_t>(lines_before); };

@@ -44,7 +44,8 @@ class text_list {
 };
 
 constexpr long patience_to_connect = 30;  // seconds
-constexpr long patience_for_bytes = 60;   // seconds without any byte
+constexpr long patience_for_bytes = 30;   // seconds without any byte
+constexpr long patience_to_part = 2;      // seconds, once the mail has been taken
 
 std::string named(std::string text, const std::string& document) {
     constexpr std::string_view place = "{documento}";
@@ -199,6 +200,8 @@ std::optional<std::string> send_pdf(const mail_settings& settings,
     curl_easy_setopt(curl, CURLOPT_MIMEPOST, mail.get());
 
     const CURLcode done = curl_easy_perform(curl);
+    // The server has the mail or hasn't: how it takes the leave changes nothing.
+    curl_easy_setopt(curl, CURLOPT_SERVER_RESPONSE_TIMEOUT, patience_to_part);
     if (done == CURLE_OK) return {};
     return explained(done, reason.data());
 }

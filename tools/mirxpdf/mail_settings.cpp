@@ -93,6 +93,7 @@ std::string take_line(mail_settings& into, std::string_view line) {
 std::variant<mail_settings, settings_error> read_mail_settings(std::string_view content) {
     constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF";
     if (content.starts_with(byte_order_mark)) content.remove_prefix(byte_order_mark.size());
+    if (content.size() > settings_size_max) return settings_error{"il file è troppo lungo"};
     mail_settings read;
     for (int number = 1; !content.empty(); ++number) {
         const std::size_t end = std::min(content.find('\n'), content.size());

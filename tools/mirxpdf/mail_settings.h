@@ -23,6 +23,9 @@ struct mail_settings {
     std::string testo;  ///< lines ended by LF
 };
 
+/// Bytes of mirxpdf.conf: subjects and texts made from it stay of a size that any server takes.
+inline constexpr std::size_t settings_size_max = 64 * 1024;
+
 /// What is wrong with the settings, for the user, in UTF-8.
 struct settings_error {
     std::string what;

@@ -1,13 +1,13 @@
 #include <CLI/CLI.hpp>
 #include <QApplication>
 #include <QDesktopServices>
-#include <QSaveFile>
 #include <QUrl>
 #include <cstdlib>
 
 #include "mirxpdf/document_pdf.h"
 #include "mirxpdf/mail.h"
 #include "mirxpdf/notices.h"
+#include "mirxpdf/pdf_file.h"
 #include "mirxpdf/request.h"
 #include "store/company.h"
 #include "store/drive.h"
@@ -92,16 +92,12 @@ QString explained(const errore_di_stampa& error) {
     return {};
 }
 
-/// Puts the PDF in its place in one step; until then a file of that name stays as it is. The
-/// answer is what went wrong.
-std::optional<QString> save(const QByteArray& pdf, const std::filesystem::path& path) {
-    std::error_code refused;
-    std::filesystem::create_directories(path.parent_path(), refused);
-    QSaveFile file(QString::fromStdString(path.string()));
-    if (!file.open(QIODevice::WriteOnly)) return file.errorString();
-    file.write(pdf);
-    if (!file.commit()) return file.errorString();
-    return {};
+/// What the user is to know of a document whose file had odd values; empty for all others.
+QString remark(const documento_di_stampa& document) {
+    if (document.anomalie == 0) return {};
+    return QString(" Attenzione: il file di stampa %1; elementi corretti o saltati: %2.")
+        .arg(explained(document.prima_anomalia))
+        .arg(document.anomalie);
 }
 
 /// Empty if it was sent, else why not.
@@ -113,7 +109,12 @@ std::optional<QString> send(drive& suite, const pdf_request& request,
     if (addressees.empty()) {
         return "indirizzo e-mail non valido: " + shown(request.addressee);
     }
-    const auto read = read_mail_settings(suite.read_whole(configuration).value_or(""));
+    const auto content = suite.read_whole(configuration);
+    std::error_code unknown;
+    if (!content && std::filesystem::exists(suite.locate(configuration), unknown)) {
+        return "la configurazione della posta non si può leggere: " + place;
+    }
+    const auto read = read_mail_settings(content.value_or(""));
     if (const auto* error = std::get_if<settings_error>(&read)) {
         return "configurazione della posta errata in " + place + ", " +
                QString::fromStdString(error->what);
@@ -142,32 +143,34 @@ int run(drive& suite, const pdf_request& request, const std::optional<std::strin
         return no_pdf;
     }
 
+    const auto& document = std::get<documento_di_stampa>(read);
+    if (document.pagine.empty()) {
+        tell.failure("Il PDF non è stato creato: il documento non ha pagine." + remark(document));
+        return no_pdf;
+    }
     const std::filesystem::path path = suite.locate(request.pdf);
     const QString place = QString::fromStdString(path.string());
     ui::pixbuf_decoder decoder;
-    const auto picture = [&](std::string_view file) -> std::optional<ui::bitmap> {
-        const auto bytes = suite.read_whole(file);
-        return bytes ? decoder.decode(*bytes) : std::nullopt;
-    };
-    const auto& document = std::get<documento_di_stampa>(read);
+    figure_documento pictures(suite, decoder);
     const QByteArray pdf =
-        make_pdf(document, QString::fromStdString(path.stem().string()), picture);
-    const auto refused = pdf.isEmpty() ? "il disegno delle pagine non riesce" : save(pdf, path);
+        make_pdf(document, QString::fromStdString(path.stem().string()), pictures);
+    const auto refused = pdf.isEmpty() ? "il disegno delle pagine non riesce" : save_pdf(pdf, path);
     if (refused) {
         tell.failure("Il PDF " + place + " non è stato creato: " + *refused + ".");
         return no_pdf;
     }
-    const QString ready = document.pagine.empty() ? "Il documento è pronto, ma non ha pagine."
-                                                  : "Il documento è pronto.";
+    QString odd = remark(document);
+    if (!pictures.left_out().empty()) odd += " Mancano figure troppo grandi.";
+    const QString ready = "Il documento è pronto.";
     if (request.addressee.empty()) {
-        tell.done(ready, place);
+        tell.done(ready, odd, place);
         return all_done;
     }
     if (const auto problem = send(suite, request, path, pdf)) {
-        tell.not_sent("Il documento non è stato inviato: " + *problem + ".", place);
+        tell.not_sent("Il documento non è stato inviato: " + *problem + "." + odd, place);
         return not_sent;
     }
-    tell.done(ready + " È stato inviato a " + shown(request.addressee) + ".", place);
+    tell.done(ready + " È stato inviato a " + shown(request.addressee) + ".", odd, place);
     return all_done;
 }
 

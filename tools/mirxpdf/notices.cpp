@@ -48,8 +48,9 @@ void notices::not_sent(const QString& what, const QString& pdf) const {
     if (open_) show_with_open(what, pdf, true);
 }
 
-void notices::done(const QString& what, const QString& pdf) const {
-    if (open_) show_with_open(what, pdf, false);
+void notices::done(const QString& what, const QString& odd, const QString& pdf) const {
+    if (!odd.isEmpty()) write(what + odd);
+    if (open_) show_with_open(what + odd, pdf, !odd.isEmpty());
 }
 
 }  // namespace vantora::mirxpdf

@@ -18,8 +18,8 @@ class notices {
     void failure(const QString& what) const;
     /// The PDF is there but didn't leave.
     void not_sent(const QString& what, const QString& pdf) const;
-    /// All went well; only in windows.
-    void done(const QString& what, const QString& pdf) const;
+    /// All went well; only in windows, unless something was odd.
+    void done(const QString& what, const QString& odd, const QString& pdf) const;
 
  private:
     void show_with_open(const QString& text, const QString& pdf, bool is_warning) const;

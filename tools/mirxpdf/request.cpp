@@ -54,6 +54,10 @@ std::optional<pdf_request> read_request(std::string_view argument) {
     values.resize(std::max<std::size_t>(values.size(), 4));
     pdf_request request{values[1], values[2], values[3]};
     if (request.addressee == none) request.addressee.clear();
+    // A customer's field may hold several addresses, with the comma that also parts the values.
+    for (std::size_t i = 4; i < values.size() && !request.addressee.empty(); ++i) {
+        if (values[i].find('@') != std::string::npos) request.addressee += ";" + values[i];
+    }
     if (!names_a_file(request.print_file) || !names_a_file(request.pdf)) return {};
     return request;
 }

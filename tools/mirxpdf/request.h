@@ -15,8 +15,9 @@ struct pdf_request {
 };
 
 /// Reads the argument text: layout file or "***", print file, PDF, e-mail address or "***", and a
-/// further value, separated by commas. The first and the last say nothing here; the last two may
-/// be missing. Empty if there is no print file or no name for the PDF.
+/// further value, separated by commas. The first and the last say nothing here, unless the last is
+/// another address; the last two may be missing. Empty if there is no print file or no name for the
+/// PDF.
 std::optional<pdf_request> read_request(std::string_view argument);
 
 /// The program's file as it was started: an absolute path, no link followed.

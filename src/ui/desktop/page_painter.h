@@ -2,9 +2,9 @@
 
 #include <QFont>
 #include <QImage>
-#include <QRectF>
+#include <map>
+#include <memory>
 #include <string_view>
-#include <vector>
 
 #include "ui/bitmap.h"
 #include "ui/printer.h"
@@ -24,41 +24,30 @@ double page_text_width(std::string_view text, const font& in, const QPaintDevice
 /// The points of a picture; the light grey ones are transparent.
 QImage image_of(const bitmap& points);
 
-/// Draws the marks of documents and reports. Positions are millimetres from the upper left corner
-/// of the sheet, a text's position is its upper left corner. Printer and PDF files look alike
-/// because both draw through here.
+/// Draws the marks of documents and reports, page after page. Positions are millimetres from the
+/// upper left corner of the sheet, a text's position is its upper left corner. Printer and PDF
+/// files look alike because both draw through here.
 class page_painter {
  public:
     /// REQUIRES: `painter` is active, its origin is the corner of the sheet and its unit a dot of
     /// its device; it outlives this object.
     explicit page_painter(QPainter& painter);
-    ~page_painter();
     page_painter(const page_painter&) = delete;
     page_painter& operator=(const page_painter&) = delete;
 
     void text(double x, double y, std::string_view text, const font& in, colour ink);
     void line(double x1, double y1, double x2, double y2, colour ink);
     void box(double x1, double y1, double x2, double y2, colour ink, bool filled);
-    /// A picture of `width` by `height` millimetres, without smoothing.
-    void image(double x, double y, double width, double height, const QImage& points);
-
-    /// Draws what was held back; to be called before the page ends.
-    void finish_page();
+    /// A picture, each point a square of `side` millimetres, without smoothing. Drawn several times
+    /// in a job, it lies in its file once.
+    void picture(double x, double y, double side, const std::shared_ptr<const bitmap>& image);
 
  private:
-    /// A small filled box, one point of a picture that is printed point by point.
-    struct tile {
-        QRectF area;  ///< dots
-        colour ink;
-    };
-
     [[nodiscard]] double dots(double millimetres) const;
-    [[nodiscard]] bool lie_in_a_raster(int& columns, int& rows) const;
 
     QPainter& painter_;
     double dots_per_millimetre_;
-    // Abutting boxes show seams in viewers; tiles are held back and drawn as one image.
-    std::vector<tile> tiles_;
+    std::map<std::shared_ptr<const bitmap>, QImage> pictures_;
 };
 
 }  // namespace vantora::ui::desktop

@@ -168,9 +168,13 @@ void system_printer::box(double x1, double y1, double x2, double y2, colour ink,
     if (page_painter* on = page()) on->box(x1, y1, x2, y2, ink, filled);
 }
 
+void system_printer::picture(double x, double y, double side,
+                             const std::shared_ptr<const bitmap>& image) {
+    if (page_painter* on = page()) on->picture(x, y, side, image);
+}
+
 void system_printer::new_page() {
     if (page_ended_ || !job_) page();
-    if (job_->page) job_->page->finish_page();
     page_ended_ = true;
 }
 

@@ -38,6 +38,8 @@ class system_printer final : public printer {
     void text(double x, double y, std::string_view text, const font& in, colour ink) override;
     void line(double x1, double y1, double x2, double y2, colour ink) override;
     void box(double x1, double y1, double x2, double y2, colour ink, bool filled) override;
+    void picture(double x, double y, double side,
+                 const std::shared_ptr<const bitmap>& image) override;
     void new_page() override;
     void end_job() override;
     void set_job_name(std::string_view name) override;

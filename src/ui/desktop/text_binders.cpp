@@ -136,7 +136,8 @@ class picture_binder final : public widget_binder {
  private:
     void show_value(aspect what) override {
         if (what != aspect::content) return;
-        label_->setPixmap(QPixmap::fromImage(image_of(model_.shown())));
+        const auto& image = model_.shown();
+        label_->setPixmap(image ? QPixmap::fromImage(image_of(*image)) : QPixmap());
         show_visibility();
     }
     void show_visibility() override {

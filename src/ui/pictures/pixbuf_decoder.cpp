@@ -2,6 +2,7 @@
 
 #include <gdk-pixbuf/gdk-pixbuf.h>
 
+#include <algorithm>
 #include <memory>
 
 namespace vantora::ui {
@@ -12,11 +13,17 @@ struct release {
     void operator()(gpointer object) const { g_object_unref(object); }
 };
 
-/// No logo is larger; a damaged head of a file must not make us reserve the memory for it.
-constexpr int widest = 10'000;
+/// Files are read piece by piece, so that one whose head claims too much is left at its head.
+constexpr std::size_t piece = 4096;
 
-void refuse_giants(GdkPixbufLoader* loader, int width, int height, gpointer) {
-    if (width > widest || height > widest) gdk_pixbuf_loader_set_size(loader, 1, 1);
+/// The sizes that a file claims come before any room is made for its points; none is made for 0.
+void refuse_giants(GdkPixbufLoader* loader, int width, int height, gpointer too_large) {
+    if (width <= picture_side_max && height <= picture_side_max &&
+        width <= picture_points_max / std::max(height, 1)) {
+        return;
+    }
+    *static_cast<bool*>(too_large) = true;
+    gdk_pixbuf_loader_set_size(loader, 0, 0);
 }
 
 bitmap bitmap_of(const GdkPixbuf* from) {
@@ -41,16 +48,23 @@ bitmap bitmap_of(const GdkPixbuf* from) {
 
 }  // namespace
 
-std::optional<bitmap> pixbuf_decoder::decode(std::string_view bytes) {
+decoded_picture pixbuf_decoder::decode(std::string_view bytes) {
+    decoded_picture made;
     const std::unique_ptr<GdkPixbufLoader, release> loader(gdk_pixbuf_loader_new());
-    g_signal_connect(loader.get(), "size-prepared", G_CALLBACK(refuse_giants), nullptr);
-    const auto* data = reinterpret_cast<const guchar*>(bytes.data());
+    g_signal_connect(loader.get(), "size-prepared", G_CALLBACK(refuse_giants), &made.too_large);
+    bool written = true;
+    while (written && !made.too_large && !bytes.empty()) {
+        const std::string_view part = bytes.substr(0, piece);
+        written = gdk_pixbuf_loader_write(
+            loader.get(), reinterpret_cast<const guchar*>(part.data()), part.size(), nullptr);
+        bytes.remove_prefix(part.size());
+    }
     // The loader wants its end told even after a failed write.
-    const bool written = gdk_pixbuf_loader_write(loader.get(), data, bytes.size(), nullptr);
     const bool closed = gdk_pixbuf_loader_close(loader.get(), nullptr);
     const GdkPixbuf* picture = gdk_pixbuf_loader_get_pixbuf(loader.get());
-    if (!written || !closed || !picture) return {};
-    return bitmap_of(picture);
+    if (made.too_large || !written || !closed || !picture) return made;
+    made.image = bitmap_of(picture);
+    return made;
 }
 
 }  // namespace vantora::ui

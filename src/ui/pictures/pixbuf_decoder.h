@@ -7,7 +7,7 @@ namespace vantora::ui {
 /// Leaves the reading of pictures to GdkPixbuf.
 class pixbuf_decoder final : public picture_decoder {
  public:
-    std::optional<bitmap> decode(std::string_view bytes) override;
+    decoded_picture decode(std::string_view bytes) override;
 };
 
 }  // namespace vantora::ui

@@ -34,6 +34,14 @@ json operation_json(const printed_box& box) {
     return shape;
 }
 
+json operation_json(const printed_picture& picture) {
+    return {{"op", "picture"},
+            {"x", picture.x},
+            {"y", picture.y},
+            {"width", picture.width},
+            {"height", picture.height}};
+}
+
 json job_json(const print_job& job) {
     json pages = json::array();
     for (const auto& operations : job.pages) {

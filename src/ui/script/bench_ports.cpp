@@ -50,6 +50,11 @@ void recording_printer::box(double x1, double y1, double x2, double y2, colour i
     put(printed_box{x1, y1, x2, y2, ink, filled});
 }
 
+void recording_printer::picture(double x, double y, double side,
+                                const std::shared_ptr<const bitmap>& image) {
+    put(printed_picture{x, y, image->width * side, image->height * side});
+}
+
 void recording_printer::new_page() {
     begin_page();
     page_open_ = false;

@@ -28,7 +28,12 @@ struct printed_box {
     bool filled = false;
 };
 
-using print_operation = std::variant<printed_text, printed_line, printed_box>;
+/// All points of one picture.
+struct printed_picture {
+    double x = 0, y = 0, width = 0, height = 0;
+};
+
+using print_operation = std::variant<printed_text, printed_line, printed_box, printed_picture>;
 
 struct print_job {
     int orientation = printer::upright;
@@ -60,6 +65,8 @@ class recording_printer final : public printer {
     void text(double x, double y, std::string_view text, const font& in, colour ink) override;
     void line(double x1, double y1, double x2, double y2, colour ink) override;
     void box(double x1, double y1, double x2, double y2, colour ink, bool filled) override;
+    void picture(double x, double y, double side,
+                 const std::shared_ptr<const bitmap>& image) override;
     void new_page() override;
     void end_job() override;
     bool choose_settings() override;

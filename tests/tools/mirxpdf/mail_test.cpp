@@ -52,7 +52,7 @@ TEST_F(mirxpdf_mail, ThePdfTravelsAsAnAttachment) {
         "sicurezza = nessuna\nutente = ordini\npassword = seg=reta #1\n"
         "oggetto = {documento}: perch\xC3\xA9 no\ntesto = Gentile cliente,\ntesto =\ntesto = .\n"
         "testo = ecco {documento}"));
-    const auto result = drive.run({call_with_address("rossi@verdi.it; bianchi@neri.it")});
+    const auto result = drive.run({call_with_address("rossi@verdi.it, bianchi@neri.it")});
     server.close();
     ASSERT_EQ(result.exit_code, 0) << result.said;
 
@@ -82,6 +82,9 @@ TEST_F(mirxpdf_mail, WithoutSettingsThePdfStaysAndTheUserIsTold) {
     expect_not_sent("rossi@verdi.it", "mirwin/mirwin/mirxpdf.conf");
     drive.write_settings("server = smtp.esempio.it\nmittente = a@b.it\nporta = molte\n");
     expect_not_sent("rossi@verdi.it", "riga 3: la porta");
+    std::filesystem::remove(drive.at("mirwin/mirwin/mirxpdf.conf"));
+    std::filesystem::create_directory(drive.at("mirwin/mirwin/mirxpdf.conf"));
+    expect_not_sent("rossi@verdi.it", "non si può leggere");
 }
 
 TEST_F(mirxpdf_mail, NoAddressMeansNoMail) {

@@ -52,7 +52,7 @@ TEST_F(mirxpdf_notices, APdfThatIsReadyIsOpenedOnlyIfTheUserWantsIt) {
     for (const auto& one : answers) {
         opened.clear();
         answer_with(one.button);
-        tell.done("Il documento è pronto.", pdf);
+        tell.done("Il documento è pronto.", "", pdf);
         EXPECT_EQ(text, "Il documento è pronto.\n/ditta/orc12.pdf");
         answer_with(one.button);
         tell.not_sent("Il documento <b>non</b> è stato inviato.", pdf);
@@ -62,16 +62,9 @@ TEST_F(mirxpdf_notices, APdfThatIsReadyIsOpenedOnlyIfTheUserWantsIt) {
     }
 }
 
-TEST_F(mirxpdf_notices, AFailureHasNothingToOpen) {
-    answer_with("");
-    tell.failure("Il PDF non è stato creato.");
-    EXPECT_EQ(text, "Il PDF non è stato creato.\n");
-    EXPECT_TRUE(opened.empty());
-}
-
 TEST_F(mirxpdf_notices, WithoutWindowsNothingWaitsForTheUser) {
     const notices quiet;
-    quiet.done("pronto", "a.pdf");
+    quiet.done("pronto", " con riserva", "a.pdf");
     quiet.not_sent("non inviato", "a.pdf");
     quiet.failure("non creato");
     EXPECT_FALSE(QApplication::activeModalWidget());

@@ -1,0 +1,54 @@
+#include "documents/printed_document.h"
+
+#include <algorithm>
+
+#include "documents/background.h"
+#include "documents/document_composer.h"
+#include "documents/pdf_handoff.h"
+#include "store/text/code_page.h"
+
+namespace vantora {
+
+namespace {
+
+void tell_left_out(program& app, const std::vector<std::string>& files) {
+    if (files.empty()) return;
+    constexpr std::size_t named_max = 5;
+    std::string names;
+    for (std::size_t i = 0; i < std::min(files.size(), named_max); ++i) {
+        names += (i == 0 ? "" : ", ") + files[i].substr(0, 100);
+    }
+    if (files.size() > named_max) names += ", ...";
+    app.desk.message("Il documento è stampato senza figure troppo grandi: "_cp + names,
+                     "Attenzione", ui::icon::stop);
+}
+
+}  // namespace
+
+esito_stampa stampa_documento(program& app, const documento_da_stampare& document) {
+    if (!app.desk.ask("Iniziare la stampa?", nomi_di(document.tipo).titolo_stampa)) {
+        return esito_stampa::rifiutata;
+    }
+    app.desk.set_pointer(ui::pointer::busy);
+    const paginazione pages = impagina(forma_di(document.tipo), document.tabelle, document.righe);
+    document_output out(app.desk.printer(), app.files);
+    figure_documento pictures(app.files, app.pictures, document.figura.shown());
+    componi_pagine(document, pages, out, [&] { disegna_sfondo(app, out, document, pictures); });
+    const bool whole = out.end();
+    app.desk.set_pointer(ui::pointer::normal);
+    tell_left_out(app, pictures.left_out());
+    return whole ? esito_stampa::completa : esito_stampa::senza_file;
+}
+
+void offri_copie(program& app, const documento_da_stampare& document, bool invia) {
+    esito_stampa last = esito_stampa::rifiutata;
+    do {
+        const esito_stampa now = stampa_documento(app, document);
+        if (now != esito_stampa::rifiutata) last = now;
+    } while (app.desk.ask("Stampa altra copia?", nomi_di(document.tipo).titolo_stampa));
+    if (last == esito_stampa::rifiutata) return;
+    offri_pdf(app, {document.tipo, document.testata.text3[0], invia, document.cliente.email.full(),
+                    document.tabelle, last == esito_stampa::completa});
+}
+
+}  // namespace vantora

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <filesystem>
+#include <optional>
+
+namespace vantora::mirxpdf {
+
+/// Puts a PDF in its place in one step, when all of it is on the disk; until then a file of that
+/// name stays as it is. Folders on the way are made. Only a plain file whose name ends in ".pdf" is
+/// written. The answer is what went wrong, for the user; empty if nothing did.
+std::optional<QString> save_pdf(const QByteArray& pdf, const std::filesystem::path& path);
+
+}  // namespace vantora::mirxpdf
