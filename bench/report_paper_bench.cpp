@@ -16,7 +16,7 @@ namespace {
 int run(int rows, int rounds) {
     test::program_stage<> stage;
     const std::string pdf = (stage.folder.path() / "report.pdf").string();
-    ui::desktop::system_printer paper([&] { return QString::fromStdString(pdf); },
+    ui::desktop::system_printer paper([&](const QString&) { return QString::fromStdString(pdf); },
                                       [](const QString&) {});
     ui::desk desk(stage.front, stage.time, paper, stage.programs);
     program app(stage.files, desk, stage.pictures);

@@ -34,6 +34,7 @@ struct operation_text {
     std::string operator()(const ui::script::printed_box& one) const {
         return "box" + shown({one.x1, one.y1, one.x2, one.y2, 0.0 + one.ink, 0.0 + one.filled});
     }
+    std::string operator()(const ui::script::printed_picture&) const { return "picture"; }
 };
 
 std::vector<std::vector<std::string>> pages_of(ui::script::recording_printer& paper) {
