@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "bench/measure.h"
+#include "customer/mirorcx.h"
 #include "entry/mirorcs.h"
 #include "support/program_stage.h"
 
@@ -122,6 +123,7 @@ void totals_bench(const valuta& currency, int rounds) {
 int run(int articles, int rounds) {
     test::program_stage bench;
     program& app = bench.app;
+    bench.provide(app.mirorcx);
     bench.provide(app.mirorcs);
     apri_archivi(app.archives, bench.files, 1);
     write_articles(app.archives, articles);

@@ -47,6 +47,7 @@ class window_bench {
     }
     void press_button(const char* address) { QTest::mouseClick(find(address), Qt::LeftButton); }
 
+    QApplication& toolkit = application();  ///< must be there before the front end
     local_clock time;
     script::recording_printer paper;
     script::recording_launcher programs;

@@ -155,8 +155,8 @@ TEST(background, PicturesAreOneMarkEachAndOnlyAsFarAsThePaperGoes) {
             EXPECT_NEAR(drawn.x, one.x, 0.03) << one.what;
             EXPECT_NEAR(drawn.width, one.width * side, 0.01) << one.what;
             EXPECT_NEAR(drawn.height, one.height * side, 0.01) << one.what;
+            EXPECT_FALSE(order.figure.visible()) << one.what;
         }
-        EXPECT_FALSE(order.figure.visible());
         EXPECT_NE(order.print_file().find("\r\n c:\\LOGO.bmp \r\n"), std::string::npos)
             << "its record stands in any case";
     }

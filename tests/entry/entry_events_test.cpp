@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "customer/mirorcx.h"
 #include "entry/mirorcs.h"
 #include "scripted/small_company.h"
 #include "store/drive.h"
@@ -37,6 +38,7 @@ class entry_events : public testing::Test {
         app.selezione_1 = 1;
         apri_archivi(app.archives, port_, 1);
         desk.at_end = [this] { chiudi_archivi(app.archives); };
+        app.mirorcx.made_by(desk, [this] { return std::make_unique<mirorcx>(app); });
         app.mirorcs.made_by(desk, [this] { return std::make_unique<mirorcs>(app); });
         app.mirorcs->show();
     }

@@ -149,7 +149,7 @@ TEST_F(demo_tables, program_start_reads_the_parameters_without_repairs) {
     EXPECT_EQ(read.parametri_valuta[valuta_slot::modo_decimali], "1");
     EXPECT_EQ(read.parametri_valuta[valuta_slot::valuta_principale], "EUR");
     EXPECT_EQ(read.parametri_valuta[valuta_slot::settima_riga], "9");
-    EXPECT_EQ(read.tabella_stampa[0].margine_destro, 950);
+    EXPECT_EQ(read.tabella_stampa[0].margine_destro, 960);
     EXPECT_EQ(read.tabella_stampa[1].corpo_carattere, 14);
     EXPECT_EQ(read.tabella_stampa[1].stile, 1);
     EXPECT_EQ(read.tabella_stampa[2].sfondo, 16777215);

@@ -120,8 +120,11 @@ void form_window::set_tab_order(const std::vector<QWidget*>& stops) {
 
 /// How the user left what can be dragged in the window.
 void form_window::recall() {
-    for (grid_view* table : findChildren<grid_view*>()) {
-        table->remember_widths("windows/" + objectName() + "/" + table->objectName());
+    // Calendars have tables of their own.
+    for (auto* table : findChildren<QTableView*>()) {
+        if (auto* list = dynamic_cast<grid_view*>(table)) {
+            list->remember_widths("windows/" + objectName() + "/" + list->objectName());
+        }
     }
     for (auto* splitter : findChildren<QSplitter*>()) {
         const QString name = "windows/" + objectName() + "/" + splitter->objectName();
