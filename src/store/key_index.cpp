@@ -1,8 +1,9 @@
 #include "store/key_index.h"
 
 #include <algorithm>
-#include <array>
 #include <string>
+
+#include "store/read_ahead.h"
 
 namespace vantora {
 
@@ -56,20 +57,11 @@ template <class Entry>
 void percorri_indice(const channel<Entry>& index, std::int16_t count,
                      const std::function<bool(std::int16_t, const Entry&)>& visit) {
     constexpr int at_once = 512;
-    std::array<Entry, at_once> entries;
-    Entry last;
-    for (int first = 1; first <= count; first += at_once) {
-        const int size = std::min(at_once, count - first + 1);
-        const bool read =
-            index.read_block(first, std::span(entries.data(), static_cast<std::size_t>(size)));
-        for (int i = 0; i < size; ++i) {
-            if (read) {
-                last = entries[static_cast<std::size_t>(i)];
-            } else {
-                index.read(first + i, last);
-            }
-            if (!visit(static_cast<std::int16_t>(first + i), last)) return;
-        }
+    auto entries = all_records_ahead(index, count, at_once);
+    Entry entry;
+    for (int position = 1; position <= count; ++position) {
+        entries.next(entry);
+        if (!visit(static_cast<std::int16_t>(position), entry)) return;
     }
 }
 
