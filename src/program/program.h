@@ -48,6 +48,7 @@ struct program {
     /// How an entry screen opens: 0 fresh, 99 back from the quote picker, 1 from the head screen.
     int modo_ordine = 0;
     int schermo_pronto = 0;     ///< 0: the next screen starts fresh
+    int ripristino_vista = 0;   ///< 1: the register puts its view options back, nothing is saved
     int ricarica_registro = 0;  ///< 1: the register rebuilds its list on return
     int selezione_cliente = 0;  ///< who called the customer pick list, 99: a customer was chosen
     double data_sistema = 0;    ///< date number of the last confirmation

@@ -91,14 +91,14 @@ void mirorc::restore_view() {
     const std::int16_t view = app_.parameters.gnr.vista_registro;
     const bool known = (view >= 0 && view <= 2) || (view >= 10 && view <= 12);
     if (!known) return;
-    app_.parameters.ripristino_vista = 1;
+    app_.ripristino_vista = 1;
     visua[view / 10].set_on(true);
     selvis[view % 10].set_on(true);
-    app_.parameters.ripristino_vista = 0;
+    app_.ripristino_vista = 0;
 }
 
 void mirorc::change_view() {
-    if (app_.parameters.ripristino_vista != 0) return;
+    if (app_.ripristino_vista != 0) return;
     int view = visua[1].on() ? 10 : 0;
     if (selvis[1].on()) view += 1;
     if (selvis[2].on()) view += 2;

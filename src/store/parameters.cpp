@@ -174,25 +174,32 @@ void set_first_start(rec_gnr& gnr) {
     set_list_defaults(gnr);
 }
 
-/// False if there is no such file.
-bool read_gnr(rec_gnr& into, file_port& files, const std::string& path) {
+enum class lettura { letto, manca, illeggibile };
+
+/// What isn't read leaves the record as it was.
+lettura read_gnr(rec_gnr& into, file_port& files, const std::string& path) {
     const auto content = files.read_whole(path);
-    if (!content) return false;
+    if (!content) return files.exists(path) ? lettura::illeggibile : lettura::manca;
     rec_gnr fresh;
     std::memcpy(&fresh, content->data(), std::min(content->size(), sizeof fresh));
     into = fresh;
-    return true;
+    return lettura::letto;
 }
 
 void load_general(parametri& into, file_port& files) {
     rec_gnr& gnr = into.gnr;
-    if (read_gnr(gnr, files, file_azienda(into.numero_azienda, "gnr"))) {
+    const auto own = read_gnr(gnr, files, file_azienda(into.numero_azienda, "gnr"));
+    const auto shared =
+        own == lettura::manca ? read_gnr(gnr, files, file_generale("gnr")) : lettura::manca;
+    // What stands in a file that can't be read belongs to other modules too.
+    into.gnr_illeggibile = own == lettura::illeggibile || shared == lettura::illeggibile;
+    if (own == lettura::letto || into.gnr_illeggibile) {
         const bool code_changed = repair_vat_code(gnr);
         const bool format_changed = repair_format(gnr);
         if (code_changed || format_changed) salva_parametri(into, files);
         return;
     }
-    if (read_gnr(gnr, files, file_generale("gnr"))) {
+    if (shared == lettura::letto) {
         repair_format(gnr);
     } else {
         files.create_folder("\\MIRWIN\\PDF");
@@ -211,7 +218,7 @@ void carica_parametri(parametri& into, file_port& files) {
 }
 
 void salva_parametri(const parametri& values, file_port& files) {
-    if (values.ripristino_vista != 0) return;
+    if (values.gnr_illeggibile) return;
     channel<rec_gnr> general(files.open_records(file_azienda(values.numero_azienda, "gnr")));
     general.write(1, values.gnr);
 }

@@ -48,8 +48,9 @@ struct parametri {
     std::array<voce_stampa, 31> tabella_stampa;
     rec_gnr gnr;
 
-    /// 1 while the register puts its options back from `gnr`: nothing is saved meanwhile.
-    int ripristino_vista = 0;
+    /// The file of `gnr` is there but couldn't be read: `gnr` has usable values, and they are never
+    /// written over it.
+    bool gnr_illeggibile = false;
 };
 
 /// Loads the parameter files of the suite and of company `numero_azienda`, repairs the general
@@ -57,7 +58,8 @@ struct parametri {
 /// fallback values; nothing is reported. Safe to repeat.
 void carica_parametri(parametri& into, file_port& files);
 
-/// Writes `gnr` to the company folder, unless `ripristino_vista` is set. Failures are passed over.
+/// Writes `gnr` to the company folder, unless it is there and couldn't be read. Failures are passed
+/// over.
 void salva_parametri(const parametri& values, file_port& files);
 
 }  // namespace vantora

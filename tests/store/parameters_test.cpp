@@ -6,6 +6,7 @@
 #include <fstream>
 
 #include "store/drive.h"
+#include "support/faulty_files.h"
 #include "support/scratch_folder.h"
 
 namespace vantora {
@@ -224,15 +225,39 @@ TEST_F(parameters_test, HeadingLinesThatAreMissingStayEmpty) {
     EXPECT_EQ(loaded.intestazione_ditta[1], "") << "loading again rebuilds everything";
 }
 
-TEST_F(parameters_test, NothingIsSavedWhileTheViewIsRestored) {
-    parametri loaded = load();
-    loaded.ripristino_vista = 1;
-    loaded.gnr.vista_registro = std::int16_t{12};
-    salva_parametri(loaded, port);
-    EXPECT_EQ(stored().vista_registro, 0);
-    loaded.ripristino_vista = 0;
-    salva_parametri(loaded, port);
-    EXPECT_EQ(stored().vista_registro, 12);
+TEST_F(parameters_test, WhatCantBeReadIsNeverWrittenOver) {
+    rec_gnr others;
+    others.riservato_bd = "di altri moduli";
+    others.vista_registro = std::int16_t{2};
+    test::faulty_files faults(port);
+    struct {
+        std::filesystem::path where;
+        const char* path;
+    } const cases[] = {{company, "\\mirwin\\mirwin\\miraz0.001\\vantora.gnr"},
+                       {general, "\\mirwin\\mirwin\\vantora.gnr"}};
+    for (const auto& [where, path] : cases) {
+        std::filesystem::remove(company / "vantora.gnr");
+        store(where, others);
+        faults.read_fails = [path = std::string(path)](auto& read, auto&&...) {
+            return read == path;
+        };
+        parametri loaded;
+        loaded.numero_azienda = 1;
+        carica_parametri(loaded, faults);
+        EXPECT_EQ(loaded.gnr.codice_iva_base.full(), "01");
+        EXPECT_EQ(loaded.gnr.colore_riga_pari, 16579315);
+        loaded.gnr.vista_registro = std::int16_t{12};
+        salva_parametri(loaded, faults);
+        std::ifstream in(where / "vantora.gnr", std::ios::binary);
+        const std::string bytes{std::istreambuf_iterator<char>(in), {}};
+        EXPECT_EQ(bytes, std::string(reinterpret_cast<const char*>(&others), sizeof others));
+        EXPECT_EQ(std::filesystem::exists(company / "vantora.gnr"), where == company);
+        // As soon as it can be read all is as usual.
+        faults.read_fails = nullptr;
+        carica_parametri(loaded, faults);
+        EXPECT_EQ(stored().riservato_bd.trimmed(), "di altri moduli");
+        EXPECT_EQ(stored().formato_gnr.full(), "9");
+    }
 }
 
 }  // namespace
