@@ -41,6 +41,7 @@ struct scripted_run {
 
 int main(int count, char** arguments) {
     using namespace vantora;
+    take_file_limits_as_errors();
     program_options options("Vantora Ordini");
     options.takes_script = true;
     if (const auto code = options.read(count, arguments)) return *code;

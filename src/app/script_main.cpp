@@ -8,6 +8,7 @@
 
 int main(int count, char** arguments) {
     using namespace vantora;
+    take_file_limits_as_errors();
     program_options options("Vantora Ordini, driven by commands from standard input");
     if (const auto code = options.read(count, arguments)) return *code;
 

@@ -7,6 +7,7 @@
 
 #include <array>
 #include <cerrno>
+#include <csignal>
 #include <utility>
 
 #include "store/text/code_page.h"
@@ -174,6 +175,10 @@ std::filesystem::path entry_named(const std::filesystem::path& folder, const std
 
 }  // namespace
 
+void take_file_limits_as_errors() {
+    std::signal(SIGXFSZ, SIG_IGN);
+}
+
 drive::drive(std::filesystem::path root, access to) : root_(std::move(root)), access_(to) {}
 
 std::filesystem::path drive::locate(std::string_view path) const {
@@ -215,7 +220,7 @@ std::optional<std::string> drive::read_whole(std::string_view path) {
 
 bool drive::exists(std::string_view path) {
     std::error_code failed;
-    return std::filesystem::exists(std::filesystem::symlink_status(locate(path), failed));
+    return std::filesystem::exists(locate(path), failed);
 }
 
 std::unique_ptr<file> drive::create(std::string_view path) {

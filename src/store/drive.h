@@ -10,6 +10,10 @@
 
 namespace vantora {
 
+/// From now on a write past the size that the system allows a file fails, like one on a full disk,
+/// instead of ending the program. For the `main` of every program that writes files.
+void take_file_limits_as_errors();
+
 /// The drive of the suite, kept in a folder of this system: "\mirwin\mirwin\x" is
 /// ROOT/mirwin/mirwin/x, a drive letter in front is dropped. A component that doesn't exist as
 /// it is spelled is looked up without regard to case; what is created takes the given spelling.

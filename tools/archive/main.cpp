@@ -64,6 +64,7 @@ const std::map<std::string, show_request::kind> kinds = {
 }  // namespace
 
 int main(int count, char** arguments) {
+    vantora::take_file_limits_as_errors();
     CLI::App app("Looks after the archive of a company: checks, shows, exports it");
     app.require_subcommand(1);
     std::string drive = "/";

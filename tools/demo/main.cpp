@@ -3,6 +3,7 @@
 
 #include "demo/companion.h"
 #include "demo/company.h"
+#include "store/drive.h"
 
 namespace {
 
@@ -28,6 +29,7 @@ CLI::Validator whole_number(long long low, long long high) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    vantora::take_file_limits_as_errors();
     using namespace vantora::demo;
     demo_request request;
     std::string drive;

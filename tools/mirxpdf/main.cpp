@@ -177,6 +177,7 @@ int run(drive& suite, const pdf_request& request, const std::optional<std::strin
 }  // namespace
 
 int main(int count, char** arguments) {
+    take_file_limits_as_errors();
     options given;
     if (const auto code = read_options(given, count, arguments)) return *code;
     if (given.drive.empty()) {
