@@ -1,6 +1,7 @@
 #include "entry/save_order.h"
 
 #include "program/stock.h"
+#include "store/instance_lock.h"
 #include "store/text/int16.h"
 #include "store/text/number_text.h"
 
@@ -8,6 +9,8 @@ namespace vantora {
 
 bool salva_nuovo_ordine(archivi& files, const testata_registrata& head, double data_reg,
                         const righe_ordine& lines, std::int16_t articles) {
+    const instance_lock alone(files.tot, instance_lock::kind::records);
+    if (!alone.may_go_on()) return false;
     rec_tot counter;
     if (!files.tot.read(contatori::ordini, counter)) return false;
     const int block = counter.quanti + 1;

@@ -30,4 +30,9 @@ void tell_faults(ui::desk& desk, const write_faults& faults) {
     warn(desk, "Salvataggio incompleto: errore di scrittura su "_cp + faults.names() + "."_cp);
 }
 
+void tell_not_compacted(ui::desk& desk, const std::string& files) {
+    warn(desk, "Compattazione non completata: errore su "_cp + files +
+                   ". Nessun ordine è andato perso, ma alcuni possono comparire due volte."_cp);
+}
+
 }  // namespace vantora

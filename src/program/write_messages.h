@@ -17,4 +17,7 @@ bool may_write(ui::desk& desk, const write_plan& plan);
 /// Names the files that refused a write or a flush on the way; nothing if all went well.
 void tell_faults(ui::desk& desk, const write_faults& faults);
 
+/// A compaction stopped short: which files refused.
+void tell_not_compacted(ui::desk& desk, const std::string& files);
+
 }  // namespace vantora

@@ -1,68 +1,59 @@
 #include "register/compattazione.h"
 
-#include <array>
+#include <vector>
 
+#include "store/read_ahead.h"
 #include "store/text/int16.h"
 
 namespace vantora {
 
 namespace {
 
-using blocco_ordine = std::array<rec_orc, righe_blocco>;
-
-/// What one pass holds in memory. A read that fails leaves `riga` as the last one left it.
-struct pass {
-    channel<rec_orc>& orders;
-    rec_orc riga;
-    blocco_ordine blocco;
-    bool blocco_letto = false;
-
-    /// Reads the head row of a block, and the whole block at once where it may have to move.
-    void read(int registrazione, bool may_move) {
-        blocco_letto = may_move && orders.read_block(block_record(registrazione, 1), blocco);
-        if (blocco_letto) {
-            riga = blocco.front();
-        } else {
-            orders.read(block_record(registrazione, 1), riga);
-        }
-    }
-
-    void move(int from, int to) {
-        if (blocco_letto) {
-            orders.write_block(block_record(to, 1), blocco);
-            riga = blocco.back();
-            return;
-        }
-        for (int row = 1; row <= righe_blocco; ++row) {
-            orders.read(block_record(from, row), riga);
-            orders.write(block_record(to, row), riga);
-        }
-    }
-};
+/// Copies a block down. Its rows are read anew, all of them before the first is written; behind
+/// the end of the file there is nothing to keep. False if one can't be read or written.
+bool move_block(channel<rec_orc>& orders, int from, int to, std::vector<rec_orc>& rows) {
+    if (!read_run(orders, block_record(from, 1), std::span(rows))) return false;
+    const std::int64_t first = block_record(to, 1);
+    const std::int64_t held = orders.records_held().value_or(first - 1 + righe_blocco);
+    const auto kept = std::clamp<std::int64_t>(held - (first - 1), 0, righe_blocco);
+    if (kept == 0) return true;
+    return orders.write_block(first, std::span(rows).first(static_cast<std::size_t>(kept)));
+}
 
 }  // namespace
 
-void compatta_archivio(archivi& files, rec_tot& counter, bool elimina_evasi,
-                       const std::function<void(int)>& progress) {
-    pass work{files.orc, {}, {}};
+write_faults compatta_archivio(archivi& files, rec_tot& counter, bool elimina_evasi,
+                               const std::function<void(int)>& progress) {
+    write_faults faults;
+    const int orders = counter.quanti;
+    records_ahead<rec_orc> heads(
+        files.orc, static_cast<std::size_t>(std::max(orders, 0)), [](std::size_t before) {
+            return record_run{block_record(static_cast<int>(before) + 1, 1)};
+        });
+    rec_orc riga;
+    std::vector<rec_orc> rows(righe_blocco);
     std::int16_t vuoti = 0;
     bool moved = false;
-    for (int registrazione = 1; registrazione <= counter.quanti; ++registrazione) {
-        work.read(registrazione, vuoti > 0);
+    for (int registrazione = 1; registrazione <= orders; ++registrazione) {
+        heads.next(riga);
         progress(registrazione);
-        const bool goes = work.riga.annullato == 1 || (elimina_evasi && work.riga.evaso_flag == 1);
-        if (goes) {
+        if (riga.annullato == 1 || (elimina_evasi && riga.evaso_flag == 1)) {
             ++vuoti;
         } else if (vuoti > 0) {
-            work.move(registrazione, registrazione - vuoti);
+            const int target = registrazione - vuoti;
+            if (!faults.note(move_block(files.orc, registrazione, target, rows), files.orc)) break;
+            riga = rows.back();
             moved = true;
         }
     }
-    if (moved) files.orc.flush();
+    if (moved) faults.note(files.orc.flush(), files.orc);
+    if (!faults.none()) return faults;
+
     counter.quanti = subtract_int16(counter.quanti, vuoti).value_or(counter.quanti);
     counter.riservato_a = std::int16_t{0};
-    files.tot.write(contatori::ordini, counter);
-    files.tot.flush();
+    faults.note(files.tot.write(contatori::ordini, counter), files.tot);
+    faults.note(files.tot.flush(), files.tot);
+    return faults;
 }
 
 }  // namespace vantora

@@ -3,6 +3,7 @@
 #include <functional>
 
 #include "store/archives.h"
+#include "store/write_plan.h"
 
 namespace vantora {
 
@@ -13,8 +14,11 @@ namespace vantora {
 /// `counter`: record `contatori::ordini` as just read; it comes back as written. `progress` is
 /// told the `registrazione` at hand, before anything of it moves, and may end the pass by leaving
 /// through an exception: the blocks moved so far then stand twice, and the old count still holds.
-/// Failed reads and writes don't stop the pass.
-void compatta_archivio(archivi& files, rec_tot& counter, bool elimina_evasi,
-                       const std::function<void(int)>& progress);
+///
+/// A head that can't be read is taken for the one before it. The first block that can't be copied
+/// ends the moving, since the next would be laid over it, and leaves the count as it was; so does
+/// a disk that doesn't take what was moved. Returns the files at fault.
+write_faults compatta_archivio(archivi& files, rec_tot& counter, bool elimina_evasi,
+                               const std::function<void(int)>& progress);
 
 }  // namespace vantora

@@ -56,6 +56,8 @@ class mirorc final : public ui::form {
     void run_command(int button);
     void open_order();
     void compact();
+    /// False, with a message, if it can't begin.
+    bool run_compaction(bool elimina_evasi);
 
     void lead_to(ui::screen_place& next);
     void lead_to_if_customers(ui::screen_place& next);

@@ -1,3 +1,4 @@
+#include "program/write_messages.h"
 #include "register/compattazione.h"
 #include "register/mirorc.h"
 
@@ -14,18 +15,33 @@ void mirorc::compact() {
     compacting_ = true;
     app_.desk.set_pointer(ui::pointer::busy);
     for (auto& command : bottone) command.set_visible(false);
-    srt.set_visible(true);
-    srt.set_range(1, contatore_.quanti);
-    rec_tot counter = contatore_;
-    compatta_archivio(app_.archives, counter, elimina_evasi, [this](int registrazione) {
-        srt.set_value(registrazione);
-        app_.desk.let_events_run();
-    });
+    const bool passed = run_compaction(elimina_evasi);
     srt.set_visible(false);
     for (auto& command : bottone) command.set_visible(true);
     compacting_ = false;
+    if (passed) return build_list();
+    app_.desk.set_pointer(ui::pointer::normal);
+}
 
-    build_list();
+bool mirorc::run_compaction(bool elimina_evasi) {
+    const instance_lock lock(app_.archives.tot, instance_lock::kind::compaction);
+    if (!may_write(app_.desk, lock)) return false;
+    // While the questions were open another station may have saved an order.
+    rec_tot counter;
+    if (!app_.archives.tot.read(contatori::ordini, counter)) {
+        tell_not_compacted(app_.desk, app_.archives.tot.name());
+        return false;
+    }
+    contatore_ = counter;
+    srt.set_visible(true);
+    srt.set_range(1, counter.quanti);
+    const auto faults =
+        compatta_archivio(app_.archives, counter, elimina_evasi, [this](int registrazione) {
+            srt.set_value(registrazione);
+            app_.desk.let_events_run();
+        });
+    if (!faults.none()) tell_not_compacted(app_.desk, faults.names());
+    return true;
 }
 
 }  // namespace vantora

@@ -55,9 +55,10 @@ class write_faults {
     /// Takes the outcome of one write or flush; returns it.
     template <class Record>
     bool note(bool done, const channel<Record>& records) {
-        if (!done && names_.find(records.name()) == std::string::npos) {
+        const std::string& name = records.name().empty() ? unnamed : records.name();
+        if (!done && names_.find(name) == std::string::npos) {
             if (!names_.empty()) names_ += ", ";
-            names_ += records.name();
+            names_ += name;
         }
         return done;
     }
@@ -67,6 +68,7 @@ class write_faults {
     [[nodiscard]] const std::string& names() const { return names_; }
 
  private:
+    static inline const std::string unnamed = "?";
     std::string names_;
 };
 
