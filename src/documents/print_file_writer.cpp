@@ -16,14 +16,27 @@ constexpr double largest_whole = 1e15;      ///< from here on numbers have an ex
 constexpr std::string_view line_end = "\r\n";
 
 char* put(char* at, std::string_view text) {
-    return std::ranges::copy(text, at).out;
+    return std::copy_n(text.data(), text.size(), at);
 }
 
 char* put_line(char* at, std::string_view text) {
     return put(put(at, text), line_end);
 }
 
+/// Most numbers of a page are 0 or millimetres.
+char* put_millimetres(char* at, unsigned value) {
+    *at++ = ' ';
+    if (value >= 100) *at++ = static_cast<char>('0' + value / 100);
+    if (value >= 10) *at++ = static_cast<char>('0' + value / 10 % 10);
+    *at++ = static_cast<char>('0' + value % 10);
+    return put(at, " \r\n");
+}
+
 char* put_number(char* at, double value) {
+    if (value >= 0 && value < 1000) {
+        const auto whole = static_cast<unsigned>(value);
+        if (whole == value) return put_millimetres(at, whole);
+    }
     if (value > -largest_whole && value < largest_whole) {
         const auto whole = static_cast<std::int64_t>(value);
         if (static_cast<double>(whole) == value) {

@@ -61,7 +61,7 @@ class preparazione_celle {
         std::string cell;
         cella_pronta ready;
     };
-    static constexpr std::size_t kept_cells = 1024;
+    static constexpr std::size_t kept_cells = 64;
 
     text_ruler ruler_;
     double limit_;
