@@ -28,6 +28,11 @@ desktop_front_end::~desktop_front_end() {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
+void desktop_front_end::begin(desk& on) {
+    desk_ = &on;
+    keys_.begin();
+}
+
 // Waiting -----------------------------------------------------------------------------------------
 
 void desktop_front_end::run() {

@@ -26,7 +26,7 @@ class desktop_front_end final : public front_end {
     ~desktop_front_end() override;
 
     /// Tells whose front end this is. Called once, before the program starts.
-    void begin(desk& on) { desk_ = &on; }
+    void begin(desk& on);
 
     /// Something that acts in the user's place: called whenever the program waits and its windows
     /// have settled; false when there is nothing more to come. Sizes are then not remembered.

@@ -177,7 +177,9 @@ void form_window::focus_on(control& one) {
     QWidget& target = binders_.at(&one)->widget();
     // As if the user had come by Tab: what stands in a field is there to be typed over.
     if (!target.hasFocus()) target.setFocus(Qt::TabFocusReason);
-    if (area_->widget()->isAncestorOf(&target)) area_->ensureWidgetVisible(&target);
+    const QSize room = area_->viewport()->size();
+    const bool fits = target.width() <= room.width() && target.height() <= room.height();
+    if (fits && area_->widget()->isAncestorOf(&target)) area_->ensureWidgetVisible(&target);
 }
 
 void form_window::select_text(control& one) {

@@ -156,9 +156,12 @@ class grid_binder final : public widget_binder {
 
     /// Where the view wants it, the mark goes with its entry.
     void keep_mark() {
+        if (!model_.visible() || model_.rows() == 1) return;
         const int filled = cells_->last_filled();
-        const bool joined = filled_ > 0 && filled > filled_;
-        if (filled > 0) filled_ = filled;
+        const bool same_begin = filled_ == 0 || model_.text(1, 0) == first_;
+        const bool joined = filled_ >= 0 && filled > filled_ && same_begin;
+        filled_ = filled;
+        first_ = model_.text(1, 0);
         if (!view_->keeps_mark() || filled == 0 || (marked_.empty() && !joined)) return;
         int row = joined ? filled : 1;
         while (!joined && row <= filled && model_.text(row, 0) != marked_) ++row;
@@ -223,7 +226,8 @@ class grid_binder final : public widget_binder {
     grid& model_;
     cells_model* cells_;
     std::string marked_;  ///< column 0 of the row marked last
-    int filled_ = 0;      ///< entries when the list last came
+    std::string first_;   ///< column 0 of the first row when the list last came
+    int filled_ = -1;     ///< entries then; -1: it hasn't come yet
     bool brings_into_sight_ = false;
     bool following_ = false;
     bool stale_ = false;  ///< the grid changed while it was hidden

@@ -24,7 +24,7 @@ bool is_modifier(int code) {
 
 }  // namespace
 
-key_guard::key_guard() {
+void key_guard::begin() {
     qApp->installEventFilter(this);
 }
 

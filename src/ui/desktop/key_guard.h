@@ -13,7 +13,8 @@ namespace vantora::ui::desktop {
 /// does the command key that brought it, pressed twice in a haste.
 class key_guard final : public QObject {
  public:
-    key_guard();
+    /// From now on. REQUIRES: the application object stands.
+    void begin();
 
     /// What stands before the user has changed.
     void screen_came_up();

@@ -118,8 +118,9 @@ QScrollBar::handle:vertical { min-height: 30px; margin: 2px 3px; }
 QScrollBar::handle:horizontal { min-width: 30px; margin: 3px 2px; }
 QScrollBar::handle:hover { background: #55656f; }
 QScrollBar::handle:disabled { background: #c5ced6; }
-QScrollBar:focus { border: 2px solid #2f6ea5; }
-QScrollBar:focus::handle { background: #2f6ea5; }
+QScrollBar::handle:focus { background: #2f6ea5; }
+QScrollBar:focus { border: 1px solid #2f6ea5; }
+QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 QScrollBar::add-line, QScrollBar::sub-line { background: #e3e8ec; border: none; }
 QScrollBar::add-line:vertical { height: 17px; subcontrol-position: bottom; subcontrol-origin: margin; }
 QScrollBar::sub-line:vertical { height: 17px; subcontrol-position: top; subcontrol-origin: margin; }
