@@ -1,0 +1,196 @@
+// What a user meets on the report screens beside their rows.
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <sstream>
+
+#include "reports/report_bench.h"
+
+namespace vantora::test {
+namespace {
+
+/// Three orders of one article and one customer, the second fulfilled.
+struct report_screens : testing::Test {
+    report_screens() {
+        bench.company.customers({customer_named("ROSSI")});
+        bench.company.articles({article("A1", "Vite", 2.5)});
+        rec_sra entry{};
+        entry.chiave = "A1";
+        entry.numero = std::int16_t{1};
+        bench.company.files.sra.write(1, entry);
+        for (int i = 1; i <= 3; ++i) {
+            rec_orc row{};
+            row.numero = std::to_string(i);
+            row.data = "20240301";
+            row.data_evasione = "20240701";
+            row.cliente = std::int16_t{1};
+            row.testo1 = "rif";
+            row.descrizione = "";
+            std::vector<rec_orc> block(righe_blocco, row);
+            block[0].articolo = std::int16_t{1};
+            block[0].quantita = 10;
+            block[0].prezzo = 2.5;
+            block[0].evaso = i == 2 ? 10 : 0;
+            bench.company.files.orc.write_block(block_record(i, 1), block);
+        }
+        bench.company.counter(contatori::ordini, 3);
+    }
+    template <class Form>
+    report_screen& open(ui::screen<Form>& place) {
+        place.use().show();
+        return *place;
+    }
+    static std::string column(const report_screen& screen, int col) {
+        std::string texts;
+        for (int row = 1; row < screen.elenco.rows(); ++row) {
+            texts.append(screen.elenco.text(row, col)).append("|");
+        }
+        return texts.substr(0, texts.find_last_not_of('|') + 1);
+    }
+    /// Presses Enter in one field after the other, and tells them.
+    std::string enter_chain(report_screen& screen) {
+        std::string chain;
+        while (bench.around.desk.focus() != &screen.bottone[report_screen::aggiorna]) {
+            chain += bench.around.desk.focus()->address() + " ";
+            bench.around.desk.focus()->press_key(ui::key::enter, '\r');
+        }
+        return chain;
+    }
+    /// The content of all files of the company, by their names.
+    std::map<std::string, std::string> contents() {
+        std::map<std::string, std::string> all;
+        const auto folder = bench.company.file("orc").parent_path();
+        for (const auto& one : std::filesystem::directory_iterator(folder)) {
+            std::ostringstream bytes;
+            bytes << std::ifstream(one.path(), std::ios::binary).rdbuf();
+            all[one.path().filename()] = bytes.str();
+        }
+        return all;
+    }
+
+    report_bench bench;
+    program& app = bench.app;
+};
+
+TEST_F(report_screens, EnterGoesThroughTheFiltersAndBringsTheBoundsBack) {
+    const struct {
+        ui::screen_place& place;
+        const char* title;
+        const char* chain;
+    } screens[] = {
+        {app.mirstoe, "Elenco ordini", "Combo1 Combo2 text1(0) text1(1) "},
+        {app.mirstos, "Scadenziario ordini", "Combo2 text1(0) text1(1) text2(0) text2(1) "},
+        {app.mirstov, "Valorizzazione ordini", "Combo1 text1(0) text1(1) "},
+        {app.mirston, "Schede clienti", "t_inizio t_fine text1(0) text1(1) "},
+        {app.mirstoa, "Schede articoli", "t_inizio t_fine Combo0 Text(1) Text3 text1(0) text1(1) "},
+    };
+    const struct {
+        const char* typed[2];
+        const char* right[2];
+    } bounds[] = {{{"0", "99999"}, {"1", "3"}},
+                  {{"3", "2"}, {"2", "2"}},
+                  {{"abc", "-4"}, {"-4", "-4"}},
+                  {{" 2x", "2.6"}, {"2", "3"}}};
+    for (const auto& one : screens) {
+        one.place.use().show();
+        auto& screen = static_cast<report_screen&>(one.place.use());
+        EXPECT_EQ(screen.title(), one.title);
+        EXPECT_EQ(screen.text1[0].text() + "-" + screen.text1[1].text(), "1-3");
+        EXPECT_EQ(enter_chain(screen), one.chain);
+        for (const auto& [typed, right] : bounds) {
+            for (int i = 0; i < 2; ++i) screen.text1[i].set_text(typed[i]);
+            screen.text1[1].set_focus();
+            screen.text1[1].press_key(ui::key::enter, '\r');
+            EXPECT_EQ(screen.text1[0].text(), right[0]);
+            EXPECT_EQ(screen.text1[1].text(), right[1]);
+        }
+        screen.bottone[report_screen::uscita].click();
+        EXPECT_FALSE(one.place.loaded());
+        EXPECT_EQ(bench.around.desk.active()->name(), "mirorc");
+    }
+}
+
+TEST_F(report_screens, TheSelectorsOfTheOrderListAreLinked) {
+    report_screen& screen = open(app.mirstoe);
+    EXPECT_EQ(column(screen, 0), "1|2|3");
+    const auto reads = bench.files.reads;
+    screen.Combo1.pick(report_screen::da_evadere);
+    EXPECT_EQ(screen.Combo2.text(), "Analitico");
+    EXPECT_EQ(column(screen, 0), "1|3");
+    EXPECT_EQ(column(screen, 5), "10,00|10,00");
+    EXPECT_LE(bench.files.reads - reads, 3U + 3 + 2) << "built once";
+    screen.Combo2.pick(0);
+    EXPECT_EQ(screen.Combo1.text(), "Tutti gli ordini");
+    EXPECT_EQ(column(screen, 5), "");
+}
+
+TEST_F(report_screens, ABuildGoesOnUnderTheHandsOfTheUser) {
+    report_screen& screen = open(app.mirstov);
+    auto& user = bench.around.user;
+    user.pending = [&] {
+        const auto reads = bench.files.reads;
+        screen.bottone[report_screen::aggiorna].click();
+        screen.bottone[report_screen::pdf].click();
+        EXPECT_EQ(bench.files.reads, reads);
+        EXPECT_GE(screen.srt.value(), 1);
+        EXPECT_TRUE(screen.srt.visible());
+    };
+    screen.bottone[report_screen::aggiorna].click();
+    EXPECT_EQ(column(screen, 4), "25,00|25,00|25,00|75,00");
+    EXPECT_FALSE(screen.srt.visible());
+    EXPECT_TRUE(bench.around.programs.take_started().empty());
+
+    user.pending = [&] { screen.Combo1.pick(report_screen::evasi); };
+    screen.bottone[report_screen::aggiorna].click();
+    EXPECT_EQ(column(screen, 4), "25,00|25,00") << "begins anew with the other choice";
+
+    bench.around.desk.dispatch([&] {
+        user.pending = [&] { bench.around.desk.close(screen); };
+        screen.bottone[report_screen::aggiorna].click();
+        EXPECT_EQ(bench.around.desk.active()->name(), "mirorc");
+        EXPECT_EQ(bench.around.desk.pointer_shape(), ui::pointer::normal);
+    });
+    EXPECT_FALSE(app.mirstov.loaded());
+    EXPECT_EQ(column(open(app.mirstov), 4), "25,00|25,00|25,00|75,00");
+}
+
+TEST_F(report_screens, ParametersAndCategoriesComeFromTheFilesOfTheMoment) {
+    bench.company.text("tb2", std::vector<std::string>(10000, "Categoria"));
+    std::vector<std::string> pdf(80, "altrove");
+    pdf[5 * 4 + 2] = " C:\\Ordini ";
+    bench.company.text("pdf", pdf);
+    std::ofstream(bench.company.file("eur").parent_path().parent_path() / "vantora.eur")
+        << "0\n1\nITL\nEUR\n2\n";
+    EXPECT_EQ(open(app.mirstoa).Combo0.count(), 10001);
+    EXPECT_EQ(column(*app.mirstoa, 0),
+              "Per visualizzare il prospetto selezionare gli|articoli e/o gli ordini e clic sul "
+              "bottone|'Aggiorna lista'");
+    EXPECT_EQ(app.parameters.parametri_valuta[valuta_slot::cartella_pdf], "C:\\Ordini");
+    EXPECT_EQ(column(open(app.mirstov), 4), "25|25|25|75") << "whole lire";
+    std::filesystem::remove(bench.company.file("pdf"));
+    open(app.mirston);
+    EXPECT_EQ(app.parameters.parametri_valuta[valuta_slot::cartella_pdf], "C:");
+}
+
+TEST_F(report_screens, PutTheirListOutAndLeaveAllFilesAsTheyWere) {
+    open(app.mirstov);  // creates the general parameters, as the first start of a company does
+    const auto before = contents();
+    for (ui::screen_place* place : std::initializer_list<ui::screen_place*>{
+             &app.mirstoe, &app.mirstos, &app.mirstov, &app.mirston, &app.mirstoa}) {
+        place->use().show();
+        auto& screen = static_cast<report_screen&>(place->use());
+        bench.around.desk.queue_answer(ui::answer::ok);
+        screen.bottone[report_screen::pdf].click();
+        screen.bottone[report_screen::aggiorna].click();
+        bench.around.desk.queue_answer(ui::answer::yes);
+        screen.bottone[report_screen::stampa].click();
+        EXPECT_EQ(bench.around.paper.take_jobs().size(), 1U) << screen.name();
+        EXPECT_EQ(bench.around.programs.take_started().size(), 1U) << screen.name();
+        bench.around.desk.close(screen);
+    }
+    EXPECT_EQ(contents(), before);
+}
+
+}  // namespace
+}  // namespace vantora::test
