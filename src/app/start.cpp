@@ -7,6 +7,9 @@
 #include "entry/import_picker.h"
 #include "entry/mirorcs.h"
 #include "entry/mirorcz.h"
+#include "fulfil/mirorca.h"
+#include "fulfil/mirorcc.h"
+#include "fulfil/mirorcr.h"
 #include "register/mirorc.h"
 #include "reports/mirstoa.h"
 #include "reports/mirstoe.h"
@@ -41,6 +44,9 @@ void start(program& app, std::string_view argument) {
     provide(app.mirorcb, app);
     provide(app.mirpref, app);
     provide(app.mirorcz, app);
+    provide(app.mirorcc, app);
+    provide(app.mirorcr, app);
+    provide(app.mirorca, app);
 
     app.desk.at_end = [&app] { chiudi_archivi(app.archives); };
     app.parameters.numero_azienda = numero_azienda_in(argument);

@@ -1,0 +1,90 @@
+#include <algorithm>
+
+#include "customer/customer_head.h"
+#include "fulfil/booking.h"
+#include "fulfil/faults.h"
+#include "fulfil/mirorca.h"
+#include "fulfil/mirorcc.h"
+#include "fulfil/mirorcr.h"
+#include "store/records/order_block.h"
+#include "store/text/number_text.h"
+
+namespace vantora {
+
+// The confirmation has no protection: what can't be read or written ends the program, and the rows
+// done so far stay booked.
+
+void mirorcr::checkeva() {
+    app_.desk.set_pointer(ui::pointer::busy);
+    app_.mirorca->empty_hand_over();
+    book_marked_rows();
+    close_fulfilled_orders();
+    // The goods are booked before anything is made of them.
+    app_.archives.art.flush();
+    app_.archives.orc.flush();
+    app_.ricarica_registro = 1;
+    app_.desk.set_pointer(ui::pointer::normal);
+    hide();
+    app_.mirorca.use().show();
+}
+
+void mirorcr::book_marked_rows() {
+    int line = -1;
+    bool transport_data_taken = false;
+    for (int row = 1; row < righe_; ++row) {
+        const auto record = static_cast<std::int64_t>(number_in(row, numero_riga));
+        if (record <= 0) continue;
+        const double leaving = number_in(row, evaso);
+        if (elenco.text(row, evaso) == "*") {
+            rec_orc text;
+            require(app_.archives.orc.read(record, text));
+            app_.mirorca->hand_over(++line, text, {});
+        } else if (leaving != 0) {
+            const rec_orc booked = prenota_riga(app_.archives, record, leaving, articoli_.quanti);
+            app_.mirorca->hand_over(++line, booked, leaving);
+            if (aggiorna.on() && !transport_data_taken) {
+                transport_data_taken = true;
+                take_transport_data(static_cast<int>(number_in(row, numero_ordine)));
+            }
+        }
+    }
+}
+
+void mirorcr::take_transport_data(int order) {
+    customer_head& head = *app_.mirorcc;
+    rec_orc row;
+    const auto write = [&](int field, const text<40>& shown) {
+        head.Text2[field].set_text(shown.trimmed());
+    };
+    require(app_.archives.orc.read(block_record(order, 2), row));
+    write(8, row.testo1);
+    write(9, row.testo2);
+    write(10, row.testo3);
+
+    require(app_.archives.orc.read(block_record(order, 3), row));
+    write(11, row.testo1);
+    write(12, row.testo2);
+    const auto choose = [&](int list, char digit) {
+        const int entry = digit >= '0' && digit <= '9' ? digit - '0' : 0;
+        if (!head.Combo1[list].choose(entry)) throw property_error();
+    };
+    choose(0, row.testo3.full()[0]);
+    choose(2, row.testo3.full()[1]);
+
+    require(app_.archives.orc.read(block_record(order, 4), row));
+    write(17, row.testo1);
+    write(18, row.testo2);
+    write(19, row.testo3);
+}
+
+void mirorcr::close_fulfilled_orders() {
+    int last = 0;
+    for (int row = 1; row < righe_; ++row) {
+        const int order = static_cast<int>(number_in(row, numero_ordine));
+        if (order <= 0 || order == last) continue;
+        last = order;
+        chiudi_se_evaso(app_.archives, order);
+    }
+}
+
+}  // namespace vantora

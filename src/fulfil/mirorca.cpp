@@ -1,0 +1,209 @@
+#include "fulfil/mirorca.h"
+
+#include <cmath>
+
+#include "fulfil/mirorcc.h"
+#include "fulfil/salva_ddt.h"
+#include "fulfil/unloading.h"
+#include "store/text/dates.h"
+#include "store/text/int16.h"
+#include "store/text/number_text.h"
+#include "ui/errors.h"
+
+namespace vantora {
+
+namespace {
+
+constexpr const char* titolo_messaggi = "Attenzione";
+
+constexpr line_grid_kind documento_trasporto{
+    .name = "mirorca",
+    .title = "Evasione ordine - generazione DDT e movimento di magazzino",
+    .documento = tipo_documento::documento_trasporto,
+    .commands = 5,
+    .has_scarica = true,
+    .tota = {totale_mostrato::pezzi, totale_mostrato::imponibile, totale_mostrato::complessivo}};
+
+/// Weight as the transport data show it; a fraction that vanishes in three decimals leaves its
+/// mark.
+std::string testo_peso(double weight) {
+    const bool whole = weight == integer_part(weight);
+    return masked(weight, whole ? "###,###,##0" : "###,###,##0.###");
+}
+
+std::int16_t whole(std::string_view text) {
+    return to_int16(number_at_head(text)).value_or(0);
+}
+
+}  // namespace
+
+mirorca::mirorca(program& app) : line_grid(app, documento_trasporto) {
+    add("elenco", elenco);
+    add("text1", text1);
+    add("Text", Text);
+    elenco.set_visible(false);
+    elenco.set_columns(std::vector<ui::grid_column>(7));
+    elenco.set_rows(righe_ordine::massimo);
+}
+
+void mirorca::load() {
+    line_grid::load();
+    scarica.set_on(true);
+}
+
+// Handing over ------------------------------------------------------------------------------------
+
+void mirorca::empty_hand_over() {
+    for (int line = 0; line < elenco.rows(); ++line) {
+        for (int col = 0; col < elenco.cols(); ++col) elenco.set_text(line, col, "");
+    }
+}
+
+void mirorca::hand_over(int line, const rec_orc& row, std::optional<double> quantity) {
+    if (line >= elenco.rows()) throw ui::subscript_error();
+    if (quantity) {
+        elenco.set_text(line, articolo, std::to_string(row.articolo));
+        elenco.set_text(line, col_quantita, plain_text(*quantity));
+    }
+    elenco.set_text(line, descrizione,
+                    std::string(row.descrizione.full()).append(row.descrizione2.full()));
+    elenco.set_text(line, col_sc1, std::to_string(row.sc1));
+    elenco.set_text(line, col_sc2, std::to_string(row.sc2));
+    elenco.set_text(line, col_prezzo, plain_text(row.prezzo));
+    elenco.set_text(line, col_iva, std::to_string(row.iva));
+}
+
+void mirorca::take_lines_over() {
+    rec_art article;
+    for (int number = 1; number <= righe_ordine::massimo; ++number) {
+        const auto cell = [&](int col) { return elenco.text(number - 1, col); };
+        riga_ordine& line = righe_[number];
+        line.articolo = whole(cell(articolo));
+        line.descrizione = cell(descrizione);
+        line.quantita = number_at_head(cell(col_quantita));
+        line.sc1 = whole(cell(col_sc1));
+        line.sc2 = whole(cell(col_sc2));
+        line.prezzo = number_at_head(cell(col_prezzo));
+        line.iva = whole(cell(col_iva));
+        if (line.articolo < 1) continue;
+        app_.archives.art.read(line.articolo, article);
+        line.codice = article.codice.full();
+        line.um = article.um.full();
+        const double weight = article.peso;
+        line.peso = std::isfinite(weight) ? weight : 0;
+    }
+}
+
+// Opening -----------------------------------------------------------------------------------------
+
+void mirorca::activate() {
+    if (at_work()) return;
+    Picture1.set_visible(false);
+    Combo1.set_visible(false);
+    open_lines(app_.selezione_1);
+    take_lines_over();
+    // The other way round than on orders.
+    prezz[number_at_head(cliente_.listino.full()) == 1 ? 0 : 1].set_on(true);
+    propose_movement();
+    propose_mail();
+    paint();
+    artic[0].set_focus();
+}
+
+void mirorca::propose_movement() {
+    text1[0].set_text("");
+    Text.set_value(app_.desk.clock().now().day);
+    text1[1].set_text(std::string("DDT n.").append(trimmed(app_.mirorcc->Text3[0].text())));
+}
+
+void mirorca::totals_changed() {
+    if (app_.parameters.gnr.peso_automatico != 1) return;
+    double weight = 0;
+    for (int number = 1; number <= righe_ordine::massimo; ++number) {
+        weight += righe_[number].peso * righe_[number].quantita;
+    }
+    if (!std::isfinite(weight)) throw ui::overflow_error();
+    app_.mirorcc->Text3[3].set_text(testo_peso(weight));
+}
+
+// Commands ----------------------------------------------------------------------------------------
+
+void mirorca::run_command(int command) {
+    if (command == uscita) return cancel();
+    if (command == conferma) return confirm();
+}
+
+void mirorca::cancel() {
+    if (app_.desk.ask("Confermi l'annullamento del movimento di magazzino?", titolo_messaggi)) {
+        leave();
+    }
+}
+
+void mirorca::confirm() {
+    {
+        const work confirming(*this);
+        if (scarica.on() && !unload_goods()) return;
+        app_.desk.set_pointer(ui::pointer::normal);
+        if (app_.desk.ask("Stampare il documento di trasporto?", "Evasione ordine")) {
+            make_document();
+        }
+    }
+    leave();
+}
+
+bool mirorca::unload_goods() {
+    const std::string day = giorno_movimento(Text.text());
+    if (day.empty()) {
+        app_.desk.message("La data del movimento non è corretta"_cp, titolo_messaggi,
+                          ui::icon::stop);
+        Text.set_focus();
+        return false;
+    }
+    app_.data_sistema = date_number(app_.desk.clock().now());
+    app_.desk.set_pointer(ui::pointer::busy);
+    const movimento_magazzino movement{day, text1[0].text(), text1[1].text(), app_.data_sistema,
+                                       app_.selezione_1};
+    scarica_magazzino(
+        app_.archives, movement, righe_, lookup_.articles(), valuta_,
+        [this](const rec_art& article) { return ask_to_unload(article); }, [this] { paint(); });
+    return true;
+}
+
+bool mirorca::ask_to_unload(const rec_art& article) {
+    app_.desk.set_pointer(ui::pointer::normal);
+    const bool unload =
+        app_.desk.ask(std::string("La giacenza dell' articolo ")
+                          .append(article.codice.trimmed())
+                          .append(" ")
+                          .append(article.descrizione.trimmed())
+                          .append(" è insufficiente. Lo si deve scaricare ugualmente?"_cp),
+                      titolo_messaggi);
+    app_.desk.set_pointer(ui::pointer::busy);
+    return unload;
+}
+
+void mirorca::make_document() {
+    const mirorcc& head = *app_.mirorcc;
+    ddt_da_registrare document;
+    for (std::size_t i = 0; i < 22; ++i) document.text2[i] = head.Text2[i].text();
+    for (std::size_t i = 0; i < 6; ++i) document.text3[i] = head.Text3[i].text();
+    document.porto = head.Combo1[0].chosen();
+    document.causale = head.Combo1[1].chosen();
+    document.trasporto = head.Combo1[2].chosen();
+    document.aspetto = head.Combo2.chosen();
+    document.cliente = app_.selezione_1;
+    document.data_reg = app_.data_sistema;
+    document.scaricato = scarica.on();
+    salva_ddt(app_.archives, app_.files, app_.parameters.numero_azienda, document, righe_);
+}
+
+void mirorca::printer_setup() {
+    app_.desk.printer().choose_settings();
+}
+
+void mirorca::leave() {
+    hide();
+    app_.mirorc.use().show();
+}
+
+}  // namespace vantora

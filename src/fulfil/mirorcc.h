@@ -1,0 +1,29 @@
+#pragma once
+
+#include "customer/customer_head.h"
+
+namespace vantora {
+
+/// The first step of a fulfilment: its customer and the transport data. Nothing is written here;
+/// the screen stays loaded behind the two that follow, which read it, and may take the destination
+/// and carrier of an order into it.
+class mirorcc final : public customer_head {
+ public:
+    explicit mirorcc(program& app);
+
+    ui::drop_down Combo2;  ///< aspect of the goods
+
+ protected:
+    void load() override;
+    void activate() override;
+    void close() override;
+    void fill_lists(const tabella_suite& table) override;
+    void show_customer() override;
+    void found_at(std::int16_t position) override;
+    void go_on() override;
+
+ private:
+    void propose_transport();
+};
+
+}  // namespace vantora

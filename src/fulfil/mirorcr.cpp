@@ -1,0 +1,151 @@
+#include "fulfil/mirorcr.h"
+
+#include "store/text/number_text.h"
+#include "store/values.h"
+
+namespace vantora {
+
+namespace {
+
+constexpr int righe_minime = 28;
+constexpr std::string_view maschera_quantita = "########0.#0";
+
+std::vector<ui::grid_column> worklist_columns() {
+    using enum ui::alignment;
+    return {{"Ordine", 900, left},
+            {"Data", 1050, left},
+            {"Descrizione ordine", 3000, left},
+            {"Articolo", 4900, left},
+            {"Ordinato", 1100, right},
+            {"Da evadere", 1100, right},
+            {"Evaso", 1100, right},
+            {"", 0, left},
+            {"", 0, left}};
+}
+
+}  // namespace
+
+std::string testo_quantita(double quantity) {
+    return quantity == 0 ? std::string() : virgola_italiana(quantity, maschera_quantita);
+}
+
+mirorcr::mirorcr(program& app)
+    : form(app.desk, "mirorcr", "Evasione ordini"),
+      app_(app),
+      lista_(elenco, app, righe_minime, numero_ordine) {
+    add("elenco", elenco);
+    add("quantita", quantita);
+    add("aggiorna", aggiorna);
+    add("bottone", bottone);
+    add("Label1", Label1);
+    add("segnate", segnate);
+    quantita.set_visible(false);
+    aggiorna.set_text("Aggiorna dati spedizione cliente");
+    Label1[0].set_text(
+        "Per evadere integralmente un ordine clic sul numero dell'ordine riportato nella colonna "
+        "'ordine' (prima da sinistra)");
+    Label1[1].set_text(
+        "Per evadere completamente un articolo clic sulla quantità ancora da evadere nella colonna 'da evadere' (seconda da destra) "_cp);
+    Label1[2].set_text(
+        "Per evadere parzialmente un articolo clic sulla quantità evasa nella colonna 'evaso' (prima da destra) "_cp);
+    wire_events();
+}
+
+void mirorcr::wire_events() {
+    elenco.on_click = [this] { cell_clicked(); };
+    quantita.on_key_press = [this](ui::key_event& key) {
+        if (key.code != ui::key::enter) return;
+        key.swallow();
+        close_editor();
+    };
+    bottone[0].on_click = [this] { close(); };
+    bottone[1].on_click = [this] { checkeva(); };
+}
+
+void mirorcr::load() {
+    carica_parametri(app_.parameters, app_.files);
+    elenco.set_columns(worklist_columns());
+}
+
+void mirorcr::activate() {
+    app_.archives.tot.read(contatori::clienti, clienti_);
+    app_.archives.tot.read(contatori::ordini, ordini_);
+    app_.archives.tot.read(contatori::articoli, articoli_);
+    build_list();
+}
+
+void mirorcr::close() {
+    unload();
+    app_.mirorc.use().show();
+}
+
+// What leaves -------------------------------------------------------------------------------------
+
+double mirorcr::number_in(int row, int col) const {
+    return testo_a_numero(elenco.text(row, col));
+}
+
+void mirorcr::cell_clicked() {
+    const int row = elenco.row();
+    if (number_in(row, numero_riga) == 0) return;
+    switch (elenco.mouse_column()) {
+        case ordine:
+            return mark_order(static_cast<int>(number_in(row, numero_ordine)));
+        case da_evadere:
+            mark_row(row);
+            return show_marked();
+        case evaso:
+            return open_editor();
+        default:
+            return;
+    }
+}
+
+void mirorcr::mark_order(int order) {
+    if (order <= 0) return;
+    for (int row = 1; row < righe_; ++row) {
+        if (number_in(row, numero_ordine) == order) mark_row(row);
+    }
+    show_marked();
+}
+
+void mirorcr::mark_row(int row) {
+    const double open = number_in(row, da_evadere);
+    elenco.set_text(row, evaso, open == 0 ? std::string("*") : testo_quantita(open));
+}
+
+void mirorcr::open_editor() {
+    const int row = elenco.row();
+    for (auto& command : bottone) command.set_visible(false);
+    quantita.set_text(number_in(row, evaso) == 0 ? std::string_view() : elenco.text(row, evaso));
+    quantita.set_visible(true);
+    quantita.set_focus();
+}
+
+void mirorcr::close_editor() {
+    elenco.set_enabled(true);
+    for (auto& command : bottone) command.set_visible(true);
+    elenco.set_col(evaso);
+    const std::string& typed = quantita.text();
+    const bool text_line = typed.starts_with('*');
+    elenco.set_text(elenco.row(), evaso,
+                    text_line ? std::string("*") : testo_quantita(number_at_head(typed)));
+    elenco.set_focus();
+    quantita.set_visible(false);
+    show_marked();
+}
+
+void mirorcr::show_marked() {
+    int rows = 0;
+    double pieces = 0;
+    for (int row = 1; row < righe_; ++row) {
+        const std::string_view cell = elenco.text(row, evaso);
+        const double leaving = testo_a_numero(cell);
+        if (leaving != 0 || cell == "*") ++rows;
+        pieces += leaving;
+    }
+    const std::string shown = pieces == 0 ? "0" : testo_quantita(pieces);
+    segnate.set_text("Righe da evadere: " + std::to_string(rows) + "   Pezzi: " + shown);
+}
+
+}  // namespace vantora

@@ -1,0 +1,83 @@
+#pragma once
+
+#include "program/list_grid.h"
+#include "ui/controls.h"
+
+namespace vantora {
+
+/// A quantity as the worklist shows it, two decimals; empty for 0.
+std::string testo_quantita(double quantity);
+
+/// The worklist of a fulfilment: all open rows of the current customer's orders. The user says how
+/// much of each leaves, and the confirmation books it and hands it over to the transport document.
+class mirorcr final : public ui::form {
+ public:
+    explicit mirorcr(program& app);
+
+    /// Columns of `elenco`.
+    enum colonna {
+        ordine,
+        data,
+        descrizione,
+        articolo,
+        ordinato,
+        da_evadere,
+        evaso,  ///< what leaves: a quantity, or "*" for a line of text
+        numero_riga,
+        numero_ordine
+    };
+
+    ui::grid elenco;
+    ui::text_box quantita;  ///< over the cell of a quantity that is being typed
+    ui::check_box aggiorna;
+    ui::button bottone[2];
+    ui::label Label1[3];
+    ui::label segnate;  ///< how much is marked to leave
+
+ protected:
+    void load() override;
+    void activate() override;
+    void close() override;
+
+ private:
+    void wire_events();
+
+    // The list ----------------------------------------------------------------------------------
+
+    class articles_shown;
+
+    void build_list();
+    void list_orders(std::int16_t orders);
+    void list_rows_of(int order, articles_shown& articles);
+    void list_row(int order, std::int64_t record, bool first_of_order, articles_shown& articles);
+    [[nodiscard]] bool order_is_open() const;
+    [[nodiscard]] bool row_is_open() const;
+
+    // What leaves -------------------------------------------------------------------------------
+
+    void cell_clicked();
+    void mark_order(int order);
+    void mark_row(int row);
+    void open_editor();
+    void close_editor();
+    void show_marked();
+    [[nodiscard]] double number_in(int row, int col) const;
+
+    // Booking -----------------------------------------------------------------------------------
+
+    void checkeva();
+    void book_marked_rows();
+    void take_transport_data(int order);
+    void close_fulfilled_orders();
+
+    program& app_;
+    rec_tot clienti_;
+    rec_tot ordini_;
+    rec_tot articoli_;
+    rec_orc riga_;  ///< the row read last; what can't be read stays as it was
+    list_grid lista_;
+    std::vector<rec_orc> blocco_;
+    int righe_ = 1;  ///< rows of `elenco` in use, head included
+};
+
+}  // namespace vantora

@@ -1,0 +1,96 @@
+#include "fulfil/salva_ddt.h"
+
+#include "store/company.h"
+#include "store/text/dates.h"
+#include "store/text/int16.h"
+#include "store/text/number_text.h"
+
+namespace vantora {
+
+namespace {
+
+constexpr float ultimo_progressivo = 1000000000;
+
+/// Counts in 32 bits: from 16777216 on it stands still.
+float next_progressive(float progressive) {
+    const float next = progressive + 1.0F;
+    return next > ultimo_progressivo ? 1.0F : next;
+}
+
+rec_bol record_of(const ddt_da_registrare& document, std::int16_t number, float progressive) {
+    rec_bol record;
+    record.numero = number;
+    record.data = stored_of_date_text(document.text3[1]);
+    record.testo1 = "";
+    record.testo2 = "";
+    record.progressivo = progressive;
+    record.data_reg = document.data_reg;
+    record.uno = 1;
+    record.vuoto = "";
+    record.cliente = document.cliente;
+    record.senza_scarico = document.scaricato ? 0 : 1;
+    return record;
+}
+
+/// One value a line.
+class snapshot {
+ public:
+    void text(std::string_view value) { content_.append(value).append("\r\n"); }
+    void number(double value) { text(plain_text(value)); }
+    [[nodiscard]] const std::string& content() const { return content_; }
+
+ private:
+    std::string content_;
+};
+
+void add_line(snapshot& to, const riga_ordine& line) {
+    to.number(line.articolo);
+    to.text(std::string(15, ' '));
+    to.text(line.codice.full());
+    to.text(line.descrizione.full());
+    to.text(line.um.full());
+    to.number(line.sc1);
+    to.number(line.sc2);
+    to.number(line.iva);
+    to.number(line.quantita);
+    to.number(line.prezzo);
+}
+
+std::string snapshot_of(const ddt_da_registrare& document, const righe_ordine& lines) {
+    snapshot all;
+    all.number(document.cliente);
+    for (const std::string& field : document.text3) all.text(field);
+    all.number(document.causale);
+    all.number(document.aspetto);
+    all.text(std::to_string(document.porto) + std::to_string(document.trasporto));
+    for (int number = 1; number <= righe_ordine::massimo; ++number) add_line(all, lines[number]);
+    for (std::size_t i = 8; i <= 12; ++i) all.text(document.text2[i]);
+    for (std::size_t i = 17; i <= 21; ++i) all.text(document.text2[i]);
+    return all.content();
+}
+
+}  // namespace
+
+void salva_ddt(archivi& files, file_port& port, int numero_azienda,
+               const ddt_da_registrare& document, const righe_ordine& lines) {
+    rec_tot counter;
+    if (!files.tot.read(contatori::documenti_trasporto, counter)) return;
+    const auto number = to_int16(number_at_head(document.text3[0]));
+    counter.quanti = add_int16(counter.quanti, 1).value_or(counter.quanti);
+    counter.ultimo_numero = number.value_or(counter.ultimo_numero);
+    counter.progressivo = next_progressive(counter.progressivo);
+    files.tot.write(contatori::documenti_trasporto, counter);
+    files.bol.write(counter.quanti, record_of(document, number.value_or(0), counter.progressivo));
+    files.tot.flush();
+    files.bol.flush();
+
+    const std::string path =
+        cartella_azienda(numero_azienda) + "\\b" + masked(counter.progressivo, "##########0");
+    const auto file = port.create(path);
+    if (!file) return;
+    const std::string content = snapshot_of(document, lines);
+    file->write(0, std::as_bytes(std::span(content)));
+    file->flush();
+}
+
+}  // namespace vantora

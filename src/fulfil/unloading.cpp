@@ -1,0 +1,89 @@
+#include "fulfil/unloading.h"
+
+#include <cmath>
+
+#include "fulfil/faults.h"
+#include "program/stock.h"
+#include "store/text/dates.h"
+#include "store/text/int16.h"
+
+namespace vantora {
+
+namespace {
+
+rec_mag movement_of(const movimento_magazzino& all, const riga_ordine& line, double net_price) {
+    rec_mag one;
+    one.data = all.data;
+    one.documento = all.documento;
+    one.tipo = 1;
+    one.movimento = all.movimento;
+    one.data_reg = all.data_reg;
+    one.articolo = line.articolo;
+    one.cliente = all.cliente;
+    one.quantita = line.quantita;
+    one.prezzo = net_price;
+    one.segno = 1;
+    one.zero = 0;
+    return one;
+}
+
+double checked(double value) {
+    if (!std::isfinite(value)) throw ui::overflow_error();
+    return value;
+}
+
+/// The line is gone from the document too; its discounts are worth nothing without a price.
+void drop_line(riga_ordine& line) {
+    const std::int16_t sc1 = line.sc1;
+    const std::int16_t sc2 = line.sc2;
+    line = riga_ordine{};
+    line.sc1 = sc1;
+    line.sc2 = sc2;
+}
+
+}  // namespace
+
+std::string giorno_movimento(std::string_view dd_mm_yyyy) {
+    const std::string_view typed = trimmed(dd_mm_yyyy);
+    if (typed.size() != 10 || !read_date(typed)) return {};
+    return stored_of_date_text(typed);
+}
+
+void scarica_magazzino(archivi& files, const movimento_magazzino& movement, righe_ordine& lines,
+                       std::int16_t articles, const valuta& amounts,
+                       const std::function<bool(const rec_art&)>& unload_anyway,
+                       const std::function<void()>& line_dropped) {
+    rec_tot counter;
+    require(files.tot.read(contatori::magazzino, counter));
+    for (int number = 1; number <= righe_ordine::massimo; ++number) {
+        riga_ordine& line = lines[number];
+        if (line.quantita == 0 || !is_article(line.articolo, articles)) continue;
+        rec_art article;
+        require(files.art.read(line.articolo, article));
+        if (line.quantita > article.giacenza) {
+            if (!unload_anyway(article)) {
+                drop_line(line);
+                line_dropped();
+                continue;
+            }
+            // The user may have thought about it for long.
+            require(files.art.read(line.articolo, article));
+        }
+        const double net_price =
+            checked(importo_scontato(line.prezzo, line.sc1, line.sc2, amounts));
+        unload_stock(article, line.quantita, net_price);
+        require(files.art.write(line.articolo, article));
+
+        const auto next = add_int16(counter.quanti, 1);
+        if (!next) throw ui::overflow_error();
+        counter.quanti = *next;
+        require(files.mag.write(*next, movement_of(movement, line, net_price)));
+    }
+    files.art.flush();
+    files.mag.flush();
+    counter.modificato = 1;
+    require(files.tot.write(contatori::magazzino, counter));
+    files.tot.flush();
+}
+
+}  // namespace vantora

@@ -1,0 +1,154 @@
+#include "fulfil/mirorcr.h"
+
+#include <gtest/gtest.h>
+
+#include "fulfil/fulfil_stage.h"
+
+namespace vantora::test {
+namespace {
+
+using texts = std::vector<std::string>;
+
+TEST(mirorcr, ListsTheOpenRowsOfTheCustomersOpenOrders) {
+    fulfil_stage stage;
+    stage.order(1, 1, {{1, 5, 2}, {2, 3, 3}, {0, 0, 0, "solo testo"}, {0, 0, 0, "  "}});
+    stage.order(2, 2, {{1, 5}});
+    stage.order(3, 1, {{1, 5}});
+    stage.order(4, 1, {{0, 1.5, 0, "sfuso"}, {9, 1234.5}});
+    rec_orc head = stage.row_now(3, 1);
+    head.annullato = 1;
+    stage.company.files.orc.write(block_record(3, 1), head);
+    stage.run();
+    stage.open_worklist(1);
+
+    const std::string article = "A1 articolo A1" + std::string(29, ' ');
+    const auto free = [](std::string text) { return text.append(50 - text.size(), ' '); };
+    const std::vector<texts> expected = {
+        {"10", "01/03/2024", "testo 1", article, "5,00", "3,00", "", "1", "1"},
+        {"", "", "", free("solo testo"), "", "", "", "3", "1"},
+        {"40", "01/03/2024", "testo 1", free("sfuso"), "1,50", "1,50", "", "601", "4"},
+        // An article beyond the end of its file has neither code nor description.
+        {"", "", "", std::string(15, '\0') + " " + std::string(40, '\0'), "1234,50", "1234,50", "",
+         "602", "4"},
+        texts(9)};
+    for (int row = 1; row <= 5; ++row) {
+        EXPECT_EQ(stage.row(row), expected[static_cast<std::size_t>(row - 1)]) << row;
+    }
+    const ui::grid& list = stage.app.mirorcr->elenco;
+    EXPECT_EQ(list.rows(), 28);
+    EXPECT_EQ(list.row(), 4);
+    EXPECT_EQ(list.back_colour(2, 8), 16579315U);
+}
+
+TEST(mirorcr, AFailingReadLeavesTheRowThatWasReadBefore) {
+    fulfil_stage stage;
+    stage.order(1, 1, {{1, 5}});
+    stage.order(2, 2, {{1, 7}, {1, 9}});
+    stage.run();
+    stage.faults.read_fails = [](const std::string& path, std::int64_t offset, std::size_t size) {
+        const bool block = size > 284;
+        return path.ends_with("orc") && (block || offset == 284 * 200);
+    };
+    stage.open_worklist(1);
+    // Row 1 of the second order can't be read: it counts as row 200 of the first, which is open.
+    EXPECT_EQ(stage.row(1)[mirorcr::ordinato], "5,00");
+    EXPECT_EQ(stage.row(2)[mirorcr::ordinato], "9,00");
+    stage.faults.read_fails = [](const std::string& path, std::int64_t offset, std::size_t) {
+        return path.ends_with("orc") && offset == 284;
+    };
+    stage.order(1, 1, {{1, 5}, {1, 6}});
+    stage.open_worklist(1);
+    EXPECT_EQ(stage.row(2)[mirorcr::ordinato], "6,00") << "the block came in one read";
+}
+
+TEST(mirorcr, ClicksAndTheEditorMarkWhatLeaves) {
+    fulfil_stage stage;
+    stage.order(1, 1, {{1, 5, 2}, {0, 0, 0, "testo"}});
+    stage.order(2, 1, {{2, 8}});
+    stage.run();
+    stage.open_worklist(1);
+    const auto marks = [&] {
+        texts all;
+        for (int row = 1; row <= 4; ++row) all.push_back(stage.row(row)[mirorcr::evaso]);
+        return all;
+    };
+    stage.click(1, mirorcr::ordine);
+    EXPECT_EQ(marks(), (texts{"3,00", "*", "", ""}));
+    stage.click(3, mirorcr::da_evadere);
+    stage.click(4, mirorcr::da_evadere);
+    stage.click(1, mirorcr::articolo);
+    EXPECT_EQ(marks(), (texts{"3,00", "*", "8,00", ""}));
+    EXPECT_EQ(stage.app.mirorcr->segnate.text(), "Righe da evadere: 3   Pezzi: 11,00");
+
+    const struct {
+        const char* typed;
+        const char* cell;
+    } cases[] = {{"2.5", "2,50"}, {"2,5", "2,00"}, {"-3", "-3,00"},   {"99999", "99999,00"},
+                 {"*abc", "*"},   {"", ""},        {"0.001", "0,00"}, {"x", ""}};
+    for (const auto& one : cases) {
+        stage.type_quantity(1, one.typed);
+        EXPECT_EQ(marks()[0], one.cell) << one.typed;
+        EXPECT_EQ(stage.desk.focus(), &stage.app.mirorcr->elenco);
+    }
+    stage.click(3, mirorcr::evaso);
+    EXPECT_EQ(stage.app.mirorcr->quantita.text(), "8,00");
+    EXPECT_EQ(stage.desk.focus(), &stage.app.mirorcr->quantita);
+    EXPECT_FALSE(stage.app.mirorcr->bottone[1].visible());
+}
+
+TEST(mirorcr, TheDestinationOfTheFirstOrderThatLeavesIsTakenIfWanted) {
+    for (const bool wanted : {true, false}) {
+        fulfil_stage stage;
+        stage.order(1, 1, {{0, 0, 0, "testo"}});
+        stage.order(2, 1, {{1, 5}});
+        rec_orc choices = stage.row_now(2, 3);
+        choices.testo3 = "2x10";
+        choices.testo2 = "PARMA";
+        stage.company.files.orc.write(block_record(2, 3), choices);
+        stage.run();
+        stage.open_worklist(1);
+        stage.app.mirorcc->Combo1[2].choose(1);
+        stage.click(1, mirorcr::ordine);
+        stage.click(2, mirorcr::ordine);
+        if (wanted) stage.desk.dispatch([&] { stage.app.mirorcr->aggiorna.toggle(); });
+        stage.book();
+        EXPECT_EQ(stage.app.mirorcc->Text2[12].text(), wanted ? "PARMA" : "amm citta");
+        EXPECT_EQ(stage.app.mirorcc->Text2[17].text(), wanted ? "testo 4" : "corriere 1");
+        EXPECT_EQ(stage.app.mirorcc->Combo1[0].chosen(), wanted ? 2 : 0);
+        EXPECT_EQ(stage.app.mirorcc->Combo1[2].chosen(), wanted ? 0 : 1);
+    }
+}
+
+TEST(mirorcr, TheRowBehindTheTwoHundredthEndsTheProgramAndIsBookedOnce) {
+    fulfil_stage stage;
+    stage.order(1, 1, std::vector<order_line>(200, {1, 1}));
+    stage.order(2, 1, {{2, 5}, {2, 7}});
+    stage.run();
+    stage.open_worklist(1);
+    stage.click(1, mirorcr::ordine);
+    stage.click(201, mirorcr::ordine);
+    stage.book();
+    ASSERT_TRUE(stage.desk.ended());
+    EXPECT_EQ(stage.desk.ended()->message,
+              "Errore di run-time '9': Indice non incluso nell'intervallo");
+    EXPECT_EQ(stage.article_now(1).ordinato_clienti, -150);
+    EXPECT_EQ(stage.article_now(2).ordinato_clienti, 45);
+    EXPECT_EQ(stage.row_now(2, 1).evaso, 5);
+    EXPECT_EQ(stage.row_now(2, 2).evaso, 0);
+    EXPECT_EQ(stage.row_now(1, 1).evaso_flag, 0);
+}
+
+TEST(mirorcr, LeavingBooksNothing) {
+    fulfil_stage stage;
+    stage.order(1, 1, {{1, 5}});
+    stage.run();
+    stage.open_worklist(1);
+    stage.click(1, mirorcr::ordine);
+    stage.desk.dispatch([&] { stage.app.mirorcr->bottone[0].click(); });
+    EXPECT_EQ(stage.faults.writes, 0U);
+    EXPECT_FALSE(stage.app.mirorcr.loaded());
+    EXPECT_EQ(stage.desk.active()->name(), "mirorc");
+}
+
+}  // namespace
+}  // namespace vantora::test
