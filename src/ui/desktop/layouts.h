@@ -22,5 +22,8 @@ void lay_out_mirstos(form_window& window);
 void lay_out_mirstov(form_window& window);
 void lay_out_mirston(form_window& window);
 void lay_out_mirstoa(form_window& window);
+void lay_out_mirorcc(form_window& window);
+void lay_out_mirorcr(form_window& window);
+void lay_out_mirorca(form_window& window);
 
 }  // namespace vantora::ui::desktop

@@ -215,14 +215,13 @@ QGridLayout* choice_table(form_window& window) {
     return table;
 }
 
-QHBoxLayout* foot_line(form_window& window) {
+QHBoxLayout* foot_line(form_window& window, const char* const (&captions)[3]) {
     auto* foot = new QHBoxLayout;
     foot->setSpacing(12);
     QGridLayout* options = choice_table(window);
     foot->addLayout(options);
     foot->setAlignment(options, Qt::AlignVCenter);
     foot->addStretch(1);
-    constexpr const char* captions[] = {"Totale imponibile", "Totale complessivo", "Numero pezzi"};
     for (int i = 0; i < 3; ++i) {
         auto* total = window.as<QLabel>("tota", i);
         set_look(total, "role", "total");
@@ -241,7 +240,8 @@ QHBoxLayout* foot_line(form_window& window) {
 
 }  // namespace
 
-void lay_out_line_window(form_window& window, const std::vector<line_command>& commands) {
+void lay_out_line_window(form_window& window, const std::vector<line_command>& commands,
+                         const line_window_parts& parts) {
     auto* all = new QVBoxLayout(&window);
     all->setContentsMargins(0, 0, 0, 0);
     all->setSpacing(0);
@@ -251,6 +251,7 @@ void lay_out_line_window(form_window& window, const std::vector<line_command>& c
     auto* body = new QVBoxLayout;
     body->setContentsMargins(10, 8, 10, 8);
     body->setSpacing(8);
+    if (parts.above) body->addWidget(parts.above);
     // Lines and list share the room as the user wants.
     auto* middle = new QSplitter(Qt::Horizontal, &window);
     middle->setObjectName("righe_e_lista");
@@ -262,7 +263,7 @@ void lay_out_line_window(form_window& window, const std::vector<line_command>& c
     middle->setStretchFactor(1, 8);
     body->addWidget(middle, 1);
     body->addWidget(stock_line(window));
-    body->addLayout(foot_line(window));
+    body->addLayout(foot_line(window, parts.totals));
     all->addLayout(body, 1);
 
     window.setMinimumSize(1040, 560);

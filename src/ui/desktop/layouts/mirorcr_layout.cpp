@@ -1,0 +1,121 @@
+#include <QShortcut>
+#include <QStyledItemDelegate>
+
+#include "ui/desktop/layouts.h"
+#include "ui/desktop/layouts/parts.h"
+
+namespace vantora::ui::desktop {
+
+namespace {
+
+constexpr int ordine = 0;
+constexpr int da_evadere = 5;
+constexpr int evaso = 6;
+
+/// Rows that leave stand out, whatever the stripes are.
+class leaving_rows final : public QStyledItemDelegate {
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+ protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+        QStyledItemDelegate::initStyleOption(option, index);
+        option->text = option->text.trimmed();
+        if (index.siblingAtColumn(evaso).data().toString().isEmpty()) return;
+        option->backgroundBrush = QColor(0xd7, 0xef, 0xdc);
+        if (index.column() == evaso) option->font.setBold(true);
+    }
+};
+
+struct grid_key {
+    int column;
+    const char* keys;
+};
+
+/// What a click into a column does to the current row, by key.
+constexpr grid_key grid_keys[] = {{ordine, "F5"}, {da_evadere, "F6"}, {evaso, "F7"}};
+
+void add_grid_keys(form_window& window, grid& list) {
+    for (const grid_key& one : grid_keys) {
+        auto* keys = new QShortcut(QKeySequence(one.keys), &window);
+        QObject::connect(keys, &QShortcut::activated, &window, [&window, &list, one] {
+            if (list.row() < 1) return;
+            window.act_on(list, [&] { list.click_cell(list.row(), one.column); });
+        });
+    }
+}
+
+QFrame* command_bar(form_window& window) {
+    auto* bar = new QFrame(&window);
+    set_look(bar, "role", "bar");
+    auto* row = new QHBoxLayout(bar);
+    row->setContentsMargins(8, 5, 8, 5);
+    row->setSpacing(2);
+    window.dress("bottone", 1, {"avanti", "&Conferma", "Evade le righe segnate", "F12"});
+    window.dress("bottone", 0, {"uscita", "&Esci", "Lascia senza evadere nulla", "Ctrl+Q"});
+    for (const int i : {1, 0}) {
+        auto* button = window.as<QToolButton>("bottone", i);
+        button->setIconSize(QSize(26, 26));
+        button->setMinimumWidth(84);
+        QSizePolicy place(QSizePolicy::Preferred, QSizePolicy::Fixed);
+        place.setRetainSizeWhenHidden(true);
+        button->setSizePolicy(place);
+        row->addWidget(button);
+        if (i == 0) break;
+        row->addSpacing(18);
+        auto* take = window.as<QAbstractButton>("aggiorna");
+        take->setToolTip("La destinazione e il vettore del documento sono quelli del primo ordine");
+        add_shortcut(*take, "Alt+G");
+        row->addWidget(take);
+        row->addStretch(1);
+    }
+    return bar;
+}
+
+QVBoxLayout* help_lines(form_window& window) {
+    auto* lines = new QVBoxLayout;
+    lines->setSpacing(2);
+    for (int i = 0; i < 3; ++i) {
+        auto* line = new QHBoxLayout;
+        auto* keys = new QLabel(grid_keys[i].keys, &window);
+        set_look(keys, "role", "faint");
+        keys->setMinimumWidth(keys->fontMetrics().horizontalAdvance("F12 "));
+        auto* text = window.as<QLabel>("Label1", i);
+        text->setWordWrap(true);
+        line->addWidget(keys, 0, Qt::AlignTop);
+        line->addWidget(text, 1);
+        lines->addLayout(line);
+    }
+    return lines;
+}
+
+}  // namespace
+
+void lay_out_mirorcr(form_window& window) {
+    auto* all = new QVBoxLayout(&window);
+    all->setContentsMargins(0, 0, 0, 0);
+    all->setSpacing(0);
+    all->addWidget(command_bar(window));
+
+    auto* view = window.as<grid_view>("elenco");
+    view->setItemDelegate(new leaving_rows(view));
+    view->keep_over(window.widget("quantita"), evaso);
+    add_grid_keys(window, static_cast<grid&>(*window.screen().find("elenco", {})));
+
+    auto* body = new QVBoxLayout;
+    body->setContentsMargins(10, 8, 10, 10);
+    body->setSpacing(8);
+    body->addWidget(view, 1);
+    auto* foot = new QHBoxLayout;
+    foot->setSpacing(24);
+    foot->addLayout(help_lines(window), 1);
+    auto* marked = window.as<QLabel>("segnate");
+    set_look(marked, "role", "total");
+    foot->addWidget(marked, 0, Qt::AlignBottom);
+    body->addLayout(foot);
+    all->addLayout(body, 1);
+
+    window.setMinimumSize(900, 480);
+    window.set_first_size(QSize(1280, 690));
+}
+
+}  // namespace vantora::ui::desktop
