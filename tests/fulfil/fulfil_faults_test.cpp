@@ -124,6 +124,7 @@ TEST(fulfil_faults, BookingAndUnloadingEndTheProgramAtTheFirstFault) {
         const std::size_t writes = whole.writes();
         for (std::size_t n = 0; n < reads + writes; ++n) {
             for (const bool once : {true, false}) {
+                if (!once && n % 4 != 0) continue;  // a fault for good hardly differs
                 fault_stage stage(which);
                 std::size_t seen = 0;
                 const auto hit = [&](std::size_t at) {

@@ -237,10 +237,10 @@ class session {
 };
 
 TEST(fulfil_sessions, LeaveTheBooksAsKeptByHand) {
-    for (unsigned seed = 1; seed <= 60; ++seed) {
+    for (unsigned seed = 1; seed <= 10; ++seed) {
         SCOPED_TRACE(seed);
         session one(seed);
-        for (int i = 0; i < 8; ++i) one.fulfil();
+        for (int i = 0; i < 5; ++i) one.fulfil();
         one.compare();
         if (HasFailure()) return;
     }
