@@ -1,13 +1,10 @@
-#include <algorithm>
-
-#include "customer/customer_head.h"
+#include "customer/shipping_data.h"
 #include "fulfil/booking.h"
 #include "fulfil/faults.h"
 #include "fulfil/mirorca.h"
 #include "fulfil/mirorcc.h"
 #include "fulfil/mirorcr.h"
 #include "store/records/order_block.h"
-#include "store/text/number_text.h"
 
 namespace vantora {
 
@@ -51,30 +48,11 @@ void mirorcr::book_marked_rows() {
 }
 
 void mirorcr::take_transport_data(int order) {
-    customer_head& head = *app_.mirorcc;
     rec_orc row;
-    const auto write = [&](int field, const text<40>& shown) {
-        head.Text2[field].set_text(shown.trimmed());
-    };
-    require(app_.archives.orc.read(block_record(order, 2), row));
-    write(8, row.testo1);
-    write(9, row.testo2);
-    write(10, row.testo3);
-
-    require(app_.archives.orc.read(block_record(order, 3), row));
-    write(11, row.testo1);
-    write(12, row.testo2);
-    const auto choose = [&](int list, char digit) {
-        const int entry = digit >= '0' && digit <= '9' ? digit - '0' : 0;
-        if (!head.Combo1[list].choose(entry)) throw property_error();
-    };
-    choose(0, row.testo3.full()[0]);
-    choose(2, row.testo3.full()[1]);
-
-    require(app_.archives.orc.read(block_record(order, 4), row));
-    write(17, row.testo1);
-    write(18, row.testo2);
-    write(19, row.testo3);
+    for (const int number : {2, 3, 4}) {
+        require(app_.archives.orc.read(block_record(order, number), row));
+        if (!mostra_spedizione(*app_.mirorcc, number, row)) throw property_error();
+    }
 }
 
 void mirorcr::close_fulfilled_orders() {

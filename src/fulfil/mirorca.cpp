@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "entry/order_head.h"
 #include "fulfil/mirorcc.h"
 #include "fulfil/salva_ddt.h"
 #include "fulfil/unloading.h"
@@ -195,10 +196,19 @@ void mirorca::make_document() {
     document.data_reg = app_.data_sistema;
     document.scaricato = scarica.on();
     salva_ddt(app_.archives, app_.files, app_.parameters.numero_azienda, document, righe_);
+    print(head);
 }
 
-void mirorca::printer_setup() {
-    app_.desk.printer().choose_settings();
+void mirorca::print(const mirorcc& head) {
+    // Printing lets events run, and cleans the lines it prints: it gets those that were stored.
+    righe_ordine lines = righe_;
+    testata_documento printed = testata_da_stampare(head);
+    printed.combo2 = head.Combo2.text();
+    app_.desk.printer().set_job_name("DDT " + std::string(trimmed(printed.text3[0])));
+    offri_copie(app_,
+                {tipo_documento::documento_trasporto, printed, lines, totali_.iva, cliente_,
+                 valuta_, tabelle_, disegno_, Picture1},
+                postael.on());
 }
 
 void mirorca::leave() {

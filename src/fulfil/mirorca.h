@@ -7,6 +7,8 @@
 
 namespace vantora {
 
+class mirorcc;
+
 /// The last step of a fulfilment: the rows that leave, ready to be corrected. Its confirmation
 /// takes the goods out of the warehouse and makes the transport document, each if wanted.
 class mirorca final : public line_grid {
@@ -30,7 +32,6 @@ class mirorca final : public line_grid {
     void load() override;
     void activate() override;
     void run_command(int command) override;
-    void printer_setup() override;
     void totals_changed() override;
 
  private:
@@ -41,6 +42,7 @@ class mirorca final : public line_grid {
     bool unload_goods();
     bool ask_to_unload(const rec_art& article);
     void make_document();
+    void print(const mirorcc& head);
     void leave();
 };
 

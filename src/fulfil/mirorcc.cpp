@@ -1,12 +1,14 @@
 #include "fulfil/mirorcc.h"
 
+#include "program/pick_list.h"
 #include "store/text/int16.h"
 
 namespace vantora {
 
 namespace {
 
-constexpr customer_head_kind dati_trasporto{"mirorcc", "Evasione ordini", 53, {1, 4}};
+constexpr customer_head_kind dati_trasporto{
+    "mirorcc", "Evasione ordini", elenco_clienti::da_mirorcc, {1, 4}};
 
 }  // namespace
 
