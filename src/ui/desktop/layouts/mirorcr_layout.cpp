@@ -34,12 +34,13 @@ struct grid_key {
 /// What a click into a column does to the current row, by key.
 constexpr grid_key grid_keys[] = {{ordine, "F5"}, {da_evadere, "F6"}, {evaso, "F7"}};
 
-void add_grid_keys(form_window& window, grid& list) {
+void add_grid_keys(form_window& window) {
     for (const grid_key& one : grid_keys) {
         auto* keys = new QShortcut(QKeySequence(one.keys), &window);
-        QObject::connect(keys, &QShortcut::activated, &window, [&window, &list, one] {
-            if (list.row() < 1) return;
-            window.act_on(list, [&] { list.click_cell(list.row(), one.column); });
+        QObject::connect(keys, &QShortcut::activated, &window, [&window, one] {
+            window.act_on<grid>("elenco", -1, [one](grid& list) {
+                if (list.row() > 0) list.click_cell(list.row(), one.column);
+            });
         });
     }
 }
@@ -99,7 +100,7 @@ void lay_out_mirorcr(form_window& window) {
     auto* view = window.as<grid_view>("elenco");
     view->setItemDelegate(new leaving_rows(view));
     view->keep_over(window.widget("quantita"), evaso);
-    add_grid_keys(window, static_cast<grid&>(*window.screen().find("elenco", {})));
+    add_grid_keys(window);
 
     auto* body = new QVBoxLayout;
     body->setContentsMargins(10, 8, 10, 10);
