@@ -18,8 +18,8 @@ constexpr screen_layout known_layouts[] = {
     {"mirsel", lay_out_mirsel},   {"mirdata", lay_out_mirdata}, {"mirorcs", lay_out_mirorcs},
     {"mirorcz", lay_out_mirorcz}, {"mirstoe", lay_out_mirstoe}, {"mirstos", lay_out_mirstos},
     {"mirstov", lay_out_mirstov}, {"mirston", lay_out_mirston}, {"mirstoa", lay_out_mirstoa},
-    {"mirorcb", lay_out_import},  {"mirpref", lay_out_import},
-    {"mirorcc", lay_out_mirorcc}, {"mirorcr", lay_out_mirorcr}, {"mirorca", lay_out_mirorca},
+    {"mirorcb", lay_out_import},  {"mirpref", lay_out_import},  {"mirorcc", lay_out_mirorcc},
+    {"mirorcr", lay_out_mirorcr}, {"mirorca", lay_out_mirorca},
 };
 
 }  // namespace
