@@ -9,14 +9,8 @@ namespace vantora {
 /// A file that must be read or written couldn't be.
 class device_error final : public ui::runtime_error {
  public:
-    device_error() : runtime_error("Errore di run-time '57': Errore di I/O di periferica") {}
-};
-
-/// A control was given a value that it can't have.
-class property_error final : public ui::runtime_error {
- public:
-    property_error()
-        : runtime_error("Errore di run-time '380': Valore di proprietà non valido"_cp) {}
+    device_error()
+        : runtime_error("Errore di run-time: un archivio non si lascia leggere o scrivere") {}
 };
 
 /// Goes on only if a read or write was done.

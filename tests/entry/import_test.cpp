@@ -103,7 +103,7 @@ TEST_F(import, AnOrderOfAnyCustomerReplacesTheLines) {
     EXPECT_FALSE(replies[3].contains("waiting"));
     EXPECT_EQ(replies[4]["value"]["text"], "A2");
     EXPECT_EQ(replies[5]["value"]["text"], "3");
-    EXPECT_EQ(replies[6]["value"]["text"], "4");
+    EXPECT_EQ(replies[6]["value"]["text"], "04");
     EXPECT_EQ(replies[7]["value"]["text"], "") << "a line without a price has no VAT code";
     for (const json& one : replies[8]["value"]) EXPECT_NE(one["name"], "mirpref");
 }

@@ -114,7 +114,7 @@ TEST_F(report_screens, EnterGoesThroughTheFiltersAndBringsTheBoundsBack) {
 TEST_F(report_screens, TheSelectorsOfTheOrderListAreLinked) {
     report_screen& screen = open(app.mirstoe);
     EXPECT_EQ(column(screen, 0), "1|2|3");
-    const auto reads = bench.files.reads;
+    const std::size_t reads = bench.files.reads;
     screen.Combo1.pick(report_screen::da_evadere);
     EXPECT_EQ(screen.Combo2.text(), "Analitico");
     EXPECT_EQ(column(screen, 0), "1|3");
@@ -129,7 +129,7 @@ TEST_F(report_screens, ABuildGoesOnUnderTheHandsOfTheUser) {
     report_screen& screen = open(app.mirstov);
     auto& user = bench.around.user;
     user.pending = [&] {
-        const auto reads = bench.files.reads;
+        const std::size_t reads = bench.files.reads;
         screen.bottone[report_screen::aggiorna].click();
         screen.bottone[report_screen::pdf].click();
         EXPECT_EQ(bench.files.reads, reads);
