@@ -146,7 +146,7 @@ TEST(fulfil_faults, BookingAndUnloadingEndTheProgramAtTheFirstFault) {
                     continue;
                 }
                 EXPECT_EQ(stage.desk.ended()->message,
-                          "Errore di run-time '57': Errore di I/O di periferica");
+                          "Errore di run-time: un archivio non si lascia leggere o scrivere");
                 EXPECT_FALSE(stage.app.archives.orc.is_open());
                 EXPECT_EQ(stage.left(), states[stage.writes()]);
             }
