@@ -35,7 +35,7 @@ class mirorcr::articles_shown : public record_stretches<rec_art, voce_articolo> 
 void mirorcr::build_list() {
     app_.desk.set_pointer(ui::pointer::busy);
     elenco.set_visible(false);
-    lista_.empty();
+    elenco.set_rows(1);
     righe_ = 1;
     app_.archives.tot.read(contatori::ordini, ordini_);
     app_.archives.tot.read(contatori::clienti, clienti_);
