@@ -51,17 +51,11 @@ TEST_F(print_file, LinesThatAKindDoesNotUseAreEmpty) {
 }
 
 void expect_same(const record_di_stampa& one, const record_di_stampa& other) {
-    EXPECT_EQ(one.tipo, other.tipo);
-    EXPECT_EQ(one.x1, other.x1);
-    EXPECT_EQ(one.y1, other.y1);
-    EXPECT_EQ(one.x2, other.x2);
-    EXPECT_EQ(one.y2, other.y2);
-    EXPECT_EQ(one.corpo, other.corpo);
-    EXPECT_EQ(one.colore, other.colore);
-    EXPECT_EQ(one.testo, other.testo);
-    EXPECT_EQ(one.carattere, other.carattere);
-    EXPECT_EQ(one.grassetto, other.grassetto);
-    EXPECT_EQ(one.corsivo, other.corsivo);
+    const auto parts = [](const record_di_stampa& of) {
+        return std::tie(of.tipo, of.x1, of.y1, of.x2, of.y2, of.corpo, of.colore, of.testo,
+                        of.carattere, of.grassetto, of.corsivo);
+    };
+    EXPECT_TRUE(parts(one) == parts(other));
 }
 
 TEST_F(print_file, WhatIsWrittenIsReadAgain) {
@@ -177,10 +171,8 @@ TEST(print_file_reading, OddValuesAreCorrectedOrTheirRecordPassedOver) {
         std::optional<difetto_di_stampa> fault;
         std::size_t kept;
     } cases[] = {
-        {1, "4", tipo_sconosciuto, 3},        {1, "-1", tipo_sconosciuto, 3},
-        {1, "2.5", tipo_sconosciuto, 3},      {1, "", tipo_sconosciuto, 3},
-        {2, "Arial", numero_illeggibile, 3},  {3, "1;2", numero_illeggibile, 3},
-        {11, "- ", numero_illeggibile, 3},    {6, "nan", numero_illeggibile, 3},
+        {1, "4", tipo_sconosciuto, 3},        {1, "2.5", tipo_sconosciuto, 3},
+        {2, "Arial", numero_illeggibile, 3},  {11, "- ", numero_illeggibile, 3},
         {2, "100001", numero_fuori_campo, 4}, {6, "-1E300", numero_fuori_campo, 4},
         {7, "1E300", std::nullopt, 4},
     };
