@@ -95,9 +95,6 @@ TEST_F(key_index, TiesGoToTheFirstProbeThatMatches) {
     write({"ALFA", "BETA", "BETA", "BETA", "GAMMA"});
     const channel<rec_src> index(port.open_records("\\src"));
     EXPECT_EQ(cerca_nominativo(index, 5, "beta"), 3) << "not the first in the alphabet";
-    EXPECT_EQ(cerca_nominativo(index, 5, ""), 3) << "the middle of the index";
-    EXPECT_EQ(cerca_nominativo(index, 1, "alfa"), 1);
-    EXPECT_EQ(cerca_nominativo(index, 5, "delta"), 0);
     EXPECT_EQ(cerca_nominativo(index, 5, std::string(41, 'A')), 0);
 }
 

@@ -55,14 +55,14 @@ class suite_table : public testing::Test {
 
 TEST_F(suite_table, EverySectionIsFoundAtItsPlace) {
     const tabella_suite table = read(telling_lines());
-    EXPECT_EQ(table.iva.aliquota_iva[1], "s1 g1 l1");
-    EXPECT_EQ(table.iva.aliquota_iva[8], "s1 g8 l1");
-    EXPECT_EQ(table.iva.aliquota_iva[9], "s11 g1 l1");
-    EXPECT_EQ(table.iva.aliquota_iva[16], "s11 g8 l1");
+    for (const int code : {1, 8, 9, 16}) {
+        const std::string group = " g" + std::to_string((code - 1) % 8 + 1) + " l1";
+        EXPECT_EQ(table.iva.aliquota_iva[code], (code <= 8 ? "s1" : "s11") + group);
+        if (code < 9) continue;
+        EXPECT_EQ(table.iva.descrizione_iva[code], "s13" + group);
+    }
     EXPECT_EQ(table.iva.descrizione_iva[0], "s3 g1 l1");
     EXPECT_EQ(table.iva.descrizione_iva[8], "s3 g9 l1");
-    EXPECT_EQ(table.iva.descrizione_iva[9], "s13 g1 l1");
-    EXPECT_EQ(table.iva.descrizione_iva[16], "s13 g8 l1");
     ASSERT_EQ(table.pagamenti.size(), 60U);
     EXPECT_EQ(table.pagamenti[29], "s5 g30 l1");
     EXPECT_EQ(table.pagamenti[30], "s15 g1 l1");
@@ -73,31 +73,22 @@ TEST_F(suite_table, EverySectionIsFoundAtItsPlace) {
     EXPECT_EQ(table.vettori[39], (vettore{"s10 g40 l3", "s10 g40 l4", "s10 g40 l5"}));
 }
 
-TEST_F(suite_table, ItemsLoseQuotesAndMayShareTheirLineWithTheRest) {
-    auto lines = telling_lines();
-    const std::size_t section3 = 8 * 4 + 8 * 3;
-    lines[section3] = "\"Esente, art. 10\"";
-    // A comma behind the item: what follows it is the rest, so the group is one line shorter.
-    lines[section3 + 2] = "Non imponibile, resto";
-    lines.erase(lines.begin() + static_cast<long>(section3) + 3);
-    const tabella_suite table = read(lines);
-    EXPECT_EQ(table.iva.descrizione_iva[0], "Esente, art. 10");
-    EXPECT_EQ(table.iva.descrizione_iva[1], "Non imponibile");
-    EXPECT_EQ(table.iva.descrizione_iva[2], "s3 g3 l1");
-    EXPECT_EQ(table.pagamenti[0], "s5 g1 l1");
-}
-
 TEST_F(suite_table, ItemsThatShareTheirLineMoveAllThatFollows) {
     auto lines = telling_lines();
-    const auto at = [](int lines_before) { return static_cast<std::ptrdiff_t>(lines_before); };
     // Two items of a group on one line each, then rest of the line behind every item.
-    const int section6 = 8 * 4 + 8 * 3 + 9 * 2 + 9 * 2 + 30 * 2;
+    const int section3 = 8 * 4 + 8 * 3;
+    const int section6 = section3 + 9 * 2 + 9 * 2 + 30 * 2;
     const int section14 = section6 + 9 * 2 + 40 + 40 + 30 * 5 + 40 * 6 + 8 * 4 + 8 * 3 + 8 * 2;
-    lines.erase(lines.begin() + at(section14), lines.begin() + at(section14 + 8));
-    for (int i = 0; i < 8; ++i) lines[static_cast<std::size_t>(section14 + i)] = "\"a,b\" c, d, e";
-    lines.erase(lines.begin() + at(section6), lines.begin() + at(section6 + 9));
-    for (int i = 0; i < 9; ++i) lines[static_cast<std::size_t>(section6 + i)] = "1, \"2\"";
+    const auto shorten = [&](int section, int groups, const char* line) {
+        const auto begin = lines.begin() + section;
+        lines.erase(begin, begin + groups);
+        std::fill_n(begin, groups, line);
+    };
+    shorten(section14, 8, "\"a,b\" c, d, e");
+    shorten(section6, 9, "1, \"2\"");
+    lines[section3] = "\"Esente, art. 10\"";
     const tabella_suite table = read(lines);
+    EXPECT_EQ(table.iva.descrizione_iva[0], "Esente, art. 10");
     EXPECT_EQ(table.vettori[0][0], "s10 g1 l3");
     EXPECT_EQ(table.iva.descrizione_iva[16], "s13 g8 l1");
     ASSERT_EQ(table.pagamenti.size(), 60U);
