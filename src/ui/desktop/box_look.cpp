@@ -40,7 +40,11 @@ void dress_box(QMessageBox& box, icon sign) {
         if (!part) continue;
         part->setAlignment(Qt::AlignVCenter | Qt::AlignLeft);
         rows->setAlignment(part, Qt::AlignVCenter);
+        rows->setRowMinimumHeight(0,
+                                  std::max(rows->rowMinimumHeight(0), part->sizeHint().height()));
     }
+    // The text takes the room, not the icon.
+    rows->setColumnStretch(rows->columnCount() - 1, 1);
     rows->addItem(new QSpacerItem(narrowest, 0), rows->rowCount(), 0, 1, rows->columnCount());
 }
 

@@ -5,6 +5,7 @@
 #include <QLocale>
 #include <QPalette>
 #include <QProxyStyle>
+#include <QStyleOption>
 #include <QTranslator>
 
 #include "ui/desktop/form_window.h"
@@ -19,7 +20,10 @@ namespace vantora::ui::desktop {
 
 namespace {
 
-/// Fusion without the pictures on the buttons of dialogs and with room beside the texts of cells.
+constexpr int sort_arrow = 12;  ///< dots, as in the sheet below
+
+/// Fusion without the pictures on the buttons of dialogs, with room beside the texts of cells, and
+/// with heads that stand over their numbers.
 class calm_style final : public QProxyStyle {
  public:
     calm_style() : QProxyStyle("Fusion") {}
@@ -33,6 +37,17 @@ class calm_style final : public QProxyStyle {
                     const QWidget* widget) const override {
         if (metric == PM_FocusFrameHMargin) return 5;
         return QProxyStyle::pixelMetric(metric, option, widget);
+    }
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override {
+        const auto* head = qstyleoption_cast<const QStyleOptionHeader*>(option);
+        if (element != CE_HeaderLabel || !head || head->sortIndicator != QStyleOptionHeader::None) {
+            return QProxyStyle::drawControl(element, option, painter, widget);
+        }
+        // The style sheet keeps room for the arrow of sorting in every head.
+        QStyleOptionHeader whole(*head);
+        whole.rect.setWidth(whole.rect.width() + sort_arrow);
+        QProxyStyle::drawControl(element, &whole, painter, widget);
     }
 };
 
@@ -81,6 +96,8 @@ QLineEdit[cell="true"] { border-radius: 0; padding: 2px 4px; border-color: #8491
 QLineEdit[cell="current"] { border-radius: 0; padding: 2px 4px; border-color: #5f8fb8;
                        background: #eaf3fb; }
 QLineEdit[cell]:focus { border: 1px solid #2f6ea5; background: #fff8dc; }
+QLineEdit[look="over"] { border: 1px solid #2f6ea5; border-radius: 0; padding: 0 3px;
+                       background: #fff8dc; }
 QComboBox[look="over"] { border: 1px solid #2f6ea5; background: #fff8dc; border-radius: 2px; }
 QCheckBox:focus, QRadioButton:focus { background: #dcebf8; border-radius: 3px; }
 QPushButton { border: 1px solid #c5ced6; border-radius: 5px; background: #f6f8fa;

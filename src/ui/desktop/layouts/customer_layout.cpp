@@ -12,9 +12,11 @@ constexpr const char* hint =
 
 const std::vector<frame_row>& registered_office_rows() {
     static const std::vector<frame_row> rows = {
-        {"Intestazione ", {{"Text2", 0}}},  {"", {{"Text2", 1}}},
-        {"Indirizzo", {{"Text2", 2}}},      {"CAP Città", {{"Text2", 3, 6}, {"Text2", 4}}},
-        {"Codice fiscale", {{"Text2", 5}}}, {"Partita iva", {{"Text2", 6, 3}, {"Text2", 7}}},
+        {"Intestazione ", {{"Text2", 0}}},
+        {"", {{"Text2", 1}}},
+        {"Indirizzo", {{"Text2", 2}}},
+        {"CAP Città", {{"Text2", 3, 6}, {"Text2", 4}}},
+        {"Codice fiscale", {{"Text2", 5}, {"Text2", 6, 2, "Partita iva"}, {"Text2", 7, 12}}},
     };
     return rows;
 }
@@ -51,14 +53,27 @@ QWidget* field_of(form_window& window, const frame_field& field) {
 QGridLayout* add_frame(form_window& window, QGroupBox* box, std::span<const frame_row> rows) {
     auto* fields = new QGridLayout(box);
     fields->setHorizontalSpacing(8);
-    fields->setVerticalSpacing(5);
+    fields->setVerticalSpacing(4);
+    fields->setContentsMargins(8, 4, 8, 4);
     fields->setColumnStretch(1, 1);
     for (const frame_row& row : rows) {
         const int at = fields->rowCount();
-        fields->addWidget(caption(row.caption, box), at, 0);
         auto* line = new QHBoxLayout;
         line->setSpacing(5);
-        for (const frame_field& field : row.fields) line->addWidget(field_of(window, field));
+        bool stretches = false;
+        for (const frame_field& field : row.fields) {
+            QWidget* one = field_of(window, field);
+            if (*field.caption != '\0') {
+                line->addSpacing(8);
+                line->addWidget(caption_of(one, field.caption, box));
+            }
+            line->addWidget(one);
+            stretches = stretches || one->minimumWidth() != one->maximumWidth();
+        }
+        if (!stretches) line->addStretch(1);
+        const frame_field& first = row.fields.front();
+        fields->addWidget(caption_of(window.widget(first.name, first.index), row.caption, box), at,
+                          0);
         fields->addLayout(line, at, 1);
     }
     return fields;
@@ -117,15 +132,11 @@ QFrame* search_bar(form_window& window) {
 
 }  // namespace
 
-frame_row date_row(const char* caption, int field, int picker) {
-    return {caption, {{"Text3", field}, {"text5", picker}}};
-}
-
 std::vector<frame_row> order_head_rows() {
     return {
         {"Numero attribuito all'ordine", {{"Text3", 0}}},
-        date_row("Data di emissione", 1, 0),
-        date_row("Data evasione", 2, 1),
+        {"Data di emissione",
+         {{"Text3", 1, 10}, {"text5", 0}, {"Text3", 2, 10, "Data evasione"}, {"text5", 1}}},
         {"Riferimenti ordine", {{"Text3", 3}}},
         {"", {{"Text3", 4}}},
         {"", {{"Text3", 5}}},
@@ -151,6 +162,7 @@ void lay_out_customer(form_window& window, const customer_window& look) {
         2, 1);
     frames->setColumnStretch(0, 1);
     frames->setColumnStretch(1, 1);
+    frames->setRowStretch(1, 1);
     all->addLayout(frames, 1);
 
     auto* foot = new QHBoxLayout;
@@ -161,8 +173,8 @@ void lay_out_customer(form_window& window, const customer_window& look) {
     foot->addWidget(window.widget("bottone"));
     all->addLayout(foot);
 
-    window.setMinimumSize(980, 664);
-    window.set_first_size(QSize(1180, 690));
+    window.setMinimumSize(980, 0);
+    window.set_first_size(QSize(1180, 610));
 }
 
 }  // namespace vantora::ui::desktop

@@ -15,7 +15,8 @@ namespace vantora::ui::desktop {
 struct frame_field {
     const char* name;
     int index = -1;
-    int characters = 0;  ///< how many shall fit; 0: it takes what is left
+    int characters = 0;        ///< how many shall fit; 0: it takes what is left
+    const char* caption = "";  ///< of a field that isn't the first of its row
 };
 
 /// A row of a frame: a caption and the fields behind it.
@@ -29,9 +30,6 @@ struct customer_window {
     std::vector<frame_row> own;  ///< its rows
     command_look go_on;          ///< the button that goes on
 };
-
-/// A row with a date and its picker, `text5` of that index.
-frame_row date_row(const char* caption, int field, int picker);
 
 /// The rows of an order's head.
 std::vector<frame_row> order_head_rows();

@@ -26,14 +26,14 @@ struct column {
 };
 
 constexpr column columns[] = {
-    {"artic", "Articolo", 13, false},
+    {"artic", "Articolo", 11, false},
     {"ds", "Descrizione", 0, false},
     {"um", "U.m.", 2, false},
-    {"quantita", "Quantità", 9, true},
-    {"evaso", "Evaso", 9, true},
+    {"quantita", "Quantità", 8, true},
+    {"evaso", "Evaso", 7, true},
     {"sc1", "Sconti", 2, true},
     {"sc2", "", 2, true},
-    {"prezzo", "Prezzo", 11, true},
+    {"prezzo", "Prezzo", 9, true},
     {"civ", "Iva", 1, false},
 };
 
@@ -261,6 +261,7 @@ void lay_out_line_window(form_window& window, const std::vector<line_command>& c
     middle->addWidget(list_frame(window));
     middle->setStretchFactor(0, 19);
     middle->setStretchFactor(1, 8);
+    middle->setSizes({1000, 310});
     body->addWidget(middle, 1);
     body->addWidget(stock_line(window));
     body->addLayout(foot_line(window, parts.totals));

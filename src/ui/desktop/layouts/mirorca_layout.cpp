@@ -33,7 +33,7 @@ void lay_out_mirorca(form_window& window) {
             {1, {"salva", "&Conferma", "Scarica il magazzino ed emette il documento", "F12"}},
             {2,
              {"inserisci", "&Inserisci riga", "Inserisce una riga vuota sopra la corrente", "F7"}},
-            {3, {"cancella", "Cancella &riga", "Toglie la riga corrente", "Shift+F7"}},
+            {3, {"cancella", "Cance&lla riga", "Toglie la riga corrente", "Shift+F7"}},
             {4, {"stampante", "S&tampante", "Imposta la stampante", "Ctrl+P"}},
             {0, {"uscita", "&Annulla", "Lascia senza movimento e senza documento", "Ctrl+Q"}},
         },

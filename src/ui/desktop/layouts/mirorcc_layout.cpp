@@ -4,18 +4,15 @@
 namespace vantora::ui::desktop {
 
 void lay_out_mirorcc(form_window& window) {
-    lay_out_customer(window, {"Dati del trasporto",
-                              {{"Numero DDT", {{"Text3", 0}}},
-                               date_row("Data", 1, 0),
-                               {"Causale trasporto", {{"Combo1", 1}}},
-                               {"Aspetto dei beni", {{"Combo2"}}},
-                               {"Numero colli", {{"Text3", 2}}},
-                               {"Peso", {{"Text3", 3}}},
-                               {"Porto", {{"Combo1", 0}}},
-                               {"Trasporto", {{"Combo1", 2}}},
-                               date_row("Inizio trasporto", 4, 1),
-                               {"Ora", {{"Text3", 5}}}},
-                              {"avanti", "&Prosegui", "Passa alle righe da evadere", "F12"}});
+    lay_out_customer(
+        window, {"Dati del trasporto",
+                 {{"Numero DDT", {{"Text3", 0}, {"Text3", 1, 10, "Data"}, {"text5", 0}}},
+                  {"Causale trasporto", {{"Combo1", 1}}},
+                  {"Aspetto dei beni", {{"Combo2"}}},
+                  {"Numero colli", {{"Text3", 2}, {"Text3", 3, 0, "Peso"}}},
+                  {"Porto", {{"Combo1", 0}, {"Combo1", 2, 0, "Trasporto"}}},
+                  {"Inizio trasporto", {{"Text3", 4, 10}, {"text5", 1}, {"Text3", 5, 0, "Ora"}}}},
+                 {"avanti", "&Prosegui", "Passa alle righe da evadere", "F12"}});
 }
 
 }  // namespace vantora::ui::desktop

@@ -1,3 +1,4 @@
+#include <QLineEdit>
 #include <QShortcut>
 #include <QStyledItemDelegate>
 
@@ -99,7 +100,10 @@ void lay_out_mirorcr(form_window& window) {
 
     auto* view = window.as<grid_view>("elenco");
     view->setItemDelegate(new leaving_rows(view));
-    view->keep_over(window.widget("quantita"), evaso);
+    auto* quantity = window.as<QLineEdit>("quantita");
+    quantity->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    set_look(quantity, "look", "over");
+    view->keep_over(quantity, evaso);
     add_grid_keys(window);
 
     auto* body = new QVBoxLayout;

@@ -12,7 +12,7 @@ void lay_out_mirorcz(form_window& window) {
              {"inserisci", "&Inserisci riga", "Inserisce una riga vuota sopra la corrente", "F7"}},
             {3, {"cancella", "&Cancella riga", "Toglie la riga corrente", "Shift+F7"}},
             {5, {"clienti", "C&liente", "Cliente e riferimenti dell'ordine", "F6"}},
-            {6, {"elimina", "Eli&mina ordine", "Elimina l'ordine", "Ctrl+Del"}},
+            {6, {"elimina", "Elimi&na ordine", "Elimina l'ordine", "Ctrl+Del"}},
             {4, {"stampante", "S&tampante", "Imposta la stampante", "Ctrl+P"}},
             {0, {"uscita", "&Esci", "Lascia l'ordine senza salvare le modifiche", "Ctrl+Q"}},
         });
