@@ -60,12 +60,4 @@ bool text_reader::item(double& into) {
     return true;
 }
 
-bool text_reader::skip_lines(std::size_t count) {
-    std::string ignored;
-    for (; count > 0; --count) {
-        if (!line(ignored)) return false;
-    }
-    return true;
-}
-
 }  // namespace vantora

@@ -26,9 +26,6 @@ class text_reader {
     /// An item read as a number by the lenient rule.
     bool item(double& into);
 
-    /// Passes over `count` lines. False if one of them was not there.
-    bool skip_lines(std::size_t count);
-
  private:
     void skip_line_end();
 

@@ -47,7 +47,6 @@ TEST(text_reader, TheRestBehindAnItemIsItsLineOrTheNextOne) {
     ASSERT_TRUE(reader.item(text));
     ASSERT_TRUE(reader.line(text));
     EXPECT_EQ(text, "next");
-    EXPECT_FALSE(reader.skip_lines(2));
 }
 
 TEST(text_reader, ReadingPastTheEndLeavesTheVariable) {
