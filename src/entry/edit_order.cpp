@@ -1,64 +1,99 @@
 #include "entry/edit_order.h"
 
+#include <algorithm>
+#include <vector>
+
 #include "program/stock.h"
 
 namespace vantora {
 
 namespace {
 
+/// Whether taking the stored rows out moves any stock; if they can't be told, they may.
+bool rows_move_stock(const archivi& files, const ordine_esistente& order) {
+    std::vector<rec_orc> rows(righe_blocco);
+    if (!files.orc.read_block(block_record(order.registrazione, 1), rows)) return true;
+    return std::ranges::any_of(rows, [&](const rec_orc& row) {
+        return row.quantita != 0 && is_article(row.articolo, order.articoli);
+    });
+}
+
+/// What is looked at before an order is written over.
+write_plan plan_of(archivi& files, const ordine_esistente& order, bool lines_move_stock) {
+    write_plan plan;
+    plan.writes(files.orc, block_record(order.registrazione, 1), righe_blocco);
+    if (lines_move_stock || rows_move_stock(files, order)) plan.changes(files.art);
+    return plan;
+}
+
 /// Takes what a stored row still has open out of its article. The check box counts as it is now,
 /// not as it was when the row was stored.
-bool undo_row(archivi& files, const ordine_esistente& order, const rec_orc& row) {
+bool undo_row(archivi& files, const ordine_esistente& order, const rec_orc& row,
+              write_faults& faults) {
     if (row.quantita == 0) return false;
-    return change_article(files.art, row.articolo, order.articoli, [&](rec_art& article) {
+    return change_article(files.art, row.articolo, order.articoli, faults, [&](rec_art& article) {
         release_stock(article, row.quantita - row.evaso, order.impegno);
     });
 }
 
-bool apply_line(archivi& files, const ordine_esistente& order, const riga_ordine& line) {
+bool apply_line(archivi& files, const ordine_esistente& order, const riga_ordine& line,
+                write_faults& faults) {
     if (line.quantita == 0) return false;
-    return change_article(files.art, line.articolo, order.articoli, [&](rec_art& article) {
+    return change_article(files.art, line.articolo, order.articoli, faults, [&](rec_art& article) {
         order_stock(article, line.quantita - line.evaso, order.impegno);
     });
 }
 
-void flush(archivi& files, bool stock_moved) {
-    if (stock_moved) files.art.flush();
-    files.orc.flush();
+void flush(archivi& files, bool stock_moved, write_faults& faults) {
+    if (stock_moved) faults.note(files.art.flush(), files.art);
+    faults.note(files.orc.flush(), files.orc);
 }
 
 }  // namespace
 
-void salva_ordine(archivi& files, const ordine_esistente& order, const testata_registrata& head,
-                  bool evaso, const righe_ordine& lines) {
+write_outcome salva_ordine(archivi& files, const ordine_esistente& order,
+                           const testata_registrata& head, bool evaso, const righe_ordine& lines) {
+    const instance_lock alone(files.tot, instance_lock::kind::records);
+    write_outcome outcome(alone,
+                          plan_of(files, order, lines_with_stock(lines, order.articoli) > 0));
+    if (!outcome.begun()) return outcome;
+    write_faults& faults = outcome.faults;
+
     bool stock_moved = false;
     rec_orc row;
     for (int number = 1; number <= righe_blocco; ++number) {
         const std::int64_t record = block_record(order.registrazione, number);
-        if (!files.orc.read(record, row)) continue;
-        stock_moved |= undo_row(files, order, row);
+        if (!faults.note(files.orc.read(record, row), files.orc)) continue;
+        stock_moved |= undo_row(files, order, row, faults);
         fill_head(row, head, static_cast<std::size_t>(number));
         fill_line(row, lines[number]);
         row.evaso = lines[number].evaso;
         row.evaso_flag = evaso ? 1 : 0;
         row.annullato = 0;
-        stock_moved |= apply_line(files, order, lines[number]);
-        files.orc.write(record, row);
+        stock_moved |= apply_line(files, order, lines[number], faults);
+        faults.note(files.orc.write(record, row), files.orc);
     }
-    flush(files, stock_moved);
+    flush(files, stock_moved, faults);
+    return outcome;
 }
 
-void elimina_ordine(archivi& files, const ordine_esistente& order) {
+write_outcome elimina_ordine(archivi& files, const ordine_esistente& order) {
+    const instance_lock alone(files.tot, instance_lock::kind::records);
+    write_outcome outcome(alone, plan_of(files, order, false));
+    if (!outcome.begun()) return outcome;
+    write_faults& faults = outcome.faults;
+
     bool stock_moved = false;
     rec_orc row;
     for (int number = 1; number <= righe_blocco; ++number) {
         const std::int64_t record = block_record(order.registrazione, number);
-        if (!files.orc.read(record, row)) continue;
-        stock_moved |= undo_row(files, order, row);
+        if (!faults.note(files.orc.read(record, row), files.orc)) continue;
+        stock_moved |= undo_row(files, order, row, faults);
         row.annullato = 1;
-        files.orc.write(record, row);
+        faults.note(files.orc.write(record, row), files.orc);
     }
-    flush(files, stock_moved);
+    flush(files, stock_moved, faults);
+    return outcome;
 }
 
 }  // namespace vantora

@@ -2,6 +2,7 @@
 
 #include "entry/order_rows.h"
 #include "store/archives.h"
+#include "store/write_outcome.h"
 
 namespace vantora {
 
@@ -16,14 +17,15 @@ struct ordine_esistente {
 /// of its article, what the new line has open is put in, and the row is written, its other fields
 /// as the file has them; `data_reg` too. The counters stay. At the end all is on the disk.
 ///
-/// Failed reads and writes are passed over: an article or a row that can't be read is left alone,
-/// and a row that is left alone moves no stock. What ends the program on the way leaves rows before
-/// it new, rows behind it old, each with its article's stock.
-void salva_ordine(archivi& files, const ordine_esistente& order, const testata_registrata& head,
-                  bool evaso, const righe_ordine& lines);
+/// Failed reads and writes are passed over and noted: an article or a row that can't be read is
+/// left alone, and a row that is left alone moves no stock. What ends the program on the way leaves
+/// rows before it new, rows behind it old, each with its article's stock. It doesn't begin if a
+/// file can't be written, the disk has no room, or another station compacts the archive.
+write_outcome salva_ordine(archivi& files, const ordine_esistente& order,
+                           const testata_registrata& head, bool evaso, const righe_ordine& lines);
 
 /// Deletes an order: what its stored rows still had open is taken out of their articles, and every
 /// row is marked, under the same rules. The block stays until the archive is compacted.
-void elimina_ordine(archivi& files, const ordine_esistente& order);
+write_outcome elimina_ordine(archivi& files, const ordine_esistente& order);
 
 }  // namespace vantora

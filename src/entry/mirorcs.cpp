@@ -40,7 +40,7 @@ void mirorcs::open() {
     }
 }
 
-bool mirorcs::store() {
+write_outcome mirorcs::store() {
     app_.data_sistema = date_number(app_.desk.clock().now());
     testata_registrata saved = testata_da_registrare(head(), chosen_price());
     saved.cliente = app_.selezione_1;

@@ -14,7 +14,7 @@ class mirorcs final : public order_screen {
 
  protected:
     void open() override;
-    bool store() override;
+    write_outcome store() override;
     void run_own_command(int command) override;
 
  private:

@@ -5,6 +5,7 @@
 #include "customer/shipping_data.h"
 #include "entry/order_head.h"
 #include "entry/stored_lines.h"
+#include "program/write_messages.h"
 
 namespace vantora {
 
@@ -56,12 +57,11 @@ ordine_esistente mirorcz::order() const {
     return {app_.selezione_1, lookup_.articles(), impegno.on()};
 }
 
-bool mirorcz::store() {
+write_outcome mirorcz::store() {
     testata_registrata saved = testata_da_registrare(head(), chosen_price());
     saved.cliente = app_.selezione_2;
     saved.impegno = impegno.on();
-    salva_ordine(app_.archives, order(), saved, eva.on(), righe_);
-    return true;
+    return salva_ordine(app_.archives, order(), saved, eva.on(), righe_);
 }
 
 void mirorcz::run_own_command(int command) {
@@ -75,12 +75,15 @@ void mirorcz::change_head() {
 }
 
 void mirorcz::delete_order() {
-    if (!app_.desk.ask("Sei proprio sicuro?", "Eliminazione ordine")) return;
+    if (!app_.desk.ask("Sei proprio sicuro?", "Eliminazione ordine", ui::icon::question,
+                       ui::answer::no)) {
+        return;
+    }
     const work deleting(*this);
     app_.desk.set_pointer(ui::pointer::busy);
-    elimina_ordine(app_.archives, order());
+    const write_outcome outcome = elimina_ordine(app_.archives, order());
     app_.desk.set_pointer(ui::pointer::normal);
-    leave();
+    if (was_written(app_.desk, outcome)) leave();
 }
 
 }  // namespace vantora

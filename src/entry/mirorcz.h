@@ -13,7 +13,7 @@ class mirorcz final : public order_screen {
 
  protected:
     void open() override;
-    bool store() override;
+    write_outcome store() override;
     void run_own_command(int command) override;
 
  private:

@@ -3,6 +3,7 @@
 #include "customer/customer_head.h"
 #include "entry/order_head.h"
 #include "entry/order_printing.h"
+#include "program/write_messages.h"
 #include "store/text/number_text.h"
 
 namespace vantora {
@@ -54,13 +55,9 @@ void order_screen::run_command(int command) {
 void order_screen::save() {
     const work saving(*this);
     app_.desk.set_pointer(ui::pointer::busy);
-    const bool saved = store();
+    const write_outcome outcome = store();
     app_.desk.set_pointer(ui::pointer::normal);
-    if (!saved) {
-        app_.desk.message("Archivio degli ordini non leggibile: l'ordine non è stato salvato"_cp,
-                          "Attenzione", ui::icon::stop);
-        return;
-    }
+    if (!was_written(app_.desk, outcome)) return;
     offer_to_print();
     app_.ricarica_registro = 1;
     leave();

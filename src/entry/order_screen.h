@@ -1,6 +1,7 @@
 #pragma once
 
 #include "entry/line_grid.h"
+#include "store/write_outcome.h"
 
 namespace vantora {
 
@@ -25,8 +26,8 @@ class order_screen : public line_grid {
 
     /// The screen becomes active.
     virtual void open() = 0;
-    /// Stores the order; false if that isn't possible: the screen then stays.
-    virtual bool store() = 0;
+    /// Stores the order. If that doesn't begin, the screen stays.
+    virtual write_outcome store() = 0;
     /// A command that leaves and saving don't cover.
     virtual void run_own_command(int command) = 0;
 

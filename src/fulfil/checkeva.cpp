@@ -4,6 +4,7 @@
 #include "fulfil/mirorca.h"
 #include "fulfil/mirorcc.h"
 #include "fulfil/mirorcr.h"
+#include "program/write_messages.h"
 #include "store/records/order_block.h"
 
 namespace vantora {
@@ -13,16 +14,35 @@ namespace vantora {
 
 void mirorcr::checkeva() {
     app_.desk.set_pointer(ui::pointer::busy);
+    const write_outcome outcome = book();
+    app_.desk.set_pointer(ui::pointer::normal);
+    if (!was_written(app_.desk, outcome)) return;
+    app_.ricarica_registro = 1;
+    hide();
+    app_.mirorca.use().show();
+}
+
+write_outcome mirorcr::book() {
+    const instance_lock alone(app_.archives.tot, instance_lock::kind::records);
+    write_outcome outcome(alone, booking_plan());
+    if (!outcome.begun()) return outcome;
     app_.mirorca->empty_hand_over();
     book_marked_rows();
     close_fulfilled_orders();
     // The goods are booked before anything is made of them.
-    app_.archives.art.flush();
-    app_.archives.orc.flush();
-    app_.ricarica_registro = 1;
-    app_.desk.set_pointer(ui::pointer::normal);
-    hide();
-    app_.mirorca.use().show();
+    outcome.faults.note(app_.archives.art.flush(), app_.archives.art);
+    outcome.faults.note(app_.archives.orc.flush(), app_.archives.orc);
+    return outcome;
+}
+
+write_plan mirorcr::booking_plan() const {
+    write_plan plan;
+    for (int row = 1; row < righe_; ++row) {
+        if (number_in(row, numero_riga) <= 0) continue;
+        plan.changes(app_.archives.orc);
+        if (number_in(row, evaso) != 0) plan.changes(app_.archives.art);
+    }
+    return plan;
 }
 
 void mirorcr::book_marked_rows() {

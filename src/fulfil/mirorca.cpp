@@ -6,6 +6,7 @@
 #include "fulfil/mirorcc.h"
 #include "fulfil/salva_ddt.h"
 #include "fulfil/unloading.h"
+#include "program/write_messages.h"
 #include "store/text/dates.h"
 #include "store/text/int16.h"
 #include "store/text/number_text.h"
@@ -101,6 +102,7 @@ void mirorca::activate() {
     if (at_work()) return;
     Picture1.set_visible(false);
     Combo1.set_visible(false);
+    unloaded_ = false;
     open_lines(app_.selezione_1);
     take_lines_over();
     // The other way round than on orders.
@@ -143,10 +145,11 @@ void mirorca::cancel() {
 void mirorca::confirm() {
     {
         const work confirming(*this);
-        if (scarica.on() && !unload_goods()) return;
+        if (scarica.on() && !unloaded_ && !unload_goods()) return;
         app_.desk.set_pointer(ui::pointer::normal);
-        if (app_.desk.ask("Stampare il documento di trasporto?", "Evasione ordine")) {
-            make_document();
+        if (app_.desk.ask("Stampare il documento di trasporto?", "Evasione ordine") &&
+            !make_document()) {
+            return;
         }
     }
     leave();
@@ -164,10 +167,12 @@ bool mirorca::unload_goods() {
     app_.desk.set_pointer(ui::pointer::busy);
     const movimento_magazzino movement{day, text1[0].text(), text1[1].text(), app_.data_sistema,
                                        app_.selezione_1};
-    scarica_magazzino(
+    const write_outcome outcome = scarica_magazzino(
         app_.archives, movement, righe_, lookup_.articles(), valuta_,
         [this](const rec_art& article) { return ask_to_unload(article); }, [this] { paint(); });
-    return true;
+    app_.desk.set_pointer(ui::pointer::normal);
+    unloaded_ = was_written(app_.desk, outcome);
+    return unloaded_;
 }
 
 bool mirorca::ask_to_unload(const rec_art& article) {
@@ -183,7 +188,7 @@ bool mirorca::ask_to_unload(const rec_art& article) {
     return unload;
 }
 
-void mirorca::make_document() {
+bool mirorca::make_document() {
     const mirorcc& head = *app_.mirorcc;
     ddt_da_registrare document;
     for (std::size_t i = 0; i < 22; ++i) document.text2[i] = head.Text2[i].text();
@@ -195,8 +200,12 @@ void mirorca::make_document() {
     document.cliente = app_.selezione_1;
     document.data_reg = app_.data_sistema;
     document.scaricato = scarica.on();
-    salva_ddt(app_.archives, app_.files, app_.parameters.numero_azienda, document, righe_);
+    if (!was_written(app_.desk, salva_ddt(app_.archives, app_.files, app_.parameters.numero_azienda,
+                                          document, righe_))) {
+        return false;
+    }
     print(head);
+    return true;
 }
 
 void mirorca::print(const mirorcc& head) {

@@ -41,9 +41,12 @@ class mirorca final : public line_grid {
     void confirm();
     bool unload_goods();
     bool ask_to_unload(const rec_art& article);
-    void make_document();
+    /// False if the document couldn't be stored: it isn't printed then, and the screen stays.
+    bool make_document();
     void print(const mirorcc& head);
     void leave();
+
+    bool unloaded_ = false;  ///< the goods have left; confirming again must not move them again
 };
 
 }  // namespace vantora

@@ -66,6 +66,10 @@ class mirorcr final : public ui::form {
     // Booking -----------------------------------------------------------------------------------
 
     void checkeva();
+    /// Books what leaves and closes the orders it ends.
+    write_outcome book();
+    /// What is looked at before the first row is booked.
+    [[nodiscard]] write_plan booking_plan() const;
     void book_marked_rows();
     void take_transport_data(int order);
     void close_fulfilled_orders();

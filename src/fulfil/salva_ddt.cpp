@@ -71,26 +71,32 @@ std::string snapshot_of(const ddt_da_registrare& document, const righe_ordine& l
 
 }  // namespace
 
-void salva_ddt(archivi& files, file_port& port, int numero_azienda,
-               const ddt_da_registrare& document, const righe_ordine& lines) {
+write_outcome salva_ddt(archivi& files, file_port& port, int numero_azienda,
+                        const ddt_da_registrare& document, const righe_ordine& lines) {
+    const instance_lock alone(files.tot, instance_lock::kind::records);
+    write_plan plan;
     rec_tot counter;
-    if (!files.tot.read(contatori::documenti_trasporto, counter)) return;
-    const auto number = to_int16(number_at_head(document.text3[0]));
+    plan.counts(files.tot, contatori::documenti_trasporto, counter);
     counter.quanti = add_int16(counter.quanti, 1).value_or(counter.quanti);
+    plan.writes(files.bol, counter.quanti, 1);
+    write_outcome outcome(alone, plan);
+    if (!outcome.begun()) return outcome;
+    write_faults& faults = outcome.faults;
+
+    const auto number = to_int16(number_at_head(document.text3[0]));
     counter.ultimo_numero = number.value_or(counter.ultimo_numero);
     counter.progressivo = next_progressive(counter.progressivo);
-    files.tot.write(contatori::documenti_trasporto, counter);
-    files.bol.write(counter.quanti, record_of(document, number.value_or(0), counter.progressivo));
-    files.tot.flush();
-    files.bol.flush();
+    faults.note(files.tot.write(contatori::documenti_trasporto, counter), files.tot);
+    const rec_bol record = record_of(document, number.value_or(0), counter.progressivo);
+    faults.note(files.bol.write(counter.quanti, record), files.bol);
+    faults.note(files.tot.flush(), files.tot);
+    faults.note(files.bol.flush(), files.bol);
 
-    const std::string path =
-        cartella_azienda(numero_azienda) + "\\b" + masked(counter.progressivo, "##########0");
-    const auto file = port.create(path);
-    if (!file) return;
+    const std::string name = "b" + masked(counter.progressivo, "##########0");
+    const auto file = port.create(cartella_azienda(numero_azienda) + "\\" + name);
     const std::string content = snapshot_of(document, lines);
-    file->write(0, std::as_bytes(std::span(content)));
-    file->flush();
+    faults.note(file && file->write(0, std::as_bytes(std::span(content))) && file->flush(), name);
+    return outcome;
 }
 
 }  // namespace vantora

@@ -49,12 +49,21 @@ std::string giorno_movimento(std::string_view dd_mm_yyyy) {
     return stored_of_date_text(typed);
 }
 
-void scarica_magazzino(archivi& files, const movimento_magazzino& movement, righe_ordine& lines,
-                       std::int16_t articles, const valuta& amounts,
-                       const std::function<bool(const rec_art&)>& unload_anyway,
-                       const std::function<void()>& line_dropped) {
+write_outcome scarica_magazzino(archivi& files, const movimento_magazzino& movement,
+                                righe_ordine& lines, std::int16_t articles, const valuta& amounts,
+                                const std::function<bool(const rec_art&)>& unload_anyway,
+                                const std::function<void()>& line_dropped) {
+    const instance_lock alone(files.tot, instance_lock::kind::records);
+    write_plan plan;
     rec_tot counter;
-    require(files.tot.read(contatori::magazzino, counter));
+    plan.counts(files.tot, contatori::magazzino, counter);
+    if (const int moving = lines_with_stock(lines, articles); moving > 0) {
+        plan.changes(files.art);
+        plan.writes(files.mag, counter.quanti + 1, moving);
+    }
+    write_outcome outcome(alone, plan);
+    if (!outcome.begun()) return outcome;
+
     for (int number = 1; number <= righe_ordine::massimo; ++number) {
         riga_ordine& line = lines[number];
         if (line.quantita == 0 || !is_article(line.articolo, articles)) continue;
@@ -79,11 +88,12 @@ void scarica_magazzino(archivi& files, const movimento_magazzino& movement, righ
         counter.quanti = *next;
         require(files.mag.write(*next, movement_of(movement, line, net_price)));
     }
-    files.art.flush();
-    files.mag.flush();
+    outcome.faults.note(files.art.flush(), files.art);
+    outcome.faults.note(files.mag.flush(), files.mag);
     counter.modificato = 1;
     require(files.tot.write(contatori::magazzino, counter));
-    files.tot.flush();
+    outcome.faults.note(files.tot.flush(), files.tot);
+    return outcome;
 }
 
 }  // namespace vantora

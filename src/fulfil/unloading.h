@@ -6,6 +6,7 @@
 #include "program/order_lines.h"
 #include "store/archives.h"
 #include "store/values.h"
+#include "store/write_outcome.h"
 
 namespace vantora {
 
@@ -28,9 +29,13 @@ std::string giorno_movimento(std::string_view dd_mm_yyyy);
 ///
 /// Has no protection: what can't be read or written ends the program, as does a counter that is
 /// full, and the articles and movements written so far stay, uncounted. `articles`: how many.
-void scarica_magazzino(archivi& files, const movimento_magazzino& movement, righe_ordine& lines,
-                       std::int16_t articles, const valuta& amounts,
-                       const std::function<bool(const rec_art&)>& unload_anyway,
-                       const std::function<void()>& line_dropped);
+///
+/// Other stations are kept out until it ends, questions included. It doesn't begin if the counter
+/// makes no sense, a file can't be written, the disk has no room for the movements, or another
+/// station compacts the archive.
+write_outcome scarica_magazzino(archivi& files, const movimento_magazzino& movement,
+                                righe_ordine& lines, std::int16_t articles, const valuta& amounts,
+                                const std::function<bool(const rec_art&)>& unload_anyway,
+                                const std::function<void()>& line_dropped);
 
 }  // namespace vantora

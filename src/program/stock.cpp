@@ -40,4 +40,13 @@ void unload_stock(rec_art& article, double quantity, double net_price) {
     add(article.valore_scaricato, net_price * quantity);
 }
 
+int lines_with_stock(const righe_ordine& lines, int articles) {
+    int count = 0;
+    for (int number = 1; number <= righe_ordine::massimo; ++number) {
+        const riga_ordine& line = lines[number];
+        if (line.quantita != 0 && is_article(line.articolo, articles)) ++count;
+    }
+    return count;
+}
+
 }  // namespace vantora

@@ -1,7 +1,9 @@
 #pragma once
 
+#include "program/order_lines.h"
 #include "store/channel.h"
 #include "store/records/rec_art.h"
+#include "store/write_plan.h"
 
 namespace vantora {
 
@@ -25,6 +27,9 @@ constexpr bool is_article(int number, int articles) {
     return number >= 1 && number <= articles;
 }
 
+/// How many lines have stock behind them: those with a quantity of an article.
+int lines_with_stock(const righe_ordine& lines, int articles);
+
 /// Reads article `number`, changes it by `change(article)` and writes it back, with nothing
 /// between. True if it was written; an article out of range or unreadable is left alone.
 template <class Change>
@@ -33,6 +38,14 @@ bool change_article(channel<rec_art>& files, int number, int articles, Change ch
     if (!is_article(number, articles) || !files.read(number, article)) return false;
     change(article);
     return files.write(number, article);
+}
+
+/// The same for commands that pass faults over: they are noted.
+template <class Change>
+bool change_article(channel<rec_art>& files, int number, int articles, write_faults& faults,
+                    Change change) {
+    return is_article(number, articles) &&
+           faults.note(change_article(files, number, articles, change), files);
 }
 
 }  // namespace vantora

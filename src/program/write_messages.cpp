@@ -8,26 +8,30 @@ void warn(ui::desk& desk, const std::string& text) {
     desk.message(text, "Attenzione", ui::icon::stop);
 }
 
-}  // namespace
-
-bool may_write(ui::desk& desk, const instance_lock& lock) {
-    if (lock.may_go_on()) return true;
+void warn_of_compaction(ui::desk& desk) {
     warn(desk,
          "Un'altra postazione sta compattando l'archivio: nulla è stato salvato. Riprovare tra "
          "poco."_cp);
-    return false;
 }
 
-bool may_write(ui::desk& desk, const write_plan& plan) {
-    if (plan.possible()) return true;
-    warn(desk, "Impossibile leggere o scrivere il file "_cp + plan.obstacle() +
-                   ": nulla è stato salvato."_cp);
-    return false;
+}  // namespace
+
+bool may_write(ui::desk& desk, const instance_lock& lock) {
+    if (!lock.may_go_on()) warn_of_compaction(desk);
+    return lock.may_go_on();
 }
 
-void tell_faults(ui::desk& desk, const write_faults& faults) {
-    if (faults.none()) return;
-    warn(desk, "Salvataggio incompleto: errore di scrittura su "_cp + faults.names() + "."_cp);
+bool was_written(ui::desk& desk, const write_outcome& outcome) {
+    if (outcome.compaction_elsewhere()) {
+        warn_of_compaction(desk);
+    } else if (!outcome.begun()) {
+        warn(desk, "Impossibile leggere o scrivere il file "_cp + outcome.obstacle() +
+                       ": nulla è stato salvato."_cp);
+    } else if (!outcome.faults.none()) {
+        warn(desk,
+             "Salvataggio avvenuto solo in parte: errore su "_cp + outcome.faults.names() + "."_cp);
+    }
+    return outcome.begun();
 }
 
 void tell_not_compacted(ui::desk& desk, const std::string& files) {

@@ -1,21 +1,20 @@
 #pragma once
 
-#include "store/instance_lock.h"
-#include "store/write_plan.h"
+#include "store/write_outcome.h"
 #include "ui/desk.h"
 
 namespace vantora {
 
 // What the user is told of writes that can't be made, or weren't made whole.
 
-/// Whether writing may begin. If another station compacts the archive, or something stands in the
-/// way of what is planned, a message says so, and which file; nothing is to be written then, and
-/// what was typed stays.
+/// Whether writing may begin. If another station compacts the archive, a message says so; nothing
+/// is to be written then.
 bool may_write(ui::desk& desk, const instance_lock& lock);
-bool may_write(ui::desk& desk, const write_plan& plan);
 
-/// Names the files that refused a write or a flush on the way; nothing if all went well.
-void tell_faults(ui::desk& desk, const write_faults& faults);
+/// True if `outcome` began; a message then names the files that refused on the way, if there are
+/// any. False if nothing was written: a message says what stood in the way, and what was typed is
+/// to stay. Other stations are not to be kept out any more: the message waits for its answer.
+bool was_written(ui::desk& desk, const write_outcome& outcome);
 
 /// A compaction stopped short: which files refused.
 void tell_not_compacted(ui::desk& desk, const std::string& files);

@@ -49,13 +49,16 @@ class write_plan {
     std::string obstacle_;
 };
 
-/// The files that refused a write or a flush on the way all the same.
+/// The files that refused a read, a write or a flush on the way all the same.
 class write_faults {
  public:
-    /// Takes the outcome of one write or flush; returns it.
+    /// Takes the outcome of one read, write or flush; returns it.
     template <class Record>
     bool note(bool done, const channel<Record>& records) {
-        const std::string& name = records.name().empty() ? unnamed : records.name();
+        return note(done, records.name());
+    }
+    bool note(bool done, std::string_view file) {
+        const std::string_view name = file.empty() ? "?" : file;
         if (!done && names_.find(name) == std::string::npos) {
             if (!names_.empty()) names_ += ", ";
             names_ += name;
@@ -68,7 +71,6 @@ class write_faults {
     [[nodiscard]] const std::string& names() const { return names_; }
 
  private:
-    static inline const std::string unnamed = "?";
     std::string names_;
 };
 

@@ -196,16 +196,6 @@ TEST(edit_order, SessionsLeaveTheBytesOfBooksKeptByHand) {
     }
 }
 
-TEST(edit_order, AnOrderSavedAsItWasLeavesItsArticlesAlone) {
-    edit_stage stage(3);
-    const testata_registrata head = stage.any_head();
-    const righe_ordine lines = stage.any_lines();
-    salva_ordine(stage.files, stage.order(false), head, false, lines);
-    const plain_books once(stage.files);
-    salva_ordine(stage.files, stage.order(false), head, false, lines);
-    EXPECT_TRUE(once == plain_books(stage.files));
-}
-
 /// What a save or a deletion does, and what it left after a fault.
 struct fault_case {
     bool deletes;
@@ -232,10 +222,10 @@ struct fault_case {
         stage.faults.writes = 0;
     }
     plain_books books_before() { return plain_books(stage.company.files); }
-    void run() {
+    write_outcome run() {
         if (deletes) return elimina_ordine(stage.files, stage.order(true));
         head.impegno = true;
-        salva_ordine(stage.files, stage.order(true), head, true, lines);
+        return salva_ordine(stage.files, stage.order(true), head, true, lines);
     }
     plain_books books_after() {
         plain_books books = books_before();
@@ -316,13 +306,14 @@ TEST(edit_order, AFailedReadOrWriteSparesAllThatItDoesntTouch) {
                     };
                 } else {
                     one.stage.faults.read_fails = [&](const std::string& path, std::int64_t at,
-                                                      std::size_t) {
-                        if (!fails()) return false;
+                                                      std::size_t size) {
+                        const bool look_before = size > 327;
+                        if (look_before || !fails()) return false;
                         if (path.ends_with("orc")) unread.push_back(at / 284 + 1);
                         return true;
                     };
                 }
-                one.run();
+                EXPECT_FALSE(one.run().faults.none());
                 plain_books left = one.books_before();
                 for (int i = 1; i <= 200; ++i) {
                     ASSERT_TRUE(same_bytes(left.row(i), after.row(i)) ||

@@ -67,7 +67,8 @@ TEST(save_order, WritesTwoHundredRowsBehindTheLastBlock) {
     lines[1] = line_of(0, 2.5, long_text);
     lines[200] = line_of(-4, 0, "ultima");
     ASSERT_TRUE(
-        salva_nuovo_ordine(company.files, head_of("12/B-0000000000", true), data_reg, lines, 0));
+        salva_nuovo_ordine(company.files, head_of("12/B-0000000000", true), data_reg, lines, 0)
+            .begun());
 
     EXPECT_EQ(std::filesystem::file_size(company.file("orc")), 1600U * 284);
     const rec_orc first = row_of(company.files, 8, 1);
@@ -118,7 +119,8 @@ TEST(save_order, CountersTakeWhatFitsAndKeepTheRest) {
         before.ultimo_numero = 55;
         before.progressivo = 7.5F;
         company.files.tot.write(contatori::ordini, before);
-        ASSERT_TRUE(salva_nuovo_ordine(company.files, head_of(one.number), data_reg, {}, 0));
+        ASSERT_TRUE(
+            salva_nuovo_ordine(company.files, head_of(one.number), data_reg, {}, 0).begun());
         const rec_tot after = counter_of(company.files);
         EXPECT_EQ(after.quanti, one.then_in_use) << one.number;
         EXPECT_EQ(after.ultimo_numero, one.then_last) << one.number;
@@ -153,8 +155,8 @@ TEST(save_order, StockIsCommittedAsFarAsItGoes) {
         lines[number++] = line_of(3, 5);
         lines[number++] = line_of(0, 5);
         lines[number++] = line_of(-1, 5);
-        ASSERT_TRUE(
-            salva_nuovo_ordine(company.files, head_of("1", one.commit), data_reg, lines, 2));
+        ASSERT_TRUE(salva_nuovo_ordine(company.files, head_of("1", one.commit), data_reg, lines, 2)
+                        .begun());
         rec_art after;
         company.files.art.read(2, after);
         EXPECT_EQ((figures{after.giacenza, after.impegnato, after.ordinato_clienti}), one.after);
@@ -179,7 +181,9 @@ struct save_bench {
         faults.events.clear();
         faults.writes = 0;
     }
-    bool save() { return salva_nuovo_ordine(files, head_of("2", true), data_reg, lines, 3); }
+    write_outcome save() {
+        return salva_nuovo_ordine(files, head_of("2", true), data_reg, lines, 3);
+    }
     double ordered(int number) {
         rec_art read;
         company.files.art.read(number, read);
@@ -199,7 +203,7 @@ std::string extension(const std::string& path) {
 
 TEST(save_order, EveryRowFollowsItsArticleAndTheCounterFollowsTheDisk) {
     save_bench bench;
-    ASSERT_TRUE(bench.save());
+    ASSERT_TRUE(bench.save().faults.none());
     std::vector<std::string> order;
     for (const auto& event : bench.faults.events) {
         order.push_back(extension(event.path) + (event.flush ? "!" : ""));
@@ -241,7 +245,7 @@ TEST(save_order, ACrashLeavesNoCountedOrderWithoutItsStockMovements) {
         // The next order takes the same block and the archive is whole again.
         if (!crashed) continue;
         bench.faults.writes_before_crash = 1000;
-        ASSERT_TRUE(salva_nuovo_ordine(bench.files, head_of("3"), data_reg, {}, 3));
+        ASSERT_TRUE(salva_nuovo_ordine(bench.files, head_of("3"), data_reg, {}, 3).begun());
         EXPECT_EQ(counter_of(bench.company.files).quanti, 2);
         EXPECT_EQ(row_of(bench.company.files, 2, 1).numero.trimmed(), "3");
         EXPECT_EQ(row_of(bench.company.files, 2, 3).articolo, 0);
@@ -256,7 +260,8 @@ TEST(save_order, FailedWritesArePassedOverAndUnreadableArticlesLeftAlone) {
     bench.faults.write_fails = [](const std::string& path, std::int64_t offset) {
         return extension(path) == "orc" && offset == block_record(2, 2) * 284 - 284;
     };
-    ASSERT_TRUE(bench.save());
+    bench.faults.flush_fails = [](const std::string& path) { return extension(path) == "tot"; };
+    EXPECT_EQ(bench.save().faults.names(), "vantora.art, vantora.orc, vantora.tot");
     EXPECT_EQ(bench.ordered(1), 100);
     EXPECT_EQ(bench.ordered(3), 104);
     EXPECT_EQ(counter_of(bench.company.files).quanti, 2);
@@ -264,13 +269,31 @@ TEST(save_order, FailedWritesArePassedOverAndUnreadableArticlesLeftAlone) {
     EXPECT_EQ(row_of(bench.company.files, 2, 3).articolo, 3);
 }
 
-TEST(save_order, WithoutItsCounterNothingIsWritten) {
-    save_bench bench;
-    bench.faults.read_fails = [](const std::string& path, std::int64_t, std::size_t) {
-        return extension(path) == "tot";
-    };
-    EXPECT_FALSE(bench.save());
-    EXPECT_TRUE(bench.faults.events.empty());
+TEST(save_order, WhatStandsInTheWayIsNamedAndNothingIsWritten) {
+    enum class way { unreadable, negative, read_only, full };
+    const struct {
+        const char* file;
+        way how;
+    } cases[] = {{"tot", way::unreadable}, {"tot", way::negative},  {"tot", way::read_only},
+                 {"art", way::read_only},  {"orc", way::read_only}, {"orc", way::full}};
+    for (const auto& one : cases) {
+        save_bench bench;
+        const auto hit = [&one](const std::string& path, way how) {
+            return how == one.how && extension(path) == one.file;
+        };
+        bench.faults.read_fails = [&](auto& path, auto, auto) {
+            return hit(path, way::unreadable);
+        };
+        bench.faults.read_only = [&](auto& path) { return hit(path, way::read_only); };
+        bench.faults.room_lacks = [&](auto& path, std::int64_t end) {
+            return hit(path, way::full) && end == 400 * 284;
+        };
+        if (one.how == way::negative) bench.company.counter(contatori::ordini, -1);
+        const write_outcome outcome = bench.save();
+        EXPECT_FALSE(outcome.begun());
+        EXPECT_EQ(outcome.obstacle(), std::string("vantora.") + one.file);
+        EXPECT_TRUE(bench.faults.events.empty());
+    }
 }
 
 }  // namespace

@@ -138,11 +138,12 @@ TEST(fulfil_faults, BookingAndUnloadingEndTheProgramAtTheFirstFault) {
                 }
                 stage.go();
                 SCOPED_TRACE(std::to_string(n) + (once ? " once" : " for good"));
-                // Only the list of the register reads behind the last write, and passes faults
-                // over.
+                // Without its counter an unloading doesn't begin. Only the list of the register
+                // reads behind the last write, and passes faults over.
                 if (!stage.desk.ended()) {
-                    EXPECT_EQ(stage.left(), states.back());
-                    EXPECT_EQ(stage.writes(), writes);
+                    const bool begun = which == road::booking || n > 0;
+                    EXPECT_EQ(stage.writes(), begun ? writes : 0);
+                    EXPECT_EQ(stage.left(), begun ? states.back() : states.front());
                     continue;
                 }
                 EXPECT_EQ(stage.desk.ended()->message,
@@ -178,7 +179,7 @@ TEST(fulfil_faults, ADocumentPassesOverWhatFails) {
         stage.faults.read_fails = nullptr;
         EXPECT_FALSE(stage.desk.ended());
         EXPECT_EQ(stage.left(), booked + one.left) << one.file;
-        EXPECT_EQ(stage.desk.active()->name(), "mirorc");
+        EXPECT_EQ(stage.desk.active()->name(), one.reads ? "mirorca" : "mirorc");
     }
     fault_stage stage(road::document);
     std::filesystem::create_directory(stage.company.file("x").parent_path() / "b1");

@@ -27,7 +27,11 @@ struct order_line {
 class answering_user final : public silent_front_end {
  public:
     void run_until(const std::function<bool()>& done) override {
-        while (!done()) desk->answer_box(decide() ? ui::answer::yes : ui::answer::no);
+        while (!done()) {
+            if (!desk->answer_box(ui::answer::ok)) {
+                desk->answer_box(decide() ? ui::answer::yes : ui::answer::no);
+            }
+        }
     }
     ui::desk* desk = nullptr;
     std::function<bool()> decide = [] { return false; };
