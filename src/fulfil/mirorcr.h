@@ -1,6 +1,7 @@
 #pragma once
 
 #include "program/list_grid.h"
+#include "store/write_outcome.h"
 #include "ui/controls.h"
 
 namespace vantora {
