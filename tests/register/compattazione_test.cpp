@@ -92,36 +92,24 @@ std::vector<std::string> kept_numbers(archivi& files) {
 
 const auto no_progress = [](int) {};
 
-TEST(compattazione, KeepsTheRightOrdersInTheirOrder) {
-    using numbers = std::vector<std::string>;
-    struct {
-        const char* states;
-        bool fulfilled_too;
-        numbers kept;
-    } cases[] = {
-        {"", false, {}},
-        {"oof", false, {"1", "2", "3"}},
-        {"oof", true, {"1", "2"}},
-        {"ood", false, {"1", "2"}},
-        {"ddd", false, {}},
-        {"dobofd", false, {"2", "4", "5"}},
-        {"dobofd", true, {"2", "4"}},
-    };
-    for (const auto& one : cases) {
-        small_company company;
-        write_archive(company, one.states);
-        const auto length = std::filesystem::file_size(company.file("orc"));
-        rec_tot counter = counter_of(company.files);
-        compatta_archivio(company.files, counter, one.fulfilled_too, no_progress);
-        EXPECT_EQ(kept_numbers(company.files), one.kept) << one.states;
-        EXPECT_EQ(std::filesystem::file_size(company.file("orc")), length) << one.states;
-        const rec_tot written = counter_of(company.files);
-        EXPECT_EQ(written.modificato, 7);
-        EXPECT_EQ(written.riservato_a, 0);
-        EXPECT_EQ(written.ultimo_numero, 123);
-        EXPECT_EQ(written.progressivo, 4.5F);
+/// An archive whose files note what happens to them and fail where a test wants it.
+struct noted_archive {
+    explicit noted_archive(const std::string& states) {
+        write_archive(company, states);
+        apri_archivi(files, faults, 1);
+        counter = counter_of(files);
+        faults.reads = 0;
     }
-}
+    write_faults compact(bool fulfilled_too = false) {
+        return compatta_archivio(files, counter, fulfilled_too, no_progress);
+    }
+
+    small_company company;
+    drive real{company.drive()};
+    faulty_files faults{real};
+    archivi files;
+    rec_tot counter;
+};
 
 /// Two copies of one random archive: one compacted by the program, one by hand, with the same
 /// faults; both must hold the same bytes.
@@ -134,12 +122,6 @@ TEST(compattazione, LeavesTheSameBytesAsMovingRecordByRecord) {
         const bool fulfilled_too = random() % 2 == 0;
         const bool short_file = random() % 3 == 0;
         const std::int64_t bad_record = random() % 3 == 0 ? random() % 1800 + 1 : 0;
-        const auto prepare = [&](small_company& company) {
-            write_archive(company, states);
-            if (short_file && orders > 0) {
-                std::filesystem::resize_file(company.file("orc"), orders * 56800 - 30000);
-            }
-        };
         const auto touches_bad_record = [&](const std::string& path, std::int64_t offset,
                                             std::size_t size) {
             const std::int64_t bad = (bad_record - 1) * 284;
@@ -149,64 +131,47 @@ TEST(compattazione, LeavesTheSameBytesAsMovingRecordByRecord) {
 
         bytes results[2];
         for (const bool by_hand : {false, true}) {
-            small_company company;
-            prepare(company);
-            drive real(company.drive());
-            faulty_files faults(real);
-            faults.read_fails = touches_bad_record;
-            archivi files;
-            apri_archivi(files, faults, 1);
-            rec_tot counter = counter_of(files);
-            if (by_hand) {
-                compact_by_hand(files, counter, fulfilled_too);
-            } else {
-                compatta_archivio(files, counter, fulfilled_too, no_progress);
+            noted_archive one(states);
+            if (short_file && orders > 0) {
+                std::filesystem::resize_file(one.company.file("orc"), orders * 56800 - 30000);
             }
-            results[by_hand ? 1 : 0] = content(company.file("orc")) + content(company.file("tot"));
+            one.faults.read_fails = touches_bad_record;
+            if (by_hand) {
+                compact_by_hand(one.files, one.counter, fulfilled_too);
+            } else {
+                one.compact(fulfilled_too);
+            }
+            results[by_hand ? 1 : 0] =
+                content(one.company.file("orc")) + content(one.company.file("tot"));
         }
         EXPECT_EQ(results[0], results[1]) << states << " " << fulfilled_too << " " << bad_record;
     }
 }
 
 TEST(compattazione, FlushesTheBlocksBeforeTheCounter) {
-    small_company company;
-    write_archive(company, "odoo");
-    drive real(company.drive());
-    faulty_files notes(real);
-    archivi files;
-    apri_archivi(files, notes, 1);
-    rec_tot counter = counter_of(files);
-    compatta_archivio(files, counter, false, no_progress);
     const std::string orc = "\\mirwin\\mirwin\\miraz0.001\\vantora.orc";
     const std::string tot = "\\mirwin\\mirwin\\miraz0.001\\vantora.tot";
-    const std::vector<file_event> expected = {{orc, 56800, 56800, false},
-                                              {orc, 2 * 56800, 56800, false},
-                                              {orc, 0, 0, true},
-                                              {tot, 13 * 12, 12, false},
-                                              {tot, 0, 0, true}};
-    EXPECT_EQ(notes.events, expected);
-}
-
-TEST(compattazione, WritesNothingButTheCounterWithoutGaps) {
-    small_company company;
-    write_archive(company, "oof");
-    drive real(company.drive());
-    faulty_files notes(real);
-    archivi files;
-    apri_archivi(files, notes, 1);
-    rec_tot counter = counter_of(files);
-    compatta_archivio(files, counter, false, no_progress);
-    EXPECT_EQ(notes.writes, 1U);
-    EXPECT_EQ(notes.reads, 4U) << "the counter, and the head row of each block";
+    const file_event counted{tot, 13 * 12, 12, false};
+    const file_event safe{tot, 0, 0, true};
+    noted_archive gap("odoo");
+    gap.compact();
+    EXPECT_EQ(gap.faults.events, (std::vector<file_event>{{orc, 56800, 56800, false},
+                                                          {orc, 2 * 56800, 56800, false},
+                                                          {orc, 0, 0, true},
+                                                          counted,
+                                                          safe}));
+    noted_archive whole("oof");
+    whole.compact();
+    EXPECT_EQ(whole.faults.events, (std::vector<file_event>{counted, safe}));
+    EXPECT_EQ(whole.faults.reads, 3U) << "the head row of each block";
 }
 
 TEST(compattazione, KilledAfterAnyWriteLeavesMovedBlocksTwiceAndTheOldCount) {
-    const std::string states = "odoodoo";
     const std::vector<int> moves_from = {3, 4, 6, 7};
     const std::vector<int> moves_to = {2, 3, 4, 5};
     for (std::size_t done = 0; done <= moves_from.size(); ++done) {
-        small_company company;
-        write_archive(company, states);
+        noted_archive archive("odoodoo");
+        const small_company& company = archive.company;
         bytes expected = content(company.file("orc"));
         const bytes old_counters = content(company.file("tot"));
         for (std::size_t i = 0; i < done; ++i) {
@@ -214,13 +179,8 @@ TEST(compattazione, KilledAfterAnyWriteLeavesMovedBlocksTwiceAndTheOldCount) {
             const auto to = static_cast<std::size_t>(moves_to[i] - 1) * 56800;
             expected.replace(to, 56800, bytes(expected, from, 56800));
         }
-        drive real(company.drive());
-        faulty_files faults(real);
-        faults.writes_before_crash = done;
-        archivi files;
-        apri_archivi(files, faults, 1);
-        rec_tot counter = counter_of(files);
-        EXPECT_THROW(compatta_archivio(files, counter, false, no_progress), crash);
+        archive.faults.writes_before_crash = done;
+        EXPECT_THROW(archive.compact(), crash);
         EXPECT_EQ(content(company.file("orc")), expected) << done;
         EXPECT_EQ(content(company.file("tot")), old_counters) << done;
     }
@@ -270,13 +230,8 @@ TEST(compattazione, WhateverFailsNoOrderIsLost) {
     for (int fault = 0; fault < 60; ++fault) {
         const int nth = fault / 2;
         const bool for_good = fault % 2 == 1;
-        small_company company;
-        write_archive(company, "odoodo");
-        drive real(company.drive());
-        faulty_files faults(real);
-        archivi files;
-        apri_archivi(files, faults, 1);
-        rec_tot counter = counter_of(files);
+        noted_archive archive("odoodo");
+        faulty_files& faults = archive.faults;
         int done = 0;
         const auto fails = [&] { return for_good ? done++ >= nth : done++ == nth; };
         // A head that can't be read counts as the one before, here as well as in the books.
@@ -285,8 +240,8 @@ TEST(compattazione, WhateverFailsNoOrderIsLost) {
         };
         faults.write_fails = [&](auto&&...) { return fails(); };
         faults.flush_fails = [&](auto&&...) { return fails(); };
-        const auto told = compatta_archivio(files, counter, false, no_progress);
-        const auto left = kept_numbers(company.files);
+        const auto told = archive.compact();
+        const auto left = kept_numbers(archive.company.files);
         if (told.none()) {
             EXPECT_EQ(left, kept) << nth;
             continue;

@@ -42,6 +42,11 @@ class mirorc : public testing::Test {
         std::ofstream out(company.file("gnr"), std::ios::binary);
         out.write(reinterpret_cast<const char*>(&record), sizeof record);
     }
+    void set_view(int stored) {
+        auto record = parameters();
+        record.vista_registro = static_cast<std::int16_t>(stored);
+        set_parameters(record);
+    }
     json run(const std::vector<std::string>& commands) {
         return run_script(company.drive(), commands);
     }
@@ -88,13 +93,6 @@ TEST_F(mirorc, ListsOrdersOfEveryState) {
     EXPECT_EQ(rows({}, "0 7"), expected);
 }
 
-TEST_F(mirorc, NeverShowsFewerThanAPageOfRows) {
-    for (const auto& [orders, shown] : {std::pair{0, 26}, {24, 26}, {25, 26}, {26, 27}}) {
-        fill(orders);
-        EXPECT_EQ(grid({})["rows"], shown) << orders;
-    }
-}
-
 TEST_F(mirorc, ViewsLimitTheListToTheLatestOrders) {
     struct {
         int orders;
@@ -108,60 +106,49 @@ TEST_F(mirorc, ViewsLimitTheListToTheLatestOrders) {
         company.counter(contatori::ordini, one.orders);
         const json first = rows({"click mirorc." + std::string(one.option)}, "1");
         EXPECT_EQ(first[0][0], one.first) << one.orders << one.option;
-        const auto saved = parameters();
-        EXPECT_EQ(saved.vista_registro, one.option[7] - '0');
-        rec_gnr plain = saved;
-        plain.vista_registro = std::int16_t{0};
-        set_parameters(plain);
+        set_view(0);
     }
 }
 
-TEST_F(mirorc, TheLatestOrdersAreScrolledIntoViewOnlyWhenTheyDontFit) {
-    for (const auto& [orders, top] : {std::pair{22, 1}, {23, 4}, {60, 39}}) {
-        fill(orders);
-        set_parameters([&] {
-            auto record = parameters();
-            record.vista_registro = std::int16_t{10};
-            return record;
-        }());
-        EXPECT_EQ(grid({})["toprow"], top) << orders;
+TEST_F(mirorc, ShowsAPageOfRowsAtLeastAndTheLatestOnlyWhenTheyDontFit) {
+    struct {
+        int orders, rows, top;
+    } cases[] = {{0, 26, 1}, {22, 26, 1}, {23, 26, 4}, {25, 26, 4}, {26, 27, 5}, {60, 61, 39}};
+    for (const auto& one : cases) {
+        fill(one.orders);
+        set_view(10);
+        const json shown = grid({});
+        EXPECT_EQ(shown["rows"], one.rows) << one.orders;
+        EXPECT_EQ(shown["toprow"], one.top) << one.orders;
     }
 }
 
 TEST_F(mirorc, RestoresTheViewAndSavesItAtTheMomentOfChange) {
-    struct {
-        int stored;
-        const char* visua;
-        const char* selvis;
-    } views[] = {{0, "visua(0)", "selvis(0)"},  {1, "visua(0)", "selvis(1)"},
-                 {2, "visua(0)", "selvis(2)"},  {10, "visua(1)", "selvis(0)"},
-                 {11, "visua(1)", "selvis(1)"}, {12, "visua(1)", "selvis(2)"}};
-    for (const auto& one : views) {
-        rec_gnr record = parameters();
-        record.vista_registro = static_cast<std::int16_t>(one.stored);
-        record.riservato_bd = "di altri programmi";
-        set_parameters(record);
-        const json controls = value_after(company.drive(), {"controls mirorc"});
-        EXPECT_EQ(controls[one.visua]["on"], true) << one.stored;
-        EXPECT_EQ(controls[one.selvis]["on"], true) << one.stored;
-        EXPECT_EQ(parameters().vista_registro, one.stored) << "restoring saves nothing";
-
-        record.vista_registro = std::int16_t{99};
-        set_parameters(record);
-        run({"click mirorc.selvis(1)", "click mirorc." + std::string(one.visua),
-             "click mirorc." + std::string(one.selvis)});
-        const rec_gnr saved = parameters();
-        EXPECT_EQ(saved.vista_registro, one.stored);
-        record.vista_registro = saved.vista_registro;
-        EXPECT_EQ(std::memcmp(&saved, &record, sizeof saved), 0) << "nothing else changed";
-    }
     rec_gnr record = parameters();
-    for (const int strange : {3, 9, 13, 20, -1}) {
-        record.vista_registro = static_cast<std::int16_t>(strange);
-        set_parameters(record);
+    record.riservato_bd = "di altri programmi";
+    const auto shown = [&] {
         const json controls = value_after(company.drive(), {"controls mirorc"});
-        EXPECT_EQ(controls["visua(0)"]["on"], true) << strange;
-        EXPECT_EQ(controls["selvis(0)"]["on"], true) << strange;
+        int view = controls["visua(1)"]["on"] == true ? 10 : 0;
+        for (const int i : {1, 2}) {
+            if (controls["selvis(" + std::to_string(i) + ")"]["on"] == true) view += i;
+        }
+        return view;
+    };
+    for (const int stored : {0, 1, 2, 10, 11, 12}) {
+        record.vista_registro = static_cast<std::int16_t>(stored);
+        set_parameters(record);
+        EXPECT_EQ(shown(), stored);
+        EXPECT_EQ(parameters().vista_registro, stored) << "restoring saves nothing";
+
+        set_view(99);
+        run({"click mirorc.selvis(1)", "click mirorc.visua(" + std::to_string(stored / 10) + ")",
+             "click mirorc.selvis(" + std::to_string(stored % 10) + ")"});
+        const rec_gnr saved = parameters();
+        EXPECT_EQ(std::memcmp(&saved, &record, sizeof saved), 0) << stored << ", nothing else";
+    }
+    for (const int strange : {3, 9, 13, 20, -1}) {
+        set_view(strange);
+        EXPECT_EQ(shown(), 0) << strange;
     }
 }
 
@@ -209,11 +196,10 @@ TEST_F(mirorc, SortsByEachColumnAndKeepsBlankRowsAtTheBottom) {
 }
 
 TEST_F(mirorc, OpensOnlyLivingOrders) {
-    put(1, order(1, "1", 1, "20240101"));
+    fill(2);
     auto deleted = order(2, "2", 1, "20240101");
     deleted.annullato = 1;
     put(2, deleted);
-    company.counter(contatori::ordini, 2);
     const json replies = run({"cell mirorc.elenco 2 4", "answer ok", "cell mirorc.elenco 9 0",
                               "cell mirorc.elenco 0 3", "cell mirorc.elenco 1 2"});
     EXPECT_EQ(replies[0]["box"], (json{{"text", "Ordine annullato"},
@@ -235,13 +221,10 @@ TEST_F(mirorc, CommandsThatNeedCustomersSayWhenThereAreNone) {
 }
 
 TEST_F(mirorc, CompactionAsksTwiceAndCanBeCancelled) {
-    put(1, [&] {
-        auto row = order(1, "1", 1, "20240101");
-        row.annullato = 1;
-        return row;
-    }());
-    put(2, order(2, "2", 1, "20240101"));
-    company.counter(contatori::ordini, 2);
+    fill(2);
+    auto deleted = order(1, "1", 1, "20240101");
+    deleted.annullato = 1;
+    put(1, deleted);
     json replies = run({"click mirorc.srtt(0)", "answer yes", "answer no", "rows mirorc.elenco 1"});
     EXPECT_EQ(replies[0]["box"], (json{{"text", "Eliminare anche gli ordini evasi?"},
                                        {"title", "Compattazione archivio"},
