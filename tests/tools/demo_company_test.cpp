@@ -4,43 +4,28 @@
 
 #include <csignal>
 #include <cstdlib>
-#include <map>
 
 #include "demo_folder.h"
 
 namespace vantora::test {
 namespace {
 
-std::map<std::string, std::string> files_under(const std::filesystem::path& root) {
-    std::map<std::string, std::string> all;
-    for (const auto& entry : std::filesystem::recursive_directory_iterator(root)) {
-        const std::string name = std::filesystem::relative(entry.path(), root).string();
-        all[name] = entry.is_regular_file() ? bytes_of(entry.path()) : "(folder)";
-    }
-    return all;
-}
-
 void put(const std::filesystem::path& path, const std::string& content) {
     std::filesystem::create_directories(path.parent_path());
     std::ofstream(path, std::ios::binary) << content;
 }
 
-TEST(demo_company, same_request_gives_same_bytes) {
-    const demo_folder first(small_company);
-    const demo_folder second(small_company);
-    EXPECT_TRUE(files_under(first.drive()) == files_under(second.drive()));
-}
-
-TEST(demo_company, another_seed_gives_other_archives) {
+TEST(demo_company, seed_alone_decides_the_archives) {
     auto request = small_company;
     request.seed = 6;
     const demo_folder first(small_company);
+    const demo_folder second(small_company);
     const demo_folder other(request);
+    EXPECT_TRUE(files_under(first.drive()) == files_under(second.drive()));
     for (const std::string extension : {"cli", "art", "orc", "prv"}) {
         EXPECT_FALSE(bytes_of(first.file(extension)) == bytes_of(other.file(extension)))
             << extension;
     }
-    EXPECT_TRUE(bytes_of(first.file("tab")) == bytes_of(other.file("tab")));
 }
 
 TEST(demo_company, existing_company_is_refused_and_left_alone) {
@@ -98,13 +83,6 @@ TEST(demo_company, full_disk_leaves_no_half_company) {
     EXPECT_TRUE(std::filesystem::exists(drive.path() / "mirwin/mirwin/miraz0.007/vantora.tot"));
 }
 
-TEST(demo_company, orders_need_customers) {
-    const scratch_folder drive;
-    EXPECT_THROW(demo::make_company({.numero_azienda = 7, .customers = 0}, drive.path()),
-                 demo::demo_error);
-    EXPECT_TRUE(files_under(drive.path()).empty());
-}
-
 TEST(demo_company, archives_may_be_empty) {
     const struct {
         int orders, articles, customers;
@@ -131,10 +109,7 @@ TEST(demo_program, exit_code_tells_what_happened) {
         int exit_code;
     } runs[] = {
         {"", 2},
-        {"DRIVE", 2},
         {"DRIVE 1000", 2},
-        {"DRIVE seven", 2},
-        {"DRIVE 7 --orders -1", 2},
         {"DRIVE 7 --articles 32768", 2},
         {"DRIVE 7 --customers 1.5", 2},
         {"DRIVE 7 --unknown 1", 2},

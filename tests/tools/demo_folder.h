@@ -4,6 +4,7 @@
 #include <cstring>
 #include <filesystem>
 #include <fstream>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -17,6 +18,16 @@ inline std::string bytes_of(const std::filesystem::path& path) {
     std::string bytes(file ? static_cast<std::size_t>(file.tellg()) : 0, '\0');
     file.seekg(0).read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     return bytes;
+}
+
+/// Every file and folder below a folder, with what it holds.
+inline std::map<std::string, std::string> files_under(const std::filesystem::path& root) {
+    std::map<std::string, std::string> all;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(root)) {
+        const std::string name = std::filesystem::relative(entry.path(), root).string();
+        all[name] = entry.is_regular_file() ? bytes_of(entry.path()) : "(folder)";
+    }
+    return all;
 }
 
 /// All records of a file, read without the program's own channels.
