@@ -99,18 +99,6 @@ TEST(key, SignsHaveNoNamedKeysCode) {
     for (const char sign : {'(', '&', '.', '\'', '%', '\xE8'}) EXPECT_EQ(key::of(sign), key::sign);
 }
 
-TEST(check_box, ClicksWheneverItsMarkChanges) {
-    check_box box;
-    int clicks = 0;
-    box.on_click = [&] { ++clicks; };
-    box.set_on(false);
-    box.set_on(true);
-    box.set_on(true);
-    box.toggle();
-    EXPECT_EQ(clicks, 2);
-    EXPECT_FALSE(box.on());
-}
-
 TEST(option_button, OnlyTheOneThatGoesOnFires) {
     option_button options[3];
     option_group group;
@@ -197,15 +185,6 @@ TEST(scroll_bar, LimitsPullItsValueInside) {
     bar.press_key(key::down, {});
     bar.press_key(key::down, {});
     EXPECT_EQ(seen, (std::vector<int>{5, 6, 5}));
-}
-
-TEST(progress_bar, RefusesWhatIsOutsideItsRange) {
-    progress_bar bar;
-    EXPECT_FALSE(bar.set_range(1, 1));
-    EXPECT_TRUE(bar.set_range(1, 5));
-    EXPECT_EQ(bar.value(), 1);
-    EXPECT_FALSE(bar.set_value(6));
-    EXPECT_TRUE(bar.set_value(5));
 }
 
 TEST(date_picker, TakesOnlyDaysOfTheCalendar) {
