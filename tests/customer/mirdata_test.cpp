@@ -2,52 +2,41 @@
 
 #include <gtest/gtest.h>
 
-#include <sstream>
+#include "support/program_stage.h"
+#include "ui/bench_desk.h"
 
-#include "store/drive.h"
-#include "support/scratch_folder.h"
-#include "ui/pictures/pixbuf_decoder.h"
-#include "ui/script/script_front_end.h"
-
-namespace vantora {
+namespace vantora::test {
 namespace {
 
-/// Opens the dialog with a proposal and a reserve, chooses by a command, and tells the choice.
+/// Opens the dialog with a proposal and a reserve, leaves it in some way, and tells the choice.
 std::string choose(const std::string& proposed, const std::string& reserve,
-                   const std::string& command) {
-    test::scratch_folder folder;
-    drive files(folder.path());
-    std::stringstream input(command + "\n");
-    std::stringstream output;
-    ui::local_clock time;
-    ui::script::recording_printer paper;
-    ui::script::recording_launcher programs;
-    ui::script::script_front_end front(input, output);
-    ui::desk desk(front, time, paper, programs);
-    ui::script::interpreter by(desk, time, paper, programs);
-    ui::pixbuf_decoder pictures;
-    program app(files, desk, pictures);
-    front.begin(desk, by);
-    app.mirdata.made_by(desk, [&app] { return std::make_unique<mirdata>(app); });
-    app.data_proposta = proposed;
-    app.data_riserva = reserve;
-    desk.dispatch([&] { app.mirdata->show_modal(); });
-    front.run();
-    return app.data_scelta;
+                   const std::function<void(ui::desk&, mirdata&)>& leave) {
+    program_stage<ui::test::prepared_user> stage;
+    stage.provide(stage.app.mirdata);
+    stage.app.data_proposta = proposed;
+    stage.app.data_riserva = reserve;
+    stage.front.actions = {
+        [&] { stage.desk.dispatch([&] { leave(stage.desk, *stage.app.mirdata); }); }};
+    stage.desk.dispatch([&] { stage.app.mirdata->show_modal(); });
+    EXPECT_FALSE(stage.app.mirdata.loaded());
+    return stage.app.data_scelta;
 }
 
 TEST(mirdata, ProposesTheDateOrItsReserve) {
-    const std::string keep = "key mirdata.nuovadata Enter";
+    const auto keep = [](ui::desk&, mirdata& dialog) {
+        dialog.nuovadata.press_key(ui::key::enter, '\r');
+    };
     EXPECT_EQ(choose("03/04/2025", "01/01/2020", keep), "03/04/2025");
     EXPECT_EQ(choose("", "01/01/2020", keep), "01/01/2020");
     EXPECT_EQ(choose("31/02/2025", "01/01/2020", keep), "01/01/2020");
 }
 
 TEST(mirdata, EveryWayOutGivesThePickersDate) {
-    EXPECT_EQ(choose("03/04/2025", "", "date mirdata.nuovadata \"05/06/2025\""), "05/06/2025");
-    EXPECT_EQ(choose("03/04/2025", "", "date mirdata.nuovadata \"03/04/2025\""), "03/04/2025");
-    EXPECT_EQ(choose("03/04/2025", "", "close mirdata"), "03/04/2025") << "there is no cancel";
+    const auto pick = [](ui::desk&, mirdata& dialog) { dialog.nuovadata.choose({2025, 6, 5}); };
+    EXPECT_EQ(choose("03/04/2025", "", pick), "05/06/2025");
+    const auto close = [](ui::desk& desk, mirdata& dialog) { desk.close(dialog); };
+    EXPECT_EQ(choose("03/04/2025", "", close), "03/04/2025") << "there is no cancel";
 }
 
 }  // namespace
-}  // namespace vantora
+}  // namespace vantora::test

@@ -81,12 +81,11 @@ TEST_F(mirorcm_screen, AChoiceFromTheListIsLookedUpAndNoChoiceComesBackToTheOrde
 
 TEST_F(mirorcm_screen, AnIndexThatCantBeReadLeavesThePositionAtTheFirst) {
     desk->unreadable["src"] = 3 * static_cast<std::int64_t>(sizeof(rec_src));
-    open(4);
-    EXPECT_EQ(app->mirorcm->HScroll1.value(), 1);
-    open(2);
-    app->mirorcm->hide();
-    open(2);
-    EXPECT_EQ(app->mirorcm->HScroll1.value(), 2) << "what stands before the bad spot is found";
+    for (const auto& [customer, position] : {std::pair{4, 1}, {2, 2}}) {
+        open(customer);
+        EXPECT_EQ(app->mirorcm->HScroll1.value(), position) << "found before the bad spot";
+        app->mirorcm->hide();
+    }
 }
 
 TEST_F(mirorcm_screen, ShippingDataOfAnOrdersRowsGoOnTheHead) {
