@@ -49,26 +49,6 @@ TEST_F(transport_data, ComesUpWithItsDefaultsAndKeepsOnlyPortAndTransport) {
     EXPECT_EQ(after({}, {"Text3(0)", "Text3(1)"}), (texts{"", "06/05/2024"}));
 }
 
-TEST_F(transport_data, ADeletedCustomerIsShownButNotServed) {
-    EXPECT_EQ(after({}, {"Text2(0)", "Text2(4)", "Text2(21)"}),
-              (texts{"BIANCHI", "citta", "nota 2"}));
-    const auto replies =
-        run_script(company.drive(),
-                   {"click mirorc.bottone(8)", "get mirorcc.Label2", "click mirorcc.bottone"});
-    EXPECT_EQ(replies[1]["value"]["visible"], true);
-    EXPECT_EQ(replies[2]["screen"], "mirorcc");
-}
-
-TEST_F(transport_data, SearchAndPickListKeepTheTransportDataAndCarriersSpareTheStar) {
-    EXPECT_EQ(after({"set mirorcc.Text3(2) \"7\"", "set mirorcc.nome \" verdi \"",
-                     "click mirorcc.b_lista", "get mirsel.selnome", "cell mirsel.elenco 1 0"},
-                    {"Text2(0)", "Text3(2)", "nome"}),
-              (texts{"VERDI SRL", "7", ""}));
-    EXPECT_EQ(after({"scroll mirorcc.HScroll1 3", "pick mirorcc.Combo3 2"},
-                    {"Text2(17)", "Text2(18)", "Text2(19)"}),
-              (texts{"Vettore 3", "Via 3", "corriere 3"}));
-}
-
 TEST_F(transport_data, DatesGoBesideTheirPickersAndAWrongOneStopsNothing) {
     EXPECT_EQ(after({"date mirorcc.text5(1) \"07/08/2024\"", "set mirorcc.Text3(1) \"boh\"",
                      "clock \"2024-05-09 10:20:30\""},

@@ -138,17 +138,5 @@ TEST(mirorcr, TheRowBehindTheTwoHundredthEndsTheProgramAndIsBookedOnce) {
     EXPECT_EQ(stage.row_now(1, 1).evaso_flag, 0);
 }
 
-TEST(mirorcr, LeavingBooksNothing) {
-    fulfil_stage stage;
-    stage.order(1, 1, {{1, 5}});
-    stage.run();
-    stage.open_worklist(1);
-    stage.click(1, mirorcr::ordine);
-    stage.desk.dispatch([&] { stage.app.mirorcr->bottone[0].click(); });
-    EXPECT_EQ(stage.faults.writes, 0U);
-    EXPECT_FALSE(stage.app.mirorcr.loaded());
-    EXPECT_EQ(stage.desk.active()->name(), "mirorc");
-}
-
 }  // namespace
 }  // namespace vantora::test
