@@ -78,9 +78,10 @@ void add_building(form_window& window, QHBoxLayout* row) {
     window.dress("bottone", 4, commands[4], Qt::ToolButtonTextBesideIcon);
     set_look(window.widget("bottone", 4), "look", "plain");
     auto* progress = window.widget("srt");
-    progress->setFixedWidth(150);
+    progress->setMinimumWidth(60);
+    progress->setMaximumWidth(150);
     progress->setFixedHeight(progress->fontMetrics().height() + 8);
-    QSizePolicy place(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    QSizePolicy place(QSizePolicy::Expanding, QSizePolicy::Fixed);
     place.setRetainSizeWhenHidden(true);
     progress->setSizePolicy(place);
     row->addSpacing(6);
