@@ -35,7 +35,8 @@ std::string quantity_text(double quantity);
 /// Whether a field holds nothing but blanks.
 template <std::size_t N>
 bool is_blank(const text<N>& field) {
-    return field.full().find_first_not_of(' ') == std::string_view::npos;
+    static const text<N> blanks{""};
+    return field.full() == blanks.full();
 }
 
 /// Whether a row of an order is more than an empty line.

@@ -25,6 +25,8 @@ class order_reader {
  private:
     using blocco_ordine = std::array<rec_orc, righe_blocco>;
 
+    bool read_at_once(int registrazione);
+
     const channel<rec_orc>& orders_;
     std::unique_ptr<blocco_ordine> rows_;
     rec_orc last_;  ///< the row read last
