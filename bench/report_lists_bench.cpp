@@ -1,0 +1,182 @@
+// How long the reports take to build their lists on an archive filled to its limits, against
+// reading the parts of the order file that they have to look at, bare; and how much memory a build
+// takes beside its grid.
+
+#include <malloc.h>
+
+#include <atomic>
+#include <cstdlib>
+#include <cstring>
+#include <map>
+#include <new>
+
+#include "bench/measure.h"
+#include "reports/mirstoa.h"
+#include "reports/mirstoe.h"
+#include "reports/mirston.h"
+#include "reports/mirstos.h"
+#include "reports/mirstov.h"
+#include "store/company.h"
+#include "support/program_stage.h"
+
+namespace {
+
+std::atomic<std::size_t> bytes_in_use = 0;
+std::atomic<std::size_t> bytes_at_most = 0;
+
+}  // namespace
+
+// Not inlined: the compiler would take each pair of new and free for a mistake.
+[[gnu::noinline]] void* operator new(std::size_t size) {
+    void* const place = std::malloc(size);
+    if (!place) throw std::bad_alloc();
+    const std::size_t now = bytes_in_use += ::malloc_usable_size(place);
+    std::size_t most = bytes_at_most;
+    while (most < now && !bytes_at_most.compare_exchange_weak(most, now)) continue;
+    return place;
+}
+
+[[gnu::noinline]] void operator delete(void* place) noexcept {
+    bytes_in_use -= ::malloc_usable_size(place);
+    std::free(place);
+}
+
+[[gnu::noinline]] void operator delete(void* place, std::size_t) noexcept {
+    operator delete(place);
+}
+
+namespace vantora::bench {
+namespace {
+
+constexpr std::size_t block_bytes = righe_blocco * sizeof(rec_orc);
+
+/// Notes how much of each block of the order file is read.
+class watched_file final : public file {
+ public:
+    watched_file(std::unique_ptr<file> real, std::map<std::int64_t, std::size_t>& looked_at)
+        : real_(std::move(real)), looked_at_(looked_at) {}
+
+    std::optional<std::size_t> read(std::int64_t offset, std::span<std::byte> into) override {
+        auto& most = looked_at_[offset / std::int64_t{block_bytes}];
+        most = std::max(most, into.size());
+        return real_->read(offset, into);
+    }
+    bool write(std::int64_t, std::span<const std::byte>) override { return false; }
+    bool flush() override { return false; }
+
+ private:
+    std::unique_ptr<file> real_;
+    std::map<std::int64_t, std::size_t>& looked_at_;
+};
+
+/// Orders of `lines` lines each, articles and customers, `count` of each.
+void write_archive(archivi& files, int count, int lines) {
+    std::vector<rec_art> articles(static_cast<std::size_t>(count));
+    std::vector<rec_cli> customers(static_cast<std::size_t>(count));
+    std::vector<rec_sra> by_code(static_cast<std::size_t>(count));
+    std::vector<rec_src> by_name(static_cast<std::size_t>(count));
+    for (int i = 0; i < count; ++i) {
+        const auto at = static_cast<std::size_t>(i);
+        articles[at].codice = "TUBO-" + std::to_string(i);
+        articles[at].descrizione = "Tubo zincato saldato n. " + std::to_string(i);
+        customers[at].intestazione1 = "Ferramenta Rossi n. " + std::to_string(i);
+        by_code[at].numero = by_name[at].numero = static_cast<std::int16_t>(i + 1);
+    }
+    files.art.write_block(1, articles);
+    files.cli.write_block(1, customers);
+    files.sra.write_block(1, by_code);
+    files.src.write_block(1, by_name);
+    std::vector<rec_orc> block(righe_blocco);
+    for (rec_orc& row : block) {
+        row.descrizione = "";
+        row.descrizione2 = "";
+    }
+    for (int i = 1; i <= count; ++i) {
+        for (rec_orc& row : block) {
+            row.numero = std::to_string(i);
+            row.data = "20240215";
+            row.data_evasione = "20991231";
+            row.cliente = static_cast<std::int16_t>(i * 7919 % count + 1);
+            row.testo1 = "Ordine per il cantiere";
+        }
+        for (int line = 0; line < lines; ++line) {
+            rec_orc& row = block[static_cast<std::size_t>(line)];
+            row.articolo = static_cast<std::int16_t>((i * lines + line) % count + 1);
+            row.descrizione = "Tubo zincato saldato";
+            row.quantita = 1 + i % 9;
+            row.prezzo = 1.35;
+        }
+        files.orc.write_block(block_record(i, 1), block);
+    }
+    rec_tot counter{};
+    counter.quanti = static_cast<std::int16_t>(count);
+    for (const int which : {contatori::articoli, contatori::clienti, contatori::ordini})
+        files.tot.write(which, counter);
+}
+
+struct lists_bench {
+    channel<rec_orc> orders(std::map<std::int64_t, std::size_t>* looked_at) {
+        auto real = stage.files.open_records(file_azienda(1, "orc"));
+        if (!looked_at) return channel<rec_orc>(std::move(real));
+        return channel<rec_orc>(std::make_shared<watched_file>(std::move(real), *looked_at));
+    }
+
+    template <class Form>
+    void compare_list(ui::screen<Form>& place, bool analytic) {
+        stage.provide(place);
+        place.use().show();
+        report_screen& screen = *place;
+        if (analytic) screen.Combo2.choose(1);
+        screen.text1[1].set_text(std::to_string(count));
+        screen.text2[1].set_text("31/12/2099");
+
+        std::map<std::int64_t, std::size_t> looked_at;
+        stage.app.archives.orc = orders(&looked_at);
+        screen.build_list();
+        stage.app.archives.orc = orders(nullptr);
+        const auto file = stage.app.archives.orc.shared_file();
+        std::vector<std::byte> bytes(block_bytes);
+        const auto bare = [&] {
+            for (const auto& [block, size] : looked_at)
+                file->read(block * std::int64_t{block_bytes}, std::span(bytes).first(size));
+        };
+        const std::string what = std::string(screen.name()) + (analytic ? ", analytic" : "") +
+                                 ", " + std::to_string(looked_at.size()) + " blocks";
+        compare(
+            what.c_str(), rounds, [&] { screen.build_list(); }, "their bare reads", bare);
+        bytes_at_most = bytes_in_use.load();
+        screen.build_list();
+        std::printf("%-34s %9.1f MB beside the list of %d rows\n", "",
+                    double(bytes_at_most - bytes_in_use) / (1 << 20), screen.elenco.rows() - 1);
+    }
+
+    int count;
+    int rounds;
+    test::program_stage<> stage{};
+};
+
+int run(int count, int rounds) {
+    for (const int lines : {1, 4}) {
+        lists_bench bench{count, rounds};
+        program& app = bench.stage.app;
+        apri_archivi(app.archives, bench.stage.files, 1);
+        write_archive(app.archives, count, lines);
+        std::printf("%d orders of %d lines, articles and customers\n", count, lines);
+        bench.compare_list(app.mirstoe, false);
+        bench.compare_list(app.mirstoe, true);
+        bench.compare_list(app.mirstos, false);
+        bench.compare_list(app.mirstos, true);
+        bench.compare_list(app.mirstov, false);
+        bench.compare_list(app.mirstoa, false);
+        bench.compare_list(app.mirston, false);
+    }
+    return 0;
+}
+
+}  // namespace
+}  // namespace vantora::bench
+
+int main(int count, char** arguments) {
+    const bool quick = count > 1 && std::strcmp(arguments[1], "--quick") == 0;
+    return quick ? vantora::bench::run(200, 3) : vantora::bench::run(32767, 7);
+}
