@@ -144,9 +144,11 @@ bool widget_binder::wheel_changes_value() const {
 
 bool widget_binder::eventFilter(QObject* watched, QEvent* event) {
     if (retired_) return false;
-    if (event->type() == QEvent::FocusIn && !model_.has_focus()) {
-        act([this] { model_.set_focus(); });
-    }
+    // A window that comes to the front picks a widget of its own; where the focus goes then is the
+    // screen's business.
+    const bool by_user = event->type() == QEvent::FocusIn &&
+                         static_cast<QFocusEvent*>(event)->reason() != Qt::ActiveWindowFocusReason;
+    if (by_user && !model_.has_focus()) act([this] { model_.set_focus(); });
     // The letter with Alt; the toolkit would take the focus first.
     if (event->type() == QEvent::Shortcut && !static_cast<QShortcutEvent*>(event)->isAmbiguous()) {
         if (auto* button = qobject_cast<QAbstractButton*>(widget_)) {
