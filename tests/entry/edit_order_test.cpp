@@ -7,6 +7,7 @@
 #include <limits>
 #include <random>
 
+#include "entry/save_order.h"
 #include "scripted/small_company.h"
 #include "store/drive.h"
 #include "support/faulty_files.h"
@@ -28,13 +29,17 @@ struct plain_books {
     std::vector<rec_art> stock;
     std::vector<rec_orc> rows;
 
-    explicit plain_books(archivi& files) : stock(articles + 1), rows(blocks * 200) {
+    explicit plain_books(archivi& files) : stock(articles + 1) {
+        rec_tot counter;
+        files.tot.read(contatori::ordini, counter);
+        rows.resize(static_cast<std::size_t>(counter.quanti) * 200);
         files.art.read_block(1, stock);
         files.orc.read_block(1, rows);
     }
 
     bool operator==(const plain_books& other) const {
-        return std::memcmp(stock.data(), other.stock.data(), stock.size() * sizeof(rec_art)) == 0 &&
+        return rows.size() == other.rows.size() &&
+               std::memcmp(stock.data(), other.stock.data(), stock.size() * sizeof(rec_art)) == 0 &&
                std::memcmp(rows.data(), other.rows.data(), rows.size() * sizeof(rec_orc)) == 0;
     }
 
@@ -63,32 +68,47 @@ struct plain_books {
         }
     }
 
+    static void fill(rec_orc& of, int i, const testata_registrata& head, const riga_ordine& line) {
+        of.impegno = head.impegno ? "1" : "0";
+        of.numero = head.numero;
+        of.data = "20240506";
+        of.data_evasione = "20241231";
+        of.cliente = head.cliente;
+        if (i <= 4) {
+            const auto& texts = head.testi[static_cast<std::size_t>(i - 1)];
+            of.testo1 = texts[0];
+            of.testo2 = texts[1];
+            of.testo3 = texts[2];
+        }
+        of.articolo = line.articolo;
+        of.descrizione = line.descrizione.full().substr(0, 40);
+        of.descrizione2 = line.descrizione.full().substr(40, 10);
+        of.um = line.um.full();
+        of.quantita = line.quantita;
+        of.prezzo = line.prezzo;
+        of.sc1 = line.sc1;
+        of.sc2 = line.sc2;
+        of.iva = line.iva;
+    }
+
+    /// The rows behind the fourth repeat its texts.
+    void add(const testata_registrata& head, double data_reg, const righe_ordine& lines) {
+        rec_orc of;
+        for (int i = 1; i <= 200; ++i) {
+            fill(of, i, head, lines[i]);
+            of.data_reg = data_reg;
+            rows.push_back(of);
+            move(lines[i].quantita, 0, lines[i].articolo, head.impegno, false);
+        }
+    }
+
     void save(const testata_registrata& head, bool evaso, const righe_ordine& lines) {
         for (int i = 1; i <= 200; ++i) {
             rec_orc& of = row(i);
             move(of.quantita, of.evaso, of.articolo, head.impegno, true);
             const riga_ordine& line = lines[i];
-            of.impegno = head.impegno ? "1" : "0";
-            of.numero = head.numero;
-            of.data = "20240506";
-            of.data_evasione = "20241231";
-            of.cliente = head.cliente;
-            if (i <= 4) {
-                const auto& texts = head.testi[static_cast<std::size_t>(i - 1)];
-                of.testo1 = texts[0];
-                of.testo2 = texts[1];
-                of.testo3 = texts[2];
-            }
-            of.articolo = line.articolo;
-            of.descrizione = line.descrizione.full().substr(0, 40);
-            of.descrizione2 = line.descrizione.full().substr(40, 10);
-            of.um = line.um.full();
-            of.quantita = line.quantita;
-            of.prezzo = line.prezzo;
+            fill(of, i, head, line);
             of.evaso = line.evaso;
-            of.sc1 = line.sc1;
-            of.sc2 = line.sc2;
-            of.iva = line.iva;
             of.evaso_flag = evaso ? 1 : 0;
             of.annullato = 0;
             move(line.quantita, line.evaso, line.articolo, head.impegno, false);
@@ -107,6 +127,7 @@ struct plain_books {
 struct edit_stage {
     explicit edit_stage(unsigned seed) : random(seed) {
         company.counter(contatori::articoli, articles);
+        company.counter(contatori::ordini, blocks);
         std::vector<rec_art> stock(articles + 1);
         for (rec_art& one : stock) {
             fill_with_noise(one);
@@ -139,9 +160,11 @@ struct edit_stage {
     riga_ordine any_line() {
         riga_ordine line;
         line.articolo = static_cast<std::int16_t>(chance(3) ? 0 : whole(-1, articles + 1));
-        line.descrizione = std::string(static_cast<std::size_t>(whole(0, 60)), 'd');
+        line.descrizione =
+            std::string("Un testo che nessun campo tiene tutto intero, e che perde la sua coda")
+                .substr(0, static_cast<std::size_t>(whole(0, 68)));
         line.um = "PZ";
-        line.quantita = chance(4) ? 0 : whole(-3, 12);
+        line.quantita = chance(4) ? 0 : chance(20) ? -9999 : whole(-3, 12);
         line.evaso = chance(2) ? 0 : whole(0, 14);
         line.prezzo = whole(0, 900) / 8.0;
         line.iva = static_cast<std::int16_t>(whole(0, 24));
@@ -156,7 +179,7 @@ struct edit_stage {
     }
     testata_registrata any_head() {
         testata_registrata head;
-        head.numero = std::to_string(whole(1, 99999)) + "/B";
+        head.numero = std::to_string(whole(1, 99999)) + "/B-0000000";
         head.data = "06/05/2024";
         head.data_evasione = "31/12/2024";
         head.cliente = static_cast<std::int16_t>(whole(1, 9));
@@ -181,6 +204,11 @@ TEST(edit_order, SessionsLeaveTheBytesOfBooksKeptByHand) {
         plain_books books(stage.files);
         for (int step = 0; step < 12; ++step) {
             if (stage.chance(4)) {
+                const testata_registrata head = stage.any_head();
+                const righe_ordine lines = stage.any_lines();
+                books.add(head, 45418.5, lines);
+                ASSERT_TRUE(salva_nuovo_ordine(stage.files, head, 45418.5, lines, articles));
+            } else if (stage.chance(4)) {
                 const bool commit = stage.chance(2);
                 books.remove(commit);
                 elimina_ordine(stage.files, stage.order(commit));

@@ -21,54 +21,56 @@ void make_blank(Row& row) {
     row.testo1 = "";
 }
 
-class import : public testing::Test {
+class imports : public testing::Test {
  protected:
-    import() { company.customers({customer_named("ROSSI"), customer_named("BIANCHI")});
-    company.articles({article("A1", "vite", 1), article("A2", "dado", 2)});
-    company.table_file();
-    quote(1, 1, 0);
-    quote(2, 2, 0);
-    quote(3, 1, 2);
-    order(1, 2);
-    company.counter(contatori::preventivi, 3);
-    company.counter(contatori::ordini, 1);
-} void quote(int block, int customer, int deleted) {
-    std::vector<rec_prv> rows(righe_blocco);
-    rows[0].numero = "P" + std::to_string(block);
-    rows[0].data = "20240131";
-    rows[0].cliente = static_cast<std::int16_t>(customer);
-    rows[0].annullato = static_cast<std::int16_t>(deleted);
-    for (auto& row : rows) make_blank(row);
-    rows[0].descrizione = "riga di P" + std::to_string(block);
-    company.files.prv.write_block(block_record(block, 1), rows);
-}
-void order(int block, int customer) {
-    std::vector<rec_orc> rows(righe_blocco);
-    rows[0].numero = "O" + std::to_string(block);
-    rows[0].data = "20240201";
-    rows[0].cliente = static_cast<std::int16_t>(customer);
-    for (auto& row : rows) make_blank(row);
-    rows[0].articolo = std::int16_t{2};
-    rows[0].quantita = 3;
-    rows[0].prezzo = 5;
-    rows[0].evaso = 2;
-    rows[0].iva = std::int16_t{4};
-    rows[1].iva = std::int16_t{4};
-    company.files.orc.write_block(block_record(block, 1), rows);
-}
-/// A session in a new order of ROSSI.
-std::vector<json> enter(std::vector<std::string> commands) {
-    commands.insert(commands.begin(), {"click mirorc.bottone(2)", "scroll mirorcx.HScroll1 2",
-                                       "click mirorcx.bottone"});
-    auto replies = run_script(company.drive(), commands);
-    replies.erase(replies.begin(), replies.begin() + 3);
-    return replies;
-}
+    imports() {
+        company.customers({customer_named("ROSSI"), customer_named("BIANCHI")});
+        company.articles({article("A1", "vite", 1), article("A2", "dado", 2)});
+        company.table_file();
+        quote(1, 1, 0);
+        quote(2, 2, 0);
+        quote(3, 1, 2);
+        order(1, 2);
+        company.counter(contatori::preventivi, 3);
+        company.counter(contatori::ordini, 1);
+    }
+    void quote(int block, int customer, int deleted) {
+        std::vector<rec_prv> rows(righe_blocco);
+        rows[0].numero = "P" + std::to_string(block);
+        rows[0].data = "20240131";
+        rows[0].cliente = static_cast<std::int16_t>(customer);
+        rows[0].annullato = static_cast<std::int16_t>(deleted);
+        for (auto& row : rows) make_blank(row);
+        rows[0].descrizione = "riga di P" + std::to_string(block);
+        company.files.prv.write_block(block_record(block, 1), rows);
+    }
+    void order(int block, int customer) {
+        std::vector<rec_orc> rows(righe_blocco);
+        rows[0].numero = "O" + std::to_string(block);
+        rows[0].data = "20240201";
+        rows[0].cliente = static_cast<std::int16_t>(customer);
+        for (auto& row : rows) make_blank(row);
+        rows[0].articolo = std::int16_t{2};
+        rows[0].quantita = 3;
+        rows[0].prezzo = 5;
+        rows[0].evaso = 2;
+        rows[0].iva = std::int16_t{4};
+        rows[1].iva = std::int16_t{4};
+        company.files.orc.write_block(block_record(block, 1), rows);
+    }
+    /// A session in a new order of ROSSI.
+    std::vector<json> enter(std::vector<std::string> commands) {
+        commands.insert(commands.begin(), {"click mirorc.bottone(2)", "scroll mirorcx.HScroll1 2",
+                                           "click mirorcx.bottone"});
+        auto replies = run_script(company.drive(), commands);
+        replies.erase(replies.begin(), replies.begin() + 3);
+        return replies;
+    }
 
-small_company company;
+    small_company company;
 };  // namespace
 
-TEST_F(import, QuotesOfTheCustomerAreAddedAndAddedAgain) {
+TEST_F(imports, QuotesOfTheCustomerAreAddedAndAddedAgain) {
     const auto replies = enter(
         {"set mirorcs.ds(1) \"a mano\"", "click mirorcs.comando(6)", "rows mirorcb.elenco 0 2",
          "get mirorcb.elenco", "cell mirorcb.elenco 2 0", "cell mirorcb.elenco 1 2",
@@ -89,7 +91,7 @@ TEST_F(import, QuotesOfTheCustomerAreAddedAndAddedAgain) {
     EXPECT_EQ(replies[17]["value"]["text"], "riga di P1") << "and is so by any way back";
 }
 
-TEST_F(import, AnOrderOfAnyCustomerReplacesTheLines) {
+TEST_F(imports, AnOrderOfAnyCustomerReplacesTheLines) {
     const auto replies =
         enter({"set mirorcs.ds(0) \"a mano\"", "click mirorcs.comando(5)",
                "rows mirpref.elenco 0 2", "cell mirpref.elenco 1 0", "get mirorcs.artic(0)",
@@ -108,7 +110,7 @@ TEST_F(import, AnOrderOfAnyCustomerReplacesTheLines) {
     for (const json& one : replies[8]["value"]) EXPECT_NE(one["name"], "mirpref");
 }
 
-TEST_F(import, TheOrderStaysAliveBehindItsPicker) {
+TEST_F(imports, TheOrderStaysAliveBehindItsPicker) {
     const auto replies = enter({"set mirorcs.ds(0) \"a\"",
                                 "click mirorcs.comando(5)",
                                 "set mirorcs.ds(0) \"b\"",
@@ -181,7 +183,7 @@ Row random_row(std::mt19937& random) {
     return row;
 }
 
-TEST_F(import, SessionsOfImportsComeOutAsStepByStep) {
+TEST_F(imports, SessionsOfImportsComeOutAsStepByStep) {
     std::mt19937 random(11);
     for (int session = 0; session < 30; ++session) {
         for (int block = 1; block <= 2; ++block) {
@@ -226,5 +228,5 @@ TEST_F(import, SessionsOfImportsComeOutAsStepByStep) {
     }
 }
 
-}  // namespace vantora::test
+}  // namespace
 }  // namespace vantora::test

@@ -79,17 +79,6 @@ TEST(righe_ordine, SortLeavesLinesWhereTheExchangesLeaveThem) {
     }
 }
 
-TEST(righe_ordine, SortLeavesAnOrderWithoutCodesAlone) {
-    righe_ordine lines;
-    std::vector<int> before;
-    for (int i = 1; i <= righe_ordine::massimo; ++i) {
-        lines[i] = line_with("", i);
-        before.push_back(i);
-    }
-    lines.sort_by_code();
-    EXPECT_EQ(marks(lines), before);
-}
-
 TEST(righe_ordine, InsertAndRemoveShiftWholeLinesAndKeepWhatWasFulfilled) {
     for (const int at : {1, 57, 199, 200}) {
         righe_ordine inserted;
