@@ -3,12 +3,7 @@
 namespace vantora::test {
 namespace {
 
-using nlohmann::json;
-
-const json not_found = {{"text", "Articolo non esistente"},
-                        {"title", "Attenzione"},
-                        {"icon", "stop"},
-                        {"buttons", "ok"}};
+const std::string not_found = "box=Articolo non esistente";
 
 class article_lookup : public new_order {
  protected:
@@ -28,35 +23,23 @@ class article_lookup : public new_order {
     }
     /// Types a code and confirms it, as a bar code reader does too.
     static script enter(int row, const std::string& code) {
-        return {"type mirorcs." + cell("artic", row) + " \"" + code + "\"",
-                "key mirorcs." + cell("artic", row) + " Enter"};
-    }
-    static script together(std::initializer_list<script> parts) {
-        script all;
-        for (const script& part : parts) all.insert(all.end(), part.begin(), part.end());
-        return all;
-    }
-    static script texts(const json& controls, const std::string& column, int from, int to) {
-        script all;
-        for (int row = from; row <= to; ++row) {
-            all.push_back(controls.at(cell(column, row)).at("text"));
-        }
-        return all;
+        const std::string cell = "mirorcs.artic(" + std::to_string(row) + ")";
+        return {"type " + cell + " \"" + code + "\"", "key " + cell + " Enter"};
     }
 
     std::vector<rec_art> articles;
 };
 
 TEST_F(article_lookup, OnlyWhatTheLastKeyFoundCounts) {
-    struct {
+    const struct {
         script commands;
         const char* code;  ///< what the line gets; null: nothing is found
     } cases[] = {
         {enter(0, "AB"), "ab"},
         {enter(0, "ABC"), "ABC"},
         {enter(0, "GONE"), nullptr},
-        {together({{"type mirorcs.artic(0) \"AB\"", "key mirorcs.artic(0) Backspace"},
-                   {"key mirorcs.artic(0) Enter"}}),
+        {{"type mirorcs.artic(0) \"AB\"", "key mirorcs.artic(0) Backspace",
+          "key mirorcs.artic(0) Enter"},
          nullptr},
         // A text that was pasted is looked up when the cell is come back to.
         {{set("artic(0)", "ABC"), "key mirorcs.artic(0) Enter"}, nullptr},
@@ -68,122 +51,93 @@ TEST_F(article_lookup, OnlyWhatTheLastKeyFoundCounts) {
         {together({{set("artic(0)", " a ")}, enter(0, "b")}), "ab"},
     };
     for (const auto& one : cases) {
-        auto commands = one.commands;
-        commands.insert(commands.end(), {"controls mirorcs"});
-        const auto replies = run(commands);
-        const json& entered = replies[replies.size() - 2];
-        const json& controls = replies.back()["value"];
         if (one.code) {
-            EXPECT_EQ(controls["artic(0)"]["text"], one.code) << json(one.commands);
-            EXPECT_EQ(entered["focus"], "quantita(0)");
+            expect_after(one.commands,
+                         {std::string("artic(0)=") + one.code, "focus=quantita(0)", "box="});
         } else {
-            EXPECT_EQ(entered["box"], not_found) << json(one.commands);
-            EXPECT_EQ(entered["focus"], "artic(0)");
-            EXPECT_NE(controls["artic(0)"]["text"], "");
-            EXPECT_EQ(controls["ds(0)"]["text"], "") << json(one.commands);
+            expect_after(one.commands, {not_found, "focus=artic(0)", "ds(0)="});
         }
     }
+    EXPECT_EQ(run(enter(0, "GONE"))[1]["box"]["icon"], "stop");
 }
 
 TEST_F(article_lookup, PickingAgainKeepsQuantityAndDiscounts) {
-    const json controls = controls_after(
-        together({enter(0, "ABC"),
-                  {set("quantita(0)", "3"), set("sc1(0)", "4"), set("prezzo(0)", "99"),
-                   "focus mirorcs.civ(0)", "pick mirorcs.Combo1 20", "click mirorcs.prezz(1)",
-                   "key mirorcs.artic(0) Enter"},
-                  enter(1, "ABC"),
-                  {"click mirorcs.prezz(0)"}}));
-    EXPECT_EQ(row_of(controls, 0), (script{"ABC", "Chiodo", "PZ", "3", "4", "", "3.5", "04"}));
-    EXPECT_EQ(row_of(controls, 1), (script{"ABC", "Chiodo", "PZ", "", "", "", "3.5", "04"}));
+    expect_after(together({enter(0, "ABC"),
+                           {set("quantita(0)", "3"), set("sc1(0)", "4"), set("prezzo(0)", "99"),
+                            "focus mirorcs.civ(0)", "pick mirorcs.Combo1 20",
+                            "click mirorcs.prezz(1)", "key mirorcs.artic(0) Enter"},
+                           enter(1, "ABC"),
+                           {"click mirorcs.prezz(0)"}}),
+                 {"row(0)=ABC|Chiodo|PZ|3|4||3.5|04", "row(1)=ABC|Chiodo|PZ||||3.5|04"});
 }
 
 TEST_F(article_lookup, TheCustomersVatCodeGoesFirst) {
-    for (const auto& [own, shown] : {std::pair{0, "02"}, {25, "02"}, {1, "01"}, {24, "24"}}) {
+    for (const auto& [own, shown] :
+         {std::pair{0, "civ(0)=02"}, {25, "civ(0)=02"}, {1, "civ(0)=01"}, {24, "civ(0)=24"}}) {
         customer.iva_cliente = static_cast<std::int16_t>(own);
-        EXPECT_EQ(text_after(enter(0, "ab"), "civ(0)"), shown) << own;
+        expect_after(enter(0, "ab"), {shown});
     }
     // An article without a code gets that of the company with its price.
     customer.iva_cliente = 0;
     articles[3].iva = std::int16_t{0};
     company.articles(articles);
-    EXPECT_EQ(text_after(enter(0, "ab"), "civ(0)"), "04");
+    expect_after(enter(0, "ab"), {"civ(0)=04"});
 }
 
 TEST_F(article_lookup, AClickIntoTheDescriptionCutsTheArticleOff) {
-    const auto replies = run(together(
-        {enter(0, "ABC"),
-         enter(1, "BULLONE"),
-         {"focus mirorcs.ds(0)", "focus mirorcs.um(0)", "controls mirorcs", "focus mirorcs.um(1)",
-          scroll(9), scroll(1), "click mirorcs.riordina", "controls mirorcs"}}));
-    const json& cut = replies[6]["value"];
-    EXPECT_EQ(row_of(cut, 0), (script{"", "Chiodo", "PZ", "", "", "", "7", "04"}));
+    const script cut = together(
+        {enter(0, "ABC"), enter(1, "BULLONE"), {"focus mirorcs.ds(0)", "focus mirorcs.um(0)"}});
     // Without an article, the line has no stock to show: that of the other line stays.
-    EXPECT_TRUE(cut["listx"]["text"].get<std::string>().ends_with("00001"));
+    const json shown = run(cut).back();
+    EXPECT_EQ(found(shown, "row(0)"), "|Chiodo|PZ||||7|04");
+    EXPECT_TRUE(found(shown, "listx").ends_with("00001"));
     // The line itself has lost it, too: it sorts behind the other one.
-    EXPECT_EQ(row_of(replies.back()["value"], 0)[0], "BULLONE");
-    EXPECT_EQ(row_of(replies.back()["value"], 1)[1], "Chiodo");
+    expect_after(
+        together({cut, {"focus mirorcs.um(1)", scroll(9), scroll(1), "click mirorcs.riordina"}}),
+        {"artic(0)=BULLONE", "ds(1)=Chiodo"});
 }
 
 TEST_F(article_lookup, TheListFollowsTheCodeAndPicksByClick) {
-    auto replies = run({"type mirorcs.artic(2) \"B\"", "get mirorcs.List1", "pick mirorcs.List1 0",
-                        "controls mirorcs", "items mirorcs.List1"});
-    EXPECT_EQ(replies[1]["value"]["index"], 2);
-    EXPECT_EQ(replies[2]["focus"], "quantita(2)");
-    EXPECT_EQ(replies[3]["value"]["artic(2)"]["text"], "ab");
-    EXPECT_EQ(replies[4]["value"].size(), 3U);
+    const script typed = {"type mirorcs.artic(2) \"B\""};
+    expect_after(typed, {"List1.index=2", "List1.count=3"});
+    expect_after(together({typed, {"pick mirorcs.List1 0"}}), {"focus=quantita(2)", "artic(2)=ab"});
     // Arrows pick the neighbour, the cell's focus moves the list to its own article.
-    replies =
-        run(together({enter(0, "ABC"),
-                      {"key mirorcs.List1 Down", "get mirorcs.artic(0)", "focus mirorcs.artic(3)",
-                       "focus mirorcs.artic(0)", "get mirorcs.List1"}}));
-    EXPECT_EQ(replies[3]["value"]["text"], "BULLONE");
-    EXPECT_EQ(replies[6]["value"]["index"], 2);
+    const script down = together({enter(0, "ABC"), {"key mirorcs.List1 Down"}});
+    expect_after(down, {"artic(0)=BULLONE"});
+    expect_after(together({down, {"focus mirorcs.artic(3)", "focus mirorcs.artic(0)"}}),
+                 {"List1.index=2"});
 }
 
 TEST_F(article_lookup, BarCodesAreLookedUpInTheirIndex) {
     const script scan = {"click mirorcs.barcode"};
-    struct {
-        const char* code;
-        const char* description;  ///< null: nothing is found
-    } cases[] = {{"8001", "Bullone zincato"}, {"X03", "Dado"},  {"x03 ", "Dado"},
-                 {"8002", nullptr},           {"800", nullptr}, {"ABC", nullptr}};
-    for (const auto& one : cases) {
-        const auto replies = run(together({scan, enter(0, one.code), {"controls mirorcs"}}));
-        const json& controls = replies.back()["value"];
-        if (one.description) {
-            EXPECT_EQ(controls["ds(0)"]["text"], one.description);
-            EXPECT_EQ(replies[2]["focus"], "quantita(0)");
-        } else {
-            EXPECT_EQ(replies[2]["box"], not_found) << one.code;
-            EXPECT_EQ(row_of(controls, 0), (script{one.code, "", "", "", "", "", "", ""}));
-        }
+    for (const char* code : {"8001", "X03", "x03 "}) {
+        expect_after(
+            together({scan, enter(0, code)}),
+            {code[0] == '8' ? "ds(0)=Bullone zincato" : "ds(0)=Dado", "focus=quantita(0)"});
+    }
+    for (const char* code : {"8002", "800", "ABC"}) {
+        expect_after(together({scan, enter(0, code)}),
+                     {not_found, std::string("row(0)=") + code + "|||||||"});
     }
     // The line keeps the bar code, and sorts by it.
-    const json controls = controls_after(
-        together({scan, enter(0, "x03"), enter(1, "8001"), {"click mirorcs.riordina"}}));
-    EXPECT_EQ(texts(controls, "artic", 0, 1), (script{"8001", "x03"}));
+    expect_after(together({scan, enter(0, "x03"), enter(1, "8001"), {"click mirorcs.riordina"}}),
+                 {"artic(0)=8001", "artic(1)=x03"});
 }
 
 TEST_F(article_lookup, TheBarCodeMarkTurnsTheListOffAndOn) {
-    auto replies = run({"focus mirorcs.um(4)", "click mirorcs.barcode", "get mirorcs.List1",
-                        "click mirorcs.barcode", "get mirorcs.List1"});
-    EXPECT_EQ(replies[1]["focus"], "artic(4)");
-    EXPECT_EQ(replies[2]["value"]["enabled"], false);
-    EXPECT_EQ(replies[2]["value"]["count"], 3);
-    EXPECT_EQ(replies[4]["value"]["enabled"], true);
+    const script off = {"focus mirorcs.um(4)", "click mirorcs.barcode"};
+    expect_after(off, {"focus=artic(4)", "List1.enabled=false", "List1.count=3"});
+    expect_after(together({off, {"click mirorcs.barcode"}}), {"List1.enabled=true"});
 
     company.counter(contatori::articoli, 0);
-    replies = run(together(
-        {{"get mirorcs.List1", "click mirorcs.command3d3", "get mirorcs.List1"}, enter(0, "ABC")}));
-    EXPECT_EQ(replies[0]["value"]["count"], 0);
-    EXPECT_EQ(replies[2]["value"]["count"], 3);  // the block behind the count is read, too
-    EXPECT_EQ(replies[2]["value"]["enabled"], true);
-    EXPECT_EQ(replies.back()["focus"], "quantita(0)");
-    EXPECT_EQ(run(enter(0, "ABC")).back()["box"], not_found);
+    expect_after(enter(0, "ABC"), {"List1.count=0", not_found});
+    // The block behind the count is read, too.
+    expect_after(together({{"click mirorcs.command3d3"}, enter(0, "ABC")}),
+                 {"List1.count=3", "List1.enabled=true", "focus=quantita(0)"});
 }
 
 TEST_F(article_lookup, F1FindsTheFirstArticleByItsDescription) {
-    struct {
+    const struct {
         const char* description;
         const char* code;  ///< what the line gets; null: F1 does nothing
     } cases[] = {{"chio", "ABC"},
@@ -193,11 +147,10 @@ TEST_F(article_lookup, F1FindsTheFirstArticleByItsDescription) {
                  // The first match is a deleted article: the one behind it isn't tried.
                  {"dado", nullptr}};
     for (const auto& one : cases) {
-        const auto replies = run({"type mirorcs.artic(5) \"AB\"", set("ds(3)", one.description),
-                                  "key mirorcs.ds(3) F1", "controls mirorcs"});
-        EXPECT_EQ(replies[3]["value"]["artic(3)"]["text"], one.code ? one.code : "");
-        EXPECT_EQ(replies[2]["focus"], one.code ? "quantita(3)" : "ds(3)") << one.description;
-        EXPECT_FALSE(replies[2].contains("box"));
+        expect_after(
+            {"type mirorcs.artic(5) \"AB\"", set("ds(3)", one.description), "key mirorcs.ds(3) F1"},
+            {std::string("artic(3)=") + (one.code ? one.code : ""),
+             one.code ? "focus=quantita(3)" : "focus=ds(3)", "box="});
     }
 }
 
@@ -206,29 +159,23 @@ TEST_F(article_lookup, ALongTextOverwritesTheLinesBelow) {
     const script filled = {set("ds(1)", "sotto"), set("quantita(1)", "5"), set("prezzo(1)", "6"),
                            set("sc1(1)", "7"),    set("um(1)", "KG"),      set("ds(2)", "due"),
                            set("ds(3)", "resta")};
-    auto commands = together({filled, enter(0, "ABC")});
-    EXPECT_EQ(focus_after(commands), "quantita(0)");
-    const json controls = controls_after(commands);
-    EXPECT_EQ(row_of(controls, 0)[0], "ABC");
-    EXPECT_EQ(row_of(controls, 1), (script{"", "terzarighe", "", "", "", "", "", ""}));
-    EXPECT_EQ(row_of(controls, 2), (script{"", "sesta", "", "", "", "", "", ""}));
-    EXPECT_EQ(row_of(controls, 3)[1], "resta");
-    EXPECT_EQ(controls["tota(2)"]["text"], "0 ");
+    const script commands = together({filled, enter(0, "ABC")});
+    expect_after(commands, {"focus=quantita(0)", "artic(0)=ABC", "row(1)=|terzarighe||||||",
+                            "row(2)=|sesta||||||", "ds(3)=resta", "tota(2)=0 "});
 
     rec_prx unmarked{};
     unmarked.righe[0] = "niente";
     unmarked.marca_testo = 122;
     company.files.prx.write(3, unmarked);
-    EXPECT_EQ(texts(controls_after(commands), "ds", 1, 2), (script{"sotto", "due"}));
+    expect_after(commands, {"ds(1)=sotto", "ds(2)=due"});
 }
 
 TEST_F(article_lookup, ALongTextPastTheLastLineEndsTheProgram) {
     company.long_text(3, std::vector<std::string>(5, "testo"));
-    EXPECT_EQ(texts(controls_after(together({{scroll(189)}, enter(6, "ABC")})), "ds", 6, 11),
-              (script{"Chiodo", "testo", "testo", "testo", "testo", "testo"}));
-    const json last = run(together({{scroll(189)}, enter(7, "ABC")})).back();
-    EXPECT_EQ(last["ended"], "fatal");
-    EXPECT_EQ(last["fatal"], "Errore di run-time '9': Indice non incluso nell'intervallo");
+    expect_after(together({{scroll(189)}, enter(6, "ABC")}),
+                 {"ds(6)=Chiodo", "ds(7)=testo", "ds(11)=testo"});
+    EXPECT_EQ(run(together({{scroll(189)}, enter(7, "ABC")})).back()["fatal"],
+              "Errore di run-time '9': Indice non incluso nell'intervallo");
 }
 
 }  // namespace

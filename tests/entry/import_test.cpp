@@ -27,120 +27,101 @@ class imports : public testing::Test {
         company.customers({customer_named("ROSSI"), customer_named("BIANCHI")});
         company.articles({article("A1", "vite", 1), article("A2", "dado", 2)});
         company.table_file();
-        quote(1, 1, 0);
-        quote(2, 2, 0);
-        quote(3, 1, 2);
-        order(1, 2);
+        block(company.files.prv, "P1", 1, 1, 0);
+        block(company.files.prv, "P2", 2, 2, 0);
+        block(company.files.prv, "P3", 3, 1, 2);
+        block(company.files.orc, "O1", 1, 2, 0);
         company.counter(contatori::preventivi, 3);
         company.counter(contatori::ordini, 1);
     }
-    void quote(int block, int customer, int deleted) {
-        std::vector<rec_prv> rows(righe_blocco);
-        rows[0].numero = "P" + std::to_string(block);
+    /// A quote or order of one line, whose second row has a VAT code but no price.
+    template <class Row>
+    static void block(channel<Row>& file, const char* name, int number, int customer, int deleted) {
+        std::vector<Row> rows(righe_blocco);
+        for (Row& row : rows) make_blank(row);
+        rows[0].numero = name;
         rows[0].data = "20240131";
         rows[0].cliente = static_cast<std::int16_t>(customer);
         rows[0].annullato = static_cast<std::int16_t>(deleted);
-        for (auto& row : rows) make_blank(row);
-        rows[0].descrizione = "riga di P" + std::to_string(block);
-        company.files.prv.write_block(block_record(block, 1), rows);
-    }
-    void order(int block, int customer) {
-        std::vector<rec_orc> rows(righe_blocco);
-        rows[0].numero = "O" + std::to_string(block);
-        rows[0].data = "20240201";
-        rows[0].cliente = static_cast<std::int16_t>(customer);
-        for (auto& row : rows) make_blank(row);
+        rows[0].descrizione = std::string("riga di ") + name;
         rows[0].articolo = std::int16_t{2};
         rows[0].quantita = 3;
         rows[0].prezzo = 5;
-        rows[0].evaso = 2;
-        rows[0].iva = std::int16_t{4};
-        rows[1].iva = std::int16_t{4};
-        company.files.orc.write_block(block_record(block, 1), rows);
+        rows[0].iva = rows[1].iva = std::int16_t{4};
+        file.write_block(block_record(number, 1), rows);
     }
-    /// A session in a new order of ROSSI.
-    std::vector<json> enter(std::vector<std::string> commands) {
-        commands.insert(commands.begin(), {"click mirorc.bottone(2)", "scroll mirorcx.HScroll1 2",
-                                           "click mirorcx.bottone"});
-        auto replies = run_script(company.drive(), commands);
-        replies.erase(replies.begin(), replies.begin() + 3);
-        return replies;
+    /// A session in a new order of ROSSI. Each command is followed by what its reply says: a
+    /// screen, "waiting" behind it, or the text of the control asked for.
+    void expect_session(const std::vector<std::pair<std::string, json>>& steps) {
+        std::vector<std::string> commands = {"click mirorc.bottone(2)", "scroll mirorcx.HScroll1 2",
+                                             "click mirorcx.bottone"};
+        for (const auto& [command, reply] : steps) commands.push_back(command);
+        const auto replies = run_script(company.drive(), commands);
+        for (std::size_t i = 0; i < steps.size(); ++i) {
+            const json& reply = replies.at(i + 3);
+            json told = reply.at("screen").get<std::string>() +
+                        (reply.contains("waiting") ? " waiting" : "");
+            if (reply.contains("value")) told = reply["value"];
+            if (told.contains("text")) told = told["text"];
+            if (reply["ok"] == false) told = "refused";
+            EXPECT_EQ(told, steps[i].second) << i << ": " << steps[i].first;
+        }
     }
 
     small_company company;
-};  // namespace
+};
 
 TEST_F(imports, QuotesOfTheCustomerAreAddedAndAddedAgain) {
-    const auto replies = enter(
-        {"set mirorcs.ds(1) \"a mano\"", "click mirorcs.comando(6)", "rows mirorcb.elenco 0 2",
-         "get mirorcb.elenco", "cell mirorcb.elenco 2 0", "cell mirorcb.elenco 1 2",
-         "get mirorcs.ds(2)", "click mirorcs.comando(6)", "click mirorcb.bottone",
-         "get mirorcs.ds(3)", "click mirorcs.comando(6)", "cell mirorcb.elenco 1 0",
-         "click mirorcs.comando(5)", "click mirpref.bottone", "get mirorcs.ds(4)",
-         "click mirorcs.comando(6)", "close mirorcb", "get mirorcs.ds(5)"});
-    EXPECT_EQ(replies[2]["value"], (json{{"Preventivo", "Data", "Descrizione", ""},
-                                         {"P1", "31/01/2024", "", "1"},
-                                         {"", "", "", ""}}));
-    EXPECT_EQ(replies[3]["value"]["rows"], 28);
-    EXPECT_EQ(replies[4]["screen"], "mirorcb") << "a blank row is no choice";
-    EXPECT_EQ(replies[5]["screen"], "mirorcs");
-    EXPECT_EQ(replies[5]["focus"], "artic(0)");
-    EXPECT_EQ(replies[6]["value"]["text"], "riga di P1");
-    EXPECT_EQ(replies[9]["value"]["text"], "") << "nothing was chosen";
-    EXPECT_EQ(replies[14]["value"]["text"], "riga di P1") << "the quote is still the chosen one";
-    EXPECT_EQ(replies[17]["value"]["text"], "riga di P1") << "and is so by any way back";
+    const auto row = [](const char* number) {
+        return "get mirorcs.ds(" + std::string(number) + ")";
+    };
+    expect_session({{"set mirorcs.ds(1) \"a mano\"", "mirorcs"},
+                    {"click mirorcs.comando(6)", "mirorcb"},
+                    {"rows mirorcb.elenco 0 2",
+                     {{"Preventivo", "Data", "Descrizione", ""},
+                      {"P1", "31/01/2024", "", "1"},
+                      {"", "", "", ""}}},
+                    {"cell mirorcb.elenco 27 0", "mirorcb"},  // a blank row is no choice
+                    {"cell mirorcb.elenco 1 2", "mirorcs"},
+                    {row("2"), "riga di P1"},
+                    {"click mirorcs.comando(6)", "mirorcb"},
+                    {"click mirorcb.bottone", "mirorcs"},
+                    {row("3"), ""},  // nothing was chosen
+                    {"click mirorcs.comando(6)", "mirorcb"},
+                    {"cell mirorcb.elenco 1 0", "mirorcs"},
+                    {"click mirorcs.comando(5)", "mirpref waiting"},
+                    {"click mirpref.bottone", "mirorcs"},
+                    {row("4"), "riga di P1"},  // the quote is still the chosen one
+                    {"click mirorcs.comando(6)", "mirorcb"},
+                    {"close mirorcb", "mirorcs"},
+                    {row("5"), "riga di P1"}});  // and is so by any way back
 }
 
-TEST_F(imports, AnOrderOfAnyCustomerReplacesTheLines) {
-    const auto replies =
-        enter({"set mirorcs.ds(0) \"a mano\"", "click mirorcs.comando(5)",
-               "rows mirpref.elenco 0 2", "cell mirpref.elenco 1 0", "get mirorcs.artic(0)",
-               "get mirorcs.quantita(0)", "get mirorcs.civ(0)", "get mirorcs.civ(1)", "screens"});
-    EXPECT_EQ(replies[1]["waiting"], true);
-    EXPECT_EQ(replies[1]["screen"], "mirpref");
-    EXPECT_EQ(replies[2]["value"], (json{{"Ordine", "Data", "Descrizione ordine", "Cliente", ""},
-                                         {"O1", "01/02/2024", "", "BIANCHI", "1"},
-                                         {"", "", "", "", ""}}));
-    EXPECT_EQ(replies[3]["screen"], "mirorcs");
-    EXPECT_FALSE(replies[3].contains("waiting"));
-    EXPECT_EQ(replies[4]["value"]["text"], "A2");
-    EXPECT_EQ(replies[5]["value"]["text"], "3");
-    EXPECT_EQ(replies[6]["value"]["text"], "04");
-    EXPECT_EQ(replies[7]["value"]["text"], "") << "a line without a price has no VAT code";
-    for (const json& one : replies[8]["value"]) EXPECT_NE(one["name"], "mirpref");
-}
-
-TEST_F(imports, TheOrderStaysAliveBehindItsPicker) {
-    const auto replies = enter({"set mirorcs.ds(0) \"a\"",
-                                "click mirorcs.comando(5)",
-                                "set mirorcs.ds(0) \"b\"",
-                                "activate mirorcs",
-                                "get mirorcs.ds(0)",
-                                "set mirorcs.ds(0) \"c\"",
-                                "close mirpref",
-                                "get mirorcs.ds(0)",
-                                "click mirorcs.comando(5)",
-                                "close mirpref",
-                                "click mirorcs.comando(5)",
-                                "cell mirpref.elenco 1 0",
-                                "get mirorcs.artic(0)",
-                                "click mirorcs.comando(5)",
-                                "click mirpref.bottone",
-                                "get mirorcs.artic(0)",
-                                "click mirorcs.comando(5)",
-                                "activate mirorcs",
-                                "click mirorcs.comando(0)",
-                                "activate mirorc"});
-    EXPECT_EQ(replies[2]["ok"], false) << "the picker is the active screen";
-    EXPECT_EQ(replies[4]["value"]["text"], "") << "a fresh order starts over when it comes back";
-    EXPECT_EQ(replies[6]["waiting"], true) << "closing the picker chooses nothing";
-    EXPECT_EQ(replies[7]["value"]["text"], "c");
-    EXPECT_FALSE(replies[11].contains("waiting")) << "one choice serves all waits";
-    EXPECT_EQ(replies[12]["value"]["text"], "A2");
-    EXPECT_EQ(replies[15]["value"]["text"], "") << "no choice leaves the order started over";
-    EXPECT_EQ(replies[18]["screen"], "mirorc");
-    EXPECT_FALSE(replies[18].contains("waiting")) << "the wait ends with the order";
-    EXPECT_EQ(replies[19]["ok"], true);
+TEST_F(imports, AnOrderOfAnyCustomerReplacesTheLinesOfOneThatStaysAlive) {
+    expect_session({{"set mirorcs.ds(0) \"a\"", "mirorcs"},
+                    {"click mirorcs.comando(5)", "mirpref waiting"},
+                    {"rows mirpref.elenco 0 2",
+                     {{"Ordine", "Data", "Descrizione ordine", "Cliente", ""},
+                      {"O1", "31/01/2024", "", "BIANCHI", "1"},
+                      {"", "", "", "", ""}}},
+                    {"set mirorcs.ds(0) \"b\"", "refused"},  // the picker is the active screen
+                    {"activate mirorcs", "mirorcs waiting"},
+                    {"get mirorcs.ds(0)", ""},  // a fresh order starts over when it comes back
+                    {"set mirorcs.ds(0) \"c\"", "mirorcs waiting"},
+                    {"close mirpref", "mirorcs waiting"},  // chooses nothing
+                    {"get mirorcs.ds(0)", "c"},
+                    {"click mirorcs.comando(5)", "mirpref waiting"},
+                    {"cell mirpref.elenco 1 0", "mirorcs"},  // one choice serves all waits
+                    {"get mirorcs.artic(0)", "A2"},
+                    {"get mirorcs.quantita(0)", "3"},
+                    {"get mirorcs.civ(0)", "04"},
+                    {"get mirorcs.civ(1)", ""},  // a line without a price has no VAT code
+                    {"click mirorcs.comando(5)", "mirpref waiting"},
+                    {"click mirpref.bottone", "mirorcs"},
+                    {"get mirorcs.artic(0)", ""},  // no choice leaves the order started over
+                    {"click mirorcs.comando(5)", "mirpref waiting"},
+                    {"activate mirorcs", "mirorcs waiting"},
+                    {"click mirorcs.comando(0)", "mirorc"}});  // the wait ends with the order
 }
 
 /// Step by step, one read for every row.
