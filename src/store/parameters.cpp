@@ -61,18 +61,19 @@ void load_currency(parametri& into, file_port& files) {
     parameter_file file(files, file_generale("eur"));
     for (std::size_t slot = 1; slot <= 5; ++slot) file.item(slots[slot]);
     if (file.pending()) {
-        slots[valuta_slot::modo_decimali] = "1";
-        slots[valuta_slot::cambio] = "1936.27";
-        slots[valuta_slot::valuta_alternativa] = "ITL";
-        slots[valuta_slot::valuta_principale] = "EUR";
-        slots[valuta_slot::decimali_prezzo] = "2";
+        // Whole texts: GCC 12 warns of literals that are assigned here.
+        slots[valuta_slot::modo_decimali] = std::string("1");
+        slots[valuta_slot::cambio] = std::string("1936.27");
+        slots[valuta_slot::valuta_alternativa] = std::string("ITL");
+        slots[valuta_slot::valuta_principale] = std::string("EUR");
+        slots[valuta_slot::decimali_prezzo] = std::string("2");
     }
     std::string sixth;
     file.line(sixth);
     file.line(slots[valuta_slot::settima_riga]);
-    if (file.pending()) slots[valuta_slot::settima_riga] = "9";
+    if (file.pending()) slots[valuta_slot::settima_riga] = std::string("9");
     auto& mode = slots[valuta_slot::modo_decimali];
-    mode = number_at_head(mode) != 0 ? "1" : "0";
+    mode = std::string(number_at_head(mode) != 0 ? "1" : "0");
 }
 
 void load_report_margins(voce_stampa& report, parameter_file& file) {
