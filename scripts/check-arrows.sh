@@ -12,8 +12,10 @@ store/text:
 ui: store/text
 ui/pictures: ui
 ui/script: ui store/text
-ui/desktop: ui ui/script ui/desktop/layouts store/text
-ui/desktop/layouts: ui ui/desktop store/text
+ui/paper: ui store/text
+ui/look: ui
+ui/desktop: ui ui/paper ui/look ui/script ui/desktop/layouts store/text
+ui/desktop/layouts: ui ui/paper ui/look ui/desktop store/text
 program: store store/records store/text ui
 customer: program store store/records store/text ui
 documents: program store store/records store/text ui
@@ -21,7 +23,7 @@ register: program store store/records store/text ui
 entry: customer documents program store store/records store/text ui
 fulfil: customer documents entry program store store/records store/text ui
 reports: documents program store store/records store/text ui
-app: register customer entry fulfil reports documents program store store/records store/text ui ui/desktop ui/pictures ui/script
+app: register customer entry fulfil reports documents program store store/records store/text ui ui/desktop ui/look ui/pictures ui/script
 '
 
 git ls-files 'src/*.h' 'src/*.cpp' |

@@ -9,8 +9,8 @@
 #include "ui/desktop/desktop_front_end.h"
 #include "ui/desktop/outside_end.h"
 #include "ui/desktop/script_runner.h"
-#include "ui/desktop/style.h"
 #include "ui/desktop/system_ports.h"
+#include "ui/look/style.h"
 #include "ui/pictures/pixbuf_decoder.h"
 
 namespace {
@@ -54,7 +54,7 @@ int main(int count, char** arguments) {
     QApplication::setOrganizationName("Vantora");
     QApplication::setApplicationName("Ordini");
     QApplication::setQuitOnLastWindowClosed(false);
-    ui::desktop::dress_application(application);
+    ui::dress_application(application);
 
     drive files(options.drive);
     ui::local_clock time;

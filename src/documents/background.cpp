@@ -39,8 +39,7 @@ std::span<elemento_disegno> elements_in_use(disegno& drawing) {
 }
 
 ui::colour ink_of(const elemento_disegno& one) {
-    const double value = one.valori[colore];
-    return value >= 0 && value <= ui::white ? static_cast<ui::colour>(value) : 0;
+    return ui::colour_of(one.valori[colore]).value_or(ui::black);
 }
 
 /// The user sees each picture while it goes to the paper.

@@ -28,7 +28,7 @@ void document_output::set_look(const aspetto_testo& look) {
     if (!look.carattere.empty()) font_.name = look.carattere;
     font_.bold = look.grassetto;
     font_.italic = look.corsivo;
-    if (look.colore >= 0 && look.colore <= ui::white) ink_ = static_cast<ui::colour>(look.colore);
+    ink_ = ui::colour_of(look.colore).value_or(ink_);
 }
 
 void document_output::print(double x, double y, std::string_view text, const aspetto_testo& look) {

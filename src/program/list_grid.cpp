@@ -1,19 +1,8 @@
 #include "program/list_grid.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace vantora {
-
-namespace {
-
-ui::colour stored_colour(double value) {
-    const double nearest = std::nearbyint(value);
-    if (!(nearest >= 0 && nearest <= ui::white)) return ui::white;
-    return static_cast<ui::colour>(nearest);
-}
-
-}  // namespace
 
 void list_grid::build(const filling& fill) {
     const bool had_focus = grid_.has_focus();
@@ -53,8 +42,8 @@ void list_grid::finish(int in_use) {
 void list_grid::paint_stripes() {
     const rec_gnr& parameters = app_.parameters.gnr;
     if (parameters.righe_alternate.full() != "1") return;
-    const ui::colour even = stored_colour(parameters.colore_riga_pari);
-    const ui::colour odd = stored_colour(parameters.colore_riga_dispari);
+    const ui::colour even = ui::colour_of(parameters.colore_riga_pari).value_or(ui::white);
+    const ui::colour odd = ui::colour_of(parameters.colore_riga_dispari).value_or(ui::white);
     for (int row = 1; row < grid_.rows(); ++row) {
         grid_.set_back_colour(row, 0, last_col_, row % 2 == 0 ? even : odd);
     }

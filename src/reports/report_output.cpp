@@ -9,7 +9,7 @@ namespace {
 constexpr double usual_size = 9;
 
 ui::colour usable_colour(double value) {
-    return value >= 0 && value <= ui::white ? static_cast<ui::colour>(value) : 0;
+    return ui::colour_of(value).value_or(ui::black);
 }
 
 double millimetres(double twips) {

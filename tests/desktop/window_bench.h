@@ -7,7 +7,7 @@
 
 #include "ui/desk.h"
 #include "ui/desktop/desktop_front_end.h"
-#include "ui/desktop/style.h"
+#include "ui/look/style.h"
 #include "ui/script/bench_ports.h"
 
 namespace vantora::ui::desktop::test {

@@ -5,13 +5,13 @@
 #include <QPdfWriter>
 
 #include "store/text/code_page.h"
-#include "ui/desktop/page_painter.h"
+#include "ui/paper/page_painter.h"
 
 namespace vantora::mirxpdf {
 
 namespace {
 
-using ui::desktop::page_painter;
+using ui::page_painter;
 
 constexpr int dots_per_inch = 1200;
 constexpr double largest_letter = 2000;  // points
@@ -21,7 +21,7 @@ constexpr double page_short = 210;
 constexpr double page_long = 297;
 
 ui::colour ink_of(const record_di_stampa& mark) {
-    return mark.colore >= 0 && mark.colore <= ui::white ? static_cast<ui::colour>(mark.colore) : 0;
+    return ui::colour_of(mark.colore).value_or(ui::black);
 }
 
 class pdf_pages {
@@ -75,7 +75,7 @@ class pdf_pages {
         const ui::font face{mark.carattere, std::min(mark.corpo, largest_letter),
                             mark.grassetto != 0, mark.corsivo != 0};
         double left = mark.x1;
-        if (mark.y2 == 1) left -= ui::desktop::page_text_width(mark.testo, face, writer_);
+        if (mark.y2 == 1) left -= ui::page_text_width(mark.testo, face, writer_);
         page.text(left, mark.y1, mark.testo, face, ink_of(mark));
     }
 

@@ -12,15 +12,15 @@
 #include "store/company.h"
 #include "store/drive.h"
 #include "store/text/code_page.h"
-#include "ui/desktop/binder.h"
-#include "ui/desktop/style.h"
+#include "ui/look/style.h"
+#include "ui/paper/toolkit_values.h"
 #include "ui/pictures/pixbuf_decoder.h"
 
 namespace {
 
 using namespace vantora;
 using namespace vantora::mirxpdf;
-using ui::desktop::shown;
+using ui::shown;
 
 constexpr int all_done = 0;
 constexpr int no_pdf = 1;
@@ -197,7 +197,7 @@ int main(int count, char** arguments) {
     QApplication::setApplicationName("mirxpdf");
     notices tell;
     if (QGuiApplication::platformName() != "offscreen") {
-        ui::desktop::dress_application(application);
+        ui::dress_application(application);
         tell = notices(
             [](const QString& file) { QDesktopServices::openUrl(QUrl::fromLocalFile(file)); });
     }

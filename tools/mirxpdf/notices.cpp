@@ -5,7 +5,7 @@
 #include <QPushButton>
 #include <iostream>
 
-#include "ui/desktop/box_look.h"
+#include "ui/look/box_look.h"
 
 namespace vantora::mirxpdf {
 
@@ -28,7 +28,7 @@ void notices::show_with_open(const QString& text, const QString& pdf, bool is_wa
     auto* close = box.addButton("Chiudi", QMessageBox::RejectRole);
     box.setDefaultButton(open);
     box.setEscapeButton(close);
-    ui::desktop::dress_box(box, is_warning ? ui::icon::warning : ui::icon::information);
+    ui::dress_box(box, is_warning ? ui::icon::warning : ui::icon::information);
     box.exec();
     if (box.clickedButton() == open) open_(pdf);
 }
@@ -38,7 +38,7 @@ void notices::failure(const QString& what) const {
     if (!open_) return;
     QMessageBox box(QMessageBox::NoIcon, title, what, QMessageBox::Ok);
     box.setTextFormat(Qt::PlainText);
-    ui::desktop::dress_box(box, ui::icon::stop);
+    ui::dress_box(box, ui::icon::stop);
     box.exec();
 }
 

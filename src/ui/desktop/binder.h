@@ -1,12 +1,11 @@
 #pragma once
 
-#include <QString>
 #include <QWidget>
 #include <functional>
 #include <memory>
-#include <string_view>
 
 #include "ui/control.h"
+#include "ui/paper/toolkit_values.h"
 
 namespace vantora::ui::desktop {
 
@@ -25,11 +24,5 @@ class binder : public control_view {
 
 /// Makes the binder of a control by its kind; its widget is a child of `parent`.
 std::unique_ptr<binder> make_binder(control& to, QWidget* parent, const user_action& act);
-
-/// A text of the code page as the toolkit takes it; control characters show as nothing.
-QString shown(std::string_view text);
-
-/// A text of the toolkit in the code page.
-std::string taken(const QString& text);
 
 }  // namespace vantora::ui::desktop

@@ -6,7 +6,7 @@
 #include <QPushButton>
 
 #include "ui/desk.h"
-#include "ui/desktop/box_look.h"
+#include "ui/look/box_look.h"
 
 namespace vantora::ui::desktop {
 

@@ -15,6 +15,7 @@
 #include "ui/desktop/grid_view.h"
 #include "ui/desktop/layouts.h"
 #include "ui/desktop/widget_binder.h"
+#include "ui/look/style.h"
 
 namespace vantora::ui::desktop {
 
@@ -25,10 +26,6 @@ constexpr int title_room = 30;
 constexpr QSize frame_room(8, title_room + 6);
 
 }  // namespace
-
-QIcon picture_named(const char* name) {
-    return QIcon(QString(":/icons/%1.svg").arg(name));
-}
 
 form_window::form_window(form& screen, user_action act, std::function<void(form&)> close,
                          std::function<void(form&)> come_forward, bool remember)

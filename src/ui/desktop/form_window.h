@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QIcon>
 #include <QWidget>
 #include <algorithm>
 #include <map>
@@ -102,8 +101,5 @@ class form_window final : public QWidget {
 
 /// Further keys for a button, told by its tooltip; pressed by them it leaves the focus where it is.
 void add_shortcut(QAbstractButton& button, const char* keys);
-
-/// A picture of the program.
-QIcon picture_named(const char* name);
 
 }  // namespace vantora::ui::desktop

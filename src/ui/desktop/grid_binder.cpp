@@ -1,5 +1,4 @@
 #include <QAbstractTableModel>
-#include <QColor>
 #include <QKeyEvent>
 #include <QScrollBar>
 #include <QTableView>
@@ -34,7 +33,7 @@ class cells_model final : public QAbstractTableModel {
             case Qt::DisplayRole:
                 return shown(grid_.text(row, col));
             case Qt::BackgroundRole:
-                return colour_of(grid_.back_colour(row, col));
+                return toolkit_colour(grid_.back_colour(row, col));
             case Qt::TextAlignmentRole:
                 return aligned(col);
             case Qt::FontRole:
@@ -72,10 +71,6 @@ class cells_model final : public QAbstractTableModel {
     }
 
  private:
-    static QColor colour_of(colour back) {
-        return {static_cast<int>(back & 0xFF), static_cast<int>(back >> 8 & 0xFF),
-                static_cast<int>(back >> 16 & 0xFF)};
-    }
     [[nodiscard]] QVariant aligned(int col) const {
         const auto& columns = grid_.columns();
         const bool right = static_cast<std::size_t>(col) < columns.size() &&

@@ -13,8 +13,8 @@
 #include <QPushButton>
 #include <QStandardPaths>
 
-#include "ui/desktop/binder.h"
-#include "ui/desktop/box_look.h"
+#include "ui/look/box_look.h"
+#include "ui/paper/toolkit_values.h"
 
 namespace vantora::ui::desktop {
 

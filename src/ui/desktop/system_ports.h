@@ -5,8 +5,8 @@
 #include <memory>
 #include <string>
 
-#include "ui/desktop/page_painter.h"
 #include "ui/launcher.h"
+#include "ui/paper/page_painter.h"
 #include "ui/printer.h"
 
 namespace vantora::ui::desktop {

@@ -6,7 +6,6 @@
 
 #include "ui/desk.h"
 #include "ui/desktop/kinds.h"
-#include "ui/desktop/page_painter.h"
 #include "ui/desktop/widget_binder.h"
 #include "ui/text_controls.h"
 

@@ -6,24 +6,9 @@
 #include <QShortcutEvent>
 #include <QTimer>
 
-#include "store/text/code_page.h"
 #include "ui/desk.h"
 
 namespace vantora::ui::desktop {
-
-QString shown(std::string_view text) {
-    std::string printable;
-    printable.reserve(text.size());
-    for (const char character : text) {
-        const auto code = static_cast<unsigned char>(character);
-        if (code >= 32 && code != 127) printable.push_back(character);
-    }
-    return QString::fromStdString(to_utf8(printable));
-}
-
-std::string taken(const QString& text) {
-    return from_utf8(text.toStdString());
-}
 
 namespace {
 

@@ -7,7 +7,7 @@
 #include <QPushButton>
 #include <QTimer>
 
-#include "ui/desktop/style.h"
+#include "ui/look/style.h"
 
 namespace vantora::mirxpdf {
 namespace {
@@ -18,7 +18,7 @@ class mirxpdf_notices : public testing::Test {
     void SetUp() override {
         qputenv("QT_QPA_PLATFORM", "offscreen");
         application = std::make_unique<QApplication>(count, arguments);
-        ui::desktop::dress_application(*application);
+        ui::dress_application(*application);
     }
 
     /// Presses this button, or Escape if it is empty, in the next box.

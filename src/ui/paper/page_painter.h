@@ -12,7 +12,7 @@
 class QPaintDevice;
 class QPainter;
 
-namespace vantora::ui::desktop {
+namespace vantora::ui {
 
 /// A font of the documents as this machine has it: by name, else by its stand-in of the same
 /// widths.
@@ -20,9 +20,6 @@ QFont page_font(const font& wanted);
 
 /// Width in millimetres of a text of the code page on a device.
 double page_text_width(std::string_view text, const font& in, const QPaintDevice& on);
-
-/// The points of a picture; the light grey ones are transparent.
-QImage image_of(const bitmap& points);
 
 /// Draws the marks of documents and reports, page after page. Positions are millimetres from the
 /// upper left corner of the sheet, a text's position is its upper left corner. Printer and PDF
@@ -50,4 +47,4 @@ class page_painter {
     std::map<std::shared_ptr<const bitmap>, QImage> pictures_;
 };
 
-}  // namespace vantora::ui::desktop
+}  // namespace vantora::ui

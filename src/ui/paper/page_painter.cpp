@@ -1,12 +1,12 @@
-#include "ui/desktop/page_painter.h"
+#include "ui/paper/page_painter.h"
 
 #include <QFontMetricsF>
 #include <QPaintDevice>
 #include <QPainter>
 
-#include "ui/desktop/binder.h"
+#include "ui/paper/toolkit_values.h"
 
-namespace vantora::ui::desktop {
+namespace vantora::ui {
 
 namespace {
 
@@ -25,11 +25,6 @@ constexpr struct {
     {"Times New Roman", "Liberation Serif"},
     {"Courier New", "Liberation Mono"},
 };
-
-QColor toolkit_colour(colour ink) {
-    return {static_cast<int>(ink & 0xFF), static_cast<int>(ink >> 8 & 0xFF),
-            static_cast<int>(ink >> 16 & 0xFF)};
-}
 
 }  // namespace
 
@@ -51,21 +46,6 @@ QFont page_font(const font& wanted) {
 double page_text_width(std::string_view text, const font& in, const QPaintDevice& on) {
     const QFontMetricsF metrics(page_font(in), &on);
     return metrics.horizontalAdvance(shown(text)) * 25.4 / on.logicalDpiX();
-}
-
-QImage image_of(const bitmap& points) {
-    QImage image(points.width, points.height, QImage::Format_ARGB32);
-    const colour* point = points.points.data();
-    for (int y = 0; y < points.height; ++y) {
-        auto* row = reinterpret_cast<QRgb*>(image.scanLine(y));
-        for (int x = 0; x < points.width; ++x, ++point) {
-            row[x] = *point == transparent_grey ? 0U
-                                                : qRgb(static_cast<int>(*point & 0xFF),
-                                                       static_cast<int>(*point >> 8 & 0xFF),
-                                                       static_cast<int>(*point >> 16 & 0xFF));
-        }
-    }
-    return image;
 }
 
 page_painter::page_painter(QPainter& painter)
@@ -112,4 +92,4 @@ void page_painter::picture(double x, double y, double side,
         place->second);
 }
 
-}  // namespace vantora::ui::desktop
+}  // namespace vantora::ui

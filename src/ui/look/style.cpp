@@ -1,4 +1,4 @@
-#include "ui/desktop/style.h"
+#include "ui/look/style.h"
 
 #include <QApplication>
 #include <QLibraryInfo>
@@ -8,15 +8,13 @@
 #include <QStyleOption>
 #include <QTranslator>
 
-#include "ui/desktop/form_window.h"
-
 // The pictures lie in a static library, which would leave them out; Qt wants this outside of any
 // namespace.
 static void make_pictures_known() {
     Q_INIT_RESOURCE(icons);
 }
 
-namespace vantora::ui::desktop {
+namespace vantora::ui {
 
 namespace {
 
@@ -167,6 +165,10 @@ QFrame[role="bar"] { background: #f1f5f8; border: none; border-bottom: 1px solid
 
 }  // namespace
 
+QIcon picture_named(const char* name) {
+    return QIcon(QString(":/icons/%1.svg").arg(name));
+}
+
 void dress_application(QApplication& application) {
     make_pictures_known();
     speak_italian(application);
@@ -193,4 +195,4 @@ void dress_application(QApplication& application) {
     QApplication::setWindowIcon(picture_named("programma"));
 }
 
-}  // namespace vantora::ui::desktop
+}  // namespace vantora::ui

@@ -4,10 +4,10 @@
 
 class QMessageBox;
 
-namespace vantora::ui::desktop {
+namespace vantora::ui {
 
 /// Gives a box the program's own picture for its kind, a frame with nothing but its closing button,
 /// and a width that is seen even if its text is short. REQUIRES: its text is already set.
 void dress_box(QMessageBox& box, icon sign);
 
-}  // namespace vantora::ui::desktop
+}  // namespace vantora::ui

@@ -1,12 +1,12 @@
-#include "ui/desktop/box_look.h"
+#include "ui/look/box_look.h"
 
 #include <QGridLayout>
 #include <QLabel>
 #include <QMessageBox>
 
-#include "ui/desktop/form_window.h"
+#include "ui/look/style.h"
 
-namespace vantora::ui::desktop {
+namespace vantora::ui {
 
 namespace {
 
@@ -48,4 +48,4 @@ void dress_box(QMessageBox& box, icon sign) {
     rows->addItem(new QSpacerItem(narrowest, 0), rows->rowCount(), 0, 1, rows->columnCount());
 }
 
-}  // namespace vantora::ui::desktop
+}  // namespace vantora::ui
