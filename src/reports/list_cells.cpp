@@ -9,6 +9,12 @@ std::string etichetta_articolo::text() const {
     return std::string(trimmed(whole));
 }
 
+std::string etichetta_articolo::title() const {
+    const std::string whole =
+        std::string(codice.trimmed()).append(" ").append(descrizione.trimmed());
+    return std::string(trimmed(whole));
+}
+
 std::string free_text(const text<40>& descrizione, const text<10>& descrizione2) {
     const std::string whole = std::string(descrizione.full()).append(descrizione2.full());
     return std::string(trimmed(whole));

@@ -16,8 +16,10 @@ struct etichetta_articolo {
     explicit etichetta_articolo(const rec_art& article)
         : codice(article.codice), descrizione(article.descrizione) {}
 
-    /// Code and description.
+    /// Code and description, as a row of a list shows them.
     [[nodiscard]] std::string text() const;
+    /// The same over a sheet: without the blanks in front of the description.
+    [[nodiscard]] std::string title() const;
 
     vantora::text<15> codice;
     vantora::text<40> descrizione;

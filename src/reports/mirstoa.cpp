@@ -159,7 +159,7 @@ void mirstoa::list_sheets(report_list& list, raccolta& found) {
             list.write(cliente, names.of(row.cliente));
             list_quantities(list, row.quantita);
             if (&row == &rows.front()) {
-                list.write(scheda, sheet.etichetta.text());
+                list.write(scheda, sheet.etichetta.title());
                 list.write(numero, std::to_string(sheet.numero));
             }
             sums.ordinato += row.quantita.ordinato;

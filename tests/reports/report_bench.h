@@ -31,17 +31,15 @@ struct report_bench {
         };
         app.parameters.numero_azienda = 1;
         apri_archivi(app.archives, files, 1);
+        const auto provide = [this]<class Form>(ui::screen<Form>& place) {
+            place.made_by(around.desk, [this] { return std::make_unique<Form>(app); });
+        };
         provide(app.mirorc);
         provide(app.mirstoe);
         provide(app.mirstos);
         provide(app.mirstov);
         provide(app.mirston);
         provide(app.mirstoa);
-    }
-
-    template <class Form>
-    void provide(ui::screen<Form>& place) {
-        place.made_by(around.desk, [this] { return std::make_unique<Form>(app); });
     }
 
     static grid_rows rows_of(const ui::grid& list) {

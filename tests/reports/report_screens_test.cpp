@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
-#include <sstream>
+#include <iterator>
 
 #include "reports/report_bench.h"
 
@@ -15,18 +15,12 @@ struct report_screens : testing::Test {
     report_screens() {
         bench.company.customers({customer_named("ROSSI")});
         bench.company.articles({article("A1", "Vite", 2.5)});
-        rec_sra entry{};
-        entry.chiave = "A1";
-        entry.numero = std::int16_t{1};
-        bench.company.files.sra.write(1, entry);
+        rec_orc row{};
+        row.cliente = std::int16_t{1};
+        row.data_evasione = "20240701";
+        row.descrizione = "";
         for (int i = 1; i <= 3; ++i) {
-            rec_orc row{};
             row.numero = std::to_string(i);
-            row.data = "20240301";
-            row.data_evasione = "20240701";
-            row.cliente = std::int16_t{1};
-            row.testo1 = "rif";
-            row.descrizione = "";
             std::vector<rec_orc> block(righe_blocco, row);
             block[0].articolo = std::int16_t{1};
             block[0].quantita = 10;
@@ -36,10 +30,9 @@ struct report_screens : testing::Test {
         }
         bench.company.counter(contatori::ordini, 3);
     }
-    template <class Form>
-    report_screen& open(ui::screen<Form>& place) {
+    report_screen& open(ui::screen_place& place) {
         place.use().show();
-        return *place;
+        return static_cast<report_screen&>(place.use());
     }
     static std::string column(const report_screen& screen, int col) {
         std::string texts;
@@ -48,6 +41,7 @@ struct report_screens : testing::Test {
         }
         return texts.substr(0, texts.find_last_not_of('|') + 1);
     }
+    static void build(report_screen& screen) { screen.bottone[report_screen::aggiorna].click(); }
     /// Presses Enter in one field after the other, and tells them.
     std::string enter_chain(report_screen& screen) {
         std::string chain;
@@ -62,9 +56,8 @@ struct report_screens : testing::Test {
         std::map<std::string, std::string> all;
         const auto folder = bench.company.file("orc").parent_path();
         for (const auto& one : std::filesystem::directory_iterator(folder)) {
-            std::ostringstream bytes;
-            bytes << std::ifstream(one.path(), std::ios::binary).rdbuf();
-            all[one.path().filename()] = bytes.str();
+            std::ifstream in(one.path(), std::ios::binary);
+            all[one.path().filename()] = {std::istreambuf_iterator<char>(in), {}};
         }
         return all;
     }
@@ -85,25 +78,20 @@ TEST_F(report_screens, EnterGoesThroughTheFiltersAndBringsTheBoundsBack) {
         {app.mirston, "Schede clienti", "t_inizio t_fine text1(0) text1(1) "},
         {app.mirstoa, "Schede articoli", "t_inizio t_fine Combo0 Text(1) Text3 text1(0) text1(1) "},
     };
-    const struct {
-        const char* typed[2];
-        const char* right[2];
-    } bounds[] = {{{"0", "99999"}, {"1", "3"}},
-                  {{"3", "2"}, {"2", "2"}},
-                  {{"abc", "-4"}, {"-4", "-4"}},
-                  {{" 2x", "2.6"}, {"2", "3"}}};
+    const char* bounds[][3] = {
+        {"0", "99999", "1-3"}, {"3", "2", "2-2"}, {"abc", "-4", "-4--4"}, {" 2x", "2.6", "2-3"}};
     for (const auto& one : screens) {
-        one.place.use().show();
-        auto& screen = static_cast<report_screen&>(one.place.use());
+        report_screen& screen = open(one.place);
+        const auto shown = [&] { return screen.text1[0].text() + "-" + screen.text1[1].text(); };
         EXPECT_EQ(screen.title(), one.title);
-        EXPECT_EQ(screen.text1[0].text() + "-" + screen.text1[1].text(), "1-3");
+        EXPECT_EQ(shown(), "1-3");
         EXPECT_EQ(enter_chain(screen), one.chain);
-        for (const auto& [typed, right] : bounds) {
-            for (int i = 0; i < 2; ++i) screen.text1[i].set_text(typed[i]);
+        for (const auto& [from, to, right] : bounds) {
+            screen.text1[0].set_text(from);
+            screen.text1[1].set_text(to);
             screen.text1[1].set_focus();
             screen.text1[1].press_key(ui::key::enter, '\r');
-            EXPECT_EQ(screen.text1[0].text(), right[0]);
-            EXPECT_EQ(screen.text1[1].text(), right[1]);
+            EXPECT_EQ(shown(), right);
         }
         screen.bottone[report_screen::uscita].click();
         EXPECT_FALSE(one.place.loaded());
@@ -130,24 +118,24 @@ TEST_F(report_screens, ABuildGoesOnUnderTheHandsOfTheUser) {
     auto& user = bench.around.user;
     user.pending = [&] {
         const std::size_t reads = bench.files.reads;
-        screen.bottone[report_screen::aggiorna].click();
+        build(screen);
         screen.bottone[report_screen::pdf].click();
         EXPECT_EQ(bench.files.reads, reads);
         EXPECT_GE(screen.srt.value(), 1);
         EXPECT_TRUE(screen.srt.visible());
     };
-    screen.bottone[report_screen::aggiorna].click();
+    build(screen);
     EXPECT_EQ(column(screen, 4), "25,00|25,00|25,00|75,00");
     EXPECT_FALSE(screen.srt.visible());
     EXPECT_TRUE(bench.around.programs.take_started().empty());
 
     user.pending = [&] { screen.Combo1.pick(report_screen::evasi); };
-    screen.bottone[report_screen::aggiorna].click();
+    build(screen);
     EXPECT_EQ(column(screen, 4), "25,00|25,00") << "begins anew with the other choice";
 
     bench.around.desk.dispatch([&] {
         user.pending = [&] { bench.around.desk.close(screen); };
-        screen.bottone[report_screen::aggiorna].click();
+        build(screen);
         EXPECT_EQ(bench.around.desk.active()->name(), "mirorc");
         EXPECT_EQ(bench.around.desk.pointer_shape(), ui::pointer::normal);
     });
@@ -166,11 +154,12 @@ TEST_F(report_screens, ParametersAndCategoriesComeFromTheFilesOfTheMoment) {
     EXPECT_EQ(column(*app.mirstoa, 0),
               "Per visualizzare il prospetto selezionare gli|articoli e/o gli ordini e clic sul "
               "bottone|'Aggiorna lista'");
-    EXPECT_EQ(app.parameters.parametri_valuta[valuta_slot::cartella_pdf], "C:\\Ordini");
+    const std::string& folder = app.parameters.parametri_valuta[valuta_slot::cartella_pdf];
+    EXPECT_EQ(folder, "C:\\Ordini");
     EXPECT_EQ(column(open(app.mirstov), 4), "25|25|25|75") << "whole lire";
     std::filesystem::remove(bench.company.file("pdf"));
     open(app.mirston);
-    EXPECT_EQ(app.parameters.parametri_valuta[valuta_slot::cartella_pdf], "C:");
+    EXPECT_EQ(folder, "C:");
 }
 
 TEST_F(report_screens, PutTheirListOutAndLeaveAllFilesAsTheyWere) {
@@ -178,11 +167,10 @@ TEST_F(report_screens, PutTheirListOutAndLeaveAllFilesAsTheyWere) {
     const auto before = contents();
     for (ui::screen_place* place : std::initializer_list<ui::screen_place*>{
              &app.mirstoe, &app.mirstos, &app.mirstov, &app.mirston, &app.mirstoa}) {
-        place->use().show();
-        auto& screen = static_cast<report_screen&>(place->use());
+        report_screen& screen = open(*place);
         bench.around.desk.queue_answer(ui::answer::ok);
         screen.bottone[report_screen::pdf].click();
-        screen.bottone[report_screen::aggiorna].click();
+        build(screen);
         bench.around.desk.queue_answer(ui::answer::yes);
         screen.bottone[report_screen::stampa].click();
         EXPECT_EQ(bench.around.paper.take_jobs().size(), 1U) << screen.name();

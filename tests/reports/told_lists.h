@@ -1,9 +1,12 @@
 #pragma once
 
-#include <optional>
+#include <cmath>
 
 #include "reports/report_bench.h"
 #include "reports/report_screen.h"
+#include "store/text/dates.h"
+#include "store/text/number_text.h"
+#include "store/values.h"
 
 namespace vantora::test {
 
@@ -13,31 +16,256 @@ namespace vantora::test {
 class told_lists {
  public:
     told_lists(archivi& files, report_screen& screen, const parametri& parameters)
-        : files_(files), screen_(screen), parameters_(parameters) {}
+        : files_(files), screen_(screen), in_(parameters) {}
 
-    grid_rows order_list();
-    grid_rows schedule();
-    grid_rows valuation();
-    grid_rows article_sheets();
-    grid_rows customer_sheets();
+    grid_rows order_list() {
+        begin(9, 28);
+        return by_order(0);
+    }
+    grid_rows schedule() {
+        begin(10, 28);
+        return by_order(1);
+    }
+
+    grid_rows valuation() {
+        begin(6, 28);
+        double total = 0;
+        for (int i = first_; i <= last_; ++i) {
+            double ordered = 0;
+            double fulfilled = 0;
+            std::string text;
+            for (int j = 1; j <= 200; ++j) {
+                read(i, j, row_);
+                if (j == 1) text = trim(row_.testo1);
+                if (row_.quantita == 0) continue;
+                ordered += net(row_.quantita);
+                fulfilled += net(row_.evaso);
+            }
+            double value = ordered;
+            if (screen_.Combo1.chosen() == 1) value = ordered - fulfilled;
+            if (screen_.Combo1.chosen() == 2) value = fulfilled;
+            if (value == 0) continue;
+            next({trim(row_.numero), day(row_.data), text, name_of(row_.cliente),
+                  formato_importo(value, in_), std::to_string(i)});
+            total += value;
+        }
+        next({"", "", "Importo complessivo", "", formato_importo(total, in_), ""});
+        return end();
+    }
+
+    grid_rows article_sheets() {
+        begin(8, 26);
+        bring_bounds_back();
+        rec_sra entry;
+        for (int k = 1; k <= articles_; ++k) {
+            files_.sra.read(k, entry);
+            files_.art.read(entry.numero, article_);
+            if (!article_passes()) continue;
+            std::string label = trim(trim(article_.codice) + " " + trim(article_.descrizione));
+            std::string number = std::to_string(entry.numero);
+            for (int i = first_; i <= last_; ++i) {
+                for (int j = 1; j <= 200; ++j) {
+                    read(i, j, row_);
+                    if (row_.articolo != entry.numero) continue;
+                    const std::string customer = name_of(row_.cliente);
+                    read(i, 1, head_);
+                    next({label, trim(head_.numero), day(head_.data), trim(head_.testo1), customer,
+                          quantity(row_.quantita), quantity(row_.evaso), number});
+                    label = number = "";
+                    add_up();
+                }
+            }
+            if (number.empty()) totals();
+        }
+        return end();
+    }
+
+    grid_rows customer_sheets() {
+        begin(8, 28);
+        bring_bounds_back();
+        rec_src entry;
+        for (int k = 1; k <= customers_; ++k) {
+            files_.src.read(k, entry);
+            files_.cli.read(entry.numero, customer_);
+            std::string name = trim(customer_.intestazione1);
+            if (!in_bounds(upper(name)) || customer_.eliminato != 0) continue;
+            std::string number = std::to_string(entry.numero);
+            for (int i = first_; i <= last_; ++i) {
+                read(i, 1, row_);
+                if (row_.cliente != entry.numero) continue;
+                for (int j = 1; j <= 200; ++j) {
+                    read(i, j, row_);
+                    if (trim(row_.descrizione).empty() && row_.quantita == 0 && row_.prezzo == 0) {
+                        continue;
+                    }
+                    const bool known = row_.articolo >= 1 && row_.articolo <= articles_;
+                    next({name, "", "", "", text_of(known), quantity(row_.quantita),
+                          quantity(row_.evaso), number});
+                    if (j == 1) put(1, {trim(row_.numero), day(row_.data), trim(row_.testo1)});
+                    name = number = "";
+                    add_up();
+                }
+            }
+            if (number.empty()) totals();
+        }
+        return end();
+    }
 
  private:
-    void begin(int columns, int least_rows);
-    void begin_sheets(int least_rows);
-    void next();
-    void put(int col, const std::string& text);
-    grid_rows end();
+    static constexpr std::size_t rows_max = 31999;
 
-    std::string name_of(int customer);
-    std::string text_of(bool article);
-    double net(double quantity);
-    void list_row(bool head, int order, int row, bool due_column);
-    bool article_passes();
-    void totals();
+    template <std::size_t N>
+    static std::string trim(const text<N>& field) {
+        return std::string(trimmed(field.full()));
+    }
+    static std::string trim(std::string_view text) { return std::string(trimmed(text)); }
+    static std::string day(const text<8>& stored) { return date_text_of_stored(stored.full()); }
+    static std::string quantity(double value) {
+        return value == 0 ? "" : masked(value, "########0.#0");
+    }
+    static int number_in(const ui::text_box& field) {
+        return static_cast<int>(std::nearbyint(number_at_head(field.text())));
+    }
+
+    void begin(std::size_t columns, std::size_t least_rows) {
+        const auto count = [this](int which) {
+            rec_tot counter;
+            files_.tot.read(which, counter);
+            return counter.quanti;
+        };
+        articles_ = count(contatori::articoli);
+        customers_ = count(contatori::clienti);
+        orders_ = count(contatori::ordini);
+        first_ = number_in(screen_.text1[0]);
+        last_ = number_in(screen_.text1[1]);
+        columns_ = columns;
+        least_rows_ = least_rows;
+        // Each build looks customers, articles and heads up afresh; the row goes on from build to
+        // build.
+        customer_ = {};
+        article_ = {};
+        head_ = {};
+        ordered_ = fulfilled_ = 0;
+        rows_.clear();
+    }
+    void bring_bounds_back() {
+        if (first_ < 1) first_ = 1;
+        if (last_ > orders_) last_ = orders_;
+        if (last_ < first_) first_ = last_;
+    }
+    void next(std::vector<std::string> cells) {
+        cells.resize(columns_);
+        rows_.push_back(std::move(cells));
+    }
+    void put(std::size_t col, const std::vector<std::string>& cells) {
+        for (const std::string& one : cells) rows_.back()[col++] = one;
+    }
+    grid_rows end() {
+        if (rows_.size() > rows_max) rows_.resize(rows_max);
+        while (rows_.size() + 1 < least_rows_) next({});
+        return rows_;
+    }
+
+    void read(int order, int row, rec_orc& into) { files_.orc.read((order - 1) * 200 + row, into); }
+    std::string name_of(int customer) {
+        if (customer < 1 || customer > customers_) return "";
+        files_.cli.read(customer, customer_);
+        return trim(customer_.intestazione1);
+    }
+    std::string text_of(bool article) {
+        if (!article) return trim(full(row_.descrizione) + full(row_.descrizione2));
+        files_.art.read(row_.articolo, article_);
+        return trim(trim(article_.codice) + " " + full(article_.descrizione));
+    }
+    template <std::size_t N>
+    static std::string full(const text<N>& field) {
+        return std::string(field.full());
+    }
+
+    bool order_is_open(int order) {
+        for (int j = 1; j <= 200; ++j) {
+            read(order, j, row_);
+            if (row_.quantita > row_.evaso) return true;
+        }
+        return false;
+    }
+
+    /// `due`: 1 for the schedule, which has a column of that name.
+    grid_rows by_order(std::size_t due) {
+        const int choice = screen_.Combo1.chosen();
+        const bool all_rows = screen_.Combo2.chosen() == 1;
+        const std::string from = stored_of_date_text(screen_.text2[0].text());
+        const std::string to = stored_of_date_text(screen_.text2[1].text());
+        for (int i = first_; i <= last_; ++i) {
+            if (due && !order_is_open(i)) continue;
+            bool shown = false;
+            for (int j = 1; j <= (all_rows ? 200 : 1); ++j) {
+                read(i, j, row_);
+                if (row_.quantita == 0 && trim(row_.descrizione).empty()) continue;
+                if (due && (full(row_.data_evasione) < from || full(row_.data_evasione) > to)) {
+                    continue;
+                }
+                if (!due && choice == 1 && row_.quantita <= row_.evaso) continue;
+                if (!due && choice == 2 && row_.quantita > row_.evaso) continue;
+                const std::string customer = name_of(row_.cliente);
+                next({});
+                put(7 + due, {std::to_string((i - 1) * 200 + j)});
+                if (!shown) {
+                    put(0, {trim(row_.numero), day(row_.data), trim(row_.testo1)});
+                    if (due) put(3, {day(row_.data_evasione)});
+                    put(3 + due, {customer});
+                    put(8 + due, {std::to_string(i)});
+                }
+                shown = true;
+                if (!all_rows) continue;
+                put(4 + due,
+                    {text_of(row_.articolo >= 1), quantity(row_.quantita), quantity(row_.evaso)});
+            }
+        }
+        return end();
+    }
+
+    double net(double quantity) {
+        double a = arrotonda_valuta(row_.prezzo * quantity, in_);
+        a = a - percentuale_valuta(a, row_.sc1, in_);
+        a = a - percentuale_valuta(a, row_.sc2, in_);
+        return arrotonda_valuta(a, in_);
+    }
+
+    bool in_bounds(const std::string& key) {
+        std::string low = upper(trimmed(screen_.t_inizio.text()));
+        std::string high = upper(trimmed(screen_.t_fine.text()));
+        if (low.empty()) low = std::string(1, '\0');
+        if (high.empty()) high = "\xFF";
+        return key >= low && key <= high;
+    }
+    bool article_passes() {
+        const auto begins = [](std::string_view text, const ui::text_box& with) {
+            const std::string head = upper(trimmed(with.text()));
+            return upper(text).substr(0, head.size()) == head;
+        };
+        const int category = screen_.Combo0.chosen();
+        return in_bounds(upper(article_.codice.trimmed())) &&
+               (category == 0 || number_at_head(article_.categoria.full()) + 1 == category) &&
+               (begins(article_.classe1.full(), screen_.Text) ||
+                begins(article_.classe2.full(), screen_.Text) ||
+                begins(article_.classe3.full(), screen_.Text)) &&
+               begins(article_.descrizione.full(), screen_.Text3) && article_.eliminato == 0;
+    }
+
+    void add_up() {
+        ordered_ += row_.quantita;
+        fulfilled_ += row_.evaso;
+    }
+    void totals() {
+        next({"", "", "", "Totale", "", quantity(ordered_), quantity(fulfilled_)});
+        next({});
+        ordered_ = fulfilled_ = 0;
+    }
 
     archivi& files_;
     report_screen& screen_;
-    const parametri& parameters_;
+    const valuta in_;
 
     rec_orc row_;
     rec_orc head_;
@@ -48,8 +276,7 @@ class told_lists {
     int orders_ = 0;
     int first_ = 1;
     int last_ = 0;
-
-    int columns_ = 0;
+    std::size_t columns_ = 0;
     std::size_t least_rows_ = 0;
     double ordered_ = 0;
     double fulfilled_ = 0;

@@ -17,20 +17,28 @@ struct printed_text {
     std::string text;  ///< code page
     ui::font font;
     colour ink = 0;
+
+    bool operator==(const printed_text&) const = default;
 };
 struct printed_line {
     double x1 = 0, y1 = 0, x2 = 0, y2 = 0;
     colour ink = 0;
+
+    bool operator==(const printed_line&) const = default;
 };
 struct printed_box {
     double x1 = 0, y1 = 0, x2 = 0, y2 = 0;
     colour ink = 0;
     bool filled = false;
+
+    bool operator==(const printed_box&) const = default;
 };
 
 /// All points of one picture.
 struct printed_picture {
     double x = 0, y = 0, width = 0, height = 0;
+
+    bool operator==(const printed_picture&) const = default;
 };
 
 using print_operation = std::variant<printed_text, printed_line, printed_box, printed_picture>;
@@ -39,6 +47,8 @@ struct print_job {
     int orientation = printer::upright;
     int copies = 1;
     std::vector<std::vector<print_operation>> pages;
+
+    bool operator==(const print_job&) const = default;
 };
 
 /// Keeps the pages as they are composed. Texts are measured by the widths of a Helvetica-like face,
