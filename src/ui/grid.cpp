@@ -11,6 +11,7 @@ void grid::set_columns(std::vector<grid_column> columns) {
     wasted_ = 0;
     cells_.assign(columns_.size(), cell{});
     order_.assign(1, 0);
+    rows_ = 1;
     row_ = col_ = 0;
     top_row_ = 1;
     for (int col = 0; col < cols(); ++col) {
@@ -20,24 +21,29 @@ void grid::set_columns(std::vector<grid_column> columns) {
 }
 
 void grid::set_rows(int rows) {
-    const auto wanted = static_cast<std::size_t>(std::max(rows, 1));
-    const std::size_t had = order_.size();
-    if (wanted < had) store_as_shown();
-    const auto dropped =
-        cells_.begin() + static_cast<std::ptrdiff_t>(std::min(wanted, had) * columns_.size());
-    for (auto one = dropped; one != cells_.end(); ++one) wasted_ += one->room;
-    cells_.resize(wanted * columns_.size());
-    order_.resize(wanted);
-    if (wanted > had) {
-        std::iota(order_.begin() + static_cast<std::ptrdiff_t>(had), order_.end(),
-                  static_cast<std::uint32_t>(had));
-    } else {
+    rows_ = std::max(rows, 1);
+    const auto wanted = static_cast<std::size_t>(rows_);
+    if (wanted < order_.size()) {
+        store_as_shown();
+        const auto kept = static_cast<std::ptrdiff_t>(wanted * columns_.size());
+        for (auto one = cells_.begin() + kept; one != cells_.end(); ++one) wasted_ += one->room;
+        cells_.resize(wanted * columns_.size());
+        order_.resize(wanted);
         tidy_arena();
     }
-    row_ = std::min(row_, this->rows() - 1);
-    if (wanted == 1) shows_end_ = false;
-    top_row_ = std::clamp(top_row_, 1, std::max(1, this->rows() - 1));
+    row_ = std::min(row_, rows_ - 1);
+    if (rows_ == 1) shows_end_ = false;
+    top_row_ = std::clamp(top_row_, 1, std::max(1, rows_ - 1));
     show_change(aspect::shape);
+}
+
+void grid::store_rows(std::size_t wanted) {
+    const std::size_t had = order_.size();
+    if (wanted <= had) return;
+    cells_.resize(wanted * columns_.size());
+    order_.resize(wanted);
+    std::iota(order_.begin() + static_cast<std::ptrdiff_t>(had), order_.end(),
+              static_cast<std::uint32_t>(had));
 }
 
 void grid::store_as_shown() {
@@ -58,11 +64,14 @@ bool grid::holds(int row, int col) const {
 }
 
 const grid::cell& grid::at(int row, int col) const {
+    static const cell blank;
+    if (static_cast<std::size_t>(row) >= order_.size()) return blank;
     return cells_[order_[static_cast<std::size_t>(row)] * columns_.size() +
                   static_cast<std::size_t>(col)];
 }
 
 grid::cell& grid::at(int row, int col) {
+    store_rows(static_cast<std::size_t>(row) + 1);
     return cells_[order_[static_cast<std::size_t>(row)] * columns_.size() +
                   static_cast<std::size_t>(col)];
 }

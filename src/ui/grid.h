@@ -26,7 +26,7 @@ struct grid_column {
 };
 
 /// A table of texts. Row 0 is the head. Cells lie in one arena, so 32,000 rows are filled, sorted
-/// and shown without copying texts about.
+/// and shown without copying texts about, and rows that nobody writes into cost nothing.
 class grid : public control {
  public:
     grid() : control(control_kind::grid) {}
@@ -37,7 +37,7 @@ class grid : public control {
     void set_columns(std::vector<grid_column> columns);
     [[nodiscard]] const std::vector<grid_column>& columns() const { return columns_; }
 
-    [[nodiscard]] int rows() const { return static_cast<int>(order_.size()); }
+    [[nodiscard]] int rows() const { return rows_; }
     [[nodiscard]] int cols() const { return static_cast<int>(columns_.size()); }
     /// Rows that stay are kept, others dropped, new ones empty. Never below 1, the head.
     void set_rows(int rows);
@@ -90,6 +90,8 @@ class grid : public control {
     [[nodiscard]] bool holds(int row, int col) const;
     [[nodiscard]] const cell& at(int row, int col) const;
     cell& at(int row, int col);
+    /// Gives the first rows places of their own, so that they can be written.
+    void store_rows(std::size_t wanted);
     /// Moves the cells into the order in which their rows are shown.
     void store_as_shown();
     /// Takes the leftovers out of the arena when they are most of it.
@@ -99,7 +101,8 @@ class grid : public control {
     std::string arena_;                 ///< the texts of all cells, with the leftovers of old ones
     std::size_t wasted_ = 0;            ///< bytes of leftovers in the arena
     std::vector<cell> cells_;           ///< by storage row, then column
-    std::vector<std::uint32_t> order_;  ///< shown row to storage row
+    std::vector<std::uint32_t> order_;  ///< shown row to storage row; those behind are blank
+    int rows_ = 0;
     int row_ = 0;
     int col_ = 0;
     int top_row_ = 1;

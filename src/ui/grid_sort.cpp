@@ -50,6 +50,7 @@ void merge_sort(std::vector<sort_key>& keys, const std::string& texts) {
 
 void grid::sort(int col, sort_order by) {
     if (rows() < 3 || !holds(0, col)) return;
+    store_rows(static_cast<std::size_t>(rows()));
     std::string texts;
     std::vector<sort_key> keys;
     keys.reserve(order_.size() - 1);
