@@ -1,10 +1,11 @@
 #!/bin/sh
 # Installs what the build needs and this machine lacks; quick and silent if nothing is missing.
+# Further lists of this folder may be named:  scripts/install-packages.sh packages-manual.txt
 set -eu
 cd "$(dirname "$0")"
 
 missing=
-for package in $(grep -v '^#' packages.txt); do
+for package in $(grep -hv '^#' packages.txt "$@"); do
     status=$(dpkg-query -W -f='${Status}' "$package" 2>/dev/null || true)
     [ "$status" = "install ok installed" ] || missing="$missing $package"
 done

@@ -22,6 +22,8 @@ customer_head::customer_head(program& app, const customer_head_kind& kind)
     add("bottone", bottone);
     add("Label2", Label2);
     Label2.set_text("Attenzione:questo cliente è stato eliminato!"_cp);
+    // Until a customer is shown that is: the head of an order comes up without showing one.
+    Label2.set_visible(false);
     // A record never stored: its fields have their full widths.
     const rec_cli widths;
     for (std::size_t i = 0; i < customer_fields.size(); ++i) {

@@ -39,6 +39,7 @@ TEST_F(mirorcm_screen, StandsOnTheOrdersCustomerAndLeavesTheFieldsAlone) {
         EXPECT_EQ(app->mirorcm->HScroll1.value(), position) << customer;
         EXPECT_EQ(app->mirorcm->HScroll1.maximum(), 4);
         EXPECT_EQ(app->mirorcm->Text2[0].text(), "come nell'ordine");
+        EXPECT_FALSE(app->mirorcm->Label2.visible()) << "no living customer is told deleted";
         EXPECT_EQ(desk->reads["cli"], 0U);
         EXPECT_LE(desk->reads["src"], 1U) << "the index is read in blocks";
         EXPECT_TRUE(app->mirorcm->nome.has_focus());
