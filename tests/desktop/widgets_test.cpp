@@ -6,10 +6,12 @@
 #include <QListView>
 #include <QScrollBar>
 #include <QTableView>
+#include <QTemporaryDir>
 #include <random>
 
 #include "store/text/code_page.h"
 #include "ui/controls.h"
+#include "ui/desktop/manual.h"
 #include "window_bench.h"
 
 namespace vantora::ui::desktop {
@@ -185,6 +187,29 @@ TEST_F(widgets, AScreenMayGoInTheMidstOfItsOwnEvent) {
              QTest::keyClicks(bench.find("testo"), "a");
          },
          [&] { EXPECT_TRUE(bench.desk.forms().empty()); }});
+}
+
+TEST_F(widgets, F1OpensTheBestManualThereIsAndLeavesDescriptionsAlone) {
+    const QTemporaryDir folder;
+    QDir(folder.path()).mkpath("bin");
+    const QString programs = folder.filePath("bin");
+    EXPECT_EQ(manual_file(programs), QString());
+    for (const QString& place : {QString("manual"), QString("share/doc/vantora-ordini")}) {
+        QDir(folder.path()).mkpath(place);
+        for (const QString& ending : {QString("html"), QString("pdf")}) {
+            const QString file = folder.filePath(place + "/vantora-ordini-manuale." + ending);
+            ASSERT_TRUE(QFile(file).open(QIODevice::WriteOnly));
+        }
+        EXPECT_EQ(manual_file(programs), folder.filePath(place + "/vantora-ordini-manuale.pdf"));
+    }
+
+    QLineEdit cell;
+    const QKeyEvent f1(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier);
+    EXPECT_TRUE(asks_for_manual(f1, &cell));
+    EXPECT_TRUE(asks_for_manual(f1, nullptr));
+    EXPECT_FALSE(asks_for_manual({QEvent::KeyPress, Qt::Key_F2, Qt::NoModifier}, &cell));
+    cell.setProperty("column", "ds");
+    EXPECT_FALSE(asks_for_manual(f1, &cell));
 }
 
 }  // namespace

@@ -14,6 +14,7 @@
 #include "ui/desk.h"
 #include "ui/desktop/grid_view.h"
 #include "ui/desktop/layouts.h"
+#include "ui/desktop/manual.h"
 #include "ui/desktop/widget_binder.h"
 #include "ui/look/style.h"
 
@@ -192,6 +193,11 @@ void form_window::closeEvent(QCloseEvent* event) {
 }
 
 bool form_window::event(QEvent* event) {
+    if (event->type() == QEvent::KeyPress &&
+        asks_for_manual(static_cast<QKeyEvent&>(*event), focusWidget())) {
+        open_manual(this);
+        return true;
+    }
     if (event->type() == QEvent::Hide && placed_ && remember_) {
         if (!isMaximized()) QSettings().setValue("windows/" + objectName() + "/size", size());
         if (!isModal()) QSettings().setValue("windows/maximised", isMaximized());
