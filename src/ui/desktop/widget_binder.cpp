@@ -112,7 +112,8 @@ bool widget_binder::key_pressed(QKeyEvent& event) {
     if (pressed.code == 0) return false;
     const bool typed =
         pressed.character && static_cast<unsigned char>(*pressed.character) >= key::blank;
-    const bool leave = pressed.code == key::tab || widget_takes(typed);
+    // F1 means nothing to a control that doesn't swallow it: the window opens the manual.
+    const bool leave = pressed.code == key::tab || pressed.code == key::f1 || widget_takes(typed);
     bool goes_on = false;
     act([&] {
         goes_on = model_.offer_key(pressed.code, pressed.character);
