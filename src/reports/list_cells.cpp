@@ -4,15 +4,21 @@
 
 namespace vantora {
 
-std::string etichetta_articolo::text() const {
-    const std::string whole = std::string(codice.trimmed()).append(" ").append(descrizione.full());
+namespace {
+
+std::string label(const text<15>& codice, std::string_view descrizione) {
+    const std::string whole = std::string(codice.trimmed()).append(" ").append(descrizione);
     return std::string(trimmed(whole));
 }
 
+}  // namespace
+
+std::string etichetta_articolo::text() const {
+    return label(codice, descrizione.full());
+}
+
 std::string etichetta_articolo::title() const {
-    const std::string whole =
-        std::string(codice.trimmed()).append(" ").append(descrizione.trimmed());
-    return std::string(trimmed(whole));
+    return label(codice, descrizione.trimmed());
 }
 
 std::string free_text(const text<40>& descrizione, const text<10>& descrizione2) {

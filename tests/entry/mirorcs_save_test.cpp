@@ -101,5 +101,15 @@ TEST(mirorcs_save, TheHeadComesFromTheCustomersScreenAndTheRegisterShowsTheOrder
     EXPECT_EQ(row.testo3.trimmed(), "corriere 3");
 }
 
+TEST(mirorcs_save, AProgramThatCantBeStartedIsTold) {
+    saving company;
+    const auto replies = company.order(
+        {"launch fail", "answer yes", "answer yes", "answer no", "answer yes", "answer ok"});
+    EXPECT_EQ(questions(replies).back(),
+              "Attenzione: Non è possibile eseguire il programma invio del documento a mezzo "
+              "internet.");
+    EXPECT_EQ(replies.back()["screen"], "mirorc");
+}
+
 }  // namespace
 }  // namespace vantora::test
