@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstdlib>
 #include <string>
 #include <vector>
 
@@ -11,5 +12,10 @@
 
 /// Good inputs to begin with.
 std::vector<std::string> fuzz_seeds();
+
+/// What must hold for every input.
+inline void require(bool holds) {
+    if (!holds) std::abort();
+}
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);

@@ -1,7 +1,6 @@
 // Whatever a print file holds, reading it ends, with numbers that drawing can take.
 
 #include <cmath>
-#include <cstdlib>
 
 #include "documents/print_file_reader.h"
 #include "fuzz/fuzz_driver.h"
@@ -9,10 +8,6 @@
 namespace {
 
 using namespace vantora;
-
-void require(bool holds) {
-    if (!holds) std::abort();
-}
 
 std::string record(const std::string& kind, const std::string& text) {
     return kind + "\r\n 10 \r\n-2.5 \r\n 100 \r\n 1 \r\n 9 \r\n 255 \r\n" + text +

@@ -1,5 +1,5 @@
 // Whatever a user does on whatever files, the program neither hangs nor goes wrong: it works on, or
-// it ends with one of its own run-time errors.
+// it ends with one of its own run-time errors. Files that were sound are so afterwards.
 
 #include <algorithm>
 #include <cstdlib>
@@ -8,6 +8,7 @@
 #include <random>
 
 #include "app/start.h"
+#include "archive/check.h"
 #include "demo/company.h"
 #include "fuzz/fuzz_driver.h"
 #include "register/mirorc.h"
@@ -22,10 +23,6 @@ namespace {
 using namespace vantora;
 
 constexpr const char* company = "mirwin/mirwin/miraz0.001";
-
-void require(bool holds) {
-    if (!holds) std::abort();
-}
 
 /// The choices of one run, byte by byte.
 class choices {
@@ -152,28 +149,27 @@ class restless_user final : public ui::front_end {
 /// A small company with all its files, made once.
 const std::filesystem::path& model_company() {
     static const test::scratch_folder folder;
-    static const bool made = [] {
-        demo::demo_request request;
-        request.numero_azienda = 1;
-        request.orders = 3;
-        request.articles = 12;
-        request.customers = 6;
-        demo::make_company(request, folder.path());
-        return true;
-    }();
-    static_cast<void>(made);
+    if (std::filesystem::is_empty(folder.path())) {
+        demo::make_company({.numero_azienda = 1, .orders = 3, .articles = 12, .customers = 6},
+                           folder.path());
+    }
     return folder.path();
 }
 
-/// Overwrites some bytes of the company's files, or cuts one off.
-void damage(const std::filesystem::path& drive, choices& by) {
+/// Overwrites some bytes of the company's files, mostly of counters and orders, or cuts one off.
+/// False if all stay whole.
+bool damage(const std::filesystem::path& drive, choices& by) {
     std::vector<std::filesystem::path> files;
     for (const auto& entry : std::filesystem::directory_iterator(drive / company)) {
         files.push_back(entry.path());
     }
     std::ranges::sort(files);
-    for (auto count = by.below(4); count > 0; --count) {
-        const auto& path = files[by.below(files.size())];
+    const auto damages = by.below(6);
+    for (auto count = damages; count > 0; --count) {
+        const std::filesystem::path paths[] = {files[by.below(files.size())],
+                                               drive / company / "vantora.tot",
+                                               drive / company / "vantora.orc"};
+        const auto& path = paths[by.below(std::size(paths))];
         const auto size = std::filesystem::file_size(path);
         const auto at = size == 0 ? 0 : (by.below(256) * 256 + by.below(256)) % size;
         if (by.below(8) == 1) {
@@ -186,6 +182,7 @@ void damage(const std::filesystem::path& drive, choices& by) {
             file.put(static_cast<char>(by.below(256)));
         }
     }
+    return damages > 0;
 }
 
 }  // namespace
@@ -206,7 +203,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     choices by(data, size);
     test::scratch_folder folder;
     std::filesystem::copy(model_company(), folder.path(), std::filesystem::copy_options::recursive);
-    damage(folder.path(), by);
+    const bool damaged = damage(folder.path(), by);
     const auto orders = folder.path() / company / "vantora.orc";
     const auto size_before = std::filesystem::file_size(orders);
 
@@ -225,5 +222,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     require(desk.ended()->message.empty() ||
             desk.ended()->message.starts_with("Errore di run-time '"));
     require(std::filesystem::file_size(orders) >= size_before);
+    archive::company_files checked(folder.path(), 1);
+    const auto findings = archive::check_archive(checked);
+    require(damaged || archive::is_sound(findings));
     return 0;
 }

@@ -1,6 +1,5 @@
 // Whatever the suite's text files hold, loading them ends, with values in their ranges.
 
-#include <cstdlib>
 #include <map>
 #include <memory>
 
@@ -26,10 +25,6 @@ class one_content final : public file_port {
  private:
     std::string content_;
 };
-
-void require(bool holds) {
-    if (!holds) std::abort();
-}
 
 }  // namespace
 

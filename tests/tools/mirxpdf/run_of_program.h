@@ -1,25 +1,42 @@
 #pragma once
 
-#include <filesystem>
-#include <string>
+#include <fcntl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cstdlib>
 #include <vector>
 
-#include "documents/print_file.h"
+#include "documents/print_file_writer.h"
 #include "store/drive.h"
 #include "support/scratch_folder.h"
+#include "tools/file_bytes.h"
 
 namespace vantora::test {
-
-std::string bytes_of(const std::filesystem::path& path);
-void put(const std::filesystem::path& path, std::string_view content);
 
 /// A program's process, without a display.
 class running_program {
  public:
     running_program(const std::vector<std::string>& command, const std::filesystem::path& working,
-                    const std::filesystem::path& output);
+                    const std::filesystem::path& output)
+        : process_(::fork()) {
+        if (process_ != 0) return;
+        std::vector<char*> arguments;
+        for (const std::string& one : command) arguments.push_back(const_cast<char*>(one.c_str()));
+        arguments.push_back(nullptr);
+        const int into = ::open(output.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
+        ::dup2(into, 1);
+        ::dup2(into, 2);
+        for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) ::unsetenv(name);
+        if (::chdir(working.c_str()) == 0) ::execvp(arguments[0], arguments.data());
+        ::_exit(127);
+    }
     /// Waits for its end: the exit code, -1 if it died otherwise.
-    [[nodiscard]] int wait() const;
+    int wait() const {
+        int status = 0;
+        ::waitpid(process_, &status, 0);
+        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    }
 
  private:
     int process_ = -1;
@@ -37,19 +54,31 @@ class pdf_drive {
     [[nodiscard]] std::filesystem::path at(const char* place) const { return root() / place; }
 
     using page = std::vector<record_di_stampa>;
-    void write_print_file(const std::vector<page>& pages, std::string_view mark = marca_verticale);
+    void write_print_file(const std::vector<page>& pages, std::string_view mark = marca_verticale) {
+        drive files(root());
+        print_file_writer out(files, mark);
+        for (const page& one : pages) {
+            for (const record_di_stampa& record : one) out.write(record);
+            out.end_page();
+        }
+    }
     void write_settings(std::string_view content) const {
         put(at("mirwin/mirwin/mirxpdf.conf"), content);
     }
 
     /// Runs the program with `--drive` and these words.
-    [[nodiscard]] result run(const std::vector<std::string>& words) const;
+    [[nodiscard]] result run(const std::vector<std::string>& words) const {
+        std::vector<std::string> command = {MIRXPDF_PROGRAM, "--drive", root().string()};
+        command.insert(command.end(), words.begin(), words.end());
+        return run_command(command);
+    }
     /// Runs any command in the drive's root.
-    [[nodiscard]] result run_command(const std::vector<std::string>& command) const;
-    [[nodiscard]] running_program start(const std::vector<std::string>& words) const;
-
-    /// Names of all files and folders, relative to the root, in order.
-    [[nodiscard]] std::vector<std::string> names() const;
+    [[nodiscard]] result run_command(const std::vector<std::string>& command) const {
+        const auto said = outputs_.path() / "said";
+        const int code = running_program(command, root(), said).wait();
+        return {code, bytes_of(said)};
+    }
+    [[nodiscard]] std::map<std::string, std::string> files() const { return files_under(root()); }
 
  private:
     scratch_folder folder_;
@@ -58,13 +87,13 @@ class pdf_drive {
 
 /// The report's form of a call, and the one of a document with an address.
 inline const std::string report_call = "***,c:\\mirdoc.rto,C:\\doc.pdf, ***";
-std::string call_with_address(const std::string& address);
+inline std::string call_with_address(const std::string& address) {
+    return "\\mirwin\\mirwin\\miraz0.001\\vantora.lxo,c:\\mirdoc.rto,C:\\orc12.pdf," + address;
+}
 
-/// Records as the writers make them.
-record_di_stampa text_at(double x, double y, const std::string& text,
-                         const std::string& font = "Arial", double size = 12);
-record_di_stampa box_at(double left, double top, double right, double bottom, double colour,
-                        bool filled);
-record_di_stampa line_at(double x1, double y1, double x2, double y2, double colour);
+/// A text as the writers make it.
+inline record_di_stampa text_at(double x, double y, const std::string& text, double size = 12) {
+    return {tipo_record::testo, x, y, 0, 0, size, 0, text, "Arial", 0, 0};
+}
 
 }  // namespace vantora::test

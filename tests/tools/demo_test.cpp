@@ -1,0 +1,178 @@
+// Demonstration companies; what must agree in any archive is checked by the archive tool.
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+
+#include <csignal>
+#include <cstdlib>
+#include <set>
+
+#include "demo_folder.h"
+#include "store/drive.h"
+#include "store/parameters.h"
+#include "store/records.h"
+#include "store/suite_table.h"
+
+namespace vantora::test {
+namespace {
+
+TEST(demo_company, OrdersStandInEveryStateAndStockAgreesWithTheMovements) {
+    const demo_folder made(small_company);
+    const auto rows = records_of<rec_orc>(made.file("orc"));
+    std::set<std::string> states;
+    for (std::size_t block = 0; block < rows.size(); block += 200) {
+        double ordered = 0;
+        double delivered = 0;
+        for (std::size_t i = block; i < block + 200; ++i) {
+            ordered += rows[i].quantita;
+            delivered += rows[i].evaso;
+        }
+        const rec_orc& first = rows[block];
+        EXPECT_TRUE(first.annullato != 1 || delivered == 0) << block / 200 + 1;
+        EXPECT_TRUE(first.evaso_flag != 1 || ordered <= delivered) << block / 200 + 1;
+        states.insert(first.evaso_flag == 1  ? "fulfilled"
+                      : first.annullato == 1 ? "deleted"
+                      : delivered > 0        ? "partly"
+                                             : "open");
+        states.insert(first.impegno.full() == "1" ? "committed" : "not committed");
+    }
+    EXPECT_EQ(states.size(), 6U);
+
+    const auto articles = records_of<rec_art>(made.file("art"));
+    std::vector<double> unloaded(articles.size() + 1);
+    for (const rec_mag& movement : records_of<rec_mag>(made.file("mag"))) {
+        unloaded.at(static_cast<std::size_t>(movement.articolo)) += movement.quantita;
+    }
+    const auto weighed_sum = [](std::string_view digits, int second, bool cross) {
+        int sum = 0;
+        for (std::size_t i = 0; i < digits.size(); ++i) {
+            const int value = (digits[i] - '0') * (i % 2 == 0 ? 1 : second);
+            sum += cross ? value / 10 + value % 10 : value;
+        }
+        return sum;
+    };
+    std::set<std::string> codes;
+    for (std::size_t number = 1; number <= articles.size(); ++number) {
+        const rec_art& one = articles[number - 1];
+        EXPECT_NEAR(one.scaricato, unloaded[number], 1e-6) << number;
+        EXPECT_GE(one.giacenza, 0) << number;
+        EXPECT_GE(one.impegnato, 0) << number;
+        EXPECT_LE(one.impegnato, one.ordinato_clienti + 1e-6) << number;
+        const std::string code(one.codice_barre.trimmed());
+        if (code.empty()) continue;
+        EXPECT_EQ(weighed_sum(code, 3, false) % 10, 0) << code;
+        EXPECT_TRUE(code.size() == 13 && codes.insert(code).second) << code;
+    }
+    EXPECT_GT(codes.size(), 100U);
+    for (const rec_cli& one : records_of<rec_cli>(made.file("cli"))) {
+        EXPECT_EQ(weighed_sum(one.partita_iva.full().substr(0, 11), 2, true) % 10, 0);
+        EXPECT_EQ(one.intestazione1.full().starts_with('~'), one.eliminato == 1);
+    }
+}
+
+TEST(demo_company, ItsTablesAndParametersNeedNoRepair) {
+    const demo_folder made({.numero_azienda = 7, .orders = 3, .articles = 5, .customers = 4});
+    drive suite(made.drive());
+    const tabella_suite table = leggi_tabella_suite(suite, 7);
+    EXPECT_EQ(table.iva.aliquota_iva[4], "5");
+    EXPECT_EQ(table.iva.descrizione_iva[4], "Non imp. art. 8, lett. c");
+    ASSERT_EQ(table.pagamenti.size(), 60U);
+    EXPECT_EQ(table.pagamenti[30], "Ri.Ba. 30 gg d.f.f.m. + 10");
+    EXPECT_EQ(table.causali[0], "Vendita");
+    EXPECT_EQ(table.vettori[7][0] + table.vettori[7][1], "Corriere espresso*");
+    const std::string before = bytes_of(made.file("gnr"));
+    parametri read;
+    read.numero_azienda = 7;
+    carica_parametri(read, suite);
+    EXPECT_EQ(bytes_of(made.file("gnr")), before);
+    EXPECT_EQ(read.intestazione_ditta[1], "Ferramenta & Idraulica Bassani S.r.l.");
+    EXPECT_EQ(read.parametri_valuta[valuta_slot::settima_riga], "9");
+    EXPECT_EQ(read.tabella_stampa[0].margine_destro, 960);
+    EXPECT_EQ(read.tabella_stampa[2].sfondo, 16777215);
+}
+
+TEST(demo_company, SeedAloneDecidesTheArchives) {
+    auto request = small_company;
+    request.seed = 6;
+    const demo_folder first(small_company);
+    const demo_folder second(small_company);
+    const demo_folder other(request);
+    EXPECT_TRUE(files_under(first.drive()) == files_under(second.drive()));
+    for (const std::string extension : {"cli", "art", "orc", "prv"}) {
+        EXPECT_FALSE(bytes_of(first.file(extension)) == bytes_of(other.file(extension)));
+    }
+}
+
+TEST(demo_company, WhatIsThereStays) {
+    for (const char* spelling : {"mirwin/mirwin/miraz0.007", "MIRWIN/Mirwin/MIRAZ0.007"}) {
+        const scratch_folder drive;
+        put(drive.path() / spelling / "vantora.orc", "orders of the firm");
+        const auto before = files_under(drive.path());
+        EXPECT_THROW(demo::make_company(small_company, drive.path()), demo::demo_error) << spelling;
+        EXPECT_TRUE(files_under(drive.path()) == before) << spelling;
+    }
+    const scratch_folder drive;
+    put(drive.path() / "MIRWIN/MIRWIN/VANTORA.EUR", "0,1,ITL,ITL,2\r\n");
+    demo::make_company(small_company, drive.path());
+    const auto after = files_under(drive.path());
+    EXPECT_EQ(after.at("MIRWIN/MIRWIN/VANTORA.EUR"), "0,1,ITL,ITL,2\r\n");
+    EXPECT_FALSE(after.contains("MIRWIN/MIRWIN/vantora.eur"));
+    EXPECT_TRUE(after.contains("MIRWIN/MIRWIN/miraz0.007/vantora.orc"));
+}
+
+TEST(demo_company, AFullDiskLeavesNoHalfCompany) {
+    const scratch_folder drive;
+    put(drive.path() / "mirwin/mirwin/miraz0.007.parziale/vantora.orc", "of an interrupted run");
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit usual{};
+    getrlimit(RLIMIT_FSIZE, &usual);
+    const rlimit tight{1'000'000, usual.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &tight);
+    EXPECT_THROW(demo::make_company(small_company, drive.path()), demo::demo_error);
+    setrlimit(RLIMIT_FSIZE, &usual);
+    std::signal(SIGXFSZ, handler);
+    for (const auto& [name, content] : files_under(drive.path())) {
+        EXPECT_EQ(name.find("miraz0"), std::string::npos) << name;
+    }
+    demo::make_company(small_company, drive.path());
+    EXPECT_TRUE(std::filesystem::exists(drive.path() / "mirwin/mirwin/miraz0.007/vantora.tot"));
+}
+
+TEST(demo_company, ArchivesMayBeEmpty) {
+    constexpr int sizes[][3] = {{0, 0, 0}, {0, 10, 0}, {0, 0, 10}, {1, 1, 1}, {20, 0, 3}};
+    for (const auto& [orders, articles, customers] : sizes) {
+        const demo_folder made(
+            {.numero_azienda = 7, .orders = orders, .articles = articles, .customers = customers});
+        EXPECT_EQ(records_of<rec_orc>(made.file("orc")).size(), std::size_t(orders) * 200);
+        EXPECT_EQ(records_of<rec_art>(made.file("art")).size(), std::size_t(articles));
+        EXPECT_EQ(records_of<rec_srb>(made.file("srb")).size(), std::size_t(articles));
+        EXPECT_EQ(records_of<rec_src>(made.file("src")).size(), std::size_t(customers));
+    }
+}
+
+TEST(demo_program, ExitCodeTellsWhatHappened) {
+    const scratch_folder drive;
+    const std::pair<std::string, int> runs[] = {
+        {"", 2},
+        {"DRIVE 1000", 2},
+        {"DRIVE 7 --articles 32768", 2},
+        {"DRIVE 7 --customers 1.5", 2},
+        {"DRIVE 7 --unknown 1", 2},
+        {"DRIVE 7 --orders 1 --customers 0", 1},
+        {"DRIVE 007 --orders 2 --articles 3 --customers 4 --seed 9", 0},
+        {"DRIVE 7 --orders 2", 1},
+        {"--help", 0},
+    };
+    for (const auto& [arguments, code] : runs) {
+        std::string command = DEMO_PROGRAM " " + arguments + " >/dev/null 2>&1";
+        if (const auto at = command.find("DRIVE"); at != std::string::npos) {
+            command.replace(at, 5, drive.path().string());
+        }
+        const int status = std::system(command.c_str());
+        EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == code) << arguments;
+    }
+}
+
+}  // namespace
+}  // namespace vantora::test
