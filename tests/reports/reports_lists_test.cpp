@@ -26,8 +26,8 @@ class random_archive {
     /// Some orders of few rows, or so many full ones that no list holds them.
     void fill(bool long_lists) {
         full_ = long_lists;
-        articles_ = full_ ? 3 : below(7);
-        customers_ = full_ ? 3 : below(6);
+        articles_ = full_ ? 2 : below(7);
+        customers_ = full_ ? 2 : below(6);
         orders_ = full_ ? 165 : below(7);
         archivi& files = on_.company.files;
         for (int i = 1; i <= articles_; ++i) files.art.write(i, article());
@@ -58,7 +58,7 @@ class random_archive {
         screen.Text3.set_text(text_of({"", "", "vi", "X"}));
         screen.text2[0].set_text(text_of({"01/03/2024", "", "1/1/24", "zzz"}));
         screen.text2[1].set_text(
-            text_of({"31/12/2024", "31/12/2024", "02/03/2024", "31-12-2023", "99"}));
+            text_of({"31/12/2024", "01/03/2024", "02/03/2024", "31-12-2023", "99"}));
     }
 
     /// Rows that can't be read. Where sheets begin, each round would begin with the row that the
@@ -209,10 +209,10 @@ TEST(sheet_rows, HoldTheLinesThatAreListed) {
             order.push_back(static_cast<std::int16_t>(random() % 7));
             rows.expect(order.back());
         }
-        for (int row = 0; row < 200 && !rows.complete(); ++row) {
+        for (int row = 0; row < 200; ++row) {
             const auto number = static_cast<std::int16_t>(random() % 7);
             if (std::ranges::count(order, number)) all[number].push_back(row);
-            if (rows.wants(number)) rows.add(number, row);
+            if (!rows.complete() && rows.wants(number)) rows.add(number, row);
         }
         rows.group();
         int left = lines;
