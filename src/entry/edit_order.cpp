@@ -12,7 +12,7 @@ namespace {
 /// Whether taking the stored rows out moves any stock; if they can't be told, they may.
 bool rows_move_stock(const archivi& files, const ordine_esistente& order) {
     std::vector<rec_orc> rows(righe_blocco);
-    if (!files.orc.read_block(block_record(order.registrazione, 1), rows)) return true;
+    if (!files.orc.read_block(block_record(order.visto.registrazione, 1), rows)) return true;
     return std::ranges::any_of(rows, [&](const rec_orc& row) {
         return row.quantita != 0 && is_article(row.articolo, order.articoli);
     });
@@ -21,7 +21,7 @@ bool rows_move_stock(const archivi& files, const ordine_esistente& order) {
 /// What is looked at before an order is written over.
 write_plan plan_of(archivi& files, const ordine_esistente& order, bool lines_move_stock) {
     write_plan plan;
-    plan.writes(files.orc, block_record(order.registrazione, 1), righe_blocco);
+    plan.writes(files.orc, block_record(order.visto.registrazione, 1), righe_blocco);
     if (lines_move_stock || rows_move_stock(files, order)) plan.changes(files.art);
     return plan;
 }
@@ -49,51 +49,57 @@ void flush(archivi& files, bool stock_moved, write_faults& faults) {
     faults.note(files.orc.flush(), files.orc);
 }
 
-}  // namespace
-
-write_outcome salva_ordine(archivi& files, const ordine_esistente& order,
-                           const testata_registrata& head, bool evaso, const righe_ordine& lines) {
+/// Goes over the order's rows: what a stored row still had open is taken out of its article, then
+/// `change(number, row, faults)` makes the row new and tells whether it moved stock itself.
+template <class Change>
+write_outcome change_rows(archivi& files, const ordine_esistente& order, bool lines_move_stock,
+                          const Change& change) {
     const instance_lock alone(files.tot, instance_lock::kind::records);
-    write_outcome outcome(alone,
-                          plan_of(files, order, lines_with_stock(lines, order.articoli) > 0));
+    const orders_since meanwhile(files, order.contatore);
+    write_outcome outcome(alone, plan_of(files, order, lines_move_stock));
     if (!outcome.begun()) return outcome;
     write_faults& faults = outcome.faults;
 
+    bool recognised = false;
     bool stock_moved = false;
     rec_orc row;
     for (int number = 1; number <= righe_blocco; ++number) {
-        const std::int64_t record = block_record(order.registrazione, number);
+        const std::int64_t record = block_record(order.visto.registrazione, number);
         if (!faults.note(files.orc.read(record, row), files.orc)) continue;
+        if (!recognised && meanwhile.took_away(order.visto, row)) {
+            outcome.give_up_moved_order();
+            return outcome;
+        }
+        recognised = true;
         stock_moved |= undo_row(files, order, row, faults);
-        fill_head(row, head, static_cast<std::size_t>(number));
-        fill_line(row, lines[number]);
-        row.evaso = lines[number].evaso;
-        row.evaso_flag = evaso ? 1 : 0;
-        row.annullato = 0;
-        stock_moved |= apply_line(files, order, lines[number], faults);
+        stock_moved |= change(number, row, faults);
         faults.note(files.orc.write(record, row), files.orc);
     }
     flush(files, stock_moved, faults);
     return outcome;
 }
 
-write_outcome elimina_ordine(archivi& files, const ordine_esistente& order) {
-    const instance_lock alone(files.tot, instance_lock::kind::records);
-    write_outcome outcome(alone, plan_of(files, order, false));
-    if (!outcome.begun()) return outcome;
-    write_faults& faults = outcome.faults;
+}  // namespace
 
-    bool stock_moved = false;
-    rec_orc row;
-    for (int number = 1; number <= righe_blocco; ++number) {
-        const std::int64_t record = block_record(order.registrazione, number);
-        if (!faults.note(files.orc.read(record, row), files.orc)) continue;
-        stock_moved |= undo_row(files, order, row, faults);
+write_outcome salva_ordine(archivi& files, const ordine_esistente& order,
+                           const testata_registrata& head, bool evaso, const righe_ordine& lines) {
+    return change_rows(files, order, lines_with_stock(lines, order.articoli) > 0,
+                       [&](int number, rec_orc& row, write_faults& faults) {
+                           const riga_ordine& line = lines[number];
+                           fill_head(row, head, static_cast<std::size_t>(number));
+                           fill_line(row, line);
+                           row.evaso = line.evaso;
+                           row.evaso_flag = evaso ? 1 : 0;
+                           row.annullato = 0;
+                           return apply_line(files, order, line, faults);
+                       });
+}
+
+write_outcome elimina_ordine(archivi& files, const ordine_esistente& order) {
+    return change_rows(files, order, false, [](int, rec_orc& row, write_faults&) {
         row.annullato = 1;
-        faults.note(files.orc.write(record, row), files.orc);
-    }
-    flush(files, stock_moved, faults);
-    return outcome;
+        return false;
+    });
 }
 
 }  // namespace vantora

@@ -1,14 +1,16 @@
 #pragma once
 
 #include "entry/order_rows.h"
+#include "program/order_seen.h"
 #include "store/archives.h"
 #include "store/write_outcome.h"
 
 namespace vantora {
 
-/// An order that is in the archive, by its block, and what stands on the screen about it.
+/// An order that is in the archive, as it was when its screen read it, and what stands there now.
 struct ordine_esistente {
-    std::int16_t registrazione = 0;
+    ordine_visto visto;
+    rec_tot contatore;          ///< of the orders, read before the order was
     std::int16_t articoli = 0;  ///< how many articles there are
     bool impegno = false;       ///< commit the stock now, and free what the rows had committed
 };
@@ -20,7 +22,8 @@ struct ordine_esistente {
 /// Failed reads and writes are passed over and noted: an article or a row that can't be read is
 /// left alone, and a row that is left alone moves no stock. What ends the program on the way leaves
 /// rows before it new, rows behind it old, each with its article's stock. It doesn't begin if a
-/// file can't be written, the disk has no room, or another station compacts the archive.
+/// file can't be written, the disk has no room, another station compacts the archive or has put
+/// another order into the block by a compaction.
 write_outcome salva_ordine(archivi& files, const ordine_esistente& order,
                            const testata_registrata& head, bool evaso, const righe_ordine& lines);
 

@@ -28,6 +28,7 @@ mirorcz::mirorcz(program& app)
 
 void mirorcz::open() {
     if (app_.modo_ordine != 0) return;
+    app_.archives.tot.read(contatori::ordini, contatore_);
     open_order(app_.selezione_2);
     customer_head& screen = head();
     for (std::size_t i = 0; i < customer_fields.size(); ++i) {
@@ -40,6 +41,7 @@ void mirorcz::open() {
 
 void mirorcz::read_order() {
     const stored_rows<rec_orc> stored(app_.archives.orc, app_.selezione_1);
+    visto_ = {app_.selezione_1, stored[1]};
     stored_lines lines(app_.archives.art);
     for (int number = 1; number <= righe_ordine::massimo; ++number) {
         riga_ordine& line = righe_[number];
@@ -54,7 +56,7 @@ void mirorcz::read_order() {
 }
 
 ordine_esistente mirorcz::order() const {
-    return {app_.selezione_1, lookup_.articles(), impegno.on()};
+    return {visto_, contatore_, lookup_.articles(), impegno.on()};
 }
 
 write_outcome mirorcz::store() {

@@ -22,6 +22,9 @@ class mirorcz final : public order_screen {
     void change_head();
     void delete_order();
     [[nodiscard]] ordine_esistente order() const;
+
+    rec_tot contatore_;   ///< of the orders, before the order was read
+    ordine_visto visto_;  ///< the order as it was read
 };
 
 }  // namespace vantora

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "customer/shipping_data.h"
 #include "fulfil/booking.h"
 #include "fulfil/faults.h"
@@ -25,6 +27,7 @@ void mirorcr::checkeva() {
 write_outcome mirorcr::book() {
     const instance_lock alone(app_.archives.tot, instance_lock::kind::records);
     write_outcome outcome(alone, booking_plan());
+    if (outcome.begun() && orders_moved()) outcome.give_up_moved_order();
     if (!outcome.begun()) return outcome;
     app_.mirorca->empty_hand_over();
     book_marked_rows();
@@ -33,6 +36,16 @@ write_outcome mirorcr::book() {
     outcome.faults.note(app_.archives.art.flush(), app_.archives.art);
     outcome.faults.note(app_.archives.orc.flush(), app_.archives.orc);
     return outcome;
+}
+
+bool mirorcr::orders_moved() const {
+    const orders_since meanwhile(app_.archives, ordini_);
+    if (!meanwhile.others_at_work()) return false;
+    return std::ranges::any_of(visti_, [&](const ordine_visto& seen) {
+        rec_orc row;
+        return !app_.archives.orc.read(block_record(seen.registrazione, 1), row) ||
+               meanwhile.took_away(seen, row);
+    });
 }
 
 write_plan mirorcr::booking_plan() const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "program/list_grid.h"
+#include "program/order_seen.h"
 #include "store/write_outcome.h"
 #include "ui/controls.h"
 
@@ -69,6 +70,8 @@ class mirorcr final : public ui::form {
     void checkeva();
     /// Books what leaves and closes the orders it ends.
     write_outcome book();
+    /// Another station's compaction has moved an order of the list.
+    [[nodiscard]] bool orders_moved() const;
     /// What is looked at before the first row is booked.
     [[nodiscard]] write_plan booking_plan() const;
     void book_marked_rows();
@@ -82,7 +85,8 @@ class mirorcr final : public ui::form {
     rec_orc riga_;  ///< the row read last; what can't be read stays as it was
     list_grid lista_;
     std::vector<rec_orc> blocco_;
-    int righe_ = 1;  ///< rows of `elenco` in use, head included
+    std::vector<ordine_visto> visti_;  ///< the orders whose rows are listed
+    int righe_ = 1;                    ///< rows of `elenco` in use, head included
 };
 
 }  // namespace vantora

@@ -37,6 +37,7 @@ void mirorcr::build_list() {
     elenco.set_visible(false);
     elenco.set_rows(1);
     righe_ = 1;
+    visti_.clear();
     app_.archives.tot.read(contatori::ordini, ordini_);
     app_.archives.tot.read(contatori::clienti, clienti_);
     list_orders(ordini_.quanti);
@@ -50,7 +51,9 @@ void mirorcr::list_orders(std::int16_t orders) {
     articles_shown articles(app_.archives.art);
     for (int order = 1; order <= orders; ++order) {
         app_.archives.orc.read(block_record(order, 1), riga_);
-        if (order_is_open()) list_rows_of(order, articles);
+        if (!order_is_open()) continue;
+        visti_.emplace_back(order, riga_);
+        list_rows_of(order, articles);
     }
     if (righe_ > 1) elenco.set_row(righe_ - 1);
 }

@@ -24,6 +24,10 @@ bool may_write(ui::desk& desk, const instance_lock& lock) {
 bool was_written(ui::desk& desk, const write_outcome& outcome) {
     if (outcome.compaction_elsewhere()) {
         warn_of_compaction(desk);
+    } else if (outcome.order_moved()) {
+        warn(desk,
+             "Un'altra postazione ha compattato l'archivio: nulla è stato salvato. Riaprire "
+             "dall'elenco degli ordini."_cp);
     } else if (!outcome.begun()) {
         warn(desk, "Impossibile leggere o scrivere il file "_cp + outcome.obstacle() +
                        ": nulla è stato salvato."_cp);

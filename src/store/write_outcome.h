@@ -24,8 +24,13 @@ class write_outcome {
         : obstacle_(plan.obstacle()), compaction_elsewhere_(!lock.may_go_on()) {}
 
     /// False: nothing was written, and nothing is to be written.
-    [[nodiscard]] bool begun() const { return !compaction_elsewhere_ && obstacle_.empty(); }
+    [[nodiscard]] bool begun() const {
+        return !compaction_elsewhere_ && !order_moved_ && obstacle_.empty();
+    }
     [[nodiscard]] bool compaction_elsewhere() const { return compaction_elsewhere_; }
+    /// Another station's compaction has put another order into a block that was to be changed.
+    [[nodiscard]] bool order_moved() const { return order_moved_; }
+    void give_up_moved_order() { order_moved_ = true; }
     /// The file that stood in the way; empty if there was none.
     [[nodiscard]] const std::string& obstacle() const { return obstacle_; }
 
@@ -34,6 +39,7 @@ class write_outcome {
  private:
     std::string obstacle_;
     bool compaction_elsewhere_ = false;
+    bool order_moved_ = false;
 };
 
 }  // namespace vantora

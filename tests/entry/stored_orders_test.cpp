@@ -149,6 +149,11 @@ struct order_stage {
         }
         for (rec_orc& one : rows) {
             const riga_ordine line = any_line();
+            const rec_orc& head = rows[(&one - rows.data()) / 200 * 200];
+            one.numero = head.numero;
+            one.data = head.data;
+            one.cliente = head.cliente;
+            one.data_reg = head.data_reg;
             one.articolo = line.articolo;
             one.quantita = chance(30) ? std::numeric_limits<double>::quiet_NaN() : line.quantita;
             one.evaso = chance(40) ? std::numeric_limits<double>::infinity() : line.evaso;
@@ -195,7 +200,11 @@ struct order_stage {
         return asked;
     }
     write_outcome work(const request& asked) {
-        const ordine_esistente order{edited, articles, asked.head.impegno};
+        rec_tot counter;
+        rec_orc row;
+        company.files.tot.read(contatori::ordini, counter);
+        company.files.orc.read(block_record(edited, 1), row);
+        const ordine_esistente order{{edited, row}, counter, articles, asked.head.impegno};
         switch (asked.what) {
             case command::add:
                 return salva_nuovo_ordine(files, asked.head, data_reg, asked.lines, articles);

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "store/archives.h"
+
+namespace vantora {
+
+/// An order as a screen saw it in its block. Another station that compacts the archive moves
+/// blocks; before the order is written over, these signs tell whether the block is still its own.
+struct ordine_visto {
+    ordine_visto() = default;
+    ordine_visto(int block, const rec_orc& row)
+        : registrazione(block),
+          numero(row.numero),
+          data(row.data),
+          cliente(row.cliente),
+          data_reg(row.data_reg) {}
+
+    int registrazione = 0;
+    text<10> numero;
+    text<8> data;
+    i16le cliente;
+    f64le data_reg;  ///< stays with an order for good, unlike the others
+};
+
+/// What became of the archive's orders since the counter stood as `then`. Costs one read.
+/// REQUIRES: no other station compacts now.
+class orders_since {
+ public:
+    orders_since(const archivi& files, const rec_tot& then);
+
+    /// Whether a row, read anew from the block where the order was seen, is another one's. Without
+    /// a sign of other stations a changed head alone doesn't make it so: whoever changed it, the
+    /// last save counts.
+    [[nodiscard]] bool took_away(const ordine_visto& seen, const rec_orc& row) const;
+
+    /// The counter is another one: another station saved orders or compacted the archive.
+    [[nodiscard]] bool others_at_work() const { return others_at_work_; }
+
+ private:
+    rec_tot now_;
+    bool others_at_work_ = false;
+};
+
+}  // namespace vantora
