@@ -119,6 +119,34 @@ TEST(mirorcr, TheDestinationOfTheFirstOrderThatLeavesIsTakenIfWanted) {
     }
 }
 
+TEST(mirorcr, OrdersThatACompactionElsewhereMovedAreNotBooked) {
+    for (const bool compacted : {true, false}) {
+        fulfil_stage stage;
+        stage.order(1, 2, {});
+        stage.order(2, 1, {{1, 5}});
+        stage.order(3, 2, {{1, 5}});
+        rec_orc gone = stage.row_now(1, 1);
+        gone.annullato = 1;
+        stage.set_row(1, 1, gone);
+        stage.run();
+        stage.open_worklist(1);
+        stage.click(1, mirorcr::ordine);
+        if (compacted) {
+            station other(stage.drive());
+            other.run();
+            other.front.decide = [&] { return other.front.told.back() == "Confermi?"; };
+            other.desk.dispatch([&] { other.app.mirorc->srtt[0].click(); });
+        } else {
+            stage.counter(contatori::ordini, 4);  // it only took an order
+        }
+        stage.book();
+        EXPECT_EQ(stage.row_now(2, 1).evaso, compacted ? 0 : 5);
+        EXPECT_EQ(stage.article_now(1).ordinato_clienti, compacted ? 50 : 45);
+        EXPECT_EQ(stage.desk.active()->name(), compacted ? "mirorcr" : "mirorca");
+        EXPECT_EQ(stage.row(1)[mirorcr::evaso], "5,00");
+    }
+}
+
 TEST(mirorcr, TheRowBehindTheTwoHundredthEndsTheProgramAndIsBookedOnce) {
     fulfil_stage stage;
     stage.order(1, 1, std::vector<order_line>(200, {1, 1}));
