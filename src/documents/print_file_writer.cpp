@@ -1,7 +1,9 @@
 #include "documents/print_file_writer.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
+#include <cstring>
 #include <span>
 
 #include "store/text/number_text.h"
@@ -23,19 +25,37 @@ char* put_line(char* at, std::string_view text) {
     return put(put(at, text), line_end);
 }
 
+/// A line with a whole number, ready to be copied in one piece.
+struct ready_line {
+    char text[7];
+    std::uint8_t size;
+};
+
 /// Most numbers of a page are 0 or millimetres.
-char* put_millimetres(char* at, unsigned value) {
-    *at++ = ' ';
-    if (value >= 100) *at++ = static_cast<char>('0' + value / 100);
-    if (value >= 10) *at++ = static_cast<char>('0' + value / 10 % 10);
-    *at++ = static_cast<char>('0' + value % 10);
-    return put(at, " \r\n");
-}
+constexpr auto millimetres = [] {
+    std::array<ready_line, 1000> lines{};
+    for (std::size_t value = 0; value < lines.size(); ++value) {
+        ready_line& line = lines[value];
+        const auto add = [&](std::size_t character) {
+            line.text[line.size++] = static_cast<char>(character);
+        };
+        add(' ');
+        if (value >= 100) add('0' + value / 100);
+        if (value >= 10) add('0' + value / 10 % 10);
+        add('0' + value % 10);
+        for (const char character : {' ', '\r', '\n'}) add(static_cast<std::size_t>(character));
+    }
+    return lines;
+}();
 
 char* put_number(char* at, double value) {
-    if (value >= 0 && value < 1000) {
+    if (value >= 0 && value < millimetres.size()) {
         const auto whole = static_cast<unsigned>(value);
-        if (whole == value) return put_millimetres(at, whole);
+        if (whole == value) {
+            const ready_line& line = millimetres[whole];
+            std::memcpy(at, line.text, sizeof line.text);
+            return at + line.size;
+        }
     }
     if (value > -largest_whole && value < largest_whole) {
         const auto whole = static_cast<std::int64_t>(value);

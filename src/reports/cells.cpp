@@ -1,5 +1,6 @@
 #include "reports/cells.h"
 
+#include <algorithm>
 #include <cmath>
 #include <functional>
 #include <utility>
@@ -53,21 +54,15 @@ double text_ruler::character_width(char character) const {
     return known;
 }
 
-bool text_ruler::fits(std::string_view text, double limit) const {
-    const double doubt = summing_error(limit);
-    double sum = 0;
-    for (const char character : text) {
-        sum += character_width(character);
-        if (sum > limit + doubt) return false;
-    }
-    return sum < limit - doubt || width(text) <= limit;
-}
-
-std::size_t text_ruler::passing(std::string_view text, double limit) const {
+std::optional<std::size_t> text_ruler::within(std::string_view text, double limit) const {
+    const double surely_within = limit - summing_error(limit);
+    const double surely_beyond = limit + summing_error(limit);
+    if (text.empty()) return {};
     double sum = 0;
     for (std::size_t i = 0; i < text.size(); ++i) {
         sum += character_width(text[i]);
-        if (sum > limit + summing_error(limit)) return i + 1;
+        if (sum > surely_beyond) return i;
+        if (sum >= surely_within) return {};
     }
     return text.size();
 }
@@ -77,37 +72,40 @@ std::string formattata(std::string_view cell, int formato, const valuta& in) {
         cell.starts_with("===")) {
         return std::string(cell);
     }
-    const double value = number_at_head(plain_text(testo_a_numero(cell)));
+    const double value = testo_a_numero(cell);
     if (value == 0) return {};
     const std::string_view mask = mask_of(formato, in);
     std::string text = mask.empty() ? plain_text(value) : masked(value, mask);
     return formato == 8 ? "(" + text + ")" : text;
 }
 
-void accorcia(std::string& text, double limit, const text_ruler& ruler) {
-    const auto drop_last = [&] {
-        text.pop_back();
-        text = trimmed(text);
-    };
-    const auto is_done = [&] { return text.size() < 2 || ruler.fits(trimmed(text), limit); };
-    if (is_done()) return;
-    drop_last();
-    text.resize(ruler.passing(text, limit));
-    text = trimmed(text);
-    while (!is_done()) drop_last();
+std::string_view accorciato(std::string_view text, double limit, const text_ruler& ruler) {
+    if (text.size() < 2) return text;
+    const std::string_view whole = trimmed(text);
+    std::string_view rest = trimmed(text.substr(0, text.size() - 1));
+    if (const auto count = ruler.within(whole, limit)) {
+        if (*count == whole.size()) return text;
+        return trimmed(rest.substr(0, std::max<std::size_t>(*count, 1)));
+    }
+    if (ruler.width(whole) <= limit) return text;
+    while (rest.size() > 1 && ruler.width(rest) > limit) {
+        rest = trimmed(rest.substr(0, rest.size() - 1));
+    }
+    return rest;
 }
 
 preparazione_celle::preparazione_celle(text_ruler ruler, double limit, int formato, valuta in)
     : ruler_(std::move(ruler)), limit_(limit), formato_(formato), currency_(in) {}
 
-const cella_pronta& preparazione_celle::operator()(std::string_view cell) {
+cella_pronta preparazione_celle::operator()(std::string_view cell) {
+    if (formato_ == 0) return {accorciato(cell, limit_, ruler_), 0};
     kept& place = kept_[std::hash<std::string_view>{}(cell) % kept_cells];
     if (place.used && place.cell == cell) return place.ready;
     place.used = true;
     place.cell = cell;
-    place.ready.testo = formattata(cell, formato_, currency_);
-    accorcia(place.ready.testo, limit_, ruler_);
-    place.ready.larghezza = formato_ != 0 ? ruler_.width(place.ready.testo) : 0;
+    place.text = formattata(cell, formato_, currency_);
+    const std::string_view fitted = accorciato(place.text, limit_, ruler_);
+    place.ready = {fitted, ruler_.width(fitted)};
     return place.ready;
 }
 

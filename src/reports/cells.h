@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -18,12 +19,10 @@ class text_ruler {
 
     /// As the printer says.
     [[nodiscard]] double width(std::string_view text) const;
-    /// By the widths of the characters, which are asked for once; the printer has its say where
-    /// the two lie next to each other.
-    [[nodiscard]] bool fits(std::string_view text, double limit) const;
-    /// How many characters at the head of a text are needed to pass the limit beyond any doubt; all
-    /// of them if it isn't passed.
-    [[nodiscard]] std::size_t passing(std::string_view text, double limit) const;
+    /// How many characters at the head of a text are within the limit, by the widths of the
+    /// characters, which are asked for once; nothing where the printer must have its say, since the
+    /// limit lies too near to one of their sums.
+    [[nodiscard]] std::optional<std::size_t> within(std::string_view text, double limit) const;
 
  private:
     [[nodiscard]] double character_width(char character) const;
@@ -38,28 +37,29 @@ class text_ruler {
 /// it anew, 0 as nothing. Rules of dashes or equal signs and texts with a bracket pass any format.
 std::string formattata(std::string_view cell, int formato, const valuta& in);
 
-/// Takes characters off the right end until the text fits or one is left.
-void accorcia(std::string& text, double limit, const text_ruler& ruler);
+/// A text without the characters at its right end that must go until it fits or one is left.
+std::string_view accorciato(std::string_view text, double limit, const text_ruler& ruler);
 
 /// A cell that can be placed.
 struct cella_pronta {
-    std::string testo;
+    std::string_view testo;
     double larghezza = 0;  ///< of the text; measured for numbers alone
 };
 
-/// Prepares the cells of one column. Lists repeat themselves, so the latest cells are kept.
+/// Prepares the cells of one column. Quantities repeat themselves, so the latest numbers are kept.
 class preparazione_celle {
  public:
     preparazione_celle(text_ruler ruler, double limit, int formato, valuta in);
 
-    /// Valid until the next call.
-    const cella_pronta& operator()(std::string_view cell);
+    /// Valid as long as the cell's text and until the next call.
+    cella_pronta operator()(std::string_view cell);
 
  private:
     struct kept {
         bool used = false;
         std::string cell;
-        cella_pronta ready;
+        std::string text;
+        cella_pronta ready;  ///< `testo` lies in `text`
     };
     static constexpr std::size_t kept_cells = 64;
 

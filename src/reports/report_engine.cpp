@@ -165,7 +165,7 @@ void report_engine::draw_boxes_of(std::size_t column, double y) {
 
 void report_engine::draw_cell(std::size_t column, std::size_t line, std::string_view cell,
                               double y) {
-    const cella_pronta& ready = cells_[line * columns() + column](cell);
+    const cella_pronta ready = cells_[line * columns() + column](cell);
     put_in_column(column, y, ready.testo, ready.larghezza, row_look(column, line),
                   aspect_.grigio ? forma_stile::numeri : forma_stile::zeri_come_testo);
 }
