@@ -23,7 +23,7 @@ register: program store store/records store/text ui
 entry: customer documents program store store/records store/text ui
 fulfil: customer documents entry program store store/records store/text ui
 reports: documents program store store/records store/text ui
-app: register customer entry fulfil reports documents program store store/records store/text ui ui/desktop ui/look ui/pictures ui/script
+app: register customer entry fulfil reports documents program store store/records store/text ui ui/desktop ui/look ui/paper ui/pictures ui/script
 '
 
 git ls-files 'src/*.h' 'src/*.cpp' |

@@ -3,6 +3,7 @@
 #include <fstream>
 #include <iostream>
 
+#include "app/desktop_company_choice.h"
 #include "app/options.h"
 #include "app/start.h"
 #include "store/drive.h"
@@ -37,6 +38,18 @@ struct scripted_run {
     std::istream& commands() { return from_input ? std::cin : script; }
 };
 
+/// Started without the menu program's argument: the user says what it would have said. False if
+/// nothing is to be opened.
+bool choose_company(vantora::program_options& options) {
+    std::filesystem::path drive = options.drive;
+    if (drive == drive.root_path()) drive = vantora::company_choice::last_drive();
+    vantora::company_choice choice(drive, QApplication::applicationDirPath() + "/vantora-demo");
+    if (choice.exec() != QDialog::Accepted) return false;
+    options.drive = choice.drive().string();
+    options.argument = choice.argument();
+    return true;
+}
+
 }  // namespace
 
 int main(int count, char** arguments) {
@@ -54,7 +67,10 @@ int main(int count, char** arguments) {
     QApplication::setOrganizationName("Vantora");
     QApplication::setApplicationName("Ordini");
     QApplication::setQuitOnLastWindowClosed(false);
+    QGuiApplication::setDesktopFileName("example.vantora.Ordini");
     ui::dress_application(application);
+
+    if (options.argument.empty() && options.script.empty() && !choose_company(options)) return 0;
 
     drive files(options.drive);
     ui::local_clock time;

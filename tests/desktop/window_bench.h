@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QApplication>
+#include <QSettings>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 #include <QToolButton>
@@ -12,13 +14,16 @@
 
 namespace vantora::ui::desktop::test {
 
-/// The one application object of all tests of this program.
+/// The one application object of all tests of this program; what it remembers goes with them.
 inline QApplication& application() {
+    static const QTemporaryDir remembered;
     static int count = 1;
     static char name[] = "desktop_test";
     static char* arguments[] = {name, nullptr};
     static QApplication* one = [] {
         qputenv("QT_QPA_PLATFORM", "offscreen");
+        QSettings::setDefaultFormat(QSettings::IniFormat);
+        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, remembered.path());
         auto* made = new QApplication(count, arguments);
         QApplication::setQuitOnLastWindowClosed(false);
         dress_application(*made);

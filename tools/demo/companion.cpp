@@ -12,6 +12,7 @@ namespace fs = std::filesystem;
 
 constexpr std::string_view program = "mirxpdf";
 constexpr std::string_view settings = "mirxpdf.conf";
+constexpr std::string_view installed_settings = "../share/vantora-ordini/mirxpdf.conf";
 
 /// In one step: the older one may be running.
 void put(const fs::path& from, const fs::path& to) {
@@ -31,8 +32,10 @@ void install_companion(const fs::path& programs, const fs::path& drive_root) {
     try {
         if (!fs::exists(programs / program)) return;
         put(programs / program, place(program));
-        if (fs::exists(place(settings)) || !fs::exists(programs / settings)) return;
-        put(programs / settings, place(settings));
+        fs::path sample = programs / settings;
+        if (!fs::exists(sample)) sample = programs / installed_settings;
+        if (fs::exists(place(settings)) || !fs::exists(sample)) return;
+        put(sample, place(settings));
         // A password is going to stand in it.
         fs::permissions(place(settings), fs::perms::owner_read | fs::perms::owner_write);
     } catch (const fs::filesystem_error& refused) {

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QDialog>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+class QLabel;
+class QLineEdit;
+class QListWidget;
+class QPushButton;
+
+namespace vantora {
+
+/// A company's number and the first line of its heading, in the code page.
+struct company_on_drive {
+    int number;
+    std::string heading;
+};
+
+/// The companies whose folders lie on a drive, by number; none if it isn't one of the suite.
+std::vector<company_on_drive> companies_on(const std::filesystem::path& drive);
+
+/// Asks for the company, in place of the suite's menu program, when the program is started without
+/// it, as from the system's menu. Remembers the drive; can make a demonstration company to begin
+/// with.
+class company_choice final : public QDialog {
+ public:
+    /// `drive`: where to look first; `maker`: the program that makes demonstration companies.
+    company_choice(std::filesystem::path drive, const QString& maker);
+
+    [[nodiscard]] const std::filesystem::path& drive() const { return drive_; }
+    /// As the menu program would have passed it on. REQUIRES: the dialog was accepted.
+    [[nodiscard]] std::string argument() const;
+
+    /// The drive of the last choice, the root folder if there was none.
+    static std::filesystem::path last_drive();
+
+ private:
+    void show_companies(const std::filesystem::path& drive);
+    void choose_folder();
+    void make_demonstration(const QString& maker);
+    void keep_and_accept();
+
+    std::filesystem::path drive_;
+    QLineEdit* place_;
+    QListWidget* companies_;
+    QLabel* none_;
+    QPushButton* open_;
+};
+
+}  // namespace vantora

@@ -1,0 +1,47 @@
+#include "app/desktop_company_choice.h"
+
+#include <gtest/gtest.h>
+
+#include <QListWidget>
+#include <QSettings>
+#include <fstream>
+
+#include "support/scratch_folder.h"
+#include "window_bench.h"
+
+namespace vantora {
+namespace {
+
+TEST(company_choice, OpensTheCompanyTakenAndNothingWhereThereIsNone) {
+    ui::desktop::test::application();
+    test::scratch_folder folder;
+    const auto general = folder.path() / "MIRWIN/Mirwin";
+    for (const char* one : {"miraz0.112", "MIRAZ0.007", "miraz0.12", "miraz0.x12", "miraz1.001"}) {
+        create_directories(general / one);
+    }
+    std::ofstream(general / "miraz0.001") << "no folder";
+    std::ofstream(general / "MIRAZ0.007/vantora.int") << "Perch\xE9 no S.r.l.\r\nvia Roma\r\n";
+
+    for (const char* const expected : {"ordini112", "ordini112"}) {
+        company_choice choice(folder.path(), "no such program");
+        choice.show();
+        auto* list = choice.findChild<QListWidget*>();
+        ASSERT_EQ(list->count(), 2);
+        EXPECT_EQ(list->item(0)->text(), QString::fromUtf8("007   Perché no S.r.l."));
+        EXPECT_EQ(list->item(1)->text(), "112   ");
+        // The second time it is proposed.
+        if (QSettings().value("ditta/numero").isNull()) QTest::keyClick(list, Qt::Key_Down);
+        QTest::keyClick(&choice, Qt::Key_Return);
+        EXPECT_EQ(choice.result(), QDialog::Accepted);
+        EXPECT_EQ(choice.argument(), expected);
+        EXPECT_EQ(company_choice::last_drive(), folder.path());
+    }
+
+    company_choice nothing(folder.path() / "elsewhere", "no such program");
+    nothing.show();
+    QTest::keyClick(&nothing, Qt::Key_Return);
+    EXPECT_EQ(nothing.result(), 0);
+}
+
+}  // namespace
+}  // namespace vantora
