@@ -21,14 +21,17 @@ inline double median(std::vector<double> values) {
 }
 
 /// Runs the work and its yardstick in turn, so that a drift of the machine meets both, and prints
-/// their medians and the ratio.
-inline void compare(const char* what, int rounds, const std::function<void()>& work,
-                    const char* yardstick, const std::function<void()>& other) {
+/// their medians and the ratio. `before` is run before each, untimed.
+inline void compare(
+    const char* what, int rounds, const std::function<void()>& work, const char* yardstick,
+    const std::function<void()>& other, const std::function<void()>& before = [] {}) {
     std::vector<double> mine;
     std::vector<double> theirs;
     std::vector<double> ratios;
     for (int round = 0; round < rounds; ++round) {
+        before();
         mine.push_back(milliseconds(work));
+        before();
         theirs.push_back(milliseconds(other));
         ratios.push_back(mine.back() / theirs.back());
     }

@@ -1,5 +1,6 @@
 // How long the register takes to build and to sort on an archive filled to its limits, against the
-// bare cost of reading the same rows with one positioned read each.
+// bare cost of reading the same rows with one positioned read each: from memory, from the disk, and
+// from another machine, which answers each read after half a millisecond.
 
 #include <cstdlib>
 #include <cstring>
@@ -7,8 +8,10 @@
 #include <random>
 #include <string>
 
+#include "bench/cold_files.h"
 #include "bench/measure.h"
 #include "register/mirorc.h"
+#include "support/faulty_files.h"
 #include "support/program_stage.h"
 
 namespace vantora::bench {
@@ -91,6 +94,14 @@ int run(int orders, int customers, int rounds) {
     compare("build of the register", rounds, build, "one read for each row and its customer",
             [&] { read_rows(true); });
     compare("build of the register", rounds, build, "one read for each row alone",
+            [&] { read_rows(false); });
+    compare(
+        "the same from the disk", 3, build, "one read for each row alone",
+        [&] { read_rows(false); }, [&] { drop_from_memory(bench.folder.path()); });
+    test::faulty_files far(bench.files);
+    far.read_takes = std::chrono::microseconds(500);
+    apri_archivi(app.archives, far, 1);
+    compare("the same from afar", 1, build, "one read for each row alone",
             [&] { read_rows(false); });
     sort_benches(app.mirorc->elenco, rounds);
     return 0;

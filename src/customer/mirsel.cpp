@@ -2,8 +2,8 @@
 
 #include "customer/customer_head.h"
 #include "program/pick_list.h"
-#include "program/record_stretches.h"
 #include "store/key_index.h"
+#include "store/record_stretches.h"
 #include "store/text/number_text.h"
 #include "ui/enter_key.h"
 
@@ -85,9 +85,10 @@ void mirsel::list_customers(list_rows& list) {
     rec_tot counter;
     app_.archives.tot.read(contatori::clienti, counter);
     const std::string wanted = upper(trimmed(selnome.text()));
-    customer_stretches<row_content> customers(app_.archives.cli);
-    const std::function<bool(std::int16_t, const rec_src&)> visit = [&](std::int16_t,
+    record_stretches<rec_cli, row_content> customers(app_.archives.cli);
+    const std::function<bool(std::int16_t, const rec_src&)> visit = [&](std::int16_t position,
                                                                         const rec_src& entry) {
+        list.come_to(position, counter.quanti);
         const row_content& customer = customers.of(entry.numero);
         if (customer.eliminato == 0 && customer.name_holds(wanted)) {
             list_customer(list, customer, entry.numero);

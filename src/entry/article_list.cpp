@@ -1,8 +1,8 @@
 #include "entry/article_list.h"
 
 #include <algorithm>
-#include <array>
 
+#include "store/record_runs.h"
 #include "store/text/code_page.h"
 #include "store/text/int16.h"
 #include "store/text/number_text.h"
@@ -36,26 +36,24 @@ bool begins_with(std::string_view text, std::string_view capitals) {
 }  // namespace
 
 std::vector<std::string> voci_articoli(const channel<blocco_articoli>& blocks,
-                                       std::int16_t articles, modo_lista mode) {
+                                       std::int16_t articles, modo_lista mode,
+                                       const std::function<void(int, int)>& progress) {
     constexpr int at_once = 16;
     std::vector<std::string> entries;
-    std::vector<blocco_articoli> read(at_once);
     // The last block may hold records that no 16-bit number reaches.
     constexpr int last_number = 32767;
     const int last = static_cast<int>(integer_part(articles / 20.0)) + 1;
-    for (int first = 1; first <= last; first += at_once) {
-        const auto count = static_cast<std::size_t>(std::min(at_once, last - first + 1));
-        const std::span<blocco_articoli> part(read.data(), count);
-        if (!blocks.read_block(first, part)) continue;
-        for (std::size_t block = 0; block < count; ++block) {
-            for (std::size_t place = 0; place < 20; ++place) {
-                const rec_art& article = read[block].articoli[place];
-                const auto deleted = static_cast<std::uint16_t>(article.eliminato) & 0xFF;
-                if (deleted != 0 || filtra_stampa(article.codice.full()).empty()) continue;
-                const auto number =
-                    (first - 1 + static_cast<int>(block)) * 20 + static_cast<int>(place) + 1;
-                if (number <= last_number) entries.push_back(entry_of(article, number, mode));
-            }
+    auto ahead = all_records_ahead(blocks, last, at_once);
+    blocco_articoli read;
+    for (int block = 1; block <= last; ++block) {
+        progress(block, last);
+        if (!ahead.next(read)) continue;
+        int number = (block - 1) * 20;
+        for (const rec_art& article : read.articoli) {
+            const auto deleted = static_cast<std::uint16_t>(article.eliminato) & 0xFF;
+            if (++number > last_number) break;
+            if (deleted != 0 || filtra_stampa(article.codice.full()).empty()) continue;
+            entries.push_back(entry_of(article, number, mode));
         }
     }
     return entries;
@@ -76,15 +74,10 @@ std::int16_t cerca_descrizione(const channel<rec_art>& articles, std::int16_t co
                                std::string_view text) {
     constexpr int at_once = 256;
     const std::string wanted = upper(text);
-    std::vector<rec_art> read(at_once);
-    for (int first = 1; first <= count; first += at_once) {
-        const auto size = static_cast<std::size_t>(std::min(at_once, count - first + 1));
-        if (!articles.read_block(first, std::span(read.data(), size))) return 0;
-        for (std::size_t i = 0; i < size; ++i) {
-            if (begins_with(read[i].descrizione.full(), wanted)) {
-                return static_cast<std::int16_t>(first + static_cast<int>(i));
-            }
-        }
+    auto ahead = all_records_ahead(articles, count, at_once);
+    rec_art read;
+    for (int number = 1; number <= count && ahead.next(read); ++number) {
+        if (begins_with(read.descrizione.full(), wanted)) return static_cast<std::int16_t>(number);
     }
     return 0;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -13,10 +14,11 @@ enum modo_lista { per_codice = 0, per_descrizione = 1 };
 
 /// The entries of the list of all live articles, in the order of the file: code and description in
 /// their full widths, then the record number as the last characters. The file is read many blocks
-/// of twenty at a time; the last block may reach behind the count. A part of the file that can't
-/// be read is left out.
-std::vector<std::string> voci_articoli(const channel<blocco_articoli>& blocks,
-                                       std::int16_t articles, modo_lista mode);
+/// of twenty at a time, `progress` is told how far; the last block may reach behind the count. A
+/// block that can't be read is left out.
+std::vector<std::string> voci_articoli(
+    const channel<blocco_articoli>& blocks, std::int16_t articles, modo_lista mode,
+    const std::function<void(int done, int of)>& progress = [](int, int) {});
 
 /// The record number that an entry ends with, in its last five characters.
 std::int16_t numero_articolo(std::string_view entry);

@@ -1,5 +1,6 @@
 #include "entry/article_lookup.h"
 
+#include "program/list_progress.h"
 #include "store/key_index.h"
 #include "store/text/number_text.h"
 
@@ -45,7 +46,11 @@ void article_lookup::carica_lista(modo_lista mode) {
     app_.desk.set_pointer(ui::pointer::busy);
     count_articles();
     List1.clear();
-    List1.add_all(voci_articoli(app_.archives.art_blocchi, articles(), mode));
+    {
+        list_progress progress(app_.desk, List1);
+        List1.add_all(voci_articoli(app_.archives.art_blocchi, articles(), mode,
+                                    [&](int done, int of) { progress.come_to(done, of); }));
+    }
     app_.desk.set_pointer(ui::pointer::normal);
     stato_lista_ = mode;
 }

@@ -2,7 +2,7 @@
 
 #include "entry/mirorcs.h"
 #include "program/customer_names.h"
-#include "store/records/order_block.h"
+#include "store/block_reader.h"
 #include "store/text/dates.h"
 #include "store/text/number_text.h"
 
@@ -12,15 +12,16 @@ namespace {
 
 constexpr int righe_minime = 28;
 
-/// Walks the head rows of all blocks, one read each. A row that can't be read is the one before
-/// it; a block counts as deleted by any mark.
+/// Walks the head rows of all blocks, one read each. A block counts as deleted by any mark.
 template <class Row>
 void list_heads(const channel<Row>& rows, std::int16_t blocks, import_picker& picker,
                 list_rows& list, const std::function<bool(const Row&)>& wanted,
                 const std::function<void(const Row&)>& list_more) {
-    Row head;
+    block_reader<Row> heads(rows);
+    heads.walk_heads(1, blocks);
     for (int block = 1; block <= blocks && !list.full(); ++block) {
-        rows.read(block_record(block, 1), head);
+        const Row& head = heads.first_row(block);
+        list.come_to(block, blocks);
         if (head.annullato != 0 || !wanted(head)) continue;
         list.next();
         list.write(0, head.numero.trimmed());

@@ -1,40 +1,29 @@
 #pragma once
 
-#include <array>
 #include <cmath>
-#include <memory>
 #include <string>
 
 #include "program/order_lines.h"
-#include "store/channel.h"
-#include "store/records/order_block.h"
+#include "store/block_reader.h"
 #include "store/records/rec_art.h"
 
 namespace vantora {
 
-/// The 200 rows of a stored order or quote, a rec_orc or rec_prv each. They are read at once, or
-/// one by one where that fails; a row that can't be read is as the one before it.
+/// The 200 rows of one stored order or quote, a rec_orc or rec_prv each.
 template <class Row>
 class stored_rows {
  public:
     stored_rows(const channel<Row>& from, std::int64_t registrazione)
-        : rows_(std::make_unique<std::array<Row, righe_blocco>>()) {
-        const std::int64_t first = block_record(registrazione, 1);
-        if (from.read_block(first, *rows_)) return;
-        Row read;
-        for (int i = 0; i < righe_blocco; ++i) {
-            from.read(first + i, read);
-            (*rows_)[static_cast<std::size_t>(i)] = read;
-        }
-    }
+        : reader_(from), rows_(reader_.block(registrazione)) {}
+    stored_rows(const stored_rows&) = delete;
+    stored_rows& operator=(const stored_rows&) = delete;
 
     /// REQUIRES: `number` is 1 to 200.
-    const Row& operator[](int number) const {
-        return (*rows_)[static_cast<std::size_t>(number - 1)];
-    }
+    const Row& operator[](int number) const { return rows_[static_cast<std::size_t>(number - 1)]; }
 
  private:
-    std::unique_ptr<std::array<Row, righe_blocco>> rows_;
+    block_reader<Row> reader_;
+    std::span<const Row> rows_;
 };
 
 /// What is no number in a file counts as 0.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <span>
+
 #include "program/list_grid.h"
 #include "program/order_seen.h"
 #include "store/write_outcome.h"
@@ -50,9 +52,9 @@ class mirorcr final : public ui::form {
 
     void build_list();
     void list_orders(std::int16_t orders);
-    void list_rows_of(int order, articles_shown& articles);
+    void list_rows_of(int order, std::span<const rec_orc> rows, articles_shown& articles);
     void list_row(int order, std::int64_t record, bool first_of_order, articles_shown& articles);
-    [[nodiscard]] bool order_is_open() const;
+    [[nodiscard]] bool is_open(const rec_orc& head) const;
     [[nodiscard]] bool row_is_open() const;
 
     // What leaves -------------------------------------------------------------------------------
@@ -84,7 +86,6 @@ class mirorcr final : public ui::form {
     rec_tot articoli_;
     rec_orc riga_;  ///< the row read last; what can't be read stays as it was
     list_grid lista_;
-    std::vector<rec_orc> blocco_;
     std::vector<ordine_visto> visti_;  ///< the orders whose rows are listed
     int righe_ = 1;                    ///< rows of `elenco` in use, head included
 };

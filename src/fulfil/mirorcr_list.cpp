@@ -1,8 +1,9 @@
 #include <charconv>
 
 #include "fulfil/mirorcr.h"
-#include "program/record_stretches.h"
-#include "store/records/order_block.h"
+#include "program/list_progress.h"
+#include "store/block_reader.h"
+#include "store/record_stretches.h"
 #include "store/text/dates.h"
 
 namespace vantora {
@@ -49,17 +50,21 @@ void mirorcr::build_list() {
 
 void mirorcr::list_orders(std::int16_t orders) {
     articles_shown articles(app_.archives.art);
+    list_progress progress(app_.desk, elenco);
+    block_reader<rec_orc> reader(app_.archives.orc, riga_);
+    reader.walk_heads(1, orders, [this](const rec_orc& head) { return is_open(head); });
     for (int order = 1; order <= orders; ++order) {
-        app_.archives.orc.read(block_record(order, 1), riga_);
-        if (!order_is_open()) continue;
+        progress.come_to(order, orders);
+        riga_ = reader.first_row(order);
+        if (!is_open(riga_)) continue;
         visti_.emplace_back(order, riga_);
-        list_rows_of(order, articles);
+        list_rows_of(order, reader.block(order), articles);
     }
     if (righe_ > 1) elenco.set_row(righe_ - 1);
 }
 
-bool mirorcr::order_is_open() const {
-    return riga_.cliente == app_.selezione_1 && riga_.annullato == 0 && riga_.evaso_flag == 0;
+bool mirorcr::is_open(const rec_orc& head) const {
+    return head.cliente == app_.selezione_1 && head.annullato == 0 && head.evaso_flag == 0;
 }
 
 bool mirorcr::row_is_open() const {
@@ -67,18 +72,13 @@ bool mirorcr::row_is_open() const {
     return riga_.quantita == 0 && !riga_.descrizione.trimmed().empty();
 }
 
-void mirorcr::list_rows_of(int order, articles_shown& articles) {
-    blocco_.resize(righe_blocco);
-    const bool read = app_.archives.orc.read_block(block_record(order, 1), blocco_);
+void mirorcr::list_rows_of(int order, std::span<const rec_orc> rows, articles_shown& articles) {
     const int listed_before = righe_;
-    for (int number = 1; number <= righe_blocco; ++number) {
-        const std::int64_t record = block_record(order, number);
-        if (read) {
-            riga_ = blocco_[static_cast<std::size_t>(number - 1)];
-        } else {
-            app_.archives.orc.read(record, riga_);
-        }
+    std::int64_t record = block_record(order, 1);
+    for (const rec_orc& row : rows) {
+        riga_ = row;
         if (row_is_open()) list_row(order, record, righe_ == listed_before, articles);
+        ++record;
     }
 }
 

@@ -2,7 +2,8 @@
 
 #include <string_view>
 
-#include "program/record_stretches.h"
+#include "store/record_stretches.h"
+#include "store/records/rec_cli.h"
 
 namespace vantora {
 
@@ -35,7 +36,7 @@ class customer_names {
         text<40> intestazione1;
     };
 
-    customer_stretches<name> names_;
+    record_stretches<rec_cli, name> names_;
     std::int16_t count_;
 };
 

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <algorithm>
 #include <functional>
 #include <string_view>
 
+#include "program/list_progress.h"
 #include "program/program.h"
 #include "ui/grid.h"
 
@@ -13,28 +15,32 @@ namespace vantora {
 
 /// Rows that a list reserves while it is filled, head included.
 inline constexpr int righe_riservate = 32000;
-/// Rows that a list takes, without the head; what lies beyond isn't listed.
+/// Rows that the lists of records take, without the head; what lies beyond isn't listed.
 inline constexpr int righe_elencabili = righe_riservate - 2;
 
 /// The rows of a list while it is filled, one behind the other.
 class list_rows {
  public:
     /// `most`: rows that the list takes, without the head.
-    explicit list_rows(ui::grid& list, int most = righe_elencabili) : list_(list), most_(most) {}
+    list_rows(ui::desk& desk, ui::grid& list, int most = righe_elencabili)
+        : list_(list), most_(most), progress_(desk, list) {}
 
     /// Whether nothing further can be listed.
     [[nodiscard]] bool full() const { return in_use_ > most_; }
-    /// Starts the next row. REQUIRES: !full().
+    /// Starts the next row. What is written behind the reserved ones is lost.
     void next() { ++in_use_; }
     /// Writes into the row at hand.
     void write(int col, std::string_view text) { list_.set_text(in_use_ - 1, col, text); }
     /// Rows in use, head included.
-    [[nodiscard]] int in_use() const { return in_use_; }
+    [[nodiscard]] int in_use() const { return std::min(in_use_, most_ + 1); }
+    /// So much of the work is done, for the user to see.
+    void come_to(int done, int of) { progress_.come_to(done, of); }
 
  private:
     ui::grid& list_;
     int most_;
     int in_use_ = 1;
+    list_progress progress_;
 };
 
 /// A list over a grid of a screen: builds it, sorts it, knows how many of its rows are in use. Its
@@ -67,6 +73,8 @@ class list_grid {
     void paint_stripes();
 
  private:
+    void fill_rows(const filling& fill);
+
     ui::grid& grid_;
     program& app_;
     int minimum_;

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "store/read_ahead.h"
+#include "store/record_runs.h"
 #include "store/text/int16.h"
 
 namespace vantora {
@@ -12,7 +12,9 @@ namespace {
 /// Copies a block down. Its rows are read anew, all of them before the first is written; behind
 /// the end of the file there is nothing to keep. False if one can't be read or written.
 bool move_block(channel<rec_orc>& orders, int from, int to, std::vector<rec_orc>& rows) {
-    if (!read_run(orders, block_record(from, 1), std::span(rows))) return false;
+    bool whole = true;
+    read_run(orders, block_record(from, 1), std::span(rows), [&whole](auto) { whole = false; });
+    if (!whole) return false;
     const std::int64_t first = block_record(to, 1);
     const std::int64_t held = orders.records_held().value_or(first - 1 + righe_blocco);
     const auto kept = std::clamp<std::int64_t>(held - (first - 1), 0, righe_blocco);

@@ -2,6 +2,7 @@
 #include <charconv>
 
 #include "register/mirorc.h"
+#include "store/block_reader.h"
 #include "store/text/dates.h"
 
 namespace vantora {
@@ -29,16 +30,20 @@ int mirorc::first_listed(int last) const {
     return std::max(first, 1);
 }
 
+// One read for each order, and one for every 32 customers in question.
 void mirorc::list_orders(list_rows& list) {
     rec_tot customers;
     app_.archives.tot.read(contatori::ordini, contatore_);
     app_.archives.tot.read(contatori::clienti, customers);
     customer_names names(app_.archives.cli, customers.quanti);
     const int last = contatore_.quanti;
-    for (int registrazione = first_listed(last); registrazione <= last; ++registrazione) {
-        if (list.full()) return;
-        app_.archives.orc.read(block_record(registrazione, 1), riga_);
+    const int first = first_listed(last);
+    block_reader<rec_orc> orders(app_.archives.orc, riga_);
+    orders.walk_heads(first, last);
+    for (int registrazione = first; registrazione <= last && !list.full(); ++registrazione) {
+        riga_ = orders.first_row(registrazione);
         list_order(list, registrazione, names);
+        list.come_to(registrazione - first + 1, last - first + 1);
     }
 }
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "program/record_stretches.h"
+#include "store/record_stretches.h"
 #include "store/records/rec_art.h"
 #include "store/records/rec_orc.h"
 

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "program/customer_names.h"
-#include "reports/report_list.h"
 #include "store/company.h"
 #include "store/key_index.h"
 #include "store/text/dates.h"
@@ -100,10 +99,11 @@ int mirstoa::last_step(const limiti_ordini&) const {
 
 // One read for 512 entries of the index, one for every 32 articles, one an order, then one for
 // every 32 customers in question.
-void mirstoa::fill(report_list& list, const limiti_ordini& orders) {
+void mirstoa::fill(list_rows& list, const limiti_ordini& orders) {
     plan(articoli_.quanti, orders);
-    raccolta found{{}, sheet_rows<riga>(report_list::massimo), {}};
+    raccolta found{{}, sheet_rows<riga>(righe_report), {}};
     if (!choose_articles(found)) return;
+    ordini_.walk_blocks(orders.primo, orders.ultimo);
     for (int order = orders.primo; order <= orders.ultimo && !found.righe.complete(); ++order) {
         take_rows(found, order);
         if (!order_done()) return;
@@ -141,7 +141,7 @@ void mirstoa::take_rows(raccolta& found, int order) {
     }
 }
 
-void mirstoa::list_sheets(report_list& list, raccolta& found) {
+void mirstoa::list_sheets(list_rows& list, raccolta& found) {
     customer_names names(app_.archives.cli, clienti_.quanti);
     testa_ordine head;
     found.righe.group();
@@ -152,7 +152,7 @@ void mirstoa::list_sheets(report_list& list, raccolta& found) {
         somme sums;
         for (const riga& row : rows) {
             if (found.teste[row.testa].read) head = found.teste[row.testa];
-            list.next_row();
+            list.next();
             list.write(ordine, head.numero.trimmed());
             list.write(data, date_text_of_stored(head.data.full()));
             list.write(descrizione, head.testo1.trimmed());

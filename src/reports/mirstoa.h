@@ -17,7 +17,7 @@ class mirstoa final : public sheet_report {
 
  protected:
     void load() override;
-    void fill(report_list& list, const limiti_ordini& orders) override;
+    void fill(list_rows& list, const limiti_ordini& orders) override;
     [[nodiscard]] int last_step(const limiti_ordini& orders) const override;
 
  private:
@@ -41,7 +41,7 @@ class mirstoa final : public sheet_report {
 
     bool choose_articles(raccolta& found);
     void take_rows(raccolta& found, int order);
-    void list_sheets(report_list& list, raccolta& found);
+    void list_sheets(list_rows& list, raccolta& found);
 };
 
 }  // namespace vantora

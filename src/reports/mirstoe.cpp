@@ -51,6 +51,11 @@ void mirstoe::selector_changed(filtro which) {
     build_list();
 }
 
+void mirstoe::begin_walk(const limiti_ordini& orders) {
+    if (whole_orders()) return ordini_.walk_blocks(orders.primo, orders.ultimo);
+    ordini_.walk_heads(orders.primo, orders.ultimo);
+}
+
 std::span<const rec_orc> mirstoe::rows_of(int order) {
     if (whole_orders()) return ordini_.block(order);
     return {&ordini_.first_row(order), 1};

@@ -11,6 +11,7 @@ class mirstoe final : public order_rows_report {
 
  protected:
     void selector_changed(filtro which) override;
+    void begin_walk(const limiti_ordini& orders) override;
     std::span<const rec_orc> rows_of(int order) override;
     [[nodiscard]] bool takes(const rec_orc& row) const override;
     [[nodiscard]] const colonne& places() const override;

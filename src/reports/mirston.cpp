@@ -1,8 +1,8 @@
 #include "reports/mirston.h"
 
 #include "reports/key_range.h"
-#include "reports/report_list.h"
 #include "store/key_index.h"
+#include "store/record_stretches.h"
 #include "store/text/dates.h"
 
 namespace vantora {
@@ -55,12 +55,14 @@ int mirston::last_step(const limiti_ordini&) const {
     return clienti_.quanti;
 }
 
-// One read for 512 entries of the index, one for every 32 customers, one an order and a second one
-// for an order in question, then one for every 32 articles in question.
-void mirston::fill(report_list& list, const limiti_ordini& orders) {
+// One read for 512 entries of the index, one for every 32 customers, one an order, a second one for
+// an order in question as long as not all are, then one for every 32 articles in question.
+void mirston::fill(list_rows& list, const limiti_ordini& orders) {
     plan(clienti_.quanti, orders);
-    raccolta found{{}, sheet_rows<riga>(report_list::massimo), {}};
+    raccolta found{{}, sheet_rows<riga>(righe_report), {}};
     if (!choose_customers(found)) return;
+    ordini_.walk_heads(orders.primo, orders.ultimo,
+                       [&](const rec_orc& first) { return found.righe.wants(first.cliente); });
     for (int order = orders.primo; order <= orders.ultimo && !found.righe.complete(); ++order) {
         take_rows(found, order);
         if (!order_done()) return;
@@ -70,7 +72,7 @@ void mirston::fill(report_list& list, const limiti_ordini& orders) {
 
 bool mirston::choose_customers(raccolta& found) {
     const key_range names(t_inizio.text(), t_fine.text());
-    customer_stretches<cliente> customers(app_.archives.cli);
+    record_stretches<rec_cli, cliente> customers(app_.archives.cli);
     bool going_on = true;
     percorri_indice<rec_src>(app_.archives.src, clienti_.quanti,
                              [&](std::int16_t, const rec_src& entry) {
@@ -108,7 +110,7 @@ std::string mirston::article_text(const riga& row, etichette_articoli& articles)
     return free_text(row.descrizione, row.descrizione2);
 }
 
-void mirston::list_sheets(report_list& list, raccolta& found) {
+void mirston::list_sheets(list_rows& list, raccolta& found) {
     etichette_articoli articles(app_.archives.art);
     found.righe.group();
     for (const scheda_cliente& sheet : found.schede) {
@@ -117,7 +119,7 @@ void mirston::list_sheets(report_list& list, raccolta& found) {
         if (rows.empty()) continue;
         somme sums;
         for (const riga& row : rows) {
-            list.next_row();
+            list.next();
             if (row.con_testa) {
                 const testa_ordine& head = found.teste[row.testa];
                 list.write(ordine, head.numero.trimmed());

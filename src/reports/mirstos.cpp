@@ -58,13 +58,19 @@ void mirstos::fill_fields() {
     text2[1].set_text(date_text({today.year, 12, 31}));
 }
 
-void mirstos::fill(report_list& list, const limiti_ordini& orders) {
+void mirstos::fill(list_rows& list, const limiti_ordini& orders) {
     prima_data_ = stored_of_date_text(text2[0].text());
     ultima_data_ = stored_of_date_text(text2[1].text());
     order_rows_report::fill(list, orders);
 }
 
 /// With one line an order, most orders are decided by their row 1.
+void mirstos::begin_walk(const limiti_ordini& orders) {
+    if (whole_orders()) return ordini_.walk_blocks(orders.primo, orders.ultimo);
+    ordini_.walk_heads(orders.primo, orders.ultimo,
+                       [this](const rec_orc& first) { return takes(first) && !is_open(first); });
+}
+
 std::span<const rec_orc> mirstos::rows_of(int order) {
     if (!whole_orders()) {
         const rec_orc& first = ordini_.first_row(order);

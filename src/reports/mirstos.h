@@ -11,7 +11,8 @@ class mirstos final : public order_rows_report {
 
  protected:
     void fill_fields() override;
-    void fill(report_list& list, const limiti_ordini& orders) override;
+    void fill(list_rows& list, const limiti_ordini& orders) override;
+    void begin_walk(const limiti_ordini& orders) override;
     std::span<const rec_orc> rows_of(int order) override;
     [[nodiscard]] bool takes(const rec_orc& row) const override;
     [[nodiscard]] const colonne& places() const override;

@@ -3,7 +3,6 @@
 #include <cmath>
 
 #include "program/customer_names.h"
-#include "reports/report_list.h"
 #include "store/text/dates.h"
 
 namespace vantora {
@@ -60,16 +59,17 @@ double mirstov::value_of(std::span<const rec_orc> rows, const valuta& in) const 
 }
 
 // One read an order, and one for every 32 customers in question.
-void mirstov::fill(report_list& list, const limiti_ordini& orders) {
+void mirstov::fill(list_rows& list, const limiti_ordini& orders) {
     customer_names names(app_.archives.cli, clienti_.quanti);
     const valuta in(app_.parameters);
     double total = 0;
+    ordini_.walk_blocks(orders.primo, orders.ultimo);
     for (int order = orders.primo; order <= orders.ultimo && !list.full(); ++order) {
         const auto rows = ordini_.block(order);
         const double value = value_of(rows, in);
         if (value != 0) {
             const rec_orc& last = rows.back();
-            list.next_row();
+            list.next();
             list.write(registrazione, std::to_string(order));
             list.write(ordine, last.numero.trimmed());
             list.write(data, date_text_of_stored(last.data.full()));
@@ -80,7 +80,7 @@ void mirstov::fill(report_list& list, const limiti_ordini& orders) {
         }
         if (!carry_on(share_done(order, orders))) return;
     }
-    list.next_row();
+    list.next();
     list.write(descrizione, "Importo complessivo");
     list.write(valore, formato_importo(total, in));
 }

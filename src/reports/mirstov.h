@@ -14,7 +14,7 @@ class mirstov final : public report_screen {
     enum colonna { ordine, data, descrizione, cliente, valore, registrazione };
 
  protected:
-    void fill(report_list& list, const limiti_ordini& orders) override;
+    void fill(list_rows& list, const limiti_ordini& orders) override;
 
  private:
     [[nodiscard]] double value_of(std::span<const rec_orc> rows, const valuta& in) const;

@@ -1,15 +1,15 @@
 #include "reports/order_rows_report.h"
 
 #include "program/customer_names.h"
-#include "reports/report_list.h"
 #include "store/text/dates.h"
 
 namespace vantora {
 
-// One or two reads an order, and one for every 32 customers and articles in question.
-void order_rows_report::fill(report_list& list, const limiti_ordini& orders) {
+// One read an order or two, many at once, and one for every 32 customers and articles in question.
+void order_rows_report::fill(list_rows& list, const limiti_ordini& orders) {
     customer_names names(app_.archives.cli, clienti_.quanti);
     etichette_articoli articles(app_.archives.art);
+    begin_walk(orders);
     for (int order = orders.primo; order <= orders.ultimo && !list.full(); ++order) {
         bool shown = false;
         std::int64_t record = block_record(order, 1);
@@ -17,7 +17,7 @@ void order_rows_report::fill(report_list& list, const limiti_ordini& orders) {
             const std::int64_t number = record++;
             if (!takes(row)) continue;
             const std::string_view customer = names.of(row.cliente);
-            list.next_row();
+            list.next();
             list.write(places().numero_record, std::to_string(number));
             if (!shown) {
                 list.write(places().registrazione, std::to_string(order));
@@ -30,7 +30,7 @@ void order_rows_report::fill(report_list& list, const limiti_ordini& orders) {
     }
 }
 
-void order_rows_report::list_head(report_list& list, const rec_orc& row,
+void order_rows_report::list_head(list_rows& list, const rec_orc& row,
                                   std::string_view customer) const {
     list.write(ordine, row.numero.trimmed());
     list.write(data, date_text_of_stored(row.data.full()));
@@ -39,7 +39,7 @@ void order_rows_report::list_head(report_list& list, const rec_orc& row,
     list.write(places().cliente, customer);
 }
 
-void order_rows_report::list_row(report_list& list, const rec_orc& row,
+void order_rows_report::list_row(list_rows& list, const rec_orc& row,
                                  etichette_articoli& articles) const {
     list.write(places().articolo, row.articolo < 1 ? free_text(row.descrizione, row.descrizione2)
                                                    : articles.of(row.articolo).text());

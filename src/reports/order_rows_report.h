@@ -26,8 +26,10 @@ class order_rows_report : public report_screen {
     };
     enum colonna { ordine, data, descrizione };
 
-    void fill(report_list& list, const limiti_ordini& orders) override;
+    void fill(list_rows& list, const limiti_ordini& orders) override;
 
+    /// Tells the reader in which way rows_of() will walk over the orders.
+    virtual void begin_walk(const limiti_ordini& orders) = 0;
     /// The rows of an order that may be listed, from its row 1 on; none where it isn't.
     virtual std::span<const rec_orc> rows_of(int order) = 0;
     /// Whether a row is listed.
@@ -37,8 +39,8 @@ class order_rows_report : public report_screen {
     [[nodiscard]] bool whole_orders() const { return Combo2.chosen() == analitico; }
 
  private:
-    void list_row(report_list& list, const rec_orc& row, etichette_articoli& articles) const;
-    void list_head(report_list& list, const rec_orc& row, std::string_view customer) const;
+    void list_row(list_rows& list, const rec_orc& row, etichette_articoli& articles) const;
+    void list_head(list_rows& list, const rec_orc& row, std::string_view customer) const;
 };
 
 }  // namespace vantora

@@ -4,7 +4,6 @@
 #include <cmath>
 
 #include "documents/pdf_settings.h"
-#include "reports/report_list.h"
 
 namespace vantora {
 
@@ -197,10 +196,11 @@ void report_screen::build_once() {
     const limiti_ordini orders = limits();
     srt.set_range(1, last_step(orders));
     srt.set_visible(true);
-    report_list list(elenco);
+    list_rows list(app_.desk, elenco, righe_report);
     fill(list, orders);
+    ordini_.end_walk();
     if (left_ || wanted_anew_) return;
-    righe_elenco_ = list.rows();
+    righe_elenco_ = list.in_use();
     lista_.finish(righe_elenco_);
 }
 
@@ -217,6 +217,7 @@ bool report_screen::carry_on(double done) {
     const double steps = srt.maximum() - srt.minimum();
     const double shown = std::floor(done * shown_steps) / shown_steps;
     srt.set_value(srt.minimum() + static_cast<int>(steps * shown));
+    app_.desk.show_progress(elenco, done);
     app_.desk.let_events_run();
     return !left_ && !wanted_anew_;
 }

@@ -6,13 +6,11 @@
 #include "program/list_grid.h"
 #include "program/program.h"
 #include "reports/order_bounds.h"
-#include "reports/order_reader.h"
 #include "reports/report.h"
+#include "store/block_reader.h"
 #include "ui/controls.h"
 
 namespace vantora {
-
-class report_list;
 
 /// The fields by which a user chooses what a report lists.
 enum class filtro {
@@ -42,6 +40,9 @@ struct tipo_report {
     std::vector<const char*> suggerimento;
     descrizione_report stampa;
 };
+
+/// Rows that the list of a report takes, without the head.
+inline constexpr int righe_report = righe_riservate - 1;
 
 /// A report on the orders: filters, a list that is built on demand, and the ways to send that list
 /// to the printer or into a PDF. Writes no record.
@@ -81,7 +82,7 @@ class report_screen : public ui::form {
     /// Fills the fields as the screen opens.
     virtual void fill_fields();
     /// Fills the list. Returns at once where carry_on() says so.
-    virtual void fill(report_list& list, const limiti_ordini& orders) = 0;
+    virtual void fill(list_rows& list, const limiti_ordini& orders) = 0;
     /// Which orders the list goes over; the bounds as they stand unless a report knows better.
     virtual limiti_ordini limits();
     /// The user chose an entry of a selector.
@@ -98,7 +99,7 @@ class report_screen : public ui::form {
     limiti_ordini correct_limits();
 
     program& app_;
-    order_reader ordini_;
+    block_reader<rec_orc> ordini_;  ///< goes on from build to build
     // The counters, as read before each use.
     rec_tot articoli_;
     rec_tot clienti_;

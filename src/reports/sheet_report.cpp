@@ -1,7 +1,6 @@
 #include "reports/sheet_report.h"
 
 #include "reports/list_cells.h"
-#include "reports/report_list.h"
 
 namespace vantora {
 
@@ -12,16 +11,16 @@ constexpr double order_weight = 20;
 
 }  // namespace
 
-void sheet_report::list_quantities(report_list& list, const somme& amounts) {
+void sheet_report::list_quantities(list_rows& list, const somme& amounts) {
     list.write(ordinato, quantity_text(amounts.ordinato));
     list.write(evaso, quantity_text(amounts.evaso));
 }
 
-void sheet_report::list_totals(report_list& list, const somme& sums) {
-    list.next_row();
+void sheet_report::list_totals(list_rows& list, const somme& sums) {
+    list.next();
     list.write(descrizione, "Totale");
     list_quantities(list, sums);
-    list.next_row();
+    list.next();
 }
 
 void sheet_report::plan(int entries, const limiti_ordini& orders) {

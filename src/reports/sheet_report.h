@@ -22,9 +22,9 @@ class sheet_report : public report_screen {
     /// Columns that both sheets have at the same place.
     enum colonna { scheda, ordine, data, descrizione, ordinato = 5, evaso, numero };
 
-    static void list_quantities(report_list& list, const somme& amounts);
+    static void list_quantities(list_rows& list, const somme& amounts);
     /// The sums of a sheet, and a blank line behind them.
-    static void list_totals(report_list& list, const somme& sums);
+    static void list_totals(list_rows& list, const somme& sums);
 
     /// The whole work: the index, then the orders.
     void plan(int entries, const limiti_ordini& orders);

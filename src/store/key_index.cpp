@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <string>
 
-#include "store/read_ahead.h"
+#include "store/record_runs.h"
 
 namespace vantora {
 

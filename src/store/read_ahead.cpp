@@ -15,13 +15,21 @@ namespace vantora {
 namespace {
 
 constexpr std::size_t threads_max = 32;
-constexpr std::size_t batches_max = 72;
-constexpr std::size_t batch_places_max = 64;
 constexpr std::size_t batch_bytes_max = 256U << 10U;
-/// Batches that a plan falls into if it is small, so that all threads find work.
-constexpr std::size_t batches_wanted = 128;
-/// A read that takes longer waits for something: more of them at once are worth a thread.
-constexpr std::chrono::microseconds slow_read{30};
+
+// From memory, few and large batches keep the caches warm; from afar, many and small ones keep all
+// threads at work.
+constexpr std::size_t batches_max = 72;
+constexpr std::size_t batches_near = 12;
+constexpr std::size_t batch_places_max = 64;
+constexpr std::size_t batch_places_far = 4;
+/// A batch has one place at first, and twice as many after each so many batches.
+constexpr std::size_t batches_of_a_size = 8;
+
+/// A read that takes longer than memory could waits for something: more of them at once are worth
+/// a thread.
+constexpr std::chrono::nanoseconds slow_read{30'000};
+constexpr std::size_t bytes_in_a_nanosecond = 2;
 
 /// Some places that one thread reads one after the other.
 struct batch {
@@ -32,9 +40,9 @@ struct batch {
     };
 
     std::vector<piece> pieces;
-    std::unique_ptr<std::byte[]> bytes;
     std::size_t size = 0;
-    bool taken = false;  ///< by a thread
+    std::unique_ptr<std::byte[]> bytes;
+    std::size_t room = 0;  ///< of `bytes`
     bool done = false;
 };
 
@@ -47,16 +55,25 @@ void read_piece(file& from, batch& into, batch::piece& piece) {
     piece.read = true;
 }
 
+/// Whether the reads of late were slow. One alone may have met a busy processor.
+class recent_speed {
+ public:
+    void note(bool slow) {
+        const int before = score_.load(std::memory_order_relaxed);
+        const int after = slow ? std::min(before + 16, 256) : std::max(before - 1, 0);
+        if (after != before) score_.store(after, std::memory_order_relaxed);
+    }
+    [[nodiscard]] bool is_slow() const { return score_.load(std::memory_order_relaxed) >= 32; }
+
+ private:
+    std::atomic<int> score_ = 0;
+};
+
 }  // namespace
 
 class read_ahead::readers {
  public:
-    readers(std::shared_ptr<file> from, std::size_t places, std::function<place(std::size_t)> plan)
-        : from_(std::move(from)),
-          places_(places),
-          plan_(std::move(plan)),
-          batch_places_(std::clamp<std::size_t>(places / batches_wanted, 1, batch_places_max)) {}
-
+    explicit readers(std::shared_ptr<file> from) : from_(std::move(from)) {}
     readers(const readers&) = delete;
     readers& operator=(const readers&) = delete;
 
@@ -69,9 +86,38 @@ class read_ahead::readers {
         for (auto& thread : threads_) thread.join();
     }
 
+    bool has_room() {
+        const std::size_t batches = sent_ + fresh_.size();
+        const std::size_t most = speed_.is_slow() ? batches_max : batches_near;
+        if (batches <= most / 2) filling_ = true;
+        if (batches >= most) filling_ = false;
+        return filling_;
+    }
+
+    void ask(const place& wanted) {
+        if (open_ && open_->size + wanted.bytes > batch_bytes_max) close_batch();
+        if (!open_) open_ = empty_batch();
+        open_->pieces.push_back({wanted, open_->size, false});
+        open_->size += wanted.bytes;
+        if (open_->pieces.size() >= batch_places()) close_batch();
+    }
+
+    void send() {
+        close_batch();
+        if (fresh_.empty()) return;
+        sent_ += fresh_.size();
+        const bool several = fresh_.size() > 1;
+        {
+            const std::scoped_lock locked(mutex_);
+            std::ranges::move(fresh_, std::back_inserter(queue_));
+            if (queue_.size() > 1 && threads_.size() < threads_from_start()) add_thread();
+        }
+        fresh_.clear();
+        several ? work_.notify_all() : work_.notify_one();
+    }
+
     std::optional<std::span<const std::byte>> next() {
-        if (!from_) return {};
-        if (current_ && piece_ == current_->pieces.size()) current_ = nullptr;
+        if (current_ && piece_ == current_->pieces.size()) spare_.push_back(std::move(current_));
         if (!current_ && !next_batch()) return {};
         const batch::piece& piece = current_->pieces[piece_++];
         if (!piece.read) return {};
@@ -79,61 +125,63 @@ class read_ahead::readers {
     }
 
  private:
+    [[nodiscard]] std::size_t batch_places() const {
+        return std::min(growing_places_, speed_.is_slow() ? batch_places_far : batch_places_max);
+    }
+
+    std::unique_ptr<batch> empty_batch() {
+        if (spare_.empty()) return std::make_unique<batch>();
+        auto again = std::move(spare_.back());
+        spare_.pop_back();
+        again->pieces.clear();
+        again->size = 0;
+        again->done = false;
+        return again;
+    }
+
+    void close_batch() {
+        if (!open_) return;
+        if (open_->room < open_->size) {
+            open_->bytes = std::make_unique_for_overwrite<std::byte[]>(open_->size);
+            open_->room = open_->size;
+        }
+        fresh_.push_back(std::move(open_));
+        if (++batches_closed_ % batches_of_a_size == 0) {
+            growing_places_ = std::min(2 * growing_places_, batch_places_max);
+        }
+    }
+
     /// Waits for the batch in front, or reads it here if no thread has begun it.
     bool next_batch() {
-        plan_ahead();
-        if (batches_.empty()) return false;
+        if (sent_ == 0) send();
+        if (sent_ == 0) return false;
         std::unique_lock locked(mutex_);
-        batch& front = *batches_.front();
-        if (front.taken) {
-            done_.wait(locked, [&front] { return front.done; });
-        } else {
-            front.taken = true;
-            locked.unlock();
-            fill(front);
-            locked.lock();
+        batch& front = *queue_.front();
+        while (!front.done) {
+            // As long as memory answers, reading a later one is better than waiting.
+            batch* mine = taken_ == 0 || !speed_.is_slow() ? take() : nullptr;
+            if (mine) {
+                fill(*mine, locked);
+            } else {
+                done_.wait(locked, [&front] { return front.done; });
+            }
         }
-        current_ = std::move(batches_.front());
-        batches_.pop_front();
+        current_ = std::move(queue_.front());
+        queue_.pop_front();
+        --taken_;
+        --sent_;
         piece_ = 0;
         return true;
-    }
-
-    void plan_ahead() {
-        // Several batches at a time, so that the threads aren't woken for each.
-        if (batches_.size() > batches_max / 2 || planned_ == places_) return;
-        std::vector<std::unique_ptr<batch>> fresh;
-        while (batches_.size() + fresh.size() < batches_max && planned_ < places_) {
-            fresh.push_back(plan_batch());
-        }
-        const std::scoped_lock locked(mutex_);
-        std::ranges::move(fresh, std::back_inserter(batches_));
-        if (batches_.size() > 1 && threads_.size() < threads_from_start()) add_thread();
-        work_.notify_all();
-    }
-
-    std::unique_ptr<batch> plan_batch() {
-        auto planned = std::make_unique<batch>();
-        do {
-            if (!ahead_of_plan_) ahead_of_plan_ = plan_(planned_);
-            const std::size_t bytes = ahead_of_plan_->bytes;
-            if (planned->size > 0 && planned->size + bytes > batch_bytes_max) break;
-            planned->pieces.push_back({*ahead_of_plan_, planned->size, false});
-            planned->size += bytes;
-            ahead_of_plan_.reset();
-            ++planned_;
-        } while (planned_ < places_ && planned->pieces.size() < batch_places_);
-        planned->bytes = std::make_unique_for_overwrite<std::byte[]>(planned->size);
-        return planned;
     }
 
     static std::size_t threads_from_start() {
         return std::max<std::size_t>(std::thread::hardware_concurrency(), 2) - 1;
     }
 
-    /// REQUIRES: the mutex is held.
+    // REQUIRES: the mutex is held, from here on ---------------------------------------------------
+
     void add_thread() {
-        if (threads_.size() == threads_max || ending_) return;
+        if (threads_.size() == threads_max || ending_ || !from_) return;
         try {
             threads_.emplace_back([this] { work(); });
         } catch (const std::system_error&) {
@@ -141,66 +189,74 @@ class read_ahead::readers {
         }
     }
 
-    batch* untaken() {
-        const auto found =
-            std::ranges::find_if(batches_, [](const auto& one) { return !one->taken; });
-        return found == batches_.end() ? nullptr : found->get();
-    }
+    batch* take() { return taken_ == queue_.size() ? nullptr : queue_[taken_++].get(); }
 
     void work() {
         std::unique_lock locked(mutex_);
         while (true) {
             batch* mine = nullptr;
-            work_.wait(locked, [&] { return ending_ || (mine = untaken()) != nullptr; });
+            work_.wait(locked, [&] { return ending_ || (mine = take()) != nullptr; });
             if (ending_) return;
-            mine->taken = true;
-            locked.unlock();
-            fill(*mine);
-            locked.lock();
-            mine->done = true;
+            fill(*mine, locked);
             done_.notify_one();
         }
     }
 
-    void fill(batch& into) {
+    /// Gives the mutex up meanwhile.
+    void fill(batch& mine, std::unique_lock<std::mutex>& locked) {
+        locked.unlock();
         using clock = std::chrono::steady_clock;
-        auto before = clock::now();
-        for (auto& piece : into.pieces) {
-            if (ending_) return;
-            read_piece(*from_, into, piece);
-            const auto after = clock::now();
-            if (after - before > slow_read) {
-                const std::scoped_lock locked(mutex_);
-                if (untaken()) add_thread();
-            }
-            before = after;
+        const auto begin = clock::now();
+        for (auto& piece : mine.pieces) {
+            if (from_ && !ending_) read_piece(*from_, mine, piece);
         }
+        const auto allowed = slow_read * mine.pieces.size() +
+                             std::chrono::nanoseconds(mine.size / bytes_in_a_nanosecond);
+        speed_.note(clock::now() - begin > allowed);
+        locked.lock();
+        mine.done = true;
+        if (taken_ < queue_.size() && speed_.is_slow()) add_thread();
     }
 
     const std::shared_ptr<file> from_;
-    const std::size_t places_;
-    const std::function<place(std::size_t)> plan_;
-    const std::size_t batch_places_;
+    recent_speed speed_;
+    std::atomic<bool> ending_ = false;
 
     // Of the caller's thread alone.
-    std::size_t planned_ = 0;
-    std::optional<place> ahead_of_plan_;
+    std::unique_ptr<batch> open_;                ///< places are still added to it
+    std::vector<std::unique_ptr<batch>> fresh_;  ///< closed, not sent yet
+    std::vector<std::unique_ptr<batch>> spare_;
+    std::size_t sent_ = 0;  ///< batches in the queue
+    std::size_t batches_closed_ = 0;
+    std::size_t growing_places_ = 1;
+    bool filling_ = true;
     std::unique_ptr<batch> current_;
     std::size_t piece_ = 0;
 
     std::mutex mutex_;  ///< guards what follows; a taken batch is its thread's alone until done
     std::condition_variable work_;
     std::condition_variable done_;
-    std::deque<std::unique_ptr<batch>> batches_;
+    std::deque<std::unique_ptr<batch>> queue_;
+    std::size_t taken_ = 0;  ///< the first ones of the queue
     std::vector<std::thread> threads_;
-    std::atomic<bool> ending_ = false;
 };
 
-read_ahead::read_ahead(std::shared_ptr<file> from, std::size_t places,
-                       std::function<place(std::size_t)> plan)
-    : readers_(std::make_unique<readers>(std::move(from), places, std::move(plan))) {}
+read_ahead::read_ahead(std::shared_ptr<file> from)
+    : readers_(std::make_unique<readers>(std::move(from))) {}
 
 read_ahead::~read_ahead() = default;
+
+bool read_ahead::has_room() {
+    return readers_->has_room();
+}
+
+void read_ahead::ask(place wanted) {
+    readers_->ask(wanted);
+}
+
+void read_ahead::send() {
+    readers_->send();
+}
 
 std::optional<std::span<const std::byte>> read_ahead::next() {
     return readers_->next();

@@ -54,6 +54,9 @@ class desk {
     /// Lets pending events run once.
     void let_events_run();
     void set_pointer(pointer shape);
+    /// Shows how much of a list is there, of 0 to 1; the first call begins it. No events run.
+    void show_progress(control& list, double done);
+    void end_progress(control& list) { front_.progress_ended(list); }
 
     /// Ends the program at once: nothing behind the call runs.
     [[noreturn]] void end_program();

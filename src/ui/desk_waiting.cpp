@@ -73,6 +73,11 @@ void desk::let_events_run() {
     if (ended_) throw program_end{};
 }
 
+void desk::show_progress(control& list, double done) {
+    front_.progress_changed(list, done);
+    if (ended_) throw program_end{};
+}
+
 void desk::set_pointer(pointer shape) {
     if (pointer_ == shape) return;
     pointer_ = shape;

@@ -34,6 +34,11 @@ class front_end {
     virtual void box_opened(const message_box&) {}
     virtual void box_closed() {}
     virtual void pointer_changed(pointer) {}
+    /// A list is being filled, and so much of it is there, of 0 to 1. Nothing that the user does
+    /// may be served, windows may be painted.
+    virtual void progress_changed(control& /*list*/, double /*done*/) {}
+    /// Called once behind the above; the list may be shown.
+    virtual void progress_ended(control& /*list*/) {}
     /// The program ends on an error: tell the user before it does.
     virtual void report_fatal(const std::string& /*message*/) {}
 };

@@ -3,6 +3,7 @@
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTableView>
@@ -11,6 +12,7 @@
 #include "register/mirorc.h"
 #include "scripted/small_company.h"
 #include "store/drive.h"
+#include "support/faulty_files.h"
 #include "ui/pictures/pixbuf_decoder.h"
 #include "window_bench.h"
 
@@ -44,9 +46,10 @@ class register_window : public testing::Test {
 
     vantora::test::small_company company;
     drive files{company.drive()};
+    vantora::test::faulty_files disk{files};
     test::window_bench bench;
     ui::pixbuf_decoder pictures;
-    program app{files, bench.desk, pictures};
+    program app{disk, bench.desk, pictures};
 };
 
 TEST_F(register_window, ShowsTheOrdersAndSortsThemByItsButtons) {
@@ -138,6 +141,27 @@ TEST_F(register_window, CompactsAfterItsTwoQuestions) {
              EXPECT_TRUE(bench.find("bottone(2)")->isVisible());
              EXPECT_FALSE(bench.find("srt")->isVisible());
          }});
+}
+
+TEST_F(register_window, ALongListTellsHowFarItIsAndTheUserWaits) {
+    bool in_its_place = false;
+    run({[&] {
+             disk.read_takes = std::chrono::milliseconds(200);
+             QTimer::singleShot(0, table(), [&] {
+                 auto* bar = bench.find<QProgressBar>("list_bar");
+                 ASSERT_TRUE(bar);
+                 EXPECT_TRUE(bar->isVisible());
+                 in_its_place = table()->geometry().contains(bar->geometry());
+                 bench.press_button("bottone(2)");
+                 bench.front.front_window()->close();
+                 EXPECT_FALSE(bench.desk.ended());
+             });
+             bench.desk.dispatch([&] { app.mirorc->build_list(); });
+             EXPECT_FALSE(bench.find<QProgressBar>("list_bar"));
+             EXPECT_EQ(bench.desk.active(), &app.mirorc.use());
+         },
+         [] { ADD_FAILURE() << "the window was closed meanwhile"; }});
+    EXPECT_TRUE(in_its_place);
 }
 
 TEST_F(register_window, ClosingItEndsTheProgram) {

@@ -19,25 +19,19 @@ bytes content(const std::filesystem::path& path) {
     return {std::istreambuf_iterator<char>(in), {}};
 }
 
-/// Writes an order block in which every row tells its block and number.
-void write_block(archivi& files, int registrazione, bool deleted, bool fulfilled) {
-    std::vector<rec_orc> rows(righe_blocco);
-    for (int row = 1; row <= righe_blocco; ++row) {
-        rec_orc& one = rows[static_cast<std::size_t>(row - 1)];
-        one.numero = std::to_string(registrazione);
-        one.descrizione = "riga " + std::to_string(row);
-        one.annullato = static_cast<std::int16_t>(deleted ? 1 : 0);
-        one.evaso_flag = static_cast<std::int16_t>(fulfilled && row == 1 ? 1 : 0);
-    }
-    files.orc.write_block(block_record(registrazione, 1), rows);
-}
-
 /// The states of an archive's orders, one letter each: o open, d deleted, f fulfilled, b both.
+/// Every row tells its block and number.
 void write_archive(small_company& company, const std::string& states) {
-    for (std::size_t i = 0; i < states.size(); ++i) {
-        const char state = states[i];
-        write_block(company.files, static_cast<int>(i) + 1, state == 'd' || state == 'b',
-                    state == 'f' || state == 'b');
+    for (int i = 1; i <= static_cast<int>(states.size()); ++i) {
+        const char state = states[static_cast<std::size_t>(i - 1)];
+        std::vector<rec_orc> rows(righe_blocco);
+        for (std::size_t row = 0; row < rows.size(); ++row) {
+            rows[row].numero = std::to_string(i);
+            rows[row].descrizione = "riga " + std::to_string(row + 1);
+            rows[row].annullato = static_cast<std::int16_t>(state == 'd' || state == 'b');
+        }
+        rows[0].evaso_flag = static_cast<std::int16_t>(state == 'f' || state == 'b');
+        company.files.orc.write_block(block_record(i, 1), rows);
     }
     rec_tot counter{};
     counter.quanti = static_cast<std::int16_t>(states.size());
@@ -90,8 +84,6 @@ std::vector<std::string> kept_numbers(archivi& files) {
     return numbers;
 }
 
-const auto no_progress = [](int) {};
-
 /// An archive whose files note what happens to them and fail where a test wants it.
 struct noted_archive {
     explicit noted_archive(const std::string& states) {
@@ -101,7 +93,7 @@ struct noted_archive {
         faults.reads = 0;
     }
     write_faults compact(bool fulfilled_too = false) {
-        return compatta_archivio(files, counter, fulfilled_too, no_progress);
+        return compatta_archivio(files, counter, fulfilled_too, [](int) {});
     }
 
     small_company company;
@@ -187,39 +179,30 @@ TEST(compattazione, KilledAfterAnyWriteLeavesMovedBlocksTwiceAndTheOldCount) {
 }
 
 TEST(compattazione, ProgressTellsEveryBlockBeforeItMovesAndMayEndThePass) {
-    small_company company;
-    write_archive(company, "doo");
-    const bytes before = content(company.file("tot"));
+    noted_archive archive("doo");
+    const bytes before = content(archive.company.file("tot"));
     std::vector<int> told;
-    rec_tot counter = counter_of(company.files);
-    EXPECT_THROW(compatta_archivio(company.files, counter, false,
-                                   [&](int registrazione) {
-                                       told.push_back(registrazione);
-                                       if (registrazione == 3) throw crash{};
-                                   }),
-                 crash);
+    const auto stop_at_the_last = [&](int registrazione) {
+        told.push_back(registrazione);
+        if (registrazione == 3) throw crash{};
+    };
+    EXPECT_THROW(compatta_archivio(archive.files, archive.counter, false, stop_at_the_last), crash);
     EXPECT_EQ(told, (std::vector<int>{1, 2, 3}));
-    EXPECT_EQ(content(company.file("tot")), before);
-    rec_orc row{};
-    company.files.orc.read(1, row);
-    EXPECT_EQ(row.numero.trimmed(), "2");
-    company.files.orc.read(block_record(3, 1), row);
-    EXPECT_EQ(row.numero.trimmed(), "3");
+    EXPECT_EQ(content(archive.company.file("tot")), before);
+    EXPECT_EQ(kept_numbers(archive.files), (std::vector<std::string>{"2", "2", "3"}));
 }
 
 TEST(compattazione, DamagedCountersDoNoHarm) {
     for (const int count : {-5, 0, 50, 32767}) {
-        small_company company;
-        write_archive(company, "od");
-        const auto length = std::filesystem::file_size(company.file("orc"));
-        rec_tot counter = counter_of(company.files);
-        counter.quanti = static_cast<std::int16_t>(count);
-        compatta_archivio(company.files, counter, false, no_progress);
+        noted_archive archive("od");
+        const auto length = std::filesystem::file_size(archive.company.file("orc"));
+        archive.counter.quanti = static_cast<std::int16_t>(count);
+        archive.compact();
         rec_orc row{};
-        company.files.orc.read(1, row);
+        archive.files.orc.read(1, row);
         EXPECT_EQ(row.numero.trimmed(), "1") << count;
-        EXPECT_EQ(counter_of(company.files).quanti, count > 0 ? count - 1 : count);
-        EXPECT_EQ(std::filesystem::file_size(company.file("orc")), length) << count;
+        EXPECT_EQ(counter_of(archive.files).quanti, count > 0 ? count - 1 : count);
+        EXPECT_EQ(std::filesystem::file_size(archive.company.file("orc")), length) << count;
     }
 }
 

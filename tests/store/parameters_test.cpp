@@ -26,31 +26,31 @@ class parameters_test : public testing::Test {
         carica_parametri(loaded, port);
         return loaded;
     }
-    rec_gnr stored() {
+    static rec_gnr stored_in(const std::filesystem::path& where) {
         rec_gnr record;
-        std::ifstream in(company / "vantora.gnr", std::ios::binary);
+        std::ifstream in(where / "vantora.gnr", std::ios::binary);
         in.read(reinterpret_cast<char*>(&record), sizeof record);
         return record;
     }
+    rec_gnr stored() { return stored_in(company); }
     void store(const std::filesystem::path& where, const rec_gnr& record) {
         write(where / "vantora.gnr",
               std::string(reinterpret_cast<const char*>(&record), sizeof record));
     }
+    static bool same(const rec_gnr& one, const rec_gnr& other) {
+        return std::memcmp(&one, &other, sizeof one) == 0;
+    }
     /// The report file, whole: margins, six groups, six lines, six lines.
     static std::vector<std::string> report_lines() {
         std::vector<std::string> lines = {"10,20,30,40,1"};
-        for (int group = 0; group <= 5; ++group) {
-            const std::string g = std::to_string(group);
-            for (const std::string& line :
-                 {std::string(group == 0 ? "2" : "77"), "Font" + g, "1" + g, std::string("1"),
-                  std::string("0"), "25" + g}) {
-                lines.push_back(line);
-            }
+        for (const char* group : {"0", "1", "2", "3", "4", "5"}) {
+            lines.emplace_back(*group == '0' ? "2" : "77");
+            lines.push_back(std::string("Font") + group);
+            lines.push_back(std::string("1") + group);
+            lines.insert(lines.end(), {"1", "0", std::string("25") + group});
         }
-        for (const char* line :
-             {"a", "b", "c", "d", "e", "123", "1", "11", "12", "13", "14", "x"}) {
-            lines.emplace_back(line);
-        }
+        lines.insert(lines.end(),
+                     {"a", "b", "c", "d", "e", "123", "1", "11", "12", "13", "14", "x"});
         return lines;
     }
     static std::string joined(const std::vector<std::string>& lines, std::size_t count) {
@@ -119,24 +119,21 @@ TEST_F(parameters_test, AReportFileMayEndAnywhere) {
 }
 
 TEST_F(parameters_test, NumbersBeyondSixteenBitsCountAsUnreadable) {
-    auto lines = report_lines();
-    lines[0] = "40000,20,30,40,1";
-    write(general / "vantora.tbl", joined(lines, lines.size()));
-    EXPECT_EQ(load().tabella_stampa[0].margine_sinistro, 30);
-    lines = report_lines();
-    lines[1] = "30000";
-    write(general / "vantora.tbl", joined(lines, lines.size()));
-    EXPECT_EQ(load().tabella_stampa[0].altezza, 0) << "the height doesn't fit";
-    lines = report_lines();
-    lines[1 + 3 * 6] = "99999";
-    write(general / "vantora.tbl", joined(lines, lines.size()));
-    EXPECT_EQ(load().tabella_stampa[1].nome_carattere, "Font1") << "a line that counts for nothing";
+    const auto with = [&](std::size_t line, const char* value) {
+        auto lines = report_lines();
+        lines[line] = value;
+        write(general / "vantora.tbl", joined(lines, lines.size()));
+        return load().tabella_stampa;
+    };
+    EXPECT_EQ(with(0, "40000,20,30,40,1")[0].margine_sinistro, 30);
+    EXPECT_EQ(with(1, "30000")[0].altezza, 0) << "the height doesn't fit";
+    EXPECT_EQ(with(1 + 3 * 6, "99999")[1].nome_carattere, "Font1") << "counts for nothing";
 }
 
 TEST_F(parameters_test, TheFirstStartOfACompanyMakesItsParameters) {
     const parametri loaded = load();
     const rec_gnr record = stored();
-    EXPECT_EQ(std::memcmp(&record, &loaded.gnr, sizeof record), 0);
+    EXPECT_TRUE(same(record, loaded.gnr));
     EXPECT_EQ(record.formato_gnr.full(), "9");
     EXPECT_EQ(record.aggiorna_elenco.full(), "1");
     EXPECT_EQ(record.righe_alternate.full(), "1");
@@ -156,30 +153,23 @@ TEST_F(parameters_test, TheGeneralTemplateServesAsACompanysFirstParameters) {
     EXPECT_EQ(stored().riservato_bd.trimmed(), "modello");
     EXPECT_EQ(stored().formato_gnr.full(), "9");
     EXPECT_EQ(stored().codice_iva_base.full(), "77") << "not repaired on this path";
-    rec_gnr template_record;
-    std::ifstream in(general / "vantora.gnr", std::ios::binary);
-    in.read(reinterpret_cast<char*>(&template_record), sizeof template_record);
-    EXPECT_EQ(template_record.formato_gnr.full(), std::string(1, '\0')) << "the template stays";
+    EXPECT_TRUE(same(stored_in(general), record)) << "the template stays";
 }
 
 TEST_F(parameters_test, ParametersAreRepairedAndNothingElseIsTouched) {
-    struct {
-        const char* code;
-        const char* repaired;
-    } cases[] = {{"00", "01"}, {"25", "01"}, {"24", "24"},
-                 {"  ", "01"}, {"-1", "01"}, {"07", "07"}};
-    for (const auto& one : cases) {
+    const std::pair<const char*, const char*> cases[] = {{"00", "01"}, {"25", "01"}, {"24", "24"},
+                                                         {"  ", "01"}, {"-1", "01"}, {"07", "07"}};
+    for (const auto& [code, repaired] : cases) {
         rec_gnr record;
         record.riservato_bd = "di altri";
         record.riservato_bl = "anche questo";
         record.formato_gnr = "9";
         record.righe_alternate = "0";
-        record.codice_iva_base = one.code;
+        record.codice_iva_base = code;
         store(company, record);
         load();
-        record.codice_iva_base = one.repaired;
-        const rec_gnr after = stored();
-        EXPECT_EQ(std::memcmp(&after, &record, sizeof after), 0) << one.code;
+        record.codice_iva_base = repaired;
+        EXPECT_TRUE(same(stored(), record)) << code;
     }
     rec_gnr old;
     old.formato_gnr = "8";
@@ -220,17 +210,13 @@ TEST_F(parameters_test, WhatCantBeReadIsNeverWrittenOver) {
     others.riservato_bd = "di altri moduli";
     others.vista_registro = std::int16_t{2};
     test::faulty_files faults(port);
-    struct {
-        std::filesystem::path where;
-        const char* path;
-    } const cases[] = {{company, "\\mirwin\\mirwin\\miraz0.001\\vantora.gnr"},
-                       {general, "\\mirwin\\mirwin\\vantora.gnr"}};
+    const std::pair<std::filesystem::path, std::string> cases[] = {
+        {company, "\\mirwin\\mirwin\\miraz0.001\\vantora.gnr"},
+        {general, "\\mirwin\\mirwin\\vantora.gnr"}};
     for (const auto& [where, path] : cases) {
         std::filesystem::remove(company / "vantora.gnr");
         store(where, others);
-        faults.read_fails = [path = std::string(path)](auto& read, auto&&...) {
-            return read == path;
-        };
+        faults.read_fails = [&path = path](auto& read, auto&&...) { return read == path; };
         parametri loaded;
         loaded.numero_azienda = 1;
         carica_parametri(loaded, faults);
@@ -238,9 +224,8 @@ TEST_F(parameters_test, WhatCantBeReadIsNeverWrittenOver) {
         EXPECT_EQ(loaded.gnr.colore_riga_pari, 16579315);
         loaded.gnr.vista_registro = std::int16_t{12};
         salva_parametri(loaded, faults);
-        std::ifstream in(where / "vantora.gnr", std::ios::binary);
-        const std::string bytes{std::istreambuf_iterator<char>(in), {}};
-        EXPECT_EQ(bytes, std::string(reinterpret_cast<const char*>(&others), sizeof others));
+        EXPECT_TRUE(same(stored_in(where), others));
+        EXPECT_EQ(std::filesystem::file_size(where / "vantora.gnr"), sizeof others);
         EXPECT_EQ(std::filesystem::exists(company / "vantora.gnr"), where == company);
         // As soon as it can be read all is as usual.
         faults.read_fails = nullptr;

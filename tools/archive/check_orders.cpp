@@ -88,14 +88,14 @@ class order_check {
             const rec_orc& line = order[row];
             const double quantity = line.quantita;
             const double done = line.evaso;
-            const std::string at = "row " + std::to_string(row + 1) + ": ";
+            const auto at = [row] { return "row " + std::to_string(row + 1) + ": "; };
             if (!std::isfinite(quantity) || !std::isfinite(done) || !std::isfinite(line.prezzo)) {
-                tell(gravity::error, at + "a quantity or the price is no number",
+                tell(gravity::error, at() + "a quantity or the price is no number",
                      "Open the order and type the line anew.");
                 continue;
             }
             if (line.articolo > articles_) {
-                tell(gravity::error, at + "there is no article " + std::to_string(line.articolo),
+                tell(gravity::error, at() + "there is no article " + std::to_string(line.articolo),
                      "Open the order and pick the article anew.");
             }
             has_quantity = has_quantity || quantity != 0;

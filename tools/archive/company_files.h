@@ -9,6 +9,7 @@
 
 #include "store/archives.h"
 #include "store/drive.h"
+#include "store/record_runs.h"
 
 namespace vantora::archive {
 
@@ -39,40 +40,25 @@ class company_files {
     archivi records_;
 };
 
-/// Hands records 1 to `count` over in order, read in stretches of about a megabyte. A stretch that
-/// can't be read as a whole is read record by record; what can't be read at all is passed over.
+/// Hands records 1 to `count` over in order, read ahead in stretches of about 128 KiB. What can't
+/// be read is passed over.
 template <class Record, class Visit>
-void scan(const channel<Record>& from, std::int64_t count, Visit visit) {
-    constexpr std::int64_t at_once =
-        std::max<std::int64_t>(1, (1 << 20) / static_cast<std::int64_t>(sizeof(Record)));
-    std::vector<Record> stretch(static_cast<std::size_t>(at_once));
-    for (std::int64_t first = 1; first <= count; first += at_once) {
-        const std::int64_t size = std::min(at_once, count - first + 1);
-        const std::span<Record> part(stretch.data(), static_cast<std::size_t>(size));
-        const bool whole = from.read_block(first, part);
-        for (std::int64_t i = 0; i < size; ++i) {
-            Record& one = part[static_cast<std::size_t>(i)];
-            if (whole || from.read(first + i, one)) visit(first + i, std::as_const(one));
-        }
+void scan(const channel<Record>& from, int count, Visit visit) {
+    constexpr int at_once = std::max(1, (1 << 17) / static_cast<int>(sizeof(Record)));
+    auto ahead = all_records_ahead(from, count, at_once);
+    Record one;
+    for (int number = 1; number <= count; ++number) {
+        if (ahead.next(one)) visit(number, std::as_const(one));
     }
 }
 
 /// The same with the 200 rows of a block at a time: visit(registrazione, rows).
 template <class Row, class Visit>
 void scan_blocks(const channel<Row>& from, int blocks, Visit visit) {
-    constexpr int at_once = 16;
-    constexpr auto rows = static_cast<std::size_t>(righe_blocco);
-    std::vector<Row> stretch(rows * at_once);
-    for (int first = 1; first <= blocks; first += at_once) {
-        const int size = std::min(at_once, blocks - first + 1);
-        const std::span<Row> part(stretch.data(), rows * static_cast<std::size_t>(size));
-        const bool whole = from.read_block(block_record(first, 1), part);
-        for (int i = 0; i < size; ++i) {
-            const auto block = part.subspan(rows * static_cast<std::size_t>(i), rows);
-            if (whole || from.read_block(block_record(first + i, 1), block)) {
-                visit(first + i, std::span<const Row>(block));
-            }
-        }
+    auto ahead = all_records_ahead(from, blocks * static_cast<int>(righe_blocco),
+                                   static_cast<int>(righe_blocco));
+    for (int block = 1; block <= blocks; ++block) {
+        if (const auto rows = ahead.next_run()) visit(block, *rows);
     }
 }
 

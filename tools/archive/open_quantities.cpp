@@ -31,14 +31,15 @@ void open_quantities::add(std::span<const rec_orc> order) {
 std::vector<wrong_ordered_quantity> open_quantities::compare(
     const channel<rec_art>& articles) const {
     std::vector<wrong_ordered_quantity> wrong;
-    scan(articles, std::ssize(by_article_) - 1, [&](std::int64_t number, const rec_art& article) {
-        const sum& its = by_article_[static_cast<std::size_t>(number)];
-        const double stored = article.ordinato_clienti;
-        const double allowed = tolerance * std::max({1.0, its.moved, std::abs(stored)});
-        if (std::abs(stored - its.open) <= allowed) return;
-        wrong.push_back({static_cast<std::int16_t>(number), to_utf8(article.codice.trimmed()),
-                         stored, its.open});
-    });
+    scan(articles, static_cast<int>(by_article_.size()) - 1,
+         [&](std::int64_t number, const rec_art& article) {
+             const sum& its = by_article_[static_cast<std::size_t>(number)];
+             const double stored = article.ordinato_clienti;
+             const double allowed = tolerance * std::max({1.0, its.moved, std::abs(stored)});
+             if (std::abs(stored - its.open) <= allowed) return;
+             wrong.push_back({static_cast<std::int16_t>(number), to_utf8(article.codice.trimmed()),
+                              stored, its.open});
+         });
     return wrong;
 }
 

@@ -83,7 +83,23 @@ void desktop_front_end::let_events_run() {
     since_events_.restart();
 }
 
+void desktop_front_end::progress_changed(control& list, double done) {
+    form_window* window = window_of(list.owner());
+    if (!bars_.show(list, window ? &window->widget_of(list) : nullptr, done)) return;
+    ++painting_;
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    --painting_;
+}
+
+void desktop_front_end::progress_ended(control& list) {
+    bars_.end(list);
+    if (!bars_.none() || !late_closing_) return;
+    QMetaObject::invokeMethod(late_closing_, &QWidget::close, Qt::QueuedConnection);
+    late_closing_.clear();
+}
+
 void desktop_front_end::act(control& on, const std::function<void()>& action) {
+    if (painting_ > 0) return;
     if (!desk_->obstacle(on)) {
         carry_out(action);
     } else if (control* rightful = desk_->focus()) {
@@ -107,11 +123,16 @@ void desktop_front_end::form_loaded(form& which) {
     windows_[&which] = std::make_unique<form_window>(
         which, [this](control& on, const std::function<void()>& action) { act(on, action); },
         [this](form& closing) {
+            if (painting_ > 0) {
+                late_closing_ = window_of(closing);
+                return;
+            }
             if (!desk_->obstacle(closing)) carry_out([&] { desk_->close(closing); });
         },
         [this](form& chosen) {
             const bool another = desk_->active() && desk_->active() != &chosen;
-            if (another && !desk_->obstacle(chosen)) carry_out([&] { chosen.show(); });
+            if (another && painting_ == 0 && !desk_->obstacle(chosen))
+                carry_out([&] { chosen.show(); });
         },
         next_step_ == nullptr);
 }

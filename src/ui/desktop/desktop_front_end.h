@@ -7,6 +7,7 @@
 
 #include "ui/desktop/form_window.h"
 #include "ui/desktop/key_guard.h"
+#include "ui/desktop/list_bars.h"
 #include "ui/front_end.h"
 
 class QEventLoop;
@@ -51,6 +52,8 @@ class desktop_front_end final : public front_end {
     void box_opened(const message_box& box) override;
     void box_closed() override;
     void pointer_changed(pointer shape) override;
+    void progress_changed(control& list, double done) override;
+    void progress_ended(control& list) override;
     void report_fatal(const std::string& message) override;
 
  private:
@@ -75,6 +78,9 @@ class desktop_front_end final : public front_end {
     std::vector<wait> waits_;
     int stepping_ = 0;  ///< waits served by steps, inside one another
     QElapsedTimer since_events_;
+    list_bars bars_;
+    int painting_ = 0;                    ///< what the user does waits
+    QPointer<form_window> late_closing_;  ///< closed by the user meanwhile
     key_guard keys_;
 };
 

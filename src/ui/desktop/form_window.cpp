@@ -61,6 +61,10 @@ QWidget* form_window::widget(const char* name, int index) const {
     return &binders_.at(one)->widget();
 }
 
+QWidget& form_window::widget_of(const control& one) const {
+    return binders_.at(&one)->widget();
+}
+
 void form_window::dress(const char* name, int index, const command_look& look,
                         Qt::ToolButtonStyle style) {
     auto* button = as<QToolButton>(name, index);
@@ -172,7 +176,7 @@ window_place form_window::place() const {
 }
 
 void form_window::focus_on(control& one) {
-    QWidget& target = binders_.at(&one)->widget();
+    QWidget& target = widget_of(one);
     // As if the user had come by Tab: what stands in a field is there to be typed over.
     if (!target.hasFocus()) target.setFocus(Qt::TabFocusReason);
     const QSize room = area_->viewport()->size();
@@ -182,7 +186,7 @@ void form_window::focus_on(control& one) {
 
 void form_window::select_text(control& one) {
     if (one.kind() == control_kind::text_box) {
-        static_cast<QLineEdit&>(binders_.at(&one)->widget()).selectAll();
+        static_cast<QLineEdit&>(widget_of(one)).selectAll();
     }
 }
 

@@ -51,6 +51,9 @@ class form_window final : public QWidget {
         return static_cast<Widget*>(widget(name, index));
     }
 
+    /// REQUIRES: the screen has the control.
+    [[nodiscard]] QWidget& widget_of(const control& one) const;
+
     /// Gives a command its picture, caption and tooltip.
     void dress(const char* name, int index, const command_look& look,
                Qt::ToolButtonStyle style = Qt::ToolButtonTextUnderIcon);

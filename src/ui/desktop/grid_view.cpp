@@ -14,6 +14,10 @@
 namespace vantora::ui::desktop {
 
 grid_view::grid_view(const grid& model, QWidget* parent) : QTableView(parent), model_(model) {
+    // A list that is hidden while it is filled keeps its room.
+    QSizePolicy place(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    place.setRetainSizeWhenHidden(true);
+    setSizePolicy(place);
     setSelectionBehavior(SelectRows);
     setSelectionMode(SingleSelection);
     setEditTriggers(NoEditTriggers);

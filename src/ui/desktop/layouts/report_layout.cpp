@@ -128,9 +128,6 @@ void lay_out_report(form_window& window, std::span<const filter_look> filters, i
     body->addLayout(filter_row(window, filters));
     auto* list = window.as<grid_view>("elenco");
     if (total) list->set_off(total_column, total);
-    QSizePolicy place(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    place.setRetainSizeWhenHidden(true);
-    list->setSizePolicy(place);
     body->addWidget(list, 1);
     all->addLayout(body, 1);
     window.setMinimumSize(960, 520);

@@ -1,0 +1,90 @@
+// How long the archive tool takes over an archive filled to its limits: a check, against reading
+// the company's files bare from end to end, and the exports, against writing their bytes.
+
+#include <cstring>
+#include <fstream>
+#include <iostream>
+
+#include "archive/check.h"
+#include "archive/export_csv.h"
+#include "archive/export_sqlite.h"
+#include "bench/cold_files.h"
+#include "bench/measure.h"
+#include "demo/company.h"
+#include "support/scratch_folder.h"
+
+namespace vantora::bench {
+namespace {
+
+std::vector<std::filesystem::path> files_in(const std::filesystem::path& place) {
+    if (!std::filesystem::is_directory(place)) return {place};
+    std::vector<std::filesystem::path> files;
+    for (const auto& one : std::filesystem::directory_iterator(place)) files.push_back(one.path());
+    return files;
+}
+
+void read_bare(const std::vector<std::filesystem::path>& files) {
+    std::vector<char> bytes(1 << 20);
+    for (const auto& one : files) {
+        std::ifstream in(one, std::ios::binary);
+        in.rdbuf()->pubsetbuf(nullptr, 0);
+        while (in.read(bytes.data(), static_cast<std::streamsize>(bytes.size()))) continue;
+    }
+}
+
+void write_bare(const std::vector<std::filesystem::path>& like, const std::filesystem::path& to) {
+    std::vector<char> bytes(1 << 20);
+    std::ofstream out(to, std::ios::binary);
+    for (const auto& one : like) {
+        for (auto left = static_cast<std::streamsize>(std::filesystem::file_size(one)); left > 0;) {
+            const auto part = std::min(left, static_cast<std::streamsize>(bytes.size()));
+            out.write(bytes.data(), part);
+            left -= part;
+        }
+    }
+}
+
+int run(int count, int rounds) {
+    const test::scratch_folder folder;
+    demo::make_company({1, count, count, count}, folder.path());
+    archive::company_files company(folder.path(), 1);
+    const auto files = files_in(company.path_of("orc").parent_path());
+    std::printf("%d orders, articles and customers\n", count);
+
+    std::size_t found = 0;
+    const auto check = [&] { found = check_archive(company).size(); };
+    const auto read = [&] { read_bare(files); };
+    compare("check", rounds, check, "its files from end to end", read);
+    compare("check, from the disk", rounds, check, "its files from end to end", read,
+            [&] { drop_from_memory(folder.path()); });
+    if (found > 0) std::printf("%zu findings\n", found);
+
+    const auto csv = folder.path() / "csv";
+    const auto database = folder.path() / "all.sqlite";
+    const auto export_csv = [&] {
+        archive::csv_folder into(csv, false);
+        export_tables(company, into);
+    };
+    const auto export_database = [&] {
+        std::filesystem::remove(database);
+        archive::sqlite_file into(database);
+        export_tables(company, into);
+        into.finish();
+    };
+    export_csv();
+    export_database();
+    const auto spare = folder.path() / "bare";
+    compare("export as CSV (below 10 s)", rounds, export_csv, "writing its bytes",
+            [&] { write_bare(files_in(csv), spare); });
+    compare("export as SQLite (below 10 s)", rounds, export_database, "writing its bytes",
+            [&] { write_bare({database}, spare); });
+    return 0;
+}
+
+}  // namespace
+}  // namespace vantora::bench
+
+int main(int count, char** arguments) {
+    const bool quick = count > 1 && std::strcmp(arguments[1], "--quick") == 0;
+    return quick ? vantora::bench::run(60, 1) : vantora::bench::run(32767, 3);
+}
