@@ -53,16 +53,6 @@ struct customer_desk {
         app.mirorcx->b_lista.click();
     }
 
-    /// A column of the pick list, as far as it is filled.
-    static std::vector<std::string> column(const mirsel& list, int col) {
-        std::vector<std::string> texts;
-        for (int row = 1; row < list.elenco.rows(); ++row) {
-            if (list.elenco.text(row, mirsel::numero).empty()) break;
-            texts.emplace_back(list.elenco.text(row, col));
-        }
-        return texts;
-    }
-
     [[nodiscard]] const std::string& shown_name() { return app.mirorcx->Text2[0].text(); }
 
     std::map<std::string, std::size_t> reads;        ///< by the file's extension

@@ -8,34 +8,33 @@
 namespace vantora::test {
 namespace {
 
-/// Opens the dialog with a proposal and a reserve, leaves it in some way, and tells the choice.
-std::string choose(const std::string& proposed, const std::string& reserve,
-                   const std::function<void(ui::desk&, mirdata&)>& leave) {
-    program_stage<ui::test::prepared_user> stage;
-    stage.provide(stage.app.mirdata);
-    stage.app.data_proposta = proposed;
-    stage.app.data_riserva = reserve;
-    stage.front.actions = {
-        [&] { stage.desk.dispatch([&] { leave(stage.desk, *stage.app.mirdata); }); }};
-    stage.desk.dispatch([&] { stage.app.mirdata->show_modal(); });
-    EXPECT_FALSE(stage.app.mirdata.loaded());
-    return stage.app.data_scelta;
-}
-
-TEST(mirdata, ProposesTheDateOrItsReserve) {
-    const auto keep = [](ui::desk&, mirdata& dialog) {
-        dialog.nuovadata.press_key(ui::key::enter, '\r');
-    };
-    EXPECT_EQ(choose("03/04/2025", "01/01/2020", keep), "03/04/2025");
-    EXPECT_EQ(choose("", "01/01/2020", keep), "01/01/2020");
-    EXPECT_EQ(choose("31/02/2025", "01/01/2020", keep), "01/01/2020");
-}
-
+/// There is no way out without a date.
 TEST(mirdata, EveryWayOutGivesThePickersDate) {
-    const auto pick = [](ui::desk&, mirdata& dialog) { dialog.nuovadata.choose({2025, 6, 5}); };
-    EXPECT_EQ(choose("03/04/2025", "", pick), "05/06/2025");
-    const auto close = [](ui::desk& desk, mirdata& dialog) { desk.close(dialog); };
-    EXPECT_EQ(choose("03/04/2025", "", close), "03/04/2025") << "there is no cancel";
+    enum leaving { by_enter, by_picking, by_closing };
+    const struct {
+        const char *proposed, *reserve;
+        leaving by;
+        const char* chosen;
+    } cases[] = {{"03/04/2025", "01/01/2020", by_enter, "03/04/2025"},
+                 {"", "01/01/2020", by_enter, "01/01/2020"},
+                 {"31/02/2025", "01/01/2020", by_enter, "01/01/2020"},
+                 {"03/04/2025", "", by_picking, "05/06/2025"},
+                 {"03/04/2025", "", by_closing, "03/04/2025"}};
+    for (const auto& one : cases) {
+        program_stage<ui::test::prepared_user> stage;
+        stage.provide(stage.app.mirdata);
+        stage.app.data_proposta = one.proposed;
+        stage.app.data_riserva = one.reserve;
+        stage.front.actions = {[&] {
+            mirdata& dialog = *stage.app.mirdata;
+            if (one.by == by_enter) dialog.nuovadata.press_key(ui::key::enter, '\r');
+            if (one.by == by_picking) dialog.nuovadata.choose({2025, 6, 5});
+            if (one.by == by_closing) stage.desk.close(dialog);
+        }};
+        stage.desk.dispatch([&] { stage.app.mirdata->show_modal(); });
+        EXPECT_FALSE(stage.app.mirdata.loaded());
+        EXPECT_EQ(stage.app.data_scelta, one.chosen);
+    }
 }
 
 }  // namespace

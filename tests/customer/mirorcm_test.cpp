@@ -39,6 +39,7 @@ TEST_F(mirorcm_screen, StandsOnTheOrdersCustomerAndLeavesTheFieldsAlone) {
         EXPECT_EQ(app->mirorcm->HScroll1.value(), position) << customer;
         EXPECT_EQ(app->mirorcm->HScroll1.maximum(), 4);
         EXPECT_EQ(app->mirorcm->Text2[0].text(), "come nell'ordine");
+        EXPECT_EQ(app->mirorcm->Text2[17].text(), "") << "the carriers' list touches no field";
         EXPECT_FALSE(app->mirorcm->Label2.visible()) << "no living customer is told deleted";
         EXPECT_EQ(desk->reads["cli"], 0U);
         EXPECT_LE(desk->reads["src"], 1U) << "the index is read in blocks";
@@ -48,36 +49,34 @@ TEST_F(mirorcm_screen, StandsOnTheOrdersCustomerAndLeavesTheFieldsAlone) {
 }
 
 TEST_F(mirorcm_screen, MovesTheOrderToALivingCustomerOnly) {
-    struct {
-        int opened_on;
-        int moved_to;  ///< position, 0 for none
-        int confirmed;
-    } cases[] = {{1, 4, 4}, {1, 2, 2}, {1, 0, 1}, {99, 0, 99}, {1, 1, 0}, {0, 0, 0}};
-    for (const auto& one : cases) {
+    const std::tuple<int, int, int> cases[] = {
+        // on a customer, moved to a position, 0 for none: the customer of the order, 0 for no way
+        // on
+        {1, 4, 4}, {1, 2, 2}, {1, 0, 1}, {99, 0, 99}, {1, 1, 0}, {0, 0, 0}};
+    for (const auto& [opened_on, moved_to, confirmed] : cases) {
         app->mirorcm->unload();
         app->schermo_pronto = 1;
-        open(one.opened_on);
+        open(opened_on);
         app->mirorcm->Text3[1].set_text("domani");
-        if (one.moved_to > 0) app->mirorcm->HScroll1.drag(one.moved_to);
+        if (moved_to > 0) app->mirorcm->HScroll1.drag(moved_to);
         app->mirorcm->bottone.click();
-        const bool done = one.confirmed > 0;
-        EXPECT_EQ(app->mirorcm->visible(), !done) << one.opened_on << one.moved_to;
-        EXPECT_EQ(app->selezione_2, done ? one.confirmed : one.opened_on);
-        EXPECT_EQ(app->schermo_pronto, done ? 0 : 1);
+        EXPECT_EQ(app->mirorcm->visible(), confirmed == 0) << opened_on << moved_to;
+        EXPECT_EQ(app->selezione_2, confirmed > 0 ? confirmed : opened_on);
+        EXPECT_EQ(app->schermo_pronto, confirmed > 0 ? 0 : 1);
     }
 }
 
 TEST_F(mirorcm_screen, AChoiceFromTheListIsLookedUpAndNoChoiceComesBackToTheOrdersCustomer) {
     open(1);
-    desk->around.user.actions.push_back([this] { app->mirsel->elenco.click_cell(3, 0); });
-    app->mirorcm->b_lista.click();
-    EXPECT_EQ(app->mirorcm->Text2[0].text(), "ZETA");
-    EXPECT_EQ(app->mirorcm->HScroll1.value(), 4);
-    EXPECT_EQ(app->selezione_cliente, 0);
-    desk->around.user.actions.push_back([this] { app->mirsel->indice.click(); });
-    app->mirorcm->b_lista.click();
-    EXPECT_EQ(app->mirorcm->Text2[0].text(), "ZETA") << "nothing is cleared";
-    EXPECT_EQ(app->mirorcm->HScroll1.value(), 3);
+    for (const auto& [chooses, position] : {std::pair{true, 4}, {false, 3}}) {
+        desk->around.user.actions = {[&, chooses = chooses] {
+            chooses ? void(app->mirsel->elenco.click_cell(3, 0)) : app->mirsel->indice.click();
+        }};
+        app->mirorcm->b_lista.click();
+        EXPECT_EQ(app->mirorcm->Text2[0].text(), "ZETA") << "nothing is cleared";
+        EXPECT_EQ(app->mirorcm->HScroll1.value(), position);
+        EXPECT_EQ(app->selezione_cliente, 0);
+    }
 }
 
 TEST_F(mirorcm_screen, AnIndexThatCantBeReadLeavesThePositionAtTheFirst) {
@@ -94,21 +93,16 @@ TEST_F(mirorcm_screen, ShippingDataOfAnOrdersRowsGoOnTheHead) {
     rec_orc row{};
     row.testo1 = "  uno";
     row.testo2 = "due";
-    struct {
-        const char* testo3;
-        int porto;
-        int trasporto;
-        bool in_lists;
-    } cases[] = {{"2103", 2, 1, true},    {"90", 0, 0, false}, {"x3", 0, 3, true},
-                 {"-1-10", 0, 1, true},   {"", 0, 0, true},    {"19", 1, 2, false},
-                 {"\xFF\xFF", 0, 0, true}};
-    for (const auto& one : cases) {
+    const std::tuple<const char*, int, int, bool> cases[] = {
+        {"2103", 2, 1, true}, {"90", 0, 0, false}, {"x3", 0, 3, true},      {"-1-10", 0, 1, true},
+        {"", 0, 0, true},     {"19", 1, 2, false}, {"\xFF\xFF", 0, 0, true}};
+    for (const auto& [testo3, porto, trasporto, in_lists] : cases) {
         head.Combo1[customer_head::porto].choose(0);
         head.Combo1[customer_head::trasporto].choose(2);
-        row.testo3 = one.testo3;
-        EXPECT_EQ(mostra_spedizione(head, 3, row), one.in_lists) << one.testo3;
-        EXPECT_EQ(head.Combo1[customer_head::porto].chosen(), one.porto) << one.testo3;
-        EXPECT_EQ(head.Combo1[customer_head::trasporto].chosen(), one.trasporto) << one.testo3;
+        row.testo3 = testo3;
+        EXPECT_EQ(mostra_spedizione(head, 3, row), in_lists) << testo3;
+        EXPECT_EQ(head.Combo1[customer_head::porto].chosen(), porto) << testo3;
+        EXPECT_EQ(head.Combo1[customer_head::trasporto].chosen(), trasporto) << testo3;
     }
     row.testo3 = "tre";
     for (const int number : {1, 2, 4, 5}) EXPECT_TRUE(mostra_spedizione(head, number, row));

@@ -23,78 +23,78 @@ class mirorcx : public testing::Test {
         commands.insert(commands.begin(), "click mirorc.bottone(2)");
         return run_script(company.drive(), commands);
     }
-    std::string text_after(std::vector<std::string> commands, const std::string& control) {
-        commands.push_back("get mirorcx." + control);
-        return open(commands).back()["value"]["text"];
+    /// What the controls show after some commands.
+    std::string texts(std::vector<std::string> commands, const std::vector<const char*>& controls) {
+        commands.emplace_back("controls mirorcx");
+        const json all = open(commands).back()["value"];
+        std::string shown;
+        for (const char* one : controls) shown += all[one]["text"].get<std::string>() + "|";
+        return shown;
     }
 
     small_company company;
 };
 
-TEST_F(mirorcx, OpensFreshOnTheFirstCustomerInTheOrderOfNames) {
-    const json controls = open({"controls mirorcx"}).back()["value"];
-    EXPECT_EQ(controls["Text3(0)"]["text"], "42");
-    EXPECT_EQ(controls["Text3(1)"]["text"], "06/05/2024");
-    EXPECT_EQ(controls["Text3(2)"]["text"], "06/05/2024");
-    EXPECT_EQ(controls["text5(1)"]["text"], "06/05/2024");
-    EXPECT_EQ(controls["HScroll1"]["max"], 5);
-    // The first in the index is the deleted one, without its mark and with empty fields.
-    EXPECT_EQ(controls["Text2(0)"]["text"], "CESSATI SRL");
-    EXPECT_EQ(controls["Text2(1)"]["text"], "seconda riga");
-    for (int i = 2; i < 22; ++i) {
-        EXPECT_EQ(controls["Text2(" + std::to_string(i) + ")"]["text"], "") << i;
-    }
-    EXPECT_EQ(controls["Label2"]["visible"], true);
-    EXPECT_EQ(controls["Combo3"]["count"], 40);
-    EXPECT_EQ(controls["Combo1(1)"]["count"], 60);
-    EXPECT_EQ(controls["Combo1(0)"]["text"], "Porto franco");
-    EXPECT_EQ(controls["Combo1(2)"]["text"], "Mittente");
-}
-
-TEST_F(mirorcx, ShowsEveryFieldOfACustomer) {
-    const json controls = open({"scroll mirorcx.HScroll1 2", "controls mirorcx"}).back()["value"];
-    const char* expected[] = {
+TEST_F(mirorcx, OpensFreshAndShowsEveryFieldOfACustomer) {
+    EXPECT_EQ(texts({}, {"Text3(0)", "Text3(1)", "Text3(2)", "Text3(3)", "text5(0)", "text5(1)",
+                         "Combo1(0)", "Combo1(1)", "Combo1(2)", "Combo3"}),
+              "42|06/05/2024|06/05/2024||06/05/2024|06/05/2024|Porto franco|Pagamento 2|Mittente|"
+              "Vettore 1|");
+    const char* fields[] = {
         "Bianchi",    "seconda riga", "indirizzo", "06100", "citta",         "CF",
         "IT",         "00000000001",  "amm 1",     "amm 2", "amm indirizzo", "06012",
         "amm citta",  "tel 1",        "tel 2",     "tel 3", "a@example.it",  "corriere 1",
         "corriere 2", "corriere 3",   "nota 1",    "nota 2"};
+    const json controls = open({"scroll mirorcx.HScroll1 2", "controls mirorcx"}).back()["value"];
+    // The first in the index is the deleted one: without its mark, and all but its name empty.
+    const json deleted = open({"controls mirorcx"}).back()["value"];
     for (int i = 0; i < 22; ++i) {
-        EXPECT_EQ(controls["Text2(" + std::to_string(i) + ")"]["text"], expected[i]) << i;
+        const std::string name = "Text2(" + std::to_string(i) + ")";
+        EXPECT_EQ(controls[name]["text"], fields[i]) << i;
+        EXPECT_EQ(deleted[name]["text"], i == 0 ? "CESSATI SRL" : i == 1 ? fields[1] : "") << i;
     }
-    EXPECT_EQ(controls["Label2"]["visible"], false);
-    EXPECT_EQ(controls["Combo1(1)"]["text"], "Pagamento 2");
+    EXPECT_EQ(controls["Combo3"]["count"], 40);
+    EXPECT_EQ(controls["Combo1(1)"]["count"], 60);
+    company.counter(contatori::ordini, 0, 32767);
+    EXPECT_EQ(texts({}, {"Text3(0)"}), "|") << "no number is left to propose";
 }
 
-TEST_F(mirorcx, SearchesByTheBeginningOfTheName) {
-    const auto replies =
-        open({"set mirorcx.nome \" ros \"", "key mirorcx.nome Enter", "get mirorcx.Text2(0)",
-              "get mirorcx.nome", "set mirorcx.nome \"zz\"", "click mirorcx.b_cerca", "answer ok",
-              "get mirorcx.Text2(0)", "get mirorcx.HScroll1"});
-    EXPECT_TRUE(replies[3]["value"]["text"].get<std::string>().starts_with("ROSSI"));
-    EXPECT_EQ(replies[4]["value"]["text"], "");
-    EXPECT_EQ(replies[6]["box"], (json{{"text", "Anagrafica non trovata"},
-                                       {"title", "Attenzione"},
-                                       {"icon", "warning"},
-                                       {"buttons", "ok"}}));
-    EXPECT_EQ(replies[7]["focus"], "nome");
-    EXPECT_EQ(replies[8]["value"]["text"], replies[3]["value"]["text"]);
-    EXPECT_GT(replies[9]["value"]["value"], 1);
-}
-
-TEST_F(mirorcx, DatesAndTheirPickersKeepInStep) {
-    const std::pair<const char*, const char*> cases[] = {
-        {"1/2/24", "01/02/2024"}, {"29.02.2023", "06/05/2024"}, {"", "06/05/2024"}};
-    for (const auto& [typed, picked] : cases) {
-        const auto replies = open({"set mirorcx.Text3(1) \"" + std::string(typed) + "\"",
-                                   "get mirorcx.Text3(1)", "get mirorcx.text5(0)"});
-        EXPECT_EQ(replies[2]["value"]["text"], typed);
-        EXPECT_EQ(replies[3]["value"]["text"], picked) << typed;
+TEST_F(mirorcx, FieldsFollowWhatTheUserDoes) {
+    const struct {
+        std::vector<std::string> commands;
+        std::vector<const char*> controls;
+        const char* texts;
+    } cases[] = {
+        {{"set mirorcx.Text3(1) \"1/2/24\""}, {"Text3(1)", "text5(0)"}, "1/2/24|01/02/2024|"},
+        {{"set mirorcx.Text3(2) \"29.02.2023\""},
+         {"Text3(2)", "text5(1)"},
+         "29.02.2023|06/05/2024|"},
+        {{"set mirorcx.Text3(1) \"\""}, {"Text3(1)", "text5(0)"}, "|06/05/2024|"},
+        {{"date mirorcx.text5(1) \"03/04/2025\""},
+         {"Text3(2)", "Text3(1)"},
+         "03/04/2025|06/05/2024|"},
+        // A line of a carrier marked with an asterisk leaves the customer's own.
+        {{"scroll mirorcx.HScroll1 2", "pick mirorcx.Combo3 6"},
+         {"Text2(17)", "Text2(18)", "Text2(19)"},
+         "Vettore 7|Via 7|corriere 3|"},
+        {{"set mirorcx.nome \" ros \"", "key mirorcx.nome Enter"},
+         {"Text2(0)", "nome"},
+         "ROSSI MARIO||"},
+    };
+    for (const auto& one : cases) {
+        EXPECT_EQ(texts(one.commands, one.controls), one.texts) << one.commands[0];
     }
-    EXPECT_EQ(text_after({"date mirorcx.text5(1) \"03/04/2025\""}, "Text3(2)"), "03/04/2025");
+    const std::pair<const char*, const char*> steps[] = {{"Text2(0)", "Text2(1)"},
+                                                         {"Text2(20)", "Text2(21)"},
+                                                         {"Text2(21)", "Text2(21)"},
+                                                         {"Text3(4)", "Text3(5)"}};
+    for (const auto& [from, to] : steps) {
+        EXPECT_EQ(open({"key mirorcx." + std::string(from) + " Enter"}).back()["focus"], to);
+    }
 }
 
 TEST_F(mirorcx, GoesOnOnlyWithTwoWholeDatesAndALivingCustomer) {
-    struct {
+    const struct {
         std::vector<std::string> commands;
         const char* complaint;
         const char* focus;
@@ -103,48 +103,45 @@ TEST_F(mirorcx, GoesOnOnlyWithTwoWholeDatesAndALivingCustomer) {
         {{"set mirorcx.Text3(1) \"30/02/2024\""}, "La data dell'ordine non è corretta", "Text3(1)"},
         {{"set mirorcx.Text3(2) \"\""}, "La data presunta di evasione non è corretta", "Text3(2)"},
     };
-    for (auto& one : wrong) {
+    for (const auto& one : wrong) {
         auto commands = one.commands;
         commands.insert(commands.end(), {"click mirorcx.bottone", "answer ok"});
         const auto replies = open(commands);
-        EXPECT_EQ(replies[2]["box"]["text"], one.complaint);
-        EXPECT_EQ(replies[2]["box"]["icon"], "stop");
+        EXPECT_EQ(replies[2]["box"], (json{{"text", one.complaint},
+                                           {"title", "Attenzione"},
+                                           {"icon", "stop"},
+                                           {"buttons", "ok"}}));
         EXPECT_EQ(replies[3]["focus"], one.focus);
     }
     EXPECT_EQ(open({"click mirorcx.bottone"}).back()["screen"], "mirorcx");
-    EXPECT_EQ(open({"scroll mirorcx.HScroll1 3", "set mirorcx.Text3(1) \" 01/02/2024 \"",
-                    "click mirorcx.bottone"})
-                  .back()["screen"],
-              "mirorcs");
-}
-
-TEST_F(mirorcx, ACarrierLeavesTheLinesMarkedWithAnAsteriskAlone) {
-    const json controls =
-        open({"scroll mirorcx.HScroll1 2", "pick mirorcx.Combo3 6", "controls mirorcx"})
-            .back()["value"];
-    EXPECT_EQ(controls["Text2(17)"]["text"], "Vettore 7");
-    EXPECT_EQ(controls["Text2(18)"]["text"], "Via 7");
-    EXPECT_EQ(controls["Text2(19)"]["text"], "corriere 3");
-}
-
-TEST_F(mirorcx, EnterWalksTheFieldsAndAFullCounterProposesNothing) {
-    const auto replies = open({"key mirorcx.Text2(0) Enter", "key mirorcx.Text2(20) Enter",
-                               "key mirorcx.Text2(21) Enter", "key mirorcx.Text3(4) Enter"});
-    EXPECT_EQ(replies[1]["focus"], "Text2(1)");
-    EXPECT_EQ(replies[2]["focus"], "Text2(21)");
-    EXPECT_EQ(replies[3]["focus"], "Text2(21)");
-    EXPECT_EQ(replies[4]["focus"], "Text3(5)");
-    company.counter(contatori::ordini, 0, 32767);
-    EXPECT_EQ(text_after({}, "Text3(0)"), "") << "no number is left to propose";
-}
-
-TEST_F(mirorcx, WithoutTableFileTheListsAreEmptyAndTheScreenWorks) {
+    const std::vector<std::string> right = {"scroll mirorcx.HScroll1 3",
+                                            "set mirorcx.Text3(1) \" 01/02/2024 \"",
+                                            "set mirorcx.Text3(3) \"riferimento\"",
+                                            "pick mirorcx.Combo1(0) 1", "click mirorcx.bottone"};
+    EXPECT_EQ(open(right).back()["screen"], "mirorcs");
+    // Without the suite's table the lists are empty, and the screen works.
     std::filesystem::remove(company.file("tab"));
-    const auto replies = open({"get mirorcx.Combo3", "get mirorcx.Combo1(1)",
-                               "scroll mirorcx.HScroll1 2", "click mirorcx.bottone"});
-    EXPECT_EQ(replies[1]["value"]["count"], 0);
-    EXPECT_EQ(replies[2]["value"]["count"], 0);
-    EXPECT_EQ(replies.back()["screen"], "mirorcs");
+    const auto bare =
+        open({"get mirorcx.Combo1(1)", "scroll mirorcx.HScroll1 2", "click mirorcx.bottone"});
+    EXPECT_EQ(bare[1]["value"]["count"], 0);
+    EXPECT_EQ(bare.back()["screen"], "mirorcs");
+}
+
+TEST_F(mirorcx, ItsPickListIsModalAndSortsWithTheBlankRowsAtTheBottom) {
+    const auto replies =
+        open({"click mirorcx.b_lista", "rows mirsel.elenco 0 1", "click mirsel.srx(0)",
+              "rows mirsel.elenco 4 5", "colors mirsel.elenco 24 26", "click mirorcx.b_cerca",
+              "close mirorcx"});
+    EXPECT_EQ(replies[1]["modal"], "mirsel");
+    EXPECT_EQ(replies[2]["value"],
+              (json{{"Nominativo", "", "Indirizzo", "Città", "Partita iva", ""},
+                    {"Bianchi", "seconda riga", "indirizzo", "citta", "00000000001", "2"}}));
+    EXPECT_EQ(replies[3]["focus"], "elenco");
+    EXPECT_EQ(replies[4]["value"][0][0], "ZETA");
+    EXPECT_EQ(replies[4]["value"][1][0], "");
+    EXPECT_EQ(replies[5]["value"], (json{16579315, 16777215}));
+    EXPECT_EQ(replies[6]["ok"], false);
+    EXPECT_EQ(replies[7]["ok"], false);
 }
 
 }  // namespace
