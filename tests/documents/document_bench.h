@@ -1,11 +1,13 @@
 #pragma once
 
+#include <sstream>
 #include <string>
 #include <vector>
 
 #include "documents/document_shape.h"
 #include "documents/printed_document.h"
 #include "store/drive.h"
+#include "store/text/code_page.h"
 #include "support/scratch_folder.h"
 #include "ui/bench_desk.h"
 #include "ui/pictures/pixbuf_decoder.h"
@@ -60,13 +62,33 @@ struct document_bench {
         return jobs.empty() ? decltype(jobs.front().pages){} : std::move(jobs.front().pages);
     }
 
-    /// The texts of a page, in the order of printing.
-    static std::vector<ui::script::printed_text> texts(
-        const std::vector<ui::script::print_operation>& page) {
-        std::vector<ui::script::printed_text> found;
+    /// The operations of a page, one behind the other: their figures, then what they draw.
+    static std::string shown(const std::vector<ui::script::print_operation>& page) {
+        std::ostringstream out;
         for (const auto& one : page) {
             if (const auto* text = std::get_if<ui::script::printed_text>(&one)) {
-                found.push_back(*text);
+                out << "text " << text->x << ' ' << text->y << ' ' << text->text << ", "
+                    << text->font.name << ' ' << text->font.size << (text->font.bold ? " bold" : "")
+                    << (text->font.italic ? " italic" : "") << " ink " << text->ink << '\n';
+            } else if (const auto* line = std::get_if<ui::script::printed_line>(&one)) {
+                out << "line " << line->x1 << ' ' << line->y1 << ' ' << line->x2 << ' ' << line->y2
+                    << " ink " << line->ink << '\n';
+            } else if (const auto* box = std::get_if<ui::script::printed_box>(&one)) {
+                out << (box->filled ? "filled " : "box ") << box->x1 << ' ' << box->y1 << ' '
+                    << box->x2 << ' ' << box->y2 << " ink " << box->ink << '\n';
+            } else if (const auto* picture = std::get_if<ui::script::printed_picture>(&one)) {
+                out << "picture " << picture->x << ' ' << picture->y << ' ' << picture->width << ' '
+                    << picture->height << '\n';
+            }
+        }
+        return out.str();
+    }
+    /// Only the texts of a page, without the blanks around them.
+    static std::vector<std::string> texts(const std::vector<ui::script::print_operation>& page) {
+        std::vector<std::string> found;
+        for (const auto& one : page) {
+            if (const auto* text = std::get_if<ui::script::printed_text>(&one)) {
+                found.emplace_back(trimmed(text->text));
             }
         }
         return found;

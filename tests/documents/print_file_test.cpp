@@ -1,8 +1,6 @@
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <fstream>
-#include <optional>
 #include <sstream>
 
 #include "documents/print_file_reader.h"
@@ -14,19 +12,50 @@
 namespace vantora {
 namespace {
 
+using pages = std::vector<std::vector<record_di_stampa>>;
+
+std::string shown(const pages& all) {
+    std::ostringstream out;
+    for (const auto& page : all) {
+        out << "\n-";
+        for (const record_di_stampa& one : page) {
+            out << '|' << static_cast<int>(one.tipo);
+            for (const double value : {one.x1, one.y1, one.x2, one.y2, one.corpo, one.colore}) {
+                out << ' ' << value;
+            }
+            out << ' ' << one.testo << ' ' << one.carattere << ' ' << one.grassetto << ' '
+                << one.corsivo;
+        }
+    }
+    return out.str();
+}
+
+/// What is read from a print file, or what is wrong with it.
+std::string read(std::string_view content) {
+    const auto fault = [](const errore_di_stampa& one) {
+        const char* names[] = {"no mark", "cut", "no kind", "no number", "too large"};
+        return names[static_cast<int>(one.difetto)] + (" in line " + std::to_string(one.riga));
+    };
+    const auto found = leggi_file_di_stampa(content);
+    if (const auto* error = std::get_if<errore_di_stampa>(&found)) return fault(*error);
+    const auto& document = std::get<documento_di_stampa>(found);
+    std::string all = document.orizzontale ? "landscape" : "upright";
+    if (document.anomalie > 0) {
+        all += ", " + std::to_string(document.anomalie) + " odd: " + fault(document.prima_anomalia);
+    }
+    return all + shown(document.pagine);
+}
+
 class print_file : public testing::Test {
  protected:
-    void write(std::string_view mark, const std::vector<std::vector<record_di_stampa>>& pages) {
+    void write(std::string_view mark, const pages& all) {
         print_file_writer out(files, mark);
-        for (const auto& page : pages) {
+        for (const auto& page : all) {
             for (const auto& record : page) out.write(record);
             out.end_page();
         }
     }
     std::string content() { return files.read_whole(file_di_stampa).value_or("no file"); }
-    documento_di_stampa read() {
-        return std::get<documento_di_stampa>(leggi_file_di_stampa(content()));
-    }
 
     test::scratch_folder folder;
     drive files{folder.path()};
@@ -41,38 +70,32 @@ const record_di_stampa shade{riquadro, 10, 40, 200, 44, 0, 0xFFFFFF, "", "", 1, 
 const record_di_stampa amount{testo, 190.25, 60, 0, 1, 8.5, 255, " 12,50 ", "Verdana", 0, 1};
 
 TEST_F(print_file, LinesThatAKindDoesNotUseAreEmpty) {
-    write(marca_orizzontale, {{logo, rule}});
-    EXPECT_EQ(content(),
-              "#FILEFORMAT=KLP-RTO-O\r\n"
-              " 0 \r\n 9 \r\n 10 \r\n 40 \r\n-2 \r\n 0 \r\n\r\n\\mirwin\\logo.bmp\r\n\r\n 0 \r\n 0 "
-              "\r\n"
-              " 1 \r\n 0 \r\n-1.5 \r\n 210 \r\n 31 \r\n 0 \r\n 11184810 \r\n\r\n\r\n 1 \r\n 0 \r\n"
-              " 9 \r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n");
+    record_di_stampa beyond = rule;
+    beyond.x2 = -1e15;
+    write(marca_orizzontale, {{logo, beyond}});
+    EXPECT_EQ(
+        content(),
+        "#FILEFORMAT=KLP-RTO-O\r\n"
+        " 0 \r\n 9 \r\n 10 \r\n 40 \r\n-2 \r\n 0 \r\n\r\n\\mirwin\\logo.bmp\r\n\r\n 0 \r\n 0 "
+        "\r\n"
+        " 1 \r\n 0 \r\n-1.5 \r\n-1E+15 \r\n 31 \r\n 0 \r\n 11184810 \r\n\r\n\r\n 1 \r\n 0 \r\n"
+        " 9 \r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n");
 }
 
-void expect_same(const record_di_stampa& one, const record_di_stampa& other) {
-    const auto parts = [](const record_di_stampa& of) {
-        return std::tie(of.tipo, of.x1, of.y1, of.x2, of.y2, of.corpo, of.colore, of.testo,
-                        of.carattere, of.grassetto, of.corsivo);
-    };
-    EXPECT_TRUE(parts(one) == parts(other));
-}
-
-TEST_F(print_file, WhatIsWrittenIsReadAgain) {
+TEST_F(print_file, WhatIsWrittenIsReadAgainUnlessItIsCutInsideARecord) {
     // The second page has nothing on it, the third more than the writer hands over at once.
-    std::vector<std::vector<record_di_stampa>> pages = {{logo, rule, shade, heading, amount}, {}};
-    pages.emplace_back(3000, amount);
-    for (const auto mark : {marca_verticale, marca_orizzontale}) {
-        write(mark, pages);
-        const auto document = read();
-        EXPECT_EQ(document.orizzontale, mark == marca_orizzontale);
-        ASSERT_EQ(document.pagine.size(), pages.size());
-        for (std::size_t p = 0; p < pages.size(); ++p) {
-            ASSERT_EQ(document.pagine[p].size(), pages[p].size());
-            for (std::size_t i = 0; i < pages[p].size(); ++i) {
-                expect_same(document.pagine[p][i], pages[p][i]);
-            }
-        }
+    pages long_one = {{logo, rule, shade, heading, amount}, {}};
+    long_one.emplace_back(3000, amount);
+    write(marca_orizzontale, long_one);
+    EXPECT_EQ(read(content()), "landscape" + shown(long_one));
+    write(marca_verticale, {{heading, shade}, {logo, amount}});
+    const std::string whole = content();
+    std::size_t line_ends = 0;
+    for (std::size_t size = 0; size < whole.size(); ++size) {
+        const std::string cut = whole.substr(0, size);
+        line_ends += cut.ends_with("\r\n");
+        const bool between_records = cut.ends_with("\r\n") && line_ends % righe_per_record == 1;
+        EXPECT_EQ(read(cut).starts_with("upright"), between_records) << size;
     }
 }
 
@@ -116,120 +139,52 @@ TEST_F(print_file, AFileThatCannotBeFilledIsLeftEmpty) {
     }
 }
 
-/// A record of eleven lines, as a test wants them.
-std::string lines(const std::vector<std::string>& eleven, const std::string& line_end = "\r\n") {
+/// The eleven lines of a text, one of them with another content.
+std::string text_with(std::size_t line = 1, const std::string& content = " 3 ",
+                      const std::string& line_end = "\r\n") {
+    std::string eleven[] = {" 3 ", " 1 ", " 2 ",   " 0 ", " 0 ", " 9 ",
+                            " 0 ", "x",   "Arial", " 0 ", "0"};
+    eleven[line - 1] = content;
     std::string all;
-    for (const auto& line : eleven) all += line + line_end;
+    for (const auto& one : eleven) all += one + line_end;
     return all;
 }
 
-const std::string upright = "#FILEFORMAT=KLP-RTO\r\n";
-const std::string end_of_page = " 9 \r\n" + lines(std::vector<std::string>(10));
-
-TEST(print_file_reading, OtherWritersFormsOfTheSameAreTaken) {
-    const std::vector<std::string> text = {"3",   "12,5", " -3 ",    "0", "1", " 8,25 ",
-                                           "255", "a b ", "Verdana", "0", "0"};
-    const struct {
-        const char* what;
-        std::string content;
-        std::size_t pages;
-    } cases[] = {
-        {"comma for decimals, no sign position", upright + lines(text) + end_of_page, 1},
-        {"lines ended by one character",
-         "#FILEFORMAT=KLP-RTO\n" + lines(text, "\n") + "9\n\n\n\n\n\n\n\n\n\n\n", 1},
-        {"blanks around the mark", " #FILEFORMAT=KLP-RTO \r\n" + lines(text) + end_of_page, 1},
-        {"no page record at the end", upright + end_of_page + lines(text), 2},
+TEST(print_file_reading, TakesOtherWritersFormsAndPassesOverWhatIsOdd) {
+    const std::string mark = "#FILEFORMAT=KLP-RTO\r\n";
+    const std::string end = " 9 \r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n";
+    const std::string good = text_with();
+    const std::string x = "|3 1 2 0 0 9 0 x Arial 0 0";
+    const auto among_good = [&](std::size_t line, const char* content) {
+        return mark + good + text_with(line, content) + good + good + end;
     };
-    for (const auto& one : cases) {
-        const auto read = leggi_file_di_stampa(one.content);
-        const auto* document = std::get_if<documento_di_stampa>(&read);
-        ASSERT_TRUE(document) << one.what;
-        ASSERT_EQ(document->pagine.size(), one.pages) << one.what;
-        const auto& record = document->pagine.back().at(0);
-        expect_same(record, {testo, 12.5, -3, 0, 1, 8.25, 255, "a b ", "Verdana", 0, 0});
-    }
-}
-
-TEST(print_file_reading, ALineEndInsideATextOfAReportBreaksNoRecord) {
-    std::string content = upright;
-    for (const char* text : {"one\nother", "one\rother"}) {
-        content += lines({"3", "1", "2", "0", "0", "9", "0", text, "Arial", "0", "0"});
-    }
-    const auto read = leggi_file_di_stampa(content + end_of_page);
-    const auto& page = std::get<documento_di_stampa>(read).pagine.at(0);
-    ASSERT_EQ(page.size(), 2U);
-    EXPECT_EQ(page[0].testo, "one\nother");
-    EXPECT_EQ(page[1].testo, "one\rother");
-}
-
-/// Six records of a page, one of them with an odd value.
-TEST(print_file_reading, OddValuesAreCorrectedOrTheirRecordPassedOver) {
-    using enum difetto_di_stampa;
-    const struct {
-        std::size_t line;
-        const char* content;
-        std::optional<difetto_di_stampa> fault;
-        std::size_t kept;
-    } cases[] = {
-        {1, "4", tipo_sconosciuto, 3},        {1, "2.5", tipo_sconosciuto, 3},
-        {2, "Arial", numero_illeggibile, 3},  {11, "- ", numero_illeggibile, 3},
-        {2, "100001", numero_fuori_campo, 4}, {6, "-1E300", numero_fuori_campo, 4},
-        {7, "1E300", std::nullopt, 4},
+    const std::pair<std::string, std::string> cases[] = {
+        {mark + good + end, "upright\n-" + x},
+        {" #FILEFORMAT=KLP-RTO \r\n" + good + end, "upright\n-" + x},
+        {"#FILEFORMAT=KLP-RTO\n" + text_with(1, "3", "\n") + "9\n\n\n\n\n\n\n\n\n\n\n",
+         "upright\n-" + x},
+        {mark + end + good, "upright\n-\n-" + x},
+        {mark + text_with(2, "12,5") + end, "upright\n-|3 12.5 2 0 0 9 0 x Arial 0 0"},
+        {mark + text_with(6, " -8,25 "), "upright\n-|3 1 2 0 0 -8.25 0 x Arial 0 0"},
+        {mark + text_with(8, "one\nother ") + end,
+         "upright\n-|3 1 2 0 0 9 0 one\nother  Arial 0 0"},
+        {mark + text_with(8, "one\rother") + end, "upright\n-|3 1 2 0 0 9 0 one\rother Arial 0 0"},
+        {among_good(1, "4"), "upright, 1 odd: no kind in line 13\n-" + x + x + x},
+        {among_good(1, "2.5"), "upright, 1 odd: no kind in line 13\n-" + x + x + x},
+        {among_good(2, "Arial"), "upright, 1 odd: no number in line 14\n-" + x + x + x},
+        {among_good(11, "- "), "upright, 1 odd: no number in line 23\n-" + x + x + x},
+        {among_good(2, "100001"),
+         "upright, 1 odd: too large in line 14\n-" + x + "|3 100000 2 0 0 9 0 x Arial 0 0" + x + x},
+        {among_good(6, "-1E300"), "upright, 1 odd: too large in line 18\n-" + x +
+                                      "|3 1 2 0 0 -100000 0 x Arial 0 0" + x + x},
+        {among_good(7, "1E300"), "upright\n-" + x + "|3 1 2 0 0 9 1e+300 x Arial 0 0" + x + x},
+        {"", "no mark in line 1"},
+        {"#FILEFORMAT=KLP-RTO-O-O\r\n", "no mark in line 1"},
+        {"%PDF-1.4\r\n", "no mark in line 1"},
+        {"#FILEFORMAT=KLP-RTO", "cut in line 1"},
+        {mark + good + text_with(1, "noise") + text_with(1, "noise"), "no kind in line 13"},
     };
-    for (const auto& one : cases) {
-        std::vector<std::string> good = {" 3 ", " 1 ", " 2 ",   " 0 ", " 0 ", " 9 ",
-                                         " 0 ", "x",   "Arial", " 0 ", " 0 "};
-        auto odd = good;
-        odd[one.line - 1] = one.content;
-        const auto read = leggi_file_di_stampa(upright + lines(good) + lines(odd) + lines(good) +
-                                               lines(good) + end_of_page);
-        const auto& document = std::get<documento_di_stampa>(read);
-        EXPECT_EQ(document.anomalie, one.fault ? 1U : 0U) << one.content;
-        if (one.fault) {
-            EXPECT_EQ(document.prima_anomalia.difetto, *one.fault) << one.content;
-            EXPECT_EQ(document.prima_anomalia.riga, 12 + one.line) << one.content;
-        }
-        ASSERT_EQ(document.pagine.size(), 1U);
-        EXPECT_EQ(document.pagine[0].size(), one.kept) << one.content;
-        for (const auto& record : document.pagine[0]) {
-            EXPECT_LE(std::abs(record.x1) + std::abs(record.corpo), 100'010);
-        }
-    }
-}
-
-TEST(print_file_reading, WhatIsNoPrintFileIsToldWithItsLine) {
-    using enum difetto_di_stampa;
-    const struct {
-        std::string content;
-        difetto_di_stampa fault;
-        std::size_t line;
-    } cases[] = {
-        {"", senza_marca, 1},
-        {"#FILEFORMAT=KLP-RTO-O-O\r\n", senza_marca, 1},
-        {"%PDF-1.4\r\n", senza_marca, 1},
-        {"#FILEFORMAT=KLP-RTO", troncato, 1},
-        {upright + lines(std::vector<std::string>(22, "noise")), tipo_sconosciuto, 2},
-    };
-    for (const auto& one : cases) {
-        const auto read = leggi_file_di_stampa(one.content);
-        const auto* error = std::get_if<errore_di_stampa>(&read);
-        ASSERT_TRUE(error) << one.content;
-        EXPECT_EQ(error->difetto, one.fault) << one.content;
-        EXPECT_EQ(error->riga, one.line) << one.content;
-    }
-}
-
-TEST_F(print_file, AFileCutInsideARecordIsRefused) {
-    write(marca_verticale, {{heading, shade}, {logo, amount}});
-    const std::string whole = content();
-    std::size_t line_ends = 0;
-    for (std::size_t size = 0; size < whole.size(); ++size) {
-        if (size >= 2 && whole.substr(size - 2, 2) == "\r\n") ++line_ends;
-        const bool between_records =
-            whole.substr(0, size).ends_with("\r\n") && line_ends % righe_per_record == 1;
-        const auto read = leggi_file_di_stampa(whole.substr(0, size));
-        EXPECT_EQ(std::holds_alternative<documento_di_stampa>(read), between_records) << size;
-    }
+    for (const auto& [content, expected] : cases) EXPECT_EQ(read(content), expected);
 }
 
 }  // namespace
