@@ -8,17 +8,17 @@
 namespace vantora::ui {
 namespace {
 
-using log = std::vector<std::string>;
-
-/// Two text boxes and a button; notes what happens to it.
+/// Two text boxes, a label and a button; notes what happens to it.
 class noting_form : public form {
  public:
-    noting_form(ui::desk& on, const std::string& named, log& notes)
+    noting_form(ui::desk& on, const std::string& named, std::string& notes)
         : form(on, named, named), notes_(notes) {
         add("primo", primo);
         add("secondo", secondo);
         add("scritta", scritta);
         add("bottone", bottone);
+        add("lista", lista);
+        lista.set_visible(false);
         for (text_box* box : {&primo, &secondo}) {
             box->on_focus = [this, box] { note("+" + box->name()); };
             box->on_blur = [this, box] { note("-" + box->name()); };
@@ -29,6 +29,7 @@ class noting_form : public form {
     text_box secondo;
     label scritta;
     button bottone;
+    list_box lista;
     std::function<void()> when_activated;
 
  protected:
@@ -39,91 +40,99 @@ class noting_form : public form {
     }
 
  private:
-    void note(const std::string& what) { notes_.push_back(name() + " " + what); }
+    void note(const std::string& what) { notes_ += name() + what + " "; }
 
-    log& notes_;
+    std::string& notes_;
 };
 
 class desk_test : public testing::Test {
  protected:
     desk_test() {
-        provide(a, "a");
-        provide(b, "b");
+        for (auto* place : {&a, &b}) {
+            const char* name = place == &a ? "a." : "b.";
+            place->made_by(bench.desk, [this, name] {
+                return std::make_unique<noting_form>(bench.desk, name, notes);
+            });
+        }
     }
-    void provide(screen<noting_form>& place, const char* named) {
-        place.made_by(bench.desk, [this, named] {
-            return std::make_unique<noting_form>(bench.desk, named, notes);
-        });
+
+    struct step {
+        std::function<void()> does;
+        const char* notes;  ///< what the screens note of it
+        const char* focus;  ///< behind it
+    };
+    void walk(const std::vector<step>& steps) {
+        for (const step& one : steps) {
+            notes.clear();
+            one.does();
+            const std::string where = "step " + std::to_string(&one - steps.data());
+            EXPECT_EQ(notes, one.notes) << where;
+            const control* focus = bench.desk.focus();
+            EXPECT_EQ(focus ? focus->owner().name() + focus->address() : "", one.focus) << where;
+        }
     }
-    log taken() { return std::exchange(notes, {}); }
 
     test::bench_desk bench;
-    log notes;
+    ui::desk& desk = bench.desk;
+    std::string notes;
     screen<noting_form> a;
     screen<noting_form> b;
 };
 
 TEST_F(desk_test, ShowingLoadsOnceActivatesAndGivesTheFirstControlTheFocus) {
-    a->show();
-    EXPECT_EQ(taken(), (log{"a load", "a activate", "a +primo"}));
-    a->show();
-    EXPECT_EQ(taken(), log{}) << "showing what is active fires nothing";
-    b->show();
-    EXPECT_EQ(taken(), (log{"b load", "a -primo", "b activate", "b +primo"}));
-    a->secondo.set_focus();
-    EXPECT_EQ(taken(), (log{"b -primo", "a activate", "a +secondo"}));
-    b->when_activated = [&] { b->secondo.set_focus(); };
-    b->show();
-    EXPECT_EQ(taken(), (log{"a -secondo", "b activate", "b +secondo"}))
-        << "a focus given on activation stays";
-    a->show();
-    EXPECT_TRUE(a->secondo.has_focus()) << "a screen remembers where it had the focus";
-}
-
-TEST_F(desk_test, AMessageBoxIsNoReturnFromAnotherScreen) {
-    a->show();
-    taken();
-    bench.user.actions = {[&] { bench.desk.answer_box(answer::ok); }};
-    bench.desk.message("testo", "titolo", icon::stop);
-    EXPECT_EQ(taken(), log{});
+    walk({
+        {[&] { EXPECT_FALSE(a->secondo.set_focus()) << "nobody sees it"; }, "a.load ", ""},
+        {[&] { a->show(); }, "a.activate a.+primo ", "a.primo"},
+        {[&] { a->show(); }, "", "a.primo"},
+        {[&] { b->show(); }, "b.load a.-primo b.activate b.+primo ", "b.primo"},
+        {[&] { a->secondo.set_focus(); }, "b.-primo a.activate a.+secondo ", "a.secondo"},
+        // A focus given on activation stays.
+        {[&] { b->when_activated = [&] { b->secondo.set_focus(); }; }, "", "a.secondo"},
+        {[&] { b->show(); }, "a.-secondo b.activate b.+secondo ", "b.secondo"},
+        // A screen remembers where it had the focus.
+        {[&] { a->show(); }, "b.-secondo a.activate a.+secondo ", "a.secondo"},
+        // A message box is no return from another screen.
+        {[&] {
+             bench.user.actions = {[&] { desk.answer_box(answer::ok); }};
+             desk.message("testo", "titolo", icon::stop);
+         },
+         "", "a.secondo"},
+        // A focus loss may send the focus elsewhere.
+        {[&] { a->secondo.on_blur = [&] { a->bottone.set_focus(); }; }, "", "a.secondo"},
+        {[&] { a->primo.set_focus(); }, "a.-primo ", "a.bottone"},
+    });
 }
 
 TEST_F(desk_test, FocusGoesNowhereHiddenDisabledOrUnshown) {
-    EXPECT_FALSE(a->secondo.set_focus());
     a->show();
-    a->secondo.set_visible(false);
-    EXPECT_FALSE(a->secondo.set_focus());
-    a->secondo.set_visible(true);
-    a->secondo.set_enabled(false);
-    EXPECT_FALSE(a->secondo.set_focus());
-    EXPECT_FALSE(a->scritta.set_focus());
-    EXPECT_EQ(bench.desk.focus(), &a->primo);
-    a->primo.set_visible(false);
-    EXPECT_EQ(bench.desk.focus(), &a->bottone) << "hiding passes the focus on";
-    a->bottone.set_enabled(false);
-    a->primo.set_visible(true);
-    EXPECT_EQ(bench.desk.focus(), nullptr) << "nothing comes back by itself";
-    a->bottone.set_enabled(true);
-    for (ui::control* next :
-         {static_cast<ui::control*>(&a->primo), static_cast<ui::control*>(&a->bottone)}) {
-        bench.desk.tab(false);
-        EXPECT_EQ(bench.desk.focus(), next) << "from nowhere to the first, then past the disabled";
-    }
-    bench.desk.tab(true);
-    EXPECT_EQ(bench.desk.focus(), &a->primo);
+    walk({
+        {[&] { a->secondo.set_visible(false); }, "", "a.primo"},
+        {[&] { EXPECT_FALSE(a->secondo.set_focus()); }, "", "a.primo"},
+        {[&] { a->secondo.set_visible(true); }, "", "a.primo"},
+        {[&] { a->secondo.set_enabled(false); }, "", "a.primo"},
+        {[&] { EXPECT_FALSE(a->secondo.set_focus()); }, "", "a.primo"},
+        {[&] { EXPECT_FALSE(a->scritta.set_focus()); }, "", "a.primo"},
+        // Hiding passes the focus on, and nothing comes back by itself.
+        {[&] { a->primo.set_visible(false); }, "a.-primo ", "a.bottone"},
+        {[&] { a->bottone.set_enabled(false); }, "", ""},
+        {[&] { a->primo.set_visible(true); }, "", ""},
+        {[&] { a->bottone.set_enabled(true); }, "", ""},
+        // From nowhere to the first, then past the disabled one.
+        {[&] { desk.tab(false); }, "a.+primo ", "a.primo"},
+        {[&] { desk.tab(false); }, "a.-primo ", "a.bottone"},
+        {[&] { desk.tab(true); }, "a.+primo ", "a.primo"},
+    });
 }
 
 TEST_F(desk_test, HidingKeepsContentUnloadingDropsIt) {
     a->show();
     a->primo.set_text("resta");
-    a->hide();
-    EXPECT_EQ(bench.desk.active(), nullptr) << "hiding makes no other screen active";
+    walk({{[&] { a->hide(); }, "a.-primo ", ""}});
+    EXPECT_EQ(desk.active(), nullptr) << "hiding makes no other screen active";
     EXPECT_EQ(a->primo.text(), "resta");
-    bench.desk.dispatch([&] { a->unload(); });
+    desk.dispatch([&] { a->unload(); });
     EXPECT_FALSE(a.loaded());
-    taken();
-    EXPECT_EQ(a->primo.text(), "");
-    EXPECT_EQ(taken(), (log{"a load"}));
+    walk({{[&] { EXPECT_EQ(a->primo.text(), ""); }, "a.load ", ""}});
 }
 
 TEST_F(desk_test, AModalScreenBlocksItsCallerAndReturnsToIt) {
@@ -134,72 +143,62 @@ TEST_F(desk_test, AModalScreenBlocksItsCallerAndReturnsToIt) {
         came_back = true;
     };
     bench.user.actions = {[&] {
-        EXPECT_EQ(bench.desk.modal(), &*b);
-        EXPECT_TRUE(bench.desk.obstacle(a->primo).has_value());
+        EXPECT_EQ(desk.modal(), &*b);
+        EXPECT_TRUE(desk.obstacle(a->primo).has_value());
+        EXPECT_TRUE(desk.obstacle(*a).has_value());
         EXPECT_FALSE(came_back);
-        taken();
-        bench.desk.dispatch([&] { b->unload(); });
-        EXPECT_EQ(taken(), (log{"a activate"}));
+        walk({{[&] { desk.dispatch([&] { b->unload(); }); }, "a.activate ", "a.bottone"}});
     }};
-    bench.desk.dispatch([&] { a->bottone.click(); });
+    desk.dispatch([&] { a->bottone.click(); });
     EXPECT_TRUE(came_back);
-    EXPECT_EQ(bench.desk.modal(), nullptr);
-    EXPECT_EQ(bench.desk.active(), &*a);
+    EXPECT_EQ(desk.modal(), nullptr);
+    EXPECT_EQ(desk.active(), &*a);
 }
 
-TEST_F(desk_test, AFocusLossMaySendTheFocusElsewhere) {
-    a->show();
-    a->primo.on_blur = [&] { a->bottone.set_focus(); };
-    taken();
-    a->secondo.set_focus();
-    EXPECT_EQ(bench.desk.focus(), &a->bottone);
-    EXPECT_EQ(taken(), log{"a -secondo"});
-}
-
-TEST_F(desk_test, TheProgramsEndUnwindsNestedWaits) {
-    int closed = 0;
-    bench.desk.at_end = [&] { ++closed; };
-    a->show();
-    bool ran_on = false;
-    bench.user.actions = {
-        [&] {
-            bench.desk.dispatch([&] {
-                bench.desk.ask("dentro?", "", icon::question);
-                ran_on = true;
-            });
-        },
-        [&] { bench.desk.dispatch([&] { bench.desk.end_program(); }); },
-    };
-    bench.desk.dispatch([&] {
-        bench.desk.ask("fuori?", "", icon::question);
-        ran_on = true;
-    });
-    EXPECT_FALSE(ran_on);
-    EXPECT_EQ(closed, 1);
-    ASSERT_TRUE(bench.desk.ended().has_value());
-    EXPECT_FALSE(bench.desk.ended()->fatal);
-    bench.desk.dispatch([&] { ran_on = true; });
-    EXPECT_FALSE(ran_on) << "nothing runs after the end";
+/// Out of two questions, one inside the other, and out of work in which pending events run.
+TEST_F(desk_test, TheProgramsEndUnwindsWhateverRuns) {
+    for (const bool by_pending_events : {false, true}) {
+        test::bench_desk fresh;
+        int closed = 0;
+        fresh.desk.at_end = [&] { ++closed; };
+        bool ran_on = false;
+        const auto end = [&] { fresh.desk.dispatch([&] { fresh.desk.end_program(); }); };
+        const auto ask = [&] {
+            fresh.desk.ask("?", "", icon::question);
+            ran_on = true;
+        };
+        fresh.user.actions = {[&] { fresh.desk.dispatch(ask); }, end};
+        fresh.user.pending = end;
+        fresh.desk.dispatch([&] {
+            if (by_pending_events) fresh.desk.let_events_run();
+            ask();
+        });
+        EXPECT_EQ(closed, 1);
+        ASSERT_TRUE(fresh.desk.ended().has_value());
+        EXPECT_FALSE(fresh.desk.ended()->fatal);
+        EXPECT_FALSE(fresh.desk.open_box());
+        fresh.desk.dispatch([&] { ran_on = true; });
+        EXPECT_FALSE(ran_on) << "nothing runs after the end";
+    }
 }
 
 TEST_F(desk_test, ARunTimeErrorEndsTheProgramWithItsMessage) {
-    struct {
-        std::function<void()> fails;
-        const char* message;
-    } cases[] = {
+    const std::pair<std::function<void()>, const char*> cases[] = {
         {[] { throw overflow_error(); }, "Errore di run-time '6': Overflow"},
         {[] { throw subscript_error(); },
          "Errore di run-time '9': Indice non incluso nell'intervallo"},
         {[] { throw type_error(); }, "Errore di run-time '13': Tipo non corrispondente"},
+        {[] { throw std::logic_error("altro"); }, "altro"},
+        {[] { throw 1; }, "Errore imprevisto"},
     };
-    for (const auto& one : cases) {
+    for (const auto& [fails, message] : cases) {
         test::bench_desk fresh;
         bool closed = false;
         fresh.desk.at_end = [&] { closed = true; };
-        fresh.desk.dispatch(one.fails);
+        fresh.desk.dispatch(fails);
         ASSERT_TRUE(fresh.desk.ended().has_value());
         EXPECT_TRUE(fresh.desk.ended()->fatal);
-        EXPECT_EQ(fresh.desk.ended()->message, one.message);
+        EXPECT_EQ(fresh.desk.ended()->message, message);
         EXPECT_TRUE(closed);
     }
 }
@@ -209,63 +208,33 @@ TEST_F(desk_test, WaitingIsToldOnlyWhileNoBoxIsOpen) {
     bool done = false;
     bench.user.actions = {
         [&] {
-            EXPECT_TRUE(bench.desk.waiting());
-            bench.desk.message("Fatto", "Attenzione", icon::information);
+            EXPECT_TRUE(desk.waiting());
+            desk.message("Fatto", "Attenzione", icon::information);
             done = true;
         },
         [&] {
-            EXPECT_FALSE(bench.desk.waiting());
-            EXPECT_TRUE(bench.desk.obstacle(a->primo).has_value());
-            bench.desk.answer_box(answer::ok);
+            EXPECT_FALSE(desk.waiting());
+            EXPECT_TRUE(desk.obstacle(a->primo).has_value());
+            EXPECT_FALSE(desk.answer_box(answer::yes)) << "it has no such button";
+            desk.answer_box(answer::ok);
         },
     };
-    bench.desk.dispatch([&] { bench.desk.wait_until([&] { return done; }); });
-    EXPECT_FALSE(bench.desk.waiting());
-    EXPECT_FALSE(bench.desk.ended().has_value());
+    desk.dispatch([&] { desk.wait_until([&] { return done; }); });
+    EXPECT_FALSE(desk.waiting());
+    EXPECT_FALSE(desk.ended().has_value());
+    bench.user.actions = {[&] { desk.dispatch([&] { desk.end_program(); }); }};
+    desk.dispatch([&] { desk.wait_until([] { return false; }); });
+    EXPECT_FALSE(desk.waiting()) << "nobody waits behind the end";
 }
 
 TEST_F(desk_test, AListMayBeEmptiedByTheFocusThatComesToIt) {
-    class list_form final : public form {
-     public:
-        explicit list_form(ui::desk& on) : form(on, "l", "") {
-            add("inizio", inizio);
-            add("lista", lista);
-            lista.add_all({"a", "b"});
-            lista.on_focus = [this] { lista.clear(); };
-            lista.on_click = [] { ADD_FAILURE() << "there is no entry any more"; };
-        }
-        button inizio;
-        list_box lista;
-    };
-    auto& shown = static_cast<list_form&>(bench.desk.load(std::make_unique<list_form>(bench.desk)));
-    shown.show();
-    EXPECT_FALSE(shown.lista.pick(1));
-    EXPECT_EQ(shown.lista.chosen(), -1);
-}
-
-TEST_F(desk_test, PendingEventsMayEndTheProgramInTheMidstOfWork) {
     a->show();
-    bench.user.pending = [&] { bench.desk.dispatch([&] { bench.desk.end_program(); }); };
-    bool ran_on = false;
-    bench.desk.dispatch([&] {
-        bench.desk.let_events_run();
-        ran_on = true;
-    });
-    EXPECT_FALSE(ran_on);
-}
-
-TEST_F(desk_test, QueuedAnswersServeTheBoxesThatHaveTheirButton) {
-    a->show();
-    bench.desk.queue_answer(answer::no);
-    EXPECT_FALSE(bench.desk.ask("?", "", icon::question));
-    bench.desk.queue_answer(answer::yes);
-    bench.user.actions = {[&] {
-        EXPECT_FALSE(bench.desk.answer_box(answer::yes)) << "it has no such button";
-        EXPECT_TRUE(bench.desk.answer_box(answer::ok));
-    }};
-    bench.desk.message("!", "", icon::stop);
-    EXPECT_TRUE(bench.desk.ask("?", "", icon::question));
-    EXPECT_EQ(bench.desk.take_answered().size(), 2U);
+    a->lista.set_visible(true);
+    a->lista.add_all({"a", "b"});
+    a->lista.on_focus = [&] { a->lista.clear(); };
+    a->lista.on_click = [] { ADD_FAILURE() << "there is no entry any more"; };
+    EXPECT_FALSE(a->lista.pick(1));
+    EXPECT_EQ(a->lista.chosen(), -1);
 }
 
 }  // namespace
