@@ -1,6 +1,8 @@
 #include "ui/desktop/form_window.h"
 
+#include <QAccessible>
 #include <QCloseEvent>
+#include <QGroupBox>
 #include <QGuiApplication>
 #include <QLineEdit>
 #include <QScreen>
@@ -41,6 +43,7 @@ form_window::form_window(form& screen, user_action act, std::function<void(form&
     follow_controls_by_tab();
     lay_out(*this);
     make_scrollable();
+    name_the_rest();
     if (remember_) recall();
 }
 
@@ -114,6 +117,23 @@ void form_window::follow_controls_by_tab() {
         if (one->focusable()) stops.push_back(&binders_.at(one)->widget());
     }
     set_tab_order(stops);
+}
+
+void form_window::name_the_rest() {
+    for (const auto& [model, one] : binders_) {
+        if (model->kind() == control_kind::label || model->kind() == control_kind::picture)
+            continue;
+        QWidget& control = one->widget();
+        const QAccessibleInterface* heard = QAccessible::queryAccessibleInterface(&control);
+        if (!heard || !heard->text(QAccessible::Name).isEmpty()) continue;
+        QString name = windowTitle();
+        for (const QWidget* around = control.parentWidget(); around != this;
+             around = around->parentWidget()) {
+            const auto* frame = qobject_cast<const QGroupBox*>(around);
+            if (frame) name = frame->title().remove('&');
+        }
+        control.setAccessibleName(name);
+    }
 }
 
 void form_window::set_tab_order(const std::vector<QWidget*>& stops) {

@@ -85,6 +85,8 @@ class form_window final : public QWidget {
 
  private:
     void follow_controls_by_tab();
+    /// What has no caption is called by what it is for, or by where it stands.
+    void name_the_rest();
     void recall();
     /// Puts what the layout arranged into an area that scrolls where the screen is too small.
     void make_scrollable();

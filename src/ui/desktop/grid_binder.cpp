@@ -7,6 +7,7 @@
 #include "ui/desktop/kinds.h"
 #include "ui/desktop/widget_binder.h"
 #include "ui/grid.h"
+#include "ui/look/contrast.h"
 
 namespace vantora::ui::desktop {
 
@@ -34,6 +35,8 @@ class cells_model final : public QAbstractTableModel {
                 return shown(grid_.text(row, col));
             case Qt::BackgroundRole:
                 return toolkit_colour(grid_.back_colour(row, col));
+            case Qt::ForegroundRole:
+                return readable_on(toolkit_colour(grid_.back_colour(row, col)));
             case Qt::TextAlignmentRole:
                 return aligned(col);
             case Qt::FontRole:

@@ -127,6 +127,7 @@ bool grid_view::eventFilter(QObject* watched, QEvent* event) {
 
 void grid_view::keep_above(int column, QWidget* widget) {
     above_.push_back({column, widget});
+    call_by_column(above_.back());
     if (auto* button = qobject_cast<QAbstractButton*>(widget)) {
         connect(button, &QAbstractButton::clicked, this, [this, column] { show_sorted(column); });
     }
@@ -138,7 +139,19 @@ void grid_view::keep_over(QWidget* widget, int column) {
     widget->setParent(viewport());
     widget->setVisible(seen);
     over_.push_back({column, widget});
+    call_by_column(over_.back());
     place_followers();
+}
+
+void grid_view::call_by_column(const follower& one) {
+    const auto call = [this, one] {
+        const auto* button = qobject_cast<QAbstractButton*>(one.widget);
+        const QString head = model()->headerData(one.column, Qt::Horizontal).toString();
+        one.widget->setAccessibleName(
+            ((button ? button->text() + ' ' : QString()) + head).trimmed());
+    };
+    call();
+    connect(model(), &QAbstractItemModel::modelReset, one.widget, call);
 }
 
 void grid_view::set_off(int column, std::string text) {

@@ -67,6 +67,8 @@ class grid_view final : public QTableView {
         QWidget* widget;
     };
 
+    /// Those who listen hear a follower's own text and the head of its column.
+    void call_by_column(const follower& one);
     void align_first_row();
     void head_clicked(int column);
     void take_dragged_widths();

@@ -82,7 +82,7 @@ class date_binder final : public widget_binder {
         edit_->calendarWidget()->setFirstDayOfWeek(Qt::Monday);
         edit_->calendarWidget()->setMinimumSize(330, 240);
         QPalette greyed = edit_->calendarWidget()->palette();
-        greyed.setColor(QPalette::Disabled, QPalette::Text, QColor("#98a3ad"));
+        greyed.setColor(QPalette::Disabled, QPalette::Text, QColor("#6a7783"));
         edit_->calendarWidget()->setPalette(greyed);
         connect(edit_, &QDateEdit::dateChanged, this, [this](QDate day) {
             if (showing()) return;

@@ -63,18 +63,18 @@ QToolButton { border: 1px solid transparent; border-radius: 5px; padding: 4px 8p
 QToolButton:hover { background: #e3edf6; border-color: #c3d6e6; }
 QToolButton:pressed { background: #cfe0ee; padding: 5px 8px 3px 8px; }
 QToolButton:focus { border-color: #2f6ea5; }
-QToolButton:disabled { color: #616d78; }
-QToolButton[look="plain"] { background: #f6f8fa; border-color: #c5ced6; }
+QToolButton:disabled { color: #5a6671; }
+QToolButton[look="plain"] { background: #f6f8fa; border-color: #808d99; }
 QToolButton[look="plain"]:hover { background: #e3edf6; }
 QToolButton[look="plain"]:focus { border-color: #2f6ea5; }
-QToolButton[look="sort"] { background: #eef2f6; border-color: #d3dbe2; padding: 1px 4px;
+QToolButton[look="sort"] { background: #eef2f6; border-color: #808d99; padding: 1px 4px;
                            color: #41576a; }
 QToolButton[look="sort"]:hover { background: #e3edf6; }
 QToolButton[look="sort"]:focus { border-color: #2f6ea5; }
 QToolButton[look="main"] { background: #24527a; color: white; border-color: #24527a;
                            padding: 6px 14px; font-weight: 600; }
 QToolButton[look="main"]:hover { background: #2f6ea5; }
-QToolButton[look="main"]:focus { border: 2px solid #8fc0e8; }
+QToolButton[look="main"]:focus { border: 2px solid #8fc0e8; background: #24527a; }
 QToolButton[look="blank"] { background: transparent; border: none; }
 QLineEdit, QComboBox, QDateEdit { border: 1px solid #84919d; border-radius: 4px; padding: 3px 5px;
                        background: white; selection-background-color: #2f6ea5; }
@@ -89,7 +89,7 @@ QDateEdit[look="calendar"]::down-arrow { image: url(:/icons/scadenziario.svg); w
                        height: 17px; }
 QDateEdit[look="calendar"]:focus { border: 1px solid #2f6ea5; background: #d8e9f8; }
 QLineEdit:disabled, QComboBox:disabled, QListView:disabled { background: #e8ecf0;
-                       color: #616d78; }
+                       color: #5a6671; }
 QLineEdit[cell="true"] { border-radius: 0; padding: 2px 4px; border-color: #84919d; }
 QLineEdit[cell="current"] { border-radius: 0; padding: 2px 4px; border-color: #5f8fb8;
                        background: #eaf3fb; }
@@ -97,12 +97,13 @@ QLineEdit[cell]:focus { border: 1px solid #2f6ea5; background: #fff8dc; }
 QLineEdit[look="over"] { border: 1px solid #2f6ea5; border-radius: 0; padding: 0 3px;
                        background: #fff8dc; }
 QComboBox[look="over"] { border: 1px solid #2f6ea5; background: #fff8dc; border-radius: 2px; }
-QCheckBox:focus, QRadioButton:focus { background: #dcebf8; border-radius: 3px; }
-QPushButton { border: 1px solid #c5ced6; border-radius: 5px; background: #f6f8fa;
+QCheckBox, QRadioButton { border: 1px solid transparent; border-radius: 3px; }
+QCheckBox:focus, QRadioButton:focus { background: #dcebf8; border-color: #2f6ea5; }
+QPushButton { border: 1px solid #808d99; border-radius: 5px; background: #f6f8fa;
               padding: 5px 16px; min-width: 62px; }
 QPushButton:hover { background: #e3edf6; }
 QPushButton:pressed { background: #cfe0ee; }
-QPushButton:disabled { color: #616d78; }
+QPushButton:disabled { color: #5a6671; }
 QPushButton:default { border-color: #2f6ea5; }
 QPushButton:focus { border: 2px solid #2f6ea5; padding: 4px 15px; }
 QMessageBox QLabel#qt_msgbox_label { padding: 8px 8px 8px 2px; }
@@ -116,13 +117,13 @@ QGroupBox { border: 1px solid #d3dbe2; border-radius: 6px; margin-top: 9px; padd
             background: #fbfcfd; }
 QGroupBox::title { subcontrol-origin: margin; left: 10px; padding: 0 4px; color: #24527a;
                    font-weight: 600; }
-QTableView { border: 1px solid #c5ced6; background: white; gridline-color: #e6ebef;
+QTableView { border: 1px solid #808d99; background: white; gridline-color: #e6ebef;
              selection-background-color: #2f6ea5; selection-color: white; }
 QTableView:focus, QListView:focus { border: 1px solid #2f6ea5; }
-QListView { border: 1px solid #c5ced6; background: white; selection-background-color: #2f6ea5;
+QListView { border: 1px solid #808d99; background: white; selection-background-color: #2f6ea5;
             selection-color: white; }
 QHeaderView::section { background: #e9eef3; color: #24527a; border: none;
-                       border-right: 1px solid #d3dbe2; border-bottom: 1px solid #c5ced6;
+                       border-right: 1px solid #788591; border-bottom: 1px solid #c5ced6;
                        padding: 3px 6px; font-weight: 600; }
 QHeaderView::down-arrow { image: url(:/icons/su.svg); width: 12px; height: 12px; }
 QScrollBar { background: #eef1f4; }
@@ -145,11 +146,11 @@ QScrollBar::down-arrow { image: url(:/icons/giu.svg); width: 11px; height: 11px;
 QScrollBar::up-arrow { image: url(:/icons/su.svg); width: 11px; height: 11px; }
 QScrollBar::right-arrow { image: url(:/icons/avanti.svg); width: 11px; height: 11px; }
 QScrollBar::left-arrow { image: url(:/icons/indietro.svg); width: 11px; height: 11px; }
-QSplitter::handle { background: transparent; }
-QSplitter::handle:hover { background: #c3d6e6; }
-QProgressBar { border: 1px solid #c5ced6; border-radius: 4px; text-align: center;
+QSplitter::handle { background: #808d99; margin: 120px 4px; border-radius: 1px; }
+QSplitter::handle:hover { background: #2f6ea5; }
+QProgressBar { border: 1px solid #808d99; border-radius: 4px; text-align: center;
                background: white; }
-QProgressBar::chunk { background: #7fb2da; border-radius: 3px; }
+QProgressBar::chunk { background: #5e97c5; border-radius: 3px; }
 QLabel[role="number"] { color: #586673; }
 QFrame[role="stock"] { background: #eef3f7; border: 1px solid #d3dbe2; border-radius: 4px; }
 QLabel[role="link"] { color: #1d66a6; text-decoration: underline; }
@@ -179,12 +180,13 @@ void dress_application(QApplication& application) {
     palette.setColor(QPalette::Base, Qt::white);
     palette.setColor(QPalette::AlternateBase, QColor("#f3f6f9"));
     palette.setColor(QPalette::Text, QColor("#1e2b36"));
+    palette.setColor(QPalette::PlaceholderText, QColor("#5a6671"));
     palette.setColor(QPalette::Button, QColor("#eef2f6"));
     palette.setColor(QPalette::ButtonText, QColor("#1e2b36"));
     palette.setColor(QPalette::Highlight, QColor("#2f6ea5"));
     palette.setColor(QPalette::HighlightedText, Qt::white);
     for (const auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText}) {
-        palette.setColor(QPalette::Disabled, role, QColor("#616d78"));
+        palette.setColor(QPalette::Disabled, role, QColor("#5a6671"));
     }
     QApplication::setPalette(palette);
     QFont font = QApplication::font();

@@ -56,6 +56,9 @@ QGridLayout* add_frame(form_window& window, QGroupBox* box, std::span<const fram
     fields->setVerticalSpacing(4);
     fields->setContentsMargins(8, 4, 8, 4);
     fields->setColumnStretch(1, 1);
+    // Fields that have no caption of their own are called by the one before, and their number.
+    QString called;
+    int since_caption = 0;
     for (const frame_row& row : rows) {
         const int at = fields->rowCount();
         auto* line = new QHBoxLayout;
@@ -63,6 +66,11 @@ QGridLayout* add_frame(form_window& window, QGroupBox* box, std::span<const fram
         bool stretches = false;
         for (const frame_field& field : row.fields) {
             QWidget* one = field_of(window, field);
+            const char* own = &field == &row.fields.front() ? row.caption : field.caption;
+            if (*own != '\0') called = spoken(own);
+            since_caption = *own != '\0' ? 1 : since_caption + 1;
+            one->setAccessibleName(
+                since_caption == 1 ? called : QString("%1, %2").arg(called).arg(since_caption));
             if (*field.caption != '\0') {
                 line->addSpacing(8);
                 line->addWidget(caption_of(one, field.caption, box));
@@ -109,7 +117,8 @@ QFrame* search_bar(form_window& window) {
 
     auto* line = new QHBoxLayout;
     line->setSpacing(8);
-    line->addWidget(caption("Nome/Ragione sociale cliente da cercare:", bar));
+    line->addWidget(
+        caption_of(window.widget("nome"), "Nome/Ragione sociale cliente da cercare:", bar));
     line->addWidget(window.widget("nome"), 2);
     window.dress("b_cerca", -1, {"cerca", "&Cerca", "Cerca il cliente per nome", "F3"},
                  Qt::ToolButtonTextBesideIcon);

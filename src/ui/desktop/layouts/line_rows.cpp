@@ -40,10 +40,11 @@ line_rows::line_rows(form_window& window)
         set_look(label, "role", "number");
     }
     set_look(pick_, "look", "over");
+    // Those who read know it by the column that it lies over.
+    caption_of(pick_, "Codice iva", &window)->hide();
     pick_->installEventFilter(this);
     take_wheel_over(bar_);
-    show_numbers(bar_->value());
-    connect(bar_, &QScrollBar::valueChanged, this, [this](int first) { show_numbers(first); });
+    connect(bar_, &QScrollBar::valueChanged, this, [this] { show_numbers(); });
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
         const auto cell = place_of_.constFind(now);
         if (cell == place_of_.constEnd()) return;
@@ -61,9 +62,10 @@ line_rows::line_rows(form_window& window)
     });
 }
 
-void line_rows::add_cell(const char* name, int row, QWidget* cell) {
+void line_rows::add_cell(const char* name, const char* head, int row, QWidget* cell) {
     if (row == 0) {
         columns_.push_back(name);
+        heads_ << (*head != '\0' ? spoken(head) : heads_.back() + " 2");
         cells_.emplace_back();
     }
     set_look(cell, "cell", "true");
@@ -80,6 +82,10 @@ void line_rows::mark(int row) {
     if (row == current_) return;
     for (const int changed : {current_, row}) {
         if (changed < 0) continue;
+        // Not by colour alone.
+        QFont font = number(changed)->font();
+        font.setBold(changed == row);
+        number(changed)->setFont(font);
         for (const auto& column : cells_) {
             QWidget* cell = column[static_cast<std::size_t>(changed)];
             set_look(cell, "cell", changed == row ? "current" : "true");
@@ -94,8 +100,17 @@ void line_rows::go_back() {
     if (last_cell_) last_cell_->setFocus(Qt::ShortcutFocusReason);
 }
 
-void line_rows::show_numbers(int first) {
-    for (int row = 0; row < count; ++row) number(row)->setText(QString::number(first + row));
+void line_rows::show_numbers() {
+    const int first = bar_->value();
+    for (int row = 0; row < count; ++row) {
+        number(row)->setText(QString::number(first + row));
+        for (std::size_t column = 0; column < cells_.size(); ++column) {
+            cells_[column][static_cast<std::size_t>(row)]->setAccessibleName(
+                QString("%1, riga %2")
+                    .arg(heads_[static_cast<qsizetype>(column)])
+                    .arg(first + row));
+        }
+    }
 }
 
 void line_rows::place_pick() {

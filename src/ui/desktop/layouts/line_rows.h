@@ -2,6 +2,7 @@
 
 #include <QHash>
 #include <QObject>
+#include <QStringList>
 #include <array>
 #include <vector>
 
@@ -26,10 +27,14 @@ class line_rows final : public QObject {
     /// REQUIRES: the window's cells are made. The object belongs to the window.
     explicit line_rows(form_window& window);
 
-    /// Column by column from left to right, row by row; `name` outlives the object.
-    void add_cell(const char* name, int row, QWidget* cell);
+    /// Column by column from left to right, row by row; `name` outlives the object. Those who
+    /// listen hear `head`, or if it is empty the one before, and the line's number.
+    void add_cell(const char* name, const char* head, int row, QWidget* cell);
     /// Where the wheel moves the lines.
     void take_wheel_over(QWidget* area);
+    /// Numbers the lines that stand in the rows. Called once all cells are added, and from then on
+    /// by the scroll bar.
+    void show_numbers();
     /// The number of a row's line, to be placed before its cells.
     [[nodiscard]] QLabel* number(int row) const { return numbers_[static_cast<std::size_t>(row)]; }
     [[nodiscard]] int current() const { return current_; }
@@ -48,7 +53,6 @@ class line_rows final : public QObject {
     };
 
     void mark(int row);
-    void show_numbers(int first);
     void place_pick();
     bool key_pressed(const place& from, int key);
     /// To a cell; a row above or below the twelve scrolls by one. False past the first and the
@@ -63,6 +67,7 @@ class line_rows final : public QObject {
     QComboBox* pick_;
     std::array<QLabel*, count> numbers_{};
     std::vector<const char*> columns_;
+    QStringList heads_;                               ///< as they are heard
     std::vector<std::array<QWidget*, count>> cells_;  ///< by column
     QHash<const QObject*, place> place_of_;
     int current_ = -1;

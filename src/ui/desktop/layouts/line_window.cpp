@@ -64,7 +64,7 @@ void add_column(form_window& window, line_rows& lines, QGridLayout* cells, const
     cells->addWidget(head, 0, at);
     for (int row = 0; row < rows; ++row) {
         auto* cell = window.as<QLineEdit>(one.control, row);
-        lines.add_cell(one.control, row, cell);
+        lines.add_cell(one.control, one.head, row, cell);
         set_look(cell, "column", one.control);
         if (one.number) cell->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         if (one.characters > 0) sized(cell, one.characters);
@@ -101,6 +101,7 @@ QGroupBox* line_frame(form_window& window) {
     for (const column& one : columns) {
         if (window.screen().find(one.control, 0)) add_column(window, *lines, cells, one);
     }
+    lines->show_numbers();
     auto* bar = window.as<QScrollBar>("VScroll1");
     bar->setOrientation(Qt::Vertical);
     bar->setFixedWidth(18);

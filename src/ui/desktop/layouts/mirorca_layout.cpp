@@ -15,12 +15,15 @@ QFrame* movement_bar(form_window& window) {
     add_shortcut(*unload, "Alt+G");
     line->addWidget(unload);
     line->addSpacing(18);
-    line->addWidget(caption("Movimento", bar));
-    line->addWidget(sized(window.widget("text1", 1), 14));
-    line->addWidget(caption("Data", bar));
-    line->addWidget(window.widget("Text"));
-    line->addWidget(caption("Documento", bar));
-    line->addWidget(window.widget("text1", 0), 1);
+    QWidget* document = window.widget("text1", 0);
+    QWidget* movement = window.widget("text1", 1);
+    QWidget* day = window.widget("Text");
+    line->addWidget(caption_of(movement, "Movimento", bar));
+    line->addWidget(sized(movement, 14));
+    line->addWidget(caption_of(day, "Data", bar));
+    line->addWidget(day);
+    line->addWidget(caption_of(document, "Documento", bar));
+    line->addWidget(document, 1);
     return bar;
 }
 

@@ -4,6 +4,7 @@
 
 #include "ui/desktop/layouts.h"
 #include "ui/desktop/layouts/parts.h"
+#include "ui/look/contrast.h"
 
 namespace vantora::ui::desktop {
 
@@ -22,7 +23,9 @@ class leaving_rows final : public QStyledItemDelegate {
         QStyledItemDelegate::initStyleOption(option, index);
         option->text = option->text.trimmed();
         if (index.siblingAtColumn(evaso).data().toString().isEmpty()) return;
-        option->backgroundBrush = QColor(0xd7, 0xef, 0xdc);
+        const QColor leaving(0xd7, 0xef, 0xdc);
+        option->backgroundBrush = leaving;
+        option->palette.setColor(QPalette::Text, readable_on(leaving));
         if (index.column() == evaso) option->font.setBold(true);
     }
 };

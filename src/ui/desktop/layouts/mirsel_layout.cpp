@@ -8,8 +8,8 @@ void lay_out_mirsel(form_window& window) {
     all->setContentsMargins(12, 10, 12, 12);
     all->setSpacing(8);
     auto* line = new QHBoxLayout;
-    line->addWidget(caption("Parte del nome", &window));
     auto* part = window.widget("selnome");
+    line->addWidget(caption_of(part, "Parte del nome", &window));
     part->setMaximumWidth(360);
     part->setEnabled(true);
     line->addWidget(part, 1);

@@ -8,11 +8,15 @@ QLabel* caption(const char* utf8, QWidget* parent) {
     return label;
 }
 
+QString spoken(const char* utf8) {
+    return QString::fromUtf8(utf8).remove('&').replace('\n', ' ').trimmed();
+}
+
 QLabel* caption_of(QWidget* field, const char* utf8, QWidget* parent) {
     QLabel* label = caption(utf8, parent);
     label->setBuddy(field);
     if (field->accessibleName().isEmpty()) {
-        field->setAccessibleName(label->text().remove('&').replace('\n', ' '));
+        field->setAccessibleName(spoken(utf8));
     }
     return label;
 }

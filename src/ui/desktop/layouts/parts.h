@@ -20,6 +20,9 @@ QLabel* caption(const char* utf8, QWidget* parent);
 /// The same, for a field that it names: to the keyboard and to those who listen instead of reading.
 QLabel* caption_of(QWidget* field, const char* utf8, QWidget* parent);
 
+/// A caption as those hear it who listen.
+QString spoken(const char* utf8);
+
 /// A text box made so wide that about `characters` fit.
 QWidget* sized(QWidget* field, int characters);
 

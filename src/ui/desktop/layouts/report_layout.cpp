@@ -100,10 +100,9 @@ QHBoxLayout* filter_row(form_window& window, std::span<const filter_look> filter
             field->setMinimumWidth(field->width());
             field->setMaximumWidth(2 * field->width());
         }
-        auto* above = caption(one.caption, &window);
+        auto* above = caption_of(field, one.caption, &window);
         above->setAlignment(Qt::AlignLeft);
         set_look(above, "role", "faint");
-        above->setBuddy(field);
         auto* column = new QVBoxLayout;
         column->setSpacing(2);
         column->addWidget(above);

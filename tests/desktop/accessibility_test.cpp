@@ -1,0 +1,143 @@
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QGroupBox>
+#include <QLabel>
+#include <QRegularExpression>
+#include <QTableView>
+#include <random>
+#include <set>
+
+#include "app/start.h"
+#include "scripted/small_company.h"
+#include "store/drive.h"
+#include "ui/look/contrast.h"
+#include "ui/pictures/pixbuf_decoder.h"
+#include "window_bench.h"
+
+namespace vantora::ui::desktop {
+namespace {
+
+const std::set fields{QAccessible::EditableText, QAccessible::ComboBox, QAccessible::SpinBox,
+                      QAccessible::List, QAccessible::Table};
+const std::set others{QAccessible::Button, QAccessible::CheckBox, QAccessible::RadioButton,
+                      QAccessible::ScrollBar, QAccessible::ProgressBar};
+
+/// What those who listen hear; a drop-down list's own name is its choice.
+QString heard_name(const QAccessibleInterface& of) {
+    if (of.role() != QAccessible::ComboBox) return of.text(QAccessible::Name);
+    const auto labels = of.relations(QAccessible::Label);
+    return labels.empty() ? QString() : labels.front().first->text(QAccessible::Name);
+}
+
+/// All that can be read in a window and names something.
+QStringList captions_of(const QWidget& window) {
+    QStringList all{window.windowTitle()};
+    for (const auto* one : window.findChildren<QLabel*>()) all << one->text();
+    for (const auto* one : window.findChildren<QGroupBox*>()) all << one->title();
+    for (const auto* one : window.findChildren<QTableView*>()) {
+        for (int column = 0; one->model() && column < one->model()->columnCount(); ++column) {
+            all << one->model()->headerData(column, Qt::Horizontal).toString();
+        }
+    }
+    for (QString& one : all) one = one.remove('&').simplified();
+    all.removeAll(QString());
+    return all;
+}
+
+/// The controls below `at` that those who listen can't tell, or fields that they call otherwise
+/// than those who read. Counts the controls.
+int collect_nameless(QAccessibleInterface* at, const QStringList& captions, QStringList& found) {
+    if (at->object()->objectName().endsWith("container")) return 0;  // the toolkit's scroll bars
+    if (fields.contains(at->role()) || others.contains(at->role())) {
+        const QString name = heard_name(*at).simplified();
+        const auto begins = [&](const QString& one) { return name.startsWith(one); };
+        const bool called = others.contains(at->role()) || std::ranges::any_of(captions, begins);
+        if (name.isEmpty() || !called) found << at->object()->objectName() + '"' + name + '"';
+        return 1;
+    }
+    int controls = 0;
+    for (int i = 0; i < at->childCount(); ++i) {
+        controls += collect_nameless(at->child(i), captions, found);
+    }
+    return controls;
+}
+
+TEST(accessibility, EveryControlOfEveryScreenIsCalledByItsCaption) {
+    const vantora::test::small_company company;
+    drive files(company.drive());
+    test::window_bench bench;
+    ui::pixbuf_decoder pictures;
+    program app(files, bench.desk, pictures);
+    screen_place* const screens[] = {
+        &app.mirorc,  &app.mirorcx, &app.mirorcm, &app.mirsel,  &app.mirdata, &app.mirorcs,
+        &app.mirorcz, &app.mirorcb, &app.mirpref, &app.mirorcc, &app.mirorcr, &app.mirorca,
+        &app.mirstoe, &app.mirstos, &app.mirstov, &app.mirston, &app.mirstoa};
+    const auto hear_all = [&] {
+        for (screen_place* place : screens) {
+            form* screen = nullptr;
+            bench.desk.dispatch([&] { screen = &place->use(); });
+            for (QWidget* window : QApplication::topLevelWidgets()) {
+                if (window->objectName() != QString::fromStdString(screen->name())) continue;
+                QStringList nameless;
+                auto* heard = QAccessible::queryAccessibleInterface(window);
+                EXPECT_GE(collect_nameless(heard, captions_of(*window), nameless), 1);
+                EXPECT_EQ(nameless.join(", ").toStdString(), "") << screen->name();
+            }
+        }
+    };
+    bench.run([&] { start(app, "ordini001"); }, {hear_all});
+}
+
+TEST(accessibility, TextsLinesAndHandlesStandOut) {
+    const QPalette palette = (test::application(), QApplication::palette());
+    const QColor window = palette.color(QPalette::Window);
+    static const QRegularExpression rule("([^{}]+)\\{([^}]*)\\}");
+    // Lines of what can't be used now, or is under the mouse, or is only adorned by them.
+    static const QRegularExpression no_line(":hover|:disabled|^QGroupBox|^QToolTip|\\[role=");
+    int rules = 0;
+    for (auto found = rule.globalMatch(qApp->styleSheet()); found.hasNext(); ++rules) {
+        const auto match = found.next();
+        const QString selector = match.captured(1).simplified();
+        const auto colour = [&](const char* names) {
+            const QRegularExpression value(
+                QString("(?<![\\w-])(%1):[^;]*(#[0-9a-f]{6}|white)").arg(names));
+            return QColor(value.match(match.captured(2)).captured(2));
+        };
+        const QColor ground = colour("background");
+        const QColor text = colour("color");
+        const QColor line = colour("border|border-color|border-right");
+        const bool focus = selector.contains(":focus");
+        SCOPED_TRACE(selector.toStdString());
+        if (text.isValid()) {
+            // Bars are the darkest of what texts stand on.
+            EXPECT_GE(contrast(text, ground.isValid() ? ground : QColor("#eef3f7")),
+                      text_contrast_min);
+        }
+        if (line.isValid() && (focus || !no_line.match(selector).hasMatch())) {
+            const double inside = ground.isValid() ? contrast(line, ground) : 1;
+            EXPECT_GE(std::max(inside, contrast(line, window)), line_contrast_min);
+        }
+        const bool moves = selector.contains("::handle") || selector.contains("::chunk");
+        if (moves && ground.isValid() && !selector.contains(":disabled")) {
+            EXPECT_GE(contrast(ground, Qt::white), line_contrast_min);
+        }
+        EXPECT_TRUE(!focus || moves || line.isValid()) << "told by colour alone";
+    }
+    EXPECT_GT(rules, 50);
+    for (const auto group : {QPalette::Active, QPalette::Disabled}) {
+        for (const auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText,
+                                QPalette::PlaceholderText}) {
+            EXPECT_GE(contrast(palette.color(group, role), QColor("#e8ecf0")), text_contrast_min);
+        }
+    }
+    // Whatever colour an archive gives the rows of its lists.
+    std::mt19937 random(5);
+    for (int i = 0; i < 2000; ++i) {
+        const QColor stripe = QColor::fromRgb(static_cast<QRgb>(random()));
+        EXPECT_GE(contrast(readable_on(stripe), stripe), text_contrast_min);
+    }
+}
+
+}  // namespace
+}  // namespace vantora::ui::desktop
