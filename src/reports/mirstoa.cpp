@@ -3,9 +3,10 @@
 #include <algorithm>
 
 #include "program/customer_names.h"
+#include "reports/key_range.h"
 #include "store/company.h"
 #include "store/key_index.h"
-#include "store/text/dates.h"
+#include "store/record_stretches.h"
 #include "store/text/number_text.h"
 #include "store/text_reader.h"
 
@@ -81,10 +82,10 @@ struct mirstoa::filtri {
     std::string descrizione;
 };
 
-mirstoa::mirstoa(program& app) : sheet_report(app, schede_articoli()) {}
+mirstoa::mirstoa(program& app) : sheets_report(app, schede_articoli()) {}
 
 void mirstoa::load() {
-    sheet_report::load();
+    sheets_report::load();
     std::vector<std::string> categories{"Tutte le categorie"};
     text_reader reader(
         app_.files.read_whole(file_azienda(app_.parameters.numero_azienda, "tb2")).value_or(""));
@@ -99,29 +100,18 @@ int mirstoa::last_step(const limiti_ordini&) const {
 
 // One read for 512 entries of the index, one for every 32 articles, one an order, then one for
 // every 32 customers in question.
-void mirstoa::fill(list_rows& list, const limiti_ordini& orders) {
-    plan(articoli_.quanti, orders);
-    raccolta found{{}, sheet_rows<riga>(righe_report), {}};
-    if (!choose_articles(found)) return;
+void mirstoa::walk_orders(const raccolta&, const limiti_ordini& orders) {
     ordini_.walk_blocks(orders.primo, orders.ultimo);
-    for (int order = orders.primo; order <= orders.ultimo && !found.righe.complete(); ++order) {
-        take_rows(found, order);
-        if (!order_done()) return;
-    }
-    list_sheets(list, found);
 }
 
-bool mirstoa::choose_articles(raccolta& found) {
+bool mirstoa::choose_sheets(raccolta& found) {
     const filtri wanted(*this);
     record_stretches<rec_art, articolo> articles(app_.archives.art);
     bool going_on = true;
     percorri_indice<rec_sra>(app_.archives.sra, articoli_.quanti,
                              [&](std::int16_t, const rec_sra& entry) {
                                  const articolo& one = articles.of(entry.numero);
-                                 if (wanted.take(one)) {
-                                     found.schede.push_back({entry.numero, one.etichetta});
-                                     found.righe.expect(entry.numero);
-                                 }
+                                 if (wanted.take(one)) found.expect(entry.numero, one.etichetta);
                                  return going_on = entry_done();
                              });
     return going_on;
@@ -144,29 +134,11 @@ void mirstoa::take_rows(raccolta& found, int order) {
 void mirstoa::list_sheets(list_rows& list, raccolta& found) {
     customer_names names(app_.archives.cli, clienti_.quanti);
     testa_ordine head;
-    found.righe.group();
-    for (const scheda_articolo& sheet : found.schede) {
-        if (list.full()) return;
-        const auto rows = found.righe.rows_of(sheet.numero);
-        if (rows.empty()) continue;
-        somme sums;
-        for (const riga& row : rows) {
-            if (found.teste[row.testa].read) head = found.teste[row.testa];
-            list.next();
-            list.write(ordine, head.numero.trimmed());
-            list.write(data, date_text_of_stored(head.data.full()));
-            list.write(descrizione, head.testo1.trimmed());
-            list.write(cliente, names.of(row.cliente));
-            list_quantities(list, row.quantita);
-            if (&row == &rows.front()) {
-                list.write(scheda, sheet.etichetta.title());
-                list.write(numero, std::to_string(sheet.numero));
-            }
-            sums.ordinato += row.quantita.ordinato;
-            sums.evaso += row.quantita.evaso;
-        }
-        list_totals(list, sums);
-    }
+    list_each(list, found, [&](const riga_articolo& row) {
+        if (found.teste[row.testa].read) head = found.teste[row.testa];
+        list_head(list, head);
+        list.write(cliente, names.of(row.cliente));
+    });
 }
 
 }  // namespace vantora

@@ -1,14 +1,18 @@
 #pragma once
 
-#include "reports/key_range.h"
-#include "reports/list_cells.h"
 #include "reports/sheet_report.h"
-#include "reports/sheet_rows.h"
 
 namespace vantora {
 
+/// A row of an order, as its article's sheet shows it.
+struct riga_articolo {
+    std::size_t testa;  ///< which of `teste`
+    std::int16_t cliente;
+    somme quantita;
+};
+
 /// The article sheets: for each article the rows of the orders that hold it.
-class mirstoa final : public sheet_report {
+class mirstoa final : public sheets_report<etichetta_articolo, riga_articolo> {
  public:
     explicit mirstoa(program& app);
 
@@ -17,31 +21,15 @@ class mirstoa final : public sheet_report {
 
  protected:
     void load() override;
-    void fill(list_rows& list, const limiti_ordini& orders) override;
     [[nodiscard]] int last_step(const limiti_ordini& orders) const override;
+    bool choose_sheets(raccolta& found) override;
+    void walk_orders(const raccolta& found, const limiti_ordini& orders) override;
+    void take_rows(raccolta& found, int order) override;
+    void list_sheets(list_rows& list, raccolta& found) override;
 
  private:
     struct articolo;
     struct filtri;
-    struct scheda_articolo {
-        std::int16_t numero;
-        etichetta_articolo etichetta;
-    };
-    /// A row of an order, as its article's sheet shows it.
-    struct riga {
-        std::size_t testa;  ///< which of `teste`
-        std::int16_t cliente;
-        somme quantita;
-    };
-    struct raccolta {
-        std::vector<scheda_articolo> schede;
-        sheet_rows<riga> righe;
-        std::vector<testa_ordine> teste;
-    };
-
-    bool choose_articles(raccolta& found);
-    void take_rows(raccolta& found, int order);
-    void list_sheets(list_rows& list, raccolta& found);
 };
 
 }  // namespace vantora

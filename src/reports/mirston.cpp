@@ -3,7 +3,6 @@
 #include "reports/key_range.h"
 #include "store/key_index.h"
 #include "store/record_stretches.h"
-#include "store/text/dates.h"
 
 namespace vantora {
 
@@ -49,7 +48,7 @@ struct mirston::cliente {
     i16le eliminato;
 };
 
-mirston::mirston(program& app) : sheet_report(app, schede_clienti()) {}
+mirston::mirston(program& app) : sheets_report(app, schede_clienti()) {}
 
 int mirston::last_step(const limiti_ordini&) const {
     return clienti_.quanti;
@@ -57,20 +56,12 @@ int mirston::last_step(const limiti_ordini&) const {
 
 // One read for 512 entries of the index, one for every 32 customers, one an order, a second one for
 // an order in question as long as not all are, then one for every 32 articles in question.
-void mirston::fill(list_rows& list, const limiti_ordini& orders) {
-    plan(clienti_.quanti, orders);
-    raccolta found{{}, sheet_rows<riga>(righe_report), {}};
-    if (!choose_customers(found)) return;
+void mirston::walk_orders(const raccolta& found, const limiti_ordini& orders) {
     ordini_.walk_heads(orders.primo, orders.ultimo,
                        [&](const rec_orc& first) { return found.righe.wants(first.cliente); });
-    for (int order = orders.primo; order <= orders.ultimo && !found.righe.complete(); ++order) {
-        take_rows(found, order);
-        if (!order_done()) return;
-    }
-    list_sheets(list, found);
 }
 
-bool mirston::choose_customers(raccolta& found) {
+bool mirston::choose_sheets(raccolta& found) {
     const key_range names(t_inizio.text(), t_fine.text());
     record_stretches<rec_cli, cliente> customers(app_.archives.cli);
     bool going_on = true;
@@ -78,8 +69,7 @@ bool mirston::choose_customers(raccolta& found) {
                              [&](std::int16_t, const rec_src& entry) {
                                  const cliente& one = customers.of(entry.numero);
                                  if (one.eliminato == 0 && names.holds(one.nome.full())) {
-                                     found.schede.push_back({entry.numero, one.nome});
-                                     found.righe.expect(entry.numero);
+                                     found.expect(entry.numero, one.nome);
                                  }
                                  return going_on = entry_done();
                              });
@@ -104,7 +94,7 @@ void mirston::take_rows(raccolta& found, int order) {
     }
 }
 
-std::string mirston::article_text(const riga& row, etichette_articoli& articles) const {
+std::string mirston::article_text(const riga_cliente& row, etichette_articoli& articles) const {
     const bool known = row.articolo >= 1 && row.articolo <= articoli_.quanti;
     if (known) return articles.of(row.articolo).text();
     return free_text(row.descrizione, row.descrizione2);
@@ -112,31 +102,10 @@ std::string mirston::article_text(const riga& row, etichette_articoli& articles)
 
 void mirston::list_sheets(list_rows& list, raccolta& found) {
     etichette_articoli articles(app_.archives.art);
-    found.righe.group();
-    for (const scheda_cliente& sheet : found.schede) {
-        if (list.full()) return;
-        const auto rows = found.righe.rows_of(sheet.numero);
-        if (rows.empty()) continue;
-        somme sums;
-        for (const riga& row : rows) {
-            list.next();
-            if (row.con_testa) {
-                const testa_ordine& head = found.teste[row.testa];
-                list.write(ordine, head.numero.trimmed());
-                list.write(data, date_text_of_stored(head.data.full()));
-                list.write(descrizione, head.testo1.trimmed());
-            }
-            list.write(articolo, article_text(row, articles));
-            list_quantities(list, row.quantita);
-            if (&row == &rows.front()) {
-                list.write(scheda, sheet.nome.trimmed());
-                list.write(numero, std::to_string(sheet.numero));
-            }
-            sums.ordinato += row.quantita.ordinato;
-            sums.evaso += row.quantita.evaso;
-        }
-        list_totals(list, sums);
-    }
+    list_each(list, found, [&](const riga_cliente& row) {
+        if (row.con_testa) list_head(list, found.teste[row.testa]);
+        list.write(articolo, article_text(row, articles));
+    });
 }
 
 }  // namespace vantora

@@ -1,13 +1,21 @@
 #pragma once
 
-#include "reports/list_cells.h"
 #include "reports/sheet_report.h"
-#include "reports/sheet_rows.h"
 
 namespace vantora {
 
+/// A row of an order, as its customer's sheet shows it.
+struct riga_cliente {
+    bool con_testa;     ///< shows the order's head
+    std::size_t testa;  ///< which of `teste`
+    std::int16_t articolo;
+    text<40> descrizione;
+    text<10> descrizione2;
+    somme quantita;
+};
+
 /// The customer sheets: for each customer the rows of their orders.
-class mirston final : public sheet_report {
+class mirston final : public sheets_report<text<40>, riga_cliente> {
  public:
     explicit mirston(program& app);
 
@@ -15,34 +23,17 @@ class mirston final : public sheet_report {
     enum { articolo = 4 };
 
  protected:
-    void fill(list_rows& list, const limiti_ordini& orders) override;
     [[nodiscard]] int last_step(const limiti_ordini& orders) const override;
+    bool choose_sheets(raccolta& found) override;
+    void walk_orders(const raccolta& found, const limiti_ordini& orders) override;
+    void take_rows(raccolta& found, int order) override;
+    void list_sheets(list_rows& list, raccolta& found) override;
 
  private:
     struct cliente;
-    struct scheda_cliente {
-        std::int16_t numero;
-        text<40> nome;
-    };
-    /// A row of an order, as its customer's sheet shows it.
-    struct riga {
-        bool con_testa;     ///< shows the order's head
-        std::size_t testa;  ///< which of `teste`
-        std::int16_t articolo;
-        text<40> descrizione;
-        text<10> descrizione2;
-        somme quantita;
-    };
-    struct raccolta {
-        std::vector<scheda_cliente> schede;
-        sheet_rows<riga> righe;
-        std::vector<testa_ordine> teste;
-    };
 
-    bool choose_customers(raccolta& found);
-    void take_rows(raccolta& found, int order);
-    void list_sheets(list_rows& list, raccolta& found);
-    [[nodiscard]] std::string article_text(const riga& row, etichette_articoli& articles) const;
+    [[nodiscard]] std::string article_text(const riga_cliente& row,
+                                           etichette_articoli& articles) const;
 };
 
 }  // namespace vantora

@@ -1,6 +1,6 @@
 #include "reports/sheet_report.h"
 
-#include "reports/list_cells.h"
+#include "store/text/dates.h"
 
 namespace vantora {
 
@@ -10,6 +10,12 @@ namespace {
 constexpr double order_weight = 20;
 
 }  // namespace
+
+void sheet_report::list_head(list_rows& list, const testa_ordine& head) {
+    list.write(ordine, head.numero.trimmed());
+    list.write(data, date_text_of_stored(head.data.full()));
+    list.write(descrizione, head.testo1.trimmed());
+}
 
 void sheet_report::list_quantities(list_rows& list, const somme& amounts) {
     list.write(ordinato, quantity_text(amounts.ordinato));

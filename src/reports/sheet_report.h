@@ -1,10 +1,31 @@
 #pragma once
 
-#include <optional>
+#include <string_view>
+#include <vector>
 
+#include "reports/list_cells.h"
 #include "reports/report_screen.h"
+#include "reports/sheet_rows.h"
 
 namespace vantora {
+
+/// Quantities of a row, or of a whole sheet.
+struct somme {
+    double ordinato = 0;
+    double evaso = 0;
+};
+
+/// The head of an order, for the rows that show it.
+struct testa_ordine {
+    testa_ordine() = default;
+    explicit testa_ordine(const rec_orc& row)
+        : numero(row.numero), data(row.data), testo1(row.testo1) {}
+
+    vantora::text<10> numero;
+    vantora::text<8> data;
+    vantora::text<40> testo1;
+    bool read = true;  ///< the row could be read
+};
 
 /// What article and customer sheets share: they stand in the order of an index, each with the rows
 /// of the orders in question and their sums, and are built when the user asks for them.
@@ -14,14 +35,10 @@ class sheet_report : public report_screen {
 
     limiti_ordini limits() override { return correct_limits(); }
 
-    /// Quantities of the sheet at hand.
-    struct somme {
-        double ordinato = 0;
-        double evaso = 0;
-    };
     /// Columns that both sheets have at the same place.
     enum colonna { scheda, ordine, data, descrizione, ordinato = 5, evaso, numero };
 
+    static void list_head(list_rows& list, const testa_ordine& head);
     static void list_quantities(list_rows& list, const somme& amounts);
     /// The sums of a sheet, and a blank line behind them.
     static void list_totals(list_rows& list, const somme& sums);
@@ -36,16 +53,76 @@ class sheet_report : public report_screen {
     double done_ = 0;
 };
 
-/// The head of an order, for the rows that show it.
-struct testa_ordine {
-    testa_ordine() = default;
-    explicit testa_ordine(const rec_orc& row)
-        : numero(row.numero), data(row.data), testo1(row.testo1) {}
+/// Sheets of one kind: `Title` is what stands at the head of a sheet, `Row` what its report shows
+/// of a row of an order, with the row's `quantita`.
+template <class Title, class Row>
+class sheets_report : public sheet_report {
+ protected:
+    using sheet_report::sheet_report;
 
-    vantora::text<10> numero;
-    vantora::text<8> data;
-    vantora::text<40> testo1;
-    bool read = true;  ///< the row could be read
+    struct raccolta {
+        struct scheda {
+            std::int16_t numero;
+            Title titolo;
+        };
+
+        void expect(std::int16_t number, const Title& title) {
+            schede.push_back({number, title});
+            righe.expect(number);
+        }
+
+        std::vector<scheda> schede;  ///< in the order of the index
+        sheet_rows<Row> righe{righe_report};
+        std::vector<testa_ordine> teste;
+    };
+
+    /// Chooses the sheets. False if the work ends here.
+    virtual bool choose_sheets(raccolta& found) = 0;
+    /// Says which of the orders will be read.
+    virtual void walk_orders(const raccolta& found, const limiti_ordini& orders) = 0;
+    virtual void take_rows(raccolta& found, int order) = 0;
+    virtual void list_sheets(list_rows& list, raccolta& found) = 0;
+
+    void fill(list_rows& list, const limiti_ordini& orders) final {
+        plan(last_step(orders), orders);
+        raccolta found;
+        if (!choose_sheets(found)) return;
+        walk_orders(found, orders);
+        for (int order = orders.primo; order <= orders.ultimo && !found.righe.complete(); ++order) {
+            take_rows(found, order);
+            if (!order_done()) return;
+        }
+        list_sheets(list, found);
+    }
+
+    /// Lists the sheets that have rows. `write_own(row)` writes what this kind alone shows of a
+    /// row.
+    template <class WriteOwn>
+    static void list_each(list_rows& list, raccolta& found, WriteOwn write_own) {
+        found.righe.group();
+        for (const auto& sheet : found.schede) {
+            if (list.full()) return;
+            const auto rows = found.righe.rows_of(sheet.numero);
+            if (rows.empty()) continue;
+            somme sums;
+            for (const Row& row : rows) {
+                list.next();
+                write_own(row);
+                list_quantities(list, row.quantita);
+                if (&row == &rows.front()) {
+                    list.write(scheda, title_text(sheet.titolo));
+                    list.write(numero, std::to_string(sheet.numero));
+                }
+                sums.ordinato += row.quantita.ordinato;
+                sums.evaso += row.quantita.evaso;
+            }
+            list_totals(list, sums);
+        }
+    }
+
+ private:
+    static std::string title_text(const etichetta_articolo& article) { return article.title(); }
+    static std::string_view title_text(const text<40>& name) { return name.trimmed(); }
 };
 
 }  // namespace vantora
