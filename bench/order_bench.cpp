@@ -94,7 +94,7 @@ void document_bench(test::program_stage<>& bench, righe_ordine& lines, int round
     ui::picture figure;
     std::size_t pages = 0;
     const auto compose = [&] {
-        bench.desk.queue_answer(ui::answer::yes);
+        bench.front.answers.keep(ui::answer::yes);
         stampa_documento(bench.app, {tipo_documento::ordine, head, lines, totals.iva, customer,
                                      currency, tables, background, figure});
         pages = bench.paper.take_jobs().at(0).pages.size();

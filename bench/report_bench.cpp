@@ -23,7 +23,7 @@ int run(int rows, int rounds) {
         stage.app.parameters.tabella_stampa[1].stile = look;
         stage.app.parameters.tabella_stampa[2].altezza = look;
         const auto print = [&] {
-            stage.desk.queue_answer(ui::answer::ok);
+            stage.front.answers.keep(ui::answer::ok);
             stampa_report(stage.app, schede, list, list.rows(), uscita_report::pdf);
         };
         print();

@@ -26,10 +26,10 @@ int run(int rows, int rounds) {
     std::vector<double> printed;
     std::vector<double> filed;
     for (int round = 0; round < rounds; ++round) {
-        desk.queue_answer(ui::answer::yes);
+        stage.front.answers.keep(ui::answer::yes);
         printed.push_back(milliseconds(
             [&] { stampa_report(app, schede, list, list.rows(), uscita_report::stampante); }));
-        desk.queue_answer(ui::answer::ok);
+        stage.front.answers.keep(ui::answer::ok);
         filed.push_back(milliseconds(
             [&] { stampa_report(app, schede, list, list.rows(), uscita_report::pdf); }));
     }

@@ -89,7 +89,9 @@ int main(int count, char** arguments) {
         ui::desktop::script_runner runner(front, commands, script.commands(), std::cout);
         program app(files, desk, pictures);
         front.begin(desk);
-        front.served_by([&runner] { return runner.step(); });
+        front.served_by(
+            [&runner] { return runner.step(); },
+            [&commands](const ui::message_box& box) { return commands.answer_kept_for(box); });
         desk.dispatch([&] { start(app, options.argument); });
         front.run();
         runner.write_reply();

@@ -5,6 +5,7 @@
 #include "store/text/int16.h"
 #include "store/text/number_text.h"
 #include "store/text_reader.h"
+#include "store/vat_codes.h"
 
 namespace vantora {
 
@@ -162,7 +163,7 @@ bool repair_format(rec_gnr& gnr) {
 
 bool repair_vat_code(rec_gnr& gnr) {
     const double code = number_at_head(gnr.codice_iva_base.full());
-    if (code >= 1 && code <= 24) return false;
+    if (is_vat_code(code)) return false;
     gnr.codice_iva_base = "01";
     return true;
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <deque>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -21,12 +20,6 @@ namespace vantora::ui {
 struct ending {
     bool fatal = false;
     std::string message;  ///< of a fatal error
-};
-
-/// A box that was answered from the queue of answers.
-struct answered_box {
-    message_box box;
-    answer given = answer::ok;
 };
 
 /// Everything that is on the user's desk: the screens that are loaded, the active one, the focus,
@@ -94,11 +87,6 @@ class desk {
     /// Answers the open box. False if there is none or it has no such button.
     bool answer_box(answer given);
 
-    /// Keeps an answer for the boxes to come.
-    void queue_answer(answer given) { queued_.push_back(given); }
-    /// The boxes answered from the queue since the last call.
-    std::vector<answered_box> take_answered();
-
     /// Why the user can't touch a screen now; empty if they can.
     [[nodiscard]] std::optional<std::string> obstacle(const form& which) const;
     /// Why the user can't touch a control now; empty if they can.
@@ -141,8 +129,6 @@ class desk {
         std::optional<answer> given;
     };
     std::vector<open_message*> boxes_;
-    std::deque<answer> queued_;
-    std::vector<answered_box> answered_;
 
     pointer pointer_ = pointer::normal;
     int waiting_ = 0;

@@ -85,12 +85,7 @@ void desk::set_pointer(pointer shape) {
 }
 
 answer desk::show_box(message_box box) {
-    if (!queued_.empty() && fits(box, queued_.front())) {
-        const answer given = queued_.front();
-        queued_.pop_front();
-        answered_.push_back({std::move(box), given});
-        return given;
-    }
+    if (const auto given = front_.answer_at_once(box)) return *given;
     open_message message{std::move(box), {}};
     boxes_.push_back(&message);
     front_.box_opened(message.box);
@@ -108,10 +103,6 @@ bool desk::answer_box(answer given) {
 
 const message_box* desk::open_box() const {
     return boxes_.empty() ? nullptr : &boxes_.back()->box;
-}
-
-std::vector<answered_box> desk::take_answered() {
-    return std::exchange(answered_, {});
 }
 
 void desk::message(std::string text, std::string title, icon sign) {

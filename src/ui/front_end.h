@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 
 #include "ui/message_box.h"
@@ -22,6 +23,10 @@ class front_end {
     virtual void run_until(const std::function<bool()>& done) = 0;
     /// Serves what the user has done meanwhile, once, and comes back.
     virtual void let_events_run() = 0;
+
+    /// The answer that the user of this front end gave before the box came up: it is then not
+    /// shown.
+    virtual std::optional<answer> answer_at_once(const message_box&) { return {}; }
 
     virtual void form_loaded(form&) {}
     virtual void form_shown(form&) {}

@@ -98,11 +98,11 @@ std::string bitmap_file(int width, int height, int claimed) {
 /// Prints with pictures, and gives what is told of those left out.
 std::string told(background_bench& order, const std::string& logo) {
     std::ofstream(order.folder.path() / "logo.bmp", std::ios::binary) << logo;
-    order.bench.desk.queue_answer(ui::answer::yes);
-    order.bench.desk.queue_answer(ui::answer::ok);
+    order.bench.user.answers.keep(ui::answer::yes);
+    order.bench.user.answers.keep(ui::answer::ok);
     stampa_documento(order.app, order.document());
     std::string all;
-    for (const auto& one : order.bench.desk.take_answered()) all += one.box.text + "|";
+    for (const auto& one : order.bench.user.answers.take_answered()) all += one.box.text + "|";
     return all;
 }
 

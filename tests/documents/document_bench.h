@@ -56,7 +56,7 @@ struct document_bench {
     /// Prints the document, and gives the pages that came out.
     std::vector<std::vector<ui::script::print_operation>> print(
         tipo_documento kind = tipo_documento::ordine) {
-        bench.desk.queue_answer(ui::answer::yes);
+        bench.user.answers.keep(ui::answer::yes);
         outcome = stampa_documento(app, document(kind));
         auto jobs = bench.paper.take_jobs();
         return jobs.empty() ? decltype(jobs.front().pages){} : std::move(jobs.front().pages);

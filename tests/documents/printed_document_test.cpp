@@ -209,7 +209,7 @@ TEST(printed_document, CopiesAreAskedForUnderTheNameOfTheDocumentAndEndInAPdf) {
         order.head.text3[0] = one.number;
         order.customer.email = one.address;
         for (const char answer : one.answers) {
-            order.bench.desk.queue_answer(answer == 'y' ? ui::answer::yes : ui::answer::no);
+            order.bench.user.answers.keep(answer == 'y' ? ui::answer::yes : ui::answer::no);
         }
         offri_copie(order.app, order.document(one.kind), one.mail);
         const std::string over =
@@ -217,7 +217,7 @@ TEST(printed_document, CopiesAreAskedForUnderTheNameOfTheDocumentAndEndInAPdf) {
         strings expected(one.answers.size(), over);
         expected.back() = "Attenzione";
         strings titles;
-        for (const auto& box : order.bench.desk.take_answered()) {
+        for (const auto& box : order.bench.user.answers.take_answered()) {
             titles.push_back(box.box.title);
         }
         EXPECT_EQ(titles, expected);
@@ -242,11 +242,11 @@ TEST(printed_document, APrintFileThatIsNotWholeTakesNothingFromThePaperAndIsNotH
         int writes = 0;
         faulty.write_fails = [&](const std::string&, std::int64_t) { return ++writes == fault; };
         using enum ui::answer;
-        for (const auto answer : {yes, no, yes, ok}) order.bench.desk.queue_answer(answer);
+        for (const auto answer : {yes, no, yes, ok}) order.bench.user.answers.keep(answer);
         offri_copie(app, order.document(), false);
         EXPECT_EQ(order.bench.paper.take_jobs().at(0).pages.size(), 20U) << fault;
         EXPECT_EQ(order.bench.programs.take_started().size(), fault == 0 ? 1U : 0U) << fault;
-        EXPECT_EQ(order.bench.desk.take_answered().size(), fault == 0 ? 3U : 4U) << fault;
+        EXPECT_EQ(order.bench.user.answers.take_answered().size(), fault == 0 ? 3U : 4U) << fault;
         EXPECT_EQ(order.print_file().empty(), fault != 0) << "empty rather than misleading";
     }
 }

@@ -41,7 +41,9 @@ struct fulfil_stage : order_company, station {
     }
     /// Confirms the document, with the answers to the questions to come.
     void confirm(const std::vector<bool>& answers) {
-        for (const bool yes : answers) desk.queue_answer(yes ? ui::answer::yes : ui::answer::no);
+        for (const bool yes : answers) {
+            front.answers.keep(yes ? ui::answer::yes : ui::answer::no);
+        }
         desk.dispatch([this] { app.mirorca->comando[1].click(); });
     }
     std::vector<std::string> row(int number) {

@@ -168,10 +168,10 @@ TEST_F(report_screens, PutTheirListOutAndLeaveAllFilesAsTheyWere) {
     for (ui::screen_place* place : std::initializer_list<ui::screen_place*>{
              &app.mirstoe, &app.mirstos, &app.mirstov, &app.mirston, &app.mirstoa}) {
         report_screen& screen = open(*place);
-        bench.around.desk.queue_answer(ui::answer::ok);
+        bench.around.user.answers.keep(ui::answer::ok);
         screen.bottone[report_screen::pdf].click();
         build(screen);
-        bench.around.desk.queue_answer(ui::answer::yes);
+        bench.around.user.answers.keep(ui::answer::yes);
         screen.bottone[report_screen::stampa].click();
         EXPECT_EQ(bench.around.paper.take_jobs().size(), 1U) << screen.name();
         EXPECT_EQ(bench.around.programs.take_started().size(), 1U) << screen.name();

@@ -20,17 +20,17 @@ struct report_road : testing::Test {
         list.set_columns({{"Ordine"}, {"Cliente"}, {"Valore"}, {""}});
     }
     /// Tells the boxes that were shown.
-    std::vector<ui::answered_box> print(int rows, uscita_report to,
-                                        ui::answer answer = ui::answer::yes) {
+    std::vector<ui::script::answered_box> print(int rows, uscita_report to,
+                                                ui::answer answer = ui::answer::yes) {
         list.set_rows(rows + 1);
         for (int row = 1; row <= rows; ++row) {
             list.set_text(row, 0, "n. " + std::to_string(row) + "\r\n9");
         }
         const bool asks = to == uscita_report::stampante;
-        stage.desk.queue_answer(asks ? answer : ui::answer::ok);
+        stage.front.answers.keep(asks ? answer : ui::answer::ok);
         stampa_report(app, report, list, list.rows(), to);
         EXPECT_EQ(stage.desk.pointer_shape(), ui::pointer::normal);
-        return stage.desk.take_answered();
+        return stage.front.answers.take_answered();
     }
     /// Rows of the list on each page of the print file.
     std::vector<int> rows_in_file() {

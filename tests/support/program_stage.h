@@ -5,17 +5,12 @@
 #include "program/program.h"
 #include "store/drive.h"
 #include "support/scratch_folder.h"
+#include "ui/bench_desk.h"
 #include "ui/pictures/pixbuf_decoder.h"
-#include "ui/script/bench_ports.h"
 
 namespace vantora::test {
 
-/// Nobody: nothing is shown, nothing is waited for.
-class silent_front_end : public ui::front_end {
- public:
-    void run_until(const std::function<bool()>&) override {}
-    void let_events_run() override {}
-};
+using ui::test::silent_front_end;
 
 /// The program over the empty company 1 of a folder of its own, in front of one kind of user.
 template <class FrontEnd = silent_front_end>

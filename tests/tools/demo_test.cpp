@@ -172,6 +172,12 @@ TEST(demo_program, ExitCodeTellsWhatHappened) {
         const int status = std::system(command.c_str());
         EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == code) << arguments;
     }
+    const auto settings = drive.path() / "mirwin/mirwin/mirxpdf.conf";
+    if (!std::filesystem::exists(settings)) return;  // a build without windows has no mirxpdf
+    const auto readers = std::filesystem::status(settings).permissions();
+    EXPECT_EQ(readers & (std::filesystem::perms::group_all | std::filesystem::perms::others_all),
+              std::filesystem::perms::none)
+        << "a password is going to stand in it";
 }
 
 }  // namespace

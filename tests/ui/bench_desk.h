@@ -5,11 +5,24 @@
 
 #include "ui/desk.h"
 #include "ui/script/bench_ports.h"
+#include "ui/script/kept_answers.h"
 
 namespace vantora::ui::test {
 
+/// Nobody: nothing is shown, nothing is waited for. Boxes take the answers laid out for them.
+class silent_front_end : public front_end {
+ public:
+    script::kept_answers answers;
+
+    void run_until(const std::function<bool()>&) override {}
+    void let_events_run() override {}
+    std::optional<answer> answer_at_once(const message_box& box) override {
+        return answers.take_for(box);
+    }
+};
+
 /// A user for tests: while the program waits, does the prepared actions one after the other.
-class prepared_user final : public front_end {
+class prepared_user final : public silent_front_end {
  public:
     std::deque<std::function<void()>> actions;
     std::function<void()> pending;  ///< done the next time that pending events run

@@ -1,6 +1,11 @@
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <cstdlib>
+#include <ctime>
+
 #include "store/text/code_page.h"
+#include "ui/clock.h"
 #include "ui/controls.h"
 
 namespace vantora::ui {
@@ -80,6 +85,19 @@ TEST(input_rule, AHandTypesOnlyWhatAFieldHolds) {
     for (const char* typed : {"", "24", "99/99", "2411", "31022026"}) {
         EXPECT_FALSE(written_out_day(typed, 2026)) << typed;
     }
+}
+
+TEST(local_clock, TellsTheTimeOfThePlace) {
+    ::setenv("TZ", "PROVA-9", 1);
+    constexpr std::time_t ahead = 9 * 3600;
+    const std::time_t before = std::time(nullptr) + ahead;
+    const date_time now = local_clock().now();
+    const std::chrono::sys_days day = std::chrono::year(now.day.year) / now.day.month / now.day.day;
+    const std::time_t told =
+        std::chrono::system_clock::to_time_t(day) + now.hour * 3600 + now.minute * 60 + now.second;
+    EXPECT_GE(told, before);
+    EXPECT_LE(told, std::time(nullptr) + ahead);
+    ::unsetenv("TZ");
 }
 
 TEST(key, SignsHaveNoNamedKeysCode) {

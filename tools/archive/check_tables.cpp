@@ -4,6 +4,7 @@
 #include "store/company.h"
 #include "store/text/number_text.h"
 #include "store/text_reader.h"
+#include "store/vat_codes.h"
 
 namespace vantora::archive {
 
@@ -94,7 +95,7 @@ void check_general(company_files& company, findings& into) {
                         "The next start sets the look of the lists to its defaults."});
     }
     const double code = number_at_head(gnr.codice_iva_base.full());
-    if (code < 1 || code > 24) {
+    if (!is_vat_code(code)) {
         into.push_back({gravity::warning, "vantora.gnr",
                         "the VAT code for lines without one isn't between 01 and 24",
                         "The next start sets it to 01."});

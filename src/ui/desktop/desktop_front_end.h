@@ -29,9 +29,15 @@ class desktop_front_end final : public front_end {
     /// Tells whose front end this is. Called once, before the program starts.
     void begin(desk& on);
 
+    using answers_in_advance = std::function<std::optional<answer>(const message_box&)>;
+
     /// Something that acts in the user's place: called whenever the program waits and its windows
     /// have settled; false when there is nothing more to come. Sizes are then not remembered.
-    void served_by(std::function<bool()> next_step) { next_step_ = std::move(next_step); }
+    /// Boxes for which `answers` has one are not shown.
+    void served_by(std::function<bool()> next_step, answers_in_advance answers) {
+        next_step_ = std::move(next_step);
+        answers_ = std::move(answers);
+    }
 
     /// Serves the user until the program ends.
     void run();
@@ -43,6 +49,9 @@ class desktop_front_end final : public front_end {
 
     void run_until(const std::function<bool()>& done) override;
     void let_events_run() override;
+    std::optional<answer> answer_at_once(const message_box& box) override {
+        return answers_ ? answers_(box) : std::nullopt;
+    }
     void form_loaded(form& which) override;
     void form_shown(form& which) override;
     void form_hidden(form& which) override;
@@ -71,6 +80,7 @@ class desktop_front_end final : public front_end {
 
     desk* desk_ = nullptr;
     std::function<bool()> next_step_;
+    answers_in_advance answers_;
     std::map<form*, std::unique_ptr<form_window>> windows_;
     window_place place_;  ///< of the last window
     std::vector<QMessageBox*> boxes_;

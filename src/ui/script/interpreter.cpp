@@ -79,7 +79,7 @@ void interpreter::refuse(std::string why) {
 std::optional<std::string> interpreter::take_reply() {
     if (!reply_) return {};
     const auto due = std::move(reply_);
-    return compose(std::move(*due), desk_, desk_.take_answered());
+    return compose(std::move(*due), desk_, answers_.take_answered());
 }
 
 control* interpreter::find_control(const word& text) {

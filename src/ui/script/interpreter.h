@@ -12,6 +12,7 @@
 #include "ui/desk.h"
 #include "ui/script/bench_ports.h"
 #include "ui/script/command.h"
+#include "ui/script/kept_answers.h"
 
 namespace vantora::ui::script {
 
@@ -37,6 +38,11 @@ class interpreter {
 
     /// The reply that is due, with the present state of the desk; empty if there is none.
     std::optional<std::string> take_reply();
+
+    /// The answer that was given in advance for a box that comes up; empty if there is none.
+    std::optional<ui::answer> answer_kept_for(const message_box& box) {
+        return answers_.take_for(box);
+    }
 
     /// `quit` was given; the program has ended with it.
     [[nodiscard]] bool quitting() const { return quitting_; }
@@ -93,6 +99,7 @@ class interpreter {
     recording_printer& printer_;
     recording_launcher& launcher_;
     std::unique_ptr<command_reply> reply_;  ///< null if none is due
+    kept_answers answers_;
     bool quitting_ = false;
 };
 

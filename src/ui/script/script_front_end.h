@@ -22,6 +22,9 @@ class script_front_end final : public front_end {
     void run();
 
     void run_until(const std::function<bool()>& done) override;
+    std::optional<answer> answer_at_once(const message_box& box) override {
+        return interpreter_->answer_kept_for(box);
+    }
     /// A script does nothing by itself.
     void let_events_run() override {}
 

@@ -8,6 +8,7 @@
 #include "ui/desk.h"
 #include "ui/grid.h"
 #include "ui/list_controls.h"
+#include "ui/script/kept_answers.h"
 
 namespace vantora::ui::script {
 

@@ -173,7 +173,7 @@ void interpreter::answer(const words& line) {
     if (line[1].text == "no") given = ui::answer::no;
     if (line[1].text == "ok") given = ui::answer::ok;
     if (!given) return refuse("this is no answer");
-    if (!desk_.open_box()) return desk_.queue_answer(*given);
+    if (!desk_.open_box()) return answers_.keep(*given);
     if (!desk_.answer_box(*given)) refuse("the message box has no such button");
 }
 
