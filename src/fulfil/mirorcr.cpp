@@ -26,7 +26,7 @@ std::vector<ui::grid_column> worklist_columns() {
 }  // namespace
 
 std::string testo_quantita(double quantity) {
-    return quantity == 0 ? std::string() : virgola_italiana(quantity, maschera_quantita);
+    return quantity == 0 ? std::string() : masked(quantity, maschera_quantita);
 }
 
 mirorcr::mirorcr(program& app)

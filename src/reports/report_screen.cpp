@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "documents/pdf_settings.h"
+#include "ui/enter_key.h"
 
 namespace vantora {
 
@@ -31,11 +32,7 @@ report_screen::report_screen(program& app, const tipo_report& kind)
         } else {
             add(one.name, one.control);
         }
-        one.control.on_key_press = [this, i](ui::key_event& key) {
-            if (key.code != ui::key::enter) return;
-            key.swallow();
-            go_on_from(i);
-        };
+        ui::on_enter(one.control, [this, i] { go_on_from(i); });
     }
     add("bottone", bottone);
     add("srt", srt);

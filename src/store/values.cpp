@@ -16,17 +16,6 @@ double rounded_percentage(double value, double percent, double lire_bias, const 
     return integer_part(value * percent + arrotondamento) / 100;
 }
 
-/// Turns a text in the English style into the Italian one, if its decimal point stands `decimals`
-/// places before the last character.
-std::string with_italian_marks(std::string text, std::size_t decimals) {
-    if (text.size() <= decimals || text[text.size() - decimals - 1] != '.') return text;
-    for (char& character : text) {
-        if (character == ',') character = '.';
-    }
-    text[text.size() - decimals - 1] = ',';
-    return text;
-}
-
 }  // namespace
 
 valuta::valuta(const parametri& from)
@@ -68,25 +57,17 @@ double testo_a_numero(std::string_view text) {
     return number_at_head(number);
 }
 
-std::string virgola_italiana(double value, std::string_view mask) {
-    return with_italian_marks(masked(value, mask), 2);
-}
-
-std::string virgola_prezzo(double value, std::string_view mask, const valuta& in) {
-    return with_italian_marks(masked(value, mask), static_cast<std::size_t>(in.decimali_prezzo));
-}
-
 std::string formato_importo(double value, const valuta& in) {
     if (value == 0) return {};
-    return virgola_italiana(value, in.centesimi ? maschera::due_decimali : maschera::intero);
+    return masked(value, in.centesimi ? maschera::due_decimali : maschera::intero);
 }
 
 std::string formato_prezzo(double value, const valuta& in) {
     if (value == 0) return {};
-    if (!in.centesimi) return virgola_italiana(value, maschera::intero);
+    if (!in.centesimi) return masked(value, maschera::intero);
     constexpr std::array by_decimals = {maschera::due_decimali, maschera::tre_decimali,
                                         maschera::quattro_decimali, maschera::cinque_decimali};
-    return virgola_prezzo(value, by_decimals[static_cast<std::size_t>(in.decimali_prezzo - 2)], in);
+    return masked(value, by_decimals[static_cast<std::size_t>(in.decimali_prezzo - 2)]);
 }
 
 std::string formato_quantita(std::string_view text) {

@@ -55,10 +55,4 @@ std::string formato_prezzo(double value, const valuta& in);
 /// Text of a quantity given as text with a decimal point; a whole 0 is empty.
 std::string formato_quantita(std::string_view text);
 
-/// A value by a mask, with Italian marks whatever the settings were: two decimals expected.
-std::string virgola_italiana(double value, std::string_view mask);
-
-/// The same with `decimali_prezzo` decimals expected.
-std::string virgola_prezzo(double value, std::string_view mask, const valuta& in);
-
 }  // namespace vantora

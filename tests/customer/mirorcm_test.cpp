@@ -17,7 +17,7 @@ class mirorcm_screen : public testing::Test {
         company.table_file();
         desk = std::make_unique<customer_desk>(company);
         app = &desk->app;
-        app->mirorcm.made_by(desk->around.desk, [this] { return std::make_unique<mirorcm>(*app); });
+        desk->provide(app->mirorcm);
         app->mirorcm->Text2[0].set_text("come nell'ordine");
     }
     void open(int customer) {
@@ -80,7 +80,7 @@ TEST_F(mirorcm_screen, AChoiceFromTheListIsLookedUpAndNoChoiceComesBackToTheOrde
 }
 
 TEST_F(mirorcm_screen, AnIndexThatCantBeReadLeavesThePositionAtTheFirst) {
-    desk->unreadable["src"] = 3 * static_cast<std::int64_t>(sizeof(rec_src));
+    desk->unreadable["src"] = {3 * std::int64_t{sizeof(rec_src)}};
     for (const auto& [customer, position] : {std::pair{4, 1}, {2, 2}}) {
         open(customer);
         EXPECT_EQ(app->mirorcm->HScroll1.value(), position) << "found before the bad spot";

@@ -5,15 +5,15 @@
 #include <ctime>
 #include <fstream>
 
-#include "documents/document_bench.h"
 #include "documents/document_pictures.h"
+#include "documents/document_stage.h"
 
 namespace vantora::test {
 namespace {
 
 /// One page on an empty order, with its background.
-struct background_bench : document_bench {
-    background_bench() {
+struct background_stage : document_stage {
+    background_stage() {
         body("100", "104");
         fill_lines(1);
         tables.tabella_layout[99].posizione = "000001";
@@ -25,7 +25,7 @@ struct background_bench : document_bench {
 };
 
 TEST(background, DrawsFilledBoxesUnderTheRestAndPullsItIntoThePage) {
-    background_bench order;
+    background_stage order;
     order.element({3, 10, 20, 0, 0, 255, 1, 1, 0}, "Nota", "Verdana");
     order.element({3, 10, 20}, std::string(caratteri_sfondo, 'x'));
     order.element({1, 300, -5, 100, 400, 7});
@@ -52,14 +52,14 @@ TEST(background, DrawsFilledBoxesUnderTheRestAndPullsItIntoThePage) {
 
 TEST(background, CountsOnlyTheElementsInUseAndOnlyWhenSwitchedOn) {
     for (const double count : {-1.0, 1.0, 500.0, 1e9}) {
-        background_bench order;
+        background_stage order;
         for (std::size_t i = 1; i <= 500; ++i) order.background.elenco[i].valori = {1, 1, 1, 2, 2};
         order.background.elementi = count;
         const auto pages = order.print();
         ASSERT_EQ(pages.size(), 1U);
         EXPECT_EQ(pages[0].size(), static_cast<std::size_t>(std::clamp(count, 0.0, 500.0)));
     }
-    background_bench order;
+    background_stage order;
     order.element({1, 1, 1, 2, 2});
     order.tables.tabella_layout[99].posizione = "000002";
     EXPECT_TRUE(order.print().at(0).empty());
@@ -71,7 +71,7 @@ TEST(background, InvoiceNumbersBecomeCreditNotes) {
         {"FATTURA NUMERO", 2, "FATTURA NUMERO"},
         {"FATTURA N.", 1, "FATTURA N."}};
     for (const auto& [text, selezione_2, printed] : cases) {
-        background_bench order;
+        background_stage order;
         order.element({3, 10, 20, 0, 0, 0, 9}, text, "Arial");
         order.app.selezione_2 = selezione_2;
         EXPECT_EQ(order.texts(order.print().at(0)), std::vector{printed});
@@ -96,13 +96,13 @@ std::string bitmap_file(int width, int height, int claimed) {
 }
 
 /// Prints with pictures, and gives what is told of those left out.
-std::string told(background_bench& order, const std::string& logo) {
+std::string told(background_stage& order, const std::string& logo) {
     std::ofstream(order.folder.path() / "logo.bmp", std::ios::binary) << logo;
-    order.bench.user.answers.keep(ui::answer::yes);
-    order.bench.user.answers.keep(ui::answer::ok);
+    order.around.user.answers.keep(ui::answer::yes);
+    order.around.user.answers.keep(ui::answer::ok);
     stampa_documento(order.app, order.document());
     std::string all;
-    for (const auto& one : order.bench.user.answers.take_answered()) all += one.box.text + "|";
+    for (const auto& one : order.around.user.answers.take_answered()) all += one.box.text + "|";
     return all;
 }
 
@@ -128,10 +128,10 @@ TEST(background, PicturesAreOneMarkEachAndOnlyAsFarAsThePaperGoes) {
         {"largest", bitmap_file(2000, 2000, 0), 10, 20, 756, 1047, question},
     };
     for (const auto& one : cases) {
-        background_bench order;
+        background_stage order;
         order.element({4, one.x, one.y, 3, 4}, " c:\\LOGO.bmp ");
         EXPECT_EQ(told(order, one.file), one.told) << one.what;
-        const auto page = order.bench.paper.take_jobs().at(0).pages.at(0);
+        const auto page = order.around.paper.take_jobs().at(0).pages.at(0);
         ASSERT_EQ(page.size(), one.width > 0 ? 1U : 0U) << one.what;
         for (const auto& mark : page) {
             const auto& drawn = std::get<ui::script::printed_picture>(mark);
@@ -146,7 +146,7 @@ TEST(background, PicturesAreOneMarkEachAndOnlyAsFarAsThePaperGoes) {
 }
 
 TEST(background, APictureThatCantBeReadLeavesTheOneBeforeAndManyAreReadOnce) {
-    background_bench order;
+    background_stage order;
     for (int i = 0; i < 499; ++i) {
         order.element({4, 10, 20}, i == 0 || i == 2 ? "\\manca.bmp" : "c:\\LOGO.bmp");
     }
@@ -154,7 +154,7 @@ TEST(background, APictureThatCantBeReadLeavesTheOneBeforeAndManyAreReadOnce) {
     const std::clock_t begin = std::clock();
     EXPECT_EQ(told(order, bitmap_file(300, 300, 0)), left_out) << "once, however many";
     EXPECT_LT(std::clock() - begin, 2 * CLOCKS_PER_SEC);
-    const auto pages = order.bench.paper.take_jobs().at(0).pages;
+    const auto pages = order.around.paper.take_jobs().at(0).pages;
     ASSERT_EQ(pages.size(), 20U);
     EXPECT_EQ(pages[19].size(), punti_per_pagina / (300 * 300)) << "as many as a page has room for";
 }

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "documents/document_bench.h"
+#include "documents/document_stage.h"
 #include "support/faulty_files.h"
 
 namespace vantora::test {
@@ -12,7 +12,7 @@ using strings = std::vector<std::string>;
 
 /// A text of its own in every place, of which the fields from 17 on are told, with blanks between.
 std::string fields_of(tipo_documento kind) {
-    document_bench order;
+    document_stage order;
     for (std::size_t i = 1; i <= 20; ++i) {
         order.tables.testi_intestazione[i] = " ditta" + std::to_string(i) + "\t";
     }
@@ -80,7 +80,7 @@ TEST(printed_document, PagesFollowFromTheHeightOfTheBody) {
                  {"010", "330", 200, {80, 80, 39}}};
     for (const auto kind : {tipo_documento::ordine, tipo_documento::documento_trasporto}) {
         for (const auto& one : cases) {
-            document_bench order;
+            document_stage order;
             order.body(one.top, one.bottom, kind);
             const auto descriptions = static_cast<std::size_t>(forma_di(kind).prima_colonna) + 1;
             order.tables.tabella_layout[descriptions].posizione = "050000";
@@ -97,7 +97,7 @@ TEST(printed_document, PagesFollowFromTheHeightOfTheBody) {
 }
 
 TEST(printed_document, LinesShowTheirColumnsFromTheTopOfTheBody) {
-    document_bench order;
+    document_stage order;
     order.tables.iva.aliquota_iva[4] = "22";
     order.tables.iva.aliquota_iva[14] = "exempt";
     auto& full = order.lines[1];
@@ -148,12 +148,12 @@ TEST(printed_document, LinesShowTheirColumnsFromTheTopOfTheBody) {
         EXPECT_NE(shown.find("\ntext 50 100  10+5,"), std::string::npos) << "behind its sign";
         EXPECT_NE(shown.find("\ntext 50 104 trasporto "), std::string::npos);
         const auto& price = std::get<ui::script::printed_text>(page[4]);
-        EXPECT_NEAR(price.x + order.bench.paper.text_width("10,00", price.font), 50, 1e-9);
+        EXPECT_NEAR(price.x + order.around.paper.text_width("10,00", price.font), 50, 1e-9);
     }
 }
 
 TEST(printed_document, OnlyAPlaceWithBothHalvesIsPrintedAndTheLookIsTheLayouts) {
-    document_bench order;
+    document_stage order;
     order.fill_lines(1);
     auto& layout = order.tables.tabella_layout;
     layout[39] = {"012034", "12", "Verdana", "1", " 0", "255"};
@@ -201,7 +201,7 @@ TEST(printed_document, CopiesAreAskedForUnderTheNameOfTheDocumentAndEndInAPdf) {
         {ordine, "yny", "C:", "1.5", false, "", "z", "o,c:\\mirdoc.rto,C:\\orc1.5.pdf,***,z"},
     };
     for (const auto& one : cases) {
-        document_bench order;
+        document_stage order;
         order.app.parameters.numero_azienda = 7;
         order.app.parameters.parametri_valuta[valuta_slot::cartella_pdf] = one.folder;
         order.tables.pdf[static_cast<std::size_t>(one.kind)][3] = one.extra;
@@ -209,7 +209,7 @@ TEST(printed_document, CopiesAreAskedForUnderTheNameOfTheDocumentAndEndInAPdf) {
         order.head.text3[0] = one.number;
         order.customer.email = one.address;
         for (const char answer : one.answers) {
-            order.bench.user.answers.keep(answer == 'y' ? ui::answer::yes : ui::answer::no);
+            order.around.user.answers.keep(answer == 'y' ? ui::answer::yes : ui::answer::no);
         }
         offri_copie(order.app, order.document(one.kind), one.mail);
         const std::string over =
@@ -217,12 +217,12 @@ TEST(printed_document, CopiesAreAskedForUnderTheNameOfTheDocumentAndEndInAPdf) {
         strings expected(one.answers.size(), over);
         expected.back() = "Attenzione";
         strings titles;
-        for (const auto& box : order.bench.user.answers.take_answered()) {
+        for (const auto& box : order.around.user.answers.take_answered()) {
             titles.push_back(box.box.title);
         }
         EXPECT_EQ(titles, expected);
         std::string started;
-        for (const auto& command : order.bench.programs.take_started()) started += command;
+        for (const auto& command : order.around.programs.take_started()) started += command;
         const std::string program =
             "\\mirwin\\mirwin\\mirxpdf \\mirwin\\mirwin\\miraz0.007\\vantora.lx";
         EXPECT_EQ(started, one.pdf.empty() ? one.pdf : program + one.pdf);
@@ -232,9 +232,9 @@ TEST(printed_document, CopiesAreAskedForUnderTheNameOfTheDocumentAndEndInAPdf) {
 /// A printer that fails is the front end's affair; a print file that fails keeps the PDF away.
 TEST(printed_document, APrintFileThatIsNotWholeTakesNothingFromThePaperAndIsNotHandedOver) {
     for (int fault = 0; fault <= 2; ++fault) {
-        document_bench order;
+        document_stage order;
         faulty_files faulty(order.files);
-        program app{faulty, order.bench.desk, order.pictures};
+        program app{faulty, order.around.desk, order.pictures};
         order.body("100", "140");
         order.fill_lines(199);
         // More than is handed over to the disk at once.
@@ -242,11 +242,11 @@ TEST(printed_document, APrintFileThatIsNotWholeTakesNothingFromThePaperAndIsNotH
         int writes = 0;
         faulty.write_fails = [&](const std::string&, std::int64_t) { return ++writes == fault; };
         using enum ui::answer;
-        for (const auto answer : {yes, no, yes, ok}) order.bench.user.answers.keep(answer);
+        for (const auto answer : {yes, no, yes, ok}) order.around.user.answers.keep(answer);
         offri_copie(app, order.document(), false);
-        EXPECT_EQ(order.bench.paper.take_jobs().at(0).pages.size(), 20U) << fault;
-        EXPECT_EQ(order.bench.programs.take_started().size(), fault == 0 ? 1U : 0U) << fault;
-        EXPECT_EQ(order.bench.user.answers.take_answered().size(), fault == 0 ? 3U : 4U) << fault;
+        EXPECT_EQ(order.around.paper.take_jobs().at(0).pages.size(), 20U) << fault;
+        EXPECT_EQ(order.around.programs.take_started().size(), fault == 0 ? 1U : 0U) << fault;
+        EXPECT_EQ(order.around.user.answers.take_answered().size(), fault == 0 ? 3U : 4U) << fault;
         EXPECT_EQ(order.print_file().empty(), fault != 0) << "empty rather than misleading";
     }
 }

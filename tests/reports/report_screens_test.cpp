@@ -2,10 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <iterator>
-
-#include "reports/report_bench.h"
+#include "reports/report_stage.h"
+#include "support/file_bytes.h"
 
 namespace vantora::test {
 namespace {
@@ -13,8 +11,8 @@ namespace {
 /// Three orders of one article and one customer, the second fulfilled.
 struct report_screens : testing::Test {
     report_screens() {
-        bench.company.customers({customer_named("ROSSI")});
-        bench.company.articles({article("A1", "Vite", 2.5)});
+        stage.company.customers({customer_named("ROSSI")});
+        stage.company.articles({article("A1", "Vite", 2.5)});
         rec_orc row{};
         row.cliente = std::int16_t{1};
         row.data_evasione = "20240701";
@@ -26,9 +24,9 @@ struct report_screens : testing::Test {
             block[0].quantita = 10;
             block[0].prezzo = 2.5;
             block[0].evaso = i == 2 ? 10 : 0;
-            bench.company.files.orc.write_block(block_record(i, 1), block);
+            stage.company.files.orc.write_block(block_record(i, 1), block);
         }
-        bench.company.counter(contatori::ordini, 3);
+        stage.company.counter(contatori::ordini, 3);
     }
     report_screen& open(ui::screen_place& place) {
         place.use().show();
@@ -45,25 +43,15 @@ struct report_screens : testing::Test {
     /// Presses Enter in one field after the other, and tells them.
     std::string enter_chain(report_screen& screen) {
         std::string chain;
-        while (bench.around.desk.focus() != &screen.bottone[report_screen::aggiorna]) {
-            chain += bench.around.desk.focus()->address() + " ";
-            bench.around.desk.focus()->press_key(ui::key::enter, '\r');
+        while (stage.around.desk.focus() != &screen.bottone[report_screen::aggiorna]) {
+            chain += stage.around.desk.focus()->address() + " ";
+            stage.around.desk.focus()->press_key(ui::key::enter, '\r');
         }
         return chain;
     }
-    /// The content of all files of the company, by their names.
-    std::map<std::string, std::string> contents() {
-        std::map<std::string, std::string> all;
-        const auto folder = bench.company.file("orc").parent_path();
-        for (const auto& one : std::filesystem::directory_iterator(folder)) {
-            std::ifstream in(one.path(), std::ios::binary);
-            all[one.path().filename()] = {std::istreambuf_iterator<char>(in), {}};
-        }
-        return all;
-    }
 
-    report_bench bench;
-    program& app = bench.app;
+    report_stage stage;
+    program& app = stage.app;
 };
 
 TEST_F(report_screens, EnterGoesThroughTheFiltersAndBringsTheBoundsBack) {
@@ -95,19 +83,19 @@ TEST_F(report_screens, EnterGoesThroughTheFiltersAndBringsTheBoundsBack) {
         }
         screen.bottone[report_screen::uscita].click();
         EXPECT_FALSE(one.place.loaded());
-        EXPECT_EQ(bench.around.desk.active()->name(), "mirorc");
+        EXPECT_EQ(stage.around.desk.active()->name(), "mirorc");
     }
 }
 
 TEST_F(report_screens, TheSelectorsOfTheOrderListAreLinked) {
     report_screen& screen = open(app.mirstoe);
     EXPECT_EQ(column(screen, 0), "1|2|3");
-    const std::size_t reads = bench.files.reads;
+    const std::size_t reads = stage.files.reads;
     screen.Combo1.pick(report_screen::da_evadere);
     EXPECT_EQ(screen.Combo2.text(), "Analitico");
     EXPECT_EQ(column(screen, 0), "1|3");
     EXPECT_EQ(column(screen, 5), "10,00|10,00");
-    EXPECT_LE(bench.files.reads - reads, 3U + 3 + 2) << "built once";
+    EXPECT_LE(stage.files.reads - reads, 3U + 3 + 2) << "built once";
     screen.Combo2.pick(0);
     EXPECT_EQ(screen.Combo1.text(), "Tutti gli ordini");
     EXPECT_EQ(column(screen, 5), "");
@@ -115,40 +103,40 @@ TEST_F(report_screens, TheSelectorsOfTheOrderListAreLinked) {
 
 TEST_F(report_screens, ABuildGoesOnUnderTheHandsOfTheUser) {
     report_screen& screen = open(app.mirstov);
-    auto& user = bench.around.user;
+    auto& user = stage.around.user;
     user.pending = [&] {
-        const std::size_t reads = bench.files.reads;
+        const std::size_t reads = stage.files.reads;
         build(screen);
         screen.bottone[report_screen::pdf].click();
-        EXPECT_EQ(bench.files.reads, reads);
+        EXPECT_EQ(stage.files.reads, reads);
         EXPECT_GE(screen.srt.value(), 1);
         EXPECT_TRUE(screen.srt.visible());
     };
     build(screen);
     EXPECT_EQ(column(screen, 4), "25,00|25,00|25,00|75,00");
     EXPECT_FALSE(screen.srt.visible());
-    EXPECT_TRUE(bench.around.programs.take_started().empty());
+    EXPECT_TRUE(stage.around.programs.take_started().empty());
 
     user.pending = [&] { screen.Combo1.pick(report_screen::evasi); };
     build(screen);
     EXPECT_EQ(column(screen, 4), "25,00|25,00") << "begins anew with the other choice";
 
-    bench.around.desk.dispatch([&] {
-        user.pending = [&] { bench.around.desk.close(screen); };
+    stage.around.desk.dispatch([&] {
+        user.pending = [&] { stage.around.desk.close(screen); };
         build(screen);
-        EXPECT_EQ(bench.around.desk.active()->name(), "mirorc");
-        EXPECT_EQ(bench.around.desk.pointer_shape(), ui::pointer::normal);
+        EXPECT_EQ(stage.around.desk.active()->name(), "mirorc");
+        EXPECT_EQ(stage.around.desk.pointer_shape(), ui::pointer::normal);
     });
     EXPECT_FALSE(app.mirstov.loaded());
     EXPECT_EQ(column(open(app.mirstov), 4), "25,00|25,00|25,00|75,00");
 }
 
 TEST_F(report_screens, ParametersAndCategoriesComeFromTheFilesOfTheMoment) {
-    bench.company.text("tb2", std::vector<std::string>(10000, "Categoria"));
+    stage.company.text("tb2", std::vector<std::string>(10000, "Categoria"));
     std::vector<std::string> pdf(80, "altrove");
     pdf[5 * 4 + 2] = " C:\\Ordini ";
-    bench.company.text("pdf", pdf);
-    std::ofstream(bench.company.file("eur").parent_path().parent_path() / "vantora.eur")
+    stage.company.text("pdf", pdf);
+    std::ofstream(stage.company.file("eur").parent_path().parent_path() / "vantora.eur")
         << "0\n1\nITL\nEUR\n2\n";
     EXPECT_EQ(open(app.mirstoa).Combo0.count(), 10001);
     EXPECT_EQ(column(*app.mirstoa, 0),
@@ -157,27 +145,28 @@ TEST_F(report_screens, ParametersAndCategoriesComeFromTheFilesOfTheMoment) {
     const std::string& folder = app.parameters.parametri_valuta[valuta_slot::cartella_pdf];
     EXPECT_EQ(folder, "C:\\Ordini");
     EXPECT_EQ(column(open(app.mirstov), 4), "25|25|25|75") << "whole lire";
-    std::filesystem::remove(bench.company.file("pdf"));
+    std::filesystem::remove(stage.company.file("pdf"));
     open(app.mirston);
     EXPECT_EQ(folder, "C:");
 }
 
 TEST_F(report_screens, PutTheirListOutAndLeaveAllFilesAsTheyWere) {
     open(app.mirstov);  // creates the general parameters, as the first start of a company does
-    const auto before = contents();
+    const auto folder = stage.company.file("orc").parent_path();
+    const auto before = files_under(folder);
     for (ui::screen_place* place : std::initializer_list<ui::screen_place*>{
              &app.mirstoe, &app.mirstos, &app.mirstov, &app.mirston, &app.mirstoa}) {
         report_screen& screen = open(*place);
-        bench.around.user.answers.keep(ui::answer::ok);
+        stage.around.user.answers.keep(ui::answer::ok);
         screen.bottone[report_screen::pdf].click();
         build(screen);
-        bench.around.user.answers.keep(ui::answer::yes);
+        stage.around.user.answers.keep(ui::answer::yes);
         screen.bottone[report_screen::stampa].click();
-        EXPECT_EQ(bench.around.paper.take_jobs().size(), 1U) << screen.name();
-        EXPECT_EQ(bench.around.programs.take_started().size(), 1U) << screen.name();
-        bench.around.desk.close(screen);
+        EXPECT_EQ(stage.around.paper.take_jobs().size(), 1U) << screen.name();
+        EXPECT_EQ(stage.around.programs.take_started().size(), 1U) << screen.name();
+        stage.around.desk.close(screen);
     }
-    EXPECT_EQ(contents(), before);
+    EXPECT_EQ(files_under(folder), before);
 }
 
 }  // namespace

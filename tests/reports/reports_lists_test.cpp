@@ -5,7 +5,7 @@
 
 #include <random>
 
-#include "reports/report_bench.h"
+#include "reports/report_stage.h"
 #include "reports/sheet_rows.h"
 #include "reports/told_lists.h"
 
@@ -14,7 +14,7 @@ namespace {
 
 class random_archive {
  public:
-    random_archive(unsigned seed, report_bench& on) : random_(seed), on_(on) {}
+    random_archive(unsigned seed, report_stage& on) : random_(seed), on_(on) {}
 
     int below(int limit) { return static_cast<int>(random_() % static_cast<unsigned>(limit)); }
     template <class Value>
@@ -65,8 +65,8 @@ class random_archive {
     /// one before ended with.
     void damage() {
         for (int i = 0; i < 3; ++i) {
-            const int record = below(orders_ * 200 + 1) + 1;
-            if (record % 200 != 1) on_.unreadable.insert(record);
+            const int row = below(orders_ * 200 + 1);
+            if (row % 200 != 0) on_.unreadable["orc"].insert(row * std::int64_t{sizeof(rec_orc)});
         }
     }
 
@@ -124,7 +124,7 @@ class random_archive {
     }
 
     std::mt19937 random_;
-    report_bench& on_;
+    report_stage& on_;
     bool full_ = false;
     int articles_ = 0;
     int customers_ = 0;
@@ -133,14 +133,14 @@ class random_archive {
 
 /// Opens a screen and builds its list with one set of filters after the other.
 template <class Form>
-void compare_lists(random_archive& archive, report_bench& bench, ui::screen<Form>& place,
+void compare_lists(random_archive& archive, report_stage& stage, ui::screen<Form>& place,
                    grid_rows (told_lists::*told)(), int builds) {
     place.use().show();
     report_screen& screen = *place;
-    told_lists reference(bench.app.archives, screen, bench.app.parameters);
+    told_lists reference(stage.app.archives, screen, stage.app.parameters);
     const auto compare = [&] {
         const auto expected = (reference.*told)();
-        EXPECT_EQ(report_bench::rows_of(screen.elenco), expected)
+        EXPECT_EQ(report_stage::rows_of(screen.elenco), expected)
             << screen.name() << ", orders " << screen.text1[0].text() << " to "
             << screen.text1[1].text() << ", choices " << screen.Combo1.chosen()
             << screen.Combo2.chosen() << screen.Combo0.chosen();
@@ -166,24 +166,24 @@ void compare_lists(random_archive& archive, report_bench& bench, ui::screen<Form
         screen.bottone[report_screen::aggiorna].click();
         compare();
     }
-    bench.unreadable.clear();
+    stage.unreadable.clear();
     screen.bottone[report_screen::uscita].click();
 }
 
 void compare_all_lists(unsigned seed, bool long_lists) {
     SCOPED_TRACE("seed " + std::to_string(seed));
-    report_bench bench;
-    random_archive archive(seed, bench);
-    bench.company.text("tb2", {"Zero", "Uno", "Due", ""});
+    report_stage stage;
+    random_archive archive(seed, stage);
+    stage.company.text("tb2", {"Zero", "Uno", "Due", ""});
     archive.fill(long_lists);
-    bench.app.parameters.parametri_valuta[1] = "1";
+    stage.app.parameters.parametri_valuta[1] = "1";
     const int builds = long_lists ? 1 : 4;
-    compare_lists(archive, bench, bench.app.mirstoe, &told_lists::order_list, builds);
-    compare_lists(archive, bench, bench.app.mirstos, &told_lists::schedule, builds);
-    compare_lists(archive, bench, bench.app.mirstov, &told_lists::valuation, builds);
-    compare_lists(archive, bench, bench.app.mirstoa, &told_lists::article_sheets, builds);
-    compare_lists(archive, bench, bench.app.mirston, &told_lists::customer_sheets, builds);
-    EXPECT_TRUE(bench.files.events.empty()) << "a report wrote into a record file";
+    compare_lists(archive, stage, stage.app.mirstoe, &told_lists::order_list, builds);
+    compare_lists(archive, stage, stage.app.mirstos, &told_lists::schedule, builds);
+    compare_lists(archive, stage, stage.app.mirstov, &told_lists::valuation, builds);
+    compare_lists(archive, stage, stage.app.mirstoa, &told_lists::article_sheets, builds);
+    compare_lists(archive, stage, stage.app.mirston, &told_lists::customer_sheets, builds);
+    EXPECT_TRUE(stage.files.events.empty()) << "a report wrote into a record file";
 }
 
 TEST(report_lists, AreThoseOfThePlainProcedure) {

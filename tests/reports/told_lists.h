@@ -2,8 +2,8 @@
 
 #include <cmath>
 
-#include "reports/report_bench.h"
 #include "reports/report_screen.h"
+#include "reports/report_stage.h"
 #include "store/text/dates.h"
 #include "store/text/number_text.h"
 #include "store/values.h"

@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "demo/company.h"
+#include "support/file_bytes.h"
 #include "support/scratch_folder.h"
-#include "tools/file_bytes.h"
 
 namespace vantora::test {
 

@@ -134,6 +134,9 @@ TEST(grid, AClickOnTheHeadCountsWithTheCurrentRowAndEnterWithTheCurrentCell) {
     EXPECT_EQ(one.row(), 1) << "arrows stop below the head";
     one.press_key(key::enter, '\r');
     EXPECT_EQ(clicks, "3,1 3,0 1,1 ");
+    one.on_key_press = [](key_event& pressed) { pressed.swallow(); };
+    one.press_key(key::enter, '\r');
+    EXPECT_EQ(clicks, "3,1 3,0 1,1 ") << "a key that is swallowed has no effect";
 }
 
 }  // namespace

@@ -21,11 +21,7 @@ struct outcome {
 outcome run(const std::string& arguments, const std::vector<std::string>& commands) {
     test::scratch_folder folder;
     const auto script = folder.path() / "comandi";
-    std::ofstream(script) << [&] {
-        std::string all;
-        for (const auto& command : commands) all += command + "\n";
-        return all;
-    }();
+    for (std::ofstream out(script); const auto& command : commands) out << command << '\n';
     const std::string line =
         std::string(SCRIPT_PROGRAM) + " " + arguments + " <" + script.string() + " 2>/dev/null";
     outcome result;
@@ -40,17 +36,12 @@ outcome run(const std::string& arguments, const std::vector<std::string>& comman
     return result;
 }
 
-TEST(vantora_script, ServesASessionOnADemonstrationCompany) {
+TEST(vantora_script, ServesSessionsOnADemonstrationCompanyUntilARunTimeErrorEndsOne) {
     test::scratch_folder folder;
-    demo::demo_request request;
-    request.numero_azienda = 7;
-    request.orders = 40;
-    request.articles = 30;
-    request.customers = 20;
-    demo::make_company(request, folder.path());
+    demo::make_company({.numero_azienda = 7, .orders = 40, .articles = 30, .customers = 20},
+                       folder.path());
     const std::string arguments =
         "--drive " + folder.path().string() + " --clock \"2024-05-06 10:20:30\" ordini007";
-
     const outcome first =
         run(arguments, {"click mirorc.selvis(0)", "click mirorc.visua(0)", "get mirorc.elenco",
                         "click mirorc.srx(3)", "click mirorc.srtt(1)", "answer no", "answer yes",
@@ -62,36 +53,28 @@ TEST(vantora_script, ServesASessionOnADemonstrationCompany) {
     EXPECT_EQ(first.replies[8]["ended"], "exit");
 
     // What the first run left is there for the second one.
-    const outcome second = run(arguments, {"get mirorc.elenco", "get mirorc.selvis(0)",
-                                           "click mirorc.bottone(2)", "get mirorcx.Text3(1)"});
+    const outcome second = run(
+        arguments, {"get mirorc.elenco", "get mirorc.selvis(0)", "click mirorc.bottone(2)",
+                    "get mirorcx.Text3(1)", "scroll mirorcx.HScroll1 3", "click mirorcx.bottone",
+                    "set mirorcs.sc1(0) \"99999\"", "click mirorcs.comando(0)"});
     EXPECT_EQ(second.replies[0]["value"]["rows"], first.replies[7]["value"]["rows"]);
     EXPECT_EQ(second.replies[1]["value"]["on"], true);
     EXPECT_EQ(second.replies[3]["value"]["text"], "06/05/2024");
+    EXPECT_EQ(second.exit_code, 3);
+    EXPECT_EQ(second.replies[6]["fatal"], "Errore di run-time '6': Overflow");
+    EXPECT_EQ(second.replies[7]["ok"], false);
 }
 
 TEST(vantora_script, StartsOnAnythingAndRefusesWrongOptions) {
     test::scratch_folder folder;
     const std::string drive = "--drive " + folder.path().string();
     EXPECT_EQ(run(drive, {"get mirorc.elenco"}).replies[0]["value"]["rows"], 26);
-    EXPECT_EQ(run(drive + " x", {}).exit_code, 0);
-    EXPECT_EQ(run("--drive /nessuna/cartella ordini001", {}).exit_code, 2);
-    EXPECT_EQ(run(drive + " --clock ieri ordini001", {}).exit_code, 2);
-    EXPECT_EQ(run(drive + " --sconosciuta", {}).exit_code, 2);
-}
-
-TEST(vantora_script, EndsWithCode3OnARunTimeError) {
-    test::scratch_folder folder;
-    demo::make_company(
-        {.numero_azienda = 7, .orders = 0, .articles = 30, .customers = 20, .seed = 1},
-        folder.path());
-    const outcome ended =
-        run("--drive " + folder.path().string() + " ordini007",
-            {"click mirorc.bottone(2)", "scroll mirorcx.HScroll1 3", "click mirorcx.bottone",
-             "set mirorcs.sc1(0) \"99999\"", "click mirorcs.comando(0)"});
-    EXPECT_EQ(ended.exit_code, 3);
-    EXPECT_EQ(ended.replies[2]["screen"], "mirorcs");
-    EXPECT_EQ(ended.replies[3]["fatal"], "Errore di run-time '6': Overflow");
-    EXPECT_EQ(ended.replies[4]["ok"], false);
+    const std::pair<std::string, int> codes[] = {{drive + " x", 0},
+                                                 {"--drive /nessuna/cartella ordini001", 2},
+                                                 {drive + " --clock ieri ordini001", 2},
+                                                 {drive + " --sconosciuta", 2}};
+    for (const auto& [options, code] : codes)
+        EXPECT_EQ(run(options, {}).exit_code, code) << options;
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -29,6 +30,20 @@ struct document_line {
     [[nodiscard]] std::string_view first_part() const;
     [[nodiscard]] std::string_view second_part() const;
 };
+
+/// Puts a line into a row of an order or a quote.
+template <class Row>
+void set_line(Row& row, const document_line& line) {
+    row.articolo = static_cast<std::int16_t>(line.articolo);
+    row.descrizione = line.first_part();
+    row.descrizione2 = line.second_part();
+    row.um = line.um;
+    row.quantita = line.stored_quantita();
+    row.prezzo = line.stored_prezzo();
+    row.iva = static_cast<std::int16_t>(line.iva);
+    row.sc1 = static_cast<std::int16_t>(line.sc1);
+    row.sc2 = static_cast<std::int16_t>(line.sc2);
+}
 
 /// What a customer orders: articles at the customer's price list and discounts, with their long
 /// texts below them, now and then a remark or the cost of carriage.

@@ -155,19 +155,6 @@ void play_out(draws& chance, order& one, std::vector<article>& articles, deliver
     }
 }
 
-void set_line(rec_orc& row, const document_line& line) {
-    row.articolo = static_cast<std::int16_t>(line.articolo);
-    row.descrizione = line.first_part();
-    row.descrizione2 = line.second_part();
-    row.um = line.um;
-    row.quantita = line.stored_quantita();
-    row.prezzo = line.stored_prezzo();
-    row.evaso = line.stored_evaso();
-    row.iva = static_cast<std::int16_t>(line.iva);
-    row.sc1 = static_cast<std::int16_t>(line.sc1);
-    row.sc2 = static_cast<std::int16_t>(line.sc2);
-}
-
 template <class Text>
 void set_texts(rec_orc& row, const Text& first, const Text& second, const Text& third) {
     row.testo1 = first;
@@ -179,6 +166,7 @@ void set_texts(rec_orc& row, const Text& first, const Text& second, const Text& 
 void fill_block(std::vector<rec_orc>& block, const order& one, const rec_cli& customer) {
     rec_orc row;
     set_line(row, {});
+    row.evaso = 0;
     row.numero = std::to_string(one.number);
     row.data = stored_day(one.day);
     row.cliente = static_cast<std::int16_t>(one.customer);
@@ -195,7 +183,10 @@ void fill_block(std::vector<rec_orc>& block, const order& one, const rec_cli& cu
               customer.amm_indirizzo.full());
     set_texts(block[2], customer.amm_cap.full(), customer.amm_citta.full(),
               std::string_view(one.choices));
-    for (std::size_t i = 0; i < one.lines.size(); ++i) set_line(block[i], one.lines[i]);
+    for (std::size_t i = 0; i < one.lines.size(); ++i) {
+        set_line(block[i], one.lines[i]);
+        block[i].evaso = one.lines[i].stored_evaso();
+    }
 }
 
 /// The warehouse's file numbers its records in 16 bits: older movements have been closed off.

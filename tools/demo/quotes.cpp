@@ -15,18 +15,6 @@ constexpr std::string_view subjects[] = {
     "Offerta materiale di consumo", "Preventivo illuminazione LED",  "Offerta annuale utensileria",
 };
 
-void set_line(rec_prv& row, const document_line& line) {
-    row.articolo = static_cast<std::int16_t>(line.articolo);
-    row.descrizione = line.first_part();
-    row.descrizione2 = line.second_part();
-    row.um = line.um;
-    row.quantita = line.stored_quantita();
-    row.prezzo = line.stored_prezzo();
-    row.iva = static_cast<std::int16_t>(line.iva);
-    row.sc1 = static_cast<std::int16_t>(line.sc1);
-    row.sc2 = static_cast<std::int16_t>(line.sc2);
-}
-
 }  // namespace
 
 void write_quotes(folder_writer& into, int count, std::uint64_t seed,

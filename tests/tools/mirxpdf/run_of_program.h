@@ -9,8 +9,8 @@
 
 #include "documents/print_file_writer.h"
 #include "store/drive.h"
+#include "support/file_bytes.h"
 #include "support/scratch_folder.h"
-#include "tools/file_bytes.h"
 
 namespace vantora::test {
 

@@ -15,12 +15,12 @@
 namespace vantora::test {
 
 /// A document on the bench, with the printer and the print file that it goes to.
-struct document_bench {
+struct document_stage {
     scratch_folder folder;
     drive files{folder.path()};
-    ui::test::bench_desk bench;
+    ui::test::bench_desk around;
     ui::pixbuf_decoder pictures;
-    program app{files, bench.desk, pictures};
+    program app{files, around.desk, pictures};
 
     testata_documento head;
     righe_ordine lines;
@@ -32,7 +32,7 @@ struct document_bench {
     ui::picture figure;
     esito_stampa outcome = esito_stampa::rifiutata;
 
-    document_bench() {
+    document_stage() {
         for (auto& row : tables.tabella_layout) row = {"000000", "9", "Arial", "0", "0", "0"};
     }
 
@@ -56,9 +56,9 @@ struct document_bench {
     /// Prints the document, and gives the pages that came out.
     std::vector<std::vector<ui::script::print_operation>> print(
         tipo_documento kind = tipo_documento::ordine) {
-        bench.user.answers.keep(ui::answer::yes);
+        around.user.answers.keep(ui::answer::yes);
         outcome = stampa_documento(app, document(kind));
-        auto jobs = bench.paper.take_jobs();
+        auto jobs = around.paper.take_jobs();
         return jobs.empty() ? decltype(jobs.front().pages){} : std::move(jobs.front().pages);
     }
 
