@@ -106,6 +106,18 @@ bool article_lookup::take_code(std::string_view code) {
     return true;
 }
 
+std::int16_t article_lookup::article_of(std::string_view code) {
+    const std::string wanted = upper(trimmed(code));
+    if (barcode.on()) return find_bar_code(wanted) ? articolo_corrente_ : 0;
+    if (!can_search() || wanted.empty()) return 0;
+    const int found = cerca_voce(List1.items(), wanted);
+    if (found < 0) return 0;
+    const std::string& entry = List1.item(found);
+    const std::string_view own =
+        trimmed(std::string_view(entry).substr(0, decltype(rec_art::codice)::width));
+    return upper(own) == wanted ? numero_articolo(entry) : std::int16_t{0};
+}
+
 bool article_lookup::find_bar_code(const std::string& code) {
     count_articles();
     lista_trovato_ = cerca_codice_barre(app_.archives.srb, articles(), code);

@@ -43,6 +43,9 @@ class article_lookup {
     void follow_key(std::string_view code, char key);
     /// The code is confirmed. False if no article has it.
     bool take_code(std::string_view code);
+    /// The article that a code typed and confirmed takes, if the code is its own and not only the
+    /// beginning of it; 0 if none.
+    std::int16_t article_of(std::string_view code);
     /// The user clicks the list.
     void take_list_entry();
     /// Takes the first article whose description begins so; none: nothing happens. False if the

@@ -94,6 +94,7 @@ void line_grid::close() {
 
 void line_grid::open_lines(std::int16_t customer) {
     svuota_righe();
+    history_.clear();
     combo_attivo_ = true;
     app_.archives.cli.read(customer, cliente_);
     lookup_.open();
@@ -239,6 +240,9 @@ void line_grid::wire_cell_focus(int row) {
         lookup_.follow_cell(artic[row].text());
     };
     artic[row].on_key_press = [this, row](ui::key_event& key) { article_key(row, key); };
+    artic[row].on_paste_lines = [this, row](std::string_view text, const auto& goes_on) {
+        paste_lines(row, text, goes_on);
+    };
 
     ds[row].on_focus = [this, row] { description_gains_focus(row); };
     ds[row].on_key_down = [this, row](ui::key_event& key) {
@@ -355,6 +359,7 @@ void line_grid::printer_setup() {
 
 void line_grid::shift_lines(void (righe_ordine::*shift)(int)) {
     if (!current_row_shown()) return;
+    keep_lines();
     prima_riga_ = VScroll1.value();
     (righe_.*shift)(prima_riga_ + riga_corrente_);
     paint_rows(riga_corrente_);
@@ -362,6 +367,7 @@ void line_grid::shift_lines(void (righe_ordine::*shift)(int)) {
 }
 
 void line_grid::sort_lines() {
+    keep_lines();
     righe_.sort_by_code();
     paint();
     return_to(artic);

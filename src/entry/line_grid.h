@@ -2,6 +2,7 @@
 
 #include "documents/document_tables.h"
 #include "entry/article_lookup.h"
+#include "entry/line_history.h"
 #include "entry/totals.h"
 #include "program/program.h"
 #include "ui/controls.h"
@@ -63,6 +64,9 @@ class line_grid : public ui::form {
     [[nodiscard]] article_lookup& lookup() { return lookup_; }
     [[nodiscard]] const righe_ordine& lines() const { return righe_; }
     [[nodiscard]] const totali_ordine& totals() const { return totali_; }
+
+    /// The lines are again as before the last insert, delete, sort or paste.
+    bool take_back() override;
 
  protected:
     void load() override;
@@ -139,7 +143,22 @@ class line_grid : public ui::form {
     void article_enter(int row);
     /// Fills the current row's line.
     void take_article(std::int16_t number, const rec_art& article, std::string_view code);
+    /// The texts that an article's line has below it.
+    [[nodiscard]] std::vector<std::string> long_text_of(std::int16_t article) const;
     void unfold_long_text(std::int16_t article, int line);
+
+    // Pasting and taking back ---------------------------------------------------------------------
+
+    class paste_report;
+    void paste_lines(int row, std::string_view text, const ui::paste_progress& goes_on);
+    void paste_line(const ui::pasted_line& line, int& at, paste_report& report);
+    bool make_room(int at, int lines);
+    /// The row of a line, scrolled into sight if need be.
+    int row_showing(int line);
+    void type_line(const ui::pasted_line& line, int row);
+    void keep_lines();
+
+    line_history history_;
 };
 
 }  // namespace vantora

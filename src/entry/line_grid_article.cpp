@@ -59,16 +59,23 @@ void line_grid::take_article(std::int16_t number, const rec_art& article, std::s
     return_to(quantita);
 }
 
-void line_grid::unfold_long_text(std::int16_t article, int line) {
+std::vector<std::string> line_grid::long_text_of(std::int16_t article) const {
+    std::vector<std::string> texts;
     rec_prx text;
-    if (!app_.archives.prx.read(article, text)) return;
-    if (text.marca_testo != rec_prx::ha_testo) return;
+    if (!app_.archives.prx.read(article, text)) return texts;
+    if (text.marca_testo != rec_prx::ha_testo) return texts;
     for (const auto& written : text.righe) {
         const std::string clean = filtra_stampa(written.full());
-        if (trimmed(clean).empty()) continue;
+        if (!trimmed(clean).empty()) texts.emplace_back(trimmed(clean));
+    }
+    return texts;
+}
+
+void line_grid::unfold_long_text(std::int16_t article, int line) {
+    for (const std::string& text : long_text_of(article)) {
         riga_ordine& below = righe_[++line];
         clear_line(below);
-        below.descrizione = trimmed(clean);
+        below.descrizione = text;
     }
 }
 

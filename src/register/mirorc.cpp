@@ -53,6 +53,8 @@ mirorc::mirorc(program& app)
     xx_versione.set_text("Ver. N.15.1");
 
     elenco.on_click = [this] { open_order(); };
+    elenco.hint_of = [this](int row) { return hint(row); };
+    elenco.notice_of = [this](int row) { return notice(row); };
     for (int i = 0; i < 6; ++i) srx[i].on_click = [this, i] { sort_by(i); };
     for (auto& option : selvis) option.on_click = [this] { change_view(); };
     for (auto& option : visua) option.on_click = [this] { change_view(); };

@@ -55,6 +55,10 @@ class mirorc final : public ui::form {
     void sort_by(int button);
     void run_command(int button);
     void open_order();
+    /// The first lines of a row's order, what is open of it, what it is worth.
+    [[nodiscard]] std::string hint(int row) const;
+    /// That a row's order should have left already.
+    [[nodiscard]] std::string notice(int row) const;
     void compact();
     /// False, with a message, if it can't begin.
     bool run_compaction(bool elimina_evasi);

@@ -1,7 +1,5 @@
 #include "reports/mirstov.h"
 
-#include <cmath>
-
 #include "program/customer_names.h"
 #include "store/text/dates.h"
 
@@ -34,12 +32,8 @@ const tipo_report& valorizzazione() {
     return kind;
 }
 
-/// What a quantity of a row is worth, net of both discounts. What is beyond all amounts counts for
-/// nothing.
 double net_value(const rec_orc& row, double quantity, const valuta& in) {
-    const double gross = arrotonda_valuta(row.prezzo * quantity, in);
-    const double net = arrotonda_valuta(importo_scontato(gross, row.sc1, row.sc2, in), in);
-    return std::isfinite(net) ? net : 0;
+    return valore_netto(row.prezzo, quantity, row.sc1, row.sc2, in);
 }
 
 }  // namespace

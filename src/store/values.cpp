@@ -1,6 +1,7 @@
 #include "store/values.h"
 
 #include <array>
+#include <cmath>
 
 #include "store/text/number_text.h"
 
@@ -43,6 +44,12 @@ double importo_scontato(double amount, double sc1, double sc2, const valuta& in)
     amount -= percentuale_valuta(amount, sc1, in);
     amount -= percentuale_valuta(amount, sc2, in);
     return amount;
+}
+
+double valore_netto(double price, double quantity, double sc1, double sc2, const valuta& in) {
+    const double gross = arrotonda_valuta(price * quantity, in);
+    const double net = arrotonda_valuta(importo_scontato(gross, sc1, sc2, in), in);
+    return std::isfinite(net) ? net : 0;
 }
 
 double testo_a_numero(std::string_view text) {

@@ -42,6 +42,10 @@ double percentuale_eccesso(double value, double percent, const valuta& in);
 /// leaves, each is rounded to the currency's unit.
 double importo_scontato(double amount, double sc1, double sc2, const valuta& in);
 
+/// What a quantity is worth at its price, net of both discounts; 0 where that is beyond all
+/// numbers.
+double valore_netto(double price, double quantity, double sc1, double sc2, const valuta& in);
+
 /// The number in an Italian text: points are thousands marks and dropped, the comma is the
 /// decimal mark. Of two points side by side the second stays and ends the number.
 double testo_a_numero(std::string_view text);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
@@ -123,6 +124,10 @@ class control {
     /// have a cursor edits there in its place.
     virtual void take_effect(int code, std::optional<char> character);
 
+    /// Counts the changes of a list's texts and their order: what was made of them before such a
+    /// change is old.
+    [[nodiscard]] std::uint64_t revision() const { return revision_; }
+
     /// The front end's widget; null while there is none.
     void attach(control_view* view) { view_ = view; }
 
@@ -130,6 +135,9 @@ class control {
     explicit control(control_kind kind) : kind_(kind) {}
 
     void show_change(aspect what) {
+        const bool texts =
+            what == aspect::content || what == aspect::shape || what == aspect::items;
+        if (texts) ++revision_;
         if (view_) view_->changed(what);
     }
     static void fire(const std::function<void()>& event) {
@@ -147,6 +155,7 @@ class control {
     std::optional<int> index_;
     form* owner_ = nullptr;
     control_view* view_ = nullptr;
+    std::uint64_t revision_ = 0;
 };
 
 }  // namespace vantora::ui

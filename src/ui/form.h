@@ -43,6 +43,9 @@ class form {
     /// Drops the screen; its next use loads it afresh. What runs in it finishes first.
     void unload();
 
+    /// The user takes the last change of many lines at once back. False if there is none.
+    virtual bool take_back() { return false; }
+
     /// Tells its holder that the form was unloaded.
     std::function<void()> when_unloaded;
 

@@ -32,6 +32,11 @@ class grid : public control {
     grid() : control(control_kind::grid) {}
 
     std::function<void()> on_click;  ///< a cell was clicked; see mouse_column()
+    /// What stands behind a row, in a few lines for who rests on it; read when it is asked for.
+    std::function<std::string(int row)> hint_of;
+    /// Why a row deserves a second look, in a few words; empty for others. Asked of each row that
+    /// comes into sight, so it reads no file.
+    std::function<std::string(int row)> notice_of;
 
     /// Sets columns and heads; what the grid held is gone, and one head row is left.
     void set_columns(std::vector<grid_column> columns);

@@ -8,6 +8,7 @@
 #include "ui/bitmap.h"
 #include "ui/control.h"
 #include "ui/input_rule.h"
+#include "ui/pasted_lines.h"
 
 namespace vantora::ui {
 
@@ -33,6 +34,8 @@ class text_box : public text_control {
 
     std::function<void()> on_change;  ///< the text became another one, whoever set it
     input_rule accepts;               ///< from a hand in a window
+    /// Lines from a spreadsheet are pasted here; a field without it takes them as a text.
+    std::function<void(std::string_view text, const paste_progress& goes_on)> on_paste_lines;
 
     /// A character joins the end of the text, backspace takes the last one off.
     void take_effect(int code, std::optional<char> character) override;

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QClipboard>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -180,6 +181,40 @@ TEST_F(order_window, TheRowWorkedOnIsMarkedAndPagesArePaintedOnce) {
              press(Qt::Key_PageUp);
              EXPECT_EQ(text("artic(0)"), "A100");
              EXPECT_EQ(totals(), "30,00 36,60 3");
+         }});
+}
+
+TEST_F(order_window, PastedLinesAndSlipsAreTakenBack) {
+    run({[&] {
+             write("7");
+             press(Qt::Key_Z, Qt::ControlModifier);
+             EXPECT_EQ(text("artic(0)"), "");
+             write_cells({"a100", "3"});
+             write("50");
+             press(Qt::Key_Return);
+             QApplication::clipboard()->setText("a200\t2\nX\t1\na300;8");
+             bench.find("artic(0)")->setFocus();
+             press(Qt::Key_V, Qt::ControlModifier);
+         },
+         [&] {
+             auto* box = qobject_cast<QMessageBox*>(bench.front.front_window());
+             ASSERT_TRUE(box);
+             EXPECT_TRUE(box->text().contains("riga 2: X")) << box->text().toStdString();
+             QTest::keyClick(box, Qt::Key_Return);
+         },
+         [&] {
+             EXPECT_EQ(text("artic(0)") + text("quantita(0)"), "A2002");
+             EXPECT_EQ(text("artic(1)") + text("quantita(1)"), "A1003");
+             press(Qt::Key_F7);
+             EXPECT_EQ(text("artic(2)"), "A100");
+             for (const char* expected : {"A100", ""}) {
+                 press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+                 EXPECT_EQ(text("artic(1)"), expected);
+             }
+             EXPECT_EQ(text("artic(0)") + text("quantita(0)"), "A1003");
+             EXPECT_EQ(totals(), "15,00 18,30 3");
+             press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+             EXPECT_EQ(text("artic(0)"), "A100") << "there is nothing more to take back";
          }});
 }
 

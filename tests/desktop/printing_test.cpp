@@ -1,8 +1,10 @@
 #include <gtest/gtest.h>
 
+#include <QDialog>
 #include <QImage>
 #include <QLabel>
 #include <QPainter>
+#include <QPrintPreviewWidget>
 #include <QProcess>
 #include <QRegularExpression>
 
@@ -174,6 +176,42 @@ TEST_F(printing, EachJobAsksForItsFileAndADroppedOneLeavesNothing) {
     EXPECT_TRUE(place_of(file("tre.pdf"), "secondo").isEmpty());
     const QImage wide = page(file("tre.pdf"), 1);
     EXPECT_GT(wide.width(), wide.height());
+}
+
+TEST_F(printing, AJobThatIsSeenFirstIsPrintedAsAnyOther) {
+    QStringList asked;
+    system_printer paper(
+        [&](const QString& proposed) {
+            asked << proposed;
+            return file("visto.pdf");
+        },
+        {});
+    paper.set_preview(true);
+    int shown_pages = 0;
+    for (const bool print : {false, true}) {
+        QTimer::singleShot(0, [&] {
+            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            ASSERT_TRUE(dialog);
+            EXPECT_EQ(dialog->windowTitle(), "Anteprima: Ordine 7");
+            shown_pages = dialog->findChild<QPrintPreviewWidget*>()->pageCount();
+            dialog->done(print ? QDialog::Accepted : QDialog::Rejected);
+        });
+        paper.set_job_name("Ordine 7");
+        paper.set_orientation(printer::landscape);
+        paper.text(100, 60, "prima", {}, 0);
+        paper.new_page();
+        paper.text(20, 30, "seconda", {}, 0);
+        paper.new_page();
+        paper.set_orientation(printer::upright);
+        paper.end_job();
+        EXPECT_EQ(asked.size(), print ? 1 : 0);
+    }
+    EXPECT_EQ(shown_pages, 2);
+    EXPECT_EQ(paper.orientation(), printer::upright);
+    EXPECT_TRUE(
+        output_of("pdfinfo", {file("visto.pdf")}).contains(QRegularExpression("Pages: +2")));
+    EXPECT_NEAR(place_of(file("visto.pdf"), "prima").left(), 100, 0.3);
+    EXPECT_GT(page(file("visto.pdf"), 2).width(), page(file("visto.pdf"), 2).height());
 }
 
 /// A screen with the picture that is shown while it prints.

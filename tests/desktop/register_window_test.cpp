@@ -170,6 +170,36 @@ TEST_F(register_window, ClosingItEndsTheProgram) {
     EXPECT_FALSE(app.archives.tot.is_open());
 }
 
+TEST_F(register_window, ATooltipTellsWhatStandsBehindARow) {
+    rec_orc row{};
+    company.files.orc.read(block_record(3, 1), row);
+    row.descrizione = "Vite";
+    row.um = "N.";
+    row.quantita = 5;
+    row.evaso = 2;
+    row.prezzo = 10;
+    row.sc1 = 10;
+    company.files.orc.write(block_record(3, 1), row);
+    row.quantita = 0;
+    for (int i = 2; i <= 8; ++i) company.files.orc.write(block_record(3, i), row);
+    const auto told = [&](int at, int role = Qt::ToolTipRole) {
+        return table()->model()->index(at, 0).data(role).toString();
+    };
+    bench.time.stop_at({{2024, 2, 3}, 10, 0, 0});
+    run({[&] {
+        const QString third = told(2).replace("<br>", "\n");
+        for (const char* part :
+             {"In ritardo di 2 giorni\n5,00 N.  Vite\nVite\n", "\n... in tutto 8 righe\n",
+              "Da evadere: 3,00 pezzi, 27,00\nValore dell'ordine: 45,00"}) {
+            EXPECT_TRUE(third.contains(part)) << third.toStdString();
+        }
+        EXPECT_EQ(told(1), "") << "deleted";
+        EXPECT_EQ(told(2, Qt::AccessibleTextRole), "3, In ritardo di 2 giorni");
+        bench.time.stop_at({{2024, 2, 1}, 23, 0, 0});
+        EXPECT_FALSE(told(2).contains("ritardo"));
+    }});
+}
+
 TEST_F(register_window, ANewOrderIsTakenByTheKeyboard) {
     run({[&] { bench.press_button("bottone(2)"); },
          [&] {

@@ -134,6 +134,15 @@ int base_letter(unsigned char character) {
     return place < first_letter ? place : place - (place - first_letter) % letter_step;
 }
 
+constexpr auto folded_table = [] {
+    std::array<char, 256> table = upper_table;
+    for (unsigned code = 0; code < 256; ++code) {
+        const int letter = alphabet[code] - first_letter;
+        if (letter >= 0) table[code] = static_cast<char>('A' + letter / letter_step);
+    }
+    return table;
+}();
+
 }  // namespace
 
 std::string to_utf8(std::string_view text) {
@@ -162,6 +171,10 @@ std::string upper(std::string_view text) {
     std::string capitals(text);
     for (char& character : capitals) character = upper(character);
     return capitals;
+}
+
+char folded(char character) {
+    return folded_table[static_cast<unsigned char>(character)];
 }
 
 std::string_view trimmed(std::string_view text) {

@@ -24,6 +24,10 @@ char upper(char character);
 /// Capital form of a text, character by character; the length never changes.
 std::string upper(std::string_view text);
 
+/// Capital form of one character without its accent ("à" gives "A", "ß" gives "S"): what searches
+/// compare.
+char folded(char character);
+
 /// The text without blanks at both ends. Only blanks: zero bytes and tabs stay.
 std::string_view trimmed(std::string_view text);
 

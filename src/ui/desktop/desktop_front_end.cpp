@@ -6,6 +6,7 @@
 #include <QPushButton>
 
 #include "ui/desk.h"
+#include "ui/desktop/shown_lines.h"
 #include "ui/look/box_look.h"
 
 namespace vantora::ui::desktop {
@@ -189,7 +190,8 @@ void desktop_front_end::box_opened(const message_box& box) {
     QWidget* parent = desk_->active() ? window_of(*desk_->active()) : nullptr;
     auto* shown_box = new QMessageBox(parent);
     shown_box->setWindowTitle(shown(box.title));
-    shown_box->setText(shown(box.text));
+    shown_box->setTextFormat(Qt::PlainText);
+    shown_box->setText(shown_lines(box.text));
     if (box.buttons == buttons::yes_no) {
         auto* yes = shown_box->addButton(QString::fromUtf8("&Sì"), QMessageBox::YesRole);
         auto* no = shown_box->addButton("&No", QMessageBox::NoRole);

@@ -16,6 +16,7 @@
 #include "ui/desk.h"
 #include "ui/desktop/grid_view.h"
 #include "ui/desktop/layouts.h"
+#include "ui/desktop/list_tools.h"
 #include "ui/desktop/manual.h"
 #include "ui/desktop/widget_binder.h"
 #include "ui/look/style.h"
@@ -42,6 +43,8 @@ form_window::form_window(form& screen, user_action act, std::function<void(form&
     for (control* one : screen.controls()) binders_[one] = make_binder(*one, this, act_);
     follow_controls_by_tab();
     lay_out(*this);
+    add_list_tools(*this);
+    add_help(*this);
     make_scrollable();
     name_the_rest();
     if (remember_) recall();
@@ -79,14 +82,6 @@ void form_window::dress(const char* name, int index, const command_look& look,
     if (*look.shortcut != '\0') add_shortcut(*button, look.shortcut);
     button->setAccessibleName(QString::fromUtf8(look.caption).remove('&'));
     button->setAccessibleDescription(QString::fromUtf8(look.tooltip));
-}
-
-void add_shortcut(QAbstractButton& button, const char* keys) {
-    auto* shortcut = new QShortcut(QKeySequence(keys), &button);
-    shortcut->setAutoRepeat(false);
-    QObject::connect(shortcut, &QShortcut::activated, &button, [&button] { click_by_key(button); });
-    const QString named = QString("(%1)").arg(shortcut->key().toString(QKeySequence::NativeText));
-    button.setToolTip((button.toolTip() + " " + named).trimmed());
 }
 
 void form_window::make_scrollable() {

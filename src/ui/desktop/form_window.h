@@ -7,9 +7,9 @@
 #include <vector>
 
 #include "ui/desktop/binder.h"
+#include "ui/desktop/keys.h"
 #include "ui/form.h"
 
-class QAbstractButton;
 class QScrollArea;
 class QToolButton;
 
@@ -103,8 +103,5 @@ class form_window final : public QWidget {
     QScrollArea* area_ = nullptr;
     std::map<const control*, std::unique_ptr<binder>> binders_;
 };
-
-/// Further keys for a button, told by its tooltip; pressed by them it leaves the focus where it is.
-void add_shortcut(QAbstractButton& button, const char* keys);
 
 }  // namespace vantora::ui::desktop

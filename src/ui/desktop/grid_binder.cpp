@@ -5,6 +5,7 @@
 
 #include "ui/desktop/grid_view.h"
 #include "ui/desktop/kinds.h"
+#include "ui/desktop/shown_lines.h"
 #include "ui/desktop/widget_binder.h"
 #include "ui/grid.h"
 #include "ui/look/contrast.h"
@@ -39,6 +40,13 @@ class cells_model final : public QAbstractTableModel {
                 return readable_on(toolkit_colour(grid_.back_colour(row, col)));
             case Qt::TextAlignmentRole:
                 return aligned(col);
+            case Qt::ToolTipRole:
+                return hint(row);
+            case Qt::AccessibleTextRole: {
+                const QString text = shown(grid_.text(row, col));
+                const std::string said = col == 0 ? notice(row) : std::string();
+                return said.empty() ? text : text + ", " + shown(said);
+            }
             case Qt::FontRole:
                 return view_.is_set_off(row) ? QVariant(strong_) : QVariant();
             default:
@@ -74,6 +82,18 @@ class cells_model final : public QAbstractTableModel {
     }
 
  private:
+    [[nodiscard]] std::string notice(int row) const {
+        return grid_.notice_of ? grid_.notice_of(row) : std::string();
+    }
+    [[nodiscard]] QVariant hint(int row) const {
+        std::string text = grid_.hint_of ? grid_.hint_of(row) : std::string();
+        const std::string said = notice(row);
+        if (!said.empty()) text = said + "\n" + text;
+        if (text.empty()) return {};
+        // Each line as it is, however long.
+        return "<p style='white-space:pre'>" +
+               shown_lines(text).toHtmlEscaped().replace('\n', QString("<br>")) + "</p>";
+    }
     [[nodiscard]] QVariant aligned(int col) const {
         const auto& columns = grid_.columns();
         const bool right = static_cast<std::size_t>(col) < columns.size() &&

@@ -4,14 +4,49 @@
 #include <QApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QScrollBar>
 #include <QSettings>
 #include <QSignalBlocker>
+#include <QStyledItemDelegate>
 
 #include "store/text/code_page.h"
 #include "ui/desktop/binder.h"
 
 namespace vantora::ui::desktop {
+
+namespace {
+
+/// A small sign at the end of the cells of rows that deserve a second look.
+class notice_marks final : public QStyledItemDelegate {
+ public:
+    notice_marks(const grid& model, QObject* parent) : QStyledItemDelegate(parent), model_(model) {}
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override {
+        QStyledItemDelegate::paint(painter, option, index);
+        if (!model_.notice_of || model_.notice_of(index.row() + 1).empty()) return;
+        const double side = std::min(option.rect.height() - 5, 14);
+        QRectF sign(0, 0, side, side);
+        sign.moveCenter(option.rect.center());
+        sign.moveRight(option.rect.right() - 4);
+        painter->save();
+        painter->setRenderHint(QPainter::Antialiasing);
+        const bool chosen = (option.state & QStyle::State_Selected) != 0;
+        const QColor ink = chosen ? Qt::white : QColor(0xa8, 0x4a, 0x00);
+        painter->setPen(QPen(ink, 1.3));
+        painter->drawEllipse(sign.adjusted(1, 1, -1, -1));
+        // The hands of a clock.
+        painter->drawPolyline(QPolygonF({sign.center() - QPointF(0, side * 0.26), sign.center(),
+                                         sign.center() + QPointF(side * 0.2, side * 0.1)}));
+        painter->restore();
+    }
+
+ private:
+    const grid& model_;
+};
+
+}  // namespace
 
 grid_view::grid_view(const grid& model, QWidget* parent) : QTableView(parent), model_(model) {
     // A list that is hidden while it is filled keeps its room.
@@ -152,6 +187,10 @@ void grid_view::call_by_column(const follower& one) {
     };
     call();
     connect(model(), &QAbstractItemModel::modelReset, one.widget, call);
+}
+
+void grid_view::show_notices_in(int column) {
+    setItemDelegateForColumn(column, new notice_marks(model_, this));
 }
 
 void grid_view::set_off(int column, std::string text) {

@@ -43,6 +43,8 @@ class grid_view final : public QTableView {
     /// entry that joined the end is marked.
     void keep_mark() { keeps_mark_ = true; }
     [[nodiscard]] bool keeps_mark() const { return keeps_mark_; }
+    /// Where a row that deserves a second look is marked.
+    void show_notices_in(int column);
     /// Sets off the rows that sum others up: nothing stands before their column `column`, and
     /// there `text`.
     void set_off(int column, std::string text);

@@ -31,8 +31,9 @@ void lay_out(form_window& window) {
     auto* rows = new QFormLayout(&window);
     for (const control* one : window.screen().controls()) {
         if (one->kind() == control_kind::picture) continue;  // lies in front of all others
-        rows->addRow(shown(one->address()),
-                     window.widget(one->name().c_str(), one->index().value_or(-1)));
+        auto* column = new QVBoxLayout;                      // what goes with a list joins it there
+        column->addWidget(window.widget(one->name().c_str(), one->index().value_or(-1)));
+        rows->addRow(shown(one->address()), column);
     }
 }
 

@@ -1,75 +1,36 @@
 #include "ui/desktop/system_ports.h"
 
 #include <QApplication>
+#include <QBoxLayout>
+#include <QCheckBox>
 #include <QDialogButtonBox>
-#include <QDir>
 #include <QFile>
-#include <QFileDialog>
-#include <QMessageBox>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinterInfo>
 #include <QProcess>
 #include <QPushButton>
-#include <QStandardPaths>
+#include <QSettings>
 
-#include "ui/look/box_look.h"
+#include "ui/desktop/file_dialog.h"
+#include "ui/desktop/print_preview.h"
+#include "ui/desktop/words.h"
 #include "ui/paper/toolkit_values.h"
 
 namespace vantora::ui::desktop {
 
 namespace {
 
-constexpr const char* nameless = "Documento";
-
-/// A name that isn't taken yet, in the user's folder of documents.
-QString proposed_file(const QString& called) {
-    const QDir folder(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
-    QString name = called + ".pdf";
-    for (int i = 2; folder.exists(name); ++i) name = QString("%1 (%2).pdf").arg(called).arg(i);
-    return folder.filePath(name);
-}
-
-/// Long work may have set the busy pointer; a dialog is no place for it.
-class plain_pointer {
- public:
-    plain_pointer() : busy_(QGuiApplication::overrideCursor() != nullptr) {
-        if (busy_) QGuiApplication::changeOverrideCursor(Qt::ArrowCursor);
-    }
-    ~plain_pointer() {
-        if (busy_) QGuiApplication::changeOverrideCursor(Qt::WaitCursor);
-    }
-    plain_pointer(const plain_pointer&) = delete;
-    plain_pointer& operator=(const plain_pointer&) = delete;
-
- private:
-    bool busy_;
-};
+constexpr const char* preview_setting = "printing/preview";
 
 QString ask_by_dialog(const QString& called) {
-    const plain_pointer shown_meanwhile;
-    QFileDialog dialog(QApplication::activeWindow(), "Nessuna stampante: salva il documento in PDF",
-                       proposed_file(called), "Documenti PDF (*.pdf)");
-    // The system's own dialog speaks the system's language.
-    dialog.setOption(QFileDialog::DontUseNativeDialog);
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix("pdf");
-    dialog.setLabelText(QFileDialog::LookIn, "Cerca in:");
-    dialog.setLabelText(QFileDialog::FileName, "Nome del file:");
-    dialog.setLabelText(QFileDialog::FileType, "Tipo di file:");
-    dialog.setLabelText(QFileDialog::Accept, "&Salva");
-    dialog.setLabelText(QFileDialog::Reject, "&Annulla");
-    dialog.selectFile(proposed_file(called));
-    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+    return ask_where_to_save(QString::fromUtf8(words::no_printer), called,
+                             {QString::fromUtf8(words::pdf_files), "pdf"},
+                             QApplication::activeWindow());
 }
 
 void tell_by_box(const QString& why) {
-    const plain_pointer shown_meanwhile;
-    QMessageBox box(QApplication::activeWindow());
-    box.setWindowTitle("Attenzione");
-    box.setText(why);
-    dress_box(box, icon::warning);
-    box.exec();
+    tell(why, QApplication::activeWindow());
 }
 
 }  // namespace
@@ -84,16 +45,18 @@ system_printer::system_printer()
     : printer_(QPrinter::HighResolution),
       ask_(ask_by_dialog),
       tell_(tell_by_box),
-      job_name_(nameless) {
+      job_name_(words::nameless_job) {
     printer_.setPageSize(QPageSize(QPageSize::A4));
     printer_.setFullPage(true);
     printer_.setDocName("Vantora Ordini");
+    preview_ = QSettings().value(preview_setting).toBool();
 }
 
 system_printer::system_printer(ask_for_file ask, tell_failure tell) : system_printer() {
     ask_ = std::move(ask);
     tell_ = std::move(tell);
     printer_.setOutputFormat(QPrinter::PdfFormat);
+    preview_ = false;
 }
 
 system_printer::~system_printer() = default;
@@ -132,7 +95,7 @@ void system_printer::begin_job() {
     printer_.setFullPage(true);
     auto painter = std::make_unique<QPainter>();
     if (!painter->begin(&printer_)) {
-        tell_(QString::fromUtf8("Il documento non si può stampare su ") + printer_.printerName());
+        tell_(QString::fromUtf8(words::cannot_print) + printer_.printerName());
         return;
     }
     job_->page = std::make_unique<page_painter>(*painter);
@@ -142,7 +105,7 @@ void system_printer::begin_job() {
 bool system_printer::open_file(const QString& file) {
     QFile target(file);
     if (target.open(QIODevice::ReadWrite)) return true;
-    tell_(QString::fromUtf8("Il file %1 non si può scrivere: %2").arg(file, target.errorString()));
+    tell_(QString::fromUtf8(words::cannot_write).arg(file, target.errorString()));
     return false;
 }
 
@@ -156,32 +119,65 @@ page_painter* system_printer::page() {
     return job_->page.get();
 }
 
+void system_printer::put(recorded_pages::mark mark) {
+    if (preview_ && !job_) {
+        if (recorded_.count() == 0) recorded_orientation_ = orientation();
+        recorded_.add(std::move(mark));
+    } else if (page_painter* on = page()) {
+        mark(*on);
+    }
+}
+
 void system_printer::text(double x, double y, std::string_view text, const font& in, colour ink) {
-    if (page_painter* on = page()) on->text(x, y, text, in, ink);
+    put([=, kept = std::string(text)](page_painter& on) { on.text(x, y, kept, in, ink); });
 }
 
 void system_printer::line(double x1, double y1, double x2, double y2, colour ink) {
-    if (page_painter* on = page()) on->line(x1, y1, x2, y2, ink);
+    put([=](page_painter& on) { on.line(x1, y1, x2, y2, ink); });
 }
 
 void system_printer::box(double x1, double y1, double x2, double y2, colour ink, bool filled) {
-    if (page_painter* on = page()) on->box(x1, y1, x2, y2, ink, filled);
+    put([=](page_painter& on) { on.box(x1, y1, x2, y2, ink, filled); });
 }
 
 void system_printer::picture(double x, double y, double side,
                              const std::shared_ptr<const bitmap>& image) {
-    if (page_painter* on = page()) on->picture(x, y, side, image);
+    put([=](page_painter& on) { on.picture(x, y, side, image); });
 }
 
 void system_printer::new_page() {
+    if (preview_ && !job_) {
+        if (recorded_.count() == 0) recorded_orientation_ = orientation();
+        return recorded_.end_page();
+    }
     if (page_ended_ || !job_) page();
     page_ended_ = true;
 }
 
+/// What was recorded is shown, and goes the way of any other job if the user wants it.
+void system_printer::print_recorded() {
+    const int now = orientation();
+    set_orientation(recorded_orientation_);
+    printer_.setFullPage(true);
+    const recorded_pages pages = std::exchange(recorded_, {});
+    if (wants_printed(pages, printer_, job_name_, QApplication::activeWindow())) {
+        begin_job();
+        for (std::size_t i = 0; i < pages.count() && job_->page; ++i) {
+            if (i > 0) printer_.newPage();
+            pages.draw(i, *job_->page);
+        }
+    }
+    set_orientation(now);
+}
+
 void system_printer::end_job() {
-    if (!job_) return;
+    if (recorded_.count() > 0) {
+        print_recorded();
+    } else if (!job_) {
+        return;
+    }
     job_.reset();
-    job_name_ = nameless;
+    job_name_ = words::nameless_job;
     page_ended_ = false;
     // The next document must not take this one's place.
     if (printer_.outputFormat() == QPrinter::PdfFormat) printer_.setOutputFileName(QString());
@@ -189,7 +185,7 @@ void system_printer::end_job() {
 
 void system_printer::set_job_name(std::string_view name) {
     job_name_ = shown(name).replace('/', '-').trimmed();
-    if (job_name_.isEmpty()) job_name_ = nameless;
+    if (job_name_.isEmpty()) job_name_ = words::nameless_job;
     printer_.setDocName(job_name_);
 }
 
@@ -197,11 +193,19 @@ bool system_printer::choose_settings() {
     QPrintDialog dialog(&printer_, QApplication::activeWindow());
     dialog.setWindowTitle("Imposta stampante");
     dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize);
+    auto* preview = new QCheckBox(QString::fromUtf8(words::preview_first), &dialog);
+    preview->setChecked(preview_);
+    if (auto* column = qobject_cast<QBoxLayout*>(dialog.layout())) {
+        column->insertWidget(column->count() - 1, preview);
+    }
     // Nothing is printed here.
     if (const auto* buttons = dialog.findChild<QDialogButtonBox*>()) {
         if (auto* accept = buttons->button(QDialogButtonBox::Ok)) accept->setText("OK");
     }
-    return dialog.exec() == QDialog::Accepted;
+    if (dialog.exec() != QDialog::Accepted) return false;
+    preview_ = preview->isChecked();
+    QSettings().setValue(preview_setting, preview_);
+    return true;
 }
 
 bool system_launcher::start(const std::string& command) {

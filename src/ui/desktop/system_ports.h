@@ -6,7 +6,7 @@
 #include <string>
 
 #include "ui/launcher.h"
-#include "ui/paper/page_painter.h"
+#include "ui/paper/recorded_pages.h"
 #include "ui/printer.h"
 
 namespace vantora::ui::desktop {
@@ -26,6 +26,10 @@ class system_printer final : public printer {
     /// Every job goes into a file, whatever printers there are.
     system_printer(ask_for_file ask, tell_failure tell);
     ~system_printer() override;
+
+    /// Shows each job's pages before they are printed; the user's choice in the dialog, kept from
+    /// run to run.
+    void set_preview(bool on) { preview_ = on; }
 
     [[nodiscard]] int orientation() const override;
     void set_orientation(int orientation) override;
@@ -48,10 +52,13 @@ class system_printer final : public printer {
  private:
     struct job;
 
+    /// Keeps or draws a mark.
+    void put(recorded_pages::mark mark);
     /// The page to draw on; begins the job or the page if none is open. Null if the job is
     /// dropped.
     page_painter* page();
     void begin_job();
+    void print_recorded();
     /// False, with the user told, if the file can't be written.
     bool open_file(const QString& file);
 
@@ -61,6 +68,9 @@ class system_printer final : public printer {
     QString job_name_;
     std::unique_ptr<job> job_;
     bool page_ended_ = false;  ///< the next mark begins a new page
+    bool preview_ = false;
+    recorded_pages recorded_;  ///< of the job at hand, if it is to be seen first
+    int recorded_orientation_ = upright;
 };
 
 /// Starts programs of the suite, without a shell.

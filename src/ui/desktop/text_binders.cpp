@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
@@ -6,6 +7,7 @@
 
 #include "ui/desk.h"
 #include "ui/desktop/kinds.h"
+#include "ui/desktop/line_pasting.h"
 #include "ui/desktop/widget_binder.h"
 #include "ui/text_controls.h"
 
@@ -77,8 +79,29 @@ class text_box_binder final : public widget_binder {
 
     [[nodiscard]] bool widget_takes(bool) const override { return true; }
 
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        const bool took = widget_binder::eventFilter(watched, event);
+        if (event->type() == QEvent::FocusIn) found_ = edit_->text();
+        return took;
+    }
+
+    bool key_pressed(QKeyEvent& event) override {
+        if (event.matches(QKeySequence::Paste) && model_.on_paste_lines) {
+            if (const auto lines = lines_on_clipboard()) {
+                act([&] { paste_lines(model_, *lines, edit_->window()); });
+                return true;
+            }
+        }
+        if (event.matches(QKeySequence::Undo) && !edit_->isUndoAvailable()) {
+            edited(found_);
+            return true;
+        }
+        return widget_binder::key_pressed(event);
+    }
+
     QLineEdit* edit_;
     text_box& model_;
+    QString found_;                           ///< what stood in the field when the hand came to it
     std::optional<qsizetype> behind_cursor_;  ///< while the hand's own change is shown
 };
 

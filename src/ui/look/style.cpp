@@ -75,6 +75,9 @@ QToolButton[look="main"] { background: #24527a; color: white; border-color: #245
                            padding: 6px 14px; font-weight: 600; }
 QToolButton[look="main"]:hover { background: #2f6ea5; }
 QToolButton[look="main"]:focus { border: 2px solid #8fc0e8; background: #24527a; }
+QToolButton[look="small"] { padding: 3px 4px; }
+QToolButton[look="help"] { padding: 2px 7px; font-weight: 600; color: #24527a; }
+QToolButton[look="help"]::menu-indicator { image: none; }
 QToolButton[look="blank"] { background: transparent; border: none; }
 QLineEdit, QComboBox, QDateEdit { border: 1px solid #84919d; border-radius: 4px; padding: 3px 5px;
                        background: white; selection-background-color: #2f6ea5; }
@@ -151,6 +154,8 @@ QSplitter::handle:hover { background: #2f6ea5; }
 QProgressBar { border: 1px solid #808d99; border-radius: 4px; text-align: center;
                background: white; }
 QProgressBar::chunk { background: #5e97c5; border-radius: 3px; }
+QLabel[role="key"] { background: #f1f5f8; border: 1px solid #84919d; border-radius: 4px;
+                     padding: 1px 6px; }
 QLabel[role="number"] { color: #586673; }
 QFrame[role="stock"] { background: #eef3f7; border: 1px solid #d3dbe2; border-radius: 4px; }
 QLabel[role="link"] { color: #1d66a6; text-decoration: underline; }

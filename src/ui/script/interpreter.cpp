@@ -39,6 +39,7 @@ const std::vector<interpreter::command>& interpreter::commands() {
         {"screens", 0, 0, &interpreter::screens},
         {"prints", 0, 0, &interpreter::prints},
         {"launched", 0, 0, &interpreter::launched},
+        {"paste", 2, 2, &interpreter::paste},
     };
     return all;
 }

@@ -68,6 +68,7 @@ class interpreter {
     void key(const words& line);
     void type(const words& line);
     void set(const words& line);
+    void paste(const words& line);
     void pick(const words& line);
     void scroll(const words& line);
     void date(const words& line);

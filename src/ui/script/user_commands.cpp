@@ -116,6 +116,19 @@ void interpreter::set(const words& line) {
     });
 }
 
+void interpreter::paste(const words& line) {
+    control* one = touchable(line[1]);
+    if (!one) return;
+    if (one->kind() != control_kind::text_box) return refuse("the control is no text box");
+    auto& field = *static_cast<text_box*>(one);
+    const std::string text = from_utf8(line[2].text);
+    if (!field.on_paste_lines || !holds_pasted_lines(text)) return set(line);
+    act([&] {
+        field.set_focus();
+        if (field.has_focus()) field.on_paste_lines(text, {});
+    });
+}
+
 void interpreter::pick(const words& line) {
     control* one = touchable(line[1]);
     if (!one) return;

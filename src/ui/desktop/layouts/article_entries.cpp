@@ -5,6 +5,9 @@
 #include <QHelpEvent>
 #include <QPainter>
 #include <QToolTip>
+#include <algorithm>
+
+#include "store/text/code_page.h"
 
 namespace vantora::ui::desktop {
 
@@ -21,6 +24,15 @@ QString description_of(QString entry) {
 }
 
 }  // namespace
+
+article_parts parts_of_article(std::string_view entry) {
+    const std::size_t end = entry.find_last_not_of("0123456789");
+    const std::string_view whole = entry.substr(0, end == std::string_view::npos ? 0 : end + 1);
+    const auto cut = [&](std::size_t from) {
+        return trimmed(whole.substr(std::min<std::size_t>(from, whole.size())));
+    };
+    return {trimmed(whole.substr(0, code_width)), cut(code_width + between)};
+}
 
 void article_entries::paint(QPainter* painter, const QStyleOptionViewItem& option,
                             const QModelIndex& index) const {

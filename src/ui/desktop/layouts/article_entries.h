@@ -1,8 +1,16 @@
 #pragma once
 
 #include <QStyledItemDelegate>
+#include <string_view>
 
 namespace vantora::ui::desktop {
+
+/// What shows of an entry of the article list.
+struct article_parts {
+    std::string_view code;
+    std::string_view description;
+};
+article_parts parts_of_article(std::string_view entry);
 
 /// Shows the entries of the article list, of which each is a code and a description in fixed
 /// widths and a record number far to the right: code and description in two columns, the number

@@ -176,6 +176,7 @@ void lay_out_customer(form_window& window, const customer_window& look) {
 
     auto* foot = new QHBoxLayout;
     foot->setContentsMargins(12, 4, 12, 12);
+    foot->addWidget(help_button(window));
     foot->addStretch(1);
     window.dress("bottone", -1, look.go_on, Qt::ToolButtonTextOnly);
     set_look(window.widget("bottone"), "look", "main");

@@ -17,6 +17,7 @@ void lay_out_import(form_window& window) {
                  Qt::ToolButtonTextBesideIcon);
     set_look(window.widget("bottone"), "look", "plain");
     line->addWidget(window.widget("bottone"));
+    line->addWidget(help_button(window));
     all->addLayout(line);
     all->addWidget(window.widget("elenco"), 1);
     window.setMinimumSize(760, 420);

@@ -195,6 +195,13 @@ bool line_rows::eventFilter(QObject* watched, QEvent* event) {
             if (is_cell || watched == pick_) break;
             wheel(static_cast<QWheelEvent&>(*event));
             return true;
+        case QEvent::ShortcutOverride:
+            // A field would do its own typing again; here the lines come back.
+            if (is_cell && static_cast<QKeyEvent&>(*event).matches(QKeySequence::Redo)) {
+                event->ignore();
+                return true;
+            }
+            break;
         case QEvent::KeyPress: {
             const auto& key = static_cast<QKeyEvent&>(*event);
             if (is_cell && key_pressed(*cell, key.key())) return true;

@@ -6,8 +6,11 @@
 #include <QShortcut>
 #include <QSplitter>
 
+#include "ui/desktop/file_dialog.h"
 #include "ui/desktop/layouts/article_entries.h"
 #include "ui/desktop/layouts/line_rows.h"
+#include "ui/desktop/line_pasting.h"
+#include "ui/desktop/words.h"
 #include "ui/value_controls.h"
 
 namespace vantora::ui::desktop {
@@ -78,12 +81,35 @@ void add_column(form_window& window, line_rows& lines, QGridLayout* cells, const
 /// The lines move under the cells by pages; the cell keeps the focus.
 void add_paging(form_window& window, line_rows& lines) {
     for (const int step : {-rows, rows}) {
-        auto* keys =
-            new QShortcut(QKeySequence(step < 0 ? Qt::Key_PageUp : Qt::Key_PageDown), &window);
+        QShortcut* keys = add_key(window, step < 0 ? "PgUp" : "PgDown",
+                                  step < 0 ? words::lines_up : words::lines_down);
+        keys->setAutoRepeat(true);
         QObject::connect(keys, &QShortcut::activated, &window,
                          [&lines, step] { lines.scroll(step); });
     }
     window.widget("VScroll1")->setToolTip(QString::fromUtf8("Righe da 1 a 200 (Pag su, Pag giù)"));
+}
+
+/// Pasting lines and taking back what was done to many at once.
+void add_line_keys(form_window& window, line_rows& lines) {
+    const auto row = [&lines] { return std::max(lines.current(), 0); };
+    new told_key(window, "Ctrl+V", QString::fromUtf8(words::paste_key));
+    QShortcut* file = add_key(window, "Ctrl+Shift+O", words::paste_file);
+    QObject::connect(file, &QShortcut::activated, &lines, [&window, row] {
+        const QString chosen =
+            ask_what_to_open(QString::fromUtf8(words::paste_file),
+                             {QString::fromUtf8(words::csv_files), "csv"}, &window);
+        if (chosen.isEmpty()) return;
+        if (const auto text = lines_of_file(chosen, &window)) {
+            window.act_on<text_box>("artic", row(),
+                                    [&](text_box& cell) { paste_lines(cell, *text, &window); });
+        }
+    });
+    new told_key(window, "Ctrl+Z", QString::fromUtf8(words::text_back));
+    QShortcut* back = add_key(window, "Ctrl+Shift+Z", words::lines_back);
+    QObject::connect(back, &QShortcut::activated, &lines, [&window, row] {
+        window.act_on("artic", row(), [](control& cell) { cell.owner().take_back(); });
+    });
 }
 
 QGroupBox* line_frame(form_window& window) {
@@ -109,8 +135,9 @@ QGroupBox* line_frame(form_window& window) {
     lines->take_wheel_over(table);
     cells->addWidget(bar, 1, cells->columnCount(), rows, 1);
     add_paging(window, *lines);
+    add_line_keys(window, *lines);
 
-    auto* vat = new QShortcut(QKeySequence("F4"), &window);
+    QShortcut* vat = add_key(window, "F4", words::vat_of_line);
     QObject::connect(vat, &QShortcut::activated, &window, [&window, lines] {
         window.act_on("civ", lines->current(), [](control& cell) { cell.set_focus(); });
     });
@@ -118,7 +145,7 @@ QGroupBox* line_frame(form_window& window) {
         window.widget("civ", row)->setToolTip("Sceglie il codice iva (F4)");
     }
 
-    auto* back = new QShortcut(QKeySequence("F2"), &window);
+    QShortcut* back = add_key(window, "F2", words::cell_before);
     QObject::connect(back, &QShortcut::activated, lines, &line_rows::go_back);
     box->setToolTip("F2: torna alla cella di prima");
 

@@ -2,13 +2,16 @@
 
 #include "ui/desktop/layouts.h"
 #include "ui/desktop/layouts/parts.h"
+#include "ui/desktop/words.h"
 #include "ui/text_controls.h"
 
 namespace vantora::ui::desktop {
 
 namespace {
 
-constexpr int order_number = 1;  ///< column of the list
+// Columns of the list.
+constexpr int order_number = 1;
+constexpr int fulfilment_day = 5;
 
 // Daily work first, leaving last.
 constexpr int commands_from_left[] = {2, 8, 1, 3, 4, 5, 6, 7, 0};
@@ -63,13 +66,12 @@ QGroupBox* compaction(form_window& window) {
     auto* link = window.as<QLabel>("srtt", 1);
     set_look(link, "role", "link");
     link->setCursor(Qt::PointingHandCursor);
-    const QString tip = "Compatta l'archivio degli ordini (Ctrl+Shift+C)";
+    QShortcut* shortcut = add_key(window, "Ctrl+Shift+C", words::compaction);
+    const QString tip = QString::fromUtf8(words::compaction) + " (Ctrl+Shift+C)";
     link->setToolTip(tip);
     text->setToolTip(tip);
 
     // The two labels take no focus; the keyboard reaches them this way.
-    auto* shortcut = new QShortcut(QKeySequence("Ctrl+Shift+C"), &window);
-    shortcut->setAutoRepeat(false);
     QObject::connect(shortcut, &QShortcut::activated, link, [&window] {
         window.act_on<label>("srtt", 1, [](label& here) { here.click(); });
     });
@@ -103,6 +105,7 @@ void lay_out_mirorc(form_window& window) {
     auto* orders = window.as<grid_view>("elenco");
     orders->search_in(order_number);
     orders->keep_mark();
+    orders->show_notices_in(fulfilment_day);
 
     auto* progress = window.widget("srt");
     progress->setFixedHeight(progress->fontMetrics().height() + 8);

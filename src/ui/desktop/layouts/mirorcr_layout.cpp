@@ -4,6 +4,7 @@
 
 #include "ui/desktop/layouts.h"
 #include "ui/desktop/layouts/parts.h"
+#include "ui/desktop/words.h"
 #include "ui/look/contrast.h"
 
 namespace vantora::ui::desktop {
@@ -33,14 +34,17 @@ class leaving_rows final : public QStyledItemDelegate {
 struct grid_key {
     int column;
     const char* keys;
+    const char* what;
 };
 
 /// What a click into a column does to the current row, by key.
-constexpr grid_key grid_keys[] = {{ordine, "F5"}, {da_evadere, "F6"}, {evaso, "F7"}};
+constexpr grid_key grid_keys[] = {{ordine, "F5", words::whole_order_leaves},
+                                  {da_evadere, "F6", words::whole_row_leaves},
+                                  {evaso, "F7", words::part_of_row_leaves}};
 
 void add_grid_keys(form_window& window) {
     for (const grid_key& one : grid_keys) {
-        auto* keys = new QShortcut(QKeySequence(one.keys), &window);
+        QShortcut* keys = add_key(window, one.keys, one.what);
         QObject::connect(keys, &QShortcut::activated, &window, [&window, one] {
             window.act_on<grid>("elenco", -1, [one](grid& list) {
                 if (list.row() > 0) list.click_cell(list.row(), one.column);

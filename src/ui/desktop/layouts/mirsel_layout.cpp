@@ -18,6 +18,7 @@ void lay_out_mirsel(form_window& window) {
                  Qt::ToolButtonTextBesideIcon);
     set_look(window.widget("indice"), "look", "plain");
     line->addWidget(window.widget("indice"));
+    line->addWidget(help_button(window));
     all->addLayout(line);
     all->addLayout(grid_with_sort_buttons(window, "elenco", "srx", 5), 1);
     window.setMinimumSize(760, 420);

@@ -1,7 +1,9 @@
+#include <QAction>
 #include <span>
 
 #include "ui/desktop/layouts.h"
 #include "ui/desktop/layouts/parts.h"
+#include "ui/desktop/words.h"
 
 namespace vantora::ui::desktop {
 
@@ -127,6 +129,10 @@ void lay_out_report(form_window& window, std::span<const filter_look> filters, i
     body->addLayout(filter_row(window, filters));
     auto* list = window.as<grid_view>("elenco");
     if (total) list->set_off(total_column, total);
+    auto* pdf = window.as<QToolButton>("bottone", 1);
+    auto* as_pdf = new QAction(QString::fromUtf8(words::list_as_pdf), list);
+    QObject::connect(as_pdf, &QAction::triggered, pdf, &QToolButton::click);
+    list->addAction(as_pdf);
     body->addWidget(list, 1);
     all->addLayout(body, 1);
     window.setMinimumSize(960, 520);

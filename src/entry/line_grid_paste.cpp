@@ -1,0 +1,167 @@
+#include <algorithm>
+
+#include "entry/line_grid.h"
+#include "ui/pasted_lines.h"
+
+namespace vantora {
+
+// Lines that come from a spreadsheet are typed by the program: each goes through the events that a
+// hand would have set off, so what holds for typing holds for them. What stands in the order
+// already gives way downwards, and what finds no article or no room is told at the end.
+
+namespace {
+
+constexpr std::size_t told_whole = 15;  ///< refused lines that the box tells with their texts
+
+constexpr const char* why_refused(ui::paste_fault fault) {
+    switch (fault) {
+        case ui::paste_fault::no_code:
+            return "manca il codice";
+        case ui::paste_fault::number:
+            return "numero non valido";
+        default:
+            return "troppe colonne";
+    }
+}
+
+bool is_blank(const riga_ordine& line) {
+    return line.articolo == 0 && line.codice.trimmed().empty() &&
+           line.descrizione.trimmed().empty() && line.um.trimmed().empty() && line.quantita == 0 &&
+           line.prezzo == 0 && line.sc1 == 0 && line.sc2 == 0 && line.evaso == 0;
+}
+
+void press_enter(ui::control& cell) {
+    cell.press_key(ui::key::enter, static_cast<char>(ui::key::enter));
+}
+
+}  // namespace
+
+class line_grid::paste_report {
+ public:
+    void refuse(const ui::pasted_line& line, std::string_view why) {
+        if (refused_++ < told_whole) {
+            std::string source = line.source.substr(0, 60);
+            std::ranges::replace(source, '\t', ' ');
+            text_ +=
+                "\nriga " + std::to_string(line.number) + ": " + source + " - " + std::string(why);
+        } else {
+            further_ += (further_.empty() ? "" : ", ") + std::to_string(line.number);
+        }
+    }
+    [[nodiscard]] std::string message(std::size_t lines) const {
+        if (refused_ == 0) return {};
+        std::string told = "Righe inserite: " + std::to_string(lines - refused_) + " di " +
+                           std::to_string(lines) + "\nNon inserite:" + text_;
+        if (!further_.empty()) told += "\ne le righe " + further_;
+        return told;
+    }
+
+ private:
+    std::size_t refused_ = 0;
+    std::string text_;
+    std::string further_;
+};
+
+void line_grid::paste_lines(int row, std::string_view text, const ui::paste_progress& goes_on) {
+    if (at_work() || row < 0 || row >= rows) return;
+    const auto lines = ui::read_pasted_lines(text);
+    if (lines.empty()) return;
+    keep_lines();
+    paste_report report;
+    {
+        const work pasting(*this);
+        app_.desk.set_pointer(ui::pointer::busy);
+        int at = line_of(row);
+        bool broken_off = false;
+        for (std::size_t i = 0; i < lines.size(); ++i) {
+            broken_off = broken_off ||
+                         (goes_on && !goes_on(static_cast<int>(i), static_cast<int>(lines.size())));
+            if (broken_off) {
+                report.refuse(lines[i], "interrotto");
+            } else {
+                paste_line(lines[i], at, report);
+            }
+        }
+        if (goes_on) goes_on(static_cast<int>(lines.size()), static_cast<int>(lines.size()));
+        if (at <= righe_ordine::massimo) artic[row_showing(at)].set_focus();
+        app_.desk.set_pointer(ui::pointer::normal);
+    }
+    const std::string told = report.message(lines.size());
+    if (!told.empty()) app_.desk.message(told, "Attenzione", ui::icon::warning);
+}
+
+/// `at`: the line that it takes; behind it, the next one.
+void line_grid::paste_line(const ui::pasted_line& line, int& at, paste_report& report) {
+    if (line.fault != ui::paste_fault::none) return report.refuse(line, why_refused(line.fault));
+    const std::int16_t article = lookup_.article_of(line.code);
+    if (article == 0) return report.refuse(line, "articolo non trovato");
+    const int below = static_cast<int>(long_text_of(article).size());
+    if (!make_room(at, below + 1)) return report.refuse(line, "non c'è posto"_cp);
+    const int row = row_showing(at);
+    type_line(line, row);
+    at += 1 + below;
+}
+
+/// Blank lines from here on; those that stand there move down as by the command, but none out.
+bool line_grid::make_room(int at, int lines) {
+    if (at + lines - 1 > righe_ordine::massimo) return false;
+    int missing = 0;
+    while (missing < lines && is_blank(righe_[at + lines - 1 - missing])) ++missing;
+    missing = lines - missing;
+    for (int i = 0; i < missing; ++i) {
+        if (!is_blank(righe_[righe_ordine::massimo - i])) return false;
+    }
+    for (int i = 0; i < missing; ++i) {
+        righe_.insert(at);
+        righe_[at].evaso = 0;  // of the line that moved down
+    }
+    if (missing > 0) paint();
+    return true;
+}
+
+int line_grid::row_showing(int line) {
+    const int first = VScroll1.value();
+    if (line < first) VScroll1.set_value(line);
+    if (line >= first + rows) VScroll1.set_value(line - rows + 1);
+    return line - VScroll1.value();
+}
+
+void line_grid::type_line(const ui::pasted_line& line, int row) {
+    artic[row].set_focus();
+    artic[row].set_text("");
+    for (const char one : line.code) artic[row].press_key(ui::key::of(one), one);
+    press_enter(artic[row]);
+    if (!line.quantity.empty()) quantita[row].set_text(line.quantity);
+    press_enter(quantita[row]);
+    if (kind_.has_evaso) press_enter(evaso[row]);
+    if (!line.discount1.empty()) {
+        sc1[row].set_text(line.discount1);
+        sc2[row].set_text(line.discount2);
+    }
+    press_enter(sc1[row]);
+    press_enter(sc2[row]);
+    if (!line.price.empty()) prezzo[row].set_text(line.price);
+}
+
+// Taking back -------------------------------------------------------------------------------------
+
+void line_grid::keep_lines() {
+    history_.keep(righe_, VScroll1.value());
+}
+
+bool line_grid::take_back() {
+    if (at_work()) return false;
+    const auto before = history_.take_back();
+    if (!before) return false;
+    righe_ = before->lines;
+    if (VScroll1.value() == before->first_shown) {
+        paint();
+    } else {
+        VScroll1.set_value(before->first_shown);
+    }
+    compute_totals();
+    return_to(artic);
+    return true;
+}
+
+}  // namespace vantora

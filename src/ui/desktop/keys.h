@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <vector>
+
+class QAbstractButton;
+class QKeySequence;
+class QShortcut;
+class QToolButton;
+class QWidget;
+
+namespace vantora::ui::desktop {
+
+/// One line of the overview of a window's keys, which is made of all those below the window.
+class told_key final : public QObject {
+ public:
+    /// `keys` in the portable form "Ctrl+Shift+E"; several are separated by blanks.
+    told_key(QWidget& owner, QString keys, QString what);
+
+    [[nodiscard]] const QString& keys() const { return keys_; }
+    /// As the keyboard calls them here.
+    [[nodiscard]] QString native_keys() const;
+    [[nodiscard]] const QString& what() const { return what_; }
+
+ private:
+    QString keys_;
+    QString what_;
+};
+
+/// A key of a window or of a widget in it, told by the overview; `what` in UTF-8. It doesn't repeat
+/// while it is held.
+QShortcut* add_key(QWidget& owner, const char* keys, const char* what);
+
+/// Further keys for a button, told by its tooltip and by the overview; pressed by them it leaves
+/// the focus where it is.
+void add_shortcut(QAbstractButton& button, const char* keys);
+
+/// The lines of the overview that hold for what is there to be worked in.
+std::vector<const told_key*> keys_of(const QWidget& window);
+
+/// Shows the overview and waits until it is closed.
+void show_keys(QWidget& window);
+
+/// A small button whose menu leads to keys and manual.
+QToolButton* help_button(QWidget& window);
+
+/// Keys and manual of a window: by their keys, and by the small button in its bar of commands where
+/// its layout placed none elsewhere.
+void add_help(QWidget& window);
+
+}  // namespace vantora::ui::desktop

@@ -1,0 +1,90 @@
+#pragma once
+
+namespace vantora::ui::desktop::words {
+
+// What the windows say in words of their own, in UTF-8; what screens say stands in their models.
+
+// Finding in a list --------------------------------------------------------------------------
+
+inline constexpr const char* find_in_list = "Trova nell'elenco";
+inline constexpr const char* find_caption = "Trova";
+inline constexpr const char* find_next = "Riga successiva (Invio)";
+inline constexpr const char* find_previous = "Riga precedente (Maiusc+Invio)";
+inline constexpr const char* find_close = "Chiude la ricerca (Esc)";
+inline constexpr const char* find_take = "Ctrl+Invio: prende la riga trovata";
+inline constexpr const char* find_none = "nessuna riga";
+inline constexpr const char* find_one_of = "%1 di %2";  ///< which match, how many
+
+// Copying and saving a list ------------------------------------------------------------------
+
+inline constexpr const char* copy_rows = "Copia le righe segnate";
+inline constexpr const char* mark_rows = "Segnano più righe, tutte le righe";
+inline constexpr const char* mark_all = "Segna tutte le righe";
+inline constexpr const char* save_list = "Salva l'elenco in CSV";
+inline constexpr const char* csv_files = "File CSV";
+inline constexpr const char* list_as_pdf = "Genera il PDF della lista";
+
+// Files ------------------------------------------------------------------------------------------
+
+inline constexpr const char* attention = "Attenzione";
+inline constexpr const char* cannot_write = "Il file %1 non si può scrivere: %2";
+inline constexpr const char* look_in = "Cerca in:";
+inline constexpr const char* file_name = "Nome del file:";
+inline constexpr const char* file_type = "Tipo di file:";
+inline constexpr const char* save = "&Salva";
+inline constexpr const char* open = "&Apri";
+inline constexpr const char* cancel = "&Annulla";
+inline constexpr const char* pdf_files = "Documenti PDF";
+
+// Lines of an order ------------------------------------------------------------------------------
+
+inline constexpr const char* paste_lines = "Incolla righe";
+inline constexpr const char* paste_key =
+    "Nel codice: incolla righe copiate da un foglio di calcolo";
+inline constexpr const char* paste_file = "Inserisce le righe di un file CSV";
+inline constexpr const char* pasting = "Inserimento delle righe...";
+inline constexpr const char* break_off = "Interrompi";
+inline constexpr const char* too_large = "è troppo grande";
+inline constexpr const char* cannot_read = "Il file %1 non si può leggere: %2";
+inline constexpr const char* text_back = "Ridà alla cella il testo di prima";
+inline constexpr const char* lines_back =
+    "Ridà le righe di prima dell'ultimo inserimento, cancellazione, riordino o incollo";
+
+// Printing ---------------------------------------------------------------------------------------
+
+inline constexpr const char* no_printer = "Nessuna stampante: salva il documento in PDF";
+inline constexpr const char* nameless_job = "Documento";
+inline constexpr const char* cannot_print = "Il documento non si può stampare su ";
+inline constexpr const char* preview_first = "Mostra le pagine prima di stampare";
+inline constexpr const char* preview = "Anteprima di stampa";
+inline constexpr const char* preview_of = "Anteprima: %1";
+inline constexpr const char* print = "Stampa";
+inline constexpr const char* save_pdf = "Salva in PDF";
+inline constexpr const char* zoom_in = "Ingrandisce";
+inline constexpr const char* zoom_out = "Riduce";
+inline constexpr const char* fit_width = "Larghezza";
+inline constexpr const char* fit_page = "Pagina intera";
+inline constexpr const char* page_before = "Precedente";
+inline constexpr const char* page_after = "Seguente";
+inline constexpr const char* page_of = "Pagina %1 di %2";
+inline constexpr const char* close_preview = "Chiudi";
+
+// Keys and manual --------------------------------------------------------------------------------
+
+inline constexpr const char* help = "Aiuto: tasti e manuale";
+inline constexpr const char* show_keys = "Tasti di questa finestra";
+inline constexpr const char* keys_of_window = "Tasti: %1";
+inline constexpr const char* open_manual = "Apri il manuale";
+inline constexpr const char* manual_key =
+    "Apre il manuale; nella descrizione di una riga trova l'articolo";
+
+inline constexpr const char* lines_up = "Dodici righe su";
+inline constexpr const char* lines_down = "Dodici righe giù";
+inline constexpr const char* vat_of_line = "Sceglie il codice iva della riga";
+inline constexpr const char* cell_before = "Torna alla cella di prima";
+inline constexpr const char* whole_order_leaves = "Parte tutto l'ordine";
+inline constexpr const char* whole_row_leaves = "Parte tutta la riga";
+inline constexpr const char* part_of_row_leaves = "Parte una quantità della riga";
+inline constexpr const char* compaction = "Compatta l'archivio degli ordini";
+
+}  // namespace vantora::ui::desktop::words

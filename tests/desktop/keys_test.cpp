@@ -1,0 +1,105 @@
+#include <gtest/gtest.h>
+
+#include <QDialog>
+#include <QFile>
+#include <QLabel>
+#include <QRegularExpression>
+#include <set>
+
+#include "app/start.h"
+#include "scripted/small_company.h"
+#include "store/drive.h"
+#include "ui/desktop/keys.h"
+#include "ui/pictures/pixbuf_decoder.h"
+#include "window_bench.h"
+
+namespace vantora::ui::desktop {
+namespace {
+
+using key_set = std::set<std::string>;
+
+std::string portable(QString key) {
+    const std::pair<const char*, const char*> names[] = {
+        {"Maiusc", "Shift"},     {"Canc", "Del"},     {"Pag↑", "PgUp"},
+        {"Pag↓", "PgDown"},      {"Invio", "Return"}, {"Page up", "PgUp"},
+        {"Page down", "PgDown"}, {"↑", "Up"},         {"↓", "Down"},
+    };
+    for (const auto& [local, name] : names) key.replace(QString::fromUtf8(local), name);
+    return QKeySequence(key).toString(QKeySequence::PortableText).toStdString();
+}
+
+/// What a pattern finds in the part of a file of the project that begins with a heading.
+key_set keys_in(const char* file, const char* from, const char* to, const char* pattern) {
+    QFile text(QString(SOURCE_FOLDER) + file);
+    EXPECT_TRUE(text.open(QIODevice::ReadOnly)) << file;
+    const QString part = QString::fromUtf8(text.readAll()).section(from, 1).section(to, 0, 0);
+    key_set keys;
+    auto found = QRegularExpression(QString::fromUtf8(pattern)).globalMatch(part);
+    while (found.hasNext()) keys.insert(portable(found.next().captured(1)));
+    return keys;
+}
+
+/// The program's windows, all loaded.
+class keys : public testing::Test {
+ protected:
+    void run(std::vector<std::function<void()>> steps) {
+        bench.run([this] { start(app, "ordini001"); }, std::move(steps));
+    }
+
+    vantora::test::small_company company;
+    drive files{company.drive()};
+    test::window_bench bench;
+    ui::pixbuf_decoder pictures;
+    program app{files, bench.desk, pictures};
+};
+
+TEST_F(keys, ManualAndReadmeTellTheKeysThatTheWindowsHave) {
+    run({[&] {
+        for (ui::screen_place* place : std::initializer_list<ui::screen_place*>{
+                 &app.mirorcx, &app.mirorcs, &app.mirsel, &app.mirorcz, &app.mirorcm, &app.mirorcb,
+                 &app.mirpref, &app.mirorcc, &app.mirorcr, &app.mirorca, &app.mirstoe, &app.mirstos,
+                 &app.mirstov, &app.mirston, &app.mirstoa}) {
+            place->use();
+        }
+        key_set windows;
+        for (const QWidget* window : QApplication::topLevelWidgets()) {
+            for (const told_key* one : keys_of(*window)) {
+                EXPECT_FALSE(one->what().isEmpty()) << one->keys().toStdString();
+                for (const QString& key : one->keys().split(' ')) windows.insert(portable(key));
+            }
+        }
+        ASSERT_GT(windows.size(), 40U);
+        const key_set manual =
+            keys_in("/docs/30-keys.md", "# Tutti i tasti", "</div>", R"(\[\[(.+?)\]\])");
+        const key_set readme =
+            keys_in("/README.md", "## Keys", "## PDF",
+                    R"(\b((?:(?:Ctrl|Alt|Shift)\+)+(?:Del|F\d+|\w\b|\?)|F\d+\b))");
+        const key_set of_boxes{"Return", "Esc", "S", "N"};
+        for (const std::string& key : windows) EXPECT_TRUE(manual.contains(key)) << key;
+        for (const std::string& key : manual) {
+            EXPECT_TRUE(windows.contains(key) || of_boxes.contains(key)) << key;
+        }
+        ASSERT_GT(readme.size(), 20U);
+        for (const std::string& key : readme) EXPECT_TRUE(windows.contains(key)) << key;
+    }});
+}
+
+TEST_F(keys, TheOverviewListsTheKeysOfItsWindow) {
+    QStringList texts;
+    run({[&] {
+        QTimer::singleShot(0, [&] {
+            QWidget* dialog = QApplication::activeModalWidget();
+            ASSERT_TRUE(dialog);
+            EXPECT_EQ(dialog->objectName(), "tasti");
+            for (const QLabel* one : dialog->findChildren<QLabel*>()) texts << one->text();
+            static_cast<QDialog*>(dialog)->reject();
+        });
+        QTest::keyClick(bench.front.front_window(), Qt::Key_Question, Qt::ControlModifier);
+    }});
+    EXPECT_TRUE(texts.contains("Registra un nuovo ordine"));
+    EXPECT_TRUE(texts.contains("Ctrl+N"));
+    EXPECT_TRUE(texts.contains("Trova nell'elenco"));
+}
+
+}  // namespace
+}  // namespace vantora::ui::desktop

@@ -1,0 +1,125 @@
+#include <gtest/gtest.h>
+
+#include <QClipboard>
+#include <QFile>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QTableView>
+#include <QTemporaryDir>
+
+#include "ui/controls.h"
+#include "window_bench.h"
+
+namespace vantora::ui::desktop {
+namespace {
+
+/// A screen with a list of six rows, of which the last is blank.
+class listed final : public form {
+ public:
+    explicit listed(ui::desk& on) : form(on, "prova", "Prova") {
+        add("elenco", elenco);
+        elenco.set_columns({{"Numero", 1}, {"Nome", 3}, {"nascosta", 0}});
+        elenco.set_rows(7);
+        const char* names[] = {"Alfa", "Beta", "Gamma", "Alfabeta", "Delta; \"D\""};
+        for (int row = 1; row <= 5; ++row) {
+            elenco.set_text(row, 0, std::to_string(row) + ",5");
+            elenco.set_text(row, 1, names[row - 1]);
+            elenco.set_text(row, 2, "alfa");
+        }
+        elenco.on_click = [this] { ++clicks; };
+    }
+
+    grid elenco;
+    int clicks = 0;
+};
+
+class list_tools : public testing::Test {
+ protected:
+    void run(std::vector<std::function<void()>> steps) {
+        bench.run(
+            [this] {
+                auto made = std::make_unique<listed>(bench.desk);
+                screen = made.get();
+                bench.desk.load(std::move(made)).show();
+            },
+            std::move(steps));
+    }
+    QTableView* table() { return bench.find<QTableView>("elenco"); }
+    QLineEdit* line() { return bench.find<QLineEdit>("elenco_testo_da_trovare"); }
+    void click(int row, Qt::KeyboardModifiers with = {}) {
+        const QRect cell = table()->visualRect(table()->model()->index(row, 1));
+        QTest::mouseClick(table()->viewport(), Qt::LeftButton, with, cell.center());
+    }
+    QString copied() {
+        QTest::keyClick(table(), Qt::Key_C, Qt::ControlModifier);
+        return QApplication::clipboard()->text();
+    }
+
+    test::window_bench bench;
+    listed* screen = nullptr;
+};
+
+TEST_F(list_tools, FindWalksTheMatchesOfTheColumnsThatShow) {
+    run({[&] {
+        QTest::keyClick(table(), Qt::Key_F, Qt::ControlModifier);
+        ASSERT_TRUE(line()->hasFocus());
+        QTest::keyClicks(line(), "alfa");
+        std::vector<int> walked{screen->elenco.row()};
+        for (const auto shift : {Qt::NoModifier, Qt::NoModifier, Qt::ShiftModifier}) {
+            QTest::keyClick(line(), Qt::Key_Return, shift);
+            walked.push_back(screen->elenco.row());
+        }
+        EXPECT_EQ(walked, (std::vector{1, 4, 1, 4}));
+        EXPECT_EQ(screen->clicks, 0);
+        screen->elenco.set_text(2, 1, "ALF\xC0");
+        QTest::keyClick(line(), Qt::Key_Return);
+        QTest::keyClick(line(), Qt::Key_Return);
+        EXPECT_EQ(screen->elenco.row(), 2) << "the list changed while it was searched";
+        QTest::keyClick(line(), Qt::Key_Return, Qt::ControlModifier);
+        EXPECT_EQ(screen->clicks, 1) << "taken";
+        EXPECT_FALSE(line()->isVisible());
+        EXPECT_TRUE(table()->hasFocus());
+    }});
+}
+
+TEST_F(list_tools, RowsAreMarkedAndCopiedWithoutTouchingTheList) {
+    run({[&] {
+        click(1);
+        EXPECT_EQ(screen->clicks, 1);
+        EXPECT_EQ(copied(), "2,5\tBeta\n");
+        click(3, Qt::ShiftModifier);
+        click(2, Qt::ControlModifier);
+        EXPECT_EQ(copied(), "2,5\tBeta\n4,5\tAlfabeta\n");
+        EXPECT_EQ(screen->elenco.row(), 2);
+        EXPECT_EQ(screen->clicks, 1);
+        QTest::keyClick(table(), Qt::Key_Escape);
+        QTest::keyClick(table(), Qt::Key_Up, Qt::ShiftModifier);
+        EXPECT_EQ(copied(), "1,5\tAlfa\n2,5\tBeta\n");
+        QTest::keyClick(table(), Qt::Key_A, Qt::ControlModifier);
+        EXPECT_EQ(copied().count('\n'), 5);
+        screen->elenco.set_text(1, 0, "0");
+        EXPECT_EQ(copied(), "2,5\tBeta\n") << "marks of a list that changed are gone";
+    }});
+}
+
+TEST_F(list_tools, TheListIsSavedAsCsv) {
+    const QTemporaryDir folder;
+    const QString file = folder.filePath("elenco.csv");
+    run({[&] {
+        QTimer::singleShot(0, [&] {
+            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            ASSERT_TRUE(dialog);
+            dialog->selectFile(file);
+            QMetaObject::invokeMethod(dialog, "accept");
+        });
+        QTest::keyClick(table(), Qt::Key_E, Qt::ControlModifier | Qt::ShiftModifier);
+    }});
+    QFile saved(file);
+    ASSERT_TRUE(saved.open(QIODevice::ReadOnly));
+    EXPECT_EQ(saved.readAll(),
+              "\xEF\xBB\xBFNumero;Nome\r\n1,5;Alfa\r\n2,5;Beta\r\n3,5;Gamma\r\n4,5;Alfabeta\r\n"
+              "5,5;\"Delta; \"\"D\"\"\"\r\n");
+}
+
+}  // namespace
+}  // namespace vantora::ui::desktop

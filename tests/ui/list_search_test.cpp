@@ -1,0 +1,76 @@
+#include "ui/list_search.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <random>
+
+#include "store/text/code_page.h"
+#include "ui/list_text.h"
+
+namespace vantora::ui {
+namespace {
+
+using row = std::vector<std::string>;
+
+std::vector<int> plain_search(const std::vector<row>& rows, const std::string& wanted) {
+    std::vector<int> found;
+    for (std::size_t i = 0; i < rows.size() && !wanted.empty(); ++i) {
+        const auto holds = [&](const std::string& cell) {
+            return upper(cell).find(upper(wanted)) != std::string::npos;
+        };
+        if (std::ranges::any_of(rows[i], holds)) found.push_back(static_cast<int>(i));
+    }
+    return found;
+}
+
+TEST(ListSearch, FindsTheRowsThatAPlainSearchFinds) {
+    std::mt19937 random(7);
+    const auto text = [&](std::size_t longest) {
+        std::string made(random() % (longest + 1), 'a');
+        for (char& one : made) one = "abAB1 "[random() % 6];
+        return made;
+    };
+    list_search texts;
+    for (int round = 0; round < 300; ++round) {
+        std::vector<row> rows(random() % 20);
+        texts.clear();
+        for (row& one : rows) {
+            one = {text(6), text(3)};
+            for (const std::string& cell : one) texts.add_cell(cell);
+            texts.end_row();
+        }
+        ASSERT_EQ(texts.rows(), static_cast<int>(rows.size()));
+        const std::string wanted = text(4);
+        ASSERT_EQ(texts.rows_with(wanted), plain_search(rows, wanted)) << wanted;
+    }
+}
+
+TEST(ListSearch, CaseAccentsAndCellsThatMeetDontMatter) {
+    list_search texts;
+    for (const char* cell : {"Città di Castello", "NIÑO", "ab"}) texts.add_cell(from_utf8(cell));
+    texts.add_cell("cd");
+    texts.end_row();
+    const struct {
+        const char* wanted;
+        bool found;
+    } cases[] = {{"citta", true}, {"CITTÀ", true}, {"nino", true}, {"bc", false},
+                 {"o ", false},   {"", false},     {"ÀDI", false}, {"cd", true}};
+    for (const auto& one : cases) {
+        EXPECT_EQ(texts.rows_with(from_utf8(one.wanted)).size(), one.found) << one.wanted;
+    }
+}
+
+TEST(ListText, RowsComeAsSpreadsheetsReadThem) {
+    const std::string cells[] = {from_utf8("Perché \"no\""), "1.234,50", "a;b\tc\nd", ""};
+    const std::vector<std::string_view> line(std::begin(cells), std::end(cells));
+    std::string text;
+    add_tabbed_row(text, line);
+    add_csv_row(text, line);
+    EXPECT_EQ(text,
+              "Perché \"no\"\t1.234,50\ta;b c d\t\n"
+              "\"Perché \"\"no\"\"\";1.234,50;\"a;b\tc\nd\";\r\n");
+}
+
+}  // namespace
+}  // namespace vantora::ui
