@@ -2,6 +2,7 @@
 
 #include "register/mirorc.h"
 #include "store/records/order_block.h"
+#include "store/text/code_page.h"
 #include "store/text/dates.h"
 #include "store/text/int16.h"
 #include "store/text/number_text.h"
@@ -21,12 +22,13 @@ std::string quantity_text(double quantity) {
 }
 
 std::string line_text(const rec_orc& row) {
-    const std::string description(row.descrizione.full());
+    const std::string description =
+        filtra_stampa(std::string(row.descrizione.full()) + std::string(row.descrizione2.full()));
     std::string text;
     if (row.quantita != 0) {
         text = quantity_text(row.quantita) + " " + std::string(row.um.trimmed()) + "  ";
     }
-    return text.append(trimmed(description + std::string(row.descrizione2.full())));
+    return text.append(trimmed(description));
 }
 
 /// An order's figures over its rows.
