@@ -35,6 +35,7 @@ void write_archive(archivi& files, int orders, int customers) {
         head.evaso_flag = static_cast<std::int16_t>(random() % 3 == 0);
         files.orc.write_block(block_record(i, 1), block);
     }
+    files.orc.flush();
     rec_tot counter{};
     counter.quanti = static_cast<std::int16_t>(orders);
     files.tot.write(contatori::ordini, counter);

@@ -52,6 +52,7 @@ namespace vantora::bench {
 namespace {
 
 constexpr std::size_t block_bytes = righe_blocco * sizeof(rec_orc);
+constexpr std::int64_t block_length{block_bytes};
 
 /// Notes how much of each block of the order file is read, by whichever thread.
 class watched_file final : public file {
@@ -62,8 +63,11 @@ class watched_file final : public file {
     std::optional<std::size_t> read(std::int64_t offset, std::span<std::byte> into) override {
         {
             const std::scoped_lock one_at_a_time(noting_);
-            auto& most = looked_at_[offset / std::int64_t{block_bytes}];
-            most = std::max(most, into.size());
+            for (std::size_t at = 0; at < into.size(); at += block_bytes) {
+                const auto block = (offset + static_cast<std::int64_t>(at)) / block_length;
+                auto& most = looked_at_[block];
+                most = std::max(most, std::min(into.size() - at, block_bytes));
+            }
         }
         return real_->read(offset, into);
     }
@@ -115,6 +119,7 @@ void write_archive(archivi& files, int count, int lines) {
         }
         files.orc.write_block(block_record(i, 1), block);
     }
+    files.orc.flush();
     rec_tot counter{};
     counter.quanti = static_cast<std::int16_t>(count);
     for (const int which : {contatori::articoli, contatori::clienti, contatori::ordini})
@@ -150,7 +155,7 @@ struct lists_bench {
         std::vector<std::byte> bytes(block_bytes);
         const auto bare = [&] {
             for (const auto& [block, size] : looked_at)
-                file->read(block * std::int64_t{block_bytes}, std::span(bytes).first(size));
+                file->read(block * block_length, std::span(bytes).first(size));
         };
         const std::string what = std::string(screen.name()) + (analytic ? ", analytic" : "") +
                                  ", " + std::to_string(looked_at.size()) + " blocks";

@@ -38,7 +38,7 @@ std::string quantity_text(double quantity);
 template <std::size_t N>
 bool is_blank(const text<N>& field) {
     static const text<N> blanks{""};
-    return field.full() == blanks.full();
+    return field == blanks;
 }
 
 /// Whether a row of an order is more than an empty line.

@@ -35,6 +35,8 @@ class text {
     /// All N characters as they stand. Valid as long as the record.
     [[nodiscard]] std::string_view full() const { return {bytes_, N}; }
 
+    bool operator==(const text& other) const { return std::memcmp(bytes_, other.bytes_, N) == 0; }
+
     /// Without blanks at both ends. Valid as long as the record.
     [[nodiscard]] std::string_view trimmed() const { return vantora::trimmed(full()); }
 
@@ -50,23 +52,28 @@ class little_endian {
     little_endian(Number value) { *this = value; }
 
     little_endian& operator=(Number value) {
-        auto bits = std::bit_cast<Bits>(value);
-        for (auto& byte : bytes_) {
-            byte = static_cast<unsigned char>(bits & 0xFF);
-            bits = static_cast<Bits>(bits >> 8);
-        }
+        const Bits bits = swapped_if_big(std::bit_cast<Bits>(value));
+        std::memcpy(bytes_, &bits, sizeof bits);
         return *this;
     }
 
     operator Number() const {
-        Bits bits = 0;
-        for (std::size_t i = sizeof(Bits); i-- > 0;) {
-            bits = static_cast<Bits>(static_cast<Bits>(bits << 8) | bytes_[i]);
-        }
-        return std::bit_cast<Number>(bits);
+        Bits bits;
+        std::memcpy(&bits, bytes_, sizeof bits);
+        return std::bit_cast<Number>(swapped_if_big(bits));
     }
 
  private:
+    static constexpr Bits swapped_if_big(Bits bits) {
+        if constexpr (std::endian::native == std::endian::little) return bits;
+        Bits swapped = 0;
+        for (std::size_t i = 0; i < sizeof(Bits); ++i) {
+            swapped = static_cast<Bits>(static_cast<Bits>(swapped << 8) | (bits & 0xFF));
+            bits = static_cast<Bits>(bits >> 8);
+        }
+        return swapped;
+    }
+
     static_assert(sizeof(Number) == sizeof(Bits));
     unsigned char bytes_[sizeof(Number)] = {};
 };

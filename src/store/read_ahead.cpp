@@ -20,7 +20,7 @@ constexpr std::size_t batch_bytes_max = 256U << 10U;
 // From memory, few and large batches keep the caches warm; from afar, many and small ones keep all
 // threads at work.
 constexpr std::size_t batches_max = 72;
-constexpr std::size_t batches_near = 12;
+constexpr std::size_t batches_near = 6;
 constexpr std::size_t batch_places_max = 64;
 constexpr std::size_t batch_places_far = 4;
 /// A batch has one place at first, and twice as many after each so many batches.
@@ -46,13 +46,31 @@ struct batch {
     bool done = false;
 };
 
-void read_piece(file& from, batch& into, batch::piece& piece) {
-    if (piece.place.offset < 0) return;
-    const std::span bytes(into.bytes.get() + piece.at, piece.place.bytes);
-    const auto had = from.read(piece.place.offset, bytes);
-    if (!had) return;
+bool read_place(file& from, const read_ahead::place& place, std::byte* into) {
+    if (place.offset < 0) return false;
+    const std::span bytes(into, place.bytes);
+    const auto had = from.read(place.offset, bytes);
+    if (!had) return false;
     std::ranges::fill(bytes.subspan(*had), std::byte{0});
-    piece.read = true;
+    return true;
+}
+
+/// Reads the pieces that lie one behind the other, from the first one on, in one call, or, where
+/// that fails, each alone. Returns those that are left.
+std::span<batch::piece> read_neighbours(file& from, batch& into, std::span<batch::piece> pieces) {
+    read_ahead::place whole = pieces.front().place;
+    std::size_t count = 1;
+    while (count < pieces.size() &&
+           pieces[count].place.offset == whole.offset + static_cast<std::int64_t>(whole.bytes)) {
+        whole.bytes += pieces[count++].place.bytes;
+    }
+    const auto neighbours = pieces.first(count);
+    std::byte* const begin = into.bytes.get() + pieces.front().at;
+    const bool done = read_place(from, whole, begin);
+    for (auto& one : neighbours) {
+        one.read = done || (count > 1 && read_place(from, one.place, into.bytes.get() + one.at));
+    }
+    return pieces.subspan(count);
 }
 
 /// Whether the reads of late were slow. One alone may have met a busy processor.
@@ -207,8 +225,8 @@ class read_ahead::readers {
         locked.unlock();
         using clock = std::chrono::steady_clock;
         const auto begin = clock::now();
-        for (auto& piece : mine.pieces) {
-            if (from_ && !ending_) read_piece(*from_, mine, piece);
+        for (std::span left(mine.pieces); !left.empty() && from_ && !ending_;) {
+            left = read_neighbours(*from_, mine, left);
         }
         const auto allowed = slow_read * mine.pieces.size() +
                              std::chrono::nanoseconds(mine.size / bytes_in_a_nanosecond);

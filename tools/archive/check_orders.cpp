@@ -22,9 +22,9 @@ bool is_stored_date(std::string_view text) {
 
 /// What every row of an order repeats.
 bool same_head(const rec_orc& one, const rec_orc& other) {
-    return one.numero.full() == other.numero.full() && one.data.full() == other.data.full() &&
-           one.cliente == other.cliente && one.data_evasione.full() == other.data_evasione.full() &&
-           one.impegno.full() == other.impegno.full() && one.annullato == other.annullato;
+    return one.numero == other.numero && one.data == other.data && one.cliente == other.cliente &&
+           one.data_evasione == other.data_evasione && one.impegno == other.impegno &&
+           one.annullato == other.annullato;
 }
 
 class order_check {

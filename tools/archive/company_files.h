@@ -40,7 +40,7 @@ class company_files {
     archivi records_;
 };
 
-/// Hands records 1 to `count` over in order, read ahead in stretches of about 128 KiB. What can't
+/// Hands records 1 to `count` over in order, read ahead in stretches of 128 KiB. What can't
 /// be read is passed over.
 template <class Record, class Visit>
 void scan(const channel<Record>& from, int count, Visit visit) {
@@ -52,13 +52,14 @@ void scan(const channel<Record>& from, int count, Visit visit) {
     }
 }
 
-/// The same with the 200 rows of a block at a time: visit(registrazione, rows).
+/// The same with the 200 rows of a block at a time: visit(registrazione, rows). A block is read as
+/// a whole or passed over.
 template <class Row, class Visit>
 void scan_blocks(const channel<Row>& from, int blocks, Visit visit) {
-    auto ahead = all_records_ahead(from, blocks * static_cast<int>(righe_blocco),
-                                   static_cast<int>(righe_blocco));
+    constexpr int rows = righe_blocco;
+    auto ahead = all_records_ahead(from, blocks * rows, rows);
     for (int block = 1; block <= blocks; ++block) {
-        if (const auto rows = ahead.next_run()) visit(block, *rows);
+        if (const auto its = ahead.next_run()) visit(block, *its);
     }
 }
 
