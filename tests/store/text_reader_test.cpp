@@ -5,37 +5,36 @@
 namespace vantora {
 namespace {
 
-std::vector<std::string> lines_of(const std::string& content) {
-    text_reader reader(content);
-    std::vector<std::string> lines;
-    for (std::string line; reader.line(line);) lines.push_back(line);
-    return lines;
-}
+using texts = std::vector<std::string>;
 
-std::vector<std::string> items_of(const std::string& content) {
-    text_reader reader(content);
-    std::vector<std::string> items;
-    for (std::string item; reader.item(item);) items.push_back(item);
-    return items;
-}
-
-TEST(text_reader, LinesEndInEachOfTheThreeWays) {
-    using texts = std::vector<std::string>;
-    EXPECT_EQ(lines_of("a\r\nb\rc\nd"), (texts{"a", "b", "c", "d"}));
-    EXPECT_EQ(lines_of("\r\n\r\n"), (texts{"", ""}));
-    EXPECT_EQ(lines_of("a\n\nb"), (texts{"a", "", "b"}));
-    EXPECT_EQ(lines_of(" \"x\", y \r\n"), texts{" \"x\", y "});
-    EXPECT_EQ(lines_of(""), texts{});
-}
-
-TEST(text_reader, ItemsLoseQuotesAndTrailingBlanks) {
-    using texts = std::vector<std::string>;
-    EXPECT_EQ(items_of("1, 2 ,3\r\n4"), (texts{"1", "2", "3", "4"}));
-    EXPECT_EQ(items_of("\"a, b\" dropped,c"), (texts{"a, b", "c"}));
-    EXPECT_EQ(items_of("  \" kept \"\r\nx"), (texts{" kept ", "x"}));
-    EXPECT_EQ(items_of("\"never closed\r\nx"), (texts{"never closed\r\nx"}));
-    EXPECT_EQ(items_of(",,\n"), (texts{"", "", ""}));
-    EXPECT_EQ(items_of("a\"b\",c"), (texts{"a\"b\"", "c"}));
+TEST(text_reader, LinesAndItemsEndInEachOfTheThreeWays) {
+    const struct {
+        const char* content;
+        texts lines;
+        texts items;
+    } cases[] = {
+        {"a\r\nb\rc\nd", {"a", "b", "c", "d"}, {"a", "b", "c", "d"}},
+        {"\r\n\r\n", {"", ""}, {"", ""}},
+        {"a\n\nb", {"a", "", "b"}, {"a", "", "b"}},
+        {"", {}, {}},
+        {" \"x\", y \r\n", {" \"x\", y "}, {"x", "y"}},
+        {"1, 2 ,3\r\n4", {"1, 2 ,3", "4"}, {"1", "2", "3", "4"}},
+        {"\"a, b\" dropped,c", {"\"a, b\" dropped,c"}, {"a, b", "c"}},
+        {"  \" kept \"\r\nx", {"  \" kept \"", "x"}, {" kept ", "x"}},
+        {"\"never closed\r\nx", {"\"never closed", "x"}, {"never closed\r\nx"}},
+        {",,\n", {",,"}, {"", "", ""}},
+        {"a\"b\",c", {"a\"b\",c"}, {"a\"b\"", "c"}},
+    };
+    for (const auto& one : cases) {
+        texts lines;
+        texts items;
+        text_reader by_line(one.content);
+        for (std::string line; by_line.line(line);) lines.push_back(line);
+        text_reader by_item(one.content);
+        for (std::string item; by_item.item(item);) items.push_back(item);
+        EXPECT_EQ(lines, one.lines) << one.content;
+        EXPECT_EQ(items, one.items) << one.content;
+    }
 }
 
 TEST(text_reader, TheRestBehindAnItemIsItsLineOrTheNextOne) {
