@@ -43,7 +43,7 @@ class read_ahead_test : public testing::Test {
     }
     int below(int limit) { return static_cast<int>(random() % static_cast<unsigned>(limit)); }
 
-    static constexpr std::size_t records = 20000;
+    static constexpr std::size_t records = 80000;
     std::mt19937 random{3};
     test::scratch_folder folder;
     drive port{folder.path()};
@@ -57,10 +57,12 @@ TEST_F(read_ahead_test, RunsGiveWhatReadsOneAfterTheOtherGive) {
     for (int round = 0; round < 30; ++round) {
         std::vector<record_run> plan(static_cast<std::size_t>(below(round % 3 == 0 ? 3000 : 40)));
         const bool single = below(2) == 0;
+        std::int64_t behind = 1;
         for (auto& run : plan) {
-            // Some lie behind the end, some at numbers that no record has.
-            run.first = below(records + 300) - 5;
+            // Some are neighbours, some lie behind the end, some at numbers that no record has.
+            run.first = below(2) == 0 ? behind : below(records + 300) - 5;
             run.count = single ? 1 : random() % 40;
+            behind = run.first + static_cast<std::int64_t>(run.count);
         }
         damage();
         records_ahead<rec_tot> ahead(from, plan.size(), [&](std::size_t i) { return plan[i]; });
@@ -78,10 +80,10 @@ TEST_F(read_ahead_test, RunsGiveWhatReadsOneAfterTheOtherGive) {
 
 /// Rows one after the other; one that can't be read is the one before it.
 TEST_F(read_ahead_test, WalksOverBlocksGiveWhatReadsOneAfterTheOtherGive) {
-    for (int round = 0; round < 60; ++round) {
+    for (int round = 0; round < 20; ++round) {
         damage();
-        const int first = below(30) - 2;
-        const int last = below(110);
+        const int first = below(20) - 2;
+        const int last = below(440);
         const int one_in = 1 + below(3) * below(3);
         const auto wanted = [one_in](const rec_tot& head) {
             return static_cast<int>(head.progressivo) / 200 % one_in == 0;
@@ -133,7 +135,7 @@ TEST_F(read_ahead_test, ManyReadsAreUnderWayAtOnceButNotWithoutBound) {
     const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - begin;
     EXPECT_LT(taken.count(), 1500 * 0.002 / 5) << "one after the other takes 3 s";
     std::this_thread::sleep_for(std::chrono::milliseconds(300));
-    EXPECT_LT(faults.reads, records) << "it waits for who takes them";
+    EXPECT_LT(faults.reads, 2500U) << "it waits for who takes them";
 }
 
 TEST_F(read_ahead_test, NothingGoesOnOnceItIsDroppedAndACloseHurtsNothing) {

@@ -82,6 +82,8 @@ void desktop_front_end::let_events_run() {
     if (since_events_.elapsed() < serving_pause) return;
     QCoreApplication::processEvents();
     since_events_.restart();
+    // The user may have closed the window while it was only painted.
+    if (QPointer<form_window> closing = std::exchange(late_closing_, nullptr)) closing->close();
 }
 
 void desktop_front_end::progress_changed(control& list, double done) {
