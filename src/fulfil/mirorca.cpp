@@ -43,6 +43,7 @@ mirorca::mirorca(program& app) : line_grid(app, documento_trasporto) {
     add("elenco", elenco);
     add("text1", text1);
     add("Text", Text);
+    add("testata", testata);
     elenco.set_visible(false);
     elenco.set_columns(std::vector<ui::grid_column>(7));
     elenco.set_rows(righe_ordine::massimo);
@@ -109,6 +110,9 @@ void mirorca::activate() {
     prezz[number_at_head(cliente_.listino.full()) == 1 ? 0 : 1].set_on(true);
     propose_movement();
     propose_mail();
+    const mirorcc& head = *app_.mirorcc;
+    testata.set_text(head.Text2[0].text() + " - DDT " + head.Text3[0].text() + " del " +
+                     head.Text3[1].text());
     paint();
     artic[0].set_focus();
 }

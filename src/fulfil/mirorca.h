@@ -21,6 +21,7 @@ class mirorca final : public line_grid {
     ui::grid elenco;        ///< never shown; row n from 0 is line n + 1
     ui::text_box text1[2];  ///< reference and kind of the movement
     ui::date_picker Text;   ///< day of the movement
+    ui::label testata;      ///< which document it is: customer, number, date
 
     /// Empties `elenco`.
     void empty_hand_over();

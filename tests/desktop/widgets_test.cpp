@@ -38,6 +38,9 @@ class trial final : public form {
         barra.set_value(1);
     }
 
+    void activate() override { ++activations; }
+
+    int activations = 0;
     text_box testo;
     text_box altro;
     check_box spunta;
@@ -187,6 +190,24 @@ TEST_F(widgets, AScreenMayGoInTheMidstOfItsOwnEvent) {
              QTest::keyClicks(bench.find("testo"), "a");
          },
          [&] { EXPECT_TRUE(bench.desk.forms().empty()); }});
+}
+
+TEST_F(widgets, WindowsBroughtForwardInHasteComeToRest) {
+    trial* other = nullptr;
+    run({[&] {
+             auto made = std::make_unique<trial>(bench.desk);
+             other = made.get();
+             bench.desk.dispatch([&] {
+                 bench.desk.load(std::move(made)).show();
+                 screen->show();
+                 other->show();
+             });
+         },
+         [&] {
+             QTest::qWait(50);
+             EXPECT_EQ(bench.desk.active(), other);
+             EXPECT_LE(other->activations + screen->activations, 4);
+         }});
 }
 
 TEST_F(widgets, F1OpensTheBestManualThereIsAndLeavesDescriptionsAlone) {

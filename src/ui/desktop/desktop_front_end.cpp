@@ -16,6 +16,10 @@ namespace {
 /// Long work serves the window system this often, in milliseconds.
 constexpr qint64 serving_pause = 16;
 
+/// So long after the program brought a window to the front, others may still come forward that it
+/// had called before, in milliseconds.
+constexpr qint64 settling_time = 200;
+
 constexpr const char* program_title = "Vantora Ordini";
 
 }  // namespace
@@ -132,12 +136,18 @@ void desktop_front_end::form_loaded(form& which) {
             }
             if (!desk_->obstacle(closing)) carry_out([&] { desk_->close(closing); });
         },
-        [this](form& chosen) {
-            const bool another = desk_->active() && desk_->active() != &chosen;
-            if (another && painting_ == 0 && !desk_->obstacle(chosen))
-                carry_out([&] { chosen.show(); });
-        },
-        next_step_ == nullptr);
+        [this](form& chosen) { come_forward(chosen); }, next_step_ == nullptr);
+}
+
+void desktop_front_end::come_forward(form& chosen) {
+    form* active = desk_->active();
+    if (!active || active == &chosen || painting_ > 0) return;
+    if (since_called_.elapsed() < settling_time) {
+        // The window system is still busy with what the program asked: no user's choice.
+        if (form_window* window = window_of(*active)) window->activateWindow();
+    } else if (!desk_->obstacle(chosen)) {
+        carry_out([&] { chosen.show(); });
+    }
 }
 
 void desktop_front_end::form_shown(form& which) {
@@ -171,8 +181,9 @@ void desktop_front_end::form_activated(form& which) {
     form_window* window = window_of(which);
     if (!window) return;
     keys_.screen_came_up();
+    since_called_.start();
     window->raise();
-    window->activateWindow();
+    if (!window->isActiveWindow()) window->activateWindow();
 }
 
 void desktop_front_end::focus_moved(control* to) {

@@ -76,13 +76,16 @@ class desktop_front_end final : public front_end {
     void step_until(const std::function<bool()>& done);
     void leave_finished_waits();
     form_window* window_of(form& which);
+    /// The user brings a window to the front.
+    void come_forward(form& chosen);
     void show_pointer();
 
     desk* desk_ = nullptr;
     std::function<bool()> next_step_;
     answers_in_advance answers_;
     std::map<form*, std::unique_ptr<form_window>> windows_;
-    window_place place_;  ///< of the last window
+    window_place place_;          ///< of the last window
+    QElapsedTimer since_called_;  ///< since the program brought a window to the front
     std::vector<QMessageBox*> boxes_;
     bool busy_shown_ = false;
     std::vector<wait> waits_;

@@ -31,6 +31,7 @@ QString run_dialog(QFileDialog& dialog, const file_kind& kind, const char* accep
     const plain_pointer shown_meanwhile;
     // The system's own dialog speaks the system's language.
     dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.setViewMode(QFileDialog::List);
     dialog.setNameFilter(QString("%1 (*.%2)").arg(kind.name, kind.ending));
     dialog.setDefaultSuffix(kind.ending);
     dialog.setLabelText(QFileDialog::LookIn, QString::fromUtf8(words::look_in));

@@ -40,8 +40,10 @@ class cells_model final : public QAbstractTableModel {
                 return readable_on(toolkit_colour(grid_.back_colour(row, col)));
             case Qt::TextAlignmentRole:
                 return aligned(col);
-            case Qt::ToolTipRole:
-                return hint(row);
+            case Qt::ToolTipRole: {
+                const QVariant told = hint(row);
+                return told.isValid() ? told : cut_off(index);
+            }
             case Qt::AccessibleTextRole: {
                 const QString text = shown(grid_.text(row, col));
                 const std::string said = col == 0 ? notice(row) : std::string();
@@ -99,6 +101,14 @@ class cells_model final : public QAbstractTableModel {
         const bool right = static_cast<std::size_t>(col) < columns.size() &&
                            columns[static_cast<std::size_t>(col)].aligned == alignment::right;
         return static_cast<int>((right ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+    }
+
+    /// The text of a cell that its column is too narrow for.
+    [[nodiscard]] QVariant cut_off(const QModelIndex& index) const {
+        constexpr int margins = 12;  // dots, both sides
+        const QString text = shown(grid_.text(index.row() + 1, index.column()));
+        const int room = view_.columnWidth(index.column()) - margins;
+        return view_.fontMetrics().horizontalAdvance(text) > room ? QVariant(text) : QVariant();
     }
 
     const grid& grid_;

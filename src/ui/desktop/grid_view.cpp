@@ -12,6 +12,7 @@
 
 #include "store/text/code_page.h"
 #include "ui/desktop/binder.h"
+#include "ui/look/style.h"
 
 namespace vantora::ui::desktop {
 
@@ -46,9 +47,41 @@ class notice_marks final : public QStyledItemDelegate {
     const grid& model_;
 };
 
+/// Heads that stand over their columns' texts, with an arrow in the one sorted last: the toolkit's
+/// own arrow would take its room from every head.
+class column_heads final : public QHeaderView {
+ public:
+    explicit column_heads(QWidget* parent)
+        : QHeaderView(Qt::Horizontal, parent), arrow_(picture_named("su")) {}
+    void show_sorted(int column) {
+        sorted_ = column;
+        viewport()->update();
+    }
+
+ protected:
+    void paintSection(QPainter* painter, const QRect& area, int column) const override {
+        QHeaderView::paintSection(painter, area, column);
+        if (column != sorted_) return;
+        const bool right =
+            (model()->headerData(column, orientation(), Qt::TextAlignmentRole).toInt() &
+             Qt::AlignRight) != 0;
+        QRect room(0, 0, arrow_size, arrow_size);
+        room.moveCenter(area.center());
+        right ? room.moveLeft(area.left() + margin) : room.moveRight(area.right() - margin);
+        arrow_.paint(painter, room);
+    }
+
+ private:
+    static constexpr int arrow_size = 12;
+    static constexpr int margin = 4;
+    QIcon arrow_;
+    int sorted_ = -1;
+};
+
 }  // namespace
 
 grid_view::grid_view(const grid& model, QWidget* parent) : QTableView(parent), model_(model) {
+    setHorizontalHeader(new column_heads(this));
     // A list that is hidden while it is filled keeps its room.
     QSizePolicy place(QSizePolicy::Expanding, QSizePolicy::Expanding);
     place.setRetainSizeWhenHidden(true);
@@ -223,13 +256,11 @@ void grid_view::head_clicked(int column) {
         auto* button = qobject_cast<QAbstractButton*>(one.widget);
         if (button && one.column == column && button->isEnabled()) button->click();
     }
-    show_sorted(sorted_);
 }
 
 void grid_view::show_sorted(int column) {
     sorted_ = column;
-    horizontalHeader()->setSortIndicatorShown(column >= 0);
-    horizontalHeader()->setSortIndicator(column, Qt::AscendingOrder);
+    static_cast<column_heads*>(horizontalHeader())->show_sorted(column);
 }
 
 // Typing ----------------------------------------------------------------------------------------

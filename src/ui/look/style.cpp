@@ -1,11 +1,11 @@
 #include "ui/look/style.h"
 
 #include <QApplication>
+#include <QFont>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QPalette>
 #include <QProxyStyle>
-#include <QStyleOption>
 #include <QTranslator>
 
 // The pictures lie in a static library, which would leave them out; Qt wants this outside of any
@@ -18,10 +18,7 @@ namespace vantora::ui {
 
 namespace {
 
-constexpr int sort_arrow = 12;  ///< dots, as in the sheet below
-
-/// Fusion without the pictures on the buttons of dialogs, with room beside the texts of cells, and
-/// with heads that stand over their numbers.
+/// Fusion without the pictures on the buttons of dialogs and with room beside the texts of cells.
 class calm_style final : public QProxyStyle {
  public:
     calm_style() : QProxyStyle("Fusion") {}
@@ -36,16 +33,15 @@ class calm_style final : public QProxyStyle {
         if (metric == PM_FocusFrameHMargin) return 5;
         return QProxyStyle::pixelMetric(metric, option, widget);
     }
-    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
-                     const QWidget* widget) const override {
-        const auto* head = qstyleoption_cast<const QStyleOptionHeader*>(option);
-        if (element != CE_HeaderLabel || !head || head->sortIndicator != QStyleOptionHeader::None) {
-            return QProxyStyle::drawControl(element, option, painter, widget);
-        }
-        // The style sheet keeps room for the arrow of sorting in every head.
-        QStyleOptionHeader whole(*head);
-        whole.rect.setWidth(whole.rect.width() + sort_arrow);
-        QProxyStyle::drawControl(element, &whole, painter, widget);
+};
+
+/// What the toolkit's translation lacks.
+class missing_texts final : public QTranslator {
+ public:
+    using QTranslator::QTranslator;
+    bool isEmpty() const override { return false; }
+    QString translate(const char*, const char* source, const char*, int) const override {
+        return std::string_view(source) == "Folder" ? "Cartella" : QString();
     }
 };
 
@@ -56,6 +52,7 @@ void speak_italian(QApplication& application) {
     if (texts->load("qtbase_it", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
         QApplication::installTranslator(texts);
     }
+    QApplication::installTranslator(new missing_texts(&application));
 }
 
 constexpr const char* sheet = R"(
@@ -64,7 +61,9 @@ QToolButton:hover { background: #e3edf6; border-color: #c3d6e6; }
 QToolButton:pressed { background: #cfe0ee; padding: 5px 8px 3px 8px; }
 QToolButton:focus { border-color: #2f6ea5; }
 QToolButton:disabled { color: #5a6671; }
-QToolButton[look="plain"] { background: #f6f8fa; border-color: #808d99; }
+QToolButton[look="plain"] { background: #f6f8fa; border-color: #808d99;
+                            padding: 3px 2px 3px 9px; }
+QToolButton[look="plain"]:pressed { padding: 4px 2px 2px 9px; }
 QToolButton[look="plain"]:hover { background: #e3edf6; }
 QToolButton[look="plain"]:focus { border-color: #2f6ea5; }
 QToolButton[look="sort"] { background: #eef2f6; border-color: #808d99; padding: 1px 4px;
@@ -83,6 +82,7 @@ QLineEdit, QComboBox, QDateEdit { border: 1px solid #84919d; border-radius: 4px;
                        background: white; selection-background-color: #2f6ea5; }
 QLineEdit:focus, QComboBox:focus, QDateEdit:focus { border: 1px solid #2f6ea5;
                        background: #f4f9ff; }
+QComboBox { padding: 2px 5px 2px 7px; }
 QComboBox::drop-down, QDateEdit::drop-down { border: none; width: 22px; }
 QComboBox::down-arrow, QDateEdit::down-arrow { image: url(:/icons/giu.svg); width: 12px;
                        height: 12px; }
@@ -128,7 +128,6 @@ QListView { border: 1px solid #808d99; background: white; selection-background-c
 QHeaderView::section { background: #e9eef3; color: #24527a; border: none;
                        border-right: 1px solid #788591; border-bottom: 1px solid #c5ced6;
                        padding: 3px 6px; font-weight: 600; }
-QHeaderView::down-arrow { image: url(:/icons/su.svg); width: 12px; height: 12px; }
 QScrollBar { background: #eef1f4; }
 QScrollBar:vertical { width: 18px; margin: 17px 0; }
 QScrollBar:horizontal { height: 18px; margin: 0 17px; }
@@ -194,6 +193,9 @@ void dress_application(QApplication& application) {
         palette.setColor(QPalette::Disabled, role, QColor("#5a6671"));
     }
     QApplication::setPalette(palette);
+    // The frames of boxes and options are drawn in a shade of the window's colour.
+    palette.setColor(QPalette::Window, QColor("#a6b3be"));
+    for (const char* kind : {"QCheckBox", "QRadioButton"}) QApplication::setPalette(palette, kind);
     QFont font = QApplication::font();
     font.setFamilies({"Liberation Sans", "DejaVu Sans", font.family()});
     font.setPointSizeF(10);

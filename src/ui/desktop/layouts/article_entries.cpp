@@ -16,7 +16,7 @@ namespace {
 constexpr int code_width = 15;  // characters
 constexpr int between = 3;      // " - "
 constexpr int margin = 6;       // dots
-constexpr const char* widest_code = "WWW00000";
+constexpr const char* wide_code = "WAG00000";
 
 QString description_of(QString entry) {
     while (!entry.isEmpty() && entry.back().isDigit()) entry.chop(1);
@@ -52,11 +52,12 @@ void article_entries::paint(QPainter* painter, const QStyleOptionViewItem& optio
     const QRect room = row.rect.adjusted(margin, 0, -margin, 0);
     const QString code = entry.left(code_width).trimmed();
     const int column =
-        std::max(metrics.horizontalAdvance(widest_code), metrics.horizontalAdvance(code)) + margin;
+        std::max(metrics.horizontalAdvance(wide_code), metrics.horizontalAdvance(code)) + margin;
     painter->drawText(room, Qt::AlignVCenter | Qt::TextSingleLine, code);
     const QRect rest = room.adjusted(column, 0, 0, 0);
+    // Sizes and makers, which tell articles of a kind apart, stand at the end.
     painter->drawText(rest, Qt::AlignVCenter | Qt::TextSingleLine,
-                      metrics.elidedText(description_of(entry), Qt::ElideRight, rest.width()));
+                      metrics.elidedText(description_of(entry), Qt::ElideMiddle, rest.width()));
 }
 
 QSize article_entries::sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const {

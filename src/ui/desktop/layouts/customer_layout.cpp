@@ -6,6 +6,8 @@ namespace vantora::ui::desktop {
 
 namespace {
 
+constexpr int widest = 1320;  ///< dots; wider screens leave room at both sides
+
 constexpr const char* hint =
     "Per cercare un cliente utilizzare il cursore a lato oppure inserire nel campo sottostante il "
     "nominativo o la ragione sociale (o parte di essa) e clic sul bottone 'cerca'";
@@ -46,15 +48,15 @@ QWidget* field_of(form_window& window, const frame_field& field) {
     if (std::string_view(field.name) != "text5") return one;
     one->setToolTip("Sceglie la data dal calendario (frecce: giorno per giorno)");
     set_look(one, "look", "calendar");
-    one->setFixedWidth(32);
+    one->setFixedSize(32, window.widget("nome")->sizeHint().height());
     return one;
 }
 
 QGridLayout* add_frame(form_window& window, QGroupBox* box, std::span<const frame_row> rows) {
     auto* fields = new QGridLayout(box);
     fields->setHorizontalSpacing(8);
-    fields->setVerticalSpacing(4);
-    fields->setContentsMargins(8, 4, 8, 4);
+    fields->setVerticalSpacing(3);
+    fields->setContentsMargins(0, 0, 0, 0);
     fields->setColumnStretch(1, 1);
     // Fields that have no caption of their own are called by the one before, and their number.
     QString called;
@@ -108,8 +110,13 @@ QGroupBox* registered_office(form_window& window) {
 QFrame* search_bar(form_window& window) {
     auto* bar = new QFrame(&window);
     set_look(bar, "role", "bar");
-    auto* rows = new QVBoxLayout(bar);
-    rows->setContentsMargins(12, 8, 12, 10);
+    auto* around = new QHBoxLayout(bar);
+    around->setContentsMargins(0, 0, 0, 0);
+    auto* middle = new QWidget(bar);
+    middle->setMaximumWidth(widest);
+    around->addWidget(middle);
+    auto* rows = new QVBoxLayout(middle);
+    rows->setContentsMargins(12, 6, 12, 8);
     auto* explained = new QLabel(QString::fromUtf8(hint), bar);
     explained->setWordWrap(true);
     set_look(explained, "role", "faint");
@@ -143,7 +150,7 @@ QFrame* search_bar(form_window& window) {
 
 std::vector<frame_row> order_head_rows() {
     return {
-        {"Numero attribuito all'ordine", {{"Text3", 0}}},
+        {"Numero attribuito all'ordine", {{"Text3", 0, 12}}},
         {"Data di emissione",
          {{"Text3", 1, 10}, {"text5", 0}, {"Text3", 2, 10, "Data evasione"}, {"text5", 1}}},
         {"Riferimenti ordine", {{"Text3", 3}}},
@@ -161,9 +168,12 @@ void lay_out_customer(form_window& window, const customer_window& look) {
     all->setSpacing(0);
     all->addWidget(search_bar(window));
 
+    auto* middle = new QWidget(&window);
+    middle->setMaximumWidth(widest);
+    auto* column = new QVBoxLayout(middle);
+    column->setContentsMargins(12, 8, 12, 8);
     auto* frames = new QGridLayout;
-    frames->setContentsMargins(12, 10, 12, 6);
-    frames->setSpacing(12);
+    frames->setSpacing(8);
     frames->addWidget(registered_office(window), 0, 0);
     frames->addWidget(frame(window, look.frame, look.own), 1, 0);
     frames->addWidget(
@@ -172,19 +182,20 @@ void lay_out_customer(form_window& window, const customer_window& look) {
     frames->setColumnStretch(0, 1);
     frames->setColumnStretch(1, 1);
     frames->setRowStretch(1, 1);
-    all->addLayout(frames, 1);
+    column->addLayout(frames);
 
     auto* foot = new QHBoxLayout;
-    foot->setContentsMargins(12, 4, 12, 12);
     foot->addWidget(help_button(window));
     foot->addStretch(1);
     window.dress("bottone", -1, look.go_on, Qt::ToolButtonTextOnly);
     set_look(window.widget("bottone"), "look", "main");
     foot->addWidget(window.widget("bottone"));
-    all->addLayout(foot);
+    column->addLayout(foot);
+    column->addStretch(1);
+    all->addWidget(middle, 1);
 
     window.setMinimumSize(980, 0);
-    window.set_first_size(QSize(1180, 610));
+    window.set_first_size(QSize(1180, 560));
 }
 
 }  // namespace vantora::ui::desktop

@@ -35,7 +35,7 @@ line_rows::line_rows(form_window& window)
     for (QLabel*& label : numbers_) {
         label = new QLabel(&window);
         label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        label->setMinimumWidth(label->fontMetrics().horizontalAdvance("000") + 8);
+        label->setFixedWidth(label->fontMetrics().horizontalAdvance("000") + 8);
         label->setContentsMargins(0, 0, 5, 0);
         set_look(label, "role", "number");
     }

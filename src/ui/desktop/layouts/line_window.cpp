@@ -18,26 +18,23 @@ namespace vantora::ui::desktop {
 namespace {
 
 constexpr int rows = line_rows::count;
-constexpr int tallest_row = 48;        ///< dots
-constexpr int stock_characters = 140;  ///< the record number behind them is not for the eye
+constexpr int tallest_row = 48;         ///< dots
+constexpr int widest_description = 80;  ///< characters
+constexpr int frame_margin = 14;        ///< dots, as frames are drawn, with some room to spare
+constexpr int stock_characters = 140;   ///< the record number behind them is not for the eye
 
 struct column {
     const char* control;
-    const char* head;
-    int characters;  ///< width; 0 takes what is left
+    const char* head;  ///< empty: the column before has it for both
+    int characters;    ///< width; 0 takes what is left
     bool number;
 };
 
 constexpr column columns[] = {
-    {"artic", "Articolo", 11, false},
-    {"ds", "Descrizione", 0, false},
-    {"um", "U.m.", 2, false},
-    {"quantita", "Quantità", 8, true},
-    {"evaso", "Evaso", 7, true},
-    {"sc1", "Sconti", 2, true},
-    {"sc2", "", 2, true},
-    {"prezzo", "Prezzo", 9, true},
-    {"civ", "Iva", 1, false},
+    {"artic", "Articolo", 13, false},  // a bar code
+    {"ds", "Descrizione", 0, false},  {"um", "U.m.", 2, false},   {"quantita", "Quantità", 8, true},
+    {"evaso", "Evaso", 7, true},      {"sc1", "Sconti", 2, true}, {"sc2", "", 2, true},
+    {"prezzo", "Prezzo", 9, true},    {"civ", "Iva", 1, false},
 };
 
 QFrame* command_bar(form_window& window, const std::vector<line_command>& commands) {
@@ -60,17 +57,22 @@ QFrame* command_bar(form_window& window, const std::vector<line_command>& comman
 
 void add_column(form_window& window, line_rows& lines, QGridLayout* cells, const column& one) {
     const int at = cells->columnCount();
-    auto* head = new QLabel(QString::fromUtf8(one.head), &window);
-    set_look(head, "role", "faint");
-    head->setContentsMargins(5, 0, 5, 0);
-    if (one.number) head->setAlignment(Qt::AlignRight);
-    cells->addWidget(head, 0, at);
+    if (*one.head == '\0') {
+        cells->addWidget(cells->itemAtPosition(0, at - 1)->widget(), 0, at - 1, 1, 2);
+    } else {
+        auto* head = new QLabel(QString::fromUtf8(one.head), &window);
+        set_look(head, "role", "faint");
+        head->setContentsMargins(5, 0, 5, 0);
+        if (one.number) head->setAlignment(Qt::AlignRight);
+        cells->addWidget(head, 0, at);
+    }
     for (int row = 0; row < rows; ++row) {
         auto* cell = window.as<QLineEdit>(one.control, row);
         lines.add_cell(one.control, one.head, row, cell);
         set_look(cell, "column", one.control);
         if (one.number) cell->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        if (one.characters > 0) sized(cell, one.characters);
+        sized(cell, one.characters > 0 ? one.characters : widest_description);
+        if (one.characters == 0) cell->setMinimumWidth(0);
         cell->setMinimumHeight(cell->fontMetrics().height() + 6);
         cell->setSizePolicy(cell->sizePolicy().horizontalPolicy(), QSizePolicy::Expanding);
         cells->addWidget(cell, row + 1, at);
@@ -136,6 +138,8 @@ QGroupBox* line_frame(form_window& window) {
     cells->addWidget(bar, 1, cells->columnCount(), rows, 1);
     add_paging(window, *lines);
     add_line_keys(window, *lines);
+    table->setMaximumWidth(cells->totalMaximumSize().width());
+    box->setMaximumWidth(table->maximumWidth() + 2 * frame_margin);
 
     QShortcut* vat = add_key(window, "F4", words::vat_of_line);
     QObject::connect(vat, &QShortcut::activated, &window, [&window, lines] {
@@ -153,6 +157,7 @@ QGroupBox* line_frame(form_window& window) {
         new QLabel("Per cercare un articolo tramite la descrizione, inserirla e premere F1)", box);
     set_look(hint, "role", "faint");
     auto* all = new QVBoxLayout(box);
+    all->setContentsMargins(0, 0, 0, 0);
     all->addWidget(table, 1);
     all->addWidget(hint);
     all->addStretch(0);
@@ -162,6 +167,7 @@ QGroupBox* line_frame(form_window& window) {
 QGroupBox* list_frame(form_window& window) {
     auto* box = new QGroupBox("Lista articoli memorizzati in magazzino", &window);
     auto* column = new QVBoxLayout(box);
+    column->setContentsMargins(0, 0, 0, 0);
     auto* list = window.as<QListView>("List1");
     list->setFocusPolicy(Qt::ClickFocus);
     list->setItemDelegate(new article_entries(list));
@@ -287,8 +293,8 @@ void lay_out_line_window(form_window& window, const std::vector<line_command>& c
     middle->setHandleWidth(10);
     middle->addWidget(line_frame(window));
     middle->addWidget(list_frame(window));
-    middle->setStretchFactor(0, 19);
-    middle->setStretchFactor(1, 8);
+    middle->setStretchFactor(0, 3);
+    middle->setStretchFactor(1, 1);
     middle->setSizes({1000, 310});
     body->addWidget(middle, 1);
     body->addWidget(stock_line(window));

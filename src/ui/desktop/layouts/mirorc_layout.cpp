@@ -52,6 +52,7 @@ QFrame* command_bar(form_window& window) {
 QGroupBox* options(form_window& window, const char* title, const char* name, int count) {
     auto* box = new QGroupBox(QString::fromUtf8(title), &window);
     auto* column = new QVBoxLayout(box);
+    column->setContentsMargins(4, 0, 4, 0);
     column->setSpacing(3);
     for (int i = 0; i < count; ++i) column->addWidget(window.widget(name, i));
     column->addStretch(1);
@@ -79,6 +80,7 @@ QGroupBox* compaction(form_window& window) {
     auto* version = window.as<QLabel>("xx_versione");
     set_look(version, "role", "faint");
     auto* column = new QVBoxLayout(box);
+    column->setContentsMargins(4, 0, 4, 0);
     column->setSpacing(3);
     column->addWidget(text);
     auto* line = new QHBoxLayout;

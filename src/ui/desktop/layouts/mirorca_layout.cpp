@@ -23,7 +23,9 @@ QFrame* movement_bar(form_window& window) {
     line->addWidget(caption_of(day, "Data", bar));
     line->addWidget(day);
     line->addWidget(caption_of(document, "Documento", bar));
+    sized(document, 60)->setMinimumWidth(0);
     line->addWidget(document, 1);
+    line->addStretch(0);
     return bar;
 }
 

@@ -22,7 +22,8 @@ QLabel* caption_of(QWidget* field, const char* utf8, QWidget* parent) {
 }
 
 QWidget* sized(QWidget* field, int characters) {
-    field->setFixedWidth(field->fontMetrics().averageCharWidth() * (characters + 2) + 14);
+    constexpr int margins = 24;  // dots, with the cursor's
+    field->setFixedWidth(field->fontMetrics().horizontalAdvance('0') * characters + margins);
     return field;
 }
 

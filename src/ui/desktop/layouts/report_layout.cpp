@@ -94,7 +94,6 @@ void add_building(form_window& window, QHBoxLayout* row) {
 QHBoxLayout* filter_row(form_window& window, std::span<const filter_look> filters) {
     auto* row = new QHBoxLayout;
     row->setSpacing(10);
-    bool stretches = false;
     for (const filter_look& one : filters) {
         QWidget* field = window.widget(one.name, one.index);
         sized(field, one.width);
@@ -110,10 +109,10 @@ QHBoxLayout* filter_row(form_window& window, std::span<const filter_look> filter
         column->addWidget(above);
         column->addWidget(field);
         row->addLayout(column, one.stretch);
-        stretches = stretches || one.stretch > 0;
     }
     add_building(window, row);
-    if (!stretches) row->addStretch(1);
+    // Once the fields are as wide as they get.
+    row->addStretch(0);
     return row;
 }
 
