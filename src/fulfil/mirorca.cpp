@@ -7,6 +7,7 @@
 #include "fulfil/salva_ddt.h"
 #include "fulfil/unloading.h"
 #include "program/write_messages.h"
+#include "store/records/rec_mag.h"
 #include "store/text/dates.h"
 #include "store/text/int16.h"
 #include "store/text/number_text.h"
@@ -44,6 +45,8 @@ mirorca::mirorca(program& app) : line_grid(app, documento_trasporto) {
     add("text1", text1);
     add("Text", Text);
     add("testata", testata);
+    text1[0].accepts = ui::input_rule::text(decltype(rec_mag::documento)::width);
+    text1[1].accepts = ui::input_rule::text(decltype(rec_mag::movimento)::width);
     elenco.set_visible(false);
     elenco.set_columns(std::vector<ui::grid_column>(7));
     elenco.set_rows(righe_ordine::massimo);

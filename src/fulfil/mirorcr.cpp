@@ -40,6 +40,8 @@ mirorcr::mirorcr(program& app)
     add("Label1", Label1);
     add("segnate", segnate);
     quantita.set_visible(false);
+    quantita.accepts = ui::input_rule::number();
+    quantita.accepts.alone = '*';
     aggiorna.set_text("Aggiorna dati spedizione cliente");
     Label1[0].set_text(
         "Per evadere integralmente un ordine clic sul numero dell'ordine riportato nella colonna "

@@ -84,6 +84,10 @@ TEST_F(widgets, KeysGoToTheEventsFirstAndMayBeSwallowed) {
                                 QString::fromUtf8(typed), Qt::NoModifier);
         }
         EXPECT_EQ(screen->testo.text(), "è€ab"_cp) << "the cursor is the widget's business";
+        screen->altro.accepts = input_rule::number();
+        screen->altro.set_text("1.234,50");
+        QTest::keyClick(bench.find("altro"), Qt::Key_Return);
+        EXPECT_EQ(screen->altro.text(), "1234.50") << "the screen's own comma counts";
         screen->testo.set_text("da fuori");
         EXPECT_EQ(bench.find<QLineEdit>("testo")->text(), "da fuori");
     }});

@@ -184,6 +184,9 @@ void desktop_front_end::form_activated(form& which) {
     since_called_.start();
     window->raise();
     if (!window->isActiveWindow()) window->activateWindow();
+    // What stands in the field that had the focus is there to be typed over.
+    control* worked_on = desk_->focus();
+    if (worked_on && &worked_on->owner() == &which) window->select_text(*worked_on);
 }
 
 void desktop_front_end::focus_moved(control* to) {

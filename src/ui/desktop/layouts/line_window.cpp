@@ -20,6 +20,7 @@ namespace {
 constexpr int rows = line_rows::count;
 constexpr int tallest_row = 48;         ///< dots
 constexpr int widest_description = 80;  ///< characters
+constexpr int least_description = 180;  ///< dots
 constexpr int frame_margin = 14;        ///< dots, as frames are drawn, with some room to spare
 constexpr int stock_characters = 140;   ///< the record number behind them is not for the eye
 
@@ -72,7 +73,7 @@ void add_column(form_window& window, line_rows& lines, QGridLayout* cells, const
         set_look(cell, "column", one.control);
         if (one.number) cell->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         sized(cell, one.characters > 0 ? one.characters : widest_description);
-        if (one.characters == 0) cell->setMinimumWidth(0);
+        if (one.characters == 0) cell->setMinimumWidth(least_description);
         cell->setMinimumHeight(cell->fontMetrics().height() + 6);
         cell->setSizePolicy(cell->sizePolicy().horizontalPolicy(), QSizePolicy::Expanding);
         cells->addWidget(cell, row + 1, at);
@@ -293,9 +294,9 @@ void lay_out_line_window(form_window& window, const std::vector<line_command>& c
     middle->setHandleWidth(10);
     middle->addWidget(line_frame(window));
     middle->addWidget(list_frame(window));
-    middle->setStretchFactor(0, 3);
+    middle->setStretchFactor(0, 2);
     middle->setStretchFactor(1, 1);
-    middle->setSizes({1000, 310});
+    middle->setSizes({900, 410});
     body->addWidget(middle, 1);
     body->addWidget(stock_line(window));
     body->addLayout(foot_line(window, parts.totals));
