@@ -44,6 +44,7 @@ void print_rows(program& app, const descrizione_report& report, const ui::grid& 
 void print_on_paper(program& app, const descrizione_report& report, const ui::grid& elenco,
                     int righe) {
     ui::printer& paper = app.desk.printer();
+    paper.set_job_name(report.titolo);
     report_on_printer out(paper);
     print_rows(app, report, elenco, righe, out, uscita_report::stampante);
     paper.end_job();
