@@ -40,20 +40,6 @@ class text_box_binder final : public widget_binder {
     }
 
  private:
-    /// A number that the screen itself put in with a comma counts with its decimals too.
-    bool key_pressed(QKeyEvent& event) override {
-        const bool enters = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-        const bool number = model_.accepts.holds == input_rule::content::number;
-        if (enters && number && model_.text().find(',') != std::string::npos) {
-            act([&] {
-                if (const auto plain = model_.accepts.admit({}, model_.text())) {
-                    model_.set_text(*plain);
-                }
-            });
-        }
-        return widget_binder::key_pressed(event);
-    }
-
     void edited(const QString& text) {
         const QString kept = without_strange(text);
         behind_cursor_ = text.size() - edit_->cursorPosition();
@@ -99,7 +85,16 @@ class text_box_binder final : public widget_binder {
         return took;
     }
 
+    /// A number that the screen itself put in with a comma counts with its decimals too.
+    void take_own_comma() {
+        if (model_.accepts.holds != input_rule::content::number) return;
+        if (model_.text().find(',') == std::string::npos) return;
+        const auto plain = model_.accepts.admit({}, model_.text());
+        if (plain) act([&] { model_.set_text(*plain); });
+    }
+
     bool key_pressed(QKeyEvent& event) override {
+        if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) take_own_comma();
         if (event.matches(QKeySequence::Paste) && model_.on_paste_lines) {
             if (const auto lines = lines_on_clipboard()) {
                 act([&] { paste_lines(model_, *lines, edit_->window()); });
