@@ -1,25 +1,16 @@
-#include <gtest/gtest.h>
-
 #include <QCalendarWidget>
 #include <QDateEdit>
-#include <QLineEdit>
-#include <QMessageBox>
 #include <QScrollBar>
-#include <QTableView>
 
-#include "app/start.h"
 #include "customer/mirdata.h"
 #include "customer/mirorcx.h"
-#include "scripted/small_company.h"
-#include "store/drive.h"
-#include "ui/pictures/pixbuf_decoder.h"
-#include "window_bench.h"
+#include "program_window.h"
 
 namespace vantora::ui::desktop {
 namespace {
 
 /// A new order over three customers, the register already left.
-class customer_window : public testing::Test {
+class customer_window : public test::program_window {
  protected:
     customer_window() {
         using vantora::test::customer_named;
@@ -28,15 +19,8 @@ class customer_window : public testing::Test {
     }
     void run(std::vector<std::function<void()>> steps) {
         steps.insert(steps.begin(), [this] { bench.press_button("bottone(2)"); });
-        bench.run([this] { start(app, "ordini001"); }, std::move(steps));
+        program_window::run(std::move(steps));
     }
-    QString text(const char* address) { return bench.find<QLineEdit>(address)->text(); }
-
-    vantora::test::small_company company;
-    drive files{company.drive()};
-    test::window_bench bench;
-    ui::pixbuf_decoder pictures;
-    program app{files, bench.desk, pictures};
 };
 
 TEST_F(customer_window, TheCursorAndTheSearchMoveTogether) {
@@ -66,26 +50,25 @@ TEST_F(customer_window, ARowOfTheListIsTakenByAClick) {
          },
          [&] {
              EXPECT_EQ(text("selnome"), "ta");
-             auto* table = bench.find<QTableView>("elenco");
-             EXPECT_TRUE(table->isColumnHidden(5));
-             const QRect cell = table->visualRect(table->model()->index(0, 2));
-             QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, cell.center());
+             EXPECT_EQ(bench.front.front_window()->windowModality(), Qt::ApplicationModal);
+             EXPECT_TRUE(table()->isColumnHidden(5));
+             click_cell(0, 2);
          },
          [&] {
-             EXPECT_EQ(bench.front.front_window()->objectName(), "mirorcx");
+             EXPECT_EQ(front(), "mirorcx");
              EXPECT_EQ(text("Text2(0)"), "Zeta");
              bench.press_button("b_lista");
          },
          [&] {
-             EXPECT_EQ(bench.front.front_window()->objectName(), "mirsel");
+             EXPECT_EQ(front(), "mirsel");
              bench.front.front_window()->close();
          },
          [&] {
-             EXPECT_EQ(bench.front.front_window()->objectName(), "mirorcx");
+             EXPECT_EQ(front(), "mirorcx");
              bench.front.front_window()->close();
          },
          [&] {
-             EXPECT_EQ(bench.front.front_window()->objectName(), "mirorc");
+             EXPECT_EQ(front(), "mirorc");
              EXPECT_FALSE(app.mirorcx.loaded());
          }});
 }
@@ -105,10 +88,9 @@ TEST_F(customer_window, TypedAndPickedDatesKeepInStep) {
              bench.press_button("bottone");
          },
          [&] {
-             auto* box = qobject_cast<QMessageBox*>(bench.front.front_window());
-             ASSERT_TRUE(box);
-             EXPECT_EQ(box->text(), "La data dell'ordine non è corretta");
-             QTest::keyClick(box, Qt::Key_Return);
+             ASSERT_TRUE(box());
+             EXPECT_EQ(box()->text(), "La data dell'ordine non è corretta");
+             QTest::keyClick(box(), Qt::Key_Return);
          },
          [&] { EXPECT_TRUE(bench.find("Text3(1)")->hasFocus()); }});
 }

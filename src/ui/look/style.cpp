@@ -148,8 +148,12 @@ QScrollBar::down-arrow { image: url(:/icons/giu.svg); width: 11px; height: 11px;
 QScrollBar::up-arrow { image: url(:/icons/su.svg); width: 11px; height: 11px; }
 QScrollBar::right-arrow { image: url(:/icons/avanti.svg); width: 11px; height: 11px; }
 QScrollBar::left-arrow { image: url(:/icons/indietro.svg); width: 11px; height: 11px; }
-QSplitter::handle { background: #808d99; margin: 120px 4px; border-radius: 1px; }
-QSplitter::handle:hover { background: #2f6ea5; }
+QSplitter::handle { margin: 120px 0; background: qlineargradient(x1:0, x2:1,
+                    stop:0.39 transparent, stop:0.4 #808d99, stop:0.6 #808d99,
+                    stop:0.61 transparent); }
+QSplitter::handle:hover { background: qlineargradient(x1:0, x2:1,
+                    stop:0.29 transparent, stop:0.3 #2f6ea5, stop:0.7 #2f6ea5,
+                    stop:0.71 transparent); }
 QProgressBar { border: 1px solid #808d99; border-radius: 4px; text-align: center;
                background: white; }
 QProgressBar::chunk { background: #5e97c5; border-radius: 3px; }

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QTableView>
+
+#include "app/start.h"
+#include "scripted/small_company.h"
+#include "store/drive.h"
+#include "support/faulty_files.h"
+#include "ui/pictures/pixbuf_decoder.h"
+#include "window_bench.h"
+
+namespace vantora::ui::desktop::test {
+
+/// The whole program in its windows, on a small company.
+class program_window : public testing::Test {
+ protected:
+    void run(std::vector<std::function<void()>> steps) {
+        bench.run([this] { start(app, "ordini001"); }, std::move(steps));
+    }
+    std::string front() { return bench.front.front_window()->objectName().toStdString(); }
+    QMessageBox* box() { return qobject_cast<QMessageBox*>(bench.front.front_window()); }
+    QTableView* table() { return bench.find<QTableView>("elenco"); }
+    std::string text(const char* address) {
+        return bench.find<QLineEdit>(address)->text().toStdString();
+    }
+    void click_cell(int row, int col) {
+        const QRect cell = table()->visualRect(table()->model()->index(row, col));
+        QTest::mouseClick(table()->viewport(), Qt::LeftButton, {}, cell.center());
+    }
+
+    vantora::test::small_company company;
+    drive files{company.drive()};
+    vantora::test::faulty_files disk{files};
+    window_bench bench;
+    ui::pixbuf_decoder pictures;
+    program app{disk, bench.desk, pictures};
+};
+
+}  // namespace vantora::ui::desktop::test
