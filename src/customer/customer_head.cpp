@@ -147,7 +147,8 @@ void customer_head::found_at(std::int16_t position) {
 
 void customer_head::open_pick_list() {
     app_.selezione_cliente = kind_.caller;
-    app_.mirsel->selnome.set_text(nome.text());
+    app_.mirsel->selnome.set_text(kind_.trims_name ? trimmed(nome.text())
+                                                   : std::string_view(nome.text()));
     app_.mirsel->show_modal();
 }
 

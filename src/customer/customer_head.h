@@ -12,8 +12,9 @@ namespace vantora {
 struct customer_head_kind {
     const char* name;
     const char* title;
-    int caller;          ///< how the pick list knows it, in `selezione_cliente`
-    int date_fields[2];  ///< which of `Text3` stand beside the two date pickers
+    int caller;               ///< how the pick list knows it, in `selezione_cliente`
+    int date_fields[2];       ///< which of `Text3` stand beside the two date pickers
+    bool trims_name = false;  ///< before it goes to the pick list
 };
 
 /// A screen that finds a customer, shows it, and holds the head of a document in its controls:

@@ -5,6 +5,7 @@
 #include "program/vat_codes.h"
 #include "store/text/int16.h"
 #include "store/text/number_text.h"
+#include "ui/enter_key.h"
 #include "ui/errors.h"
 
 namespace vantora {
@@ -261,21 +262,12 @@ void line_grid::wire_cell_focus(int row) {
     civ[row].on_focus = [this, row] { open_vat_pick(row); };
     civ[row].on_key_press = [](ui::key_event& key) { key.swallow(); };
 
-    wire_enter(um[row], [this, row] { quantita[row].set_focus(); });
-    wire_enter(quantita[row],
-               [this, row] { (kind_.has_evaso ? evaso[row] : sc1[row]).set_focus(); });
-    wire_enter(evaso[row], [this, row] { sc1[row].set_focus(); });
-    wire_enter(sc1[row], [this, row] { sc2[row].set_focus(); });
-    wire_enter(sc2[row], [this, row] { prezzo[row].set_focus(); });
-    wire_enter(prezzo[row], [this, row] { go_to_next_row(row); });
-}
-
-void line_grid::wire_enter(ui::text_box& cell, std::function<void()> then) {
-    cell.on_key_press = [then = std::move(then)](ui::key_event& key) {
-        if (key.code != ui::key::enter) return;
-        key.swallow();
-        then();
-    };
+    ui::enter_moves(um[row], quantita[row]);
+    ui::enter_moves(quantita[row], kind_.has_evaso ? evaso[row] : sc1[row]);
+    ui::enter_moves(evaso[row], sc1[row]);
+    ui::enter_moves(sc1[row], sc2[row]);
+    ui::enter_moves(sc2[row], prezzo[row]);
+    ui::on_enter(prezzo[row], [this, row] { go_to_next_row(row); });
 }
 
 void line_grid::description_gains_focus(int row) {

@@ -106,7 +106,6 @@ class line_grid : public ui::form {
     /// What the cells of a row take from the keyboard: no number that a line can't hold, no text
     /// that its record would cut.
     void limit_hands(int row);
-    void wire_enter(ui::text_box& cell, std::function<void()> then);
     void wire_controls();
     void wire_lookup();
     void command_clicked(int command);

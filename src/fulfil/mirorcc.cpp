@@ -8,7 +8,7 @@ namespace vantora {
 namespace {
 
 constexpr customer_head_kind dati_trasporto{
-    "mirorcc", "Evasione ordini", elenco_clienti::da_mirorcc, {1, 4}};
+    "mirorcc", "Evasione ordini", elenco_clienti::da_mirorcc, {1, 4}, true};
 
 }  // namespace
 

@@ -2,6 +2,7 @@
 
 #include "store/text/number_text.h"
 #include "store/values.h"
+#include "ui/enter_key.h"
 
 namespace vantora {
 
@@ -55,11 +56,7 @@ mirorcr::mirorcr(program& app)
 
 void mirorcr::wire_events() {
     elenco.on_click = [this] { cell_clicked(); };
-    quantita.on_key_press = [this](ui::key_event& key) {
-        if (key.code != ui::key::enter) return;
-        key.swallow();
-        close_editor();
-    };
+    ui::on_enter(quantita, [this] { close_editor(); });
     bottone[0].on_click = [this] { close(); };
     bottone[1].on_click = [this] { checkeva(); };
 }
