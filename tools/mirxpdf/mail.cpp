@@ -1,12 +1,14 @@
 #include "mirxpdf/mail.h"
 
 #include <curl/curl.h>
+#include <sys/socket.h>
 
 #include <QDateTime>
 #include <QUrl>
 #include <QUuid>
 #include <algorithm>
 #include <array>
+#include <chrono>
 #include <map>
 #include <memory>
 
@@ -45,7 +47,29 @@ class text_list {
 
 constexpr long patience_to_connect = 30;  // seconds
 constexpr long patience_for_bytes = 30;   // seconds without any byte
-constexpr long patience_to_part = 2;      // seconds, once the mail has been taken
+constexpr std::chrono::seconds patience_in_all{patience_for_bytes + 2};
+
+/// When the server last said something, or took something of the mail. One that stalled is taken
+/// leave of, and would stall once more.
+struct pace {
+    std::chrono::steady_clock::time_point since = std::chrono::steady_clock::now();
+    bool heard = false;
+};
+
+int listen(CURL*, curl_infotype what, char*, std::size_t, void* to) {
+    auto& last = *static_cast<pace*>(to);
+    last.heard |= what == CURLINFO_HEADER_IN;
+    // Until then there are the stations of connecting.
+    const bool moves = !last.heard || what == CURLINFO_HEADER_IN || what == CURLINFO_DATA_OUT;
+    if (moves) last.since = std::chrono::steady_clock::now();
+    return 0;
+}
+
+/// Breaks off if not 0.
+int keep_pace(void* of, curl_off_t, curl_off_t, curl_off_t, curl_off_t) {
+    const auto silent = std::chrono::steady_clock::now() - static_cast<pace*>(of)->since;
+    return silent > patience_in_all ? 1 : 0;
+}
 
 std::string named(std::string text, const std::string& document) {
     constexpr std::string_view place = "{documento}";
@@ -184,6 +208,7 @@ std::optional<std::string> send_pdf(const mail_settings& settings,
     text_list headers;
     text_list receivers;
     message mail;
+    pace last;
     std::array<char, CURL_ERROR_SIZE> reason{};
     const session connection(curl_easy_init());
     if (!connection) return "la posta non si avvia";
@@ -199,9 +224,18 @@ std::optional<std::string> send_pdf(const mail_settings& settings,
     curl_easy_setopt(curl, CURLOPT_HTTPHEADER, headers.get());
     curl_easy_setopt(curl, CURLOPT_MIMEPOST, mail.get());
 
+    curl_easy_setopt(curl, CURLOPT_NOPROGRESS, 0L);
+    curl_easy_setopt(curl, CURLOPT_XFERINFODATA, &last);
+    curl_easy_setopt(curl, CURLOPT_XFERINFOFUNCTION, keep_pace);
+    curl_easy_setopt(curl, CURLOPT_VERBOSE, 1L);
+    curl_easy_setopt(curl, CURLOPT_DEBUGDATA, &last);
+    curl_easy_setopt(curl, CURLOPT_DEBUGFUNCTION, listen);
+
     const CURLcode done = curl_easy_perform(curl);
-    // The server has the mail or hasn't: how it takes the leave changes nothing.
-    curl_easy_setopt(curl, CURLOPT_SERVER_RESPONSE_TIMEOUT, patience_to_part);
+    // The server has the mail or hasn't: how it answers the leave, nobody waits for.
+    curl_socket_t socket = CURL_SOCKET_BAD;
+    curl_easy_getinfo(curl, CURLINFO_ACTIVESOCKET, &socket);
+    if (socket != CURL_SOCKET_BAD) ::shutdown(socket, SHUT_RD);
     if (done == CURLE_OK) return {};
     return explained(done, reason.data());
 }
