@@ -1,14 +1,16 @@
-// What the end of an order costs beyond the disk: saving 200 article lines, against the bare reads
-// and writes of the same records, and composing a document of ten pages, against writing the same
-// print file from memory.
+// What an order costs beyond the disk: saving 200 article lines, new or opened again, against the
+// bare reads and writes of the same records; opening such an order; and composing a document of ten
+// pages, against writing the same print file from memory.
 
 #include <cstring>
 #include <span>
 
 #include "bench/measure.h"
+#include "customer/mirorcm.h"
 #include "demo/company.h"
 #include "documents/print_file.h"
 #include "documents/printed_document.h"
+#include "entry/mirorcz.h"
 #include "entry/save_order.h"
 #include "entry/totals.h"
 #include "store/company.h"
@@ -79,6 +81,60 @@ void save_bench(program& app, const righe_ordine& lines, int rounds) {
             bare);
 }
 
+void edit_bench(program& app, const righe_ordine& lines, int rounds) {
+    testata_registrata head;
+    head.numero = "1";
+    head.impegno = true;
+    const auto save = [&] {
+        rec_orc row;
+        app.archives.orc.read(1, row);
+        rec_tot counter;
+        app.archives.tot.read(contatori::ordini, counter);
+        salva_ordine(app.archives, {{1, row}, counter, 300, true}, head, false, lines);
+    };
+    const auto bare = [&] {
+        rec_art article;
+        rec_orc row;
+        for (int number = 1; number <= righe_blocco; ++number) {
+            app.archives.orc.read(number, row);
+            for (int times = 0; times < 2; ++times) {
+                app.archives.art.read(number, article);
+                app.archives.art.write(number, article);
+            }
+            app.archives.orc.write(number, row);
+        }
+    };
+    compare("save of 200 changed lines", rounds, save, "bare reads and writes of its records",
+            bare);
+}
+
+void opening_bench(test::program_stage<>& bench, int rounds) {
+    program& app = bench.app;
+    bench.provide(app.mirorcz);
+    bench.provide(app.mirorcm);
+    app.selezione_1 = app.selezione_2 = std::int16_t{1};
+    app.parameters.gnr.usa_barcode = std::int16_t{1};  // the list of articles is no part of it
+    const auto bare = [&] {
+        std::vector<rec_orc> rows(righe_blocco);
+        app.archives.orc.read_block(1, rows);
+        rec_art article;
+        for (int number = 1; number <= righe_blocco; ++number) {
+            app.archives.art.read(number, article);
+        }
+        app.mirorcz->VScroll1.set_value(100);  // paints the twelve rows
+    };
+    compare(
+        "opening of 200 article lines", rounds, [&] { app.mirorcz->show(); },
+        "reads of block and articles, one painting", bare,
+        [&, fresh = false]() mutable {
+            // The yardstick paints what the work left.
+            fresh = !fresh;
+            if (!fresh) return;
+            app.mirorcz.use().unload();
+            app.mirorcz.use();
+        });
+}
+
 void document_bench(test::program_stage<>& bench, righe_ordine& lines, int rounds) {
     tabelle_documento tables;
     disegno background;
@@ -127,6 +183,8 @@ int run(int rounds) {
     files.tot = unflushed<rec_tot>(bench.files, "tot");
     righe_ordine lines = full_order(files.art);
     save_bench(bench.app, lines, rounds);
+    edit_bench(bench.app, lines, rounds);
+    opening_bench(bench, rounds);
     document_bench(bench, lines, rounds);
     return 0;
 }

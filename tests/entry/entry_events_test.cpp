@@ -19,7 +19,6 @@ class entry_events : public testing::Test {
         app.parameters.numero_azienda = 1;
         app.selezione_1 = 1;
         apri_archivi(app.archives, port_, 1);
-        desk.at_end = [this] { chiudi_archivi(app.archives); };
         app.mirorcx.made_by(desk, [this] { return std::make_unique<mirorcx>(app); });
         app.mirorcs.made_by(desk, [this] { return std::make_unique<mirorcs>(app); });
         app.mirorcs->show();
@@ -54,15 +53,6 @@ TEST_F(entry_events, AVatCellThatTakesTheFocusDuringAPickLeavesNoRowToGoTo) {
     EXPECT_TRUE(screen().Combo1.has_focus());
 }
 
-TEST_F(entry_events, TheListIsDeafWhileAPickIsUnderWay) {
-    screen().um[2].set_focus();
-    user.pending = [&] { screen().lookup().List1.pick(0); };
-    screen().lookup().List1.pick(1);
-    EXPECT_EQ(screen().artic[2].text(), "B");
-    screen().lookup().List1.pick(0);
-    EXPECT_EQ(screen().artic[2].text(), "A");
-}
-
 TEST_F(entry_events, TheStockLineIsReadOnceAndPricesEachTime) {
     screen().lookup().List1.pick(0);
     const std::string stock = screen().lookup().listx.text();
@@ -77,38 +67,6 @@ TEST_F(entry_events, TheStockLineIsReadOnceAndPricesEachTime) {
     screen().lookup().List1.pick(1);
     screen().um[0].set_focus();
     EXPECT_NE(screen().lookup().listx.text().find("Giacenza:99 "), std::string::npos);
-}
-
-TEST_F(entry_events, ComingBackFreshStartsTheOrderOver) {
-    const auto leave_and_come_back = [&](int modo_ordine) {
-        screen().lookup().List1.pick(0);
-        screen().VScroll1.set_value(30);
-        screen().hide();
-        app.modo_ordine = modo_ordine;
-        screen().show();
-    };
-    leave_and_come_back(99);
-    EXPECT_EQ(screen().VScroll1.value(), 30);
-    EXPECT_EQ(screen().tota[0].text(), "1 ");
-    // The lines out of sight go, too, and the totals with them.
-    screen().lookup().barcode.set_on(true);
-    screen().impegno.set_on(true);
-    leave_and_come_back(0);
-    EXPECT_EQ(screen().VScroll1.value(), 1);
-    EXPECT_EQ(screen().artic[0].text(), "");
-    EXPECT_EQ(screen().tota[0].text(), " ");
-    EXPECT_EQ(screen().tota[2].text(), "0 ");
-    EXPECT_FALSE(screen().lookup().barcode.on() || screen().impegno.on());
-    EXPECT_TRUE(screen().lookup().List1.enabled());
-    EXPECT_TRUE(screen().artic[0].has_focus());
-}
-
-TEST_F(entry_events, AFatalErrorIsToldAndClosesAllChannels) {
-    desk.dispatch([&] { screen().sc2[0].set_text("40000"); });
-    ASSERT_TRUE(desk.ended() && desk.ended()->fatal);
-    EXPECT_EQ(desk.ended()->message, "Errore di run-time '6': Overflow");
-    EXPECT_FALSE(app.archives.art.is_open() || app.archives.art_blocchi.is_open() ||
-                 app.archives.orc.is_open() || app.archives.tot.is_open());
 }
 
 }  // namespace

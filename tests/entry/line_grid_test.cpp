@@ -1,5 +1,4 @@
 #include <fstream>
-#include <functional>
 
 #include "entry/new_order.h"
 
@@ -8,13 +7,18 @@ namespace {
 
 class line_grid : public new_order {
  protected:
-    void general(const std::function<void(rec_gnr&)>& change) {
+    line_grid() {
+        company.articles({article("A", "Uno", 1)});
+        customer.sconto1 = 10;
+        customer.sconto2 = 5;
+    }
+    void general(int usa_barcode, const char* codice_iva_base) {
         rec_gnr record{};
-        std::ifstream(company.file("gnr"), std::ios::binary)
-            .read(reinterpret_cast<char*>(&record), sizeof record);
-        change(record);
-        std::ofstream(company.file("gnr"), std::ios::binary)
-            .write(reinterpret_cast<const char*>(&record), sizeof record);
+        std::fstream file(company.file("gnr"), std::ios::binary | std::ios::in | std::ios::out);
+        file.read(reinterpret_cast<char*>(&record), sizeof record);
+        record.usa_barcode = static_cast<std::int16_t>(usa_barcode);
+        record.codice_iva_base = codice_iva_base;
+        file.seekp(0).write(reinterpret_cast<const char*>(&record), sizeof record);
     }
 };
 
@@ -30,16 +34,13 @@ TEST_F(line_grid, OpensWithTheOptionsOfCompanyAndCustomer) {
         {"1", "1", "1", 0, 1, true},   {"0", "1", "0", 0, 0, false}, {"2", "1", "x", 1, 0, false},
         {" ", "0", "1", -1, 0, false}, {"1", "2", "1", 1, 1, false},
     };
-    company.articles({article("A", "Uno", 1)});
     for (const auto& one : cases) {
         customer.listino = one.listino;
         customer.invio_email = one.invio_email;
         std::vector<std::string> pdf(80);
         pdf[5 * 4 + 1] = one.mail_allowed;
         company.text("pdf", pdf);
-        general([&](rec_gnr& record) {
-            record.usa_barcode = static_cast<std::int16_t>(one.usa_barcode);
-        });
+        general(one.usa_barcode, "04");
         const bool codes = one.usa_barcode != 0;
         const auto state = [](const char* of, bool is) {
             return std::string(of) + (is ? "=true" : "=false");
@@ -52,130 +53,79 @@ TEST_F(line_grid, OpensWithTheOptionsOfCompanyAndCustomer) {
     }
 }
 
-TEST_F(line_grid, EnterInTheLastRowScrollsAsFarAsLine190) {
-    for (const auto& [before, after] :
-         {std::pair{1, 2}, {177, 178}, {178, 179}, {179, 179}, {189, 189}}) {
-        expect_after({scroll(before), "key mirorcs.prezzo(11) Enter"},
-                     {"focus=artic(11)", "VScroll1.value=" + std::to_string(after)});
-    }
-    expect_after({scroll(189), "key mirorcs.prezzo(10) Enter"}, {"focus=artic(11)"});
-}
-
-TEST_F(line_grid, LinesKeepWhatTheHeadOfATextSays) {
+TEST_F(line_grid, CellsFollowHandsKeysAndCommands) {
     const std::string long_text(70, 'x');
-    const struct {
-        const char* control;
-        std::string text;
-        std::string kept;
-    } cases[] = {
-        {"quantita(0)", " 1 2.50x", "12.5"},
-        {"prezzo(3)", "-7,25", "-7"},
-        {"prezzo(11)", "0.00", ""},
-        {"sc1(1)", "6.5", "6"},
-        {"sc2(1)", "32767.4", "32767"},
-        {"sc2(1)", "-32768.5", "-32768"},
-        {"um(4)", "pezzi", "pe"},
-        {"ds(4)", "  con rientro ", "con rientro"},
-        {"ds(4)", long_text, long_text.substr(0, 60)},
-        {"artic(5)", "non scelto", ""},
+    const auto repainted = [](script commands) {
+        commands.insert(commands.end(), {scroll(60), scroll(1)});
+        return commands;
     };
-    // What the cell shows after its line was painted anew.
-    for (const auto& one : cases) {
-        expect_after({set(one.control, one.text), scroll(60), scroll(1)},
-                     {one.control + ("=" + one.kept)});
-    }
-    for (const char* control : {"sc1(0)", "sc2(11)"}) {
-        EXPECT_EQ(run({set(control, "32767.5")}).front()["fatal"],
-                  "Errore di run-time '6': Overflow");
-    }
-}
-
-TEST_F(line_grid, TotalsFollowEveryNumberCell) {
-    expect_after({set("prezzo(0)", "10"), set("quantita(0)", "3"), set("sc1(0)", "10"),
-                  set("sc2(0)", "5"), set("prezzo(2)", "1234.5")},
-                 {"tota(0)=1.260,15 ", "tota(1)=1.537,38 ", "tota(2)=3 "});
-    EXPECT_EQ(run({set("prezzo(0)", "1E300"), set("quantita(0)", "1E200")})[1]["ended"], "fatal");
-    // What falls off the end leaves the totals until the next number.
+    const script priced = {set("prezzo(2)", "100"), "focus mirorcs.civ(2)"};
+    const script picked = {"focus mirorcs.civ(3)", scroll(6), "pick mirorcs.Combo1 4"};
     const script fallen = {scroll(189), set("prezzo(11)", "5"), set("prezzo(10)", "7"),
                            scroll(1),   "focus mirorcs.um(0)",  "click mirorcs.comando(2)"};
-    expect_after(fallen, {"tota(0)=12,00 "});
-    expect_after(together({fallen, {set("quantita(0)", "1"), scroll(189)}}),
-                 {"tota(0)=7,00 ", "prezzo(11)=7", "prezzo(10)="});
-}
-
-TEST_F(line_grid, TheCustomersDiscountsComeWithTheFocusOfTheFirst) {
-    customer.sconto1 = 10;
-    customer.sconto2 = 5;
+    const script inserted = {
+        set("ds(0)", "uno"),   set("prezzo(0)", "1"), set("ds(1)", "due"),
+        set("prezzo(1)", "2"), set("ds(2)", "tre"),   set("prezzo(2)", "3"),
+        set("artic(0)", "a"),  "focus mirorcs.um(1)", "click mirorcs.comando(2)"};
     const struct {
         script commands;
-        script both;
+        script shown;
     } cases[] = {
-        {{set("sc2(0)", "7"), "focus mirorcs.sc1(0)"}, {"sc1(0)=10", "sc2(0)=5"}},
+        // What a line keeps of a text shows when it is painted anew.
+        {repainted({set("quantita(0)", " 1 2.50x")}), {"quantita(0)=12.5"}},
+        {repainted({set("prezzo(3)", "-7,25")}), {"prezzo(3)=-7"}},
+        {repainted({set("prezzo(11)", "0.00")}), {"prezzo(11)="}},
+        {repainted({set("sc1(1)", "6.5"), set("sc2(1)", "32767.4")}), {"sc1(1)=6", "sc2(1)=32767"}},
+        {repainted({set("sc2(1)", "-32768.5")}), {"sc2(1)=-32768"}},
+        {repainted({set("um(4)", "pezzi"), set("ds(4)", "  con rientro ")}),
+         {"um(4)=pe", "ds(4)=con rientro"}},
+        {repainted({set("ds(4)", long_text)}), {"ds(4)=" + long_text.substr(0, 60)}},
+        {repainted({set("artic(5)", "non scelto")}), {"artic(5)="}},
+        // Enter in the last row scrolls as far as line 190.
+        {{"key mirorcs.prezzo(11) Enter"}, {"focus=artic(11)", "VScroll1.value=2"}},
+        {{scroll(178), "key mirorcs.prezzo(11) Enter"}, {"VScroll1.value=179"}},
+        {{scroll(179), "key mirorcs.prezzo(11) Enter"}, {"VScroll1.value=179"}},
+        {{scroll(189), "key mirorcs.prezzo(10) Enter"}, {"focus=artic(11)", "VScroll1.value=189"}},
+        // Totals follow every cell; what falls off the end leaves them until the next number.
+        {{set("prezzo(0)", "10"), set("quantita(0)", "3"), set("sc1(0)", "10"), set("sc2(0)", "5"),
+          set("prezzo(2)", "1234.5")},
+         {"tota(0)=1.260,15 ", "tota(1)=1.537,38 ", "tota(2)=3 "}},
+        {fallen, {"tota(0)=12,00 "}},
+        {together({fallen, {set("quantita(0)", "1"), scroll(189)}}),
+         {"tota(0)=7,00 ", "prezzo(11)=7", "prezzo(10)="}},
+        // The customer's discounts come with the focus of the first.
+        {{set("sc2(0)", "7"), "focus mirorcs.sc1(0)", scroll(9), scroll(1)},
+         {"sc1(0)=10", "sc2(0)=5"}},
         {{set("sc1(0)", "3"), set("sc2(0)", "7"), "focus mirorcs.sc1(0)"},
          {"sc1(0)=3", "sc2(0)=7"}},
         {{set("sc1(0)", "0"), "focus mirorcs.um(0)"}, {"sc1(0)=", "sc2(0)=5"}},
         {{set("sc1(0)", "0x"), set("sc2(0)", "0.0"), "focus mirorcs.um(0)"},
          {"sc1(0)=", "sc2(0)="}},
-        // The line has them, too: they show again when it is painted anew.
-        {{"focus mirorcs.sc1(0)", scroll(9), scroll(1)}, {"sc1(0)=10", "sc2(0)=5"}},
+        // A VAT pick takes one key; code 5 has no rate. A blank cell stands for code 1.
+        {priced, {"focus=Combo1", "Combo1.visible=true", "Combo1.index=3"}},
+        {together({priced, {"key mirorcs.Combo1 Down"}}),
+         {"focus=prezzo(2)", "civ(2)=05", "Combo1.visible=false", "tota(1)=100,00 "}},
+        {{"focus mirorcs.civ(0)", "pick mirorcs.Combo1 0"}, {"civ(0)=01"}},
+        {{"type mirorcs.civ(0) \"7\"", "key mirorcs.civ(1) Enter", "focus mirorcs.um(0)"},
+         {"row(0)=|||||||", "Combo1.visible=false"}},
+        {repainted({set("civ(0)", "07"), scroll(5), "focus mirorcs.um(0)"}), {"row(0)=|||||||"}},
+        // Behind a scroll it goes to the line of old and the row of the bar, if there is one.
+        {picked, {"focus=prezzo(6)", "civ(6)=05"}},
+        {together({picked, {scroll(1)}}), {"civ(3)=05", "civ(6)=", "civ(11)="}},
+        {{picked[0], scroll(60), picked[2], scroll(1)}, {"civ(3)=05", "Combo1.visible=false"}},
+        // Behind the VAT cell the line's number stands for the row.
+        {{set("ds(3)", "quattro"), set("ds(4)", "cinque"), "focus mirorcs.civ(3)",
+          "click mirorcs.comando(2)"},
+         {"ds(3)=quattro", "ds(4)=", "ds(5)=cinque"}},
+        // Rows above the one inserted aren't painted.
+        {inserted,
+         {"artic(0)=a", "row(1)=|||||||", "row(2)=|due|||||2|04", "row(3)=|tre|||||3|04",
+          "tota(0)=6,00 "}},
+        {together({inserted, {"focus mirorcs.um(2)", "click mirorcs.comando(3)"}}),
+         {"ds(2)=tre", "tota(0)=4,00 ", "focus=artic(2)"}},
     };
-    for (const auto& one : cases) expect_after(one.commands, one.both);
-}
+    for (const auto& one : cases) expect_after(one.commands, one.shown);
 
-TEST_F(line_grid, APriceBringsAVatCodeToALineWithout) {
-    const script picked = {"focus mirorcs.civ(1)", "pick mirorcs.Combo1 13", set("prezzo(1)", "3")};
-    const struct {
-        int own;
-        const char* base;
-        script commands;
-        const char* shown;
-        const char* painted;
-    } cases[] = {
-        {0, "04", {set("prezzo(1)", "10")}, "04", "04"},
-        {25, "9 ", {set("prezzo(1)", "10")}, "9 ", "09"},
-        {24, "04", {set("prezzo(1)", "-1")}, "24", "24"},
-        {0, "04", {set("prezzo(1)", "1"), set("prezzo(1)", "0")}, "04", "04"},
-        {7, "04", picked, "14", "14"},
-    };
-    for (const auto& one : cases) {
-        customer.iva_cliente = static_cast<std::int16_t>(one.own);
-        general([&](rec_gnr& record) { record.codice_iva_base = one.base; });
-        expect_after(one.commands, {std::string("civ(1)=") + one.shown});
-        expect_after(together({one.commands, {scroll(50), scroll(1)}}),
-                     {std::string("civ(1)=") + one.painted});
-    }
-}
-
-TEST_F(line_grid, AVatPickTakesOneKey) {
-    const script open = {set("prezzo(2)", "100"), "focus mirorcs.civ(2)"};
-    expect_after(open, {"focus=Combo1", "Combo1.visible=true", "Combo1.index=3"});
-    // Code 5 has no rate.
-    expect_after(together({open, {"key mirorcs.Combo1 Down"}}),
-                 {"focus=prezzo(2)", "civ(2)=05", "Combo1.visible=false", "tota(1)=100,00 "});
-    // The entry that is chosen already counts as well, a blank cell stands for code 1.
-    expect_after({"focus mirorcs.civ(0)", "pick mirorcs.Combo1 0"}, {"civ(0)=01"});
-    // Opening, typing and leaving change nothing.
-    for (const script& nothing :
-         {script{"type mirorcs.civ(0) \"7\"", "key mirorcs.civ(1) Enter", "focus mirorcs.um(0)"},
-          script{set("civ(0)", "07"), scroll(5), "focus mirorcs.um(0)", scroll(1)}}) {
-        expect_after(nothing, {"row(0)=|||||||", "Combo1.visible=false"});
-    }
-}
-
-TEST_F(line_grid, AVatPickBehindAScrollGoesToTheLineOfOldAndTheRowOfTheBar) {
-    const script picked = {"focus mirorcs.civ(3)", scroll(6), "pick mirorcs.Combo1 4"};
-    expect_after(picked, {"focus=prezzo(6)", "civ(6)=05"});
-    expect_after(together({picked, {scroll(1)}}), {"civ(3)=05", "civ(6)=", "civ(11)="});
-    // No row has that number: the line alone takes the code.
-    expect_after({picked[0], scroll(60), picked[2], scroll(1)},
-                 {"civ(3)=05", "Combo1.visible=false"});
-}
-
-TEST_F(line_grid, BehindTheVatCellTheLineNumberStandsForTheRow) {
-    company.articles({article("A", "Uno", 1)});
-    expect_after({set("ds(3)", "quattro"), set("ds(4)", "cinque"), "focus mirorcs.civ(3)",
-                  "click mirorcs.comando(2)"},
-                 {"ds(3)=quattro", "ds(4)=", "ds(5)=cinque"});
     // Line 12 is the row behind the last: nothing happens.
     for (const char* command :
          {"click mirorcs.comando(2)", "click mirorcs.comando(3)", "pick mirorcs.List1 0"}) {
@@ -187,18 +137,39 @@ TEST_F(line_grid, BehindTheVatCellTheLineNumberStandsForTheRow) {
                                 "click mirorcs.barcode"}}),
                      {"focus=artic(0)"});
     }
+    for (const script& fatal :
+         {script{set("sc1(0)", "32767.5")}, script{set("sc2(11)", "32767.5")},
+          script{set("prezzo(0)", "1E300"), set("quantita(0)", "1E200"), "screens"}}) {
+        EXPECT_EQ(run(fatal).at(fatal.size() > 1 ? 1 : 0)["fatal"],
+                  "Errore di run-time '6': Overflow");
+    }
 }
 
-TEST_F(line_grid, InsertAndDeleteWorkOnTheRowLastInFocus) {
-    const script inserted = {
-        set("ds(0)", "uno"),   set("prezzo(0)", "1"), set("ds(1)", "due"),
-        set("prezzo(1)", "2"), set("ds(2)", "tre"),   set("prezzo(2)", "3"),
-        set("artic(0)", "a"),  "focus mirorcs.um(1)", "click mirorcs.comando(2)"};
-    // Rows above aren't painted.
-    expect_after(inserted, {"artic(0)=a", "row(1)=|||||||", "row(2)=|due|||||2|04",
-                            "row(3)=|tre|||||3|04", "tota(0)=6,00 "});
-    expect_after(together({inserted, {"focus mirorcs.um(2)", "click mirorcs.comando(3)"}}),
-                 {"ds(2)=tre", "tota(0)=4,00 ", "focus=artic(2)"});
+TEST_F(line_grid, APriceBringsAVatCodeToALineWithout) {
+    const struct {
+        int own;
+        const char* base;
+        script commands;
+        const char* shown;
+        const char* painted;
+    } cases[] = {
+        {0, "04", {set("prezzo(1)", "10")}, "04", "04"},
+        {25, "9 ", {set("prezzo(1)", "10")}, "9 ", "09"},
+        {24, "04", {set("prezzo(1)", "-1")}, "24", "24"},
+        {0, "04", {set("prezzo(1)", "1"), set("prezzo(1)", "0")}, "04", "04"},
+        {7,
+         "04",
+         {"focus mirorcs.civ(1)", "pick mirorcs.Combo1 13", set("prezzo(1)", "3")},
+         "14",
+         "14"},
+    };
+    for (const auto& one : cases) {
+        customer.iva_cliente = static_cast<std::int16_t>(one.own);
+        general(0, one.base);
+        expect_after(one.commands, {std::string("civ(1)=") + one.shown});
+        expect_after(together({one.commands, {scroll(50), scroll(1)}}),
+                     {std::string("civ(1)=") + one.painted});
+    }
 }
 
 }  // namespace

@@ -1,50 +1,15 @@
 #include <gtest/gtest.h>
 
-#include <fstream>
 #include <thread>
 
-#include "archive/check.h"
-#include "customer/mirorcx.h"
-#include "entry/mirorcs.h"
-#include "entry/mirorcz.h"
-#include "register/mirorc.h"
-#include "scripted/order_company.h"
-#include "scripted/station.h"
+#include "entry/order_station.h"
+#include "scripted/problems.h"
 
 namespace vantora::test {
 namespace {
 
-/// A station at which the orders of a company are worked on.
-struct order_station : station {
-    explicit order_station(const small_company& company) : station(company.drive()) {
-        front.decide = [this] { return front.told.back() == "Confermi?"; };
-        run();
-    }
-    void compact() {
-        desk.dispatch([this] { app.mirorc->srtt[0].click(); });
-    }
-    void open(int row) {
-        desk.dispatch([&] { app.mirorc->elenco.click_cell(row, 0); });
-    }
-    /// Takes a new order of customer 1: two pieces of article 1.
-    void take_order() {
-        desk.dispatch([this] {
-            app.mirorc->bottone[2].click();
-            app.mirorcx->bottone.click();
-            app.mirorcs->lookup().List1.pick(0);
-            app.mirorcs->quantita[0].set_text("2");
-            app.mirorcs->comando[1].click();
-        });
-    }
-};
-
 std::string contents(const small_company& company) {
-    std::string all;
-    for (const char* file : {"orc", "art", "tot"}) {
-        std::ifstream in(company.file(file), std::ios::binary);
-        all.append(std::istreambuf_iterator<char>(in), {});
-    }
-    return all;
+    return content(company, "orc") + content(company, "art") + content(company, "tot");
 }
 
 void change_head(order_company& company, int block) {
@@ -80,28 +45,25 @@ TEST(stations, AnOrderIsNotWrittenOverTheOneThatACompactionPutIntoItsBlock) {
             company.set_row(2, 1, gone);
             order_station here(company);
             order_station there(company);
-            here.open(one.opened);
-            mirorcz& screen = *here.app.mirorcz;
+            mirorcz& screen = here.open(one.opened);
             screen.ds[0].set_text("a mano");
             if ((one.there & compacts) != 0) there.compact();
             if ((one.there & takes_order) != 0) there.take_order();
             if ((one.there & changes_head) != 0) change_head(company, one.opened);
 
             const std::string before = contents(company);
-            here.front.told.clear();
-            here.front.decide = [&] { return here.front.told.back() == "Sei proprio sicuro?"; };
-            here.desk.dispatch([&] { screen.comando[deletes ? 6 : 1].click(); });
+            deletes ? here.delete_opened() : here.save_opened();
             SCOPED_TRACE(std::to_string(one.opened) + " " + std::to_string(one.there));
             if (one.moved) {
                 EXPECT_EQ(contents(company), before);
                 EXPECT_TRUE(
                     here.front.told.back().starts_with("Un'altra postazione ha compattato"));
-                EXPECT_EQ(here.desk.active(), &screen);
+                EXPECT_EQ(here.active(), "mirorcz");
                 EXPECT_EQ(screen.ds[0].text(), "a mano");
                 continue;
             }
             const rec_orc row = company.row_now(one.opened, 1);
-            EXPECT_EQ(here.desk.active()->name(), "mirorc");
+            EXPECT_EQ(here.active(), "mirorc");
             EXPECT_EQ(row.annullato, deletes ? 1 : 0);
             EXPECT_EQ(row.descrizione.trimmed(), deletes ? "merce" : "a mano");
         }
@@ -114,14 +76,7 @@ void expect_sound(order_company& company, int orders) {
     for (int block = 1; block <= orders; ++block) {
         EXPECT_EQ(company.row_now(block, 1).annullato, 0) << block;
     }
-    archive::company_files files(company.drive(), 1);
-    archive::findings all;
-    archive::open_quantities open(1);
-    archive::check_orders(files, open, all);
-    archive::check_stock(files, open, all);
-    for (const auto& one : all) {
-        if (one.how_bad != archive::gravity::note) ADD_FAILURE() << in_one_line(one);
-    }
+    EXPECT_EQ(problems(company), "");
 }
 
 /// Two stations do something at once, on disks that take their time.

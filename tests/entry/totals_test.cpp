@@ -47,30 +47,6 @@ righe_ordine order_of(const std::vector<amounts>& all) {
     return lines;
 }
 
-TEST(calcola_totali, AmountsComputedByHand) {
-    const struct {
-        const char* what;
-        bool euro;
-        std::vector<amounts> lines;
-        double imponibile, totale, pezzi;
-    } cases[] = {
-        {"discounts cascade", true, {{3, 10, 10, 5, 2}}, 25.65, 30.78, 3},
-        {"VAT in lire rounds up", false, {{1, 1001, 0, 0, 2}}, 1001, 1202, 1},
-        {"a discount in lire doesn't", false, {{1, 1001, 10, 0, 2}}, 901, 1082, 1},
-        {"price that counts once", true, {{-9999, 100, 0, 0, 14}}, 100, 100, 0},
-        {"codes out of range count at 1", true, {{1, 100, 0, 0, 0}}, 100, 104, 1},
-        // 0.06 at 10% is 0.01 for each line, but 0.02 on the sum of two.
-        {"VAT on the sum", true, {{1, 0.056, 0, 0, 6}, {1, 0.056, 0, 0, 6}}, 0.12, 0.13, 2},
-        {"from .49 upward rounds up in lire", false, {{1, 10.49, 0, 0, 14}}, 11, 11, 1},
-    };
-    for (const auto& one : cases) {
-        const auto sums = calcola_totali(order_of(one.lines), rates(), currency(one.euro));
-        EXPECT_NEAR(sums.imponibile, one.imponibile, 1e-9) << one.what;
-        EXPECT_NEAR(sums.totale, one.totale, 1e-9) << one.what;
-        EXPECT_NEAR(sums.pezzi, one.pezzi, 1e-9) << one.what;
-    }
-}
-
 /// The sums, step by step.
 struct plain_sums {
     double taxed[25] = {};

@@ -10,7 +10,9 @@
 #include "app/start.h"
 #include "archive/check.h"
 #include "demo/company.h"
+#include "entry/save_order.h"
 #include "fuzz/fuzz_driver.h"
+#include "register/compattazione.h"
 #include "register/mirorc.h"
 #include "store/drive.h"
 #include "support/scratch_folder.h"
@@ -38,22 +40,65 @@ class choices {
     std::size_t at_ = 0;
 };
 
-constexpr std::string_view usual_texts[] = {
-    "",           "1", "0", "12",   "1,5", "1.234,56", "31/12/2024",
-    "12/31/2024", "a", "s", "tubo", "010", "  ",       "riga libera"};
-constexpr std::string_view odd_texts[] = {
+/// The last ones are odd, and rarely typed.
+constexpr std::string_view typed_texts[] = {
+    "",
+    "1",
+    "0",
+    "12",
+    "1,5",
+    "1.234,56",
+    "31/12/2024",
+    "12/31/2024",
+    "a",
+    "s",
+    "tubo",
+    "010",
+    "  ",
+    "riga libera",
     "-3",
     "1E308",
     "99999",
     "-32769",
-    "1/1/",
     "\xFF\x81\x80",
     "una descrizione che \xE8 pi\xF9 lunga dei cinquanta caratteri di un campo, e di molto"};
+constexpr std::size_t usual_texts = 14;
+
+/// Another station, which now and then compacts the archive or takes an order; never while the
+/// program keeps it out.
+class other_station {
+ public:
+    explicit other_station(const std::filesystem::path& root) : drive_(root) {
+        apri_archivi(files_, drive_, 1);
+    }
+    void act(choices& by) {
+        constexpr std::chrono::milliseconds at_once{0};
+        if (by.below(2) == 0) return take_order();
+        const instance_lock alone(files_.tot, instance_lock::kind::compaction, at_once);
+        rec_tot counter;
+        if (alone.result() != instance_lock::outcome::held) return;
+        if (!files_.tot.read(contatori::ordini, counter)) return;
+        compatta_archivio(files_, counter, by.below(2) == 0, [](int) {});
+    }
+
+ private:
+    void take_order() {
+        if (files_.tot.shared_file()->locked_elsewhere(program_lock::counters)) return;
+        righe_ordine lines;
+        lines[1].articolo = 2;
+        lines[1].quantita = 3;
+        const testata_registrata head{"77", "01/02/2024", "03/02/2024", 1, {}, true};
+        salva_nuovo_ordine(files_, head, 45323, lines, 12);
+    }
+
+    drive drive_;
+    archivi files_;
+};
 
 /// Does one thing after the other on whatever screen is active, until the choices are over.
 class restless_user final : public ui::front_end {
  public:
-    restless_user(choices& by) : choices_(by) {}
+    restless_user(choices& by, other_station& other) : choices_(by), other_(other) {}
     ui::desk* desk = nullptr;
 
     void run_until(const std::function<bool()>& done) override {
@@ -68,6 +113,7 @@ class restless_user final : public ui::front_end {
 
  private:
     void act() {
+        if (choices_.below(60) == 1) other_.act(choices_);
         if (desk->open_box()) {
             constexpr ui::answer answers[] = {ui::answer::ok, ui::answer::yes, ui::answer::no};
             desk->answer_box(answers[choices_.below(3)]);
@@ -82,54 +128,52 @@ class restless_user final : public ui::front_end {
         desk->dispatch([&] { work(one); });
     }
 
+    template <class Control>
+    static Control& as(ui::control& one) {
+        return static_cast<Control&>(one);
+    }
+    int any(int limit) { return static_cast<int>(choices_.below(static_cast<std::size_t>(limit))); }
+
     void work(ui::control& one) {
+        using enum ui::control_kind;
         switch (one.kind()) {
-            case ui::control_kind::button:
-                return static_cast<ui::button&>(one).click();
-            case ui::control_kind::label:
-                return static_cast<ui::label&>(one).click();
-            case ui::control_kind::picture:
-                return static_cast<ui::picture&>(one).click();
-            case ui::control_kind::check_box:
-                return static_cast<ui::check_box&>(one).toggle();
-            case ui::control_kind::option_button:
-                return static_cast<ui::option_button&>(one).choose();
-            case ui::control_kind::list_box:
-            case ui::control_kind::drop_down: {
-                auto& list = static_cast<ui::list_control&>(one);
-                list.pick(static_cast<int>(choices_.below(static_cast<std::size_t>(list.count()))));
+            case button:
+                return as<ui::button>(one).click();
+            case label:
+                return as<ui::label>(one).click();
+            case picture:
+                return as<ui::picture>(one).click();
+            case check_box:
+                return as<ui::check_box>(one).toggle();
+            case option_button:
+                return as<ui::option_button>(one).choose();
+            case list_box:
+            case drop_down:
+                as<ui::list_control>(one).pick(any(as<ui::list_control>(one).count()));
+                return;
+            case scroll_bar:
+                as<ui::scroll_bar>(one).drag(as<ui::scroll_bar>(one).minimum() + any(250));
+                return;
+            case date_picker:
+                as<ui::date_picker>(one).choose({2024, 2, any(32)});
+                return;
+            case grid: {
+                auto& table = as<ui::grid>(one);
+                const int row = any(table.rows());
+                table.click_cell(row, any(table.cols()));
                 return;
             }
-            case ui::control_kind::scroll_bar: {
-                auto& bar = static_cast<ui::scroll_bar&>(one);
-                bar.drag(bar.minimum() + static_cast<int>(choices_.below(250)));
-                return;
-            }
-            case ui::control_kind::date_picker:
-                static_cast<ui::date_picker&>(one).choose(
-                    {2024, 2, static_cast<int>(choices_.below(32))});
-                return;
-            case ui::control_kind::grid: {
-                auto& table = static_cast<ui::grid&>(one);
-                const auto row = choices_.below(static_cast<std::size_t>(table.rows()));
-                const auto col = choices_.below(static_cast<std::size_t>(table.cols()));
-                table.click_cell(static_cast<int>(row), static_cast<int>(col));
-                return;
-            }
-            case ui::control_kind::text_box:
-                return type_into(static_cast<ui::text_box&>(one));
-            case ui::control_kind::progress_bar:
+            case text_box:
+                return type_into(as<ui::text_box>(one));
+            case progress_bar:
                 return;
         }
     }
 
     void type_into(ui::text_box& box) {
         box.set_focus();
-        if (choices_.below(40) == 1) {
-            box.set_text(odd_texts[choices_.below(std::size(odd_texts))]);
-        } else if (choices_.below(3) != 0) {
-            box.set_text(usual_texts[choices_.below(std::size(usual_texts))]);
-        }
+        const std::size_t texts = choices_.below(40) == 1 ? std::size(typed_texts) : usual_texts;
+        if (choices_.below(3) != 0) box.set_text(typed_texts[choices_.below(texts)]);
         constexpr std::pair<int, std::optional<char>> keys[] = {{ui::key::enter, '\r'},
                                                                 {ui::key::f1, {}},
                                                                 {ui::key::backspace, '\b'},
@@ -144,6 +188,7 @@ class restless_user final : public ui::front_end {
     }
 
     choices& choices_;
+    other_station& other_;
 };
 
 /// A small company with all its files, made once.
@@ -164,12 +209,11 @@ bool damage(const std::filesystem::path& drive, choices& by) {
         files.push_back(entry.path());
     }
     std::ranges::sort(files);
+    files.insert(files.end(), files.size() / 2, drive / company / "vantora.tot");
+    files.insert(files.end(), files.size() / 3, drive / company / "vantora.orc");
     const auto damages = by.below(6);
     for (auto count = damages; count > 0; --count) {
-        const std::filesystem::path paths[] = {files[by.below(files.size())],
-                                               drive / company / "vantora.tot",
-                                               drive / company / "vantora.orc"};
-        const auto& path = paths[by.below(std::size(paths))];
+        const auto& path = files[by.below(files.size())];
         const auto size = std::filesystem::file_size(path);
         const auto at = size == 0 ? 0 : (by.below(256) * 256 + by.below(256)) % size;
         if (by.below(8) == 1) {
@@ -208,7 +252,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const auto size_before = std::filesystem::file_size(orders);
 
     drive files(folder.path());
-    restless_user user(by);
+    other_station other(folder.path());
+    restless_user user(by, other);
     ui::local_clock time;
     time.stop_at({{2024, 5, 6}, 10, 20, 30});
     ui::script::recording_printer paper;

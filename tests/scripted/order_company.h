@@ -39,7 +39,7 @@ struct order_company : small_company {
         for (std::size_t i = 0; i < rows.size(); ++i) {
             rec_orc& row = rows[i];
             row.numero = std::to_string(block * 10);
-            row.data = "20240301";
+            row.data = row.data_evasione = "20240301";
             row.cliente = static_cast<std::int16_t>(customer);
             row.testo1 = "testo " + std::to_string(i + 1);
             row.descrizione = i < lines.size() ? lines[i].description : "";

@@ -205,6 +205,23 @@ TEST_F(parameters_test, HeadingLinesThatAreMissingStayEmpty) {
     EXPECT_EQ(loaded.intestazione_ditta[1], "") << "loading again rebuilds everything";
 }
 
+TEST_F(parameters_test, AFirstStartThatFailsIsMadeGoodByTheNext) {
+    for (const bool writes : {false, true}) {
+        test::faulty_files faults(port);
+        const auto refuses = [](auto&&...) { return true; };
+        if (writes) faults.write_fails = refuses;
+        if (!writes) faults.open_fails = refuses;
+        parametri loaded;
+        loaded.numero_azienda = 1;
+        carica_parametri(loaded, faults);
+        EXPECT_EQ(loaded.gnr.codice_iva_base.full(), "01");
+        EXPECT_EQ(loaded.gnr.formato_gnr.full(), "9");
+        load();
+        EXPECT_EQ(stored().formato_gnr.full(), "9");
+        std::filesystem::remove(company / "vantora.gnr");
+    }
+}
+
 TEST_F(parameters_test, WhatCantBeReadIsNeverWrittenOver) {
     rec_gnr others;
     others.riservato_bd = "di altri moduli";
