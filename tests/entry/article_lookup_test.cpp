@@ -30,45 +30,78 @@ class article_lookup : public new_order {
     std::vector<rec_art> articles;
 };
 
-TEST_F(article_lookup, OnlyWhatTheLastKeyFoundCounts) {
+TEST_F(article_lookup, ALineTakesWhatKeysBarCodesAndListFind) {
+    const script bar_codes = {"click mirorcs.barcode"};
+    const script nothing = {not_found, "focus=artic(0)", "ds(0)="};
+    const auto by_description = [](const std::string& text) {
+        return script{"type mirorcs.artic(5) \"AB\"", set("ds(3)", text), "key mirorcs.ds(3) F1"};
+    };
+    const script cut = together(
+        {enter(0, "ABC"), enter(1, "BULLONE"), {"focus mirorcs.ds(0)", "focus mirorcs.um(0)"}});
+    const script typed = {"type mirorcs.artic(2) \"B\""};
+    const script down = together({enter(0, "ABC"), {"key mirorcs.List1 Down"}});
+    const script list_off = {"focus mirorcs.um(4)", "click mirorcs.barcode"};
     const struct {
         script commands;
-        const char* code;  ///< what the line gets; null: nothing is found
+        script shown;
     } cases[] = {
-        {enter(0, "AB"), "ab"},
-        {enter(0, "ABC"), "ABC"},
-        {enter(0, "GONE"), nullptr},
+        {enter(0, "AB"), {"artic(0)=ab", "focus=quantita(0)", "box="}},
+        {enter(0, "ABC"), {"artic(0)=ABC"}},
+        {enter(0, "GONE"), nothing},
+        // Only what the last key found counts, not what another cell's keys did.
         {{"type mirorcs.artic(0) \"AB\"", "key mirorcs.artic(0) Backspace",
           "key mirorcs.artic(0) Enter"},
-         nullptr},
-        // A text that was pasted is looked up when the cell is come back to.
-        {{set("artic(0)", "ABC"), "key mirorcs.artic(0) Enter"}, nullptr},
-        {{set("artic(0)", " abc "), "focus mirorcs.um(0)", "key mirorcs.artic(0) Enter"}, "ABC"},
-        // What another cell's keys found doesn't count here.
+         nothing},
         {{"type mirorcs.artic(1) \"ABC\"", set("artic(0)", "zzz"), "key mirorcs.artic(0) Enter"},
-         nullptr},
+         nothing},
+        // A text that was pasted is looked up when the cell is come back to.
+        {{set("artic(0)", "ABC"), "key mirorcs.artic(0) Enter"}, nothing},
+        {{set("artic(0)", " abc "), "focus mirorcs.um(0)", "key mirorcs.artic(0) Enter"},
+         {"artic(0)=ABC"}},
         // The key joins the end of the text, blanks around it don't count.
-        {together({{set("artic(0)", " a ")}, enter(0, "b")}), "ab"},
+        {together({{set("artic(0)", " a ")}, enter(0, "b")}), {"artic(0)=ab"}},
+        // Picking again keeps quantity and discounts.
+        {together({enter(0, "ABC"),
+                   {set("quantita(0)", "3"), set("sc1(0)", "4"), set("prezzo(0)", "99"),
+                    "focus mirorcs.civ(0)", "pick mirorcs.Combo1 20", "click mirorcs.prezz(1)",
+                    "key mirorcs.artic(0) Enter"},
+                   enter(1, "ABC"),
+                   {"click mirorcs.prezz(0)"}}),
+         {"row(0)=ABC|Chiodo|PZ|3|4||3.5|04", "row(1)=ABC|Chiodo|PZ||||3.5|04"}},
+        // A click into the description cuts the article off; the line sorts behind the others.
+        {cut, {"row(0)=|Chiodo|PZ||||7|04"}},
+        {together({cut, {"focus mirorcs.um(1)", scroll(9), scroll(1), "click mirorcs.riordina"}}),
+         {"artic(0)=BULLONE", "ds(1)=Chiodo"}},
+        // The list follows the code and the focus; clicks and arrows pick.
+        {typed, {"List1.index=2", "List1.count=3"}},
+        {together({typed, {"pick mirorcs.List1 0"}}), {"focus=quantita(2)", "artic(2)=ab"}},
+        {down, {"artic(0)=BULLONE"}},
+        {together({down, {"focus mirorcs.artic(3)", "focus mirorcs.artic(0)"}}), {"List1.index=2"}},
+        {list_off, {"focus=artic(4)", "List1.enabled=false", "List1.count=3"}},
+        {together({list_off, {"click mirorcs.barcode"}}), {"List1.enabled=true"}},
+        // Bar codes have an index of their own; the line keeps them, and sorts by them.
+        {together({bar_codes, enter(0, "8001")}), {"ds(0)=Bullone zincato", "focus=quantita(0)"}},
+        {together({bar_codes, enter(0, "X03")}), {"ds(0)=Dado"}},
+        {together({bar_codes, enter(0, "8002")}), {not_found, "row(0)=8002|||||||"}},
+        {together({bar_codes, enter(0, "800")}), {not_found}},
+        {together({bar_codes, enter(0, "ABC")}), {not_found}},
+        {together({bar_codes, enter(0, "x03 "), enter(1, "8001"), {"click mirorcs.riordina"}}),
+         {"artic(0)=8001", "artic(1)=x03"}},
+        // F1 takes the first description that begins so, and gives up at a deleted article's.
+        {by_description("chio"), {"artic(3)=ABC", "focus=quantita(3)", "box="}},
+        {by_description(" BULLONE Z "), {"artic(3)=BULLONE"}},
+        {by_description(""), {"artic(3)=BULLONE"}},
+        {by_description("vite"), {"artic(3)=", "focus=ds(3)", "box="}},
+        {by_description("dado"), {"artic(3)=", "focus=ds(3)", "box="}},
     };
-    for (const auto& one : cases) {
-        if (one.code) {
-            expect_after(one.commands,
-                         {std::string("artic(0)=") + one.code, "focus=quantita(0)", "box="});
-        } else {
-            expect_after(one.commands, {not_found, "focus=artic(0)", "ds(0)="});
-        }
-    }
+    for (const auto& one : cases) expect_after(one.commands, one.shown);
     EXPECT_EQ(run(enter(0, "GONE"))[1]["box"]["icon"], "stop");
-}
 
-TEST_F(article_lookup, PickingAgainKeepsQuantityAndDiscounts) {
-    expect_after(together({enter(0, "ABC"),
-                           {set("quantita(0)", "3"), set("sc1(0)", "4"), set("prezzo(0)", "99"),
-                            "focus mirorcs.civ(0)", "pick mirorcs.Combo1 20",
-                            "click mirorcs.prezz(1)", "key mirorcs.artic(0) Enter"},
-                           enter(1, "ABC"),
-                           {"click mirorcs.prezz(0)"}}),
-                 {"row(0)=ABC|Chiodo|PZ|3|4||3.5|04", "row(1)=ABC|Chiodo|PZ||||3.5|04"});
+    company.counter(contatori::articoli, 0);
+    expect_after(enter(0, "ABC"), {"List1.count=0", not_found});
+    // The block behind the count is read, too.
+    expect_after(together({{"click mirorcs.command3d3"}, enter(0, "ABC")}),
+                 {"List1.count=3", "List1.enabled=true", "focus=quantita(0)"});
 }
 
 TEST_F(article_lookup, TheCustomersVatCodeGoesFirst) {
@@ -82,76 +115,6 @@ TEST_F(article_lookup, TheCustomersVatCodeGoesFirst) {
     articles[3].iva = std::int16_t{0};
     company.articles(articles);
     expect_after(enter(0, "ab"), {"civ(0)=04"});
-}
-
-TEST_F(article_lookup, AClickIntoTheDescriptionCutsTheArticleOff) {
-    const script cut = together(
-        {enter(0, "ABC"), enter(1, "BULLONE"), {"focus mirorcs.ds(0)", "focus mirorcs.um(0)"}});
-    // Without an article, the line has no stock to show: that of the other line stays.
-    const json shown = run(cut).back();
-    EXPECT_EQ(found(shown, "row(0)"), "|Chiodo|PZ||||7|04");
-    EXPECT_TRUE(found(shown, "listx").ends_with("00001"));
-    // The line itself has lost it, too: it sorts behind the other one.
-    expect_after(
-        together({cut, {"focus mirorcs.um(1)", scroll(9), scroll(1), "click mirorcs.riordina"}}),
-        {"artic(0)=BULLONE", "ds(1)=Chiodo"});
-}
-
-TEST_F(article_lookup, TheListFollowsTheCodeAndPicksByClick) {
-    const script typed = {"type mirorcs.artic(2) \"B\""};
-    expect_after(typed, {"List1.index=2", "List1.count=3"});
-    expect_after(together({typed, {"pick mirorcs.List1 0"}}), {"focus=quantita(2)", "artic(2)=ab"});
-    // Arrows pick the neighbour, the cell's focus moves the list to its own article.
-    const script down = together({enter(0, "ABC"), {"key mirorcs.List1 Down"}});
-    expect_after(down, {"artic(0)=BULLONE"});
-    expect_after(together({down, {"focus mirorcs.artic(3)", "focus mirorcs.artic(0)"}}),
-                 {"List1.index=2"});
-}
-
-TEST_F(article_lookup, BarCodesAreLookedUpInTheirIndex) {
-    const script scan = {"click mirorcs.barcode"};
-    for (const char* code : {"8001", "X03", "x03 "}) {
-        expect_after(
-            together({scan, enter(0, code)}),
-            {code[0] == '8' ? "ds(0)=Bullone zincato" : "ds(0)=Dado", "focus=quantita(0)"});
-    }
-    for (const char* code : {"8002", "800", "ABC"}) {
-        expect_after(together({scan, enter(0, code)}),
-                     {not_found, std::string("row(0)=") + code + "|||||||"});
-    }
-    // The line keeps the bar code, and sorts by it.
-    expect_after(together({scan, enter(0, "x03"), enter(1, "8001"), {"click mirorcs.riordina"}}),
-                 {"artic(0)=8001", "artic(1)=x03"});
-}
-
-TEST_F(article_lookup, TheBarCodeMarkTurnsTheListOffAndOn) {
-    const script off = {"focus mirorcs.um(4)", "click mirorcs.barcode"};
-    expect_after(off, {"focus=artic(4)", "List1.enabled=false", "List1.count=3"});
-    expect_after(together({off, {"click mirorcs.barcode"}}), {"List1.enabled=true"});
-
-    company.counter(contatori::articoli, 0);
-    expect_after(enter(0, "ABC"), {"List1.count=0", not_found});
-    // The block behind the count is read, too.
-    expect_after(together({{"click mirorcs.command3d3"}, enter(0, "ABC")}),
-                 {"List1.count=3", "List1.enabled=true", "focus=quantita(0)"});
-}
-
-TEST_F(article_lookup, F1FindsTheFirstArticleByItsDescription) {
-    const struct {
-        const char* description;
-        const char* code;  ///< what the line gets; null: F1 does nothing
-    } cases[] = {{"chio", "ABC"},
-                 {" BULLONE Z ", "BULLONE"},
-                 {"", "BULLONE"},
-                 {"vite", nullptr},
-                 // The first match is a deleted article: the one behind it isn't tried.
-                 {"dado", nullptr}};
-    for (const auto& one : cases) {
-        expect_after(
-            {"type mirorcs.artic(5) \"AB\"", set("ds(3)", one.description), "key mirorcs.ds(3) F1"},
-            {std::string("artic(3)=") + (one.code ? one.code : ""),
-             one.code ? "focus=quantita(3)" : "focus=ds(3)", "box="});
-    }
 }
 
 TEST_F(article_lookup, ALongTextOverwritesTheLinesBelow) {

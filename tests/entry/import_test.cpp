@@ -130,6 +130,16 @@ TEST_F(imports, AnOrderOfAnyCustomerReplacesTheLinesOfOneThatStaysAlive) {
                     {"click mirorcs.comando(0)", "mirorc"}});  // the wait ends with the order
 }
 
+std::string told(const riga_ordine& line) {
+    std::string text = std::string(line.codice.full()).append(line.descrizione.full());
+    text += line.um.full();
+    for (const double one : {double(line.articolo), line.quantita, line.prezzo, double(line.sc1),
+                             double(line.sc2), double(line.iva)}) {
+        text += " " + std::to_string(one);
+    }
+    return text;
+}
+
 /// Step by step, one read for every row.
 template <class Row>
 void import_plainly(std::vector<riga_ordine>& lines, std::size_t from, const channel<Row>& rows,
@@ -156,32 +166,31 @@ void import_plainly(std::vector<riga_ordine>& lines, std::size_t from, const cha
 }
 
 template <class Row>
-Row random_row(std::mt19937& random) {
-    Row row;
-    row.articolo = static_cast<std::int16_t>(static_cast<int>(random() % 5) - 1);
-    row.descrizione = random() % 3 ? "" : "testo " + std::to_string(random() % 100);
-    row.descrizione2 = random() % 3 ? "" : "coda";
-    row.um = random() % 2 ? "PZ" : "KG";
-    row.quantita = static_cast<int>(random() % 20) - 4;
-    row.prezzo = static_cast<int>(random() % 3);
-    row.sc1 = static_cast<std::int16_t>(random() % 90);
-    row.sc2 = static_cast<std::int16_t>(random() % 90);
-    row.iva = static_cast<std::int16_t>(random() % 24);
-    return row;
+void write_noise(channel<Row>& file, int block, std::size_t used, std::mt19937& random) {
+    std::vector<Row> rows(righe_blocco);
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        Row& row = rows[i];
+        make_blank(row);
+        if (i >= used) continue;
+        row.articolo = static_cast<std::int16_t>(static_cast<int>(random() % 5) - 1);
+        row.descrizione = random() % 3 ? "" : "testo " + std::to_string(random() % 100);
+        row.descrizione2 = random() % 3 ? "" : "coda";
+        row.um = random() % 2 ? "PZ" : "KG";
+        row.quantita = static_cast<int>(random() % 20) - 4;
+        row.prezzo = static_cast<int>(random() % 3);
+        row.sc1 = static_cast<std::int16_t>(random() % 90);
+        row.sc2 = static_cast<std::int16_t>(random() % 90);
+        row.iva = static_cast<std::int16_t>(random() % 24);
+    }
+    file.write_block(block_record(block, 1), rows);
 }
 
 TEST_F(imports, SessionsOfImportsComeOutAsStepByStep) {
     std::mt19937 random(11);
     for (int session = 0; session < 30; ++session) {
-        for (int block = 1; block <= 2; ++block) {
-            std::vector<rec_prv> quote(righe_blocco, rec_prv{});
-            std::vector<rec_orc> order(righe_blocco, rec_orc{});
-            for (auto& row : quote) make_blank(row);
-            const std::size_t used = random() % 200;
-            for (std::size_t i = 0; i < used; ++i) quote[i] = random_row<rec_prv>(random);
-            for (auto& row : order) row = random_row<rec_orc>(random);
-            company.files.prv.write_block(block_record(block, 1), quote);
-            company.files.orc.write_block(block_record(block, 1), order);
+        for (const int block : {1, 2}) {
+            write_noise(company.files.prv, block, random() % 200, random);
+            write_noise(company.files.orc, block, 200, random);
         }
         righe_ordine lines;
         std::vector<riga_ordine> plain(201);
@@ -200,15 +209,7 @@ TEST_F(imports, SessionsOfImportsComeOutAsStepByStep) {
                 import_plainly(plain, last + 1, company.files.prv, company.files.art, block);
             }
             for (int n = 1; n <= 200; ++n) {
-                const riga_ordine& line = lines[n];
-                const riga_ordine& expected = plain[static_cast<std::size_t>(n)];
-                ASSERT_TRUE(line.articolo == expected.articolo &&
-                            line.codice.full() == expected.codice.full() &&
-                            line.descrizione.full() == expected.descrizione.full() &&
-                            line.um.full() == expected.um.full() &&
-                            line.quantita == expected.quantita && line.prezzo == expected.prezzo &&
-                            line.sc1 == expected.sc1 && line.sc2 == expected.sc2 &&
-                            line.iva == expected.iva)
+                ASSERT_EQ(told(lines[n]), told(plain[static_cast<std::size_t>(n)]))
                     << session << " " << step << " line " << n;
             }
         }
