@@ -79,7 +79,7 @@ void print_document(one_content& files) {
     righe_ordine lines;
     for (int number = 1; number <= 3; ++number) lines[number].descrizione = "riga";
     ui::picture figure;
-    for (int i = 0; i < 2; ++i) around.desk.queue_answer(ui::answer::yes);
+    for (int i = 0; i < 2; ++i) around.user.answers.keep(ui::answer::yes);
     stampa_documento(app,
                      {tipo_documento::ordine, {}, lines, {}, {}, {}, *tables, *drawing, figure});
     for (const auto& job : around.paper.take_jobs()) require(job.pages.size() <= 200);
