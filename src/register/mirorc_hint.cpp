@@ -18,7 +18,7 @@ constexpr std::size_t righe_raccontate = 6;
 constexpr std::string_view maschera_quantita = "########0.#0";
 
 std::string quantity_text(double quantity) {
-    return quantity == 0 ? "0" : virgola_italiana(quantity, maschera_quantita);
+    return quantity == 0 ? "0" : masked(quantity, maschera_quantita);
 }
 
 std::string line_text(const rec_orc& row) {

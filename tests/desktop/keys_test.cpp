@@ -95,6 +95,7 @@ TEST_F(keys, TheOverviewListsTheKeysOfItsWindow) {
             static_cast<QDialog*>(dialog)->reject();
         });
         QTest::keyClick(bench.front.front_window(), Qt::Key_Question, Qt::ControlModifier);
+        bench.front.front_window()->activateWindow();
     }});
     EXPECT_TRUE(texts.contains("Registra un nuovo ordine"));
     EXPECT_TRUE(texts.contains("Ctrl+N"));

@@ -113,6 +113,7 @@ TEST_F(list_tools, TheListIsSavedAsCsv) {
             QMetaObject::invokeMethod(dialog, "accept");
         });
         QTest::keyClick(table(), Qt::Key_E, Qt::ControlModifier | Qt::ShiftModifier);
+        bench.front.front_window()->activateWindow();
     }});
     QFile saved(file);
     ASSERT_TRUE(saved.open(QIODevice::ReadOnly));

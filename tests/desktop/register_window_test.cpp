@@ -210,18 +210,20 @@ TEST_F(register_window, DraggedColumnsKeepTheirWidthsFromRunToRun) {
 TEST_F(register_window, AScriptOfManyOrdersLeavesNoWindowsBehind) {
     qsizetype most = 0;
     int left = 24;
-    bench.front.served_by([&] {
-        most = std::max(most, QApplication::topLevelWidgets().size());
-        bench.desk.dispatch([&] {
-            form& active = *bench.desk.active();
-            if (&active == &app.mirorc.use()) {
-                app.mirorc->bottone[2].click();
-            } else {
-                bench.desk.close(active);
-            }
-        });
-        return --left > 0;
-    });
+    bench.front.served_by(
+        [&] {
+            most = std::max(most, QApplication::topLevelWidgets().size());
+            bench.desk.dispatch([&] {
+                form& active = *bench.desk.active();
+                if (&active == &app.mirorc.use()) {
+                    app.mirorc->bottone[2].click();
+                } else {
+                    bench.desk.close(active);
+                }
+            });
+            return --left > 0;
+        },
+        {});
     bench.desk.dispatch([&] { start(app, "ordini001"); });
     bench.front.run();
     EXPECT_LT(most, 12);
