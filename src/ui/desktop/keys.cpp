@@ -122,6 +122,22 @@ void show_keys(QWidget& window) {
     dialog.exec();
 }
 
+namespace {
+
+/// Made when it is asked for: a menu is a window, and screens come and go.
+void show_help_menu(QWidget& window, const QWidget& below) {
+    QMenu menu(&window);
+    const QString tab = "\t";
+    menu.addAction(QString::fromUtf8(words::show_keys) + tab +
+                       QKeySequence("Ctrl+?").toString(QKeySequence::NativeText),
+                   &window, [&window] { show_keys(window); });
+    menu.addAction(QString::fromUtf8(words::open_manual) + tab + "F1", &window,
+                   [&window] { open_manual(&window); });
+    menu.exec(below.mapToGlobal(QPoint(0, below.height())));
+}
+
+}  // namespace
+
 QToolButton* help_button(QWidget& window) {
     auto* button = new QToolButton(&window);
     button->setObjectName("aiuto");
@@ -129,16 +145,9 @@ QToolButton* help_button(QWidget& window) {
     button->setToolTip(QString::fromUtf8(words::help));
     button->setAccessibleName(QString::fromUtf8(words::help));
     button->setFocusPolicy(Qt::NoFocus);
-    button->setPopupMode(QToolButton::InstantPopup);
     button->setProperty("look", "help");
-    auto* menu = new QMenu(button);
-    const QString tab = "\t";
-    menu->addAction(QString::fromUtf8(words::show_keys) + tab +
-                        QKeySequence("Ctrl+?").toString(QKeySequence::NativeText),
-                    &window, [&window] { show_keys(window); });
-    menu->addAction(QString::fromUtf8(words::open_manual) + tab + "F1", &window,
-                    [&window] { open_manual(&window); });
-    button->setMenu(menu);
+    QObject::connect(button, &QToolButton::clicked, &window,
+                     [&window, button] { show_help_menu(window, *button); });
     return button;
 }
 

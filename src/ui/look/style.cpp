@@ -76,7 +76,6 @@ QToolButton[look="main"]:hover { background: #2f6ea5; }
 QToolButton[look="main"]:focus { border: 2px solid #8fc0e8; background: #24527a; }
 QToolButton[look="small"] { padding: 3px 4px; }
 QToolButton[look="help"] { padding: 2px 7px; font-weight: 600; color: #24527a; }
-QToolButton[look="help"]::menu-indicator { image: none; }
 QToolButton[look="blank"] { background: transparent; border: none; }
 QLineEdit, QComboBox, QDateEdit { border: 1px solid #84919d; border-radius: 4px; padding: 3px 5px;
                        background: white; selection-background-color: #2f6ea5; }
