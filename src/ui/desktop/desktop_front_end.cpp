@@ -18,7 +18,7 @@ constexpr qint64 serving_pause = 16;
 
 /// So long after the program brought a window to the front, others may still come forward that it
 /// had called before, in milliseconds.
-constexpr qint64 settling_time = 200;
+constexpr qint64 settling_time = 600;
 
 constexpr const char* program_title = "Vantora Ordini";
 

@@ -20,7 +20,7 @@ namespace {
 constexpr int rows = line_rows::count;
 constexpr int tallest_row = 48;         ///< dots
 constexpr int widest_description = 80;  ///< characters
-constexpr int least_description = 180;  ///< dots
+constexpr int least_description = 205;  ///< dots
 constexpr int frame_margin = 14;        ///< dots, as frames are drawn, with some room to spare
 constexpr int stock_characters = 140;   ///< the record number behind them is not for the eye
 
@@ -296,7 +296,7 @@ void lay_out_line_window(form_window& window, const std::vector<line_command>& c
     middle->addWidget(list_frame(window));
     middle->setStretchFactor(0, 2);
     middle->setStretchFactor(1, 1);
-    middle->setSizes({900, 410});
+    middle->setSizes({955, 355});
     body->addWidget(middle, 1);
     body->addWidget(stock_line(window));
     body->addLayout(foot_line(window, parts.totals));
