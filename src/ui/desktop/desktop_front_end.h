@@ -34,7 +34,7 @@ class desktop_front_end final : public front_end {
     /// Something that acts in the user's place: called whenever the program waits and its windows
     /// have settled; false when there is nothing more to come. Sizes are then not remembered.
     /// Boxes for which `answers` has one are not shown.
-    void served_by(std::function<bool()> next_step, answers_in_advance answers) {
+    void served_by(std::function<bool()> next_step, answers_in_advance answers = {}) {
         next_step_ = std::move(next_step);
         answers_ = std::move(answers);
     }
