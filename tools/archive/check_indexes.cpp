@@ -18,29 +18,31 @@ void check_index(const channel<Entry>& index, std::int16_t count, const index_wo
     std::vector<bool> met(static_cast<std::size_t>(count) + 1);
     std::string before;
     scan(index, count, [&](std::int64_t position, const Entry& entry) {
-        const std::string where = std::string(words.file) + ", entry " + std::to_string(position);
+        const auto where = [&] {
+            return std::string(words.file) + ", entry " + std::to_string(position);
+        };
         const std::string key = upper(entry.chiave.trimmed());
         if (key < before) {
-            into.push_back({gravity::error, where, "it isn't in the order of its key", rebuild});
+            into.push_back({gravity::error, where(), "it isn't in the order of its key", rebuild});
         }
         before = key;
         const std::int16_t number = entry.numero;
         if (number < 1 || number > count) {
-            into.push_back({gravity::error, where,
+            into.push_back({gravity::error, where(),
                             "it points to " + std::string(words.records) + " " +
                                 std::to_string(number) + ", which there isn't",
                             rebuild});
             return;
         }
         if (met[static_cast<std::size_t>(number)]) {
-            into.push_back({gravity::error, where,
+            into.push_back({gravity::error, where(),
                             std::string(words.records) + " " + std::to_string(number) +
                                 " stands twice in the index",
                             rebuild});
         }
         met[static_cast<std::size_t>(number)] = true;
         if (key != key_of(number)) {
-            into.push_back({gravity::error, where,
+            into.push_back({gravity::error, where(),
                             "its key isn't that of " + std::string(words.records) + " " +
                                 std::to_string(number),
                             rebuild});

@@ -1,4 +1,5 @@
 #include <cmath>
+#include <cstring>
 #include <map>
 
 #include "archive/check.h"
@@ -27,6 +28,17 @@ bool same_head(const rec_orc& one, const rec_orc& other) {
            one.annullato == other.annullato;
 }
 
+/// The rows without those at the end that repeat an empty one, which have nothing to tell.
+rows without_empty_end(rows order) {
+    const rec_orc& last = order.back();
+    if (last.quantita != 0 || last.evaso != 0 || last.prezzo != 0 || last.articolo != 0) {
+        return order;
+    }
+    std::size_t used = order.size();
+    while (used > 1 && std::memcmp(&order[used - 2], &last, sizeof last) == 0) --used;
+    return order.first(used);
+}
+
 class order_check {
  public:
     order_check(company_files& company, findings& into)
@@ -36,7 +48,8 @@ class order_check {
 
     void look_at(int registrazione, rows order) {
         const rec_orc& head = order.front();
-        where_ = order_named(registrazione, head);
+        registrazione_ = registrazione;
+        head_ = &head;
         check_rows_agree(order);
         if (head.annullato == 1) return;
         check_head(head);
@@ -57,7 +70,8 @@ class order_check {
 
  private:
     void tell(gravity how_bad, std::string what, std::string advice) {
-        into_.push_back({how_bad, where_, std::move(what), std::move(advice)});
+        into_.push_back(
+            {how_bad, order_named(registrazione_, *head_), std::move(what), std::move(advice)});
     }
 
     void check_rows_agree(rows order) {
@@ -114,7 +128,8 @@ class order_check {
     std::int16_t customers_;
     std::int16_t articles_;
     findings& into_;
-    std::string where_;
+    int registrazione_ = 0;
+    const rec_orc* head_ = nullptr;  ///< of the order looked at
     std::map<std::string, std::vector<int>> numbers_;
 };
 
@@ -124,8 +139,9 @@ void check_orders(company_files& company, open_quantities& open, findings& into)
     order_check check(company, into);
     scan_blocks(company.records().orc, company.count(contatori::ordini),
                 [&](int registrazione, rows order) {
-                    check.look_at(registrazione, order);
-                    open.add(order);
+                    const rows used = without_empty_end(order);
+                    check.look_at(registrazione, used);
+                    open.add(used);
                 });
     check.tell_repeated_numbers();
 }
