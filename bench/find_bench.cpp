@@ -1,6 +1,6 @@
 // What a key pressed in the find line of a list costs until the window shows its outcome, on a list
-// filled to its limit; the yardstick is a frame of the screen, 16 ms. The first key also folds the
-// list's texts.
+// filled to its limit; the yardstick is a frame of the screen, 16 ms. Each time the whole window is
+// painted, which a key never makes necessary.
 
 #include <QApplication>
 #include <QLineEdit>
@@ -50,18 +50,20 @@ int run(int orders) {
     window.resize(1280, 690);
     window.show();
     QMetaObject::invokeMethod(window.findChild<QShortcut*>("elenco_trova"), "activated");
+    window.grab();  // it stands on the screen before the first key
     auto* text = window.findChild<QLineEdit*>("elenco_testo_da_trovare");
     double worst = 0;
     std::printf("%d rows\n", orders);
     for (const char* typed :
          {"c", "ca", "can", "cantiere n. 5", "z", "zz", "99", "cliente 4", ""}) {
+        double searched = 0;
         const double taken = milliseconds([&] {
-            text->setText(typed);
+            searched = milliseconds([&] { text->setText(typed); });
             window.grab();
         });
         worst = std::max(worst, taken);
-        std::printf("  \"%s\"%*s %7.2f ms\n", typed, 20 - static_cast<int>(std::strlen(typed)), "",
-                    taken);
+        std::printf("  \"%s\"%*s %7.2f ms, of them %.2f ms to find\n", typed,
+                    20 - static_cast<int>(std::strlen(typed)), "", taken, searched);
     }
     std::printf("%-34s %9.2f ms   %-44s %9.2f ms   ratio %.2f\n", "slowest key", worst, "a frame",
                 frame_ms, worst / frame_ms);
