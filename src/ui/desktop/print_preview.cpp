@@ -131,8 +131,8 @@ bool wants_printed(const recorded_pages& pages, QPrinter& printer, const QString
     all->setSpacing(0);
     all->addWidget(bar);
     all->addWidget(view, 1);
-    dialog.resize(QSize(1040, 820).boundedTo(
-        (above ? above->screen()->availableSize() : QSize(1040, 820)) * 9 / 10));
+    // With room for the frame; no window may be active after a question.
+    dialog.resize(QSize(1040, 820).boundedTo(dialog.screen()->availableSize() * 17 / 20));
     return dialog.exec() == QDialog::Accepted;
 }
 
