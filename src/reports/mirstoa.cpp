@@ -14,7 +14,7 @@ namespace vantora {
 
 namespace {
 
-constexpr colonna_report colonne_stampa[] = {
+constexpr colonna_report colonne_mirstoa[] = {
     {"Articolo", 32, 0}, {"Ordine", 11, 0},   {"Data", 13, 0},  {"Descrizione", 27, 0},
     {"Cliente", 27, 0},  {"Ordinato", 13, 2}, {"Evaso", 13, 5},
 };
@@ -38,7 +38,7 @@ const tipo_report& schede_articoli() {
         false,
         {"Per visualizzare il prospetto selezionare gli",
          "articoli e/o gli ordini e clic sul bottone", "'Aggiorna lista'"},
-        {"Stampa schede articoli", "Schede articoli", "schedearticoli.pdf", colonne_stampa}};
+        {"Stampa schede articoli", "Schede articoli", "schedearticoli.pdf", colonne_mirstoa}};
     return kind;
 }
 

@@ -4,7 +4,7 @@ namespace vantora {
 
 namespace {
 
-constexpr colonna_report colonne_stampa[] = {
+constexpr colonna_report colonne_mirstoe[] = {
     {"Numero", 8, 0},    {"Data", 10, 0},     {"Descrizione", 22, 0}, {"Cliente", 22, 0},
     {"Articolo", 27, 0}, {"Ordinato", 10, 2}, {"Evaso", 10, 5},
 };
@@ -28,7 +28,7 @@ const tipo_report& elenco_ordini() {
         {stato_ordini, dettaglio, primo_ordine, ultimo_ordine},
         true,
         {},
-        {"Stampa elenco ordini", "Elenco ordini", "elencoordini.pdf", colonne_stampa}};
+        {"Stampa elenco ordini", "Elenco ordini", "elencoordini.pdf", colonne_mirstoe}};
     return kind;
 }
 

@@ -8,7 +8,7 @@ namespace vantora {
 
 namespace {
 
-constexpr colonna_report colonne_stampa[] = {
+constexpr colonna_report colonne_mirston[] = {
     {"Cliente", 27, 0},  {"Ordine", 11, 0},   {"Data", 13, 0},  {"Descrizione", 27, 0},
     {"Articolo", 32, 0}, {"Ordinato", 13, 2}, {"Evaso", 13, 2},
 };
@@ -32,7 +32,7 @@ const tipo_report& schede_clienti() {
         false,
         {"Per visualizzare il prospetto selezionare i", "clienti e/o gli ordini e clic sul bottone",
          "'Aggiorna lista'"},
-        {"Stampa schede clienti", "Schede clienti", "schedeclienti.pdf", colonne_stampa}};
+        {"Stampa schede clienti", "Schede clienti", "schedeclienti.pdf", colonne_mirston}};
     return kind;
 }
 

@@ -8,7 +8,7 @@ namespace vantora {
 
 namespace {
 
-constexpr colonna_report colonne_stampa[] = {
+constexpr colonna_report colonne_mirstos[] = {
     {"Numero", 8, 0},   {"Data", 10, 0},     {"Descrizione", 19, 0}, {"Evasione", 10, 0},
     {"Cliente", 19, 0}, {"Articolo", 23, 0}, {"Ordinato", 10, 2},    {"Evaso", 10, 2},
 };
@@ -34,7 +34,7 @@ const tipo_report& scadenziario() {
         true,
         {},
         {"Stampa scadenziario ordini clienti", "Scadenziario ordini clienti",
-         "scadenziarioordini.pdf", colonne_stampa}};
+         "scadenziarioordini.pdf", colonne_mirstos}};
     return kind;
 }
 

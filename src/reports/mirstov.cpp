@@ -7,7 +7,7 @@ namespace vantora {
 
 namespace {
 
-constexpr colonna_report colonne_stampa[] = {
+constexpr colonna_report colonne_mirstov[] = {
     {"Numero", 10, 0},  {"Data", 10, 0},   {"Descrizione", 23, 0},
     {"Cliente", 23, 0}, {"Valore", 10, 1},
 };
@@ -28,7 +28,7 @@ const tipo_report& valorizzazione() {
                                   true,
                                   {},
                                   {"Stampa valorizzazione ordini", "Valorizzazione ordini",
-                                   "valoreordini.pdf", colonne_stampa}};
+                                   "valoreordini.pdf", colonne_mirstov}};
     return kind;
 }
 

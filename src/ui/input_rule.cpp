@@ -5,6 +5,7 @@
 
 #include "store/text/code_page.h"
 #include "store/text/dates.h"
+#include "store/text/digit.h"
 #include "store/text/number_text.h"
 
 namespace vantora::ui {
@@ -13,10 +14,6 @@ namespace {
 
 constexpr std::ptrdiff_t digits_max = 15;
 constexpr double int16_max = 32767;
-
-bool is_digit(char character) {
-    return character >= '0' && character <= '9';
-}
 
 /// "1.234.567": groups of three behind the first one.
 bool grouped_by_points(std::string_view whole) {

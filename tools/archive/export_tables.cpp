@@ -2,6 +2,7 @@
 
 #include <initializer_list>
 
+#include "archive/words.h"
 #include "store/text/dates.h"
 
 namespace vantora::archive {
@@ -9,11 +10,6 @@ namespace vantora::archive {
 namespace {
 
 using enum content;
-
-std::string words_of(std::string_view stored) {
-    const std::size_t end = stored.find('\0');
-    return to_utf8(trimmed(stored.substr(0, end)));
-}
 
 /// yyyy-mm-dd; empty for what is no date.
 std::string date_of(std::string_view stored) {

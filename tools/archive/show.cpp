@@ -4,6 +4,7 @@
 #include <ostream>
 
 #include "archive/fields.h"
+#include "archive/words.h"
 #include "store/text/dates.h"
 #include "store/text/number_text.h"
 
@@ -35,10 +36,6 @@ ordered_json all_fields(const Record& one) {
     return object;
 }
 
-std::string words(std::string_view text) {
-    return to_utf8(trimmed(text));
-}
-
 std::string state_of(const rec_orc& head) {
     if (head.annullato == 1) return "deleted";
     return head.evaso_flag == 1 ? "fulfilled"
@@ -58,12 +55,12 @@ class names {
     std::string customer(std::int16_t number) {
         rec_cli one;
         files_.cli.read(number, one);
-        return std::to_string(number) + " " + words(one.intestazione1.full());
+        return std::to_string(number) + " " + words_of(one.intestazione1.full());
     }
     std::string article(std::int16_t number) {
         rec_art one;
         if (number < 1 || !files_.art.read(number, one)) return {};
-        return std::to_string(number) + " " + words(one.codice.full()) + " ";
+        return std::to_string(number) + " " + words_of(one.codice.full()) + " ";
     }
 
  private:
@@ -71,20 +68,20 @@ class names {
 };
 
 std::string in_words(const rec_cli& one, names&) {
-    return words(one.intestazione1.full()) + ", " + words(one.indirizzo.full()) + ", " +
-           words(one.cap.full()) + " " + words(one.citta.full()) +
+    return words_of(one.intestazione1.full()) + ", " + words_of(one.indirizzo.full()) + ", " +
+           words_of(one.cap.full()) + " " + words_of(one.citta.full()) +
            (one.eliminato == 1 ? " (deleted)" : "");
 }
 
 std::string in_words(const rec_art& one, names&) {
-    return words(one.codice.full()) + " " + words(one.descrizione.full()) + ": stock " +
+    return words_of(one.codice.full()) + " " + words_of(one.descrizione.full()) + ": stock " +
            plain_text(one.giacenza) + ", committed " + plain_text(one.impegnato) + ", ordered " +
            plain_text(one.ordinato_clienti) + (one.eliminato != 0 ? " (deleted)" : "");
 }
 
 std::string in_words(const rec_mag& one, names& of) {
-    return date_text_of_stored(one.data.full()) + " " + words(one.movimento.full()) + " " +
-           words(one.documento.full()) + ": " + plain_text(one.quantita) + " of article " +
+    return date_text_of_stored(one.data.full()) + " " + words_of(one.movimento.full()) + " " +
+           words_of(one.documento.full()) + ": " + plain_text(one.quantita) + " of article " +
            of.article(one.articolo) + "to customer " + of.customer(one.cliente);
 }
 
@@ -103,8 +100,9 @@ std::string in_words(const rec_tot& one, names&) {
 
 template <class Head>
 std::string head_in_words(const Head& head, names& of) {
-    return "number " + words(head.numero.full()) + " of " + date_text_of_stored(head.data.full()) +
-           ", customer " + of.customer(head.cliente) + ", " + words(head.testo1.full());
+    return "number " + words_of(head.numero.full()) + " of " +
+           date_text_of_stored(head.data.full()) + ", customer " + of.customer(head.cliente) +
+           ", " + words_of(head.testo1.full());
 }
 
 std::string in_words(const rec_orc& head, names& of) {
@@ -116,9 +114,9 @@ std::string in_words(const rec_prv& head, names& of) {
 }
 
 std::string line_in_words(const rec_orc& row, names& of) {
-    return of.article(row.articolo) + words(row.descrizione.full()) +
-           words(row.descrizione2.full()) + ": " + plain_text(row.quantita) + " " +
-           words(row.um.full()) + " at " + plain_text(row.prezzo) + ", fulfilled " +
+    return of.article(row.articolo) + words_of(row.descrizione.full()) +
+           words_of(row.descrizione2.full()) + ": " + plain_text(row.quantita) + " " +
+           words_of(row.um.full()) + " at " + plain_text(row.prezzo) + ", fulfilled " +
            plain_text(row.evaso);
 }
 

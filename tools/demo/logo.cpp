@@ -21,7 +21,7 @@ struct colour {
 
 constexpr colour left_out{192, 192, 192};
 constexpr colour paper{255, 255, 255};
-constexpr colour navy{31, 56, 100};
+constexpr colour deep_blue{31, 56, 100};
 constexpr colour steel{96, 128, 176};
 constexpr colour water{0, 146, 208};
 constexpr colour gleam{190, 228, 246};
@@ -52,7 +52,7 @@ const colour* shape_at(long dx, long dy) {
     if (in_drop(dx, dy)) return &water;
     if (in_circle(dx, dy, 18)) return &paper;
     if (in_circle(dx, dy, 20)) return &steel;
-    if (in_hexagon(dx, dy, 29)) return &navy;
+    if (in_hexagon(dx, dy, 29)) return &deep_blue;
     return nullptr;
 }
 

@@ -10,7 +10,7 @@ namespace vantora::demo {
 
 namespace {
 
-constexpr std::string_view subjects[] = {
+constexpr std::string_view quote_subjects[] = {
     "Preventivo rifacimento bagno", "Preventivo impianto elettrico", "Offerta centrale termica",
     "Offerta materiale di consumo", "Preventivo illuminazione LED",  "Offerta annuale utensileria",
 };
@@ -34,7 +34,7 @@ void write_quotes(folder_writer& into, int count, std::uint64_t seed,
         row.cliente = static_cast<std::int16_t>(customer);
         row.annullato = static_cast<std::int16_t>(chance.percent(6) ? 1 : 0);
         std::vector<rec_prv> block(righe_blocco, row);
-        block[0].testo1 = from_utf8(chance.one_of(subjects));
+        block[0].testo1 = from_utf8(chance.one_of(quote_subjects));
         const auto lines =
             draw_lines(chance, articles, customers[static_cast<std::size_t>(customer - 1)]);
         for (std::size_t i = 0; i < lines.size(); ++i) set_line(block[i], lines[i]);

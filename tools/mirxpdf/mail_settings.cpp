@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::string_view blanks = " \t\r";
 
-std::string_view without_blanks(std::string_view text) {
+std::string_view stripped(std::string_view text) {
     const std::size_t begin = text.find_first_not_of(blanks);
     if (begin == std::string_view::npos) return {};
     return text.substr(begin, text.find_last_not_of(blanks) + 1 - begin);
@@ -81,9 +81,9 @@ std::string take_line(mail_settings& into, std::string_view line) {
     if (line.empty() || line.front() == '#') return {};
     const std::size_t equals = line.find('=');
     if (equals == std::string_view::npos) return "manca il segno =";
-    const auto key = keys.find(without_blanks(line.substr(0, equals)));
+    const auto key = keys.find(stripped(line.substr(0, equals)));
     if (key == keys.end()) return "chiave sconosciuta";
-    const std::string_view value = without_blanks(line.substr(equals + 1));
+    const std::string_view value = stripped(line.substr(equals + 1));
     if (has_control_characters(value)) return "il valore contiene caratteri di controllo";
     return key->second(into, value);
 }
@@ -97,7 +97,7 @@ std::variant<mail_settings, settings_error> read_mail_settings(std::string_view 
     mail_settings read;
     for (int number = 1; !content.empty(); ++number) {
         const std::size_t end = std::min(content.find('\n'), content.size());
-        const std::string wrong = take_line(read, without_blanks(content.substr(0, end)));
+        const std::string wrong = take_line(read, stripped(content.substr(0, end)));
         if (!wrong.empty()) return settings_error{"riga " + std::to_string(number) + ": " + wrong};
         content.remove_prefix(std::min(end + 1, content.size()));
     }

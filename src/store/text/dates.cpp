@@ -4,14 +4,11 @@
 #include <chrono>
 
 #include "store/text/code_page.h"
+#include "store/text/digit.h"
 
 namespace vantora {
 
 namespace {
-
-bool is_digit(char character) {
-    return character >= '0' && character <= '9';
-}
 
 std::string digits(int value, std::size_t width) {
     std::string text(width, '0');

@@ -2,15 +2,12 @@
 #include <cmath>
 #include <system_error>
 
+#include "store/text/digit.h"
 #include "store/text/number_text.h"
 
 namespace vantora {
 
 namespace {
-
-bool is_digit(char character) {
-    return character >= '0' && character <= '9';
-}
 
 /// Reads the head of a text as a number, blanks passed over, into the form that the standard
 /// library reads.

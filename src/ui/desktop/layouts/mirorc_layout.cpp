@@ -28,7 +28,7 @@ constexpr command_look commands[] = {
     {"evasione", "Evas&ione", "Evade gli ordini di un cliente", "Ctrl+E"},
 };
 
-QFrame* command_bar(form_window& window) {
+QFrame* register_bar(form_window& window) {
     auto* bar = new QFrame(&window);
     set_look(bar, "role", "bar");
     auto* row = new QHBoxLayout(bar);
@@ -98,7 +98,7 @@ void lay_out_mirorc(form_window& window) {
     auto* all = new QVBoxLayout(&window);
     all->setContentsMargins(0, 0, 0, 0);
     all->setSpacing(0);
-    all->addWidget(command_bar(window));
+    all->addWidget(register_bar(window));
 
     auto* body = new QVBoxLayout;
     body->setContentsMargins(10, 8, 10, 10);

@@ -53,7 +53,7 @@ void add_grid_keys(form_window& window) {
     }
 }
 
-QFrame* command_bar(form_window& window) {
+QFrame* worklist_bar(form_window& window) {
     auto* bar = new QFrame(&window);
     set_look(bar, "role", "bar");
     auto* row = new QHBoxLayout(bar);
@@ -103,7 +103,7 @@ void lay_out_mirorcr(form_window& window) {
     auto* all = new QVBoxLayout(&window);
     all->setContentsMargins(0, 0, 0, 0);
     all->setSpacing(0);
-    all->addWidget(command_bar(window));
+    all->addWidget(worklist_bar(window));
 
     auto* view = window.as<grid_view>("elenco");
     view->setItemDelegate(new leaving_rows(view));

@@ -58,7 +58,7 @@ constexpr filter_look value_filters[] = {
     {"All'ordine numero", "text1", 1, 6, 0},
 };
 
-QFrame* command_bar(form_window& window) {
+QFrame* report_bar(form_window& window) {
     auto* bar = new QFrame(&window);
     set_look(bar, "role", "bar");
     auto* row = new QHBoxLayout(bar);
@@ -121,7 +121,7 @@ void lay_out_report(form_window& window, std::span<const filter_look> filters, i
     auto* all = new QVBoxLayout(&window);
     all->setContentsMargins(0, 0, 0, 0);
     all->setSpacing(0);
-    all->addWidget(command_bar(window));
+    all->addWidget(report_bar(window));
     auto* body = new QVBoxLayout;
     body->setContentsMargins(10, 8, 10, 10);
     body->setSpacing(8);
