@@ -43,6 +43,11 @@ class form {
     /// Drops the screen; its next use loads it afresh. What runs in it finishes first.
     void unload();
 
+    /// If the focus was in `from` when the form was last active, it comes back to `to`.
+    void come_back_to(control& to, const control& from) {
+        if (remembered_ == &from) remembered_ = &to;
+    }
+
     /// The user takes the last change of many lines at once back. False if there is none.
     virtual bool take_back() { return false; }
 

@@ -138,6 +138,44 @@ TEST_F(order_window, AnOrderIsTypedByTheKeyboardAlone) {
          }});
 }
 
+TEST_F(order_window, GoodsLeaveByTheKeyboardAloneAsOftenAsWanted) {
+    using step = std::function<void()>;
+    const step register_to_customer = [&] {
+        ASSERT_EQ(front(), "mirorc");
+        EXPECT_EQ(focus(), "elenco");
+        press(Qt::Key_E, Qt::ControlModifier);
+    };
+    const step customer_to_list = [&] {
+        write("zeta");
+        press(Qt::Key_Return);
+        press(Qt::Key_F12);
+    };
+    // Keys that led away left the focus in the list, which begins at its first row.
+    const step second_row_leaves = [&] {
+        EXPECT_EQ(focus(), "elenco");
+        EXPECT_EQ(table()->currentIndex().row(), 0);
+        press(Qt::Key_Down);
+        press(Qt::Key_F6);
+        press(Qt::Key_F12);
+    };
+    const auto cancel = [&](const char* article) -> step {
+        return [&, article] {
+            EXPECT_EQ(text("artic(0)"), article);
+            press(Qt::Key_Q, Qt::ControlModifier);
+        };
+    };
+    const step yes = [&] { QTest::keyClick(box(), Qt::Key_Return); };
+    run({[&] {
+             for (const char* code : {"a100", "a200", "a300"}) {
+                 write_cells({code, "2", "", "", ""});
+             }
+             press(Qt::Key_F12);
+         },
+         [&] { QTest::keyClick(box(), Qt::Key_Escape); }, register_to_customer, customer_to_list,
+         second_row_leaves, cancel("A200"), yes, register_to_customer, customer_to_list,
+         second_row_leaves, cancel("A300"), yes, register_to_customer});
+}
+
 TEST_F(order_window, TheRowWorkedOnIsMarkedAndPagesMoveUnderIt) {
     run({[&] {
         write_cells({"a100", "3", "", "", ""});

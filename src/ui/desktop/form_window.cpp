@@ -192,8 +192,12 @@ window_place form_window::place() const {
 
 void form_window::focus_on(control& one) {
     QWidget& target = widget_of(one);
-    // As if the user had come by Tab: what stands in a field is there to be typed over.
-    if (!target.hasFocus()) target.setFocus(Qt::TabFocusReason);
+    // As if the user had come by Tab: what stands in a field is there to be typed over. A window
+    // that only comes to the front keeps quiet about a field that had its focus before.
+    if (!target.hasFocus()) {
+        target.setFocus(Qt::TabFocusReason);
+        select_text(one);
+    }
     const QSize room = area_->viewport()->size();
     const bool fits = target.width() <= room.width() && target.height() <= room.height();
     if (fits && area_->widget()->isAncestorOf(&target)) area_->ensureWidgetVisible(&target);

@@ -169,6 +169,9 @@ class grid_binder final : public widget_binder {
             cells_->reset();
             view_->share_width();
             keep_mark();
+            if (view_->begins_at_first() && cells_->holds_text(1)) {
+                follow([&] { model_.set_row(1); });
+            }
         }
         if (what == aspect::shape || what == aspect::position) show_position();
         if (what == aspect::content) view_->viewport()->update();

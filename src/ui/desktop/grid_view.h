@@ -43,6 +43,9 @@ class grid_view final : public QTableView {
     /// entry that joined the end is marked.
     void keep_mark() { keeps_mark_ = true; }
     [[nodiscard]] bool keeps_mark() const { return keeps_mark_; }
+    /// A list that comes anew has its first row marked, wherever its building ended.
+    void begin_at_first() { begins_at_first_ = true; }
+    [[nodiscard]] bool begins_at_first() const { return begins_at_first_; }
     /// Where a row that deserves a second look is marked.
     void show_notices_in(int column);
     /// Sets off the rows that sum others up: nothing stands before their column `column`, and
@@ -89,6 +92,7 @@ class grid_view final : public QTableView {
     int sorted_ = -1;
     int search_column_ = 0;
     bool keeps_mark_ = false;
+    bool begins_at_first_ = false;
     QString typed_;  ///< what is searched for
     QElapsedTimer since_typed_;
     int sum_column_ = -1;

@@ -62,7 +62,10 @@ void widget_binder::act_click(const QAbstractButton& button, const std::function
     act([&] {
         control* before = model_.owner().desk().focus();
         click();
-        if (gives_back && before && before != &model_ && model_.has_focus()) before->set_focus();
+        if (!gives_back || !before || &before->owner() != &model_.owner()) return;
+        if (model_.has_focus()) before->set_focus();
+        // A command that leads to another screen leaves the work where it was.
+        model_.owner().come_back_to(*before, model_);
     });
 }
 

@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QScrollBar>
 #include <QStyle>
+#include <QToolTip>
 #include <QWheelEvent>
 
 #include "ui/desktop/layouts/parts.h"
@@ -24,6 +25,15 @@ constexpr int lines_a_notch = 3;
 // Columns, by their place from the left.
 constexpr int code_column = 0;
 constexpr int description_column = 1;
+
+/// Shows the text of a cell that is too narrow for it. False if it is all in sight.
+bool tell_cut_text(QLineEdit& cell, const QHelpEvent& asked) {
+    constexpr int margins = 14;  // dots
+    const QString text = cell.text();
+    if (cell.fontMetrics().horizontalAdvance(text) <= cell.width() - margins) return false;
+    QToolTip::showText(asked.globalPos(), text, &cell);
+    return true;
+}
 
 }  // namespace
 
@@ -207,6 +217,12 @@ bool line_rows::eventFilter(QObject* watched, QEvent* event) {
             if (is_cell && key_pressed(*cell, key.key())) return true;
             break;
         }
+        case QEvent::ToolTip:
+            if (is_cell && tell_cut_text(static_cast<QLineEdit&>(*watched),
+                                         static_cast<const QHelpEvent&>(*event))) {
+                return true;
+            }
+            break;
         case QEvent::Show:
             if (watched == pick_) place_pick();
             break;

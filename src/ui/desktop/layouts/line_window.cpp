@@ -19,8 +19,9 @@ namespace {
 
 constexpr int rows = line_rows::count;
 constexpr int tallest_row = 48;         ///< dots
+constexpr int cell_margins = 16;        ///< dots, with the cursor's; the description needs the rest
 constexpr int widest_description = 80;  ///< characters
-constexpr int least_description = 205;  ///< dots
+constexpr int least_description = 245;  ///< dots
 constexpr int frame_margin = 14;        ///< dots, as frames are drawn, with some room to spare
 constexpr int stock_characters = 140;   ///< the record number behind them is not for the eye
 
@@ -33,9 +34,9 @@ struct column {
 
 constexpr column columns[] = {
     {"artic", "Articolo", 13, false},  // a bar code
-    {"ds", "Descrizione", 0, false},  {"um", "U.m.", 2, false},   {"quantita", "Quantità", 8, true},
-    {"evaso", "Evaso", 7, true},      {"sc1", "Sconti", 2, true}, {"sc2", "", 2, true},
-    {"prezzo", "Prezzo", 9, true},    {"civ", "Iva", 1, false},
+    {"ds", "Descrizione", 0, false},  {"um", "U.m.", 3, false},   {"quantita", "Quantità", 8, true},
+    {"evaso", "Evaso", 7, true},      {"sc1", "Sconti", 3, true}, {"sc2", "", 3, true},
+    {"prezzo", "Prezzo", 9, true},    {"civ", "Iva", 2, false},
 };
 
 QFrame* command_bar(form_window& window, const std::vector<line_command>& commands) {
@@ -72,7 +73,7 @@ void add_column(form_window& window, line_rows& lines, QGridLayout* cells, const
         lines.add_cell(one.control, one.head, row, cell);
         set_look(cell, "column", one.control);
         if (one.number) cell->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        sized(cell, one.characters > 0 ? one.characters : widest_description);
+        sized(cell, one.characters > 0 ? one.characters : widest_description, cell_margins);
         if (one.characters == 0) cell->setMinimumWidth(least_description);
         cell->setMinimumHeight(cell->fontMetrics().height() + 6);
         cell->setSizePolicy(cell->sizePolicy().horizontalPolicy(), QSizePolicy::Expanding);

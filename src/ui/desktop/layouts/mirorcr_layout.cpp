@@ -111,6 +111,7 @@ void lay_out_mirorcr(form_window& window) {
     quantity->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     set_look(quantity, "look", "over");
     view->keep_over(quantity, evaso);
+    view->begin_at_first();
     add_grid_keys(window);
 
     auto* body = new QVBoxLayout;

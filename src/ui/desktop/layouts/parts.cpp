@@ -21,8 +21,7 @@ QLabel* caption_of(QWidget* field, const char* utf8, QWidget* parent) {
     return label;
 }
 
-QWidget* sized(QWidget* field, int characters) {
-    constexpr int margins = 24;  // dots, with the cursor's
+QWidget* sized(QWidget* field, int characters, int margins) {
     field->setFixedWidth(field->fontMetrics().horizontalAdvance('0') * characters + margins);
     return field;
 }

@@ -23,8 +23,8 @@ QLabel* caption_of(QWidget* field, const char* utf8, QWidget* parent);
 /// A caption as those hear it who listen.
 QString spoken(const char* utf8);
 
-/// A text box made so wide that about `characters` fit.
-QWidget* sized(QWidget* field, int characters);
+/// A text box made so wide that about `characters` fit; the margins are its frame's and some air.
+QWidget* sized(QWidget* field, int characters, int margins = 24);
 
 /// A grid with its "Riordina" buttons above the columns, `count` of the control array `name`.
 QVBoxLayout* grid_with_sort_buttons(form_window& window, const char* grid, const char* name,
