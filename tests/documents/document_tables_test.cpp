@@ -37,18 +37,17 @@ class document_tables : public testing::Test {
 
 TEST_F(document_tables, ALayoutIsReadRowByRowFromTheFileOfItsKindOrCountsAsMissing) {
     write("lyo", 600);
-    write("lyb", 601);
     load(tipo_documento::ordine);
-    EXPECT_EQ(layout_row(1), "1,2,3,4,5,6");
-    EXPECT_EQ(layout_row(100), "595,596,597,598,599,600");
-    tables.tabella_layout[1].posizione.clear();
+    EXPECT_EQ(layout_row(1) + " " + layout_row(100), "1,2,3,4,5,6 595,596,597,598,599,600");
+    write("lyb", 601, {{1, "altro"}});
     load(tipo_documento::documento_trasporto);
-    EXPECT_EQ(layout_row(1), "1,2,3,4,5,6");
+    EXPECT_EQ(layout_row(1), "altro,2,3,4,5,6");
     for (const int lines : {0, 1, 300, 599}) {
         write("lyo", lines);
         load(tipo_documento::ordine);
-        EXPECT_EQ(layout_row(1), "000000,9,Arial,0,0, 0") << lines;
-        EXPECT_EQ(layout_row(100), "000000,9,Arial,0,0, 0") << lines;
+        for (const std::size_t row : {1, 100}) {
+            EXPECT_EQ(layout_row(row), "000000,9,Arial,0,0, 0") << lines;
+        }
         EXPECT_EQ(layout_row(98), ",,,0,0, 0") << lines;
     }
 }

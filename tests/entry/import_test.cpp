@@ -112,12 +112,7 @@ TEST_F(imports, AnOrderOfAnyCustomerReplacesTheLinesOfOneThatStaysAlive) {
                     {"get mirorcs.ds(0)", "c"},
                     {"click mirorcs.comando(5)", "mirpref waiting"},
                     {"cell mirpref.elenco 1 0", "mirorcs"},  // one choice serves all waits
-                    {"screens",                              // the picker is gone, not hidden
-                     json::parse(R"([
-                         {"name": "mirorc", "title": "Gestione ordini clienti", "visible": false},
-                         {"name": "mirorcx", "title": "Selezione cliente", "visible": false},
-                         {"name": "mirorcs", "title": "Gestione ordini clienti", "visible": true}
-                     ])")},
+                    {"get mirpref.elenco", "refused"},       // the picker is gone, not hidden
                     {"get mirorcs.artic(0)", "A2"},
                     {"get mirorcs.quantita(0)", "3"},
                     {"get mirorcs.civ(0)", "04"},

@@ -1,5 +1,3 @@
-#include <fstream>
-
 #include "entry/new_order.h"
 
 namespace vantora::test {
@@ -13,12 +11,10 @@ class line_grid : public new_order {
         customer.sconto2 = 5;
     }
     void general(int usa_barcode, const char* codice_iva_base) {
-        rec_gnr record{};
-        std::fstream file(company.file("gnr"), std::ios::binary | std::ios::in | std::ios::out);
-        file.read(reinterpret_cast<char*>(&record), sizeof record);
-        record.usa_barcode = static_cast<std::int16_t>(usa_barcode);
-        record.codice_iva_base = codice_iva_base;
-        file.seekp(0).write(reinterpret_cast<const char*>(&record), sizeof record);
+        change_stored(company.gnr, 1, [&](rec_gnr& general) {
+            general.usa_barcode = static_cast<std::int16_t>(usa_barcode);
+            general.codice_iva_base = codice_iva_base;
+        });
     }
 };
 

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <fstream>
-
 #include "customer/mirorcm.h"
 #include "customer/mirorcx.h"
 #include "entry/mirorcs.h"
@@ -50,9 +48,11 @@ struct order_station : station {
     [[nodiscard]] std::string active() const { return desk.active()->name(); }
 };
 
-inline std::string content(const small_company& company, const char* extension) {
-    std::ifstream in(company.file(extension), std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), {}};
+/// Deletes an order, with its stock.
+inline void delete_order(const small_company& company, int block) {
+    order_station at(company);
+    at.open(block);
+    at.delete_opened();
 }
 
 }  // namespace vantora::test

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <fstream>
 #include <random>
 
 #include "fulfil/fulfil_stage.h"
@@ -12,6 +11,7 @@ namespace vantora::test {
 namespace {
 
 /// The company's books, kept as a bookkeeper would: one step after the other, without a screen.
+/// Writes can be made to fail, counted from 1.
 struct books {
     std::vector<rec_orc> rows;
     std::vector<rec_art> articles;
@@ -19,6 +19,10 @@ struct books {
     std::vector<rec_bol> documents;
     rec_tot moved{};
     rec_tot documented{};
+
+    std::function<bool(int)> write_fails = [](int) { return false; };
+    int writes = 0;
+    int document_from = 0;  ///< so many came before its document
 
     struct open_row {
         std::size_t record;  // from 0
@@ -32,6 +36,15 @@ struct books {
         int sc1;
         int sc2;
     };
+
+    bool reaches_disk() { return !write_fails(++writes); }
+    template <class Record>
+    void write(Record& place, const Record& value) {
+        if (reaches_disk()) place = value;
+    }
+    [[nodiscard]] bool holds(int article) const {
+        return article >= 1 && article <= static_cast<int>(articles.size());
+    }
 
     [[nodiscard]] std::vector<open_row> worklist(int customer) const {
         std::vector<open_row> open;
@@ -47,42 +60,56 @@ struct books {
         return open;
     }
 
-    std::vector<line> book(const std::vector<open_row>& worklist) {
+    [[nodiscard]] std::vector<line> lines_of(const std::vector<open_row>& worklist) const {
         std::vector<line> lines;
         for (const open_row& marked : worklist) {
-            rec_orc& row = rows[marked.record];
+            const rec_orc& row = rows[marked.record];
             if (!marked.star && marked.leaving == 0) continue;
-            const int number = row.articolo;
-            lines.push_back({marked.star ? 0 : number, marked.star ? 0 : marked.leaving, row.prezzo,
-                             row.sc1, row.sc2});
-            if (marked.star) continue;
-            if (number >= 1 && number <= static_cast<int>(articles.size())) {
-                rec_art& one = articles[static_cast<std::size_t>(number - 1)];
+            lines.push_back({marked.star ? 0 : int{row.articolo}, marked.star ? 0 : marked.leaving,
+                             row.prezzo, row.sc1, row.sc2});
+        }
+        return lines;
+    }
+
+    void book(const std::vector<open_row>& worklist) {
+        for (const open_row& marked : worklist) {
+            if (marked.star || marked.leaving == 0) continue;
+            rec_orc row = rows[marked.record];
+            if (holds(row.articolo)) {
+                rec_art& place = articles[static_cast<std::size_t>(row.articolo - 1)];
+                rec_art one = place;
                 one.ordinato_clienti = one.ordinato_clienti - marked.leaving;
                 if (row.impegno.full() != "0") {
                     const double freed = std::min<double>(marked.leaving, one.impegnato);
                     one.giacenza = one.giacenza + freed;
                     one.impegnato = one.impegnato - freed;
                 }
+                write(place, one);
             }
             row.evaso = row.evaso + marked.leaving;
+            write(rows[marked.record], row);
         }
+        std::size_t seen = 0;  // orders up to here
         for (const open_row& listed : worklist) {
             const std::size_t head = listed.record / 200 * 200;
+            if (head < seen) continue;
+            seen = head + 200;
             double rest = 0;
             for (std::size_t i = head; i < head + 200; ++i)
                 rest += rows[i].quantita - rows[i].evaso;
-            if (rest <= 0) rows[head].evaso_flag = 1;
+            rec_orc fulfilled = rows[head];
+            fulfilled.evaso_flag = 1;
+            if (rest <= 0) write(rows[head], fulfilled);
         }
-        return lines;
     }
 
     void unload(const std::vector<line>& lines, int customer, const std::string& label, double when,
                 const std::function<bool()>& anyway) {
+        rec_tot counter = moved;
         for (const line& one : lines) {
-            if (one.quantity == 0 || one.article < 1) continue;
-            if (one.article > static_cast<int>(articles.size())) continue;
-            rec_art& from = articles[static_cast<std::size_t>(one.article - 1)];
+            if (one.quantity == 0 || !holds(one.article)) continue;
+            rec_art& place = articles[static_cast<std::size_t>(one.article - 1)];
+            rec_art from = place;
             if (one.quantity > from.giacenza && !anyway()) continue;
             double net = one.price;
             for (const int percent : {one.sc1, one.sc2}) {
@@ -91,33 +118,36 @@ struct books {
             from.giacenza = from.giacenza - one.quantity;
             from.scaricato = from.scaricato + one.quantity;
             from.valore_scaricato = from.valore_scaricato + net * one.quantity;
-            moved.quanti = static_cast<std::int16_t>(moved.quanti + 1);
+            write(place, from);
+            counter.quanti = static_cast<std::int16_t>(counter.quanti + 1);
+            if (!reaches_disk()) continue;
             movements.push_back({text<8>("20240506"), text<40>(""), 1, text<12>(label), when,
                                  static_cast<std::int16_t>(one.article),
                                  static_cast<std::int16_t>(customer), one.quantity, net, 1, 0});
         }
-        moved.modificato = 1;
+        counter.modificato = 1;
+        write(moved, counter);
     }
 
     void document(int customer, bool unloaded, double when) {
-        documented.quanti = static_cast<std::int16_t>(documented.quanti + 1);
-        documented.ultimo_numero = static_cast<std::int16_t>(documented.ultimo_numero + 1);
-        documented.progressivo = documented.progressivo + 1;
-        documents.push_back({documented.ultimo_numero, text<8>("20240506"), 0, text<15>(""),
-                             text<36>(""), documented.progressivo, 0, when, 1, text<2>(""),
-                             static_cast<std::int16_t>(customer),
-                             static_cast<std::int16_t>(unloaded ? 0 : 1), 0, 0, 0});
+        rec_tot counter = documented;
+        counter.quanti = static_cast<std::int16_t>(counter.quanti + 1);
+        counter.ultimo_numero = static_cast<std::int16_t>(counter.ultimo_numero + 1);
+        counter.progressivo = counter.progressivo + 1;
+        write(documented, counter);
+        if (reaches_disk()) {
+            documents.push_back({counter.ultimo_numero, text<8>("20240506"), 0, text<15>(""),
+                                 text<36>(""), counter.progressivo, 0, when, 1, text<2>(""),
+                                 static_cast<std::int16_t>(customer),
+                                 static_cast<std::int16_t>(unloaded ? 0 : 1), 0, 0, 0});
+        }
+        reaches_disk();  // its copy for other programs
     }
 };
 
 template <class Record>
 std::string bytes_of(const std::vector<Record>& records) {
     return {reinterpret_cast<const char*>(records.data()), records.size() * sizeof(Record)};
-}
-
-std::string file_bytes(const std::filesystem::path& path) {
-    std::ifstream in(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), {}};
 }
 
 class session {
@@ -143,39 +173,50 @@ class session {
         stage_.run();
     }
 
+    using faults = std::function<void(faulty_files&, books&)>;
+
     void fulfil() {
-        const int customer = 1 + below(2);
-        stage_.open_worklist(customer);
-        auto worklist = book_.worklist(customer);
-        mark(worklist);
+        open();
         if (below(6) == 0)
             return stage_.desk.dispatch([&] { stage_.app.mirorcr->bottone[0].click(); });
-        stage_.book();
-        auto lines = book_.book(worklist);
+        book();
+        confirm();
+    }
+    /// Marks what a customer gets.
+    void open() {
+        customer_ = 1 + below(2);
+        stage_.open_worklist(customer_);
+        worklist_ = book_.worklist(customer_);
+        mark();
+    }
+    void book(const faults& strike = nullptr) {
+        under(strike, [&] { stage_.app.mirorcr->bottone[1].click(); });
+        book_.book(worklist_);
+    }
+    void confirm(const faults& strike = nullptr) {
         mirorca& screen = *stage_.app.mirorca;
+        auto lines = book_.lines_of(worklist_);
         if (!lines.empty() && below(3) == 0) {
             lines[0].quantity = below(100) - 10;
-            stage_.desk.dispatch([&] {
-                screen.quantita[0].set_text(std::to_string(static_cast<int>(lines[0].quantity)));
-            });
+            stage_.desk.dispatch(
+                [&] { screen.quantita[0].set_text(plain_text(lines[0].quantity)); });
         }
         const bool unload = below(4) != 0;
         stage_.desk.dispatch([&] { screen.scarica.set_on(unload); });
         answers_.clear();
-        stage_.desk.dispatch([&] { screen.comando[1].click(); });
+        under(strike, [&] { screen.comando[1].click(); });
         std::size_t asked = 0;
+        const auto answer = [&] { return asked < answers_.size() && answers_[asked++]; };
         const double when = stage_.app.data_sistema;
         const std::string label = "DDT n." + std::to_string(book_.documented.ultimo_numero + 1);
-        if (unload) {
-            book_.unload(lines, customer, label, when, [&] { return answers_.at(asked++); });
-        }
-        if (answers_.at(asked)) book_.document(customer, unload, when);
+        if (unload) book_.unload(lines, customer_, label, when, answer);
+        book_.document_from = book_.writes;
+        if (answer()) book_.document(customer_, unload, when);
     }
 
     void compare() {
-        EXPECT_FALSE(stage_.desk.ended());
         const auto same = [&](const char* name, const std::string& kept) {
-            const std::string found = file_bytes(stage_.company.file(name));
+            const std::string found = stage_.company.content(name);
             const auto at = std::ranges::mismatch(found, kept).in1 - found.begin();
             EXPECT_TRUE(found == kept) << name << " differs at " << at;
         };
@@ -189,11 +230,29 @@ class session {
         EXPECT_EQ(counter(contatori::magazzino), bytes_of(std::vector{book_.moved}));
         EXPECT_EQ(counter(contatori::documenti_trasporto), bytes_of(std::vector{book_.documented}));
     }
+    [[nodiscard]] const auto& ended() const { return stage_.desk.ended(); }
+    [[nodiscard]] const books& kept() const { return book_; }
+    [[nodiscard]] bool orders_open() const { return stage_.app.archives.orc.is_open(); }
 
  private:
     int below(int limit) { return static_cast<int>(random_() % static_cast<unsigned>(limit)); }
 
-    void mark(std::vector<books::open_row>& worklist) {
+    /// Does something while files may fail; where the program stops, the books stop.
+    template <class Work>
+    void under(const faults& strike, const Work& work) {
+        const std::size_t writes_before = stage_.faults.writes;
+        const ui::form* screen = stage_.desk.active();
+        book_.writes = 0;
+        if (strike) strike(stage_.faults, book_);
+        stage_.desk.dispatch(work);
+        if (!ended() && stage_.desk.active() != screen) return;
+        book_.write_fails = [made = stage_.faults.writes - writes_before](int n) {
+            return static_cast<std::size_t>(n) > made;
+        };
+    }
+
+    void mark() {
+        auto& worklist = worklist_;
         const auto in_full = [&](books::open_row& row) {
             const rec_orc& open = book_.rows[row.record];
             row.leaving = open.quantita - open.evaso;
@@ -233,6 +292,8 @@ class session {
     std::mt19937 random_;
     fulfil_stage stage_;
     books book_;
+    int customer_ = 0;
+    std::vector<books::open_row> worklist_;
     std::vector<bool> answers_;
 };
 
@@ -242,8 +303,95 @@ TEST(fulfil_sessions, LeaveTheBooksAsKeptByHand) {
         session one(seed);
         for (int i = 0; i < 5; ++i) one.fulfil();
         one.compare();
+        EXPECT_FALSE(one.ended());
         if (HasFailure()) return;
     }
+}
+
+/// Every read and write fails in turn, once and from there on, or the process ends at it. Booking
+/// and unloading end the program at the first fault; what was written before it stands. A document
+/// passes over what can't be written.
+TEST(fulfil_sessions, AFaultLeavesTheStepsThatWereDone) {
+    enum fault { end, write_once, writes, read_once, reads };
+    const auto try_out = [](unsigned seed, bool booking, fault kind, int n) {
+        int count = 0;
+        const bool once = kind != writes && kind != reads;
+        const auto fails = [=](int at) { return once ? at == n : at >= n; };
+        const auto strike = [&](faulty_files& faults, books& book) {
+            if (kind == read_once || kind == reads) {
+                faults.read_fails = [&](auto&&...) { return fails(++count); };
+            } else {
+                faults.write_fails = [&](const std::string& path, auto) {
+                    if (path.ends_with("rto") || !fails(++count)) return false;
+                    if (kind == end) throw crash{};
+                    return true;
+                };
+                book.write_fails = fails;
+            }
+        };
+        SCOPED_TRACE(std::to_string(seed) + (booking ? " booking " : " confirmed ") +
+                     std::to_string(kind) + " " + std::to_string(n));
+        session one(seed);
+        one.open();
+        if (booking) {
+            one.book(strike);
+        } else {
+            one.book();
+            one.confirm(strike);
+        }
+        one.compare();
+        if (kind == write_once && count >= n) {
+            EXPECT_EQ(one.ended().has_value(), booking || n <= one.kept().document_from);
+        }
+        if (one.ended()) {
+            EXPECT_EQ(one.ended()->message,
+                      kind == end
+                          ? "Errore imprevisto"
+                          : "Errore di run-time: un archivio non si lascia leggere o scrivere");
+            EXPECT_FALSE(one.orders_open());
+        }
+        return count >= n;
+    };
+    for (const unsigned seed : {3, 6}) {
+        for (const bool booking : {true, false}) {
+            for (const fault kind : {end, write_once, writes, read_once, reads}) {
+                for (int n = 1; try_out(seed, booking, kind, n); ++n) {
+                    if (HasFailure()) return;
+                }
+            }
+        }
+    }
+}
+
+TEST(fulfil_sessions, CountersAndDocumentsFollowTheDisk) {
+    fulfil_stage stage;
+    stage.order(1, 1, {{1, 5}, {2, 3}});
+    stage.run();
+    stage.open_worklist(1);
+    stage.click(1, mirorcr::ordine);
+    stage.book();
+    stage.confirm({true, false, false});
+    std::string order;
+    for (const auto& event : stage.faults.events) {
+        order += event.path.substr(event.path.find_last_of(".\\") + 1) + (event.flush ? "! " : " ");
+    }
+    EXPECT_EQ(order,
+              "art orc art orc orc art! orc! art mag art mag art! mag! tot tot! "
+              "tot bol tot! bol! b1 b1! ");
+}
+
+TEST(fulfil_sessions, AFullCounterOfMovementsEndsTheProgramAfterTheArticle) {
+    fulfil_stage stage;
+    stage.order(1, 1, {{1, 5}, {2, 3}});
+    stage.company.counter(contatori::magazzino, 32767);
+    stage.run();
+    stage.open_worklist(1);
+    stage.click(1, mirorcr::ordine);
+    stage.book();
+    stage.confirm({false});
+    EXPECT_EQ(stage.desk.ended()->message, "Errore di run-time '6': Overflow");
+    EXPECT_EQ(stage.article_now(1).giacenza, 95);
+    EXPECT_EQ(stage.article_now(2).giacenza, 100);
 }
 
 }  // namespace

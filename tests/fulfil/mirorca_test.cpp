@@ -26,13 +26,11 @@ std::vector<std::string> snapshot(const small_company& company, const std::strin
 struct document_stage : fulfil_stage {
     explicit document_stage(int automatic_weight = 1) {
         order(1, 1, {{1, 5}, {0, 0, 0, "fragile"}, {2, 200}});
-        rec_gnr general{};
-        channel<rec_gnr> file(real.open_records("\\mirwin\\mirwin\\miraz0.001\\vantora.gnr"));
-        file.read(1, general);
-        general.peso_automatico = static_cast<std::int16_t>(automatic_weight);
-        file.write(1, general);
-        company.counter(contatori::documenti_trasporto, 7, 41);
-        company.counter(contatori::magazzino, 9);
+        change_stored(gnr, 1, [&](rec_gnr& general) {
+            general.peso_automatico = static_cast<std::int16_t>(automatic_weight);
+        });
+        counter(contatori::documenti_trasporto, 7, 41);
+        counter(contatori::magazzino, 9);
         run();
         open_worklist(1);
         click(1, mirorcr::ordine);
@@ -69,18 +67,14 @@ TEST(mirorca, MovementRecordAndSnapshotSayWhatLeft) {
         stage.screen().Text.choose({2024, 5, 7});
     });
     stage.confirm({false, true, false, false});
-    rec_mag moved;
-    stage.company.files.mag.read(10, moved);
+    const rec_mag moved = stored(stage.files.mag, 10);
     EXPECT_EQ(moved.data.full(), "20240507");
     EXPECT_EQ(moved.documento.trimmed(), "rif. 7");
     EXPECT_EQ(moved.prezzo, 8.55);
-    EXPECT_EQ(stage.article_now(1).valore_scaricato, 8.55 * 5);
-    rec_bol stored;
-    stage.company.files.bol.read(8, stored);
-    EXPECT_EQ(stored.data.full(), "20240506");
+    EXPECT_EQ(stored(stage.files.bol, 8).data.full(), "20240506");
     EXPECT_EQ(stage.app.mirorc->elenco.text(1, mirorc::evasione), "EVASO");
 
-    const auto lines = snapshot(stage.company, "b1");
+    const auto lines = snapshot(stage, "b1");
     ASSERT_EQ(lines.size(), 2020U);
     std::string head;
     for (int i = 0; i < 20; ++i)
@@ -110,7 +104,7 @@ TEST(mirorca, DocumentCountersAtTheirLimits) {
         counter.quanti = 32767;
         counter.ultimo_numero = 41;
         counter.progressivo = one.progressive;
-        stage.company.files.tot.write(contatori::documenti_trasporto, counter);
+        stage.files.tot.write(contatori::documenti_trasporto, counter);
         stage.app.mirorcc->Text3[0].set_text("40000");
         stage.desk.dispatch([&] { stage.screen().scarica.toggle(); });
         stage.confirm({true, false, false});
@@ -118,9 +112,17 @@ TEST(mirorca, DocumentCountersAtTheirLimits) {
         EXPECT_EQ(counter.quanti, 32767);
         EXPECT_EQ(counter.ultimo_numero, 41);
         EXPECT_TRUE(counter.progressivo == one.next || one.next == 0) << counter.progressivo;
-        EXPECT_EQ(snapshot(stage.company, one.file).size(), 2020U) << one.progressive;
-        EXPECT_EQ(std::filesystem::file_size(stage.company.file("bol")), 32767U * 97);
+        EXPECT_EQ(snapshot(stage, one.file).size(), 2020U) << one.progressive;
+        EXPECT_EQ(std::filesystem::file_size(stage.file("bol")), 32767U * 97);
     }
+}
+
+TEST(mirorca, ADocumentIsCountedWithoutTheCopyThatCantBeMade) {
+    document_stage stage;
+    std::filesystem::create_directory(stage.file("x").replace_filename("b1"));
+    stage.confirm({false, true, false, false});
+    EXPECT_FALSE(stage.desk.ended());
+    EXPECT_EQ(stage.counter_now(contatori::documenti_trasporto).quanti, 8);
 }
 
 TEST(mirorca, ClosingWritesNothingAndBoxesStayTickedUntilThen) {

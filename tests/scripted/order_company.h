@@ -25,14 +25,13 @@ struct order_company : small_company {
             rec_art one = article(code, std::string("articolo ") + code, 10);
             one.giacenza = 100;
             one.impegnato = 4;
-            one.ordinato_clienti = 50;
             one.peso = 0.25;
             all.push_back(one);
         }
         articles(all);
     }
 
-    /// Writes order `block` of a customer and counts it.
+    /// Writes order `block` of a customer and counts it, on its articles too.
     void order(int block, int customer, const std::vector<order_line>& lines,
                bool committed = false) {
         std::vector<rec_orc> rows(righe_blocco);
@@ -55,27 +54,27 @@ struct order_company : small_company {
             row.prezzo = 10;
             row.sc1 = 10;
             row.iva = 4;
+            if (row.articolo < 1 || row.articolo > 3) continue;
+            change_stored(files.art, row.articolo, [&](rec_art& one) {
+                one.ordinato_clienti = one.ordinato_clienti + row.quantita - row.evaso;
+            });
         }
         files.orc.write_block(block_record(block, 1), rows);
         counter(contatori::ordini, block, block * 10);
     }
-    rec_art article_now(int number) {
-        rec_art one;
-        files.art.read(number, one);
-        return one;
-    }
+    rec_art article_now(int number) { return stored(files.art, number); }
     rec_orc row_now(int block, int number) {
-        rec_orc one;
-        files.orc.read(block_record(block, number), one);
-        return one;
+        return stored(files.orc, block_record(block, number));
     }
-    rec_tot counter_now(int number) {
-        rec_tot one;
-        files.tot.read(number, one);
-        return one;
+    rec_tot counter_now(int number) { return stored(files.tot, number); }
+
+    template <class Change>
+    void change_row(int block, int number, const Change& change) {
+        change_stored(files.orc, block_record(block, number), change);
     }
-    void set_row(int block, int number, const rec_orc& row) {
-        files.orc.write(block_record(block, number), row);
+    template <class Change>
+    void change_rows(int block, const Change& change) {
+        for (int number = 1; number <= righe_blocco; ++number) change_row(block, number, change);
     }
 };
 

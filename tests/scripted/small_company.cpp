@@ -18,8 +18,8 @@ small_company::small_company() {
     general.righe_alternate = "1";
     general.colore_riga_pari = 16579315;
     general.colore_riga_dispari = 16777215;
-    channel<rec_gnr>(port.open_records("\\mirwin\\mirwin\\miraz0.001\\vantora.gnr"))
-        .write(1, general);
+    gnr = channel<rec_gnr>(port.open_records("\\mirwin\\mirwin\\miraz0.001\\vantora.gnr"));
+    gnr.write(1, general);
 }
 
 std::filesystem::path small_company::file(const std::string& extension) const {

@@ -4,9 +4,25 @@
 #include <vector>
 
 #include "store/archives.h"
+#include "support/file_bytes.h"
 #include "support/scratch_folder.h"
 
 namespace vantora::test {
+
+/// What a record holds now.
+template <class Record>
+Record stored(const channel<Record>& in, std::int64_t number) {
+    Record one{};
+    in.read(number, one);
+    return one;
+}
+
+template <class Record, class Change>
+void change_stored(channel<Record>& in, std::int64_t number, const Change& change) {
+    Record one = stored(in, number);
+    change(one);
+    in.write(number, one);
+}
 
 /// A company with customers and articles, in a folder of its own, for tests of whole screens.
 class small_company {
@@ -24,10 +40,14 @@ class small_company {
     /// `quanti` and `ultimo_numero` of a counters record.
     void counter(int record, int in_use, int last_number = 0);
     void text(const std::string& extension, const std::vector<std::string>& lines);
+    [[nodiscard]] std::string content(const std::string& extension) const {
+        return bytes_of(file(extension));
+    }
     /// "vantora.tab" with some rates, payments and carriers.
     void table_file();
 
     archivi files;
+    channel<rec_gnr> gnr;
 
  private:
     scratch_folder folder_;
