@@ -18,19 +18,19 @@ struct customer_desk : company_stage {
     /// Searches for a name; gives the text of the box that comes up, answered.
     std::string search(std::string_view name) {
         std::string told;
-        around.user.actions = {[&] {
-            told = around.desk.open_box()->text;
-            around.desk.answer_box(ui::answer::ok);
+        front.actions = {[&] {
+            told = desk.open_box()->text;
+            desk.answer_box(ui::answer::ok);
         }};
         app.mirorcx->nome.set_text(name);
         app.mirorcx->b_cerca.click();
-        around.user.actions.clear();
+        front.actions.clear();
         return told;
     }
 
     /// Opens the pick list, looks at it, and leaves it by its button.
     void with_pick_list(const std::function<void(mirsel&)>& look) {
-        around.user.actions = {[&] {
+        front.actions = {[&] {
             look(*app.mirsel);
             app.mirsel->indice.click();
         }};

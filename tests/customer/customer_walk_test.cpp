@@ -14,7 +14,7 @@ namespace {
 /// What stands on the screen, found with one read a record. What can't be read stays as it was.
 struct plain_head {
     explicit plain_head(customer_desk& desk) {
-        apri_archivi(files, desk.files, 1);
+        apri_archivi(files, desk.faults, 1);
         start();
     }
 
@@ -115,7 +115,7 @@ class customer_walk : public testing::Test {
         const int row = below(static_cast<int>(rows.size()) + 2) + 1;
         const bool closes = below(2) == 0;
         head.nome.set_text(wanted);
-        desk.around.user.actions = {
+        desk.front.actions = {
             [&] {
                 mirsel& list = *desk.app.mirsel;
                 EXPECT_EQ(list.elenco.rows(), std::max<std::size_t>(rows.size() + 1, 26));
@@ -126,11 +126,11 @@ class customer_walk : public testing::Test {
                 }
                 list.elenco.click_cell(row, below(5));
                 if (!desk.app.mirsel.loaded()) return;
-                closes ? desk.around.desk.close(list) : list.indice.click();
+                closes ? desk.desk.close(list) : list.indice.click();
             },
-            [&] { desk.around.desk.answer_box(ui::answer::ok); }};
+            [&] { desk.desk.answer_box(ui::answer::ok); }};
         head.b_lista.click();
-        desk.around.user.actions.clear();
+        desk.front.actions.clear();
         const bool chosen =
             row <= std::ssize(rows) && rows[static_cast<std::size_t>(row - 1)].second > 0;
         if (chosen) plain.search(rows[static_cast<std::size_t>(row - 1)].first);

@@ -69,7 +69,7 @@ TEST_F(mirorcm_screen, MovesTheOrderToALivingCustomerOnly) {
 TEST_F(mirorcm_screen, AChoiceFromTheListIsLookedUpAndNoChoiceComesBackToTheOrdersCustomer) {
     open(1);
     for (const auto& [chooses, position] : {std::pair{true, 4}, {false, 3}}) {
-        desk->around.user.actions = {[&, chooses = chooses] {
+        desk->front.actions = {[&, chooses = chooses] {
             chooses ? void(app->mirsel->elenco.click_cell(3, 0)) : app->mirsel->indice.click();
         }};
         app->mirorcm->b_lista.click();

@@ -57,12 +57,8 @@ int collect_nameless(QAccessibleInterface* at, const QStringList& captions, QStr
 using accessibility = test::program_window;
 
 TEST_F(accessibility, EveryControlOfEveryScreenIsCalledByItsCaption) {
-    screen_place* const screens[] = {
-        &app.mirorc,  &app.mirorcx, &app.mirorcm, &app.mirsel,  &app.mirdata, &app.mirorcs,
-        &app.mirorcz, &app.mirorcb, &app.mirpref, &app.mirorcc, &app.mirorcr, &app.mirorca,
-        &app.mirstoe, &app.mirstos, &app.mirstov, &app.mirston, &app.mirstoa};
-    const auto hear_all = [&] {
-        for (screen_place* place : screens) {
+    run({[&] {
+        for (screen_place* place : all_screens()) {
             form* screen = nullptr;
             bench.desk.dispatch([&] { screen = &place->use(); });
             for (QWidget* window : QApplication::topLevelWidgets()) {
@@ -73,8 +69,7 @@ TEST_F(accessibility, EveryControlOfEveryScreenIsCalledByItsCaption) {
                 EXPECT_EQ(nameless.join(", ").toStdString(), "") << screen->name();
             }
         }
-    };
-    run({hear_all});
+    }});
 }
 
 TEST_F(accessibility, TextsLinesAndHandlesStandOut) {

@@ -1,17 +1,11 @@
-#include <gtest/gtest.h>
-
 #include <QDialog>
 #include <QFile>
 #include <QLabel>
 #include <QRegularExpression>
 #include <set>
 
-#include "app/start.h"
-#include "scripted/small_company.h"
-#include "store/drive.h"
+#include "program_window.h"
 #include "ui/desktop/keys.h"
-#include "ui/pictures/pixbuf_decoder.h"
-#include "window_bench.h"
 
 namespace vantora::ui::desktop {
 namespace {
@@ -39,28 +33,11 @@ key_set keys_in(const char* file, const char* from, const char* to, const char* 
     return keys;
 }
 
-/// The program's windows, all loaded.
-class keys : public testing::Test {
- protected:
-    void run(std::vector<std::function<void()>> steps) {
-        bench.run([this] { start(app, "ordini001"); }, std::move(steps));
-    }
-
-    vantora::test::small_company company;
-    drive files{company.drive()};
-    test::window_bench bench;
-    ui::pixbuf_decoder pictures;
-    program app{files, bench.desk, pictures};
-};
+using keys = test::program_window;
 
 TEST_F(keys, ManualAndReadmeTellTheKeysThatTheWindowsHave) {
     run({[&] {
-        for (ui::screen_place* place : std::initializer_list<ui::screen_place*>{
-                 &app.mirorcx, &app.mirorcs, &app.mirsel, &app.mirorcz, &app.mirorcm, &app.mirorcb,
-                 &app.mirpref, &app.mirorcc, &app.mirorcr, &app.mirorca, &app.mirstoe, &app.mirstos,
-                 &app.mirstov, &app.mirston, &app.mirstoa}) {
-            place->use();
-        }
+        for (screen_place* place : all_screens()) place->use();
         key_set windows;
         for (const QWidget* window : QApplication::topLevelWidgets()) {
             for (const told_key* one : keys_of(*window)) {

@@ -2,7 +2,6 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QListView>
-#include <QMessageBox>
 
 #include "entry/mirorcs.h"
 #include "program_window.h"
@@ -16,8 +15,8 @@ class order_window : public test::program_window {
  protected:
     order_window() {
         using vantora::test::article;
-        company.customers(
-            {vantora::test::customer_named("Alfa"), vantora::test::customer_named("Zeta")});
+        using vantora::test::customer_named;
+        company.customers({customer_named("Alfa"), customer_named("Zeta")});
         std::vector<rec_art> articles{article("A100", "Dado", 10), article("A200", "Vite", 25),
                                       article("A300", "Rondella", 5)};
         articles[2].codice_barre = "8001";
@@ -205,10 +204,9 @@ TEST_F(order_window, PastedLinesAndSlipsAreTakenBack) {
              press(Qt::Key_V, Qt::ControlModifier);
          },
          [&] {
-             auto* box = qobject_cast<QMessageBox*>(bench.front.front_window());
-             ASSERT_TRUE(box);
-             EXPECT_TRUE(box->text().contains("riga 2: X")) << box->text().toStdString();
-             QTest::keyClick(box, Qt::Key_Return);
+             ASSERT_TRUE(box());
+             EXPECT_TRUE(box()->text().contains("riga 2: X")) << box()->text().toStdString();
+             QTest::keyClick(box(), Qt::Key_Return);
          },
          [&] {
              EXPECT_EQ(text("artic(0)") + text("quantita(0)"), "A2002");

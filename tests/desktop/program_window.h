@@ -1,7 +1,5 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QTableView>
@@ -20,6 +18,11 @@ class program_window : public testing::Test {
  protected:
     void run(std::vector<std::function<void()>> steps) {
         bench.run([this] { start(app, "ordini001"); }, std::move(steps));
+    }
+    std::vector<screen_place*> all_screens() {
+        return {&app.mirorc,  &app.mirorcx, &app.mirorcm, &app.mirsel,  &app.mirdata, &app.mirorcs,
+                &app.mirorcz, &app.mirorcb, &app.mirpref, &app.mirorcc, &app.mirorcr, &app.mirorca,
+                &app.mirstoe, &app.mirstos, &app.mirstov, &app.mirston, &app.mirstoa};
     }
     std::string front() { return bench.front.front_window()->objectName().toStdString(); }
     QMessageBox* box() { return qobject_cast<QMessageBox*>(bench.front.front_window()); }

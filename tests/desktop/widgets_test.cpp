@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include <QComboBox>
 #include <QDateEdit>
 #include <QLabel>
@@ -55,21 +53,7 @@ class trial final : public form {
     picture figura;
 };
 
-class widgets : public testing::Test {
- protected:
-    void run(std::vector<std::function<void()>> steps) {
-        bench.run(
-            [this] {
-                auto made = std::make_unique<trial>(bench.desk);
-                screen = made.get();
-                bench.desk.load(std::move(made)).show();
-            },
-            std::move(steps));
-    }
-
-    test::window_bench bench;
-    trial* screen = nullptr;
-};
+using widgets = test::window_of<trial>;
 
 TEST_F(widgets, KeysGoToTheEventsFirstAndMayBeSwallowed) {
     run({[&] {
@@ -92,8 +76,13 @@ TEST_F(widgets, KeysGoToTheEventsFirstAndMayBeSwallowed) {
         screen->altro.set_text("1.234,50");
         QTest::keyClick(bench.find("altro"), Qt::Key_Return);
         EXPECT_EQ(screen->altro.text(), "1234.50") << "the screen's own comma counts";
+        QTest::keyClick(bench.find("altro"), Qt::Key_Home);
+        QTest::keyClicks(bench.find("altro"), "a3");
+        EXPECT_EQ(screen->altro.text(), "31234.50") << "the refused letter left the cursor there";
         screen->testo.set_text("da fuori");
         EXPECT_EQ(bench.find<QLineEdit>("testo")->text(), "da fuori");
+        QTest::keyClick(bench.find("testo"), Qt::Key_Z, Qt::ControlModifier);
+        EXPECT_EQ(screen->testo.text(), "") << "what the hand found there";
     }});
 }
 
@@ -165,6 +154,7 @@ TEST_F(widgets, AListTakesTheRowThatIsHighlighted) {
                     ASSERT_EQ(list.row(), std::min(before + 1, rows));
                 }
                 ASSERT_TRUE(view->viewport()->rect().intersects(lit)) << key;
+                ASSERT_EQ(list.top_row(), view->verticalScrollBar()->value() + 1);
                 QTest::keyClick(view, Qt::Key_Return);
                 ASSERT_EQ(taken, list.row());
             }
@@ -178,11 +168,14 @@ TEST_F(widgets, ValuesFollowBothWays) {
     run({[&] {
         int changes = 0;
         screen->barra.on_change = [&] { ++changes; };
-        bench.find<QScrollBar>("barra")->setValue(40);
-        EXPECT_EQ(screen->barra.value(), 40);
+        auto* bar = bench.find<QScrollBar>("barra");
+        EXPECT_EQ(bar->maximum(), 100);
+        bar->setValue(40);
+        QTest::keyClick(bar, Qt::Key_Right);
+        EXPECT_EQ(screen->barra.value(), 41);
         screen->barra.set_value(50);
-        EXPECT_EQ(bench.find<QScrollBar>("barra")->value(), 50);
-        EXPECT_EQ(changes, 2);
+        EXPECT_EQ(bar->value(), 50);
+        EXPECT_EQ(changes, 3);
         screen->data.set_value({2024, 2, 29});
         EXPECT_EQ(bench.find<QDateEdit>("data")->text(), "29/02/2024");
         bench.find<QDateEdit>("data")->setDate(QDate(2025, 3, 4));

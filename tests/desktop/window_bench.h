@@ -1,5 +1,7 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <QApplication>
 #include <QSettings>
 #include <QTemporaryDir>
@@ -93,6 +95,23 @@ class window_bench {
     std::size_t next_ = 0;
     std::optional<stage> running_;  ///< how things stood when the step at work began
     QObject here_;
+};
+
+/// A screen of a test's own in its window.
+template <class Form>
+class window_of : public testing::Test {
+ protected:
+    void run(std::vector<std::function<void()>> steps) {
+        const auto open = [this] {
+            auto made = std::make_unique<Form>(bench.desk);
+            screen = made.get();
+            bench.desk.load(std::move(made)).show();
+        };
+        bench.run(open, std::move(steps));
+    }
+
+    window_bench bench;
+    Form* screen = nullptr;
 };
 
 }  // namespace vantora::ui::desktop::test

@@ -62,13 +62,9 @@ class any_report : public testing::Test {
         told_paper_.set_up(stage_.paper.orientation(), 1);
     }
 
-    foglio_report any_sheet(test::told_report& told) {
-        foglio_report sheet;
-        sheet.titolo = told.titolo = any_text();
-        sheet.righe_voce = told.righe_voce = 1 + upto(1);
-        sheet.righe_stampate = told.righe_stampate = upto(1);
-        told.numero_colonne = 1 + upto(7);
-        for (int i = 1; i <= told.numero_colonne; ++i) {
+    foglio_report any_sheet() {
+        foglio_report sheet{any_text(), {}, 1 + upto(1), upto(1)};
+        for (int columns = 1 + upto(7); columns > 0; --columns) {
             colonna_pagina& column = sheet.colonne.emplace_back();
             column.larghezza = some(1, 31);
             column.formato_cella = one_of<std::int16_t>({0, some(0, 8)});
@@ -76,12 +72,6 @@ class any_report : public testing::Test {
                 column.titolo_colonna[line] = any_text();
                 column.grassetto_cella[line] = upto(1) == 1;
                 column.corsivo_cella[line] = upto(1) == 1;
-                told.tabella[i + line * told.numero_colonne] = {column.titolo_colonna[line],
-                                                                "",
-                                                                column.larghezza,
-                                                                column.formato_cella,
-                                                                column.grassetto_cella[line],
-                                                                column.corsivo_cella[line]};
             }
         }
         return sheet;
@@ -89,10 +79,8 @@ class any_report : public testing::Test {
 
     void print_both(uscita_report uscita, int rows) {
         const bool is_file = uscita == uscita_report::pdf;
-        test::told_report told(stage_.app.parameters, told_paper_, is_file);
-        told.oggi = {2024, 5, 6};
-        foglio_report sheet = any_sheet(told);
-        stage_.time.stop_at({told.oggi, 10, 20, 30});
+        const foglio_report sheet = any_sheet();
+        test::told_report told(stage_.app.parameters, told_paper_, is_file, sheet, {2024, 5, 6});
         report_on_printer on_paper(stage_.paper);
         print_file_writer file(stage_.files, marca_verticale);
         report_in_print_file in_file(stage_.paper, file);
@@ -100,12 +88,10 @@ class any_report : public testing::Test {
         report_engine engine(stage_.app.parameters, stage_.time, out, uscita, sheet);
         bool is_page_open = false;
         for (int row = 0; row < rows; ++row) {
-            std::vector<std::string> texts;
-            for (int i = 1; i <= 2 * told.numero_colonne; ++i) {
-                texts.push_back(told.tabella[i].cella = any_cell());
-            }
+            std::vector<std::string> texts(2 * sheet.colonne.size());
+            for (std::string& one : texts) one = any_cell();
             engine.print_row(std::vector<std::string_view>(texts.begin(), texts.end()));
-            told.stampa_riga();
+            told.stampa_riga(texts);
             is_page_open = told.righe_stampate > 0;
         }
         engine.end_report();

@@ -8,25 +8,12 @@
 namespace vantora::test {
 namespace {
 
-/// Three orders of one article and one customer, the second fulfilled.
+/// Three orders of one article, the second fulfilled.
 struct report_screens : testing::Test {
     report_screens() {
-        stage.company.customers({customer_named("ROSSI")});
-        stage.company.articles({article("A1", "Vite", 2.5)});
-        rec_orc row{};
-        row.cliente = std::int16_t{1};
-        row.data_evasione = "20240701";
-        row.descrizione = "";
-        for (int i = 1; i <= 3; ++i) {
-            row.numero = std::to_string(i);
-            std::vector<rec_orc> block(righe_blocco, row);
-            block[0].articolo = std::int16_t{1};
-            block[0].quantita = 10;
-            block[0].prezzo = 2.5;
-            block[0].evaso = i == 2 ? 10 : 0;
-            stage.company.files.orc.write_block(block_record(i, 1), block);
+        for (const int number : {1, 2, 3}) {
+            stage.company.order(number, 1, {{1, 10, number == 2 ? 10.0 : 0, ""}});
         }
-        stage.company.counter(contatori::ordini, 3);
     }
     report_screen& open(ui::screen_place& place) {
         place.use().show();
@@ -43,9 +30,9 @@ struct report_screens : testing::Test {
     /// Presses Enter in one field after the other, and tells them.
     std::string enter_chain(report_screen& screen) {
         std::string chain;
-        while (stage.around.desk.focus() != &screen.bottone[report_screen::aggiorna]) {
-            chain += stage.around.desk.focus()->address() + " ";
-            stage.around.desk.focus()->press_key(ui::key::enter, '\r');
+        while (stage.desk.focus() != &screen.bottone[report_screen::aggiorna]) {
+            chain += stage.desk.focus()->address() + " ";
+            stage.desk.focus()->press_key(ui::key::enter, '\r');
         }
         return chain;
     }
@@ -83,19 +70,19 @@ TEST_F(report_screens, EnterGoesThroughTheFiltersAndBringsTheBoundsBack) {
         }
         screen.bottone[report_screen::uscita].click();
         EXPECT_FALSE(one.place.loaded());
-        EXPECT_EQ(stage.around.desk.active()->name(), "mirorc");
+        EXPECT_EQ(stage.desk.active()->name(), "mirorc");
     }
 }
 
 TEST_F(report_screens, TheSelectorsOfTheOrderListAreLinked) {
     report_screen& screen = open(app.mirstoe);
-    EXPECT_EQ(column(screen, 0), "1|2|3");
-    const std::size_t reads = stage.files.reads;
+    EXPECT_EQ(column(screen, 0), "10|20|30");
+    const std::size_t reads = stage.faults.reads;
     screen.Combo1.pick(report_screen::da_evadere);
     EXPECT_EQ(screen.Combo2.text(), "Analitico");
-    EXPECT_EQ(column(screen, 0), "1|3");
+    EXPECT_EQ(column(screen, 0), "10|30");
     EXPECT_EQ(column(screen, 5), "10,00|10,00");
-    EXPECT_LE(stage.files.reads - reads, 3U + 3 + 2) << "built once";
+    EXPECT_LE(stage.faults.reads - reads, 3U + 3 + 2) << "built once";
     screen.Combo2.pick(0);
     EXPECT_EQ(screen.Combo1.text(), "Tutti gli ordini");
     EXPECT_EQ(column(screen, 5), "");
@@ -103,32 +90,32 @@ TEST_F(report_screens, TheSelectorsOfTheOrderListAreLinked) {
 
 TEST_F(report_screens, ABuildGoesOnUnderTheHandsOfTheUser) {
     report_screen& screen = open(app.mirstov);
-    auto& user = stage.around.user;
+    auto& user = stage.front;
     user.pending = [&] {
-        const std::size_t reads = stage.files.reads;
+        const std::size_t reads = stage.faults.reads;
         build(screen);
         screen.bottone[report_screen::pdf].click();
-        EXPECT_EQ(stage.files.reads, reads);
+        EXPECT_EQ(stage.faults.reads, reads);
         EXPECT_GE(screen.srt.value(), 1);
         EXPECT_TRUE(screen.srt.visible());
     };
     build(screen);
-    EXPECT_EQ(column(screen, 4), "25,00|25,00|25,00|75,00");
+    EXPECT_EQ(column(screen, 4), "90,00|90,00|90,00|270,00");
     EXPECT_FALSE(screen.srt.visible());
-    EXPECT_TRUE(stage.around.programs.take_started().empty());
+    EXPECT_EQ(stage.desk.pointer_shape(), ui::pointer::normal);
+    EXPECT_TRUE(stage.programs.take_started().empty());
 
     user.pending = [&] { screen.Combo1.pick(report_screen::evasi); };
     build(screen);
-    EXPECT_EQ(column(screen, 4), "25,00|25,00") << "begins anew with the other choice";
+    EXPECT_EQ(column(screen, 4), "90,00|90,00") << "begins anew with the other choice";
 
-    stage.around.desk.dispatch([&] {
-        user.pending = [&] { stage.around.desk.close(screen); };
+    stage.desk.dispatch([&] {
+        user.pending = [&] { stage.desk.close(screen); };
         build(screen);
-        EXPECT_EQ(stage.around.desk.active()->name(), "mirorc");
-        EXPECT_EQ(stage.around.desk.pointer_shape(), ui::pointer::normal);
+        EXPECT_EQ(stage.desk.active()->name(), "mirorc");
     });
     EXPECT_FALSE(app.mirstov.loaded());
-    EXPECT_EQ(column(open(app.mirstov), 4), "25,00|25,00|25,00|75,00");
+    EXPECT_EQ(column(open(app.mirstov), 4), "90,00|90,00|90,00|270,00");
 }
 
 TEST_F(report_screens, ParametersAndCategoriesComeFromTheFilesOfTheMoment) {
@@ -136,15 +123,14 @@ TEST_F(report_screens, ParametersAndCategoriesComeFromTheFilesOfTheMoment) {
     std::vector<std::string> pdf(80, "altrove");
     pdf[5 * 4 + 2] = " C:\\Ordini ";
     stage.company.text("pdf", pdf);
-    std::ofstream(stage.company.file("eur").parent_path().parent_path() / "vantora.eur")
-        << "0\n1\nITL\nEUR\n2\n";
+    put(stage.company.drive() / "mirwin/mirwin/vantora.eur", "0\n1\nITL\nEUR\n2\n");
     EXPECT_EQ(open(app.mirstoa).Combo0.count(), 10001);
     EXPECT_EQ(column(*app.mirstoa, 0),
               "Per visualizzare il prospetto selezionare gli|articoli e/o gli ordini e clic sul "
               "bottone|'Aggiorna lista'");
     const std::string& folder = app.parameters.parametri_valuta[valuta_slot::cartella_pdf];
     EXPECT_EQ(folder, "C:\\Ordini");
-    EXPECT_EQ(column(open(app.mirstov), 4), "25|25|25|75") << "whole lire";
+    EXPECT_EQ(column(open(app.mirstov), 4), "90|90|90|270") << "whole lire";
     std::filesystem::remove(stage.company.file("pdf"));
     open(app.mirston);
     EXPECT_EQ(folder, "C:");
@@ -157,14 +143,17 @@ TEST_F(report_screens, PutTheirListOutAndLeaveAllFilesAsTheyWere) {
     for (ui::screen_place* place : std::initializer_list<ui::screen_place*>{
              &app.mirstoe, &app.mirstos, &app.mirstov, &app.mirston, &app.mirstoa}) {
         report_screen& screen = open(*place);
-        stage.around.user.answers.keep(ui::answer::ok);
+        screen.text2[0].set_text("01/01/2024");
+        stage.front.answers.keep(ui::answer::ok);
         screen.bottone[report_screen::pdf].click();
         build(screen);
-        stage.around.user.answers.keep(ui::answer::yes);
-        screen.bottone[report_screen::stampa].click();
-        EXPECT_EQ(stage.around.paper.take_jobs().size(), 1U) << screen.name();
-        EXPECT_EQ(stage.around.programs.take_started().size(), 1U) << screen.name();
-        stage.around.desk.close(screen);
+        for (const bool prints : {false, true}) {
+            stage.front.answers.keep(prints ? ui::answer::yes : ui::answer::no);
+            screen.bottone[report_screen::stampa].click();
+            EXPECT_EQ(stage.paper.take_jobs().size(), prints ? 1U : 0U) << screen.name();
+        }
+        EXPECT_EQ(stage.programs.take_started().size(), 1U) << screen.name();
+        stage.desk.close(screen);
     }
     EXPECT_EQ(files_under(folder), before);
 }

@@ -7,13 +7,14 @@
 #include "reports/mirstos.h"
 #include "reports/mirstov.h"
 #include "scripted/company_stage.h"
+#include "scripted/order_company.h"
 
 namespace vantora::test {
 
 using grid_rows = std::vector<std::vector<std::string>>;
 
 struct own_company {
-    small_company company;
+    order_company company;
 };
 
 /// The report screens over a company of their own.

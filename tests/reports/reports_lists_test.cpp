@@ -183,7 +183,7 @@ void compare_all_lists(unsigned seed, bool long_lists) {
     compare_lists(archive, stage, stage.app.mirstov, &told_lists::valuation, builds);
     compare_lists(archive, stage, stage.app.mirstoa, &told_lists::article_sheets, builds);
     compare_lists(archive, stage, stage.app.mirston, &told_lists::customer_sheets, builds);
-    EXPECT_TRUE(stage.files.events.empty()) << "a report wrote into a record file";
+    EXPECT_TRUE(stage.faults.events.empty()) << "a report wrote into a record file";
 }
 
 TEST(report_lists, AreThoseOfThePlainProcedure) {

@@ -19,16 +19,16 @@ class told_lists {
         : files_(files), screen_(screen), in_(parameters) {}
 
     grid_rows order_list() {
-        begin(9, 28);
+        begin(28);
         return by_order(0);
     }
     grid_rows schedule() {
-        begin(10, 28);
+        begin(28);
         return by_order(1);
     }
 
     grid_rows valuation() {
-        begin(6, 28);
+        begin(28);
         double total = 0;
         for (int i = first_; i <= last_; ++i) {
             double ordered = 0;
@@ -36,89 +36,76 @@ class told_lists {
             std::string text;
             for (int j = 1; j <= 200; ++j) {
                 read(i, j, row_);
-                if (j == 1) text = trim(row_.testo1);
+                if (j == 1) text = row_.testo1.trimmed();
                 if (row_.quantita == 0) continue;
                 ordered += net(row_.quantita);
                 fulfilled += net(row_.evaso);
             }
-            double value = ordered;
-            if (screen_.Combo1.chosen() == 1) value = ordered - fulfilled;
-            if (screen_.Combo1.chosen() == 2) value = fulfilled;
+            const double values[] = {ordered, ordered - fulfilled, fulfilled};
+            const double value = values[screen_.Combo1.chosen()];
             if (value == 0) continue;
-            next({trim(row_.numero), day(row_.data), text, name_of(row_.cliente),
+            next({row_.numero.trimmed(), day(row_.data), text, name_of(row_.cliente),
                   formato_importo(value, in_), std::to_string(i)});
             total += value;
         }
-        next({"", "", "Importo complessivo", "", formato_importo(total, in_), ""});
+        next({"", "", "Importo complessivo", "", formato_importo(total, in_)});
         return end();
     }
 
     grid_rows article_sheets() {
-        begin(8, 26);
+        begin(26);
         bring_bounds_back();
         rec_sra entry;
         for (int k = 1; k <= articles_; ++k) {
             files_.sra.read(k, entry);
             files_.art.read(entry.numero, article_);
             if (!article_passes()) continue;
-            std::string label = trim(trim(article_.codice) + " " + trim(article_.descrizione));
-            std::string number = std::to_string(entry.numero);
+            begin_sheet(code_and_text(article_.descrizione.trimmed()), entry.numero);
             for (int i = first_; i <= last_; ++i) {
                 for (int j = 1; j <= 200; ++j) {
                     read(i, j, row_);
                     if (row_.articolo != entry.numero) continue;
                     const std::string customer = name_of(row_.cliente);
                     read(i, 1, head_);
-                    next({label, trim(head_.numero), day(head_.data), trim(head_.testo1), customer,
-                          quantity(row_.quantita), quantity(row_.evaso), number});
-                    label = number = "";
-                    add_up();
+                    next_of_sheet({head_.numero.trimmed(), day(head_.data), head_.testo1.trimmed(),
+                                   customer});
                 }
             }
-            if (number.empty()) totals();
+            end_sheet();
         }
         return end();
     }
 
     grid_rows customer_sheets() {
-        begin(8, 28);
+        begin(28);
         bring_bounds_back();
         rec_src entry;
         for (int k = 1; k <= customers_; ++k) {
             files_.src.read(k, entry);
             files_.cli.read(entry.numero, customer_);
-            std::string name = trim(customer_.intestazione1);
+            const std::string_view name = customer_.intestazione1.trimmed();
             if (!in_bounds(upper(name)) || customer_.eliminato != 0) continue;
-            std::string number = std::to_string(entry.numero);
+            begin_sheet(name, entry.numero);
             for (int i = first_; i <= last_; ++i) {
                 read(i, 1, row_);
                 if (row_.cliente != entry.numero) continue;
                 for (int j = 1; j <= 200; ++j) {
                     read(i, j, row_);
-                    if (trim(row_.descrizione).empty() && row_.quantita == 0 && row_.prezzo == 0) {
-                        continue;
-                    }
-                    const bool known = row_.articolo >= 1 && row_.articolo <= articles_;
-                    next({name, "", "", "", text_of(known), quantity(row_.quantita),
-                          quantity(row_.evaso), number});
-                    if (j == 1) put(1, {trim(row_.numero), day(row_.data), trim(row_.testo1)});
-                    name = number = "";
-                    add_up();
+                    const bool blank = row_.descrizione.trimmed().empty();
+                    if (blank && row_.quantita == 0 && row_.prezzo == 0) continue;
+                    next_of_sheet({"", "", "", text_of(row_.articolo <= articles_)});
+                    if (j == 1)
+                        put(1, {row_.numero.trimmed(), day(row_.data), row_.testo1.trimmed()});
                 }
             }
-            if (number.empty()) totals();
+            end_sheet();
         }
         return end();
     }
 
  private:
-    static constexpr std::size_t rows_max = 31999;
+    using cells = std::initializer_list<std::string_view>;
 
-    template <std::size_t N>
-    static std::string trim(const text<N>& field) {
-        return std::string(trimmed(field.full()));
-    }
-    static std::string trim(std::string_view text) { return std::string(trimmed(text)); }
     static std::string day(const text<8>& stored) { return date_text_of_stored(stored.full()); }
     static std::string quantity(double value) {
         return value == 0 ? "" : masked(value, "########0.#0");
@@ -127,7 +114,7 @@ class told_lists {
         return static_cast<int>(std::nearbyint(number_at_head(field.text())));
     }
 
-    void begin(std::size_t columns, std::size_t least_rows) {
+    void begin(std::size_t least_rows) {
         const auto count = [this](int which) {
             rec_tot counter;
             files_.tot.read(which, counter);
@@ -138,14 +125,11 @@ class told_lists {
         orders_ = count(contatori::ordini);
         first_ = number_in(screen_.text1[0]);
         last_ = number_in(screen_.text1[1]);
-        columns_ = columns;
         least_rows_ = least_rows;
-        // Each build looks customers, articles and heads up afresh; the row goes on from build to
-        // build.
+        // Each build looks these up afresh; the row goes on from build to build.
         customer_ = {};
         article_ = {};
         head_ = {};
-        ordered_ = fulfilled_ = 0;
         rows_.clear();
     }
     void bring_bounds_back() {
@@ -153,15 +137,15 @@ class told_lists {
         if (last_ > orders_) last_ = orders_;
         if (last_ < first_) first_ = last_;
     }
-    void next(std::vector<std::string> cells) {
-        cells.resize(columns_);
-        rows_.push_back(std::move(cells));
+    void next(cells of) {
+        rows_.emplace_back(screen_.elenco.cols());
+        put(0, of);
     }
-    void put(std::size_t col, const std::vector<std::string>& cells) {
-        for (const std::string& one : cells) rows_.back()[col++] = one;
+    void put(std::size_t col, cells of) {
+        for (const std::string_view one : of) rows_.back()[col++] = one;
     }
     grid_rows end() {
-        if (rows_.size() > rows_max) rows_.resize(rows_max);
+        rows_.resize(std::min<std::size_t>(rows_.size(), 31999));
         while (rows_.size() + 1 < least_rows_) next({});
         return rows_;
     }
@@ -170,16 +154,19 @@ class told_lists {
     std::string name_of(int customer) {
         if (customer < 1 || customer > customers_) return "";
         files_.cli.read(customer, customer_);
-        return trim(customer_.intestazione1);
+        return std::string(customer_.intestazione1.trimmed());
     }
-    std::string text_of(bool article) {
-        if (!article) return trim(full(row_.descrizione) + full(row_.descrizione2));
+    std::string code_and_text(std::string_view text) {
+        return std::string(
+            trimmed(std::string(article_.codice.trimmed()) + " " + std::string(text)));
+    }
+    std::string text_of(bool known) {
+        if (!known || row_.articolo < 1) {
+            std::string both(row_.descrizione.full());
+            return std::string(trimmed(both.append(row_.descrizione2.full())));
+        }
         files_.art.read(row_.articolo, article_);
-        return trim(trim(article_.codice) + " " + full(article_.descrizione));
-    }
-    template <std::size_t N>
-    static std::string full(const text<N>& field) {
-        return std::string(field.full());
+        return code_and_text(article_.descrizione.full());
     }
 
     bool order_is_open(int order) {
@@ -201,25 +188,23 @@ class told_lists {
             bool shown = false;
             for (int j = 1; j <= (all_rows ? 200 : 1); ++j) {
                 read(i, j, row_);
-                if (row_.quantita == 0 && trim(row_.descrizione).empty()) continue;
-                if (due && (full(row_.data_evasione) < from || full(row_.data_evasione) > to)) {
-                    continue;
-                }
+                if (row_.quantita == 0 && row_.descrizione.trimmed().empty()) continue;
+                const std::string_view until = row_.data_evasione.full();
+                if (due && (until < from || until > to)) continue;
                 if (!due && choice == 1 && row_.quantita <= row_.evaso) continue;
                 if (!due && choice == 2 && row_.quantita > row_.evaso) continue;
                 const std::string customer = name_of(row_.cliente);
                 next({});
                 put(7 + due, {std::to_string((i - 1) * 200 + j)});
                 if (!shown) {
-                    put(0, {trim(row_.numero), day(row_.data), trim(row_.testo1)});
+                    put(0, {row_.numero.trimmed(), day(row_.data), row_.testo1.trimmed()});
                     if (due) put(3, {day(row_.data_evasione)});
                     put(3 + due, {customer});
                     put(8 + due, {std::to_string(i)});
                 }
                 shown = true;
                 if (!all_rows) continue;
-                put(4 + due,
-                    {text_of(row_.articolo >= 1), quantity(row_.quantita), quantity(row_.evaso)});
+                put(4 + due, {text_of(true), quantity(row_.quantita), quantity(row_.evaso)});
             }
         }
         return end();
@@ -253,14 +238,22 @@ class told_lists {
                begins(article_.descrizione.full(), screen_.Text3) && article_.eliminato == 0;
     }
 
-    void add_up() {
+    void begin_sheet(std::string_view label, int number) {
+        label_ = label;
+        number_ = std::to_string(number);
+        ordered_ = fulfilled_ = 0;
+    }
+    void next_of_sheet(cells of) {
+        next({label_, "", "", "", "", quantity(row_.quantita), quantity(row_.evaso), number_});
+        put(1, of);
+        label_ = number_ = "";
         ordered_ += row_.quantita;
         fulfilled_ += row_.evaso;
     }
-    void totals() {
+    void end_sheet() {
+        if (!number_.empty()) return;
         next({"", "", "", "Totale", "", quantity(ordered_), quantity(fulfilled_)});
         next({});
-        ordered_ = fulfilled_ = 0;
     }
 
     archivi& files_;
@@ -276,8 +269,9 @@ class told_lists {
     int orders_ = 0;
     int first_ = 1;
     int last_ = 0;
-    std::size_t columns_ = 0;
     std::size_t least_rows_ = 0;
+    std::string label_;  ///< of a sheet, for its first row
+    std::string number_;
     double ordered_ = 0;
     double fulfilled_ = 0;
     grid_rows rows_;

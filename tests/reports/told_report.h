@@ -1,75 +1,62 @@
 #pragma once
 
-#include <array>
 #include <cmath>
-#include <string>
-#include <vector>
 
-#include "store/parameters.h"
-#include "store/text/code_page.h"
+#include "reports/report_engine.h"
 #include "store/text/dates.h"
 #include "store/text/number_text.h"
-#include "store/values.h"
-#include "ui/printer.h"
 
 namespace vantora::test {
 
 /// The pages of a report, made step by step as a person would tell it, on the printer in twips or
 /// into the print file in millimetres. What the engine makes of its figures is held against it.
 struct told_report {
-    struct voce {
-        std::string titolo_colonna;
-        std::string cella;
-        int larghezza = 0;
-        int formato_cella = 0;
-        bool grassetto_cella = false;
-        bool corsivo_cella = false;
-    };
-
-    told_report(const parametri& by, ui::printer& on, bool into_file)
-        : parameters(by), paper(on), in_file(into_file), grigio(stile(1).stile == 1) {}
+    told_report(const parametri& by, ui::printer& on, bool into_file, foglio_report of, date today)
+        : parameters(by),
+          paper(on),
+          in_file(into_file),
+          foglio(std::move(of)),
+          oggi(today),
+          grigio(stile(1).stile == 1),
+          righe_stampate(foglio.righe_stampate) {}
 
     const parametri& parameters;
     ui::printer& paper;
     bool in_file;
-    bool grigio;
-    std::string file;  ///< the records of the print file
-    std::string titolo;
+    foglio_report foglio;
     date oggi;
-    int numero_colonne = 0;
-    int righe_voce = 1;
-    std::array<voce, 61> tabella{};
-    int righe_stampate = 0;
-    int numero_pagina = -1;
+    bool grigio;
+    int righe_stampate;
+    int numero_pagina = 0;
+    std::string file;  ///< the records of the print file
 
-    void stampa_riga() {
+    void stampa_riga(const std::vector<std::string>& celle) {
         limiti();
         const bool dispari = righe_stampate % 2 == 1;
         const voce_stampa& entry = stile(grigio ? 5 : 4);
         const ui::font in =
             in_file && !grigio ? ui::font{"Arial", 0.0 + entry.corpo_carattere} : carattere(entry);
         const double passo = stile(0).altezza;
-        const double altezza = righe_voce == 1 || !grigio ? o(220, 4) : o(420, 7);
+        const double altezza = foglio.righe_voce == 1 || !grigio ? o(220, 4) : o(420, 7);
         const double y = riga_y();
         if (!in_file && !grigio && dispari && stile(0).sfondo != 16777215) {
             riquadro(sx, y - 0.1 * passo, dx, y + 0.85 * passo, stile(0).sfondo, true);
         }
-        for (const colonna& c : colonne()) {
+        for (colonna& c : colonne()) {
             if (grigio && stile(2).altezza == 1) {
                 riquadro(c.x, y, c.fine, y + altezza, stile(dispari ? 1 : 2).sfondo, true);
             }
-            for (int linea = 0; linea < linee(); ++linea) {
-                const voce& one = tabella[c.i + linea * numero_colonne];
-                ui::font misura = in;
-                if (grigio && !in_file && one.grassetto_cella) misura.bold = true;
-                if (grigio && !in_file && one.corsivo_cella) misura.italic = true;
-                ui::font scritta = misura;
-                if (grigio && in_file) scritta.bold = one.grassetto_cella;
-                if (grigio && in_file) scritta.italic = one.corsivo_cella;
-                std::string cella = formattata(one.cella, c.formato);
+            for (std::size_t linea = 0; linea < linee(); ++linea) {
+                ui::font scritta = in;
+                if (grigio) scritta.bold = c.di.grassetto_cella[linea] || (!in_file && in.bold);
+                if (grigio) scritta.italic = c.di.corsivo_cella[linea] || (!in_file && in.italic);
+                const ui::font& misura = in_file ? in : scritta;
+                std::string cella =
+                    formattata(celle[c.i + linea * foglio.colonne.size()], c.di.formato_cella);
                 adatta(cella, c.spazio, misura);
-                in_colonna(c, y + (grigio ? o(20 + 200 * linea, 3 * linea) : 0), cella, misura,
-                           scritta, grigio && in_file ? 0 : entry.colore);
+                const double scende = linea == 0 ? o(20, 0) : o(220, 3);
+                in_colonna(c, y + (grigio ? scende : 0), cella, misura, scritta,
+                           grigio && in_file ? 0 : entry.colore);
                 if (in_file && !grigio) file.replace(file.size() - 10, 10, "0\r\n0\r\n");
             }
         }
@@ -88,15 +75,15 @@ struct told_report {
         limiti();
         grigio ? testata_grigia() : testata_piana();
         const ui::font in = grigio ? ui::font{"Verdana", 8} : carattere(stile(3));
-        for (const colonna& c : colonne()) {
-            if (grigio)
-                riquadro(c.x, alto + o(1200, 24), c.fine, alto + o(1550, 31), 0xdddddd, true);
-            for (int linea = 0; linea < linee(); ++linea) {
-                std::string& text = tabella[c.i + linea * numero_colonne].titolo_colonna;
+        const double due[] = {o(1200, 24), o(1370, 27)};
+        for (colonna& c : colonne()) {
+            if (grigio) riquadro(c.x, alto + due[0], c.fine, alto + o(1550, 31), 0xdddddd, true);
+            for (std::size_t linea = 0; linea < linee(); ++linea) {
+                std::string& text = c.di.titolo_colonna[linea];
                 adatta(text, c.spazio, in);
-                double y = o(900, 15);
-                if (grigio)
-                    y = righe_voce == 1 ? o(1300, 26) : linea == 0 ? o(1200, 24) : o(1370, 27);
+                const double y = !grigio                  ? o(900, 15)
+                                 : foglio.righe_voce == 1 ? o(1300, 26)
+                                                          : due[linea];
                 in_colonna(c, alto + y, text, in, grigio ? ui::font{"Verdana", o(8, 9)} : in,
                            grigio ? 0 : stile(3).colore);
             }
@@ -111,7 +98,8 @@ struct told_report {
     inline static const std::string nota_piede = "Vantora Ordini - www.vantora.example";
 
     struct colonna {
-        int i, formato;
+        colonna_pagina& di;
+        std::size_t i;
         double x;       ///< left edge
         double bordo;   ///< right edge
         double fine;    ///< right edge of its box
@@ -127,21 +115,22 @@ struct told_report {
         return {one.nome_carattere, 0.0 + one.corpo_carattere, one.grassetto != 0,
                 one.corsivo != 0};
     }
-    int linee() const { return grigio ? righe_voce : 1; }
+    std::size_t linee() const { return grigio && foglio.righe_voce == 2 ? 2 : 1; }
     double larga(const std::string& text, const ui::font& in) const {
         return paper.text_width(text, in) * o(twip, 1);
     }
     double riga_y() const {
         const double passo = stile(0).altezza;
         if (!grigio) return o(1300 + passo * righe_stampate, 22 + 4 * righe_stampate) + alto;
-        return righe_voce == 1
-                   ? o(1630 + 250 * righe_stampate, 27 + 5 * righe_stampate + alto) + alto
-                   : o(1630 + 450 * righe_stampate, 27 + 8 * righe_stampate + alto) + alto;
+        const bool una = foglio.righe_voce == 1;
+        return o(1630 + (una ? 250 : 450) * righe_stampate,
+                 27 + (una ? 5 : 8) * righe_stampate + alto) +
+               alto;
     }
     int massimo() const {
         const bool upright = paper.orientation() == 1;
         if (!grigio) return upright ? 63 : 43;
-        return righe_voce == 1 ? (upright ? 50 : 33) : (upright ? 31 : 21);
+        return foglio.righe_voce == 1 ? (upright ? 50 : 33) : (upright ? 31 : 21);
     }
 
     void limiti() {
@@ -155,19 +144,18 @@ struct told_report {
         basso = o(parte(paper.page_height(), stile(0).margine_basso), upright ? 280 : 205);
     }
 
-    std::vector<colonna> colonne() const {
+    std::vector<colonna> colonne() {
         double somma = 0;
-        for (int i = 1; i <= numero_colonne; ++i) somma += tabella[i].larghezza;
+        for (const colonna_pagina& one : foglio.colonne) somma += one.larghezza;
         std::vector<colonna> all;
         double x = sx;
-        for (int i = 1; i <= numero_colonne; ++i) {
-            const double intera = (dx - sx) / somma * tabella[i].larghezza;
+        for (colonna_pagina& one : foglio.colonne) {
+            const double intera = (dx - sx) / somma * one.larghezza;
             const double cw = std::floor(intera);
-            const double bordo = i == numero_colonne ? dx : x + cw;
-            all.push_back({i, tabella[i].formato_cella, x, bordo,
-                           i == numero_colonne ? dx : x + cw - o(30, 1), o(intera, cw - 2)});
+            all.push_back({one, all.size(), x, x + cw, x + cw - o(30, 1), o(intera, cw - 2)});
             x += cw;
         }
+        all.back().bordo = all.back().fine = dx;
         return all;
     }
 
@@ -184,17 +172,15 @@ struct told_report {
             return cella;
         }
         const double value = testo_a_numero(cella);
-        const std::string decimali = parameters.parametri_valuta[5];
         if (value == 0) return "";
         if (formato == 4) return masked(value, "###,###,###,###");
-        if (formato == 3 || (formato == 5 && decimali == "3")) {
-            return masked(value, "###,###,###,##0.##0");
-        }
-        if (formato == 5 && decimali == "4") return masked(value, "###,###,###,##0.###0");
-        if (formato == 5 && decimali == "5") return masked(value, "###,###,###,##0.####0");
+        if (formato == 6 || formato == 7) return plain_text(value);
+        const std::string decimali = formato == 5 ? parameters.parametri_valuta[5] : "";
+        if (formato == 3 || decimali == "3") return masked(value, "###,###,###,##0.##0");
+        if (decimali == "4") return masked(value, "###,###,###,##0.###0");
+        if (decimali == "5") return masked(value, "###,###,###,##0.####0");
         const std::string due = masked(value, "###,###,###,##0.#0");
-        if (formato <= 2 || formato == 5) return due;
-        return formato == 8 ? "(" + due + ")" : plain_text(value);
+        return formato == 8 ? "(" + due + ")" : due;
     }
 
     void testata_piana() {
@@ -214,14 +200,15 @@ struct told_report {
             riquadro(sx, alto + 800, dx, alto + 1200, inchiostro, false);
         }
         for (const colonna& c : colonne()) {
-            if (c.i == 1) continue;
+            if (c.i == 0) continue;
             forma(1, c.x, alto + o(800, 14), c.x, b, inchiostro, 0);
         }
         if (cornice >= 1) {
             scrivi(sx + o(0, 1), b + o(40, 0), nota_piede, {"Arial", 5}, stile(1).colore);
             a_destra(dx - o(0, 1), b + o(40, 0), nota(), {"Arial", 5}, stile(1).colore);
         }
-        scrivi(sx + o(50, 1), alto + o(250, 5), titolo, carattere(stile(1)), stile(1).colore);
+        scrivi(sx + o(50, 1), alto + o(250, 5), foglio.titolo, carattere(stile(1)),
+               stile(1).colore);
         for (int i = 1; i <= 3; ++i) {
             a_destra(dx - o(50, 1), alto + o(-100 + 200 * i, -3 + 4 * i),
                      parameters.intestazione_ditta[i], carattere(stile(2)), stile(2).colore);
@@ -230,7 +217,7 @@ struct told_report {
 
     void testata_grigia() {
         riquadro(sx, alto, dx, alto + o(400, 8), 0xaaaaaa, true);
-        scrivi(sx + o(50, 1), alto + o(20, 2), titolo, {"Verdana", 14, true}, 0xffffff);
+        scrivi(sx + o(50, 1), alto + o(20, 2), foglio.titolo, {"Verdana", 14, true}, 0xffffff);
         a_destra(dx - o(50, 1), alto + o(220, 5), nota_piede, {"Verdana", 6, true}, 0xffffff);
         riquadro(sx, alto + o(450, 9), dx, alto + o(1150, 23), stile(5).colore, false);
         scrivi(sx + o(50, 1), alto + o(500, 10), "Azienda/Studio", {"Verdana", 9}, 0);
@@ -242,13 +229,13 @@ struct told_report {
     }
 
     std::string nota() {
-        numero_pagina = numero_pagina == -1 ? 1 : numero_pagina + 1;
-        return "Stampato in data " + date_text(oggi) + " - Pagina " + std::to_string(numero_pagina);
+        return "Stampato in data " + date_text(oggi) + " - Pagina " +
+               std::to_string(++numero_pagina);
     }
 
     void in_colonna(const colonna& c, double y, const std::string& text, const ui::font& misura,
                     const ui::font& in, double colore) {
-        if (c.formato == 0) return scrivi(c.x + o(50, 1), y, text, in, colore);
+        if (c.di.formato_cella == 0) return scrivi(c.x + o(50, 1), y, text, in, colore);
         if (grigio && in_file) return scrivi(c.fine, y, text, in, colore, 1);
         scrivi(c.bordo - std::floor(larga(text, misura)) - o(50, 2), y, text, in, colore);
     }

@@ -1,8 +1,5 @@
 #pragma once
 
-#include "app/start.h"
-#include "store/drive.h"
-#include "support/faulty_files.h"
 #include "support/program_stage.h"
 
 namespace vantora::test {
@@ -23,26 +20,11 @@ class answering_user final : public silent_front_end {
     std::vector<std::string> told;
 };
 
-/// The program at work on company 1 of a drive folder, over files that may fail. Several stations
-/// may work on one company at once.
-struct station {
-    explicit station(const std::filesystem::path& root) : real(root) {
+/// The program at work on company 1 of a drive folder.
+struct station : program_on_drive<answering_user> {
+    explicit station(const std::filesystem::path& root) : program_on_drive(root) {
         front.desk = &desk;
-        time.stop_at({{2024, 5, 6}, 10, 20, 30});
     }
-    void run() {
-        desk.dispatch([this] { start(app, "ordini001"); });
-    }
-
-    drive real;
-    faulty_files faults{real};
-    answering_user front;
-    ui::local_clock time;
-    ui::script::recording_printer paper;
-    ui::script::recording_launcher programs;
-    ui::desk desk{front, time, paper, programs};
-    ui::pixbuf_decoder pictures;
-    program app{faults, desk, pictures};
 };
 
 }  // namespace vantora::test

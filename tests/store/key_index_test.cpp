@@ -23,26 +23,19 @@ int told_search(const std::vector<std::string>& keys, int count, const std::stri
     int precedente = 0;
     int trovato = 0;
     bool fine = false;
-    const std::string nothing(40, '\0');
-    std::string key = nothing;
+    std::string key(40, '\0');
     while (!fine) {
         const int medio = basso + static_cast<int>(std::floor((alto - basso) / 2.0));
         if (medio == precedente) fine = true;
-        if (medio >= 1) {
-            const auto at = static_cast<std::size_t>(medio - 1);
-            key = at < keys.size() ? keys[at] : nothing;
-        }
+        const auto at = static_cast<std::size_t>(medio - 1);
+        if (medio >= 1) key = at < keys.size() ? keys[at] : std::string(40, '\0');
         precedente = medio;
         const std::string k = by_prefix ? upper(key.substr(0, t.size())) : upper(trimmed(key));
         if (k == t) {
             trovato = medio;
             fine = true;
         }
-        if (k > t) {
-            alto = medio;
-        } else {
-            basso = medio;
-        }
+        (k > t ? alto : basso) = medio;
     }
     // A damaged count leads to positions that no entry has.
     return std::max(trovato, 0);
@@ -85,9 +78,9 @@ TEST_F(key_index, FindsWhatTheToldSearchFindsInFewReads) {
         auto count = static_cast<std::int16_t>(keys.size());
         if (round % 5 == 0) count = std::vector<std::int16_t>{-32768, -7, 0, 32767}[random() % 4];
         const auto allowed = std::log2(std::max<double>(count, 1)) + 3;
-        for (const auto& wanted : {std::string("a"), std::string(" B "), std::string("ab"),
-                                   std::string("zz"), std::string("\xC8"), std::string("aaaa"),
-                                   std::string("0"), std::string(), std::string(41, 'A')}) {
+        const std::string too_long(41, 'A');
+        for (const char* wanted :
+             {"a", " B ", "ab", "zz", "\xC8", "aaaa", "0", "", too_long.c_str()}) {
             counted.reads = 0;
             const int found = cerca_nominativo(names, count, wanted);
             EXPECT_EQ(found, told_search(full(keys, 40), count, wanted, true)) << wanted;
@@ -104,25 +97,19 @@ TEST_F(key_index, FindsWhatTheToldSearchFindsInFewReads) {
 }
 
 TEST_F(key_index, TheWalkReadsManyEntriesAtOnceAndRepeatsWhatItCantRead) {
-    std::vector<std::string> keys;
-    for (int i = 1; i <= 1200; ++i) keys.push_back("k" + std::to_string(i));
-    const auto index = write<rec_src>(keys);
+    const auto index = write<rec_src>(std::vector<std::string>(1200));
     counted.read_fails = [](const std::string&, std::int64_t offset, std::size_t size) {
         const std::int64_t bad = 42 * 599;  // entry 600
         return offset <= bad && bad < offset + static_cast<std::int64_t>(size);
     };
     std::vector<int> numbers;
-    const std::function<bool(std::int16_t, const rec_src&)> visit = [&](std::int16_t position,
-                                                                        const rec_src& entry) {
-        EXPECT_EQ(position, static_cast<int>(numbers.size()) + 1);
-        numbers.push_back(entry.numero);
+    percorri_indice<rec_src>(index, 1200, [&](std::int16_t position, const rec_src& entry) {
+        EXPECT_EQ(entry.numero, position == 600 ? 1599 : 1000 + position);
+        numbers.push_back(position);
         return position < 1100;
-    };
-    percorri_indice(index, 1200, visit);
-    ASSERT_EQ(numbers.size(), 1100U);
-    EXPECT_EQ(numbers[598], 1599);
-    EXPECT_EQ(numbers[599], 1599);
-    EXPECT_EQ(numbers[600], 1601);
+    });
+    EXPECT_EQ(numbers.size(), 1100U);
+    EXPECT_EQ(numbers.back(), 1100);
     EXPECT_LE(counted.reads, 3U + 512U);
 }
 

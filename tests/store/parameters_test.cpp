@@ -2,71 +2,67 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cstring>
-#include <fstream>
 
 #include "store/drive.h"
 #include "support/faulty_files.h"
+#include "support/file_bytes.h"
 #include "support/scratch_folder.h"
 
 namespace vantora {
 namespace {
 
+using test::put;
+
+std::string bytes(const rec_gnr& record) {
+    return {reinterpret_cast<const char*>(&record), sizeof record};
+}
+
+/// The report file, whole: margins, six groups, six lines, six lines.
+std::vector<std::string> report_lines() {
+    std::vector<std::string> lines = {"10,20,30,40,1"};
+    for (const std::string group : {"0", "1", "2", "3", "4", "5"}) {
+        lines.insert(lines.end(), {group == "0" ? "2" : "77", "Font" + group, "1" + group, "1", "0",
+                                   "25" + group});
+    }
+    lines.insert(lines.end(), {"a", "b", "c", "d", "e", "123", "1", "11", "12", "13", "14", "x"});
+    return lines;
+}
+
 class parameters_test : public testing::Test {
  protected:
     parameters_test() { std::filesystem::create_directories(company); }
 
-    void write(const std::filesystem::path& file, const std::string& content) {
-        std::ofstream(file, std::ios::binary) << content;
-    }
-    parametri load() {
+    parametri load(file_port& from) {
         parametri loaded;
         loaded.numero_azienda = 1;
-        carica_parametri(loaded, port);
+        carica_parametri(loaded, from);
         return loaded;
     }
-    static rec_gnr stored_in(const std::filesystem::path& where) {
+    parametri load() { return load(port); }
+    auto report_table(const std::vector<std::string>& lines) {
+        std::string content;
+        for (const std::string& line : lines) content += line + "\r\n";
+        put(general / "vantora.tbl", content);
+        return load().tabella_stampa;
+    }
+    rec_gnr stored() {
         rec_gnr record;
-        std::ifstream in(where / "vantora.gnr", std::ios::binary);
-        in.read(reinterpret_cast<char*>(&record), sizeof record);
+        const std::string content = test::bytes_of(own);
+        std::memcpy(&record, content.data(), std::min(content.size(), sizeof record));
         return record;
-    }
-    rec_gnr stored() { return stored_in(company); }
-    void store(const std::filesystem::path& where, const rec_gnr& record) {
-        write(where / "vantora.gnr",
-              std::string(reinterpret_cast<const char*>(&record), sizeof record));
-    }
-    static bool same(const rec_gnr& one, const rec_gnr& other) {
-        return std::memcmp(&one, &other, sizeof one) == 0;
-    }
-    /// The report file, whole: margins, six groups, six lines, six lines.
-    static std::vector<std::string> report_lines() {
-        std::vector<std::string> lines = {"10,20,30,40,1"};
-        for (const char* group : {"0", "1", "2", "3", "4", "5"}) {
-            lines.emplace_back(*group == '0' ? "2" : "77");
-            lines.push_back(std::string("Font") + group);
-            lines.push_back(std::string("1") + group);
-            lines.insert(lines.end(), {"1", "0", std::string("25") + group});
-        }
-        lines.insert(lines.end(),
-                     {"a", "b", "c", "d", "e", "123", "1", "11", "12", "13", "14", "x"});
-        return lines;
-    }
-    static std::string joined(const std::vector<std::string>& lines, std::size_t count) {
-        std::string all;
-        for (std::size_t i = 0; i < count; ++i) all += lines[i] + "\r\n";
-        return all;
     }
 
     test::scratch_folder folder;
     std::filesystem::path general = folder.path() / "mirwin/mirwin";
     std::filesystem::path company = general / "miraz0.001";
+    std::filesystem::path own = company / "vantora.gnr";
+    std::filesystem::path shared = general / "vantora.gnr";
     drive port{folder.path()};
 };
 
 TEST_F(parameters_test, CurrencySettingsFallBackTogether) {
-    struct {
+    const struct {
         const char* content;
         const char* mode;
         const char* price_decimals;
@@ -81,7 +77,7 @@ TEST_F(parameters_test, CurrencySettingsFallBackTogether) {
         {"x,1,A,B,2\r\n\r\n\r\n", "0", "2", ""},
     };
     for (const auto& one : cases) {
-        if (one.content) write(general / "vantora.eur", one.content);
+        if (one.content) put(general / "vantora.eur", one.content);
         const parametri loaded = load();
         EXPECT_EQ(loaded.parametri_valuta[1], one.mode) << (one.content ? one.content : "none");
         EXPECT_EQ(loaded.parametri_valuta[5], one.price_decimals);
@@ -90,50 +86,54 @@ TEST_F(parameters_test, CurrencySettingsFallBackTogether) {
 }
 
 TEST_F(parameters_test, AReportFileMayEndAnywhere) {
+    using table = const std::array<voce_stampa, 31>&;
+    const struct {
+        std::size_t lines;  ///< that must be there
+        double otherwise;
+        double read;
+        double (*setting)(table);
+    } settings[] = {
+        {1, 30, 10, [](table t) -> double { return t[0].margine_sinistro; }},
+        {1, 950, 20, [](table t) -> double { return t[0].margine_destro; }},
+        {1, 950, 40, [](table t) -> double { return t[0].margine_basso; }},
+        {1, 2, 1, [](table t) -> double { return t[0].stile; }},
+        {37, 14, 11, [](table t) -> double { return t[1].corpo_carattere; }},
+        {37, 9, 15, [](table t) -> double { return t[5].corpo_carattere; }},
+        {37, 0, 1, [](table t) -> double { return t[5].grassetto; }},
+        {37, 0, 255, [](table t) { return t[5].colore; }},
+        {37, 240, 190, [](table t) -> double { return t[0].altezza; }},
+        {43, 16777215, 123, [](table t) { return t[0].sfondo; }},
+        {44, 0, 1, [](table t) -> double { return t[1].stile; }},
+        {45, 0, 11, [](table t) -> double { return t[1].altezza; }},
+        {46, 0, 12, [](table t) -> double { return t[2].altezza; }},
+        {47, 0, 13, [](table t) { return t[1].sfondo; }},
+        {48, 0, 14, [](table t) { return t[2].sfondo; }},
+    };
     const auto lines = report_lines();
     for (std::size_t kept = 0; kept <= lines.size(); ++kept) {
-        write(general / "vantora.tbl", joined(lines, kept));
-        const parametri loaded = load();
-        const auto& table = loaded.tabella_stampa;
-        const bool margins = kept >= 1;
-        const bool fonts = kept >= 1 + 36;
-        const bool background = kept >= 1 + 36 + 6;
-        EXPECT_EQ(table[0].margine_destro, margins ? 20 : 950) << kept;
-        EXPECT_EQ(table[1].nome_carattere, fonts ? "Font1" : "Arial") << kept;
-        EXPECT_EQ(table[1].corpo_carattere, fonts ? 11 : 14) << kept;
-        EXPECT_EQ(table[3].corpo_carattere, fonts ? 13 : 9) << kept;
-        EXPECT_EQ(table[0].altezza, fonts ? 190 : 240) << kept;
-        EXPECT_EQ(table[0].sfondo, background ? 123 : 16777215) << kept;
-        EXPECT_EQ(table[2].altezza, kept >= 1 + 36 + 6 + 3 ? 12 : 0) << kept;
+        const auto read = report_table({lines.begin(), lines.begin() + long(kept)});
+        EXPECT_EQ(read[1].nome_carattere, kept >= 37 ? "Font1" : "Arial") << kept;
+        for (const auto& one : settings) {
+            EXPECT_EQ(one.setting(read), kept >= one.lines ? one.read : one.otherwise) << kept;
+        }
     }
-    write(general / "vantora.tbl", joined(lines, lines.size()));
-    const auto table = load().tabella_stampa;
-    const int whole[] = {table[0].margine_sinistro, table[0].margine_basso, table[0].stile,
-                         table[5].corpo_carattere,  table[5].grassetto,     table[1].stile,
-                         table[1].altezza};
-    const int expected[] = {10, 40, 1, 15, 1, 1, 11};
-    EXPECT_TRUE(std::ranges::equal(whole, expected)) << testing::PrintToString(whole);
-    EXPECT_EQ(table[5].colore, 255);
-    EXPECT_EQ(table[1].sfondo, 13);
-    EXPECT_EQ(table[2].sfondo, 14);
 }
 
 TEST_F(parameters_test, NumbersBeyondSixteenBitsCountAsUnreadable) {
     const auto with = [&](std::size_t line, const char* value) {
         auto lines = report_lines();
         lines[line] = value;
-        write(general / "vantora.tbl", joined(lines, lines.size()));
-        return load().tabella_stampa;
+        return report_table(lines);
     };
     EXPECT_EQ(with(0, "40000,20,30,40,1")[0].margine_sinistro, 30);
+    EXPECT_EQ(with(0, "40000,20,30,40,1")[1].nome_carattere, "Font1");
     EXPECT_EQ(with(1, "30000")[0].altezza, 0) << "the height doesn't fit";
     EXPECT_EQ(with(1 + 3 * 6, "99999")[1].nome_carattere, "Font1") << "counts for nothing";
 }
 
 TEST_F(parameters_test, TheFirstStartOfACompanyMakesItsParameters) {
-    const parametri loaded = load();
-    const rec_gnr record = stored();
-    EXPECT_TRUE(same(record, loaded.gnr));
+    const rec_gnr record = load().gnr;
+    EXPECT_EQ(test::bytes_of(own), bytes(record));
     EXPECT_EQ(record.formato_gnr.full(), "9");
     EXPECT_EQ(record.aggiorna_elenco.full(), "1");
     EXPECT_EQ(record.righe_alternate.full(), "1");
@@ -142,60 +142,66 @@ TEST_F(parameters_test, TheFirstStartOfACompanyMakesItsParameters) {
     EXPECT_EQ(record.colore_riga_pari, 16579315);
     EXPECT_EQ(record.vista_registro, 0);
     EXPECT_TRUE(std::filesystem::is_directory(folder.path() / "mirwin/PDF"));
+    for (const bool opens : {false, true}) {
+        std::filesystem::remove(own);
+        test::faulty_files faults(port);
+        faults.open_fails = [opens](auto&) { return !opens; };
+        faults.write_fails = [](auto&&...) { return true; };
+        EXPECT_EQ(load(faults).gnr.codice_iva_base.full(), "01");
+        load();
+        EXPECT_EQ(test::bytes_of(own), bytes(record)) << "made good by the next";
+    }
 }
 
 TEST_F(parameters_test, TheGeneralTemplateServesAsACompanysFirstParameters) {
     rec_gnr record;
     record.riservato_bd = "modello";
     record.codice_iva_base = "77";
-    store(general, record);
+    put(shared, bytes(record));
     load();
     EXPECT_EQ(stored().riservato_bd.trimmed(), "modello");
     EXPECT_EQ(stored().formato_gnr.full(), "9");
     EXPECT_EQ(stored().codice_iva_base.full(), "77") << "not repaired on this path";
-    EXPECT_TRUE(same(stored_in(general), record)) << "the template stays";
+    EXPECT_EQ(test::bytes_of(shared), bytes(record)) << "the template stays";
 }
 
 TEST_F(parameters_test, ParametersAreRepairedAndNothingElseIsTouched) {
+    rec_gnr record;
+    record.riservato_bd = "di altri";
+    record.riservato_bl = "anche questo";
+    record.formato_gnr = "9";
+    record.righe_alternate = "0";
     const std::pair<const char*, const char*> cases[] = {{"00", "01"}, {"25", "01"}, {"24", "24"},
                                                          {"  ", "01"}, {"-1", "01"}, {"07", "07"}};
     for (const auto& [code, repaired] : cases) {
-        rec_gnr record;
-        record.riservato_bd = "di altri";
-        record.riservato_bl = "anche questo";
-        record.formato_gnr = "9";
-        record.righe_alternate = "0";
         record.codice_iva_base = code;
-        store(company, record);
+        put(own, bytes(record));
         load();
         record.codice_iva_base = repaired;
-        EXPECT_TRUE(same(stored(), record)) << code;
+        EXPECT_EQ(test::bytes_of(own), bytes(record)) << code;
     }
-    rec_gnr old;
-    old.formato_gnr = "8";
-    old.codice_iva_base = "04";
-    old.riservato_bd = "resta";
-    store(company, old);
+    record.formato_gnr = "8";
+    put(own, bytes(record));
     load();
     EXPECT_EQ(stored().righe_alternate.full(), "1");
-    EXPECT_EQ(stored().riservato_bd.trimmed(), "resta");
+    EXPECT_EQ(stored().riservato_bd.trimmed(), "di altri");
 }
 
 TEST_F(parameters_test, ShortLongAndStrangeFilesDoNoHarm) {
     for (const std::size_t size : {0U, 1U, 183U, 345U, 5000U}) {
-        write(company / "vantora.gnr", std::string(size, 'x'));
+        put(own, std::string(size, 'x'));
         EXPECT_EQ(load().gnr.formato_gnr.full(), "9") << size;
         EXPECT_EQ(load().gnr.codice_iva_base.full(), "01") << size;
     }
-    std::filesystem::remove(company / "vantora.gnr");
-    std::filesystem::create_directory(company / "vantora.gnr");
+    std::filesystem::remove(own);
+    std::filesystem::create_directory(own);
     EXPECT_EQ(load().gnr.formato_gnr.full(), "9");
     std::filesystem::remove_all(company);
     EXPECT_EQ(load().gnr.formato_gnr.full(), "9") << "no folder to save in";
 }
 
 TEST_F(parameters_test, HeadingLinesThatAreMissingStayEmpty) {
-    write(company / "vantora.int", "Ditta\r\nVia Po 1\r\n");
+    put(company / "vantora.int", "Ditta\r\nVia Po 1\r\n");
     parametri loaded = load();
     EXPECT_EQ(loaded.intestazione_ditta[1], "Ditta");
     EXPECT_EQ(loaded.intestazione_ditta[2], "Via Po 1");
@@ -205,48 +211,25 @@ TEST_F(parameters_test, HeadingLinesThatAreMissingStayEmpty) {
     EXPECT_EQ(loaded.intestazione_ditta[1], "") << "loading again rebuilds everything";
 }
 
-TEST_F(parameters_test, AFirstStartThatFailsIsMadeGoodByTheNext) {
-    for (const bool writes : {false, true}) {
-        test::faulty_files faults(port);
-        const auto refuses = [](auto&&...) { return true; };
-        if (writes) faults.write_fails = refuses;
-        if (!writes) faults.open_fails = refuses;
-        parametri loaded;
-        loaded.numero_azienda = 1;
-        carica_parametri(loaded, faults);
-        EXPECT_EQ(loaded.gnr.codice_iva_base.full(), "01");
-        EXPECT_EQ(loaded.gnr.formato_gnr.full(), "9");
-        load();
-        EXPECT_EQ(stored().formato_gnr.full(), "9");
-        std::filesystem::remove(company / "vantora.gnr");
-    }
-}
-
 TEST_F(parameters_test, WhatCantBeReadIsNeverWrittenOver) {
     rec_gnr others;
     others.riservato_bd = "di altri moduli";
-    others.vista_registro = std::int16_t{2};
     test::faulty_files faults(port);
-    const std::pair<std::filesystem::path, std::string> cases[] = {
-        {company, "\\mirwin\\mirwin\\miraz0.001\\vantora.gnr"},
-        {general, "\\mirwin\\mirwin\\vantora.gnr"}};
-    for (const auto& [where, path] : cases) {
-        std::filesystem::remove(company / "vantora.gnr");
-        store(where, others);
-        faults.read_fails = [&path = path](auto& read, auto&&...) { return read == path; };
-        parametri loaded;
-        loaded.numero_azienda = 1;
-        carica_parametri(loaded, faults);
+    for (const bool is_own : {true, false}) {
+        std::filesystem::remove(own);
+        put(is_own ? own : shared, bytes(others));
+        faults.read_fails = [is_own](auto& path, auto&&...) {
+            return path.ends_with("gnr") && is_own == (path.find("miraz") != path.npos);
+        };
+        parametri loaded = load(faults);
         EXPECT_EQ(loaded.gnr.codice_iva_base.full(), "01");
         EXPECT_EQ(loaded.gnr.colore_riga_pari, 16579315);
         loaded.gnr.vista_registro = std::int16_t{12};
         salva_parametri(loaded, faults);
-        EXPECT_TRUE(same(stored_in(where), others));
-        EXPECT_EQ(std::filesystem::file_size(where / "vantora.gnr"), sizeof others);
-        EXPECT_EQ(std::filesystem::exists(company / "vantora.gnr"), where == company);
+        EXPECT_EQ(test::bytes_of(is_own ? own : shared), bytes(others));
+        EXPECT_EQ(std::filesystem::exists(own), is_own);
         // As soon as it can be read all is as usual.
-        faults.read_fails = nullptr;
-        carica_parametri(loaded, faults);
+        load();
         EXPECT_EQ(stored().riservato_bd.trimmed(), "di altri moduli");
         EXPECT_EQ(stored().formato_gnr.full(), "9");
     }

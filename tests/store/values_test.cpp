@@ -23,7 +23,8 @@ TEST(values, RoundingAddsItsBiasAndGoesDown) {
     for (const auto& [value, rounded] : in_lire) {
         EXPECT_EQ(arrotonda_valuta(value, lire()), rounded) << value;
     }
-    const std::pair<double, double> in_euro[] = {{2.005, 2.01}, {5.555, 5.56}, {-1.006, -1.01}};
+    const std::pair<double, double> in_euro[] = {
+        {2.005, 2.01}, {2.00495, 2.01}, {5.555, 5.56}, {-1.006, -1.01}};
     for (const auto& [value, rounded] : in_euro) {
         EXPECT_EQ(arrotonda_valuta(value, euro()), rounded) << value;
     }
@@ -50,16 +51,12 @@ TEST(values, TypedTextsAreItalian) {
     }
 }
 
-TEST(values, AmountsAndPricesShowNothingForZero) {
-    EXPECT_EQ(formato_importo(0, lire()), "");
-    EXPECT_EQ(formato_importo(0, euro()), "");
+TEST(values, AmountsAndPricesShowNothingForZeroAndTheDecimalsOfTheCompany) {
+    EXPECT_EQ(formato_importo(0, lire()) + formato_importo(0, euro()), "");
     EXPECT_EQ(formato_prezzo(0, euro(5)), "");
     EXPECT_EQ(formato_importo(1234.5, euro()), "1.234,50");
     EXPECT_EQ(formato_importo(1234, lire()), "1.234");
     EXPECT_EQ(formato_importo(-0.5, euro()), "-0,50");
-}
-
-TEST(values, PricesShowTheDecimalsOfTheCompany) {
     const std::pair<int, const char*> cases[] = {
         {2, "1.234,57"}, {3, "1.234,568"}, {4, "1.234,5679"}, {5, "1.234,56789"}};
     for (const auto& [decimals, text] : cases) {

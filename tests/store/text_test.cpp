@@ -1,0 +1,198 @@
+// The texts of the files: their characters, dates and numbers.
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <random>
+#include <sstream>
+
+#include "store/text/code_page.h"
+#include "store/text/dates.h"
+#include "store/text/int16.h"
+#include "store/text/number_text.h"
+
+namespace vantora {
+namespace {
+
+TEST(code_page, EveryCharacterSurvivesTheWayThroughUtf8) {
+    std::string all;
+    for (int code = 0; code < 256; ++code) all.push_back(static_cast<char>(code));
+    EXPECT_EQ(from_utf8(to_utf8(all)), all);
+    EXPECT_EQ(to_utf8("\x80 \xE8"), "€ è");
+    EXPECT_EQ("Città €"_cp, "Citt\xE0 \x80");
+}
+
+TEST(code_page, WhatItDoesntHaveBecomesAQuestionMark) {
+    EXPECT_EQ(from_utf8("日本x"), "??x");
+    EXPECT_EQ(from_utf8("\xF0\x9F\x98\x80"), "?");
+    EXPECT_EQ(from_utf8("a\xFF\xC3"), "a??") << "bytes that are no UTF-8";
+    EXPECT_EQ(from_utf8("\xC0\x80"), "??") << "overlong";
+}
+
+TEST(code_page, CapitalsKeepTheLength) {
+    EXPECT_EQ(upper("caff\xE8 \xFF\x9A\xDF\xF7"), "CAFF\xC8 \x9F\x8A\xDF\xF7");
+}
+
+TEST(code_page, TrimmingTakesBlanksOnly) {
+    EXPECT_EQ(trimmed("  a b "), "a b");
+    EXPECT_EQ(trimmed("   "), "");
+    const std::string zeros("\0a\0", 3);
+    EXPECT_EQ(trimmed(zeros), zeros);
+    EXPECT_EQ(trimmed("\ta"), "\ta");
+}
+
+TEST(compare_alphabetically, PutsAccentsBesideTheirBaseLetter) {
+    std::istringstream order("- 0 9 a à ab ae aè àe b e è èlite eolo f z"_cp);
+    std::string before;
+    order >> before;
+    for (std::string next; order >> next; before = next) {
+        EXPECT_LT(compare_alphabetically(before, next), 0) << next;
+        EXPECT_GT(compare_alphabetically(next, before), 0) << next;
+    }
+    EXPECT_EQ(compare_alphabetically("Citt\xC0", "cITT\xE0"), 0);
+}
+
+TEST(filtra_stampa, KeepsWhatMayBePrinted) {
+    EXPECT_EQ(filtra_stampa("a\tb\r\nc"), "abc");
+    EXPECT_EQ(filtra_stampa("caff\xE8 \xFF\xFE"), "caff\xE8 \xFE");
+    EXPECT_EQ(filtra_stampa(std::string_view("\0x", 2)), "x");
+}
+
+TEST(read_date, TakesDayMonthYearAndElseMonthDayYear) {
+    struct {
+        const char* text;
+        date expected;
+    } cases[] = {
+        {"01/02/2024", {2024, 2, 1}},     {"1/2/24", {2024, 2, 1}},
+        {" 31-12-1999 ", {1999, 12, 31}}, {"12/31/2024", {2024, 12, 31}},
+        {"29.02.2024", {2024, 2, 29}},    {"1 1 00", {2000, 1, 1}},
+        {"1/1/29", {2029, 1, 1}},         {"1/1/30", {1930, 1, 1}},
+        {"1/1/99", {1999, 1, 1}},         {"5/6/0100", {100, 6, 5}},
+    };
+    for (const auto& one : cases) EXPECT_EQ(read_date(one.text), one.expected) << one.text;
+    for (const char* text : {"", "29/02/2023", "31/04/2024", "13/13/2024", "0/1/2024", "1/2",
+                             "1/2/", "1/2/202", "1/2/20245", "001/2/2024", "1//2/2024", "1/2/2024x",
+                             "a/b/c", "1/2/0099", "30/2/24", "1/2/2024/", "\xE8/2/2024"}) {
+        EXPECT_FALSE(read_date(text).has_value()) << text;
+    }
+}
+
+TEST(dates, CutStoredDatesWhateverTheyHold) {
+    EXPECT_EQ(date_text_of_stored("20240506"), "06/05/2024");
+    EXPECT_EQ(date_text_of_stored("abcdefgh"), "gh/ef/abcd");
+    EXPECT_EQ(date_text_of_stored("2024"), "  /  /2024");
+    EXPECT_EQ(stored_of_date_text("06/05/2024"), "20240506");
+    EXPECT_EQ(stored_of_date_text("1/2/2024"), "24/21/");
+    EXPECT_EQ(stored_of_date_text(""), "");
+    EXPECT_EQ(date_text({2024, 5, 6}), "06/05/2024");
+    EXPECT_EQ(stored_date({2024, 5, 6}), "20240506");
+}
+
+TEST(dates, NumbersCountFromTheEndOf1899) {
+    EXPECT_EQ(date_number({{1899, 12, 30}}), 0);
+    EXPECT_EQ(date_number({{1900, 1, 1}}), 2);
+    EXPECT_EQ(date_number({{2024, 5, 6}, 12, 0, 0}), 45418.5);
+    EXPECT_EQ(date_number({{2000, 2, 29}, 6, 0, 0}), 36585.25);
+}
+
+TEST(read_clock, ReadsOneFormOnly) {
+    EXPECT_EQ(read_clock("2024-05-06 10:20:30"), (date_time{{2024, 5, 6}, 10, 20, 30}));
+    for (const char* text : {"", "2024-05-06", "2024-05-06 24:00:00", "2024-13-06 10:20:30",
+                             "2024-05-06T10:20:30", "06/05/2024 10:20:30"}) {
+        EXPECT_FALSE(read_clock(text).has_value()) << text;
+    }
+}
+
+TEST(plain_text, ShowsAtMostFifteenDigitsInTheirShortestForm) {
+    const std::pair<double, const char*> cases[] = {
+        {0, "0"},
+        {-0.0, "0"},
+        {-0.5, "-0.5"},
+        {0.1 + 0.2, "0.3"},
+        {2.0 / 3, "0.666666666666667"},
+        {999999999999999, "999999999999999"},
+        {1E15, "1E+15"},
+        {-1E100, "-1E+100"},
+        {0.0001, "0.0001"},
+        {0.00001, "0.00001"},
+        {1.5E-20, "1.5E-20"},
+        {1234567890.12345678, "1234567890.12346"},
+    };
+    for (const auto& [value, text] : cases) EXPECT_EQ(plain_text(value), text);
+    EXPECT_EQ(plain_text_signed(3), " 3");
+    EXPECT_EQ(plain_text_signed(-2), "-2");
+    EXPECT_EQ(plain_text_signed(0), " 0");
+}
+
+TEST(plain_text, SurvivesTheWayThroughItsText) {
+    std::mt19937_64 random(1);
+    for (int i = 0; i < 20000; ++i) {
+        const auto digits = static_cast<double>(random() % 1000000000000000);
+        const double value = digits / std::pow(10, static_cast<double>(random() % 16));
+        EXPECT_EQ(number_at_head(plain_text(value)), value) << plain_text(value);
+    }
+}
+
+TEST(number_at_head, ReadsLenientlyAndStopsAtTheFirstOtherCharacter) {
+    const std::pair<double, std::vector<const char*>> cases[] = {
+        {0, {"", "abc", ".", "-", "--3", "1E999", "1E-999", "0x10", "inf", "nan"}},
+        {12, {"12abc", "12,5", "00012"}},
+        {-0.5, {"-.5"}},
+        {1, {"1e", "1e+"}},
+        {1.234, {"1.234,56"}},
+        {5, {"5.", "+5"}},
+        {-4, {"- 4"}},
+        {12.5, {"12.5.6"}},
+        {1234, {" 1 2\t3\n4 "}},
+        {1000, {"1E3"}},
+        {0.01, {"1d-2x"}},
+        {20, {"2E 1"}}};
+    for (const auto& [value, texts] : cases) {
+        for (const char* text : texts) EXPECT_EQ(number_at_head(text), value) << text;
+    }
+}
+
+TEST(whole_number_text, IsANumberOnlyIfNothingIsLeft) {
+    EXPECT_EQ(whole_number_text(" 12.5 "), 12.5);
+    EXPECT_EQ(whole_number_text("-3"), -3);
+    for (const char* text : {"", " ", "1a", "12/03/2024", "1,5", ".", "-"}) {
+        EXPECT_FALSE(whole_number_text(text).has_value()) << text;
+    }
+}
+
+TEST(to_int16, RoundsTiesToEvenAndRefusesWhatDoesntFit) {
+    const std::pair<double, int> cases[] = {{7.5, 8}, {6.5, 6},         {-6.5, -6},        {0.5, 0},
+                                            {2.4, 2}, {32767.4, 32767}, {-32768.5, -32768}};
+    for (const auto& [value, rounded] : cases) EXPECT_EQ(to_int16(value), rounded) << value;
+    const double infinity = std::numeric_limits<double>::infinity();
+    for (const double value : {32767.5, -32768.6, 1E300, infinity, -infinity, std::nan("")}) {
+        EXPECT_FALSE(to_int16(value).has_value()) << value;
+    }
+    EXPECT_FALSE(add_int16(32767, 1).has_value());
+    EXPECT_EQ(add_int16(32766, 1), 32767);
+    EXPECT_FALSE(subtract_int16(-32768, 1).has_value());
+}
+
+TEST(masked, RoundsTheDecimalTextHalfAwayFromZero) {
+    struct {
+        const char* mask;
+        std::vector<std::pair<double, const char*>> values;
+    } cases[] = {
+        {"###,###,###,###",
+         {{0, ""}, {0.4, ""}, {-0.4, ""}, {0.5, "1"}, {1234567, "1.234.567"}, {-1234, "-1.234"}}},
+        {"###,###,###,##0.#0",
+         {{0, "0,00"}, {2.675, "2,68"}, {1.005, "1,01"}, {-0.125, "-0,13"}, {-0.004, "0,00"}}},
+        {"###,###,###,##0.#0",
+         {{999999.995, "1.000.000,00"}, {1E-300, "0,00"}, {std::nan(""), "0,00"}}},
+        {"########0.#0", {{0.5, "0,50"}, {1234.5, "1234,50"}, {1E15, "1000000000000000,00"}}},
+        {"###,###,###,##0.###0", {{1.23456, "1,2346"}}},
+        {"###,###,##0.###", {{2.0001, "2,"}, {2.5, "2,5"}}},
+    };
+    for (const auto& one : cases) {
+        for (const auto& [value, text] : one.values) EXPECT_EQ(masked(value, one.mask), text);
+    }
+}
+
+}  // namespace
+}  // namespace vantora
