@@ -1,21 +1,13 @@
-#include "demo/page.h"
+#include "demo/fonts.h"
 
 namespace vantora::demo {
 
 namespace {
 
-constexpr font name_font{.points = 12, .bold = true, .colour = navy};
-constexpr font slogan_font{.points = 8, .italic = true, .colour = grey};
-constexpr font small_font{.points = 8, .colour = grey};
 constexpr font title_font{.points = 15, .bold = true, .colour = navy};
-constexpr font head_font{.points = 9, .bold = true};
-constexpr font customer_font{.points = 10, .bold = true};
-constexpr font plain_font{.points = 9};
-constexpr font text_font{.points = 8};
 constexpr font exemption_font{.points = 7};
 constexpr font total_font{.points = 9, .bold = true};
 constexpr font grand_total_font{.points = 12, .bold = true, .colour = white};
-constexpr font footer_font{.points = 7, .colour = grey};
 
 constexpr panel panel_table[] = {
     {118, 18, 141, 28, "Ordine n."},
@@ -40,30 +32,11 @@ constexpr panel panel_table[] = {
 constexpr panel band_table[] = {{140, 241, 200, 249, "TOTALE €"}};
 
 constexpr field field_table[] = {
-    {1, 30, 9, name_font},
-    {7, 30, 14, slogan_font},
-    {2, 30, 18, small_font},
-    {4, 30, 22, small_font},
-    {5, 30, 26, small_font},
     {65, 118, 9, title_font},
     {33, 120, 23, head_font},
     {34, 143, 23, head_font},
     {40, 166, 23, head_font},
     {35, 189, 23, head_font},
-    // Customer and destination
-    {18, 12, 39, customer_font},
-    {19, 12, 44, plain_font},
-    {20, 12, 48, plain_font},
-    {21, 12, 52, plain_font},
-    {22, 24, 52, plain_font},
-    {25, 109, 39, customer_font},
-    {26, 109, 44, plain_font},
-    {27, 109, 48, plain_font},
-    {28, 109, 52, plain_font},
-    {29, 121, 52, plain_font},
-    {23, 12, 65, plain_font},
-    {24, 52, 65, plain_font},
-    {30, 96, 65, plain_font},
     {44, 130, 65, plain_font},
     {36, 12, 76, head_font},
     {37, 12, 80, text_font},
@@ -94,9 +67,6 @@ constexpr field field_table[] = {
     {66, 12, 257, text_font},
     {67, 12, 261, text_font},
     {45, 78, 257, text_font},
-    {3, 10, 283, footer_font},
-    {6, 10, 287, footer_font},
-    {8, 110, 283, footer_font},
 };
 
 constexpr fixed_text text_table[] = {

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "demo/codes.h"
+#include "demo/fonts.h"
 #include "store/text/code_page.h"
 
 namespace vantora::demo {
@@ -18,6 +19,32 @@ constexpr int page_left = 10;
 constexpr int page_right = 200;
 constexpr int header_rule = 31;
 constexpr int footer_rule = 281;
+
+/// Where every page shows the firm, the customer and the destination.
+constexpr field letterhead[] = {
+    {1, 30, 9, name_font},
+    {7, 30, 14, slogan_font},
+    {2, 30, 18, small_font},
+    {4, 30, 22, small_font},
+    {5, 30, 26, small_font},
+    // Customer and destination
+    {18, 12, 39, customer_font},
+    {19, 12, 44, plain_font},
+    {20, 12, 48, plain_font},
+    {21, 12, 52, plain_font},
+    {22, 24, 52, plain_font},
+    {25, 109, 39, customer_font},
+    {26, 109, 44, plain_font},
+    {27, 109, 48, plain_font},
+    {28, 109, 52, plain_font},
+    {29, 121, 52, plain_font},
+    {23, 12, 65, plain_font},
+    {24, 52, 65, plain_font},
+    {30, 96, 65, plain_font},
+    {3, 10, 283, footer_font},
+    {6, 10, 287, footer_font},
+    {8, 110, 283, footer_font},
+};
 
 using row_lines = std::array<std::string, 6>;
 
@@ -116,6 +143,7 @@ std::vector<std::string> layout_lines(const page& plan) {
     const auto set = [&](int row, int x, int y, const font& look) {
         rows[static_cast<std::size_t>(row)] = layout_row(position(x, y), look);
     };
+    for (const field& one : letterhead) set(one.row, one.x, one.y, one.look);
     for (const field& one : plan.fields) set(one.row, one.x, one.y, one.look);
     const body& lines = plan.lines;
     set(lines.text_top_row, lines.text_top, 0, {});

@@ -70,8 +70,8 @@ struct body {
 
 struct page {
     std::span<const panel> panels;
-    std::span<const panel> bands;  ///< filled strips without a frame, white on navy
-    std::span<const field> fields;
+    std::span<const panel> bands;   ///< filled strips without a frame, white on navy
+    std::span<const field> fields;  ///< beside those of every page
     std::span<const fixed_text> texts;
     body lines;
 };

@@ -1,18 +1,10 @@
-#include "demo/page.h"
+#include "demo/fonts.h"
 
 namespace vantora::demo {
 
 namespace {
 
-constexpr font name_font{.points = 12, .bold = true, .colour = navy};
-constexpr font slogan_font{.points = 8, .italic = true, .colour = grey};
-constexpr font small_font{.points = 8, .colour = grey};
 constexpr font title_font{.points = 12, .bold = true, .colour = navy};
-constexpr font head_font{.points = 9, .bold = true};
-constexpr font customer_font{.points = 10, .bold = true};
-constexpr font plain_font{.points = 9};
-constexpr font text_font{.points = 8};
-constexpr font footer_font{.points = 7, .colour = grey};
 
 constexpr panel panel_table[] = {
     {130, 18, 157, 28, "Documento n."},
@@ -38,29 +30,10 @@ constexpr panel panel_table[] = {
 };
 
 constexpr field field_table[] = {
-    {1, 30, 9, name_font},
-    {7, 30, 14, slogan_font},
-    {2, 30, 18, small_font},
-    {4, 30, 22, small_font},
-    {5, 30, 26, small_font},
     {48, 130, 9, title_font},
     {33, 132, 23, head_font},
     {34, 159, 23, head_font},
     {35, 187, 23, head_font},
-    // Customer and destination
-    {18, 12, 39, customer_font},
-    {19, 12, 44, plain_font},
-    {20, 12, 48, plain_font},
-    {21, 12, 52, plain_font},
-    {22, 24, 52, plain_font},
-    {25, 109, 39, customer_font},
-    {26, 109, 44, plain_font},
-    {27, 109, 48, plain_font},
-    {28, 109, 52, plain_font},
-    {29, 121, 52, plain_font},
-    {23, 12, 65, plain_font},
-    {24, 52, 65, plain_font},
-    {30, 96, 65, plain_font},
     {36, 130, 65, plain_font},
     // Transport
     {39, 12, 219, plain_font},
@@ -75,9 +48,6 @@ constexpr field field_table[] = {
     {47, 157, 238, head_font},
     {49, 12, 251, text_font},
     {50, 12, 255, text_font},
-    {3, 10, 283, footer_font},
-    {6, 10, 287, footer_font},
-    {8, 110, 283, footer_font},
 };
 
 constexpr fixed_text text_table[] = {
