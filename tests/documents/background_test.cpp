@@ -98,11 +98,11 @@ std::string bitmap_file(int width, int height, int claimed) {
 /// Prints with pictures, and gives what is told of those left out.
 std::string told(background_stage& order, const std::string& logo) {
     std::ofstream(order.folder.path() / "logo.bmp", std::ios::binary) << logo;
-    order.around.user.answers.keep(ui::answer::yes);
-    order.around.user.answers.keep(ui::answer::ok);
+    order.front.answers.keep(ui::answer::yes);
+    order.front.answers.keep(ui::answer::ok);
     stampa_documento(order.app, order.document());
     std::string all;
-    for (const auto& one : order.around.user.answers.take_answered()) all += one.box.text + "|";
+    for (const auto& one : order.front.answers.take_answered()) all += one.box.text + "|";
     return all;
 }
 
@@ -131,7 +131,7 @@ TEST(background, PicturesAreOneMarkEachAndOnlyAsFarAsThePaperGoes) {
         background_stage order;
         order.element({4, one.x, one.y, 3, 4}, " c:\\LOGO.bmp ");
         EXPECT_EQ(told(order, one.file), one.told) << one.what;
-        const auto page = order.around.paper.take_jobs().at(0).pages.at(0);
+        const auto page = order.paper.take_jobs().at(0).pages.at(0);
         ASSERT_EQ(page.size(), one.width > 0 ? 1U : 0U) << one.what;
         for (const auto& mark : page) {
             const auto& drawn = std::get<ui::script::printed_picture>(mark);
@@ -154,7 +154,7 @@ TEST(background, APictureThatCantBeReadLeavesTheOneBeforeAndManyAreReadOnce) {
     const std::clock_t begin = std::clock();
     EXPECT_EQ(told(order, bitmap_file(300, 300, 0)), left_out) << "once, however many";
     EXPECT_LT(std::clock() - begin, 2 * CLOCKS_PER_SEC);
-    const auto pages = order.around.paper.take_jobs().at(0).pages;
+    const auto pages = order.paper.take_jobs().at(0).pages;
     ASSERT_EQ(pages.size(), 20U);
     EXPECT_EQ(pages[19].size(), punti_per_pagina / (300 * 300)) << "as many as a page has room for";
 }

@@ -6,22 +6,13 @@
 
 #include "documents/document_shape.h"
 #include "documents/printed_document.h"
-#include "store/drive.h"
 #include "store/text/code_page.h"
-#include "support/scratch_folder.h"
-#include "ui/bench_desk.h"
-#include "ui/pictures/pixbuf_decoder.h"
+#include "support/program_stage.h"
 
 namespace vantora::test {
 
 /// A document on the bench, with the printer and the print file that it goes to.
-struct document_stage {
-    scratch_folder folder;
-    drive files{folder.path()};
-    ui::test::bench_desk around;
-    ui::pixbuf_decoder pictures;
-    program app{files, around.desk, pictures};
-
+struct document_stage : program_stage<ui::test::prepared_user> {
     testata_documento head;
     righe_ordine lines;
     riepilogo_iva vat;
@@ -56,9 +47,9 @@ struct document_stage {
     /// Prints the document, and gives the pages that came out.
     std::vector<std::vector<ui::script::print_operation>> print(
         tipo_documento kind = tipo_documento::ordine) {
-        around.user.answers.keep(ui::answer::yes);
+        front.answers.keep(ui::answer::yes);
         outcome = stampa_documento(app, document(kind));
-        auto jobs = around.paper.take_jobs();
+        auto jobs = paper.take_jobs();
         return jobs.empty() ? decltype(jobs.front().pages){} : std::move(jobs.front().pages);
     }
 

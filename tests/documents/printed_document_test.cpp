@@ -148,7 +148,7 @@ TEST(printed_document, LinesShowTheirColumnsFromTheTopOfTheBody) {
         EXPECT_NE(shown.find("\ntext 50 100  10+5,"), std::string::npos) << "behind its sign";
         EXPECT_NE(shown.find("\ntext 50 104 trasporto "), std::string::npos);
         const auto& price = std::get<ui::script::printed_text>(page[4]);
-        EXPECT_NEAR(price.x + order.around.paper.text_width("10,00", price.font), 50, 1e-9);
+        EXPECT_NEAR(price.x + order.paper.text_width("10,00", price.font), 50, 1e-9);
     }
 }
 
@@ -209,7 +209,7 @@ TEST(printed_document, CopiesAreAskedForUnderTheNameOfTheDocumentAndEndInAPdf) {
         order.head.text3[0] = one.number;
         order.customer.email = one.address;
         for (const char answer : one.answers) {
-            order.around.user.answers.keep(answer == 'y' ? ui::answer::yes : ui::answer::no);
+            order.front.answers.keep(answer == 'y' ? ui::answer::yes : ui::answer::no);
         }
         offri_copie(order.app, order.document(one.kind), one.mail);
         const std::string over =
@@ -217,12 +217,12 @@ TEST(printed_document, CopiesAreAskedForUnderTheNameOfTheDocumentAndEndInAPdf) {
         strings expected(one.answers.size(), over);
         expected.back() = "Attenzione";
         strings titles;
-        for (const auto& box : order.around.user.answers.take_answered()) {
+        for (const auto& box : order.front.answers.take_answered()) {
             titles.push_back(box.box.title);
         }
         EXPECT_EQ(titles, expected);
         std::string started;
-        for (const auto& command : order.around.programs.take_started()) started += command;
+        for (const auto& command : order.programs.take_started()) started += command;
         const std::string program =
             "\\mirwin\\mirwin\\mirxpdf \\mirwin\\mirwin\\miraz0.007\\vantora.lx";
         EXPECT_EQ(started, one.pdf.empty() ? one.pdf : program + one.pdf);
@@ -231,22 +231,22 @@ TEST(printed_document, CopiesAreAskedForUnderTheNameOfTheDocumentAndEndInAPdf) {
 
 /// A printer that fails is the front end's affair; a print file that fails keeps the PDF away.
 TEST(printed_document, APrintFileThatIsNotWholeTakesNothingFromThePaperAndIsNotHandedOver) {
-    for (int fault = 0; fault <= 2; ++fault) {
+    for (const std::size_t fault : {0, 1, 2}) {
         document_stage order;
         faulty_files faulty(order.files);
-        program app{faulty, order.around.desk, order.pictures};
+        program app{faulty, order.desk, order.pictures};
         order.body("100", "140");
         order.fill_lines(199);
         // More than is handed over to the disk at once.
         for (std::size_t n = 70; n <= 78; ++n) order.tables.tabella_layout[n].posizione = "050000";
-        int writes = 0;
-        faulty.write_fails = [&](const std::string&, std::int64_t) { return ++writes == fault; };
+        std::size_t writes = 0;
+        faulty.write_fails = [&](auto&&...) { return ++writes == fault; };
         using enum ui::answer;
-        for (const auto answer : {yes, no, yes, ok}) order.around.user.answers.keep(answer);
+        for (const auto answer : {yes, no, yes, ok}) order.front.answers.keep(answer);
         offri_copie(app, order.document(), false);
-        EXPECT_EQ(order.around.paper.take_jobs().at(0).pages.size(), 20U) << fault;
-        EXPECT_EQ(order.around.programs.take_started().size(), fault == 0 ? 1U : 0U) << fault;
-        EXPECT_EQ(order.around.user.answers.take_answered().size(), fault == 0 ? 3U : 4U) << fault;
+        EXPECT_EQ(order.paper.take_jobs().at(0).pages.size(), 20U) << fault;
+        EXPECT_EQ(order.programs.take_started().size(), fault == 0 ? 1U : 0U) << fault;
+        EXPECT_EQ(order.front.answers.take_answered().size(), fault == 0 ? 3U : 4U) << fault;
         EXPECT_EQ(order.print_file().empty(), fault != 0) << "empty rather than misleading";
     }
 }

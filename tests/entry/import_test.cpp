@@ -1,9 +1,4 @@
-#include "entry/import_lines.h"
-
 #include <gtest/gtest.h>
-
-#include <limits>
-#include <random>
 
 #include "scripted/scripted_run.h"
 #include "scripted/small_company.h"
@@ -12,14 +7,6 @@ namespace vantora::test {
 namespace {
 
 using nlohmann::json;
-
-template <class Row>
-void make_blank(Row& row) {
-    row.descrizione = "";
-    row.descrizione2 = "";
-    row.um = "";
-    row.testo1 = "";
-}
 
 class imports : public testing::Test {
  protected:
@@ -38,7 +25,11 @@ class imports : public testing::Test {
     template <class Row>
     static void block(channel<Row>& file, const char* name, int number, int customer, int deleted) {
         std::vector<Row> rows(righe_blocco);
-        for (Row& row : rows) make_blank(row);
+        for (Row& row : rows) {
+            row.descrizione = row.testo1 = "";
+            row.descrizione2 = "";
+            row.um = "";
+        }
         rows[0].numero = name;
         rows[0].data = "20240131";
         rows[0].cliente = static_cast<std::int16_t>(customer);
@@ -123,92 +114,6 @@ TEST_F(imports, AnOrderOfAnyCustomerReplacesTheLinesOfOneThatStaysAlive) {
                     {"click mirorcs.comando(5)", "mirpref waiting"},
                     {"activate mirorcs", "mirorcs waiting"},
                     {"click mirorcs.comando(0)", "mirorc"}});  // the wait ends with the order
-}
-
-std::string told(const riga_ordine& line) {
-    std::string text = std::string(line.codice.full()).append(line.descrizione.full());
-    text += line.um.full();
-    for (const double one : {double(line.articolo), line.quantita, line.prezzo, double(line.sc1),
-                             double(line.sc2), double(line.iva)}) {
-        text += " " + std::to_string(one);
-    }
-    return text;
-}
-
-/// Step by step, one read for every row.
-template <class Row>
-void import_plainly(std::vector<riga_ordine>& lines, std::size_t from, const channel<Row>& rows,
-                    const channel<rec_art>& articles, int block) {
-    for (int k = 1; k <= righe_blocco && from <= 200; ++k, ++from) {
-        Row row;
-        rec_art article;
-        rows.read(block_record(block, k), row);
-        riga_ordine& line = lines[from];
-        line.articolo = std::max<std::int16_t>(row.articolo, 0);
-        line.codice = "";
-        if (row.articolo >= 1 && articles.read(row.articolo, article)) {
-            line.codice = article.codice.full();
-        }
-        line.descrizione =
-            std::string(row.descrizione.full()) + std::string(row.descrizione2.full());
-        line.um = row.um.full();
-        line.quantita = row.quantita;
-        line.prezzo = row.prezzo;
-        line.sc1 = row.sc1;
-        line.sc2 = row.sc2;
-        line.iva = row.prezzo == 0 ? std::int16_t{0} : std::int16_t{row.iva};
-    }
-}
-
-template <class Row>
-void write_noise(channel<Row>& file, int block, std::size_t used, std::mt19937& random) {
-    std::vector<Row> rows(righe_blocco);
-    for (std::size_t i = 0; i < rows.size(); ++i) {
-        Row& row = rows[i];
-        make_blank(row);
-        if (i >= used) continue;
-        row.articolo = static_cast<std::int16_t>(static_cast<int>(random() % 5) - 1);
-        row.descrizione = random() % 3 ? "" : "testo " + std::to_string(random() % 100);
-        row.descrizione2 = random() % 3 ? "" : "coda";
-        row.um = random() % 2 ? "PZ" : "KG";
-        row.quantita = static_cast<int>(random() % 20) - 4;
-        row.prezzo = static_cast<int>(random() % 3);
-        row.sc1 = static_cast<std::int16_t>(random() % 90);
-        row.sc2 = static_cast<std::int16_t>(random() % 90);
-        row.iva = static_cast<std::int16_t>(random() % 24);
-    }
-    file.write_block(block_record(block, 1), rows);
-}
-
-TEST_F(imports, SessionsOfImportsComeOutAsStepByStep) {
-    std::mt19937 random(11);
-    for (int session = 0; session < 30; ++session) {
-        for (const int block : {1, 2}) {
-            write_noise(company.files.prv, block, random() % 200, random);
-            write_noise(company.files.orc, block, 200, random);
-        }
-        righe_ordine lines;
-        std::vector<riga_ordine> plain(201);
-        for (int step = 0; step < 4; ++step) {
-            const int block = static_cast<int>(random() % 3) + 1;
-            if (random() % 4 == 0) {
-                sostituisci_con_ordine(lines, company.files, block);
-                import_plainly(plain, 1, company.files.orc, company.files.art, block);
-            } else {
-                std::size_t last = 200;
-                while (last > 0 && plain[last].descrizione.trimmed().empty() &&
-                       plain[last].codice.trimmed().empty() && plain[last].prezzo == 0) {
-                    --last;
-                }
-                aggiungi_preventivo(lines, company.files, block);
-                import_plainly(plain, last + 1, company.files.prv, company.files.art, block);
-            }
-            for (int n = 1; n <= 200; ++n) {
-                ASSERT_EQ(told(lines[n]), told(plain[static_cast<std::size_t>(n)]))
-                    << session << " " << step << " line " << n;
-            }
-        }
-    }
 }
 
 }  // namespace

@@ -22,10 +22,11 @@ std::vector<std::string> snapshot(const small_company& company, const std::strin
     return lines;
 }
 
-/// A document of five pieces of A1, a text and 200 pieces of A2, more than there are.
+/// A document of all five pieces of A1, a text and 200 pieces of A2, more than there are.
 struct document_stage : fulfil_stage {
     explicit document_stage(int automatic_weight = 1) {
         order(1, 1, {{1, 5}, {0, 0, 0, "fragile"}, {2, 200}});
+        change_stored(files.art, 1, [](rec_art& one) { one.giacenza = 5; });
         change_stored(gnr, 1, [&](rec_gnr& general) {
             general.peso_automatico = static_cast<std::int16_t>(automatic_weight);
         });
@@ -82,6 +83,7 @@ TEST(mirorca, MovementRecordAndSnapshotSayWhatLeft) {
     EXPECT_EQ(head, "1|42|06/05/2024||1,25|06/05/2024|10:20|0|0|00|1||A1|merce|PZ|10|5|4|5|10|");
     EXPECT_EQ(lines[11].size() + lines[12].size() + lines[13].size(), 15U + 15 + 60);
     EXPECT_EQ(lines[10 + 20], "0") << "the line that was refused is gone";
+    EXPECT_EQ(lines[10 + 25], "10") << "its discount stays";
     EXPECT_EQ(lines[10 + 28], "0");
     EXPECT_EQ(
         (std::vector(lines.end() - 10, lines.end())),

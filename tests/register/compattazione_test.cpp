@@ -107,7 +107,9 @@ TEST(compattazione, LeavesTheSameBytesAsMovingRecordByRecord) {
         const bool short_file = random() % 3 == 0;
         const std::size_t written = random() % 2 == 0 ? random() % 4 : 1000;
         const bool ends = random() % 2 == 0;
-        const std::int64_t bad_record = random() % 3 == 0 ? random() % 1800 + 1 : 0;
+        const std::int64_t bad_record = random() % 3 == 0   ? random() % 1800 + 1
+                                        : random() % 2 == 0 ? random() % 9 * 200 + 1
+                                                            : 0;
         const auto touches_bad_record = [&](const std::string& path, std::int64_t offset,
                                             std::size_t size) {
             const std::int64_t bad = (bad_record - 1) * 284;

