@@ -4,6 +4,7 @@
 
 #include "reports/report.h"
 #include "store/text/number_text.h"
+#include "store/values.h"
 
 namespace vantora::bench {
 
@@ -34,8 +35,8 @@ inline void fill(ui::grid& list, int rows) {
         list.set_text(row, 2, "0" + std::to_string(1 + part % 9) + "/05/2024");
         list.set_text(row, 3, "Ordine n. " + number + " del reparto manutenzione e impianti");
         list.set_text(row, 4, customers[part % 4] + number);
-        list.set_text(row, 5, masked(part % 50000 / 100.0, "########0.#0"));
-        if (row % 3 == 0) list.set_text(row, 6, masked(part % 400, "########0.#0"));
+        list.set_text(row, 5, masked(part % 50000 / 100.0, maschera::quantita));
+        if (row % 3 == 0) list.set_text(row, 6, masked(part % 400, maschera::quantita));
     }
 }
 

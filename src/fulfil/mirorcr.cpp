@@ -9,7 +9,6 @@ namespace vantora {
 namespace {
 
 constexpr int righe_minime = 28;
-constexpr std::string_view maschera_quantita = "########0.#0";
 
 std::vector<ui::grid_column> worklist_columns() {
     using enum ui::alignment;
@@ -25,10 +24,6 @@ std::vector<ui::grid_column> worklist_columns() {
 }
 
 }  // namespace
-
-std::string testo_quantita(double quantity) {
-    return quantity == 0 ? std::string() : masked(quantity, maschera_quantita);
-}
 
 mirorcr::mirorcr(program& app)
     : form(app.desk, "mirorcr", "Evasione ordini"),

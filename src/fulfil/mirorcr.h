@@ -9,9 +9,6 @@
 
 namespace vantora {
 
-/// A quantity as the worklist shows it, two decimals; empty for 0.
-std::string testo_quantita(double quantity);
-
 /// The worklist of a fulfilment: all open rows of the current customer's orders. The user says how
 /// much of each leaves, and the confirmation books it and hands it over to the transport document.
 class mirorcr final : public ui::form {

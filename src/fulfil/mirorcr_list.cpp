@@ -5,6 +5,7 @@
 #include "store/block_reader.h"
 #include "store/record_stretches.h"
 #include "store/text/dates.h"
+#include "store/values.h"
 
 namespace vantora {
 

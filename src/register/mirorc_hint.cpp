@@ -15,18 +15,13 @@ namespace vantora {
 namespace {
 
 constexpr std::size_t righe_raccontate = 6;
-constexpr std::string_view maschera_quantita = "########0.#0";
-
-std::string quantity_text(double quantity) {
-    return quantity == 0 ? "0" : masked(quantity, maschera_quantita);
-}
 
 std::string line_text(const rec_orc& row) {
     const std::string description =
         filtra_stampa(std::string(row.descrizione.full()) + std::string(row.descrizione2.full()));
     std::string text;
     if (row.quantita != 0) {
-        text = quantity_text(row.quantita) + " " + std::string(row.um.trimmed()) + "  ";
+        text = testo_quantita(row.quantita) + " " + std::string(row.um.trimmed()) + "  ";
     }
     return text.append(trimmed(description));
 }
@@ -76,8 +71,8 @@ std::string mirorc::hint(int row) const {
     if (block.front().evaso_flag == 1) {
         text += "Evaso";
     } else {
-        text += "Da evadere: " + quantity_text(sums.da_evadere) + " pezzi, " +
-                amount_text(sums.valore_da_evadere, in);
+        text += "Da evadere: " + (sums.da_evadere == 0 ? "0" : testo_quantita(sums.da_evadere)) +
+                " pezzi, " + amount_text(sums.valore_da_evadere, in);
     }
     return text + "\nValore dell'ordine: " + amount_text(sums.valore, in);
 }

@@ -26,8 +26,4 @@ std::string free_text(const text<40>& descrizione, const text<10>& descrizione2)
     return std::string(trimmed(whole));
 }
 
-std::string quantity_text(double quantity) {
-    return quantity == 0 ? std::string() : masked(quantity, "########0.#0");
-}
-
 }  // namespace vantora

@@ -31,9 +31,6 @@ using etichette_articoli = record_stretches<rec_art, etichetta_articolo>;
 /// A free text in two fields, as one.
 std::string free_text(const text<40>& descrizione, const text<10>& descrizione2);
 
-/// A quantity with two decimals; empty for 0.
-std::string quantity_text(double quantity);
-
 /// Whether a field holds nothing but blanks.
 template <std::size_t N>
 bool is_blank(const text<N>& field) {

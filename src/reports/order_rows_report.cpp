@@ -2,6 +2,7 @@
 
 #include "program/customer_names.h"
 #include "store/text/dates.h"
+#include "store/values.h"
 
 namespace vantora {
 
@@ -43,8 +44,8 @@ void order_rows_report::list_row(list_rows& list, const rec_orc& row,
                                  etichette_articoli& articles) const {
     list.write(places().articolo, row.articolo < 1 ? free_text(row.descrizione, row.descrizione2)
                                                    : articles.of(row.articolo).text());
-    list.write(places().ordinato, quantity_text(row.quantita));
-    list.write(places().evaso, quantity_text(row.evaso));
+    list.write(places().ordinato, testo_quantita(row.quantita));
+    list.write(places().evaso, testo_quantita(row.evaso));
 }
 
 }  // namespace vantora

@@ -77,6 +77,10 @@ std::string formato_prezzo(double value, const valuta& in) {
     return masked(value, by_decimals[static_cast<std::size_t>(in.decimali_prezzo - 2)]);
 }
 
+std::string testo_quantita(double quantity) {
+    return quantity == 0 ? std::string() : masked(quantity, maschera::quantita);
+}
+
 std::string formato_quantita(std::string_view text) {
     const double value = number_at_head(text);
     return masked(value, value == integer_part(value) ? maschera::intero : maschera::due_decimali);

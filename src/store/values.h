@@ -27,6 +27,7 @@ inline constexpr std::string_view due_decimali = "###,###,###,##0.#0";
 inline constexpr std::string_view tre_decimali = "###,###,###,##0.##0";
 inline constexpr std::string_view quattro_decimali = "###,###,###,##0.###0";
 inline constexpr std::string_view cinque_decimali = "###,###,###,##0.####0";
+inline constexpr std::string_view quantita = "########0.#0";
 }  // namespace maschera
 
 /// The value rounded to the currency's unit.
@@ -55,6 +56,9 @@ std::string formato_importo(double value, const valuta& in);
 
 /// Text of a unit price; empty for 0.
 std::string formato_prezzo(double value, const valuta& in);
+
+/// Text of a quantity in a list, with two decimals; empty for 0.
+std::string testo_quantita(double quantity);
 
 /// Text of a quantity given as text with a decimal point; a whole 0 is empty.
 std::string formato_quantita(std::string_view text);
