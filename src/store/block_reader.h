@@ -25,15 +25,14 @@ class block_reader {
     block_reader& operator=(const block_reader&) = delete;
 
     /// first_row() will be called for blocks `first` to `last`, in order. block() behind it is
-    /// ready where `wanted` takes the row, which is asked some time before; where it took many in
-    /// a row, row 1 isn't read apart from its block.
+    /// ready where `wanted` takes the row, which is asked some time before; where it took many of
+    /// late, row 1 isn't read apart from its block.
     void walk_heads(std::int64_t first, std::int64_t last,
                     std::function<bool(const Row&)> wanted = {}) {
         begin_walk(first, last);
         wanted_ = std::move(wanted);
         heads_.emplace(from_, blocks_between(first, last), [this, first](std::size_t i) {
-            const bool whole = taken_in_a_row_ >= whole_behind;
-            return run_of(first + static_cast<std::int64_t>(i), whole ? righe_blocco : 1);
+            return run_of(first + static_cast<std::int64_t>(i), many_taken_ ? righe_blocco : 1);
         });
         if (wanted_) blocks_.emplace(from_);
     }
@@ -78,7 +77,9 @@ class block_reader {
         std::span<const Row> whole;  ///< or it is here
     };
     static constexpr std::size_t coming_most = 32;
-    static constexpr int whole_behind = 32;
+    static constexpr int stretch_length = 32;
+    /// Of a stretch, from here on passing over the rows of the others costs less than their heads.
+    static constexpr int many_of_a_stretch = 4;
 
     static std::size_t blocks_between(std::int64_t first, std::int64_t last) {
         return last < first ? 0 : static_cast<std::size_t>(last - first) + 1;
@@ -93,7 +94,8 @@ class block_reader {
         coming_.clear();
         ready_ = {};
         wanted_ = nullptr;
-        taken_in_a_row_ = 0;
+        stretch_seen_ = stretch_taken_ = 0;
+        many_taken_ = false;
         next_ = seen_ = first;
         end_ = last;
     }
@@ -134,9 +136,16 @@ class block_reader {
         if (rows) head.row = rows->front();
         if (rows && !alone) head.whole = *rows;
         const bool taken = !head.read || wanted_(head.row);
-        taken_in_a_row_ = taken ? taken_in_a_row_ + 1 : 0;
+        note(taken);
         head.chosen = taken || !head.whole.empty();
         if (taken && head.whole.empty()) blocks_->ask(run_of(seen_, righe_blocco));
+    }
+
+    void note(bool taken) {
+        stretch_taken_ += taken ? 1 : 0;
+        if (++stretch_seen_ < stretch_length) return;
+        many_taken_ = stretch_taken_ >= many_of_a_stretch;
+        stretch_seen_ = stretch_taken_ = 0;
     }
 
     /// The block, if it comes next of those read ahead and could be read.
@@ -177,7 +186,9 @@ class block_reader {
     std::int64_t seen_ = 1;              ///< block of the next head to come
     std::optional<std::int64_t> ready_;  ///< block that comes next of those chosen
     std::span<const Row> whole_;         ///< its rows, if they are here
-    int taken_in_a_row_ = 0;             ///< heads, of late
+    int stretch_seen_ = 0;               ///< heads of the stretch at hand
+    int stretch_taken_ = 0;              ///< those that were taken
+    bool many_taken_ = false;            ///< of the stretch before
 };
 
 }  // namespace vantora
