@@ -158,7 +158,7 @@ void document_bench(test::program_stage<>& bench, righe_ordine& lines, int round
     compose();
     const std::string whole = bench.files.read_whole(file_di_stampa).value_or("");
     const auto write_again = [&] {
-        bench.files.create(file_di_stampa)->write(0, std::as_bytes(std::span(whole)));
+        bench.files.create_instead(file_di_stampa)->write(0, std::as_bytes(std::span(whole)));
     };
     std::printf("%zu pages, %zu bytes of print file\n", pages, whole.size());
     compare("composition of a document", rounds, compose, "its print file from memory",

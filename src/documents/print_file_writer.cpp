@@ -5,6 +5,7 @@
 #include <charconv>
 #include <cstring>
 #include <span>
+#include <utility>
 
 #include "store/text/number_text.h"
 
@@ -12,7 +13,7 @@ namespace vantora {
 
 namespace {
 
-constexpr std::size_t handed_over_at = 64 * 1024;
+constexpr std::size_t sent_off_at = 512 * 1024;
 constexpr std::size_t longest_number = 32;  ///< with its blanks and line end
 constexpr double largest_whole = 1e15;      ///< from here on numbers have an exponent
 constexpr std::string_view line_end = "\r\n";
@@ -48,15 +49,7 @@ constexpr auto millimetres = [] {
     return lines;
 }();
 
-char* put_number(char* at, double value) {
-    if (value >= 0 && value < millimetres.size()) {
-        const auto whole = static_cast<unsigned>(value);
-        if (whole == value) {
-            const ready_line& line = millimetres[whole];
-            std::memcpy(at, line.text, sizeof line.text);
-            return at + line.size;
-        }
-    }
+char* put_other_number(char* at, double value) {
     if (value > -largest_whole && value < largest_whole) {
         const auto whole = static_cast<std::int64_t>(value);
         if (static_cast<double>(whole) == value) {
@@ -68,13 +61,19 @@ char* put_number(char* at, double value) {
     return put(put(at, plain_text_signed(value)), " \r\n");
 }
 
+inline char* put_number(char* at, double value) {
+    if (!(value >= 0 && value < millimetres.size())) return put_other_number(at, value);
+    const auto whole = static_cast<std::int32_t>(value);
+    if (whole != value) return put_other_number(at, value);
+    const ready_line& line = millimetres[static_cast<std::size_t>(whole)];
+    std::memcpy(at, line.text, sizeof line.text);
+    return at + line.size;
+}
+
 }  // namespace
 
 print_file_writer::print_file_writer(file_port& files, std::string_view mark)
-    : files_(files),
-      file_(files.create_instead(file_di_stampa)),
-      pending_(handed_over_at),
-      whole_(file_ != nullptr) {
+    : files_(files), file_(files.create_instead(file_di_stampa)), whole_(file_ != nullptr) {
     filled(put_line(room(mark.size() + line_end.size()), mark));
 }
 
@@ -82,29 +81,55 @@ print_file_writer::~print_file_writer() {
     hand_over();
 }
 
+void print_file_writer::piece::empty(std::size_t least_room) {
+    used = 0;
+    if (room >= least_room) return;
+    lines = std::make_unique_for_overwrite<char[]>(least_room);
+    room = least_room;
+}
+
 char* print_file_writer::room(std::size_t size) {
-    if (used_ + size > pending_.size()) {
-        hand_over();
-        if (size > pending_.size()) pending_.resize(size);
+    if (pending_.used + size > pending_.room) {
+        send_off();
+        pending_.empty(std::max(size, sent_off_at));
     }
-    return pending_.data() + used_;
+    return pending_.lines.get() + pending_.used;
 }
 
 void print_file_writer::filled(const char* end) {
-    used_ = static_cast<std::size_t>(end - pending_.data());
+    pending_.used = static_cast<std::size_t>(end - pending_.lines.get());
+}
+
+bool print_file_writer::write(const piece& lines) {
+    return file_->write(written_, std::as_bytes(std::span(lines.lines.get(), lines.used)));
+}
+
+void print_file_writer::send_off() {
+    if (!sent_lines_written() || pending_.used == 0) return;
+    std::swap(leaving_, pending_);
+    // Where the machine has no further thread, waiting for it writes them.
+    on_its_way_ =
+        std::async(std::launch::async | std::launch::deferred, [this] { return write(leaving_); });
+}
+
+bool print_file_writer::sent_lines_written() {
+    if (on_its_way_.valid()) note(on_its_way_.get(), leaving_);
+    return file_ != nullptr;
 }
 
 void print_file_writer::hand_over() {
-    if (used_ == 0) return;
-    const auto bytes = std::as_bytes(std::span(pending_).first(used_));
-    if (file_ && file_->write(written_, bytes)) {
-        written_ += static_cast<std::int64_t>(used_);
-    } else if (file_) {
-        whole_ = false;
-        file_.reset();
-        files_.create_instead(file_di_stampa);
+    const piece last = std::exchange(pending_, {});
+    if (sent_lines_written() && last.used > 0) note(write(last), last);
+}
+
+void print_file_writer::note(bool written, const piece& lines) {
+    if (written) {
+        written_ += static_cast<std::int64_t>(lines.used);
+        return;
     }
-    used_ = 0;
+    whole_ = false;
+    file_.reset();
+    files_.create_instead(file_di_stampa);
 }
 
 bool print_file_writer::finish() {
@@ -118,22 +143,63 @@ void print_file_writer::write(const record_di_stampa& record) {
                 record.colore, record.testo, record.carattere, record.grassetto, record.corsivo});
 }
 
-void print_file_writer::write_view(const vista_di_record& record, forma_stile form) {
-    const std::size_t texts = record.testo.size() + record.carattere.size();
-    char* at = room(righe_per_record * longest_number + texts);
-    at = put_number(at, static_cast<double>(record.tipo));
-    for (const double value : {record.x1, record.y1, record.x2, record.y2, record.corpo}) {
-        at = put_number(at, value);
-    }
-    const bool is_picture = record.tipo == tipo_record::figura;
-    at = is_picture ? put(at, line_end) : put_number(at, record.colore);
-    at = put_line(put_line(at, record.testo), record.carattere);
-    if (form == forma_stile::zeri_come_testo) {
+char* print_file_writer::ready_lines::room(std::size_t bytes) {
+    text_.resize(std::max(bytes, usual));
+    return text_.data();
+}
+
+void print_file_writer::ready_lines::filled(const char* end) {
+    size_ = static_cast<std::size_t>(end - text_.data());
+}
+
+char* print_file_writer::ready_lines::copied_to(char* at) const {
+    std::memcpy(at, text_.data(), usual);
+    if (size_ > usual) std::memcpy(at + usual, text_.data() + usual, size_ - usual);
+    return at + size_;
+}
+
+bool print_file_writer::lines_of_look::are_of(const vista_di_record& record, forma_stile as) const {
+    if (record.tipo == tipo_record::testo && (x2_ != record.x2 || y2_ != record.y2)) return false;
+    return made_ && corpo_ == record.corpo && colore_ == record.colore &&
+           grassetto_ == record.grassetto && corsivo_ == record.corsivo && form_ == as &&
+           carattere_ == record.carattere;
+}
+
+void print_file_writer::lines_of_look::make(const vista_di_record& record, forma_stile as) {
+    x2_ = record.x2;
+    y2_ = record.y2;
+    corpo_ = record.corpo;
+    colore_ = record.colore;
+    carattere_ = record.carattere;
+    grassetto_ = record.grassetto;
+    corsivo_ = record.corsivo;
+    form_ = as;
+    made_ = true;
+    char* at = before_text.room(4 * longest_number);
+    if (record.tipo == tipo_record::testo) at = put_number(put_number(at, x2_), y2_);
+    at = put_number(at, corpo_);
+    at = record.tipo == tipo_record::figura ? put(at, line_end) : put_number(at, colore_);
+    before_text.filled(at);
+    at = behind_text.room(2 * longest_number + 2 * line_end.size() + carattere_.size());
+    at = put_line(put(at, line_end), carattere_);
+    if (form_ == forma_stile::zeri_come_testo) {
         at = put_line(put_line(at, "0"), "0");
     } else {
-        at = put_number(put_number(at, record.grassetto), record.corsivo);
+        at = put_number(put_number(at, grassetto_), corsivo_);
     }
-    filled(at);
+    behind_text.filled(at);
+}
+
+void print_file_writer::write_view(const vista_di_record& record, forma_stile form) {
+    lines_of_look& look = looks_[static_cast<std::size_t>(record.tipo)];
+    if (!look.are_of(record, form)) look.make(record, form);
+    char* at = room(5 * longest_number + look.before_text.size() + record.testo.size() +
+                    look.behind_text.size() + ready_lines::usual);
+    at = put_number(at, static_cast<double>(record.tipo));
+    at = put_number(put_number(at, record.x1), record.y1);
+    if (record.tipo != tipo_record::testo) at = put_number(put_number(at, record.x2), record.y2);
+    at = put(look.before_text.copied_to(at), record.testo);
+    filled(look.behind_text.copied_to(at));
 }
 
 void print_file_writer::end_page() {

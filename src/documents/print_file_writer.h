@@ -1,6 +1,9 @@
 #pragma once
 
+#include <array>
+#include <future>
 #include <memory>
+#include <string>
 #include <vector>
 
 #include "documents/print_file.h"
@@ -10,7 +13,8 @@ namespace vantora {
 
 /// Writes a print file. Failures are passed over: a file that can't be created or filled takes
 /// nothing from what goes to the printer. After the first failure nothing more is written, and the
-/// file is left empty where the system allows it, so that nobody takes it for a document.
+/// file is left empty where the system allows it, so that nobody takes it for a document. Of a long
+/// one a piece is written, on another thread, while the next is composed.
 class print_file_writer {
  public:
     /// Puts a new file in the place of the old one, which whoever has it open keeps, and writes its
@@ -36,13 +40,70 @@ class print_file_writer {
     /// Room for so many bytes more, to be filled up to what `filled` is told.
     char* room(std::size_t size);
     void filled(const char* end);
+    /// Lines in a row.
+    struct piece {
+        void empty(std::size_t least_room);
+
+        std::unique_ptr<char[]> lines;
+        std::size_t room = 0;
+        std::size_t used = 0;
+    };
+
+    bool write(const piece& lines);
+    /// Has what is pending written while the next lines are composed.
+    void send_off();
+    /// Waits for the lines on their way. False if nothing more may be written.
+    bool sent_lines_written();
+    /// Writes what is pending.
     void hand_over();
+    void note(bool written, const piece& lines);
+
+    /// Lines that are written again and again. So many bytes as are usual are copied in one go,
+    /// also where there are fewer.
+    class ready_lines {
+     public:
+        static constexpr std::size_t usual = 32;
+
+        /// Room for other lines, to be filled up to what `filled` is told.
+        char* room(std::size_t bytes);
+        void filled(const char* end);
+        [[nodiscard]] std::size_t size() const { return size_; }
+        /// Returns their end; what lies behind it up to `usual` bytes is overwritten.
+        char* copied_to(char* at) const;
+
+     private:
+        std::vector<char> text_;
+        std::size_t size_ = 0;
+    };
+    /// What the lines of a record say behind its place and around its text: mostly the same as in
+    /// the one before of its kind.
+    class lines_of_look {
+     public:
+        [[nodiscard]] bool are_of(const vista_di_record& record, forma_stile as) const;
+        void make(const vista_di_record& record, forma_stile as);
+
+        ready_lines before_text;  ///< of a text lines 4 to 7, of others lines 6 and 7
+        ready_lines behind_text;  ///< the end of line 8, lines 9 to 11
+
+     private:
+        double x2_ = 0;
+        double y2_ = 0;
+        double corpo_ = 0;
+        double colore_ = 0;
+        std::string carattere_;
+        double grassetto_ = 0;
+        double corsivo_ = 0;
+        forma_stile form_ = forma_stile::numeri;
+        bool made_ = false;
+    };
 
     file_port& files_;
     std::unique_ptr<file> file_;  ///< null once a failure has left it empty
-    std::vector<char> pending_;   ///< lines on their way to the file
-    std::size_t used_ = 0;
+    piece pending_;               ///< lines that wait for others
+    piece leaving_;               ///< lines on their way to the file
     std::int64_t written_ = 0;
+    std::future<bool> on_its_way_;
+    std::array<lines_of_look, 10> looks_;  ///< the latest, by kind
     bool whole_;
 };
 

@@ -37,32 +37,74 @@ std::string_view mask_of(int formato, const valuta& in) {
     }
 }
 
+bool only_digits(std::string_view text) {
+    return std::ranges::all_of(text, [](char one) { return one >= '0' && one <= '9'; });
+}
+
+/// A number as lists show it, "-1234,5", under a mask that shows all of its decimals: its value
+/// needn't be known for that. Empty optional for other texts.
+std::optional<std::string> regrouped(std::string_view cell, std::string_view mask) {
+    constexpr std::size_t most_digits = 15;
+    const std::size_t mark = mask.find('.');
+    const std::size_t places = mark == std::string_view::npos ? 0 : mask.size() - mark - 1;
+    const bool negative = cell.starts_with('-');
+    if (negative) cell.remove_prefix(1);
+    const std::string_view whole = cell.substr(0, cell.find(','));
+    const std::string_view decimals = cell.substr(std::min(whole.size() + 1, cell.size()));
+    if (whole.empty() || mask.empty() || cell.size() > most_digits || decimals.size() > places ||
+        (whole.size() > 1 && whole.front() == '0') || !only_digits(whole) ||
+        !only_digits(decimals)) {
+        return {};
+    }
+    if (whole == "0" && decimals.find_first_not_of('0') == std::string_view::npos) return "";
+    char text[2 * most_digits + 2];
+    char* at = text;
+    if (negative) *at++ = '-';
+    for (std::size_t left = whole.size(); left > 0; --left) {
+        if (left < whole.size() && left % 3 == 0) *at++ = '.';
+        *at++ = whole[whole.size() - left];
+    }
+    if (places > 0) {
+        *at++ = ',';
+        at = std::ranges::copy(decimals, at).out;
+        at = std::fill_n(at, places - decimals.size(), '0');
+    }
+    return std::string(text, at);
+}
+
 }  // namespace
 
 text_ruler::text_ruler(const ui::printer& paper, ui::font in, double units_per_millimetre)
     : paper_(paper), font_(std::move(in)), units_(units_per_millimetre) {
-    characters_.fill(-1);
+    characters_.fill(unknown);
 }
 
 double text_ruler::width(std::string_view text) const {
     return paper_.text_width(text, font_) * units_;
 }
 
-double text_ruler::character_width(char character) const {
-    double& known = characters_[static_cast<unsigned char>(character)];
-    if (known < 0) known = std::max(0.0, width(std::string_view(&character, 1)));
-    return known;
+std::int64_t text_ruler::parts(double width) {
+    constexpr double parts_of_unit = 1 << 24;
+    constexpr double widest = 1e11;
+    return static_cast<std::int64_t>(std::clamp(width, -widest, widest) * parts_of_unit);
 }
 
 std::optional<std::size_t> text_ruler::within(std::string_view text, double limit) const {
-    const double surely_within = limit - summing_error(limit);
-    const double surely_beyond = limit + summing_error(limit);
+    const std::int64_t surely_within = parts(limit - summing_error(limit));
+    const std::int64_t surely_beyond = parts(limit + summing_error(limit));
     if (text.empty()) return {};
-    double sum = 0;
+    std::int64_t sum = 0;
     for (std::size_t i = 0; i < text.size(); ++i) {
-        sum += character_width(text[i]);
+        std::int64_t& character = characters_[static_cast<unsigned char>(text[i])];
+        sum += character;
+        if (sum < surely_within) continue;
+        if (character == unknown) {
+            character = parts(std::max(0.0, width(text.substr(i, 1))));
+            sum += character - unknown;
+            if (sum < surely_within) continue;
+        }
         if (sum > surely_beyond) return i;
-        if (sum >= surely_within) return {};
+        return {};
     }
     return text.size();
 }
@@ -72,21 +114,23 @@ std::string formattata(std::string_view cell, int formato, const valuta& in) {
         cell.starts_with("===")) {
         return std::string(cell);
     }
-    const double value = testo_a_numero(cell);
-    if (value == 0) return {};
     const std::string_view mask = mask_of(formato, in);
-    std::string text = mask.empty() ? plain_text(value) : masked(value, mask);
-    return formato == 8 ? "(" + text + ")" : text;
+    auto text = regrouped(cell, mask);
+    if (!text) {
+        const double value = testo_a_numero(cell);
+        if (value == 0) return {};
+        text = mask.empty() ? plain_text(value) : masked(value, mask);
+    }
+    return formato == 8 && !text->empty() ? "(" + *text + ")" : *text;
 }
 
 std::string_view accorciato(std::string_view text, double limit, const text_ruler& ruler) {
     if (text.size() < 2) return text;
     const std::string_view whole = trimmed(text);
+    const auto count = ruler.within(whole, limit);
+    if (count == whole.size()) return text;
     std::string_view rest = trimmed(text.substr(0, text.size() - 1));
-    if (const auto count = ruler.within(whole, limit)) {
-        if (*count == whole.size()) return text;
-        return trimmed(rest.substr(0, std::max<std::size_t>(*count, 1)));
-    }
+    if (count) return trimmed(rest.substr(0, std::max<std::size_t>(*count, 1)));
     if (ruler.width(whole) <= limit) return text;
     while (rest.size() > 1 && ruler.width(rest) > limit) {
         rest = trimmed(rest.substr(0, rest.size() - 1));
@@ -94,8 +138,13 @@ std::string_view accorciato(std::string_view text, double limit, const text_rule
     return rest;
 }
 
-preparazione_celle::preparazione_celle(text_ruler ruler, double limit, int formato, valuta in)
-    : ruler_(std::move(ruler)), limit_(limit), formato_(formato), currency_(in) {}
+preparazione_celle::preparazione_celle(text_ruler ruler, double limit, int formato, valuta in,
+                                       bool measured)
+    : ruler_(std::move(ruler)),
+      limit_(limit),
+      formato_(formato),
+      currency_(in),
+      measured_(measured) {}
 
 cella_pronta preparazione_celle::operator()(std::string_view cell) {
     if (formato_ == 0) return {accorciato(cell, limit_, ruler_), 0};
@@ -105,7 +154,7 @@ cella_pronta preparazione_celle::operator()(std::string_view cell) {
     place.cell = cell;
     place.text = formattata(cell, formato_, currency_);
     const std::string_view fitted = accorciato(place.text, limit_, ruler_);
-    place.ready = {fitted, ruler_.width(fitted)};
+    place.ready = {fitted, measured_ ? ruler_.width(fitted) : 0};
     return place.ready;
 }
 

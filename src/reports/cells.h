@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -25,12 +26,14 @@ class text_ruler {
     [[nodiscard]] std::optional<std::size_t> within(std::string_view text, double limit) const;
 
  private:
-    [[nodiscard]] double character_width(char character) const;
+    /// Widths are summed as whole numbers of parts of a unit.
+    static constexpr std::int64_t unknown = std::int64_t{1} << 62;
+    static std::int64_t parts(double width);
 
     const ui::printer& paper_;
     ui::font font_;
     double units_;
-    mutable std::array<double, 256> characters_;  ///< below 0: not asked for yet
+    mutable std::array<std::int64_t, 256> characters_;  ///< `unknown`: not asked for yet
 };
 
 /// The text of a cell by its format code: 0 leaves a text as it is; 1 to 8 read a number and write
@@ -43,13 +46,14 @@ std::string_view accorciato(std::string_view text, double limit, const text_rule
 /// A cell that can be placed.
 struct cella_pronta {
     std::string_view testo;
-    double larghezza = 0;  ///< of the text; measured for numbers alone
+    double larghezza = 0;  ///< of the text; measured where that is asked for, else 0
 };
 
 /// Prepares the cells of one column. Quantities repeat themselves, so the latest numbers are kept.
 class preparazione_celle {
  public:
-    preparazione_celle(text_ruler ruler, double limit, int formato, valuta in);
+    /// `measured`: the widths of the column's numbers are asked for.
+    preparazione_celle(text_ruler ruler, double limit, int formato, valuta in, bool measured);
 
     /// Valid as long as the cell's text and until the next call.
     cella_pronta operator()(std::string_view cell);
@@ -67,6 +71,7 @@ class preparazione_celle {
     double limit_;
     int formato_;
     valuta currency_;
+    bool measured_;
     std::vector<kept> kept_{kept_cells};
 };
 

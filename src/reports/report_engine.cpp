@@ -68,10 +68,14 @@ void report_engine::set_columns() {
     const std::size_t lines = has_second_line() ? 2 : 1;
     for (std::size_t line = 0; line < lines; ++line) {
         for (std::size_t i = 0; i < columns(); ++i) {
-            const look as = measured_look(i, line);
-            text_ruler ruler(out_.paper(), font_of(as), out_.units_per_millimetre());
-            cells_.emplace_back(std::move(ruler), fit_[i], sheet_.colonne[i].formato_cella,
-                                valuta(parameters_));
+            text_ruler ruler(out_.paper(), font_of(measured_look(i, line)),
+                             out_.units_per_millimetre());
+            testo_report text = text_in(row_look(i, line));
+            if (!aspect_.grigio) text.forma = forma_stile::zeri_come_testo;
+            place_in_column(text, i, 0);
+            cells_.push_back({{std::move(ruler), fit_[i], sheet_.colonne[i].formato_cella,
+                               valuta(parameters_), placed_by_width(i)},
+                              text});
         }
     }
 }
@@ -116,9 +120,17 @@ double report_engine::width_of(std::string_view text, const look& as) const {
     return out_.paper().text_width(text, font_of(as)) * out_.units_per_millimetre();
 }
 
+testo_report report_engine::text_in(const look& as) {
+    return {0,          0,        ui::alignment::left, {}, as.carattere, as.corpo, as.grassetto,
+            as.corsivo, as.colore};
+}
+
 void report_engine::put(double x, double y, std::string_view text, const look& as) {
-    out_.text({x, y, ui::alignment::left, text, as.carattere, as.corpo, as.grassetto, as.corsivo,
-               as.colore});
+    testo_report one = text_in(as);
+    one.x = x;
+    one.y = y;
+    one.testo = text;
+    out_.text(one);
 }
 
 void report_engine::put_right(double right, double y, std::string_view text, const look& as) {
@@ -126,15 +138,28 @@ void report_engine::put_right(double right, double y, std::string_view text, con
         put(right - width_of(text, as), y, text, as);
         return;
     }
-    out_.text({right, y, ui::alignment::right, text, as.carattere, as.corpo, as.grassetto,
-               as.corsivo, as.colore});
+    testo_report one = text_in(as);
+    one.x = right;
+    one.y = y;
+    one.allineamento = ui::alignment::right;
+    one.testo = text;
+    out_.text(one);
 }
 
-void report_engine::put_in_column(std::size_t column, double y, std::string_view text, double width,
-                                  const look& as, forma_stile form) {
-    testo_report one{
-        0,         y,   ui::alignment::left, text, as.carattere, as.corpo, as.grassetto, as.corsivo,
-        as.colore, form};
+void report_engine::put_in_column(std::size_t column, double y, std::string_view text,
+                                  const look& measured, const look& as) {
+    testo_report one = text_in(as);
+    one.y = y;
+    one.testo = text;
+    place_in_column(one, column, width_of(text, measured));
+    out_.text(one);
+}
+
+bool report_engine::placed_by_width(std::size_t column) const {
+    return sheet_.colonne[column].formato_cella != 0 && !rows_.fine_a_destra;
+}
+
+void report_engine::place_in_column(testo_report& one, std::size_t column, double width) const {
     if (sheet_.colonne[column].formato_cella == 0) {
         one.x = integer_part(left_[column]) + insets_.rientro_sinistro;
     } else if (rows_.fine_a_destra) {
@@ -144,7 +169,6 @@ void report_engine::put_in_column(std::size_t column, double y, std::string_view
         const double right = is_last(column) ? limits_.destro : left_[column] + width_[column];
         one.x = integer_part(right - integer_part(width)) - insets_.rientro_destro;
     }
-    out_.text(one);
 }
 
 // Rows --------------------------------------------------------------------------------------
@@ -165,9 +189,12 @@ void report_engine::draw_boxes_of(std::size_t column, double y) {
 
 void report_engine::draw_cell(std::size_t column, std::size_t line, std::string_view cell,
                               double y) {
-    const cella_pronta ready = cells_[line * columns() + column](cell);
-    put_in_column(column, y, ready.testo, ready.larghezza, row_look(column, line),
-                  aspect_.grigio ? forma_stile::numeri : forma_stile::zeri_come_testo);
+    auto& [prepara, text] = cells_[line * columns() + column];
+    const cella_pronta ready = prepara(cell);
+    text.y = y;
+    text.testo = ready.testo;
+    if (placed_by_width(column)) place_in_column(text, column, ready.larghezza);
+    out_.text(text);
 }
 
 void report_engine::print_row(std::span<const std::string_view> cells) {

@@ -57,6 +57,7 @@ class report_engine {
     [[nodiscard]] static look look_of(const voce_stampa& entry);
     [[nodiscard]] static ui::font font_of(const look& as);
     [[nodiscard]] look row_look(std::size_t column, std::size_t line) const;
+    [[nodiscard]] static testo_report text_in(const look& as);
     /// In the print file a grey row is measured as the report table has it, and looks otherwise.
     [[nodiscard]] look measured_look(std::size_t column, std::size_t line) const;
 
@@ -88,10 +89,19 @@ class report_engine {
     void put(double x, double y, std::string_view text, const look& as);
     /// A text by its right end.
     void put_right(double right, double y, std::string_view text, const look& as);
-    /// A text where the cells of a column stand.
-    void put_in_column(std::size_t column, double y, std::string_view text, double width,
-                       const look& as, forma_stile form = forma_stile::numeri);
+    /// Whether the place of a column's text depends on its width.
+    [[nodiscard]] bool placed_by_width(std::size_t column) const;
+    /// Gives a text of a width the place where the cells of a column stand.
+    void place_in_column(testo_report& one, std::size_t column, double width) const;
+    void put_in_column(std::size_t column, double y, std::string_view text, const look& measured,
+                       const look& as);
     [[nodiscard]] double width_of(std::string_view text, const look& as) const;
+
+    /// One of the lines of text that a row has in a column.
+    struct linea_celle {
+        preparazione_celle prepara;
+        testo_report testo;  ///< the latest
+    };
 
     const parametri& parameters_;
     const ui::clock& time_;
@@ -103,11 +113,11 @@ class report_engine {
     misure_righe rows_{};
     const misure_colonne& insets_;
     limiti_pagina limits_;
-    std::vector<double> left_;               ///< edges of the columns
-    std::vector<double> width_;              ///< whole parts of the columns' widths
-    std::vector<double> fit_;                ///< widths that the columns' texts may have
-    std::vector<preparazione_celle> cells_;  ///< of first lines, then of second ones
-    int on_page_ = 0;                        ///< rows that stand on the page
+    std::vector<double> left_;        ///< edges of the columns
+    std::vector<double> width_;       ///< whole parts of the columns' widths
+    std::vector<double> fit_;         ///< widths that the columns' texts may have
+    std::vector<linea_celle> cells_;  ///< first lines, then second ones
+    int on_page_ = 0;                 ///< rows that stand on the page
     int numero_pagina_ = -1;
 };
 

@@ -105,7 +105,7 @@ void report_engine::draw_plain_heading() {
     const look titles = look_of(entry(3));
     for (std::size_t i = 0; i < columns(); ++i) {
         const std::string& title = fitted_title(i, 0, titles);
-        put_in_column(i, limits_.alto + at.titoli_y, title, width_of(title, titles), titles);
+        put_in_column(i, limits_.alto + at.titoli_y, title, titles, titles);
     }
 }
 
@@ -140,7 +140,7 @@ void report_engine::draw_grey_titles() {
     const double top = limits_.alto;
     const auto put_title = [&](std::size_t column, std::size_t line, double y) {
         const std::string& title = fitted_title(column, line, measured);
-        put_in_column(column, top + y, title, width_of(title, measured), titles);
+        put_in_column(column, top + y, title, measured, titles);
     };
     for (std::size_t i = 0; i < columns(); ++i) {
         out_.box({left_[i], top + at.titoli_da, box_right(i), top + at.titoli_a, grigio_chiaro},

@@ -85,7 +85,7 @@ TEST_F(print_file, LinesThatAKindDoesNotUseAreEmpty) {
 TEST_F(print_file, WhatIsWrittenIsReadAgainUnlessItIsCutInsideARecord) {
     // The second page has nothing on it, the third more than the writer hands over at once.
     pages long_one = {{logo, rule, shade, heading, amount}, {}};
-    long_one.emplace_back(3000, amount);
+    long_one.emplace_back(9000, amount);
     write(marca_orizzontale, long_one);
     EXPECT_EQ(read(content()), "landscape" + shown(long_one));
     write(marca_verticale, {{heading, shade}, {logo, amount}});
@@ -128,7 +128,7 @@ TEST_F(print_file, AFileThatCannotBeFilledIsLeftEmpty) {
                 return writes == n || (for_good && writes > n);
             };
             print_file_writer out(faulty, marca_verticale);
-            for (int i = 0; i < 3000; ++i) out.write(heading);
+            for (int i = 0; i < 16000; ++i) out.write(heading);
             out.end_page();
             const bool whole = out.finish();
             EXPECT_EQ(whole, writes < n);

@@ -79,7 +79,7 @@ TEST_F(report_road, ThePdfIsNamedOrRefused) {
         app.parameters.parametri_valuta[valuta_slot::cartella_pdf] = one.folder;
         stage.programs.allow(one.can_start);
         disk.write_fails = [&](auto&, std::int64_t at) { return at >= one.failing_from; };
-        const ui::message_box box = print(1000, uscita_report::pdf).at(0).box;
+        const ui::message_box box = print(5000, uscita_report::pdf).at(0).box;
         const bool refuses = one.pdf.empty();
         EXPECT_EQ(box.text, refuses ? refused : made + one.folder);
         EXPECT_EQ(box.icon, refuses ? ui::icon::stop : ui::icon::warning);
