@@ -63,7 +63,11 @@ int main(int count, char** arguments) {
         return 1;
     }
 
+    // Under GLib's loop a key pressed while a list is only painted would lie there until the window
+    // system has something else to say.
+    qputenv("QT_NO_GLIB", "1");
     QApplication application(count, arguments);
+    qunsetenv("QT_NO_GLIB");
     QApplication::setOrganizationName("Vantora");
     QApplication::setApplicationName("Ordini");
     QApplication::setQuitOnLastWindowClosed(false);

@@ -43,4 +43,8 @@ bool sheet_report::order_done() {
     return carry_on((done_ += order_weight) / planned_);
 }
 
+bool sheet_report::listing() {
+    return carry_on(done_ / planned_);
+}
+
 }  // namespace vantora

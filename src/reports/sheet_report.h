@@ -47,6 +47,8 @@ class sheet_report : public report_screen {
     void plan(int entries, const limiti_ordini& orders);
     bool entry_done();
     bool order_done();
+    /// The orders are done, and their rows are being listed.
+    bool listing();
 
  private:
     double planned_ = 1;
@@ -96,12 +98,12 @@ class sheets_report : public sheet_report {
     }
 
     /// Lists the sheets that have rows. `write_own(row)` writes what this kind alone shows of a
-    /// row.
+    /// row; customers and articles may have to be fetched for it.
     template <class WriteOwn>
-    static void list_each(list_rows& list, raccolta& found, WriteOwn write_own) {
+    void list_each(list_rows& list, raccolta& found, WriteOwn write_own) {
         found.righe.group();
         for (const auto& sheet : found.schede) {
-            if (list.full()) return;
+            if (list.full() || !listing()) return;
             const auto rows = found.righe.rows_of(sheet.numero);
             if (rows.empty()) continue;
             somme sums;
