@@ -20,9 +20,8 @@ constexpr const char* title = "Documento PDF";
 }  // namespace
 
 void notices::show_with_open(const QString& text, const QString& pdf, bool is_warning) const {
-    QMessageBox box(QMessageBox::NoIcon, title, text);
+    QMessageBox box(QMessageBox::NoIcon, title, text + "\n\n" + QDir::toNativeSeparators(pdf));
     box.setTextFormat(Qt::PlainText);
-    box.setInformativeText(QDir::toNativeSeparators(pdf));
     box.setTextInteractionFlags(Qt::TextSelectableByMouse);
     auto* open = box.addButton("Apri", QMessageBox::AcceptRole);
     auto* close = box.addButton("Chiudi", QMessageBox::RejectRole);
