@@ -15,6 +15,7 @@
 #include "store/company.h"
 #include "store/drive.h"
 #include "store/text_reader.h"
+#include "ui/desktop/words.h"
 #include "ui/paper/toolkit_values.h"
 
 namespace vantora {
@@ -22,6 +23,7 @@ namespace vantora {
 namespace {
 
 namespace fs = std::filesystem;
+namespace words = ui::desktop::words;
 
 constexpr const char* drive_key = "ditta/disco";
 constexpr const char* company_key = "ditta/numero";
@@ -69,24 +71,22 @@ company_choice::company_choice(fs::path drive, const QString& maker)
     : place_(new QLineEdit(this)), companies_(new QListWidget(this)), none_(new QLabel(this)) {
     setWindowTitle("Vantora Ordini");
     place_->setReadOnly(true);
-    auto* place_label = new QLabel("&Disco della suite", this);
+    auto* place_label = new QLabel(words::drive_of_suite, this);
     place_label->setBuddy(place_);
-    auto* other = new QPushButton("&Cartella...", this);
+    auto* other = new QPushButton(words::other_folder, this);
     other->setAutoDefault(false);
     connect(other, &QPushButton::clicked, this, [this] { choose_folder(); });
-    auto* companies_label = new QLabel("Di&tta", this);
+    auto* companies_label = new QLabel(words::company, this);
     companies_label->setBuddy(companies_);
     connect(companies_, &QListWidget::itemActivated, this, [this] { keep_and_accept(); });
-    none_->setText(
-        QString::fromUtf8("In questa cartella non ci sono ditte della suite. Scelga con Cartella "
-                          "quella che contiene mirwin, o cominci con una ditta di prova."));
+    none_->setText(words::no_company);
     none_->setWordWrap(true);
 
     auto* choices = new QDialogButtonBox(this);
-    open_ = choices->addButton("&Apri", QDialogButtonBox::AcceptRole);
-    choices->addButton("A&nnulla", QDialogButtonBox::RejectRole);
+    open_ = choices->addButton(words::open, QDialogButtonBox::AcceptRole);
+    choices->addButton(words::cancel, QDialogButtonBox::RejectRole);
     if (QFileInfo(maker).isExecutable()) {
-        auto* trial = choices->addButton("Ditta di &prova", QDialogButtonBox::ActionRole);
+        auto* trial = choices->addButton(words::trial_company, QDialogButtonBox::ActionRole);
         connect(trial, &QPushButton::clicked, this, [this, maker] { make_demonstration(maker); });
     }
     connect(choices, &QDialogButtonBox::accepted, this, [this] { keep_and_accept(); });
@@ -132,8 +132,8 @@ void company_choice::show_companies(const fs::path& drive) {
 }
 
 void company_choice::choose_folder() {
-    const QString chosen = QFileDialog::getExistingDirectory(
-        this, "Disco della suite: la cartella che contiene mirwin", place_->text());
+    const QString chosen =
+        QFileDialog::getExistingDirectory(this, words::folder_of_suite, place_->text());
     if (!chosen.isEmpty()) show_companies(chosen.toStdString());
 }
 
@@ -149,8 +149,7 @@ void company_choice::make_demonstration(const QString& maker) {
             !refused && QProcess::execute(maker, {path_shown(trial), demonstration}) == 0;
         unsetCursor();
         if (!made) {
-            none_->setText(QString::fromUtf8("La ditta di prova non si può creare in ") +
-                           path_shown(trial) + ".");
+            none_->setText(QString::fromUtf8(words::no_trial_company).arg(path_shown(trial)));
             none_->show();
             return;
         }

@@ -3,6 +3,7 @@
 #include <QProgressBar>
 
 #include "ui/desktop/binder.h"
+#include "ui/desktop/words.h"
 #include "ui/form.h"
 
 namespace vantora::ui::desktop {
@@ -21,7 +22,7 @@ QProgressBar* make_bar(const control& list, QWidget* place) {
     bar->setObjectName("list_bar");
     bar->setRange(0, steps);
     bar->setTextVisible(false);
-    bar->setAccessibleName("Lettura dell'archivio");
+    bar->setAccessibleName(words::list_coming);
     if (!place) {
         // The screen comes up with its list.
         bar->setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);

@@ -7,6 +7,7 @@
 #include <QMessageBox>
 #include <QUrl>
 
+#include "ui/desktop/words.h"
 #include "ui/look/box_look.h"
 
 namespace vantora::ui::desktop {
@@ -33,9 +34,9 @@ void open_manual(QWidget* above) {
     const QString file = manual_file(QCoreApplication::applicationDirPath());
     if (!file.isEmpty() && QDesktopServices::openUrl(QUrl::fromLocalFile(file))) return;
     QMessageBox box(above);
-    box.setWindowTitle("Manuale");
-    box.setText(file.isEmpty() ? QString::fromUtf8("Il manuale non è installato.")
-                               : QString::fromUtf8("Il manuale non si può aprire: ") + file);
+    box.setWindowTitle(words::manual);
+    box.setText(file.isEmpty() ? QString::fromUtf8(words::no_manual)
+                               : QString::fromUtf8(words::manual_stays_shut).arg(file));
     dress_box(box, icon::information);
     box.exec();
 }

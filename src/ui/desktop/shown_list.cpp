@@ -4,6 +4,7 @@
 
 #include "store/text/code_page.h"
 #include "ui/desktop/layouts/article_entries.h"
+#include "ui/desktop/words.h"
 #include "ui/grid.h"
 #include "ui/list_controls.h"
 
@@ -37,7 +38,7 @@ std::vector<int> shown_list::columns() const {
 
 std::string_view shown_list::head(int column) const {
     if (is_grid()) return as_grid(model_).text(0, column);
-    return column == 0 ? "Articolo" : "Descrizione";
+    return column == 0 ? words::article_code : words::article_description;
 }
 
 std::string_view shown_list::text(int row, int column) const {

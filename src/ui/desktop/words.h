@@ -4,6 +4,18 @@ namespace vantora::ui::desktop::words {
 
 // What the windows say in words of their own, in UTF-8; what screens say stands in their models.
 
+// Choosing the company --------------------------------------------------------------------------
+
+inline constexpr const char* drive_of_suite = "&Disco della suite";
+inline constexpr const char* other_folder = "&Cartella...";
+inline constexpr const char* folder_of_suite = "Disco della suite: la cartella che contiene mirwin";
+inline constexpr const char* company = "Di&tta";
+inline constexpr const char* no_company =
+    "In questa cartella non ci sono ditte della suite. Scelga con Cartella quella che contiene "
+    "mirwin, o cominci con una ditta di prova.";
+inline constexpr const char* trial_company = "Ditta di &prova";
+inline constexpr const char* no_trial_company = "La ditta di prova non si può creare in %1.";
+
 // Finding in a list --------------------------------------------------------------------------
 
 inline constexpr const char* find_in_list = "Trova nell'elenco";
@@ -23,6 +35,9 @@ inline constexpr const char* mark_all = "Segna tutte le righe";
 inline constexpr const char* save_list = "Salva l'elenco in CSV";
 inline constexpr const char* csv_files = "File CSV";
 inline constexpr const char* list_as_pdf = "Genera il PDF della lista";
+inline constexpr const char* list_coming = "Lettura dell'archivio";
+inline constexpr const char* article_code = "Articolo";
+inline constexpr const char* article_description = "Descrizione";
 
 // Files ------------------------------------------------------------------------------------------
 
@@ -33,7 +48,7 @@ inline constexpr const char* file_name = "Nome del file:";
 inline constexpr const char* file_type = "Tipo di file:";
 inline constexpr const char* save = "&Salva";
 inline constexpr const char* open = "&Apri";
-inline constexpr const char* cancel = "&Annulla";
+inline constexpr const char* cancel = "A&nnulla";
 inline constexpr const char* pdf_files = "Documenti PDF";
 
 // Lines of an order ------------------------------------------------------------------------------
@@ -52,6 +67,7 @@ inline constexpr const char* lines_back =
 
 // Printing ---------------------------------------------------------------------------------------
 
+inline constexpr const char* printer_settings = "Imposta stampante";
 inline constexpr const char* no_printer = "Nessuna stampante: salva il documento in PDF";
 inline constexpr const char* nameless_job = "Documento";
 inline constexpr const char* cannot_print = "Il documento non si può stampare su ";
@@ -75,6 +91,9 @@ inline constexpr const char* help = "Aiuto: tasti e manuale";
 inline constexpr const char* show_keys = "Tasti di questa finestra";
 inline constexpr const char* keys_of_window = "Tasti: %1";
 inline constexpr const char* open_manual = "Apri il manuale";
+inline constexpr const char* manual = "Manuale";
+inline constexpr const char* no_manual = "Il manuale non è installato.";
+inline constexpr const char* manual_stays_shut = "Il manuale non si può aprire: %1";
 inline constexpr const char* manual_key =
     "Apre il manuale; nella descrizione di una riga trova l'articolo";
 
