@@ -11,6 +11,7 @@
 #include <QProcess>
 #include <QPushButton>
 #include <QSettings>
+#include <QTimer>
 
 #include "ui/desktop/file_dialog.h"
 #include "ui/desktop/print_preview.h"
@@ -27,6 +28,17 @@ QString ask_by_dialog(const QString& called) {
     return ask_where_to_save(QString::fromUtf8(words::no_printer), called,
                              {QString::fromUtf8(words::pdf_files), "pdf"},
                              QApplication::activeWindow());
+}
+
+/// Where every job asks for its file, the settings ask for none. The dialog shows these parts anew
+/// as it comes up.
+void hide_file(QPrintDialog& dialog) {
+    for (const char* name : {"lOutput", "filename", "fileBrowser"}) {
+        auto* part = dialog.findChild<QWidget*>(name);
+        if (!part) continue;
+        part->setEnabled(false);
+        part->hide();
+    }
 }
 
 void tell_by_box(const QString& why) {
@@ -191,7 +203,7 @@ void system_printer::set_job_name(std::string_view name) {
 
 bool system_printer::choose_settings() {
     QPrintDialog dialog(&printer_, QApplication::activeWindow());
-    dialog.setWindowTitle("Imposta stampante");
+    dialog.setWindowTitle(words::printer_settings);
     dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize);
     auto* preview = new QCheckBox(QString::fromUtf8(words::preview_first), &dialog);
     preview->setChecked(preview_);
@@ -202,7 +214,10 @@ bool system_printer::choose_settings() {
     if (const auto* buttons = dialog.findChild<QDialogButtonBox*>()) {
         if (auto* accept = buttons->button(QDialogButtonBox::Ok)) accept->setText("OK");
     }
+    const bool asks = QPrinterInfo::availablePrinterNames().isEmpty();
+    if (asks) QTimer::singleShot(0, &dialog, [&dialog] { hide_file(dialog); });
     if (dialog.exec() != QDialog::Accepted) return false;
+    if (asks) printer_.setOutputFileName(QString());
     preview_ = preview->isChecked();
     QSettings().setValue(preview_setting, preview_);
     return true;

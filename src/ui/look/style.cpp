@@ -7,6 +7,8 @@
 #include <QPalette>
 #include <QProxyStyle>
 #include <QTranslator>
+#include <string_view>
+#include <utility>
 
 // The pictures lie in a static library, which would leave them out; Qt wants this outside of any
 // namespace.
@@ -36,12 +38,18 @@ class calm_style final : public QProxyStyle {
 };
 
 /// What the toolkit's translation lacks.
+constexpr std::pair<std::string_view, const char*> missing[] = {
+    {"Folder", "Cartella"}, {"Pages", "Pagine"}, {"Advanced", "Avanzate"}};
+
 class missing_texts final : public QTranslator {
  public:
     using QTranslator::QTranslator;
     bool isEmpty() const override { return false; }
     QString translate(const char*, const char* source, const char*, int) const override {
-        return std::string_view(source) == "Folder" ? "Cartella" : QString();
+        for (const auto& [english, italian] : missing) {
+            if (std::string_view(source) == english) return italian;
+        }
+        return {};
     }
 };
 
@@ -76,6 +84,8 @@ QToolButton[look="main"]:hover { background: #2f6ea5; }
 QToolButton[look="main"]:focus { border: 2px solid #8fc0e8; background: #24527a; }
 QToolButton[look="small"] { padding: 3px 4px; }
 QToolButton[look="help"] { padding: 2px 7px; font-weight: 600; color: #24527a; }
+QFileDialog QToolButton { padding: 3px; }
+QPrintDialog QToolButton { background: #f6f8fa; border-color: #808d99; padding: 2px 6px; }
 QToolButton[look="blank"] { background: transparent; border: none; }
 QLineEdit, QComboBox, QDateEdit { border: 1px solid #84919d; border-radius: 4px; padding: 3px 5px;
                        background: white; selection-background-color: #2f6ea5; }

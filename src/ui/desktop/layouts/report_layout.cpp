@@ -1,5 +1,6 @@
 #include <QAction>
 #include <span>
+#include <vector>
 
 #include "ui/desktop/layouts.h"
 #include "ui/desktop/layouts/parts.h"
@@ -16,6 +17,8 @@ constexpr command_look commands[] = {
     {"imposta_stampante", "Stam&pante", "Imposta la stampante", "Ctrl+Shift+P"},
     {"aggiorna", "&Aggiorna lista", "Costruisce la lista con i filtri scelti", "F5"},
 };
+
+constexpr int commands_from_left[] = {2, 1, 3, 0};
 
 /// A filter and how wide it is, in characters; `stretch`: takes its share of what is left.
 struct filter_look {
@@ -64,7 +67,7 @@ QFrame* report_bar(form_window& window) {
     auto* row = new QHBoxLayout(bar);
     row->setContentsMargins(8, 6, 8, 6);
     row->setSpacing(2);
-    for (const int i : {2, 1, 3, 0}) {
+    for (const int i : commands_from_left) {
         if (i == 0) row->addStretch(1);
         window.dress("bottone", i, commands[i]);
         auto* button = window.as<QToolButton>("bottone", i);
@@ -89,6 +92,16 @@ void add_building(form_window& window, QHBoxLayout* row) {
     row->addSpacing(6);
     row->addWidget(window.widget("bottone", 4), 0, Qt::AlignBottom);
     row->addWidget(progress, 0, Qt::AlignBottom);
+}
+
+/// From the filters to the list they make, then to what is done with it.
+void order_tabs(form_window& window, std::span<const filter_look> filters) {
+    std::vector<QWidget*> stops;
+    for (const filter_look& one : filters) stops.push_back(window.widget(one.name, one.index));
+    stops.push_back(window.widget("bottone", 4));
+    stops.push_back(window.widget("elenco"));
+    for (const int i : commands_from_left) stops.push_back(window.widget("bottone", i));
+    window.set_tab_order(stops);
 }
 
 QHBoxLayout* filter_row(form_window& window, std::span<const filter_look> filters) {
@@ -134,6 +147,7 @@ void lay_out_report(form_window& window, std::span<const filter_look> filters, i
     list->addAction(as_pdf);
     body->addWidget(list, 1);
     all->addLayout(body, 1);
+    order_tabs(window, filters);
     window.setMinimumSize(960, 520);
     window.set_first_size(QSize(1280, 690));
 }
