@@ -32,16 +32,10 @@ class random_archive {
         archivi& files = on_.company.files;
         for (int i = 1; i <= articles_; ++i) files.art.write(i, article());
         for (int i = 1; i <= customers_; ++i) files.cli.write(i, customer());
-        for (int i = 1; i <= articles_ + 2; ++i) {
-            rec_sra entry{};
-            entry.numero = number(articles_);
-            files.sra.write(i, entry);
-        }
-        for (int i = 1; i <= customers_ + 2; ++i) {
-            rec_src entry{};
-            entry.numero = number(customers_);
-            files.src.write(i, entry);
-        }
+        for (int i = 1; i <= articles_ + 2; ++i)
+            files.sra.write(i, {text<15>{}, number(articles_)});
+        for (int i = 1; i <= customers_ + 2; ++i)
+            files.src.write(i, {text<40>{}, number(customers_)});
         for (int i = 1; i <= orders_; ++i) files.orc.write_block(block_record(i, 1), order());
         // Counters may promise more than there is.
         on_.company.counter(contatori::articoli, articles_ + (full_ ? 2 : below(3)));

@@ -96,22 +96,5 @@ TEST_F(key_index, FindsWhatTheToldSearchFindsInFewReads) {
     EXPECT_EQ(cerca_nominativo(channel<rec_src>(), 100, "alfa"), 0) << "a closed channel";
 }
 
-TEST_F(key_index, TheWalkReadsManyEntriesAtOnceAndRepeatsWhatItCantRead) {
-    const auto index = write<rec_src>(std::vector<std::string>(1200));
-    counted.read_fails = [](const std::string&, std::int64_t offset, std::size_t size) {
-        const std::int64_t bad = 42 * 599;  // entry 600
-        return offset <= bad && bad < offset + static_cast<std::int64_t>(size);
-    };
-    std::vector<int> numbers;
-    percorri_indice<rec_src>(index, 1200, [&](std::int16_t position, const rec_src& entry) {
-        EXPECT_EQ(entry.numero, position == 600 ? 1599 : 1000 + position);
-        numbers.push_back(position);
-        return position < 1100;
-    });
-    EXPECT_EQ(numbers.size(), 1100U);
-    EXPECT_EQ(numbers.back(), 1100);
-    EXPECT_LE(counted.reads, 3U + 512U);
-}
-
 }  // namespace
 }  // namespace vantora

@@ -57,6 +57,14 @@ struct damage {
     std::function<void(const demo_folder&)> make;
 };
 
+/// The damage that a wrong value does in one record.
+template <class Record, class Field, class Value>
+auto wrong(const char* extension, std::int64_t number, Field Record::*field, Value value) {
+    return [=](const demo_folder& company) {
+        change<Record>(company, extension, number, [&](Record& one) { one.*field = value; });
+    };
+}
+
 const damage damages[] = {
     {{"length isn't a whole number of records", "the counter says"},
      [](auto& c) {
@@ -64,43 +72,28 @@ const damage damages[] = {
          std::filesystem::resize_file(c.file("orc"), size - 10);
      }},
     {{"the count of quotes is negative"},
-     [](auto& c) {
-         change<rec_tot>(c, "tot", contatori::preventivi, [](rec_tot& t) { t.quanti = -5; });
-     }},
+     wrong("tot", contatori::preventivi, &rec_tot::quanti, std::int16_t{-5})},
     {{"the last number of the orders is 32700"},
-     [](auto& c) {
-         change<rec_tot>(c, "tot", contatori::ordini,
-                         [](rec_tot& t) { t.ultimo_numero = std::int16_t{32700}; });
-     }},
+     wrong("tot", contatori::ordini, &rec_tot::ultimo_numero, std::int16_t{32700})},
     {{"entry 5: it isn't in the order", "entry 5: its key isn't that of article"},
-     [](auto& c) { change<rec_sra>(c, "sra", 5, [](rec_sra& e) { e.chiave = "!"; }); }},
+     wrong("sra", 5, &rec_sra::chiave, "!")},
     {{"stands twice", "isn't in the index"},
      [](auto& c) {
          const auto first = test::records_of<rec_src>(c.file("src"))[0];
          change<rec_src>(c, "src", 2, [&](rec_src& e) { e = first; });
      }},
     {{"from row 200 on its rows belong to another order"},
-     [](auto& c) { change<rec_orc>(c, "orc", 200, [](rec_orc& r) { r.numero = "altro"; }); }},
-    {{"there is no customer 9999"},
+     wrong("orc", 200, &rec_orc::numero, "altro")},
+    {{"there is no customer 9999", "row 151: there is no article 9999"},
      [](auto& c) {
          const std::int64_t first = open_order(c);
-         for (int row = 0; row < 200; ++row) {
-             change<rec_orc>(c, "orc", first + row,
-                             [](rec_orc& r) { r.cliente = std::int16_t{9999}; });
+         for (std::int64_t row = first; row < first + 200; ++row) {
+             wrong("orc", row, &rec_orc::cliente, std::int16_t{9999})(c);
          }
+         wrong("orc", first + 150, &rec_orc::articolo, std::int16_t{9999})(c);
      }},
-    {{"row 151: there is no article 9999"},
-     [](auto& c) {
-         change<rec_orc>(c, "orc", open_order(c) + 150,
-                         [](rec_orc& r) { r.articolo = std::int16_t{9999}; });
-     }},
-    {{"the open orders add up to"},
-     [](auto& c) {
-         change<rec_art>(c, "art", 9,
-                         [](rec_art& a) { a.ordinato_clienti = a.ordinato_clienti + 3; });
-     }},
-    {{"giacenza is no number"},
-     [](auto& c) { change<rec_art>(c, "art", 2, [](rec_art& a) { a.giacenza = std::nan(""); }); }},
+    {{"the open orders add up to"}, wrong("art", 9, &rec_art::ordinato_clienti, 1e6)},
+    {{"giacenza is no number"}, wrong("art", 2, &rec_art::giacenza, std::nan(""))},
     {{"2 warehouse movements lie behind the counter"},
      [](auto& c) {
          std::ofstream(c.file("mag"), std::ios::binary | std::ios::app)
