@@ -188,6 +188,10 @@ TEST_F(order_window, TheRowWorkedOnIsMarkedAndPagesMoveUnderIt) {
         EXPECT_EQ(focus(), "artic(1)");
         EXPECT_EQ(text("artic(0)"), "A100");
         EXPECT_EQ(totals(), "30,00 36,60 3");
+        // The cell of a VAT code hands the focus on, but its row is the one worked on.
+        QTest::mouseClick(bench.find("civ(0)"), Qt::LeftButton);
+        EXPECT_EQ(bench.find("ds(0)")->property("cell"), "current");
+        EXPECT_EQ(place("Combo1").top(), place("civ(0)").top());
     }});
 }
 

@@ -138,6 +138,8 @@ bool widget_binder::eventFilter(QObject* watched, QEvent* event) {
     const bool by_user = event->type() == QEvent::FocusIn &&
                          static_cast<QFocusEvent*>(event)->reason() != Qt::ActiveWindowFocusReason;
     if (by_user && !model_.has_focus()) act([this] { model_.set_focus(); });
+    // Who gave the focus on at once mustn't show a cursor.
+    if (by_user && !retired_ && !widget_->hasFocus()) return true;
     // The letter with Alt; the toolkit would take the focus first.
     if (event->type() == QEvent::Shortcut && !static_cast<QShortcutEvent*>(event)->isAmbiguous()) {
         if (auto* button = qobject_cast<QAbstractButton*>(widget_)) {

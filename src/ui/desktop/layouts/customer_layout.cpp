@@ -192,7 +192,9 @@ void lay_out_customer(form_window& window, const customer_window& look) {
     foot->addWidget(window.widget("bottone"));
     column->addLayout(foot);
     column->addStretch(1);
-    all->addWidget(middle, 1);
+    auto* around = new QHBoxLayout;
+    around->addWidget(middle);
+    all->addLayout(around, 1);
 
     window.setMinimumSize(980, 0);
     window.set_first_size(QSize(1180, 560));

@@ -1,6 +1,5 @@
 #include "ui/desktop/layouts/line_rows.h"
 
-#include <QApplication>
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QLabel>
@@ -55,12 +54,6 @@ line_rows::line_rows(form_window& window)
     pick_->installEventFilter(this);
     take_wheel_over(bar_);
     connect(bar_, &QScrollBar::valueChanged, this, [this] { show_numbers(); });
-    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
-        const auto cell = place_of_.constFind(now);
-        if (cell == place_of_.constEnd()) return;
-        last_cell_ = now;
-        mark(cell->row);
-    });
     new vat_pick(window, [this](int step) {
         const int last = static_cast<int>(columns_.size()) - 1;
         const place code{std::max(current_, 0), last};
@@ -211,6 +204,12 @@ bool line_rows::eventFilter(QObject* watched, QEvent* event) {
                 event->ignore();
                 return true;
             }
+            break;
+        case QEvent::FocusIn:
+            // Before the screen hears of it: the cell of the VAT code gives the focus on at once.
+            if (!is_cell) break;
+            last_cell_ = static_cast<QWidget*>(watched);
+            mark(cell->row);
             break;
         case QEvent::KeyPress: {
             const auto& key = static_cast<QKeyEvent&>(*event);

@@ -22,6 +22,7 @@ constexpr int tallest_row = 48;         ///< dots
 constexpr int cell_margins = 16;        ///< dots, with the cursor's; the description needs the rest
 constexpr int widest_description = 80;  ///< characters
 constexpr int least_description = 245;  ///< dots
+constexpr int list_width = 355;         ///< dots, for codes and whole descriptions
 constexpr int frame_margin = 14;        ///< dots, as frames are drawn, with some room to spare
 constexpr int stock_characters = 140;   ///< the record number behind them is not for the eye
 
@@ -293,11 +294,13 @@ void lay_out_line_window(form_window& window, const std::vector<line_command>& c
     middle->setObjectName("righe_e_lista");
     middle->setChildrenCollapsible(false);
     middle->setHandleWidth(10);
-    middle->addWidget(line_frame(window));
+    QGroupBox* lines = line_frame(window);
+    middle->addWidget(lines);
     middle->addWidget(list_frame(window));
     middle->setStretchFactor(0, 2);
     middle->setStretchFactor(1, 1);
-    middle->setSizes({955, 355});
+    // The lines have room for what they hold; the list's descriptions want theirs.
+    middle->setSizes({lines->minimumSizeHint().width(), list_width});
     body->addWidget(middle, 1);
     body->addWidget(stock_line(window));
     body->addLayout(foot_line(window, parts.totals));
