@@ -127,6 +127,17 @@ TEST(mirorca, ADocumentIsCountedWithoutTheCopyThatCantBeMade) {
     EXPECT_EQ(stage.counter_now(contatori::documenti_trasporto).quanti, 8);
 }
 
+TEST(mirorca, WhatIsStoredElsewhereDuringAQuestionStays) {
+    document_stage stage;
+    stage.front.decide = [&] {
+        change_stored(stage.files.art, 2, [](rec_art& one) { one.prezzo1 = 7; });
+        return stage.front.told.back().starts_with("La giacenza");
+    };
+    stage.confirm({});
+    EXPECT_EQ(stage.article_now(2).giacenza, -100);
+    EXPECT_EQ(stage.article_now(2).prezzo1, 7);
+}
+
 TEST(mirorca, ClosingWritesNothingAndBoxesStayTickedUntilThen) {
     document_stage stage;
     stage.desk.dispatch([&] { stage.screen().scarica.toggle(); });

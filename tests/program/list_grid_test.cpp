@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include "support/program_stage.h"
 #include "ui/controls.h"
 
@@ -63,6 +65,24 @@ TEST_F(list_grid_of_a_screen, HoldsItsRowsAndNoMoreThanItsRoom) {
         EXPECT_EQ(screen.elenco.back_colour(shown - 1, 0), shown % 2 == 0 ? 2U : 1U);
         EXPECT_TRUE(screen.elenco.has_focus());
         EXPECT_EQ(stage.desk.pointer_shape(), ui::pointer::normal);
+    }
+}
+
+TEST_F(list_grid_of_a_screen, StripesAreOfTheCompanysColoursIfItWantsThem) {
+    const std::tuple<double, double, const char*, ui::colour, ui::colour> cases[] = {
+        {std::nan(""), -4e300, "1", ui::white, ui::white},
+        {254.6, 3, "1", 255, 3},
+        {254.6, 3, "0", ui::white, ui::white},
+    };
+    auto& general = stage.app.parameters.gnr;
+    for (const auto& [even, odd, striped, shown_even, shown_odd] : cases) {
+        screen.elenco.set_columns({{"Numero", 100}, {"", 0}});  // without colours
+        general.colore_riga_pari = even;
+        general.colore_riga_dispari = odd;
+        general.righe_alternate = striped;
+        screen.show_numbers(1, 3);
+        EXPECT_EQ(screen.elenco.back_colour(2, 0), shown_even) << even << striped;
+        EXPECT_EQ(screen.elenco.back_colour(3, 0), shown_odd) << even << striped;
     }
 }
 

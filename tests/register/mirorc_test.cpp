@@ -1,7 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <cmath>
-
 #include "scripted/scripted_run.h"
 #include "scripted/small_company.h"
 
@@ -135,28 +133,6 @@ TEST_F(mirorc, RestoresTheViewAndSavesItAtTheMomentOfChange) {
     }
 }
 
-TEST_F(mirorc, StripesItsRowsByParity) {
-    const struct {
-        double even, odd;
-        const char* striped;
-        std::vector<int> shown;  // of rows 1 to 3
-    } cases[] = {
-        {16579315, 16777215, "1", {16777215, 16579315, 16777215}},
-        {std::nan(""), -4e300, "1", {16777215, 16777215, 16777215}},
-        {254.6, 3, "1", {3, 255, 3}},
-        {254.6, 3, "0", {16777215, 16777215, 16777215}},
-    };
-    for (const auto& one : cases) {
-        change_stored(company.gnr, 1, [&](rec_gnr& general) {
-            general.colore_riga_pari = one.even;
-            general.colore_riga_dispari = one.odd;
-            general.righe_alternate = one.striped;
-        });
-        EXPECT_EQ(value_after(company.drive(), {"colors mirorc.elenco 1 3"}), json(one.shown))
-            << one.even;
-    }
-}
-
 TEST_F(mirorc, SortsByEachColumnAndKeepsBlankRowsAtTheBottom) {
     company.customers({customer_named("Zeta"), customer_named("alfa")});
     put(1, order(1, "10", 1, "20240105"));
@@ -193,6 +169,7 @@ TEST_F(mirorc, OpensOnlyLivingOrdersAndNothingWithoutCustomers) {
         EXPECT_EQ(refused[0]["box"]["icon"], "stop");
         EXPECT_EQ(refused[1]["screen"], "mirorc");
     }
+    EXPECT_EQ(run({"close mirorc"})[0]["ended"], "exit");
 }
 
 TEST_F(mirorc, CompactionAsksTwiceAndCanBeCancelled) {
@@ -209,14 +186,6 @@ TEST_F(mirorc, CompactionAsksTwiceAndCanBeCancelled) {
     EXPECT_EQ(replies[3]["value"][1][0], "");
     EXPECT_EQ(replies[4]["value"]["visible"], false);
     EXPECT_EQ(replies[5]["value"]["visible"], true);
-}
-
-TEST_F(mirorc, ClosingTheWindowEndsTheProgram) {
-    for (const char* command : {"close mirorc", "click mirorc.bottone(0)"}) {
-        const json replies = run({command, "get mirorc.elenco", "quit"});
-        EXPECT_EQ(replies[0]["ended"], "exit");
-        EXPECT_EQ(replies[1]["ok"], false);
-    }
 }
 
 }  // namespace
