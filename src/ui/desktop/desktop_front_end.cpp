@@ -61,7 +61,6 @@ void desktop_front_end::run_until(const std::function<bool()>& done) {
     waits_.push_back({&loop, &done});
     loop.exec();
     waits_.pop_back();
-    leave_finished_waits();
 }
 
 void desktop_front_end::step_until(const std::function<bool()>& done) {
