@@ -35,9 +35,12 @@ const figure_documento::file_read& figure_documento::read(const std::string& pat
     const auto [place, is_new] = read_.try_emplace(path);
     file_read& made = place->second;
     if (!is_new) return made;
+    made.too_large = cost_ >= lettura_per_documento;
+    if (made.too_large) return made;
     const auto bytes = files_.read_whole(path);
     if (!bytes) return made;
     auto decoded = decoder_.decode(*bytes);
+    cost_ += decoded.claimed + bytes->size() / 4;
     made.too_large =
         decoded.too_large || (decoded.image && !fits_document(points_of(*decoded.image)));
     if (decoded.image && !made.too_large) {

@@ -17,6 +17,10 @@ inline constexpr double scala_posto_figura = 56.6868 / 56.6929;  ///< paper to t
 inline constexpr std::size_t punti_per_pagina = 2'000'000;       ///< of pictures, twice its area
 inline constexpr std::size_t punti_per_documento = 8'000'000;    ///< of different pictures
 
+/// What reading its picture files may cost a document, whatever comes of them: points decoded, and
+/// a quarter of the bytes.
+inline constexpr std::size_t lettura_per_documento = 2 * punti_per_documento;
+
 /// The pictures of one document. Each file is read once; one that holds no picture leaves the one
 /// before in its place. What is too large, or too much for a page or a document, is left out and
 /// its name kept.
@@ -54,6 +58,7 @@ class figure_documento {
     std::map<std::pair<figura, std::pair<int, int>>, figura> cut_;
     std::size_t points_on_page_ = 0;
     std::size_t points_ = 0;
+    std::size_t cost_ = 0;  ///< of the files read
     std::vector<std::string> left_out_;
 };
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string_view>
 #include <vector>
@@ -32,6 +33,7 @@ inline constexpr int picture_points_max = 4'000'000;
 struct decoded_picture {
     std::optional<bitmap> image;  ///< empty if the bytes hold no picture, or one too large
     bool too_large = false;
+    std::size_t claimed = 0;  ///< points that its head told, unless too large; read whole or not
 };
 
 /// Reads picture files of the usual kinds (BMP, PNG, JPEG, GIF).

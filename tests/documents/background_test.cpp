@@ -7,6 +7,7 @@
 
 #include "documents/document_pictures.h"
 #include "documents/document_stage.h"
+#include "support/faulty_files.h"
 
 namespace vantora::test {
 namespace {
@@ -157,6 +158,22 @@ TEST(background, APictureThatCantBeReadLeavesTheOneBeforeAndManyAreReadOnce) {
     const auto pages = order.paper.take_jobs().at(0).pages;
     ASSERT_EQ(pages.size(), 20U);
     EXPECT_EQ(pages[19].size(), punti_per_pagina / (300 * 300)) << "as many as a page has room for";
+}
+
+/// Decoding is dear, also of what doesn't find room on the page in the end.
+TEST(background, NoMoreFilesAreReadThanADocumentMayCost) {
+    document_stage order;
+    faulty_files counted(order.files);
+    figure_documento pictures(counted, order.pictures);
+    const auto first = order.folder.path() / "0";
+    std::ofstream(first, std::ios::binary) << bitmap_file(1000, 1000, 0);
+    for (int i = 0; i < 40; ++i) {
+        const std::string name = std::to_string(i);
+        if (i > 0) std::filesystem::create_hard_link(first, order.folder.path() / name);
+        pictures.at("c:\\" + name, 1, 1, 210, 297);
+    }
+    EXPECT_EQ(counted.reads, 10U);
+    EXPECT_EQ(pictures.left_out().size(), 38U) << "all but two";
 }
 
 }  // namespace

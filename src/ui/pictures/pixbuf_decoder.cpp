@@ -17,12 +17,14 @@ struct release {
 constexpr std::size_t piece = 4096;
 
 /// The sizes that a file claims come before any room is made for its points; none is made for 0.
-void refuse_giants(GdkPixbufLoader* loader, int width, int height, gpointer too_large) {
+void refuse_giants(GdkPixbufLoader* loader, int width, int height, gpointer made) {
+    auto& told = *static_cast<decoded_picture*>(made);
     if (width <= picture_side_max && height <= picture_side_max &&
         width <= picture_points_max / std::max(height, 1)) {
+        told.claimed = static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
         return;
     }
-    *static_cast<bool*>(too_large) = true;
+    told.too_large = true;
     gdk_pixbuf_loader_set_size(loader, 0, 0);
 }
 
@@ -51,7 +53,7 @@ bitmap bitmap_of(const GdkPixbuf* from) {
 decoded_picture pixbuf_decoder::decode(std::string_view bytes) {
     decoded_picture made;
     const std::unique_ptr<GdkPixbufLoader, release> loader(gdk_pixbuf_loader_new());
-    g_signal_connect(loader.get(), "size-prepared", G_CALLBACK(refuse_giants), &made.too_large);
+    g_signal_connect(loader.get(), "size-prepared", G_CALLBACK(refuse_giants), &made);
     bool written = true;
     while (written && !made.too_large && !bytes.empty()) {
         const std::string_view part = bytes.substr(0, piece);
