@@ -59,6 +59,24 @@ class file_aside {
     int descriptor_;
 };
 
+QString reason_of(int error) {
+    switch (error) {
+        case ENOSPC:
+        case EDQUOT:
+        case EFBIG:
+            return "il disco è pieno";
+        case EACCES:
+        case EPERM:
+        case EROFS:
+            return "la cartella non si può scrivere";
+        case ENOENT:
+        case ENOTDIR:
+            return "la cartella manca";
+        default:
+            return QString::fromStdString(std::generic_category().message(error));
+    }
+}
+
 }  // namespace
 
 std::optional<QString> save_pdf(const QByteArray& pdf, const std::filesystem::path& path) {
@@ -71,7 +89,7 @@ std::optional<QString> save_pdf(const QByteArray& pdf, const std::filesystem::pa
     std::filesystem::create_directories(path.parent_path(), refused);
     file_aside made(path);
     if (made.is_open() && made.write(pdf) && made.take_place_of(path)) return {};
-    return QString::fromStdString(std::generic_category().message(errno));
+    return reason_of(errno);
 }
 
 }  // namespace vantora::mirxpdf
