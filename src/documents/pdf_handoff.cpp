@@ -33,8 +33,9 @@ void offri_pdf(program& app, const documento_stampato& document) {
     constexpr const char* domanda =
         "Generare il file PDF ed eventualmente inviarlo tramite posta elettronica?";
     if (!app.desk.ask(domanda, titolo)) return;
-    const bool started =
-        document.file_intero && app.desk.launcher().start(comando_pdf(app.parameters, document));
+    // Whatever was printed meanwhile, by whatever program, took the print file's place.
+    const bool own = document.stampa && app.files.read_whole(file_di_stampa) == document.stampa;
+    const bool started = own && app.desk.launcher().start(comando_pdf(app.parameters, document));
     app.desk.set_pointer(ui::pointer::normal);
     if (started) return;
     app.desk.message(

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -15,7 +16,7 @@ struct documento_stampato {
     bool invia;              ///< send it by e-mail
     std::string_view email;  ///< address of the customer
     const tabelle_documento& tabelle;
-    bool file_intero = true;  ///< the print file is this document's, and holds all of it
+    std::optional<std::string> stampa;  ///< what its print file held, if that was all of it
 };
 
 /// The command line that has `mirxpdf` make the PDF of what the print file holds.
@@ -23,7 +24,7 @@ std::string comando_pdf(const parametri& parameters, const documento_stampato& d
 
 /// Asks whether to make the PDF of the document just printed, and to send it; on yes starts
 /// `mirxpdf` and goes on. Says so if that can't be started, or must not be because the print file
-/// isn't the document's.
+/// isn't the document's, or no longer is.
 void offri_pdf(program& app, const documento_stampato& document);
 
 }  // namespace vantora

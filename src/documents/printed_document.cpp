@@ -41,14 +41,18 @@ esito_stampa stampa_documento(program& app, const documento_da_stampare& documen
 }
 
 void offri_copie(program& app, const documento_da_stampare& document, bool invia) {
-    esito_stampa last = esito_stampa::rifiutata;
+    bool printed = false;
+    std::optional<std::string> file;
     do {
         const esito_stampa now = stampa_documento(app, document);
-        if (now != esito_stampa::rifiutata) last = now;
+        if (now == esito_stampa::rifiutata) continue;
+        printed = true;
+        file.reset();
+        if (now == esito_stampa::completa) file = app.files.read_whole(file_di_stampa);
     } while (app.desk.ask("Stampa altra copia?", nomi_di(document.tipo).titolo_stampa));
-    if (last == esito_stampa::rifiutata) return;
+    if (!printed) return;
     offri_pdf(app, {document.tipo, document.testata.text3[0], invia, document.cliente.email.full(),
-                    document.tabelle, last == esito_stampa::completa});
+                    document.tabelle, std::move(file)});
 }
 
 }  // namespace vantora

@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
+
 #include "documents/document_stage.h"
+#include "documents/print_file_writer.h"
 #include "support/faulty_files.h"
 
 namespace vantora::test {
@@ -229,24 +232,55 @@ TEST(printed_document, CopiesAreAskedForUnderTheNameOfTheDocumentAndEndInAPdf) {
     }
 }
 
+struct handed_over {
+    std::size_t programs;
+    std::size_t boxes;
+    std::string print_file;
+};
+
+/// Prints a document of twenty pages and wants its PDF, on files that somebody disturbs.
+template <class Disturb>
+handed_over print_and_hand_over(const Disturb& disturb) {
+    document_stage order;
+    faulty_files faulty(order.files);
+    program app{faulty, order.desk, order.pictures};
+    print_file_writer(order.files, "the one before");
+    order.body("100", "140");
+    order.fill_lines(199);
+    // More than is handed over to the disk at once.
+    for (std::size_t n = 70; n <= 78; ++n) order.tables.tabella_layout[n].posizione = "050000";
+    disturb(order, faulty);
+    using enum ui::answer;
+    for (const auto answer : {yes, no, yes, ok}) order.front.answers.keep(answer);
+    offri_copie(app, order.document(), false);
+    EXPECT_EQ(order.paper.take_jobs().at(0).pages.size(), 20U);
+    return {order.programs.take_started().size(), order.front.answers.take_answered().size(),
+            order.print_file()};
+}
+
 /// A printer that fails is the front end's affair; a print file that fails keeps the PDF away.
-TEST(printed_document, APrintFileThatIsNotWholeTakesNothingFromThePaperAndIsNotHandedOver) {
-    for (const bool fails : {false, true}) {
-        document_stage order;
-        faulty_files faulty(order.files);
-        program app{faulty, order.desk, order.pictures};
-        order.body("100", "140");
-        order.fill_lines(199);
-        for (std::size_t n = 70; n <= 78; ++n) order.tables.tabella_layout[n].posizione = "050000";
-        faulty.write_fails = [&](auto&&...) { return fails; };
-        using enum ui::answer;
-        for (const auto answer : {yes, no, yes, ok}) order.front.answers.keep(answer);
-        offri_copie(app, order.document(), false);
-        EXPECT_EQ(order.paper.take_jobs().at(0).pages.size(), 20U);
-        EXPECT_EQ(order.programs.take_started().size(), fails ? 0U : 1U);
-        EXPECT_EQ(order.front.answers.take_answered().size(), fails ? 4U : 3U);
-        EXPECT_EQ(order.print_file().empty(), fails) << "empty rather than misleading";
+TEST(printed_document, APrintFileThatIsNotWholeAndItsOwnIsNotHandedOver) {
+    std::set<std::string> left;
+    bool failed = true;
+    for (std::size_t fault = 0; failed; ++fault) {
+        const auto seen = print_and_hand_over([&](document_stage&, faulty_files& faulty) {
+            faulty.fail_at(fault / 2, fault % 2 == 1, failed);
+        });
+        EXPECT_EQ(seen.programs, failed ? 0U : 1U) << fault;
+        EXPECT_EQ(seen.boxes, failed ? 4U : 3U) << fault;
+        if (fault % 2 == 0) left.insert(seen.print_file);
     }
+    EXPECT_EQ(left.size(), 3U) << "the one before, an empty one, or the whole document";
+
+    int reads = 0;
+    const auto seen = print_and_hand_over([&](document_stage& order, faulty_files& faulty) {
+        faulty.read_fails = [&](auto&&...) {
+            if (++reads == 2) print_file_writer(order.files, "another program's");
+            return false;
+        };
+    });
+    EXPECT_EQ(seen.programs, 0U);
+    EXPECT_EQ(seen.boxes, 4U);
 }
 
 }  // namespace

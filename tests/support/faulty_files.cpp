@@ -57,6 +57,21 @@ bool faulty_files::refuses_read(const std::string& path, std::int64_t offset, st
     return read_fails && read_fails(path, offset, size);
 }
 
+void faulty_files::fail_at(std::size_t n, bool for_good, bool& failed) {
+    failed = false;
+    const auto counted = std::make_shared<std::size_t>(0);
+    const auto fails = [=, &failed](auto&&...) {
+        const std::size_t now = (*counted)++;
+        const bool hit = now == n || (for_good && now > n);
+        failed |= hit;
+        return hit;
+    };
+    read_fails = fails;
+    write_fails = fails;
+    flush_fails = fails;
+    open_fails = fails;
+}
+
 std::unique_ptr<file> faulty_files::open_records(std::string_view path) {
     if (open_fails && open_fails(std::string(path))) return nullptr;
     auto real = real_.open_records(path);

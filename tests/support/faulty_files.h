@@ -45,6 +45,9 @@ class faulty_files final : public file_port {
     std::function<bool(const std::string& path)> read_only;
     /// Whether the disk has no room for bytes up to `end` of a file.
     std::function<bool(const std::string& path, std::int64_t end)> room_lacks;
+    /// The n-th read, write, flush, opening or creation from now on fails, counted from 0;
+    /// `for_good`: all behind it too. `failed` tells whether it came to that. One thread only.
+    void fail_at(std::size_t n, bool for_good, bool& failed);
     /// How long the disk takes over each read, of any number at once.
     std::chrono::microseconds read_takes{0};
     std::atomic<std::size_t> reads = 0;
