@@ -220,7 +220,7 @@ std::optional<std::string> drive::read_whole(std::string_view path) {
 
 bool drive::exists(std::string_view path) {
     std::error_code failed;
-    return std::filesystem::exists(locate(path), failed);
+    return std::filesystem::exists(locate(path), failed) || failed;
 }
 
 std::unique_ptr<file> drive::create(std::string_view path) {

@@ -211,6 +211,23 @@ TEST_F(parameters_test, HeadingLinesThatAreMissingStayEmpty) {
     EXPECT_EQ(loaded.intestazione_ditta[1], "") << "loading again rebuilds everything";
 }
 
+TEST_F(parameters_test, AFirstStartThatFailsIsMadeGoodByTheNext) {
+    const std::string others = "di altri moduli";
+    for (const bool has_template : {false, true}) {
+        test::faulty_files faults(port);
+        bool failed = true;
+        for (std::size_t fault = 0; failed; ++fault) {
+            std::filesystem::remove(own);
+            if (has_template) put(shared, others);
+            faults.fail_at(fault / 2, fault % 2 == 1, failed);
+            EXPECT_EQ(load(faults).gnr.formato_gnr.full(), "9");
+            load();
+            EXPECT_EQ(stored().formato_gnr.full(), "9");
+            EXPECT_TRUE(!has_template || test::bytes_of(shared) == others);
+        }
+    }
+}
+
 TEST_F(parameters_test, WhatCantBeReadIsNeverWrittenOver) {
     rec_gnr others;
     others.riservato_bd = "di altri moduli";
