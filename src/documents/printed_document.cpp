@@ -16,7 +16,8 @@ void tell_left_out(program& app, const std::vector<std::string>& files) {
     constexpr std::size_t named_max = 5;
     std::string names;
     for (std::size_t i = 0; i < std::min(files.size(), named_max); ++i) {
-        names += (i == 0 ? "" : ", ") + files[i].substr(0, 100);
+        const std::size_t cut = files[i].size() - std::min<std::size_t>(files[i].size(), 100);
+        names += (i == 0 ? "" : ", ") + files[i].substr(cut);
     }
     if (files.size() > named_max) names += ", ...";
     app.desk.message("Il documento è stampato senza figure troppo grandi: "_cp + names,
