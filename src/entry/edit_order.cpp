@@ -18,9 +18,11 @@ bool rows_move_stock(const archivi& files, const ordine_esistente& order) {
     });
 }
 
-/// What is looked at before an order is written over.
-write_plan plan_of(archivi& files, const ordine_esistente& order, bool lines_move_stock) {
+/// What is looked at before an order is written over. `now`: the counter of the orders.
+write_plan plan_of(archivi& files, const ordine_esistente& order, bool lines_move_stock,
+                   rec_tot& now) {
     write_plan plan;
+    plan.reads(files.tot, contatori::ordini, now);
     plan.writes(files.orc, block_record(order.visto.registrazione, 1), righe_blocco);
     if (lines_move_stock || rows_move_stock(files, order)) plan.changes(files.art);
     return plan;
@@ -55,9 +57,10 @@ template <class Change>
 write_outcome change_rows(archivi& files, const ordine_esistente& order, bool lines_move_stock,
                           const Change& change) {
     const instance_lock alone(files.tot, instance_lock::kind::records);
-    const orders_since meanwhile(files, order.contatore);
-    write_outcome outcome(alone, plan_of(files, order, lines_move_stock));
+    rec_tot now;
+    write_outcome outcome(alone, plan_of(files, order, lines_move_stock, now));
     if (!outcome.begun()) return outcome;
+    const orders_since meanwhile(now, order.contatore);
     write_faults& faults = outcome.faults;
 
     bool recognised = false;

@@ -26,8 +26,9 @@ void mirorcr::checkeva() {
 
 write_outcome mirorcr::book() {
     const instance_lock alone(app_.archives.tot, instance_lock::kind::records);
-    write_outcome outcome(alone, booking_plan());
-    if (outcome.begun() && orders_moved()) outcome.give_up_moved_order();
+    rec_tot now;
+    write_outcome outcome(alone, booking_plan(now));
+    if (outcome.begun() && orders_moved(now)) outcome.give_up_moved_order();
     if (!outcome.begun()) return outcome;
     app_.mirorca->empty_hand_over();
     book_marked_rows();
@@ -38,8 +39,8 @@ write_outcome mirorcr::book() {
     return outcome;
 }
 
-bool mirorcr::orders_moved() const {
-    const orders_since meanwhile(app_.archives, ordini_);
+bool mirorcr::orders_moved(const rec_tot& now) const {
+    const orders_since meanwhile(now, ordini_);
     if (!meanwhile.others_at_work()) return false;
     return std::ranges::any_of(visti_, [&](const ordine_visto& seen) {
         rec_orc row;
@@ -48,8 +49,9 @@ bool mirorcr::orders_moved() const {
     });
 }
 
-write_plan mirorcr::booking_plan() const {
+write_plan mirorcr::booking_plan(rec_tot& now) const {
     write_plan plan;
+    plan.reads(app_.archives.tot, contatori::ordini, now);
     for (int row = 1; row < righe_; ++row) {
         if (number_in(row, numero_riga) <= 0) continue;
         plan.changes(app_.archives.orc);

@@ -207,8 +207,10 @@ bool mirorca::make_document() {
     document.cliente = app_.selezione_1;
     document.data_reg = app_.data_sistema;
     document.scaricato = scarica.on();
-    if (!was_written(app_.desk, salva_ddt(app_.archives, app_.files, app_.parameters.numero_azienda,
-                                          document, righe_))) {
+    const write_outcome outcome =
+        salva_ddt(app_.archives, app_.files, app_.parameters.numero_azienda, document, righe_);
+    // The goods may be unloaded already.
+    if (!was_written(app_.desk, outcome, "il documento non è stato registrato")) {
         return false;
     }
     print(head);

@@ -69,10 +69,10 @@ class mirorcr final : public ui::form {
     void checkeva();
     /// Books what leaves and closes the orders it ends.
     write_outcome book();
-    /// Another station's compaction has moved an order of the list.
-    [[nodiscard]] bool orders_moved() const;
+    /// Another station's compaction has moved an order of the list. `now`: the counter of orders.
+    [[nodiscard]] bool orders_moved(const rec_tot& now) const;
     /// What is looked at before the first row is booked.
-    [[nodiscard]] write_plan booking_plan() const;
+    [[nodiscard]] write_plan booking_plan(rec_tot& now) const;
     void book_marked_rows();
     void take_transport_data(int order);
     void close_fulfilled_orders();

@@ -4,10 +4,8 @@
 
 namespace vantora {
 
-orders_since::orders_since(const archivi& files, const rec_tot& then) {
-    if (!files.tot.read(contatori::ordini, now_)) return;
-    others_at_work_ = std::memcmp(&now_, &then, sizeof then) != 0;
-}
+orders_since::orders_since(const rec_tot& now, const rec_tot& then)
+    : now_(now), others_at_work_(std::memcmp(&now, &then, sizeof then) != 0) {}
 
 bool orders_since::took_away(const ordine_visto& seen, const rec_orc& row) const {
     if (others_at_work_ && seen.registrazione > now_.quanti) return true;

@@ -22,11 +22,11 @@ struct ordine_visto {
     f64le data_reg;  ///< stays with an order for good, unlike the others
 };
 
-/// What became of the archive's orders since the counter stood as `then`. Costs one read.
+/// What became of the archive's orders since their counter, which is now `now`, stood as `then`.
 /// REQUIRES: no other station compacts now.
 class orders_since {
  public:
-    orders_since(const archivi& files, const rec_tot& then);
+    orders_since(const rec_tot& now, const rec_tot& then);
 
     /// Whether a row, read anew from the block where the order was seen, is another one's. Without
     /// a sign of other stations a changed head alone doesn't make it so: whoever changed it, the
@@ -38,7 +38,7 @@ class orders_since {
 
  private:
     rec_tot now_;
-    bool others_at_work_ = false;
+    bool others_at_work_;
 };
 
 }  // namespace vantora

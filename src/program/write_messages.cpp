@@ -8,29 +8,27 @@ void warn(ui::desk& desk, const std::string& text) {
     desk.message(text, "Attenzione", ui::icon::stop);
 }
 
-void warn_of_compaction(ui::desk& desk) {
-    warn(desk,
-         "Un'altra postazione sta compattando l'archivio: nulla è stato salvato. Riprovare tra "
-         "poco."_cp);
+void warn_of_compaction(ui::desk& desk, std::string_view undone) {
+    warn(desk, "Un'altra postazione sta compattando l'archivio: " + from_utf8(undone) +
+                   ". Riprovare tra poco.");
 }
 
 }  // namespace
 
 bool may_write(ui::desk& desk, const instance_lock& lock) {
-    if (!lock.may_go_on()) warn_of_compaction(desk);
+    if (!lock.may_go_on()) warn_of_compaction(desk, nulla_salvato);
     return lock.may_go_on();
 }
 
-bool was_written(ui::desk& desk, const write_outcome& outcome) {
+bool was_written(ui::desk& desk, const write_outcome& outcome, std::string_view undone) {
     if (outcome.compaction_elsewhere()) {
-        warn_of_compaction(desk);
+        warn_of_compaction(desk, undone);
     } else if (outcome.order_moved()) {
-        warn(desk,
-             "Un'altra postazione ha compattato l'archivio: nulla è stato salvato. Riaprire "
-             "dall'elenco degli ordini."_cp);
+        warn(desk, "Un'altra postazione ha compattato l'archivio: " + from_utf8(undone) +
+                       ". Riaprire dall'elenco degli ordini.");
     } else if (!outcome.begun()) {
-        warn(desk, "Impossibile leggere o scrivere il file "_cp + outcome.obstacle() +
-                       ": nulla è stato salvato."_cp);
+        warn(desk, "Impossibile leggere o scrivere il file " + outcome.obstacle() + ": " +
+                       from_utf8(undone) + ".");
     } else if (!outcome.faults.none()) {
         warn(desk,
              "Salvataggio avvenuto solo in parte: errore su "_cp + outcome.faults.names() + "."_cp);

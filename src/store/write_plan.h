@@ -18,10 +18,14 @@ namespace vantora {
 ///     if (!plan.possible()) ... name plan.obstacle() and write nothing
 class write_plan {
  public:
-    /// Counter `number` will be read into `into`, and written: it has to be readable, and not
-    /// negative.
-    void counts(channel<rec_tot>& counters, int number, rec_tot& into) {
+    /// Counter `number` is read into `into`: it has to be readable, and not negative.
+    void reads(const channel<rec_tot>& counters, int number, rec_tot& into) {
         note(counters.read(number, into) && into.quanti >= 0, counters.name());
+    }
+
+    /// The same for a counter that will be written, too.
+    void counts(channel<rec_tot>& counters, int number, rec_tot& into) {
+        reads(counters, number, into);
         writes(counters, number, 1);
     }
 

@@ -308,7 +308,8 @@ TEST(stored_orders, WhatStandsInTheWayIsNamedAndNothingIsWritten) {
         {command::add, "tot", way::read_only},    {command::add, "art", way::read_only},
         {command::add, "orc", way::read_only},    {command::add, "orc", way::full},
         {command::edit, "art", way::read_only},   {command::edit, "orc", way::full},
-        {command::remove, "art", way::read_only}, {command::remove, "orc", way::read_only}};
+        {command::remove, "art", way::read_only}, {command::remove, "orc", way::read_only},
+        {command::edit, "tot", way::negative},    {command::remove, "tot", way::unreadable}};
     for (const auto& one : cases) {
         order_stage stage(5);
         const auto hit = [&one](const std::string& path, way how) {

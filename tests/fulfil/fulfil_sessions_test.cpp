@@ -5,6 +5,7 @@
 #include <random>
 
 #include "fulfil/fulfil_stage.h"
+#include "store/text/code_page.h"
 #include "store/text/number_text.h"
 
 namespace vantora::test {
@@ -357,6 +358,27 @@ TEST(fulfil_sessions, AFaultLeavesTheStepsThatWereDone) {
             }
         }
     }
+}
+
+TEST(fulfil_sessions, WhatStandsInTheWayIsNamedAndTheWindowStays) {
+    fulfil_stage stage;
+    stage.order(1, 1, {{1, 5}});
+    stage.run();
+    stage.open_worklist(1);
+    stage.click(1, mirorcr::ordine);
+    stage.faults.read_fails = [](auto& path, auto&&...) { return path.ends_with("tot"); };
+    stage.book();
+    EXPECT_EQ(stage.desk.active()->name(), "mirorcr");
+    stage.faults.read_fails = nullptr;
+    stage.book();
+    stage.faults.room_lacks = [](auto& path, auto) { return path.ends_with("bol"); };
+    stage.confirm({true});
+    EXPECT_EQ(stage.desk.active()->name(), "mirorca");
+    const auto way = [](const std::string& rest) {
+        return from_utf8("Impossibile leggere o scrivere il file vantora." + rest);
+    };
+    EXPECT_EQ(stage.front.told, (std::vector{way("tot: nulla è stato salvato."),
+                                             way("bol: il documento non è stato registrato.")}));
 }
 
 TEST(fulfil_sessions, CountersAndDocumentsFollowTheDisk) {
