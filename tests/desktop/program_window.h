@@ -26,6 +26,14 @@ class program_window : public testing::Test {
     }
     std::string front() { return bench.front.front_window()->objectName().toStdString(); }
     QMessageBox* box() { return qobject_cast<QMessageBox*>(bench.front.front_window()); }
+    /// A step: a box that tells this is answered by a key.
+    std::function<void()> answer(const char* text, Qt::Key by) {
+        return [=, this] {
+            ASSERT_TRUE(box()) << text;
+            EXPECT_TRUE(box()->text().contains(text)) << box()->text().toStdString();
+            QTest::keyClick(box(), by);
+        };
+    }
     QTableView* table() { return bench.find<QTableView>("elenco"); }
     std::string text(const char* address) {
         return bench.find<QLineEdit>(address)->text().toStdString();
