@@ -209,6 +209,7 @@ bool system_printer::choose_settings() {
     preview->setChecked(preview_);
     if (auto* column = qobject_cast<QBoxLayout*>(dialog.layout())) {
         column->insertWidget(column->count() - 1, preview);
+        QWidget::setTabOrder(dialog.findChild<QWidget*>("properties"), preview);
     }
     // Nothing is printed here.
     if (const auto* buttons = dialog.findChild<QDialogButtonBox*>()) {

@@ -37,9 +37,9 @@ class calm_style final : public QProxyStyle {
     }
 };
 
-/// What the toolkit's translation lacks.
+/// What the toolkit's translation lacks, or calls by another name than the keyboards here.
 constexpr std::pair<std::string_view, const char*> missing[] = {
-    {"Folder", "Cartella"}, {"Pages", "Pagine"}, {"Advanced", "Avanzate"}};
+    {"Folder", "Cartella"}, {"Pages", "Pagine"}, {"Advanced", "Avanzate"}, {"Shift", "Maiusc"}};
 
 class missing_texts final : public QTranslator {
  public:
