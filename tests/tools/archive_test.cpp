@@ -71,6 +71,8 @@ const damage damages[] = {
          const auto size = std::filesystem::file_size(c.file("orc"));
          std::filesystem::resize_file(c.file("orc"), size - 10);
      }},
+    {{"the counter says 5000 records, the file holds 4000"},
+     wrong("tot", contatori::ordini, &rec_tot::quanti, std::int16_t{25})},
     {{"the count of quotes is negative"},
      wrong("tot", contatori::preventivi, &rec_tot::quanti, std::int16_t{-5})},
     {{"the last number of the orders is 32700"},

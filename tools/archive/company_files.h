@@ -40,11 +40,22 @@ class company_files {
     archivi records_;
 };
 
+/// Up to where a file is read that should have `count` records: what lies behind its end is no
+/// finding of its own. A record that is cut off counts.
+template <class Record>
+int held_of(const channel<Record>& from, int count) {
+    constexpr std::int64_t length = sizeof(Record);
+    const auto bytes = from.shared_file() ? from.shared_file()->length() : std::nullopt;
+    if (!bytes) return count;
+    return static_cast<int>(std::min<std::int64_t>(count, (*bytes + length - 1) / length));
+}
+
 /// Hands records 1 to `count` over in order, read ahead in stretches of 128 KiB. What can't
 /// be read is passed over.
 template <class Record, class Visit>
 void scan(const channel<Record>& from, int count, Visit visit) {
     constexpr int at_once = std::max(1, (1 << 17) / static_cast<int>(sizeof(Record)));
+    count = held_of(from, count);
     auto ahead = all_records_ahead(from, count, at_once);
     Record one;
     for (int number = 1; number <= count; ++number) {
@@ -57,6 +68,7 @@ void scan(const channel<Record>& from, int count, Visit visit) {
 template <class Row, class Visit>
 void scan_blocks(const channel<Row>& from, int blocks, Visit visit) {
     constexpr int rows = righe_blocco;
+    blocks = (held_of(from, blocks * rows) + rows - 1) / rows;
     auto ahead = all_records_ahead(from, blocks * rows, rows);
     for (int block = 1; block <= blocks; ++block) {
         if (const auto its = ahead.next_run()) visit(block, *its);
