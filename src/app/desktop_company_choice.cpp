@@ -132,8 +132,9 @@ void company_choice::show_companies(const fs::path& drive) {
 }
 
 void company_choice::choose_folder() {
-    const QString chosen =
-        QFileDialog::getExistingDirectory(this, words::folder_of_suite, place_->text());
+    const QString chosen = QFileDialog::getExistingDirectory(
+        this, words::folder_of_suite, place_->text(),
+        QFileDialog::ShowDirsOnly | QFileDialog::DontUseNativeDialog);
     if (!chosen.isEmpty()) show_companies(chosen.toStdString());
 }
 
