@@ -158,14 +158,14 @@ char* print_file_writer::ready_lines::copied_to(char* at) const {
     return at + size_;
 }
 
-bool print_file_writer::lines_of_look::are_of(const vista_di_record& record, forma_stile as) const {
+bool print_file_writer::look::is_of(const vista_di_record& record, forma_stile as) const {
     if (record.tipo == tipo_record::testo && (x2_ != record.x2 || y2_ != record.y2)) return false;
     return made_ && corpo_ == record.corpo && colore_ == record.colore &&
            grassetto_ == record.grassetto && corsivo_ == record.corsivo && form_ == as &&
            carattere_ == record.carattere;
 }
 
-void print_file_writer::lines_of_look::make(const vista_di_record& record, forma_stile as) {
+void print_file_writer::look::make(const vista_di_record& record, forma_stile as) {
     x2_ = record.x2;
     y2_ = record.y2;
     corpo_ = record.corpo;
@@ -175,31 +175,43 @@ void print_file_writer::lines_of_look::make(const vista_di_record& record, forma
     corsivo_ = record.corsivo;
     form_ = as;
     made_ = true;
-    char* at = before_text.room(4 * longest_number);
+    char* at = before_text_.room(4 * longest_number);
     if (record.tipo == tipo_record::testo) at = put_number(put_number(at, x2_), y2_);
     at = put_number(at, corpo_);
     at = record.tipo == tipo_record::figura ? put(at, line_end) : put_number(at, colore_);
-    before_text.filled(at);
-    at = behind_text.room(2 * longest_number + 2 * line_end.size() + carattere_.size());
+    before_text_.filled(at);
+    at = behind_text_.room(2 * longest_number + 2 * line_end.size() + carattere_.size());
     at = put_line(put(at, line_end), carattere_);
     if (form_ == forma_stile::zeri_come_testo) {
         at = put_line(put_line(at, "0"), "0");
     } else {
         at = put_number(put_number(at, grassetto_), corsivo_);
     }
-    behind_text.filled(at);
+    behind_text_.filled(at);
+}
+
+char* print_file_writer::room_for(std::size_t text, const look& as) {
+    return room(5 * longest_number + as.before_text_.size() + text + as.behind_text_.size() +
+                ready_lines::usual);
+}
+
+void print_file_writer::fill_rest(char* at, std::string_view text, const look& as) {
+    filled(as.behind_text_.copied_to(put(as.before_text_.copied_to(at), text)));
 }
 
 void print_file_writer::write_view(const vista_di_record& record, forma_stile form) {
-    lines_of_look& look = looks_[static_cast<std::size_t>(record.tipo)];
-    if (!look.are_of(record, form)) look.make(record, form);
-    char* at = room(5 * longest_number + look.before_text.size() + record.testo.size() +
-                    look.behind_text.size() + ready_lines::usual);
+    look& as = looks_[static_cast<std::size_t>(record.tipo)];
+    if (!as.is_of(record, form)) as.make(record, form);
+    char* at = room_for(record.testo.size(), as);
     at = put_number(at, static_cast<double>(record.tipo));
     at = put_number(put_number(at, record.x1), record.y1);
     if (record.tipo != tipo_record::testo) at = put_number(put_number(at, record.x2), record.y2);
-    at = put(look.before_text.copied_to(at), record.testo);
-    filled(look.behind_text.copied_to(at));
+    fill_rest(at, record.testo, as);
+}
+
+void print_file_writer::write_text(double x, double y, std::string_view text, const look& as) {
+    char* const at = put_number(room_for(text.size(), as), static_cast<double>(tipo_record::testo));
+    fill_rest(put_number(put_number(at, x), y), text, as);
 }
 
 void print_file_writer::end_page() {

@@ -16,7 +16,48 @@ namespace vantora {
 /// file is left empty where the system allows it, so that nobody takes it for a document. Of a long
 /// one a piece is written, on another thread, while the next is composed.
 class print_file_writer {
+ private:
+    /// Lines that are written again and again. So many bytes as are usual are copied in one go,
+    /// also where there are fewer.
+    class ready_lines {
+     public:
+        static constexpr std::size_t usual = 32;
+
+        /// Room for other lines, to be filled up to what `filled` is told.
+        char* room(std::size_t bytes);
+        void filled(const char* end);
+        [[nodiscard]] std::size_t size() const { return size_; }
+        /// Returns their end; what lies behind it up to `usual` bytes is overwritten.
+        char* copied_to(char* at) const;
+
+     private:
+        std::vector<char> text_;
+        std::size_t size_ = 0;
+    };
+
  public:
+    /// What the lines of a record say behind its place and around its text.
+    class look {
+     public:
+        void make(const vista_di_record& record, forma_stile as);
+        [[nodiscard]] bool is_of(const vista_di_record& record, forma_stile as) const;
+
+     private:
+        friend print_file_writer;
+
+        ready_lines before_text_;  ///< of a text lines 4 to 7, of others lines 6 and 7
+        ready_lines behind_text_;  ///< the end of line 8, lines 9 to 11
+        double x2_ = 0;
+        double y2_ = 0;
+        double corpo_ = 0;
+        double colore_ = 0;
+        std::string carattere_;
+        double grassetto_ = 0;
+        double corsivo_ = 0;
+        forma_stile form_ = forma_stile::numeri;
+        bool made_ = false;
+    };
+
     /// Puts a new file in the place of the old one, which whoever has it open keeps, and writes its
     /// first line, `marca_verticale` or `marca_orizzontale`.
     print_file_writer(file_port& files, std::string_view mark);
@@ -29,6 +70,8 @@ class print_file_writer {
     void write(const record_di_stampa& record);
     /// The same for a record whose texts lie elsewhere.
     void write_view(const vista_di_record& record, forma_stile form = forma_stile::numeri);
+    /// Writes a text record that looks like another.
+    void write_text(double x, double y, std::string_view text, const look& as);
     /// Ends the page.
     void end_page();
 
@@ -49,6 +92,9 @@ class print_file_writer {
         std::size_t used = 0;
     };
 
+    /// Room for a record with a text of so many characters.
+    char* room_for(std::size_t text, const look& as);
+    void fill_rest(char* at, std::string_view text, const look& as);
     bool write(const piece& lines);
     /// Has what is pending written while the next lines are composed.
     void send_off();
@@ -58,52 +104,13 @@ class print_file_writer {
     void hand_over();
     void note(bool written, const piece& lines);
 
-    /// Lines that are written again and again. So many bytes as are usual are copied in one go,
-    /// also where there are fewer.
-    class ready_lines {
-     public:
-        static constexpr std::size_t usual = 32;
-
-        /// Room for other lines, to be filled up to what `filled` is told.
-        char* room(std::size_t bytes);
-        void filled(const char* end);
-        [[nodiscard]] std::size_t size() const { return size_; }
-        /// Returns their end; what lies behind it up to `usual` bytes is overwritten.
-        char* copied_to(char* at) const;
-
-     private:
-        std::vector<char> text_;
-        std::size_t size_ = 0;
-    };
-    /// What the lines of a record say behind its place and around its text: mostly the same as in
-    /// the one before of its kind.
-    class lines_of_look {
-     public:
-        [[nodiscard]] bool are_of(const vista_di_record& record, forma_stile as) const;
-        void make(const vista_di_record& record, forma_stile as);
-
-        ready_lines before_text;  ///< of a text lines 4 to 7, of others lines 6 and 7
-        ready_lines behind_text;  ///< the end of line 8, lines 9 to 11
-
-     private:
-        double x2_ = 0;
-        double y2_ = 0;
-        double corpo_ = 0;
-        double colore_ = 0;
-        std::string carattere_;
-        double grassetto_ = 0;
-        double corsivo_ = 0;
-        forma_stile form_ = forma_stile::numeri;
-        bool made_ = false;
-    };
-
     file_port& files_;
     std::unique_ptr<file> file_;  ///< null once a failure has left it empty
     piece pending_;               ///< lines that wait for others
     piece leaving_;               ///< lines on their way to the file
     std::int64_t written_ = 0;
     std::future<bool> on_its_way_;
-    std::array<lines_of_look, 10> looks_;  ///< the latest, by kind
+    std::array<look, 10> looks_;  ///< the latest by kind, mostly that of the next too
     bool whole_;
 };
 

@@ -85,7 +85,7 @@ double text_ruler::width(std::string_view text) const {
 
 std::int64_t text_ruler::parts(double width) {
     constexpr double parts_of_unit = 1 << 24;
-    constexpr double widest = 1e11;
+    constexpr double widest = 1e9;
     return static_cast<std::int64_t>(std::clamp(width, -widest, widest) * parts_of_unit);
 }
 
@@ -94,7 +94,16 @@ std::optional<std::size_t> text_ruler::within(std::string_view text, double limi
     const std::int64_t surely_beyond = parts(limit + summing_error(limit));
     if (text.empty()) return {};
     std::int64_t sum = 0;
-    for (std::size_t i = 0; i < text.size(); ++i) {
+    std::size_t i = 0;
+    for (; i + 4 <= text.size(); i += 4) {
+        const auto known = [&](std::size_t at) {
+            return characters_[static_cast<unsigned char>(text[i + at])];
+        };
+        const std::int64_t four = known(0) + known(1) + known(2) + known(3);
+        if (sum + four >= surely_within) break;
+        sum += four;
+    }
+    for (; i < text.size(); ++i) {
         std::int64_t& character = characters_[static_cast<unsigned char>(text[i])];
         sum += character;
         if (sum < surely_within) continue;

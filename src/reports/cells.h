@@ -27,7 +27,7 @@ class text_ruler {
 
  private:
     /// Widths are summed as whole numbers of parts of a unit.
-    static constexpr std::int64_t unknown = std::int64_t{1} << 62;
+    static constexpr std::int64_t unknown = std::int64_t{1} << 58;
     static std::int64_t parts(double width);
 
     const ui::printer& paper_;

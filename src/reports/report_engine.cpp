@@ -75,7 +75,8 @@ void report_engine::set_columns() {
             place_in_column(text, i, 0);
             cells_.push_back({{std::move(ruler), fit_[i], sheet_.colonne[i].formato_cella,
                                valuta(parameters_), placed_by_width(i)},
-                              text});
+                              out_.expect_like(text),
+                              text.x});
         }
     }
 }
@@ -160,15 +161,18 @@ bool report_engine::placed_by_width(std::size_t column) const {
 }
 
 void report_engine::place_in_column(testo_report& one, std::size_t column, double width) const {
+    const bool is_text = sheet_.colonne[column].formato_cella == 0;
+    if (!is_text && rows_.fine_a_destra) one.allineamento = ui::alignment::right;
+    one.x = x_in_column(column, width);
+}
+
+double report_engine::x_in_column(std::size_t column, double width) const {
     if (sheet_.colonne[column].formato_cella == 0) {
-        one.x = integer_part(left_[column]) + insets_.rientro_sinistro;
-    } else if (rows_.fine_a_destra) {
-        one.x = box_right(column);
-        one.allineamento = ui::alignment::right;
-    } else {
-        const double right = is_last(column) ? limits_.destro : left_[column] + width_[column];
-        one.x = integer_part(right - integer_part(width)) - insets_.rientro_destro;
+        return integer_part(left_[column]) + insets_.rientro_sinistro;
     }
+    if (rows_.fine_a_destra) return box_right(column);
+    const double right = is_last(column) ? limits_.destro : left_[column] + width_[column];
+    return integer_part(right - integer_part(width)) - insets_.rientro_destro;
 }
 
 // Rows --------------------------------------------------------------------------------------
@@ -189,12 +193,10 @@ void report_engine::draw_boxes_of(std::size_t column, double y) {
 
 void report_engine::draw_cell(std::size_t column, std::size_t line, std::string_view cell,
                               double y) {
-    auto& [prepara, text] = cells_[line * columns() + column];
-    const cella_pronta ready = prepara(cell);
-    text.y = y;
-    text.testo = ready.testo;
-    if (placed_by_width(column)) place_in_column(text, column, ready.larghezza);
-    out_.text(text);
+    linea_celle& cells = cells_[line * columns() + column];
+    const cella_pronta ready = cells.prepara(cell);
+    const double x = placed_by_width(column) ? x_in_column(column, ready.larghezza) : cells.x;
+    out_.text_like(cells.come, x, y, ready.testo);
 }
 
 void report_engine::print_row(std::span<const std::string_view> cells) {

@@ -93,6 +93,7 @@ class report_engine {
     [[nodiscard]] bool placed_by_width(std::size_t column) const;
     /// Gives a text of a width the place where the cells of a column stand.
     void place_in_column(testo_report& one, std::size_t column, double width) const;
+    [[nodiscard]] double x_in_column(std::size_t column, double width) const;
     void put_in_column(std::size_t column, double y, std::string_view text, const look& measured,
                        const look& as);
     [[nodiscard]] double width_of(std::string_view text, const look& as) const;
@@ -100,7 +101,8 @@ class report_engine {
     /// One of the lines of text that a row has in a column.
     struct linea_celle {
         preparazione_celle prepara;
-        testo_report testo;  ///< the latest
+        std::size_t come;  ///< the output's number of texts like these
+        double x;          ///< where they all have the same
     };
 
     const parametri& parameters_;
