@@ -103,25 +103,16 @@ TEST(printed_document, LinesShowTheirColumnsFromTheTopOfTheBody) {
     document_stage order;
     order.tables.iva.aliquota_iva[4] = "22";
     order.tables.iva.aliquota_iva[14] = "exempt";
-    auto& full = order.lines[1];
-    full.codice =
-        "A\x01"
-        "B";
-    full.descrizione = "Vite";
-    full.um = "PZ";
-    full.quantita = 2.5;
-    full.prezzo = 10;
-    full.sc1 = 10;
-    full.sc2 = 5;
-    full.iva = 4;
-    auto& bare = order.lines[2];
-    bare.descrizione = "trasporto";
-    bare.prezzo = 5.555;
-    bare.sc2 = 5;
-    bare.iva = 14;
-    order.lines[3].descrizione = "solo sconto";
-    order.lines[3].sc1 = -3;
-    order.lines[3].iva = 4;
+    order.lines[1] = {.codice{"A\tB"},
+                      .descrizione{"Vite"},
+                      .um{"PZ"},
+                      .iva = 4,
+                      .quantita = 2.5,
+                      .prezzo = 10,
+                      .sc1 = 10,
+                      .sc2 = 5};
+    order.lines[2] = {.descrizione{"trasporto"}, .iva = 14, .prezzo = 5.555, .sc2 = 5};
+    order.lines[3] = {.descrizione{"solo sconto"}, .iva = 4, .sc1 = -3};
     const struct {
         tipo_documento kind;
         strings printed;

@@ -23,18 +23,18 @@ class paste : public new_order {
     static std::string pasted(int row, const std::string& text) {
         return "paste mirorcs.artic(" + std::to_string(row) + ") " + json(text).dump();
     }
-    static std::string key(const std::string& control, int row) {
-        return "key mirorcs." + control + "(" + std::to_string(row) + ") Enter";
-    }
     static script typed(int row, const std::string& code, const std::string& quantity,
                         const std::string& price) {
         const std::string at = "(" + std::to_string(row) + ")";
+        const auto enter = [&](const char* cell) {
+            return "key mirorcs." + (cell + at) + " Enter";
+        };
         script all{"type mirorcs.artic" + at + " \"" + code + "\"",
-                   key("artic", row),
+                   enter("artic"),
                    set("quantita" + at, quantity),
-                   key("quantita", row),
-                   key("sc1", row),
-                   key("sc2", row)};
+                   enter("quantita"),
+                   enter("sc1"),
+                   enter("sc2")};
         if (!price.empty()) all.push_back(set("prezzo" + at, price));
         return all;
     }

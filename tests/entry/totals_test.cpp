@@ -12,30 +12,16 @@
 namespace vantora {
 namespace {
 
-struct amounts {
-    double quantita, prezzo;
-    int sc1, sc2, iva;
-};
-
-constexpr double max_double = std::numeric_limits<double>::max();
-
 valuta currency(bool euro) {
     parametri from;
     from.parametri_valuta[valuta_slot::modo_decimali] = euro ? "1" : "0";
     return valuta(from);
 }
 
-righe_ordine order_of(const std::vector<amounts>& all) {
+righe_ordine order_of(const std::vector<riga_ordine>& all) {
     righe_ordine lines;
-    int first = 0;
-    for (const amounts& one : all) {
-        riga_ordine& line = lines[++first];
-        line.quantita = one.quantita;
-        line.prezzo = one.prezzo;
-        line.sc1 = static_cast<std::int16_t>(one.sc1);
-        line.sc2 = static_cast<std::int16_t>(one.sc2);
-        line.iva = static_cast<std::int16_t>(one.iva);
-    }
+    int number = 0;
+    for (const riga_ordine& one : all) lines[++number] = one;
     return lines;
 }
 
@@ -44,11 +30,11 @@ struct plain_sums {
     double taxed[25] = {};
     double imponibile = 0, totale = 0, pezzi = 0;
 
-    plain_sums(const std::vector<amounts>& lines, bool euro, const double (&rate)[13]) {
+    plain_sums(const std::vector<riga_ordine>& lines, bool euro, const double (&rate)[13]) {
         const auto percent = [&](double value, double of, double bias) {
             return euro ? std::floor(value * of + 0.51) / 100 : std::floor(value * of / 100 + bias);
         };
-        for (const amounts& line : lines) {
+        for (const riga_ordine& line : lines) {
             double value = line.prezzo;
             if (line.quantita != 0 && line.quantita != -9999) {
                 pezzi = pezzi + line.quantita;
@@ -77,14 +63,16 @@ TEST(calcola_totali, AgreesWithAPlainRecomputationOnRandomOrders) {
     for (std::size_t code = 1; code <= 5; ++code) table.aliquota_iva[code] = texts[code];
     for (int round = 0; round < 300; ++round) {
         const bool euro = round % 2 == 0;
-        std::vector<amounts> lines;
+        std::vector<riga_ordine> lines;
         for (int i = upto(201); i > 0; --i) {
-            const double quantity = upto(6) == 0   ? 0
-                                    : upto(9) == 0 ? -9999
-                                                   : below(4000) / (upto(2) ? 100.0 : 1.0);
-            const double price = below(2000000) / (upto(2) ? 1000.0 : 1.0);
-            lines.push_back(
-                {quantity, price, upto(3) ? 0 : below(120), upto(3) ? 0 : below(60), upto(27) - 1});
+            riga_ordine& line = lines.emplace_back();
+            line.quantita = upto(6) == 0   ? 0
+                            : upto(9) == 0 ? -9999
+                                           : below(4000) / (upto(2) ? 100.0 : 1.0);
+            line.prezzo = below(2000000) / (upto(2) ? 1000.0 : 1.0);
+            line.sc1 = static_cast<std::int16_t>(upto(3) ? 0 : below(120));
+            line.sc2 = static_cast<std::int16_t>(upto(3) ? 0 : below(60));
+            line.iva = static_cast<std::int16_t>(upto(27) - 1);
         }
         const plain_sums expected(lines, euro, rate_of);
         const auto sums = calcola_totali(order_of(lines), table, currency(euro));
@@ -99,18 +87,19 @@ TEST(calcola_totali, AgreesWithAPlainRecomputationOnRandomOrders) {
 }
 
 TEST(calcola_totali, AmountsBeyondAllNumbersAreAnOverflow) {
-    const std::vector<amounts> wrong[] = {
-        {{1e10, 1e308, 0, 0, 14}},
-        {{0, max_double, 0, 0, 13}, {0, max_double, 0, 0, 14}},
-        {{0, max_double, 30000, 0, 14}},
-        {{0, std::nan(""), 0, 0, 14}},
-        {{max_double, 0, 0, 0, 14}, {max_double, 0, 0, 0, 14}},
+    const riga_ordine most{.iva = 14, .prezzo = std::numeric_limits<double>::max()};
+    const std::vector<riga_ordine> wrong[] = {
+        {{.iva = 14, .quantita = 1e10, .prezzo = 1e308}},
+        {most, {.iva = 13, .prezzo = most.prezzo}},
+        {{.iva = 14, .prezzo = most.prezzo, .sc1 = 30000}},
+        {{.iva = 14, .prezzo = std::nan("")}},
+        {{.iva = 14, .quantita = most.prezzo}, {.iva = 14, .quantita = most.prezzo}},
     };
     for (const auto& lines : wrong) {
         EXPECT_THROW(calcola_totali(order_of(lines), {}, currency(true)), ui::overflow_error)
             << lines[0].quantita << " x " << lines[0].prezzo;
     }
-    EXPECT_NO_THROW(calcola_totali(order_of({{0, 1e300, 0, 0, 14}}), {}, currency(true)));
+    EXPECT_NO_THROW(calcola_totali(order_of({{.iva = 14, .prezzo = 1e300}}), {}, currency(true)));
 }
 
 }  // namespace

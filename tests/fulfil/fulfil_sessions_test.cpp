@@ -249,39 +249,30 @@ class session {
     }
 
     void mark() {
-        auto& worklist = worklist_;
         const auto in_full = [&](books::open_row& row) {
             const rec_orc& open = book_.rows[row.record];
             row.leaving = open.quantita - open.evaso;
             row.star = row.leaving == 0;
         };
-        for (std::size_t i = 0; i < worklist.size(); ++i) {
-            const int shown = static_cast<int>(i) + 1;
-            switch (below(6)) {
-                case 0:
-                    stage_.click(shown, mirorcr::ordine);
-                    for (auto& row : worklist) {
-                        if (row.record / 200 == worklist[i].record / 200) in_full(row);
-                    }
-                    break;
-                case 1:
-                    stage_.click(shown, mirorcr::da_evadere);
-                    in_full(worklist[i]);
-                    break;
-                case 2: {
-                    const int quarters = below(60) - 5;
-                    stage_.type_quantity(shown, plain_text(quarters / 4.0));
-                    worklist[i].leaving = quarters / 4.0;
-                    worklist[i].star = false;
-                    break;
+        for (books::open_row& row : worklist_) {
+            const int shown = static_cast<int>(&row - worklist_.data()) + 1;
+            const int how = below(6);
+            if (how == 0) {
+                stage_.click(shown, mirorcr::ordine);
+                for (auto& one : worklist_) {
+                    if (one.record / 200 == row.record / 200) in_full(one);
                 }
-                case 3:
-                    stage_.type_quantity(shown, "*");
-                    worklist[i].leaving = 0;
-                    worklist[i].star = true;
-                    break;
-                default:
-                    break;
+            } else if (how == 1) {
+                stage_.click(shown, mirorcr::da_evadere);
+                in_full(row);
+            } else if (how == 2) {
+                row.leaving = (below(60) - 5) / 4.0;
+                row.star = false;
+                stage_.type_quantity(shown, plain_text(row.leaving));
+            } else if (how == 3) {
+                row.leaving = 0;
+                row.star = true;
+                stage_.type_quantity(shown, "*");
             }
         }
     }

@@ -42,28 +42,28 @@ struct plain_screen : ui::form {
 
 class list_grid_of_a_screen : public testing::Test {
  protected:
-    program_stage<busy_user> stage;
-    ui::screen<plain_screen> place;
-    plain_screen& screen = [this]() -> plain_screen& {
-        place.made_by(stage.desk, [this] { return std::make_unique<plain_screen>(stage.app); });
+    list_grid_of_a_screen() {
         stage.app.parameters.gnr.righe_alternate = "1";
         stage.app.parameters.gnr.colore_riga_pari = 1;
         stage.app.parameters.gnr.colore_riga_dispari = 2;
+        place.made_by(stage.desk, [this] { return std::make_unique<plain_screen>(stage.app); });
         place->show();
-        return *place;
-    }();
+    }
+
+    program_stage<busy_user> stage;
+    ui::screen<plain_screen> place;
 };
 
 TEST_F(list_grid_of_a_screen, HoldsItsRowsAndNoMoreThanItsRoom) {
     for (const auto& [last, in_use, shown] :
          {std::tuple{0, 1, 26}, {25, 26, 26}, {26, 27, 27}, {40000, 31999, 31999}, {3, 4, 26}}) {
-        screen.elenco.set_focus();
-        screen.show_numbers(1, last);
-        EXPECT_EQ(screen.lista.in_use(), in_use);
-        EXPECT_EQ(screen.elenco.rows(), shown);
-        EXPECT_EQ(screen.elenco.text(in_use, 0), "") << "nothing is left of a longer list";
-        EXPECT_EQ(screen.elenco.back_colour(shown - 1, 0), shown % 2 == 0 ? 2U : 1U);
-        EXPECT_TRUE(screen.elenco.has_focus());
+        place->elenco.set_focus();
+        place->show_numbers(1, last);
+        EXPECT_EQ(place->lista.in_use(), in_use);
+        EXPECT_EQ(place->elenco.rows(), shown);
+        EXPECT_EQ(place->elenco.text(in_use, 0), "") << "nothing is left of a longer list";
+        EXPECT_EQ(place->elenco.back_colour(shown - 1, 0), shown % 2 == 0 ? 2U : 1U);
+        EXPECT_TRUE(place->elenco.has_focus());
         EXPECT_EQ(stage.desk.pointer_shape(), ui::pointer::normal);
     }
 }
@@ -76,26 +76,26 @@ TEST_F(list_grid_of_a_screen, StripesAreOfTheCompanysColoursIfItWantsThem) {
     };
     auto& general = stage.app.parameters.gnr;
     for (const auto& [even, odd, striped, shown_even, shown_odd] : cases) {
-        screen.elenco.set_columns({{"Numero", 100}, {"", 0}});  // without colours
+        place->elenco.set_columns({{"Numero", 100}, {"", 0}});  // without colours
         general.colore_riga_pari = even;
         general.colore_riga_dispari = odd;
         general.righe_alternate = striped;
-        screen.show_numbers(1, 3);
-        EXPECT_EQ(screen.elenco.back_colour(2, 0), shown_even) << even << striped;
-        EXPECT_EQ(screen.elenco.back_colour(3, 0), shown_odd) << even << striped;
+        place->show_numbers(1, 3);
+        EXPECT_EQ(place->elenco.back_colour(2, 0), shown_even) << even << striped;
+        EXPECT_EQ(place->elenco.back_colour(3, 0), shown_odd) << even << striped;
     }
 }
 
 TEST_F(list_grid_of_a_screen, ARefreshServedDuringASortStays) {
     for (const auto& [before, after] : {std::pair{3, 60}, {60, 3}, {3, 5}, {60, 70}}) {
-        screen.show_numbers(1, before);
-        stage.front.meanwhile = [&, last = after] { screen.show_numbers(1, last); };
-        screen.lista.sort(0, ui::sort_order::generic_ascending);
-        EXPECT_EQ(screen.elenco.rows(), std::max(after + 1, 26)) << before;
-        EXPECT_EQ(screen.elenco.text(after, 0), std::to_string(after)) << before;
+        place->show_numbers(1, before);
+        stage.front.meanwhile = [&, last = after] { place->show_numbers(1, last); };
+        place->lista.sort(0, ui::sort_order::generic_ascending);
+        EXPECT_EQ(place->elenco.rows(), std::max(after + 1, 26)) << before;
+        EXPECT_EQ(place->elenco.text(after, 0), std::to_string(after)) << before;
         stage.front.meanwhile = nullptr;
-        screen.lista.sort(0, ui::sort_order::generic_ascending);
-        EXPECT_EQ(screen.elenco.text(1, 0), "1") << "blank rows stay at the bottom";
+        place->lista.sort(0, ui::sort_order::generic_ascending);
+        EXPECT_EQ(place->elenco.text(1, 0), "1") << "blank rows stay at the bottom";
     }
 }
 
