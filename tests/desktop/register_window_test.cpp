@@ -174,9 +174,12 @@ TEST_F(register_window, AskedToEndFromOutsideItEndsWhateverIsOpen) {
     run({[&] { click_cell(1, 3); },
          [&] {
              ASSERT_TRUE(box());
+             QDialog of_the_system;
+             of_the_system.show();
              const outside_end ending([&] { bench.front.end_by_user(); });
              std::raise(SIGTERM);
              EXPECT_TRUE(QTest::qWaitFor([&] { return bench.desk.ended().has_value(); }, 2000));
+             EXPECT_FALSE(of_the_system.isVisible());
          }});
     EXPECT_FALSE(app.archives.tot.is_open());
 }
