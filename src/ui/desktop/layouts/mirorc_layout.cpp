@@ -95,14 +95,7 @@ QGroupBox* compaction(form_window& window) {
 }  // namespace
 
 void lay_out_mirorc(form_window& window) {
-    auto* all = new QVBoxLayout(&window);
-    all->setContentsMargins(0, 0, 0, 0);
-    all->setSpacing(0);
-    all->addWidget(register_bar(window));
-
-    auto* body = new QVBoxLayout;
-    body->setContentsMargins(10, 8, 10, 10);
-    body->setSpacing(8);
+    auto* body = body_under(register_bar(window), window);
     body->addLayout(grid_with_sort_buttons(window, "elenco", "srx", 6), 1);
     auto* orders = window.as<grid_view>("elenco");
     orders->search_in(order_number);
@@ -119,7 +112,6 @@ void lay_out_mirorc(form_window& window) {
     foot->addWidget(options(window, "Ordine di lettura", "visua", 2));
     foot->addWidget(compaction(window), 1);
     body->addLayout(foot);
-    all->addLayout(body, 1);
 
     std::vector<QWidget*> stops;
     for (const int i : commands_from_left) stops.push_back(window.widget("bottone", i));

@@ -100,11 +100,7 @@ QVBoxLayout* help_lines(form_window& window) {
 }  // namespace
 
 void lay_out_mirorcr(form_window& window) {
-    auto* all = new QVBoxLayout(&window);
-    all->setContentsMargins(0, 0, 0, 0);
-    all->setSpacing(0);
-    all->addWidget(worklist_bar(window));
-
+    auto* body = body_under(worklist_bar(window), window);
     auto* view = window.as<grid_view>("elenco");
     view->setItemDelegate(new leaving_rows(view));
     auto* quantity = window.as<QLineEdit>("quantita");
@@ -114,9 +110,6 @@ void lay_out_mirorcr(form_window& window) {
     view->begin_at_first();
     add_grid_keys(window);
 
-    auto* body = new QVBoxLayout;
-    body->setContentsMargins(10, 8, 10, 10);
-    body->setSpacing(8);
     body->addWidget(view, 1);
     auto* foot = new QHBoxLayout;
     foot->setSpacing(24);
@@ -125,7 +118,6 @@ void lay_out_mirorcr(form_window& window) {
     set_look(marked, "role", "total");
     foot->addWidget(marked, 0, Qt::AlignBottom);
     body->addLayout(foot);
-    all->addLayout(body, 1);
 
     window.setMinimumSize(900, 480);
     window.set_first_size(QSize(1280, 690));

@@ -30,6 +30,18 @@ void set_look(QWidget* widget, const char* property, const char* value) {
     widget->setProperty(property, value);
 }
 
+QVBoxLayout* body_under(QWidget* commands, form_window& window) {
+    auto* all = new QVBoxLayout(&window);
+    all->setContentsMargins(0, 0, 0, 0);
+    all->setSpacing(0);
+    all->addWidget(commands);
+    auto* body = new QVBoxLayout;
+    body->setContentsMargins(10, 8, 10, 10);
+    body->setSpacing(8);
+    all->addLayout(body, 1);
+    return body;
+}
+
 QVBoxLayout* grid_with_sort_buttons(form_window& window, const char* grid, const char* name,
                                     int count) {
     auto* strip = new QWidget(&window);

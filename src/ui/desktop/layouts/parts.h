@@ -30,6 +30,9 @@ QWidget* sized(QWidget* field, int characters, int margins = 24);
 QVBoxLayout* grid_with_sort_buttons(form_window& window, const char* grid, const char* name,
                                     int count);
 
+/// The plan of a working window: its commands across the top; what comes below them is returned.
+QVBoxLayout* body_under(QWidget* commands, form_window& window);
+
 /// Sets how the style sheet draws a widget.
 void set_look(QWidget* widget, const char* property, const char* value);
 

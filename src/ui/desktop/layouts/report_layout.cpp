@@ -131,13 +131,7 @@ QHBoxLayout* filter_row(form_window& window, std::span<const filter_look> filter
 
 void lay_out_report(form_window& window, std::span<const filter_look> filters, int total_column,
                     const char* total) {
-    auto* all = new QVBoxLayout(&window);
-    all->setContentsMargins(0, 0, 0, 0);
-    all->setSpacing(0);
-    all->addWidget(report_bar(window));
-    auto* body = new QVBoxLayout;
-    body->setContentsMargins(10, 8, 10, 10);
-    body->setSpacing(8);
+    auto* body = body_under(report_bar(window), window);
     body->addLayout(filter_row(window, filters));
     auto* list = window.as<grid_view>("elenco");
     if (total) list->set_off(total_column, total);
@@ -146,7 +140,6 @@ void lay_out_report(form_window& window, std::span<const filter_look> filters, i
     QObject::connect(as_pdf, &QAction::triggered, pdf, &QToolButton::click);
     list->addAction(as_pdf);
     body->addWidget(list, 1);
-    all->addLayout(body, 1);
     order_tabs(window, filters);
     window.setMinimumSize(960, 520);
     window.set_first_size(QSize(1280, 690));
