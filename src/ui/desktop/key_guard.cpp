@@ -34,10 +34,20 @@ void key_guard::screen_came_up() {
     since_screen_.start();
 }
 
+bool key_guard::repeats(const QKeyEvent& key) {
+    if (key.isAutoRepeat()) return true;
+    const auto last = let_go_.constFind(key.key());
+    if (last == let_go_.constEnd() || key.timestamp() == 0 || last->moment != key.timestamp()) {
+        return false;
+    }
+    down_[key.key()] = last->screen;
+    return true;
+}
+
 bool key_guard::holds_back(const QKeyEvent& key) {
     const int code = key.key();
     if (is_modifier(code)) return false;
-    if (key.isAutoRepeat()) return is_command(key) || down_.value(code, -1) != screen_;
+    if (repeats(key)) return is_command(key) || down_.value(code, -1) != screen_;
     if (down_.contains(code)) return false;  // on its way from widget to widget
     const bool in_haste = code == bringer_ && is_command(key) &&
                           since_screen_.elapsed() < QApplication::doubleClickInterval();
@@ -51,7 +61,8 @@ bool key_guard::holds_back(const QKeyEvent& key) {
 bool key_guard::eventFilter(QObject*, QEvent* event) {
     if (event->type() == QEvent::KeyRelease) {
         const auto& key = static_cast<QKeyEvent&>(*event);
-        if (!key.isAutoRepeat()) down_.remove(key.key());
+        if (key.isAutoRepeat() || !down_.contains(key.key())) return false;
+        let_go_[key.key()] = {key.timestamp(), down_.take(key.key())};
         return false;
     }
     if (event->type() == QEvent::ApplicationDeactivate) down_.clear();

@@ -23,9 +23,18 @@ class key_guard final : public QObject {
 
  private:
     [[nodiscard]] bool holds_back(const QKeyEvent& key);
+    /// A held key comes as let go and pressed again at the same moment; the toolkit sees that only
+    /// where both have arrived.
+    [[nodiscard]] bool repeats(const QKeyEvent& key);
+
+    struct letting_go {
+        quint64 moment;  ///< of the window system
+        int screen;      ///< in which the key had gone down
+    };
 
     QHash<int, int> down_;  ///< keys that are down, with the screen in which they went down
-    int screen_ = 0;        ///< counts what came up
+    QHash<int, letting_go> let_go_;
+    int screen_ = 0;  ///< counts what came up
     int last_key_ = 0;
     int bringer_ = 0;  ///< the key that brought the screen, while no other was pressed
     QElapsedTimer since_screen_;
