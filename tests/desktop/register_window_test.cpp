@@ -67,6 +67,8 @@ TEST_F(register_window, RowsOpenByClickAndByEnter) {
              EXPECT_FALSE(box());
              QTest::keyClick(table(), Qt::Key_Up);
              EXPECT_EQ(app.mirorc->elenco.row(), 1);
+             QTest::keyClick(table(), Qt::Key_F5);
+             EXPECT_EQ(app.mirorc->elenco.row(), 1) << "the mark stays on its order";
              QTest::keyClick(table(), Qt::Key_Down);
              QTest::keyPress(table(), Qt::Key_Return);
          },

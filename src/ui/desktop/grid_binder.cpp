@@ -214,6 +214,8 @@ class grid_binder final : public widget_binder {
         show_top_row();
         if (std::exchange(brings_into_sight_, false)) view_->scrollTo(here);
         view_->place_followers();
+        // Arrow keys move the mark through the model.
+        if (model_.row() > 0) marked_ = model_.text(model_.row(), 0);
     }
 
     void show_top_row() {
