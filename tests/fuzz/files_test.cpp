@@ -93,9 +93,10 @@ void print_document(one_content& files) {
 /// What a company has of texts and pictures, a print file, and pictures of other kinds.
 std::vector<std::string> good_contents() {
     std::string printed = "#FILEFORMAT=KLP-RTO\r\n";
-    for (const char* kind : {" 3 ", " 2 ", " 1 ", " 0 ", " 9 "}) {
-        printed += std::string(kind) + "\r\n 10 \r\n-2.5 \r\n 100 \r\n 1 \r\n 9 \r\n 255 " +
-                   "\r\n\\logo.bmp\r\nArial\r\n 1 \r\n0\r\n";
+    for (const std::string kind : {" 3 ", " 2 ", " 1 ", " 0 ", " 9 "}) {
+        const std::string bottom = kind == " 2 " ? "1E9" : " 1 ";  // one beyond all paper
+        printed += kind + "\r\n 10 \r\n-2.5 \r\n 100 \r\n" + bottom + "\r\n 9 \r\n 255 \r\n" +
+                   "\\logo.bmp\r\nArial\r\n 1 \r\n0\r\n";
     }
     std::vector<std::string> all{
         printed, "P6 10 10 255\n" + std::string(300, '\x7F'),
