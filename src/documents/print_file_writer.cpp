@@ -107,13 +107,24 @@ bool print_file_writer::write(const piece& lines) {
 void print_file_writer::send_off() {
     if (!sent_lines_written() || pending_.used == 0) return;
     std::swap(leaving_, pending_);
-    // Where the machine has no further thread, waiting for it writes them.
-    on_its_way_ =
-        std::async(std::launch::async | std::launch::deferred, [this] { return write(leaving_); });
+    taken_ = std::make_shared<std::atomic_flag>();
+    const auto unless_taken = [this, taken = taken_] {
+        return taken->test_and_set() || write(leaving_);
+    };
+    // Where the machine has no further thread, nobody else takes them.
+    on_its_way_ = std::async(std::launch::async | std::launch::deferred, unless_taken);
 }
 
 bool print_file_writer::sent_lines_written() {
-    if (on_its_way_.valid()) note(on_its_way_.get(), leaving_);
+    const auto taken = std::exchange(taken_, nullptr);
+    if (!taken) return file_ != nullptr;
+    if (taken->test_and_set()) {
+        note(on_its_way_.get(), leaving_);
+    } else {
+        // On a busy machine the other thread would be waited for.
+        late_.push_back(std::move(on_its_way_));
+        note(write(leaving_), leaving_);
+    }
     return file_ != nullptr;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <atomic>
 #include <future>
 #include <memory>
 #include <string>
@@ -98,7 +99,7 @@ class print_file_writer {
     bool write(const piece& lines);
     /// Has what is pending written while the next lines are composed.
     void send_off();
-    /// Waits for the lines on their way. False if nothing more may be written.
+    /// Sees the lines on their way written. False if nothing more may be written.
     bool sent_lines_written();
     /// Writes what is pending.
     void hand_over();
@@ -109,8 +110,10 @@ class print_file_writer {
     piece pending_;               ///< lines that wait for others
     piece leaving_;               ///< lines on their way to the file
     std::int64_t written_ = 0;
+    std::shared_ptr<std::atomic_flag> taken_;  ///< set by who writes them; null: there are none
     std::future<bool> on_its_way_;
-    std::array<look, 10> looks_;  ///< the latest by kind, mostly that of the next too
+    std::vector<std::future<bool>> late_;  ///< came too late and have nothing to do
+    std::array<look, 10> looks_;           ///< the latest by kind, mostly that of the next too
     bool whole_;
 };
 
