@@ -107,7 +107,12 @@ const damage damages[] = {
 };
 
 TEST(archive_check, FindsEachDamageAndNothingElseAndWritesNothing) {
-    EXPECT_EQ(faults_of(demo_folder(test::small_company)), std::vector<std::string>{});
+    constexpr int sizes[][3] = {{120, 150, 90}, {0, 10, 0}, {0, 0, 10}, {1, 1, 1}, {20, 0, 3}};
+    for (const auto& [orders, articles, customers] : sizes) {
+        const demo_folder sound(
+            {.numero_azienda = 7, .orders = orders, .articles = articles, .customers = customers});
+        EXPECT_EQ(faults_of(sound), std::vector<std::string>{}) << orders;
+    }
     for (const damage& one : damages) {
         SCOPED_TRACE(one.told[0]);
         const demo_folder company(

@@ -75,7 +75,8 @@ TEST_F(mirxpdf_mail, WithoutSettingsThePdfStaysAndTheUserIsTold) {
     const std::pair<const char*, const char*> settings[] = {
         {"# server = smtp.esempio.it\n", "mirwin/mirwin/mirxpdf.conf"},
         {"server = smtp.esempio.it\nmittente = a@b.it\nporta = molte\n", "riga 3: la porta"},
-        {"server = a/b@c\nmittente = a@b.it\n", "nome del server"}};
+        {"server = a/b@c\nmittente = a@b.it\n", "nome del server"},
+        {"server = a.it\nmittente = Ditta <a@b.it> x\n", "mittente non è un indirizzo"}};
     for (const auto& [content, reason] : settings) {
         drive.write_settings(content);
         expect_not_sent("rossi@verdi.it", reason);

@@ -45,11 +45,6 @@ TEST(mirxpdf_notices, APdfThatIsReadyIsOpenedOnlyIfTheUserWantsIt) {
         tell.not_sent(not_sent, pdf);
         EXPECT_EQ(opened, times) << button;
     }
-    const notices quiet;
-    quiet.done("pronto", " con riserva", "a.pdf");
-    quiet.not_sent("non inviato", "a.pdf");
-    quiet.failure("non creato");
-    EXPECT_FALSE(QApplication::activeModalWidget()) << "without windows nothing waits";
 }
 
 }  // namespace
