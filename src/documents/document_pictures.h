@@ -13,7 +13,7 @@ namespace vantora {
 /// A point of a picture takes 15 twips on paper, as on a common screen, however large its file says
 /// it should be. The scale that places a picture is a little off the true one.
 inline constexpr double lato_punto_figura = 15 / 56.6929;        ///< millimetres
-inline constexpr double scala_posto_figura = 56.6868 / 56.6929;  ///< paper to told millimetres
+inline constexpr double scala_posto_figura = 56.6868 / 56.6929;  ///< paper to nominal millimetres
 inline constexpr std::size_t punti_per_pagina = 2'000'000;       ///< of pictures, twice its area
 inline constexpr std::size_t punti_per_documento = 8'000'000;    ///< of different pictures
 

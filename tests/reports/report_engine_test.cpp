@@ -4,7 +4,7 @@
 
 #include <random>
 
-#include "reports/told_report.h"
+#include "reports/plain_report.h"
 #include "support/program_stage.h"
 
 namespace vantora {
@@ -59,7 +59,7 @@ class any_report : public testing::Test {
         report.margine_alto = some(0, 100);
         report.margine_basso = some(600, 1000);
         stage_.paper.set_up(1 + upto(1), 1);
-        told_paper_.set_up(stage_.paper.orientation(), 1);
+        plain_paper_.set_up(stage_.paper.orientation(), 1);
     }
 
     foglio_report any_sheet() {
@@ -80,7 +80,7 @@ class any_report : public testing::Test {
     void print_both(uscita_report uscita, int rows) {
         const bool is_file = uscita == uscita_report::pdf;
         const foglio_report sheet = any_sheet();
-        test::told_report told(stage_.app.parameters, told_paper_, is_file, sheet, {2024, 5, 6});
+        test::plain_report plain(stage_.app.parameters, plain_paper_, is_file, sheet, {2024, 5, 6});
         report_on_printer on_paper(stage_.paper);
         print_file_writer file(stage_.files, marca_verticale);
         report_in_print_file in_file(stage_.paper, file);
@@ -91,34 +91,34 @@ class any_report : public testing::Test {
             std::vector<std::string> texts(2 * sheet.colonne.size());
             for (std::string& one : texts) one = any_cell();
             engine.print_row(std::vector<std::string_view>(texts.begin(), texts.end()));
-            told.stampa_riga(texts);
-            is_page_open = told.righe_stampate > 0;
+            plain.stampa_riga(texts);
+            is_page_open = plain.righe_stampate > 0;
         }
         engine.end_report();
-        if (is_page_open) told.stampa_testata();
+        if (is_page_open) plain.stampa_testata();
         stage_.paper.end_job();
-        told_paper_.end_job();
+        plain_paper_.end_job();
         ASSERT_TRUE(file.finish());
-        told_file_ = std::string(marca_verticale) + "\r\n" + told.file;
+        plain_file_ = std::string(marca_verticale) + "\r\n" + plain.file;
     }
 
     std::mt19937 random_;
     test::program_stage<> stage_;
-    ui::script::recording_printer told_paper_;
-    std::string told_file_;
+    ui::script::recording_printer plain_paper_;
+    std::string plain_file_;
 };
 
-TEST_F(any_report, PagesAreThoseThatAreTold) {
+TEST_F(any_report, PagesAreThoseOfThePlainDrawing) {
     std::size_t pages = 0;
     for (unsigned seed = 1; seed <= 150; ++seed) {
         SCOPED_TRACE("seed " + std::to_string(seed));
         random_.seed(seed);
         choose_settings();
         print_both(seed % 2 == 0 ? uscita_report::pdf : uscita_report::stampante, upto(130));
-        const auto told = told_paper_.take_jobs();
-        ASSERT_TRUE(stage_.paper.take_jobs() == told);
-        ASSERT_TRUE(stage_.files.read_whole(file_di_stampa) == told_file_);
-        for (const auto& job : told) pages += job.pages.size();
+        const auto plain = plain_paper_.take_jobs();
+        ASSERT_TRUE(stage_.paper.take_jobs() == plain);
+        ASSERT_TRUE(stage_.files.read_whole(file_di_stampa) == plain_file_);
+        for (const auto& job : plain) pages += job.pages.size();
     }
     EXPECT_GT(pages, 150U);
 }

@@ -5,9 +5,9 @@
 
 #include <random>
 
+#include "reports/plain_lists.h"
 #include "reports/report_stage.h"
 #include "reports/sheet_rows.h"
-#include "reports/told_lists.h"
 
 namespace vantora::test {
 namespace {
@@ -128,12 +128,12 @@ class random_archive {
 /// Opens a screen and builds its list with one set of filters after the other.
 template <class Form>
 void compare_lists(random_archive& archive, report_stage& stage, ui::screen<Form>& place,
-                   grid_rows (told_lists::*told)(), int builds) {
+                   grid_rows (plain_lists::*plain)(), int builds) {
     place.use().show();
     report_screen& screen = *place;
-    told_lists reference(stage.app.archives, screen, stage.app.parameters);
+    plain_lists reference(stage.app.archives, screen, stage.app.parameters);
     const auto compare = [&] {
-        const auto expected = (reference.*told)();
+        const auto expected = (reference.*plain)();
         EXPECT_EQ(report_stage::rows_of(screen.elenco), expected)
             << screen.name() << ", orders " << screen.text1[0].text() << " to "
             << screen.text1[1].text() << ", choices " << screen.Combo1.chosen()
@@ -172,11 +172,11 @@ void compare_all_lists(unsigned seed, bool long_lists) {
     archive.fill(long_lists);
     stage.app.parameters.parametri_valuta[1] = "1";
     const int builds = long_lists ? 1 : 4;
-    compare_lists(archive, stage, stage.app.mirstoe, &told_lists::order_list, builds);
-    compare_lists(archive, stage, stage.app.mirstos, &told_lists::schedule, builds);
-    compare_lists(archive, stage, stage.app.mirstov, &told_lists::valuation, builds);
-    compare_lists(archive, stage, stage.app.mirstoa, &told_lists::article_sheets, builds);
-    compare_lists(archive, stage, stage.app.mirston, &told_lists::customer_sheets, builds);
+    compare_lists(archive, stage, stage.app.mirstoe, &plain_lists::order_list, builds);
+    compare_lists(archive, stage, stage.app.mirstos, &plain_lists::schedule, builds);
+    compare_lists(archive, stage, stage.app.mirstov, &plain_lists::valuation, builds);
+    compare_lists(archive, stage, stage.app.mirstoa, &plain_lists::article_sheets, builds);
+    compare_lists(archive, stage, stage.app.mirston, &plain_lists::customer_sheets, builds);
     EXPECT_TRUE(stage.faults.events.empty()) << "a report wrote into a record file";
 }
 

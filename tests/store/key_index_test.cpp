@@ -13,10 +13,10 @@
 namespace vantora {
 namespace {
 
-/// The search told step by step, on keys in memory (from 1); what lies behind the keys is zero
+/// The search step by step, on keys in memory (from 1); what lies behind the keys is zero
 /// bytes.
-int told_search(const std::vector<std::string>& keys, int count, const std::string& typed,
-                bool by_prefix) {
+int plain_search(const std::vector<std::string>& keys, int count, const std::string& typed,
+                 bool by_prefix) {
     const std::string t = upper(trimmed(typed));
     int basso = 1;
     int alto = count + 1;
@@ -66,7 +66,7 @@ class key_index : public testing::Test {
 };
 
 /// Sound and damaged indexes, with counts of every kind.
-TEST_F(key_index, FindsWhatTheToldSearchFindsInFewReads) {
+TEST_F(key_index, FindsWhatThePlainSearchFindsInFewReads) {
     std::mt19937 random(11);
     for (int round = 0; round < 300; ++round) {
         std::vector<std::string> keys(random() % 40);
@@ -83,13 +83,13 @@ TEST_F(key_index, FindsWhatTheToldSearchFindsInFewReads) {
              {"a", " B ", "ab", "zz", "\xC8", "aaaa", "0", "", too_long.c_str()}) {
             counted.reads = 0;
             const int found = cerca_nominativo(names, count, wanted);
-            EXPECT_EQ(found, told_search(full(keys, 40), count, wanted, true)) << wanted;
+            EXPECT_EQ(found, plain_search(full(keys, 40), count, wanted, true)) << wanted;
             EXPECT_LE(static_cast<double>(counted.reads), allowed) << count;
         }
         const auto codes = write<rec_srb>(keys);
         for (const char* wanted : {"", "a", " B ", "ab", "aaaa"}) {
             EXPECT_EQ(cerca_codice_barre(codes, count, wanted),
-                      told_search(full(keys, 13), count, wanted, false))
+                      plain_search(full(keys, 13), count, wanted, false))
                 << wanted;
         }
     }

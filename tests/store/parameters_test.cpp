@@ -142,15 +142,6 @@ TEST_F(parameters_test, TheFirstStartOfACompanyMakesItsParameters) {
     EXPECT_EQ(record.colore_riga_pari, 16579315);
     EXPECT_EQ(record.vista_registro, 0);
     EXPECT_TRUE(std::filesystem::is_directory(folder.path() / "mirwin/PDF"));
-    for (const bool opens : {false, true}) {
-        std::filesystem::remove(own);
-        test::faulty_files faults(port);
-        faults.open_fails = [opens](auto&) { return !opens; };
-        faults.write_fails = [](auto&&...) { return true; };
-        EXPECT_EQ(load(faults).gnr.codice_iva_base.full(), "01");
-        load();
-        EXPECT_EQ(test::bytes_of(own), bytes(record)) << "made good by the next";
-    }
 }
 
 TEST_F(parameters_test, TheGeneralTemplateServesAsACompanysFirstParameters) {

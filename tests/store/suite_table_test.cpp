@@ -87,28 +87,6 @@ TEST(suite_table, ItemsThatShareTheirLineMoveAllThatFollows) {
     EXPECT_EQ(table.pagamenti[59], "s15 g30 l1");
 }
 
-TEST(suite_table, AFileCutInsideALineGivesTheBeginningOfTheWhole) {
-    auto lines = telling_lines();
-    for (auto& line : lines) {
-        if (line.starts_with("s3 ") || line.starts_with("s13 ")) line = "\"" + line + ", art.\"";
-    }
-    const std::string content = content_of(lines);
-    const auto begins = [](const auto& cut, const auto& whole) {
-        return std::equal(cut.begin(), cut.end(), whole.begin(), whole.begin() + long(cut.size()),
-                          [](auto& a, auto& b) { return b.starts_with(a); });
-    };
-    const tabella_suite whole = read(content);
-    for (std::size_t kept = 0; kept < content.size(); kept += 31) {
-        const tabella_suite cut = read(content.substr(0, kept));
-        EXPECT_TRUE(begins(cut.pagamenti, whole.pagamenti)) << kept;
-        EXPECT_TRUE(begins(cut.causali, whole.causali)) << kept;
-        EXPECT_TRUE(begins(cut.aspetti, whole.aspetti)) << kept;
-        EXPECT_LE(cut.vettori.size(), cut.aspetti.size()) << kept;
-        EXPECT_TRUE(begins(cut.iva.aliquota_iva, whole.iva.aliquota_iva)) << kept;
-        EXPECT_TRUE(begins(cut.iva.descrizione_iva, whole.iva.descrizione_iva)) << kept;
-    }
-}
-
 TEST(suite_table, VatEntriesReadAsTheListShowsThem) {
     tabella_iva iva;
     iva.aliquota_iva[4] = "22";

@@ -10,8 +10,8 @@ namespace vantora::test {
 
 /// The pages of a report, made step by step as a person would tell it, on the printer in twips or
 /// into the print file in millimetres. What the engine makes of its figures is held against it.
-struct told_report {
-    told_report(const parametri& by, ui::printer& on, bool into_file, foglio_report of, date today)
+struct plain_report {
+    plain_report(const parametri& by, ui::printer& on, bool into_file, foglio_report of, date today)
         : parameters(by),
           paper(on),
           in_file(into_file),

@@ -13,9 +13,9 @@ namespace vantora::test {
 /// The lists of the reports by the plainest procedure: one record a read, the sheets with all
 /// orders read anew for every article or customer. What can't be read stays as it was. Lives as
 /// long as the screen that it is compared with, whose fields it reads.
-class told_lists {
+class plain_lists {
  public:
-    told_lists(archivi& files, report_screen& screen, const parametri& parameters)
+    plain_lists(archivi& files, report_screen& screen, const parametri& parameters)
         : files_(files), screen_(screen), in_(parameters) {}
 
     grid_rows order_list() {
