@@ -67,9 +67,6 @@ struct document_stage : program_stage<ui::test::prepared_user> {
             } else if (const auto* box = std::get_if<ui::script::printed_box>(&one)) {
                 out << (box->filled ? "filled " : "box ") << box->x1 << ' ' << box->y1 << ' '
                     << box->x2 << ' ' << box->y2 << " ink " << box->ink << '\n';
-            } else if (const auto* picture = std::get_if<ui::script::printed_picture>(&one)) {
-                out << "picture " << picture->x << ' ' << picture->y << ' ' << picture->width << ' '
-                    << picture->height << '\n';
             }
         }
         return out.str();
