@@ -6,6 +6,18 @@
 
 namespace vantora::test {
 
+/// Five customers; the index has the deleted one (3), Bianchi (2), ROSSI MARIO (4), ROSSI SPA (1)
+/// and ZETA (5).
+struct five_customers : small_company {
+    five_customers() {
+        auto deleted = customer_named("*CESSATI SRL");
+        deleted.eliminato = 1;
+        customers({customer_named("ROSSI SPA"), customer_named("Bianchi"), deleted,
+                   customer_named("ROSSI MARIO"), customer_named("ZETA")});
+        table_file();
+    }
+};
+
 /// The screen of a new order's customer, and its pick list, over a company.
 struct customer_desk : company_stage {
     explicit customer_desk(const small_company& company) : company_stage(company) {

@@ -121,38 +121,11 @@ TEST_F(desk_test, FocusGoesNowhereHiddenDisabledOrUnshown) {
         {[&] { desk.tab(false); }, "a.+primo ", "a.primo"},
         {[&] { desk.tab(false); }, "a.-primo ", "a.bottone"},
         {[&] { desk.tab(true); }, "a.+primo ", "a.primo"},
+        // Hiding a screen makes no other one active.
+        {[&] { b->show(); }, "b.load a.-primo b.activate b.+primo ", "b.primo"},
+        {[&] { b->hide(); }, "b.-primo ", ""},
     });
-}
-
-TEST_F(desk_test, HidingKeepsContentUnloadingDropsIt) {
-    a->show();
-    a->primo.set_text("resta");
-    walk({{[&] { a->hide(); }, "a.-primo ", ""}});
-    EXPECT_EQ(desk.active(), nullptr) << "hiding makes no other screen active";
-    EXPECT_EQ(a->primo.text(), "resta");
-    desk.dispatch([&] { a->unload(); });
-    EXPECT_FALSE(a.loaded());
-    walk({{[&] { EXPECT_EQ(a->primo.text(), ""); }, "a.load ", ""}});
-}
-
-TEST_F(desk_test, AModalScreenBlocksItsCallerAndReturnsToIt) {
-    a->show();
-    bool came_back = false;
-    a->bottone.on_click = [&] {
-        b->show_modal();
-        came_back = true;
-    };
-    bench.user.actions = {[&] {
-        EXPECT_EQ(desk.modal(), &*b);
-        EXPECT_TRUE(desk.obstacle(a->primo).has_value());
-        EXPECT_TRUE(desk.obstacle(*a).has_value());
-        EXPECT_FALSE(came_back);
-        walk({{[&] { desk.dispatch([&] { b->unload(); }); }, "a.activate ", "a.bottone"}});
-    }};
-    desk.dispatch([&] { a->bottone.click(); });
-    EXPECT_TRUE(came_back);
-    EXPECT_EQ(desk.modal(), nullptr);
-    EXPECT_EQ(desk.active(), &*a);
+    EXPECT_EQ(desk.active(), nullptr);
 }
 
 /// Out of two questions, one inside the other, and out of work in which pending events run.
@@ -196,30 +169,6 @@ TEST_F(desk_test, ARunTimeErrorEndsTheProgramWithItsMessage) {
         EXPECT_TRUE(closed && fresh.desk.ended()->fatal);
         EXPECT_EQ(fresh.desk.ended()->message, message);
     }
-}
-
-TEST_F(desk_test, WaitingIsToldOnlyWhileNoBoxIsOpen) {
-    a->show();
-    bool done = false;
-    bench.user.actions = {
-        [&] {
-            EXPECT_TRUE(desk.waiting());
-            desk.message("Fatto", "Attenzione", icon::information);
-            done = true;
-        },
-        [&] {
-            EXPECT_FALSE(desk.waiting());
-            EXPECT_TRUE(desk.obstacle(a->primo).has_value());
-            EXPECT_FALSE(desk.answer_box(answer::yes)) << "it has no such button";
-            desk.answer_box(answer::ok);
-        },
-    };
-    desk.dispatch([&] { desk.wait_until([&] { return done; }); });
-    EXPECT_FALSE(desk.waiting());
-    EXPECT_FALSE(desk.ended().has_value());
-    bench.user.actions = {[&] { desk.dispatch([&] { desk.end_program(); }); }};
-    desk.dispatch([&] { desk.wait_until([] { return false; }); });
-    EXPECT_FALSE(desk.waiting()) << "nobody waits behind the end";
 }
 
 TEST_F(desk_test, AListMayBeEmptiedByTheFocusThatComesToIt) {

@@ -63,6 +63,8 @@ TEST(grid, HoldsWhatAPlainTableHolds) {
     one.set_columns({{"x", 1}, {"y", 1}, {"z", 1}});
     const std::string no_colour = std::to_string(white);
     table plain = {{"x", "y", "z", std::to_string(one.back_colour(0, 1))}};
+    int current = 0;
+    int top = 1;
     for (int step = 0; step < 20000; ++step) {
         const int row = static_cast<int>(random() % 70);
         const int col = static_cast<int>(random() % 4);
@@ -85,6 +87,14 @@ TEST(grid, HoldsWhatAPlainTableHolds) {
                 std::stable_sort(plain.begin() + 1, plain.end(),
                                  [](const auto& l, const auto& r) { return l[1] < r[1]; });
                 break;
+            case 3:
+                one.set_top_row(row);
+                top = row;
+                break;
+            case 4:
+                if (one.set_row(row - 5)) current = row - 5;
+                EXPECT_EQ(one.row(), current);
+                break;
             default: {
                 const bool inside = row < static_cast<int>(plain.size()) && col < 3;
                 // Now and then one cell takes over another's text, which lies in the same memory.
@@ -95,48 +105,15 @@ TEST(grid, HoldsWhatAPlainTableHolds) {
                         copies ? plain[0][1] : text;
             }
         }
+        const int last = static_cast<int>(plain.size()) - 1;
+        current = std::clamp(current, 0, last);
+        top = std::clamp(top, 1, std::max(last, 1));
+        ASSERT_TRUE(one.row() == current && one.top_row() == top) << step;
         if (step % 500 == 0) {
             ASSERT_EQ(content_of(one), plain) << step;
         }
     }
     EXPECT_EQ(content_of(one), plain);
-}
-
-TEST(grid, KeepsItsPositionsInside) {
-    grid one;
-    one.set_columns({{"a", 1}});
-    one.set_rows(100);
-    one.set_top_row(50);
-    EXPECT_EQ(one.top_row(), 50);
-    one.set_top_row(500);
-    EXPECT_EQ(one.top_row(), 99);
-    EXPECT_TRUE(one.set_row(99));
-    EXPECT_FALSE(one.set_row(100) || one.set_row(-1));
-    one.set_rows(10);
-    EXPECT_EQ(one.row(), 9);
-    EXPECT_EQ(one.top_row(), 9);
-    one.set_rows(0);
-    EXPECT_EQ(one.rows(), 1) << "the head stays";
-}
-
-TEST(grid, AClickOnTheHeadCountsWithTheCurrentRowAndEnterWithTheCurrentCell) {
-    grid one;
-    one.set_columns({{"a", 1}, {"b", 1}});
-    one.set_rows(5);
-    std::string clicks;
-    one.on_click = [&] {
-        clicks += std::to_string(one.row()) + "," + std::to_string(one.mouse_column()) + " ";
-    };
-    EXPECT_TRUE(one.click_cell(3, 1) && one.click_cell(0, 0));
-    EXPECT_FALSE(one.click_cell(5, 0) || one.click_cell(1, 2));
-    EXPECT_EQ(clicks, "3,1 3,0 ");
-    for (int i = 0; i < 5; ++i) one.press_key(key::up, {});
-    EXPECT_EQ(one.row(), 1) << "arrows stop below the head";
-    one.press_key(key::enter, '\r');
-    EXPECT_EQ(clicks, "3,1 3,0 1,1 ");
-    one.on_key_press = [](key_event& pressed) { pressed.swallow(); };
-    one.press_key(key::enter, '\r');
-    EXPECT_EQ(clicks, "3,1 3,0 1,1 ") << "a key that is swallowed has no effect";
 }
 
 }  // namespace

@@ -13,7 +13,7 @@ namespace {
 
 using nlohmann::json;
 
-/// A screen with a control of every kind, and events that block, fail and end.
+/// A screen with a control of every kind, and events that are noted, block, fail and end.
 class every_kind final : public form {
  public:
     explicit every_kind(ui::desk& on) : form(on, "prova", "Città"_cp) {
@@ -40,6 +40,20 @@ class every_kind final : public form {
         tendina.add_all({"x", "y"});
         barra.set_limits(1, 9);
         barra.set_value(1);
+        testo.on_change = [this] { note(testo.text()); };
+        for (auto& one : scelta) {
+            one.on_click = [this] {
+                note(std::to_string(scelta[0].on()) + (scelta[1].on() ? "1" : "0"));
+            };
+        }
+        elenco.on_click = [this] {
+            note(std::to_string(elenco.row()) + "," + std::to_string(elenco.mouse_column()));
+        };
+        lista.on_click = [this] { note(std::to_string(lista.chosen())); };
+        tendina.on_click = [this] { note(std::to_string(tendina.chosen())); };
+        barra.on_change = [this] { note(std::to_string(barra.value())); };
+        data.on_change = [this] { note(data.text()); };
+        data.on_close_up = [this] { note("closed"); };
         bottone[0].on_click = [this] {
             const bool yes = desk().ask("Sicuro?", "Domanda", icon::question);
             scritta.set_text(yes ? "sì"_cp : "no"_cp);
@@ -62,6 +76,7 @@ class every_kind final : public form {
         };
         figura.on_click = [this] { scritta.set_text("via"); };
     }
+    void note(const std::string& what) { scritta.set_text(scritta.text() + " " + what); }
 
     text_box testo;
     label scritta;
@@ -110,77 +125,63 @@ TEST(script, RepliesTellScreenAndFocus) {
 }
 
 TEST(script, UsersCommandsDoWhatAUserDoes) {
-    const struct {
-        std::vector<std::string> commands;
-        const char* control;
-        const char* field;
-        json expected;
-    } cases[] = {
-        {{"set prova.testo \"così\\n\\\"x\\\"\""}, "testo", "text", "così\n\"x\""},
-        {{"set prova.testo \"ab\"", "type prova.testo \"cé €\""}, "testo", "text", "abcé €"},
-        {{"type prova.testo \"ab\"", "key prova.testo Backspace"}, "testo", "text", "a"},
-        {{"key prova.testo z", "key prova.testo Enter", "key prova.testo F1"},
-         "testo",
-         "text",
-         "z"},
-        {{"click prova.spunta"}, "spunta", "on", true},
-        {{"click prova.scelta(1)"}, "scelta(1)", "on", true},
-        {{"click prova.scelta(1)"}, "scelta(0)", "on", false},
-        {{"pick prova.lista 1"}, "lista", "text", "a"},
-        {{"pick prova.tendina 0", "key prova.tendina Down"}, "tendina", "index", 1},
-        {{"scroll prova.barra 9"}, "barra", "value", 9},
-        {{"date prova.data \"03/02/2024\""}, "data", "text", "03/02/2024"},
-        {{"cell prova.elenco 2 1", "key prova.elenco Up"}, "elenco", "row", 1},
-        {{"cell prova.elenco 2 1"}, "elenco", "col", 1},
+    const std::pair<std::vector<std::string>, std::string> cases[] = {
+        {{"set prova.testo \"così\\n\\\"x\\\"\"", "set prova.testo \"così\\n\\\"x\\\"\""},
+         " così\n\"x\""},
+        {{"set prova.testo \"a\"", "type prova.testo \"é€\""}, " a aé aé€"},
+        {{"key prova.testo z", "key prova.testo Enter", "key prova.testo F1"}, " z"},
+        {{"type prova.testo \"ab\"", "key prova.testo Backspace"}, " a ab a"},
+        {{"click prova.scelta(1)", "click prova.scelta(1)", "key prova.scelta(1) Down",
+          "key prova.scelta(1) Up"},
+         " 01 10"},
+        {{"pick prova.lista 1", "pick prova.lista 1", "key prova.lista Down"}, " 1 1"},
+        {{"pick prova.tendina 0", "key prova.tendina Down", "key prova.tendina Up"}, " 0 1 0"},
+        {{"scroll prova.barra 9", "scroll prova.barra 9", "key prova.barra Down",
+          "key prova.barra Up"},
+         " 9 8"},
+        {{"date prova.data \"29/02/2024\"", "date prova.data \"29/02/2024\""},
+         " 29/02/2024 closed closed"},
+        // A click on the head counts with the current row, arrows stop below it.
+        {{"cell prova.elenco 2 1", "cell prova.elenco 0 0", "key prova.elenco Up",
+          "key prova.elenco Up", "key prova.elenco Enter"},
+         " 2,1 2,0 1,1"},
     };
-    for (const auto& one : cases) {
-        auto commands = one.commands;
-        commands.push_back(std::string("get prova.") + one.control);
-        EXPECT_EQ(value_of(commands)[one.field], one.expected) << commands[0];
+    for (auto [commands, notes] : cases) {
+        commands.emplace_back("get prova.scritta");
+        EXPECT_EQ(value_of(commands)["text"], "perché" + notes);
     }
+    EXPECT_EQ(value_of({"click prova.spunta", "get prova.spunta"})["on"], true);
     EXPECT_EQ(run({"focus prova.testo", "key prova.testo Tab"})[1]["focus"], "bottone(0)");
 }
 
 TEST(script, WhatAUserCantDoIsRefusedWithoutEffect) {
-    const char* commands[] = {"click prova.niente",
-                              "click prova",
-                              "click",
-                              "click prova.elenco",
-                              "click prova.bottone(0x",
-                              "cell prova.elenco 4 0",
-                              "cell prova.elenco -1 0",
-                              "cell prova.testo 1 1",
-                              "set prova.scritta \"x\"",
-                              "set prova.testo",
-                              "set prova.testo \"aperta",
-                              "pick prova.lista 2",
-                              "scroll prova.barra 10",
-                              "scroll prova.barra 99999999999",
-                              "date prova.data \"30/02/2024\"",
-                              "focus prova.scritta",
-                              "key prova.testo Invio",
-                              "close altro",
-                              "answer forse",
-                              "vola",
-                              "FOCUS prova.spunta",
-                              "clock \"ieri\"",
-                              "printer copies=0",
-                              "printer orientation=3",
-                              "launch forse",
-                              "shot \"x.png\"",
-                              "items prova.testo",
-                              "colors prova.lista",
-                              "rows prova.elenco uno",
-                              "\xFF\xFE prova",
-                              "set prova.testo \"\xFF\"",
-                              "\"set\" ["};
+    const std::pair<std::string, std::vector<std::string>> refused[] = {
+        {"click", {"prova.niente", "prova", "", "prova.elenco", "prova.bottone(0x"}},
+        {"cell", {"prova.elenco 4 0", "prova.elenco -1 0", "prova.elenco 1 2", "prova.testo 1 1"}},
+        {"set",
+         {"prova.scritta \"x\"", "prova.testo", "prova.testo \"aperta", "prova.testo \"\xFF\""}},
+        {"pick", {"prova.lista 2", "prova.lista -1"}},
+        {"scroll", {"prova.barra 10", "prova.barra 99999999999"}},
+        {"date", {"prova.data \"30/02/2024\"", "prova.data \"29/02/2023\""}},
+        {"printer", {"copies=0", "orientation=3"}},
+        {"",
+         {"focus prova.scritta", "key prova.testo Invio", "close altro", "answer forse",
+          "launch forse"}},
+        {"",
+         {"vola", "FOCUS prova.spunta", "clock \"ieri\"", "shot \"x.png\"", "\xFF\xFE prova",
+          "\"set\" ["}},
+        {"", {"items prova.testo", "colors prova.lista", "rows prova.elenco uno"}},
+    };
     const json untouched = value_of({"controls prova"});
-    for (const char* command : commands) {
-        const auto replies = run({command, "controls prova"});
-        ASSERT_EQ(replies.size(), 2U) << command;
-        EXPECT_EQ(replies[0]["ok"], false) << command;
-        EXPECT_TRUE(replies[0].value("error", json()).is_string()) << command;
-        EXPECT_EQ(replies[1]["value"], untouched) << command;
+    for (const auto& [verb, rests] : refused) {
+        for (const std::string& rest : rests) {
+            const std::string command = verb.empty() ? rest : verb + " " + rest;
+            const auto replies = run({command, "controls prova"});
+            ASSERT_EQ(replies.size(), 2U) << command;
+            EXPECT_EQ(replies[0]["ok"], false) << command;
+            EXPECT_TRUE(replies[0].value("error", json()).is_string()) << command;
+            EXPECT_EQ(replies[1]["value"], untouched) << command;
+        }
     }
 }
 
@@ -245,12 +246,18 @@ TEST(script, ABoxBlocksItsCommandUntilItIsAnswered) {
 }
 
 TEST(script, AWaitingLoopLetsTheUserWork) {
-    const auto replies = run({"click prova.bottone(3)", "set prova.testo \"intanto\"",
-                              "click prova.figura", "get prova.testo"});
+    const auto replies =
+        run({"click prova.bottone(3)", "set prova.testo \"intanto\"", "click prova.bottone(0)",
+             "focus prova.testo", "answer yes", "click prova.figura", "get prova.testo"});
     EXPECT_EQ(replies[0]["waiting"], true);
     EXPECT_EQ(replies[1]["ok"], true);
-    EXPECT_FALSE(replies[2].contains("waiting"));
-    EXPECT_EQ(replies[3]["value"]["text"], "passata");
+    EXPECT_FALSE(replies[2].contains("waiting")) << "the box waits, not the program";
+    EXPECT_EQ(replies[3]["ok"], false);
+    EXPECT_EQ(replies[4]["waiting"], true);
+    EXPECT_FALSE(replies[5].contains("waiting"));
+    EXPECT_EQ(replies[6]["value"]["text"], "passata");
+    const json end = run({"click prova.bottone(3)", "click prova.bottone(1)"})[1];
+    EXPECT_TRUE(end["ended"] == "exit" && !end.contains("waiting"));
 }
 
 TEST(script, PrintsAndLaunchesAreKept) {
