@@ -1,6 +1,4 @@
-#include <QDialog>
 #include <QFile>
-#include <QLabel>
 #include <QRegularExpression>
 #include <set>
 
@@ -59,24 +57,6 @@ TEST_F(keys, ManualAndReadmeTellTheKeysThatTheWindowsHave) {
         ASSERT_GT(readme.size(), 20U);
         for (const std::string& key : readme) EXPECT_TRUE(windows.contains(key)) << key;
     }});
-}
-
-TEST_F(keys, TheOverviewListsTheKeysOfItsWindow) {
-    QStringList texts;
-    run({[&] {
-        QTimer::singleShot(0, [&] {
-            QWidget* dialog = QApplication::activeModalWidget();
-            ASSERT_TRUE(dialog);
-            EXPECT_EQ(dialog->objectName(), "tasti");
-            for (const QLabel* one : dialog->findChildren<QLabel*>()) texts << one->text();
-            static_cast<QDialog*>(dialog)->reject();
-        });
-        QTest::keyClick(bench.front.front_window(), Qt::Key_Question, Qt::ControlModifier);
-        bench.front.front_window()->activateWindow();
-    }});
-    EXPECT_TRUE(texts.contains("Registra un nuovo ordine"));
-    EXPECT_TRUE(texts.contains("Ctrl+N"));
-    EXPECT_TRUE(texts.contains("Trova nell'elenco"));
 }
 
 }  // namespace

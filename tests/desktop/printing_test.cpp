@@ -59,30 +59,6 @@ TEST_F(printing, TextsLinesAndPagesStandWhereTheyWerePut) {
     }
 }
 
-TEST_F(printing, APictureHasItsPointsAndNoSeams) {
-    system_printer paper([&](const QString&) { return file("logo.pdf"); }, {});
-    constexpr double side = 15 / 56.6929;
-    constexpr int points = 60;
-    bitmap image{points, points, std::vector<colour>(points * points, 0x0000FF)};
-    image.points[10 * points + 10] = transparent_grey;
-    paper.picture(20.5, 30.25, side, std::make_shared<const bitmap>(std::move(image)));
-    paper.end_job();
-
-    const QImage logo = printed("logo.pdf").page(1);
-    constexpr double end = points * side;
-    int others = 0;
-    for (double y = 30.25 + 0.2; y < 30.25 + end - 0.2; y += 0.1) {
-        for (double x = 20.5 + 0.2; x < 20.5 + end - 0.2; x += 0.1) {
-            others += printed_pdf::at(logo, x, y) != QColor("red") ? 1 : 0;
-        }
-    }
-    EXPECT_GE(others, 4) << "the transparent point";
-    EXPECT_LE(others, 36) << "one seam alone would be 150";
-    for (const double beside : {20.2, 20.5 + end + 0.3}) {
-        EXPECT_EQ(printed_pdf::at(logo, beside, 35), QColor("white"));
-    }
-}
-
 TEST_F(printing, EachJobAsksForItsFileAndADroppedOneLeavesNothing) {
     QStringList answers{file("uno.pdf"), QString(), "/dev/null/no.pdf", file("tre.pdf")};
     QStringList asked;
