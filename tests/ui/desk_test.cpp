@@ -155,22 +155,6 @@ TEST_F(desk_test, TheProgramsEndUnwindsWhateverRuns) {
     }
 }
 
-TEST_F(desk_test, ARunTimeErrorEndsTheProgramWithItsMessage) {
-    const std::pair<std::function<void()>, const char*> cases[] = {
-        {[] { throw type_error(); }, "Errore di run-time '13': Tipo non corrispondente"},
-        {[] { throw std::logic_error("altro"); }, "altro"},
-        {[] { throw 1; }, "Errore imprevisto"},
-    };
-    for (const auto& [fails, message] : cases) {
-        test::bench_desk fresh;
-        bool closed = false;
-        fresh.desk.at_end = [&] { closed = true; };
-        fresh.desk.dispatch(fails);
-        EXPECT_TRUE(closed && fresh.desk.ended()->fatal);
-        EXPECT_EQ(fresh.desk.ended()->message, message);
-    }
-}
-
 TEST_F(desk_test, AListMayBeEmptiedByTheFocusThatComesToIt) {
     a->show();
     a->lista.set_visible(true);

@@ -13,11 +13,20 @@ namespace {
 
 using row = std::vector<std::string>;
 
+/// The letters of all texts, and how a search reads them.
+const std::string letters = from_utf8("abAB1 àÀñ");
+constexpr const char* read_as = "abab1 aan";
+
+std::string as_read(std::string text) {
+    for (char& one : text) one = read_as[letters.find(one)];
+    return text;
+}
+
 std::vector<int> plain_search(const std::vector<row>& rows, const std::string& wanted) {
     std::vector<int> found;
     for (std::size_t i = 0; i < rows.size() && !wanted.empty(); ++i) {
         const auto holds = [&](const std::string& cell) {
-            return upper(cell).find(upper(wanted)) != std::string::npos;
+            return as_read(cell).find(as_read(wanted)) != std::string::npos;
         };
         if (std::ranges::any_of(rows[i], holds)) found.push_back(static_cast<int>(i));
     }
@@ -28,7 +37,7 @@ TEST(ListSearch, FindsTheRowsThatAPlainSearchFinds) {
     std::mt19937 random(7);
     const auto text = [&](std::size_t longest) {
         std::string made(random() % (longest + 1), 'a');
-        for (char& one : made) one = "abAB1 "[random() % 6];
+        for (char& one : made) one = letters[random() % letters.size()];
         return made;
     };
     list_search texts;
@@ -43,21 +52,6 @@ TEST(ListSearch, FindsTheRowsThatAPlainSearchFinds) {
         ASSERT_EQ(texts.rows(), static_cast<int>(rows.size()));
         const std::string wanted = text(4);
         ASSERT_EQ(texts.rows_with(wanted), plain_search(rows, wanted)) << wanted;
-    }
-}
-
-TEST(ListSearch, CaseAccentsAndCellsThatMeetDontMatter) {
-    list_search texts;
-    for (const char* cell : {"Città di Castello", "NIÑO", "ab"}) texts.add_cell(from_utf8(cell));
-    texts.add_cell("cd");
-    texts.end_row();
-    const struct {
-        const char* wanted;
-        bool found;
-    } cases[] = {{"citta", true}, {"CITTÀ", true}, {"nino", true}, {"bc", false},
-                 {"o ", false},   {"", false},     {"ÀDI", false}, {"cd", true}};
-    for (const auto& one : cases) {
-        EXPECT_EQ(texts.rows_with(from_utf8(one.wanted)).size(), one.found) << one.wanted;
     }
 }
 

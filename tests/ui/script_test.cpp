@@ -60,6 +60,7 @@ class every_kind final : public form {
         };
         bottone[1].on_click = [this] { desk().end_program(); };
         bottone[2].on_click = [] { throw overflow_error(); };
+        scritta.on_click = [] { throw 1; };
         bottone[3].on_click = [this] {
             desk().wait_until([this] { return scritta.text() == "via"; });
             testo.set_text("passata");
@@ -287,6 +288,7 @@ TEST(script, TheEndIsToldAndNothingIsAcceptedAfterIt) {
     EXPECT_EQ(replies[0]["ended"], "fatal");
     EXPECT_EQ(replies[0]["fatal"], "Errore di run-time '6': Overflow");
     EXPECT_EQ(replies[1]["ok"], false);
+    EXPECT_EQ(run({"click prova.scritta"})[0]["fatal"], "Errore imprevisto");
     // The input may end while the program waits for an answer.
     EXPECT_EQ(run({"click prova.bottone(0)"}).size(), 1U);
     EXPECT_EQ(run({"click prova.bottone(0)", "quit", "get prova.testo"}).size(), 2U);
