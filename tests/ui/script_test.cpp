@@ -187,12 +187,6 @@ TEST(script, WhatAUserCantDoIsRefusedWithoutEffect) {
 }
 
 TEST(script, QueriesTellWhatIsThere) {
-    json controls = value_of({"controls prova"});
-    for (json& state : controls) {
-        EXPECT_TRUE(state["visible"] == true && state["enabled"] == true) << state;
-        state.erase("visible");
-        state.erase("enabled");
-    }
     const json button = {{"kind", "button"}, {"text", ""}};
     json expected = json::parse(R"json({
         "testo": {"kind": "textbox", "text": ""},
@@ -208,7 +202,8 @@ TEST(script, QueriesTellWhatIsThere) {
         "avanzamento": {"kind": "progressbar", "min": 0, "max": 100, "value": 0},
         "data": {"kind": "datepicker", "text": "01/01/2000"}})json");
     for (int i = 0; i < 5; ++i) expected["bottone(" + std::to_string(i) + ")"] = button;
-    EXPECT_EQ(controls, expected);
+    for (json& state : expected) state.update({{"visible", true}, {"enabled", true}});
+    EXPECT_EQ(value_of({"controls prova"}), expected);
     const std::pair<const char*, const char*> queries[] = {
         {"items prova.lista", R"(["b", "a"])"},
         {"rows prova.elenco 0 1", R"([["uno", "due"], ["à", ""]])"},
@@ -234,14 +229,11 @@ TEST(script, ABoxBlocksItsCommandUntilItIsAnswered) {
     EXPECT_FALSE(replies[4].contains("box"));
     EXPECT_EQ(replies[5]["value"]["text"], "sì");
     // An answer may come before its box; one that doesn't fit waits for another.
-    for (const char* answer : {"no", "yes"}) {
-        const auto kept =
-            run({"answer " + std::string(answer), "click prova.bottone(0)", "get prova.scritta"});
-        box["answer"] = answer;
-        EXPECT_EQ(kept[1]["boxes"], json::array({box}));
-        EXPECT_FALSE(kept[1].contains("box"));
-        EXPECT_EQ(kept[2]["value"]["text"], *answer == 'n' ? "no" : "sì");
-    }
+    const auto kept = run({"answer no", "click prova.bottone(0)", "get prova.scritta"});
+    box["answer"] = "no";
+    EXPECT_EQ(kept[1]["boxes"], json::array({box}));
+    EXPECT_FALSE(kept[1].contains("box"));
+    EXPECT_EQ(kept[2]["value"]["text"], "no");
     const auto waits = run({"answer ok", "answer yes", "click prova.bottone(0)"});
     EXPECT_TRUE(waits[2].contains("box") && !waits[2].contains("boxes"));
 }
