@@ -116,9 +116,6 @@ TEST(print_file_reading, TakesOtherWritersFormsAndPassesOverWhatIsOdd) {
     const std::string end = " 9 \r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n";
     const std::string good = text_with();
     const std::string x = "|3 1 2 0 0 9 0 x Arial 0 0";
-    const auto among_good = [&](std::size_t line, const char* content) {
-        return mark + good + text_with(line, content) + good + good + end;
-    };
     const std::pair<std::string, std::string> cases[] = {
         {" #FILEFORMAT=KLP-RTO \r\n" + good + end, "upright\n-" + x},
         {"#FILEFORMAT=KLP-RTO\n" + text_with(1, "3", "\n") + "9\n\n\n\n\n\n\n\n\n\n\n",
@@ -129,20 +126,25 @@ TEST(print_file_reading, TakesOtherWritersFormsAndPassesOverWhatIsOdd) {
         {mark + text_with(8, "one\nother ") + end,
          "upright\n-|3 1 2 0 0 9 0 one\nother  Arial 0 0"},
         {mark + text_with(8, "one\rother") + end, "upright\n-|3 1 2 0 0 9 0 one\rother Arial 0 0"},
-        {among_good(1, "4"), "upright, 1 odd: no kind in line 13\n-" + x + x + x},
-        {among_good(1, "2.5"), "upright, 1 odd: no kind in line 13\n-" + x + x + x},
-        {among_good(11, "- "), "upright, 1 odd: no number in line 23\n-" + x + x + x},
-        {among_good(2, "100001"),
-         "upright, 1 odd: too large in line 14\n-" + x + "|3 100000 2 0 0 9 0 x Arial 0 0" + x + x},
-        {among_good(6, "-1E300"), "upright, 1 odd: too large in line 18\n-" + x +
-                                      "|3 1 2 0 0 -100000 0 x Arial 0 0" + x + x},
-        {among_good(7, "1E300"), "upright\n-" + x + "|3 1 2 0 0 9 1e+300 x Arial 0 0" + x + x},
+        {mark + text_with(7, "1E300") + end, "upright\n-|3 1 2 0 0 9 1e+300 x Arial 0 0"},
         {"", "no mark in line 1"},
         {"#FILEFORMAT=KLP-RTO-O-O\r\n", "no mark in line 1"},
         {"#FILEFORMAT=KLP-RTO", "cut in line 1"},
         {mark + good + text_with(1, "noise") + text_with(1, "noise"), "no kind in line 13"},
     };
     for (const auto& [content, expected] : cases) EXPECT_EQ(read(content), expected);
+
+    // A line with odd content among good records, and what is left of its own one.
+    const std::tuple<std::size_t, const char*, const char*, const char*> odd[] = {
+        {1, "4", "no kind in line 13", ""},
+        {1, "2.5", "no kind in line 13", ""},
+        {11, "- ", "no number in line 23", ""},
+        {2, "100001", "too large in line 14", "|3 100000 2 0 0 9 0 x Arial 0 0"},
+        {6, "-1E300", "too large in line 18", "|3 1 2 0 0 -100000 0 x Arial 0 0"}};
+    for (const auto& [line, content, fault, left] : odd) {
+        EXPECT_EQ(read(mark + good + text_with(line, content) + good + end),
+                  std::string("upright, 1 odd: ") + fault + "\n-" + x + left + x);
+    }
 }
 
 }  // namespace

@@ -13,7 +13,7 @@ namespace {
 
 using strings = std::vector<std::string>;
 
-/// A text of its own in every place, of which the fields from 17 on are told, with blanks between.
+/// A text of its own in every place, and what all the fields print of them, with blanks between.
 std::string fields_of(tipo_documento kind) {
     document_stage order;
     for (std::size_t i = 1; i <= 20; ++i) {
@@ -38,21 +38,17 @@ std::string fields_of(tipo_documento kind) {
     for (std::size_t n = 1; n < forma_di(kind).campi.size(); ++n) {
         order.tables.tabella_layout[n].posizione = "010020";
     }
-    const strings texts = order.texts(order.print(kind).at(0));
     std::string all;
-    for (std::size_t n = 1; n <= texts.size(); ++n) {
-        const std::string& text = texts[n - 1];
-        if (n > 16) {
-            all += (text.empty() ? "-" : text) + " ";
-        } else {
-            EXPECT_EQ(text, "ditta" + std::to_string(n) + "\t");
-        }
+    for (const std::string& text : order.texts(order.print(kind).at(0))) {
+        all += (text.empty() ? "-" : text) + " ";
     }
     return all;
 }
 
 TEST(printed_document, EveryFieldHasItsSource) {
-    const std::string common =
+    std::string common;
+    for (int n = 1; n <= 16; ++n) common += "ditta" + std::to_string(n) + "\t ";
+    common +=
         "- T2_0 T2_1 T2_2 T2_3 T2_4 IT01234567890 T2_5 T2_8 T2_9 T2_10 T2_11 T2_12 T2_13 T2_14 "
         "T2_15 T3_0 T3_1 1 ";
     EXPECT_EQ(fields_of(tipo_documento::ordine),

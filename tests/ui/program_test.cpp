@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include <cstdio>
+#include <cstdlib>
 #include <fstream>
 #include <nlohmann/json.hpp>
 
@@ -21,16 +21,13 @@ struct outcome {
 outcome run(const std::string& arguments, const std::vector<std::string>& commands) {
     test::scratch_folder folder;
     const auto script = folder.path() / "comandi";
+    const auto output = folder.path() / "risposte";
     for (std::ofstream out(script); const auto& command : commands) out << command << '\n';
-    const std::string line =
-        std::string(SCRIPT_PROGRAM) + " " + arguments + " <" + script.string() + " 2>/dev/null";
+    const std::string line = std::string(SCRIPT_PROGRAM) + " " + arguments + " <" +
+                             script.string() + " >" + output.string() + " 2>/dev/null";
     outcome result;
-    std::FILE* pipe = ::popen(line.c_str(), "r");
-    std::string output;
-    char part[4096];
-    while (const std::size_t got = std::fread(part, 1, sizeof part, pipe)) output.append(part, got);
-    result.exit_code = ::pclose(pipe) >> 8;
-    std::stringstream lines(output);
+    result.exit_code = std::system(line.c_str()) >> 8;
+    std::ifstream lines(output);
     for (std::string reply; std::getline(lines, reply);)
         result.replies.push_back(json::parse(reply));
     return result;
