@@ -228,7 +228,12 @@ TEST_F(order_window, AnOrderIsLeftWhileItsNewTotalsStillWaitToBeShown) {
              // What the totals need is laid out by a later event, when the order is gone.
              press(Qt::Key_Q, Qt::ControlModifier);
          },
-         [&] { EXPECT_EQ(front(), "mirorc"); }});
+         [&] {
+             EXPECT_EQ(front(), "mirorc");
+             for (const QWidget* window : QApplication::topLevelWidgets()) {
+                 EXPECT_NE(window->objectName(), "mirorcs") << "the window is left behind";
+             }
+         }});
 }
 
 }  // namespace
