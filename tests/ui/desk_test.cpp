@@ -2,7 +2,6 @@
 
 #include "bench_desk.h"
 #include "ui/controls.h"
-#include "ui/errors.h"
 #include "ui/screen.h"
 
 namespace vantora::ui {
@@ -17,8 +16,6 @@ class noting_form : public form {
         add("secondo", secondo);
         add("scritta", scritta);
         add("bottone", bottone);
-        add("lista", lista);
-        lista.set_visible(false);
         for (text_box* box : {&primo, &secondo}) {
             box->on_focus = [this, box] { note("+" + box->name()); };
             box->on_blur = [this, box] { note("-" + box->name()); };
@@ -29,7 +26,6 @@ class noting_form : public form {
     text_box secondo;
     label scritta;
     button bottone;
-    list_box lista;
     std::function<void()> when_activated;
 
  protected:
@@ -48,12 +44,8 @@ class noting_form : public form {
 class desk_test : public testing::Test {
  protected:
     desk_test() {
-        for (auto* place : {&a, &b}) {
-            const char* name = place == &a ? "a." : "b.";
-            place->made_by(bench.desk, [this, name] {
-                return std::make_unique<noting_form>(bench.desk, name, notes);
-            });
-        }
+        a.made_by(desk, [this] { return std::make_unique<noting_form>(desk, "a.", notes); });
+        b.made_by(desk, [this] { return std::make_unique<noting_form>(desk, "b.", notes); });
     }
 
     struct step {
@@ -153,16 +145,6 @@ TEST_F(desk_test, TheProgramsEndUnwindsWhateverRuns) {
         fresh.desk.dispatch([&] { ran_on = true; });
         EXPECT_FALSE(ran_on) << "nothing runs after the end";
     }
-}
-
-TEST_F(desk_test, AListMayBeEmptiedByTheFocusThatComesToIt) {
-    a->show();
-    a->lista.set_visible(true);
-    a->lista.add_all({"a", "b"});
-    a->lista.on_focus = [&] { a->lista.clear(); };
-    a->lista.on_click = [] { ADD_FAILURE() << "there is no entry any more"; };
-    EXPECT_FALSE(a->lista.pick(1));
-    EXPECT_EQ(a->lista.chosen(), -1);
 }
 
 }  // namespace
