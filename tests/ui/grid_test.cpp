@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <random>
+#include <sstream>
 
 namespace vantora::ui {
 namespace {
@@ -21,39 +22,38 @@ table content_of(const grid& shown) {
     return all;
 }
 
-/// A grid of one column with the texts below its head.
-std::vector<std::string> sorted(const std::vector<std::string>& texts, sort_order by) {
+/// The texts below the head of a grid of one column, given and told with bars between.
+std::string sorted(const std::string& texts, sort_order by) {
     grid one;
     one.set_columns({{"capo", 1}});
-    one.set_rows(static_cast<int>(texts.size()) + 1);
-    for (std::size_t i = 0; i < texts.size(); ++i)
-        one.set_text(static_cast<int>(i) + 1, 0, texts[i]);
+    std::istringstream given(texts);
+    for (std::string text; std::getline(given, text, '|');) {
+        one.set_rows(one.rows() + 1);
+        one.set_text(one.rows() - 1, 0, text);
+    }
     one.sort(0, by);
     EXPECT_EQ(one.text(0, 0), "capo");
-    std::vector<std::string> result;
-    for (int row = 1; row < one.rows(); ++row) result.emplace_back(one.text(row, 0));
+    std::string result;
+    for (int row = 1; row < one.rows(); ++row) result.append(one.text(row, 0)).append("|");
     return result;
 }
 
 TEST(grid, SortsAsTheSystemsListsDo) {
-    using texts = std::vector<std::string>;
     const auto generic = sort_order::generic_ascending;
     const auto numeric = sort_order::numeric_ascending;
-    const std::tuple<sort_order, texts, texts> cases[] = {
-        {generic, {"10", "9", "-1", "2.5"}, {"-1", "2.5", "9", "10"}},
-        {generic, {"b", "A", "a", "", "C"}, {"", "A", "a", "b", "C"}},
-        {generic, {"rossi", "12", "", "Bianchi"}, {"", "12", "Bianchi", "rossi"}},
-        {generic, {"1.0", "1", "01"}, {"1.0", "1", "01"}},  // equal keys stay
-        {numeric,
-         {"20240105", "", "20231224x", "20240101"},
-         {"", "20231224x", "20240101", "20240105"}},
-        {numeric, {"-3", "abc", "", "0", ""}, {"", "", "-3", "abc", "0"}},
+    const std::tuple<sort_order, const char*, const char*> cases[] = {
+        {generic, "10|9|-1|2.5|", "-1|2.5|9|10|"},
+        {generic, "b|A|a||C|", "|A|a|b|C|"},
+        {generic, "rossi|12||Bianchi|", "|12|Bianchi|rossi|"},
+        {generic, "1.0|1|01|", "1.0|1|01|"},  // equal keys stay
+        {numeric, "20240105||20231224x|20240101|", "|20231224x|20240101|20240105|"},
+        {numeric, "-3|abc||0||", "||-3|abc|0|"},
     };
     for (const auto& [by, given, expected] : cases) EXPECT_EQ(sorted(given, by), expected);
     // No order holds for all of these pairs; the rows must still all be there.
-    auto mixed = sorted({"2", "10", "1a", "1b", "3", "2", "11"}, generic);
+    std::string mixed = sorted("2|10|1a|1b|3|2|11|", generic);
     std::ranges::sort(mixed);
-    EXPECT_EQ(mixed, (texts{"10", "11", "1a", "1b", "2", "2", "3"}));
+    EXPECT_EQ(mixed, "011111223ab|||||||");
 }
 
 /// Random work on a grid against the plainest table that could be.

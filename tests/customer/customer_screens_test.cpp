@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "customer/customer_desk.h"
+#include "customer/mirdata.h"
 #include "customer/mirorcm.h"
 #include "customer/shipping_data.h"
 
@@ -199,6 +200,23 @@ TEST_F(mirorcm_screen, ShippingDataOfAnOrdersRowsGoOnTheHead) {
     std::string shown;
     for (const int field : {8, 9, 10, 11, 12, 17, 18, 19}) shown += head.Text2[field].text() + " ";
     EXPECT_EQ(shown, "uno due tre uno due uno due tre ");
+}
+
+using mirdata_screen = a_customer_desk;
+
+/// There is no way out without a date.
+TEST_F(mirdata_screen, ProposesADateOfTheCalendarAndGivesItByEnter) {
+    desk.provide(app.mirdata);
+    app.data_riserva = "01/01/2020";
+    for (const auto& [proposed, chosen] : {std::pair{"03/04/2025", "03/04/2025"},
+                                           {"", "01/01/2020"},
+                                           {"31/02/2025", "01/01/2020"}}) {
+        app.data_proposta = proposed;
+        desk.front.actions = {[&] { app.mirdata->nuovadata.press_key(ui::key::enter, '\r'); }};
+        desk.desk.dispatch([&] { app.mirdata->show_modal(); });
+        EXPECT_FALSE(app.mirdata.loaded());
+        EXPECT_EQ(app.data_scelta, chosen);
+    }
 }
 
 }  // namespace
