@@ -73,6 +73,7 @@ std::vector<const told_key*> keys_of(const QWidget& window) {
 namespace {
 
 constexpr int single_column_rows = 14;
+constexpr int longest_line = 60;  ///< characters; what is longer would need a window too wide
 
 QWidget* key_table(const std::vector<const told_key*>& keys, QWidget* parent) {
     auto* table = new QWidget(parent);
@@ -86,6 +87,7 @@ QWidget* key_table(const std::vector<const told_key*>& keys, QWidget* parent) {
         auto* key = new QLabel(one->native_keys(), table);
         key->setProperty("role", "key");
         auto* what = new QLabel(one->what(), table);
+        what->setWordWrap(one->what().size() > longest_line);
         const int column = at / rows_a_column * 2;
         const int row = at % rows_a_column;
         cells->addWidget(key, row, column, Qt::AlignLeft | Qt::AlignVCenter);
