@@ -1,9 +1,11 @@
 #include <QFile>
+#include <QLineEdit>
 #include <QRegularExpression>
 #include <set>
 
 #include "program_window.h"
 #include "ui/desktop/keys.h"
+#include "ui/desktop/manual.h"
 
 namespace vantora::ui::desktop {
 namespace {
@@ -56,6 +58,17 @@ TEST_F(keys, ManualAndReadmeTellTheKeysThatTheWindowsHave) {
         }
         ASSERT_GT(readme.size(), 20U);
         for (const std::string& key : readme) EXPECT_TRUE(windows.contains(key)) << key;
+    }});
+}
+
+TEST_F(keys, F1FindsAnArticleInADescriptionAndElseOpensTheManual) {
+    run({[&] {
+        const QKeyEvent f1(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier);
+        QLineEdit cell;
+        EXPECT_TRUE(asks_for_manual(f1, &cell) && asks_for_manual(f1, nullptr));
+        EXPECT_FALSE(asks_for_manual({QEvent::KeyPress, Qt::Key_F2, Qt::NoModifier}, &cell));
+        cell.setProperty("column", "ds");
+        EXPECT_FALSE(asks_for_manual(f1, &cell));
     }});
 }
 
