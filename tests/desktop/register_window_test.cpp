@@ -173,5 +173,20 @@ TEST_F(register_window, AskedToEndFromOutsideItEndsWhateverIsOpen) {
     EXPECT_FALSE(app.archives.tot.is_open());
 }
 
+TEST_F(register_window, DraggedColumnsKeepTheirWidthsFromRunToRun) {
+    int width = 0;
+    run({[&] {
+        const int designed = table()->columnWidth(1);
+        heads()->resizeSection(1, designed + 60);
+        QTest::mouseRelease(heads()->viewport(), Qt::LeftButton);
+        width = table()->columnWidth(1);
+        EXPECT_GT(width, designed + 30);
+    }});
+    test::window_bench later;
+    program again(disk, later.desk, pictures);
+    later.run([&] { start(again, "ordini001"); },
+              {[&] { EXPECT_NEAR(later.find<QTableView>("elenco")->columnWidth(1), width, 2); }});
+}
+
 }  // namespace
 }  // namespace vantora::ui::desktop
