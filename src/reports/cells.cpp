@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "store/text/code_page.h"
+#include "store/text/digit.h"
 #include "store/text/number_text.h"
 
 namespace vantora {
@@ -38,7 +39,7 @@ std::string_view mask_of(int formato, const valuta& in) {
 }
 
 bool only_digits(std::string_view text) {
-    return std::ranges::all_of(text, [](char one) { return one >= '0' && one <= '9'; });
+    return std::ranges::all_of(text, is_digit);
 }
 
 /// A number as lists show it, "-1234,5", under a mask that shows all of its decimals: its value

@@ -119,7 +119,6 @@ QPushButton:disabled { color: #5a6671; }
 QPushButton:default { border-color: #2f6ea5; }
 QPushButton:focus { border: 2px solid #2f6ea5; padding: 4px 15px; }
 QMessageBox QLabel#qt_msgbox_label { padding: 8px 8px 8px 2px; }
-QMessageBox QLabel#qt_msgbox_informativelabel { padding: 0 8px 4px 2px; }
 QMessageBox QLabel#qt_msgboxex_icon_label { padding: 4px 6px 4px 8px; }
 QCalendarWidget QWidget#qt_calendar_navigationbar { background: #e9eef3; }
 QCalendarWidget QToolButton { color: #24527a; font-weight: 600; }
