@@ -40,7 +40,7 @@ auto uninterrupted(const Call& call) {
     return result;
 }
 
-class system_file final : public file {
+class system_file : public file {
  public:
     /// `new_in`: the folder that the file is a new entry of; empty for a file that was there.
     explicit system_file(int descriptor, std::filesystem::path new_in = {})
@@ -143,6 +143,28 @@ class system_file final : public file {
     std::filesystem::path new_in_;
 };
 
+/// A file beside another one, gone again unless it takes that one's place.
+class file_aside final : public system_file {
+ public:
+    file_aside(int descriptor, std::filesystem::path name, std::filesystem::path place)
+        : system_file(descriptor), name_(std::move(name)), place_(std::move(place)) {}
+    ~file_aside() override {
+        const int error = errno;
+        if (!in_place_) ::unlink(name_.c_str());
+        errno = error;
+    }
+
+    bool put_in_place() override {
+        in_place_ = ::rename(name_.c_str(), place_.c_str()) == 0;
+        return in_place_;
+    }
+
+ private:
+    std::filesystem::path name_;
+    std::filesystem::path place_;
+    bool in_place_ = false;
+};
+
 /// Opens a plain file; never a folder, and never something that would block, such as a pipe.
 std::unique_ptr<file> open_plain(const std::filesystem::path& path, int flags) {
     const bool is_new = (flags & O_CREAT) != 0 && ::access(path.c_str(), F_OK) != 0;
@@ -240,6 +262,26 @@ std::unique_ptr<file> drive::create_instead(std::string_view path) {
         return made;
     }
     return open_plain(located, O_RDWR | O_CREAT | O_TRUNC);
+}
+
+std::unique_ptr<file> drive::create_aside(std::string_view path) {
+    if (access_ == access::reading_only) return nullptr;
+    const auto located = locate(path);
+    struct stat there {};
+    if (::lstat(located.c_str(), &there) == 0 && !S_ISREG(there.st_mode)) {
+        errno = EINVAL;
+        return nullptr;
+    }
+    // A run that was ended may have left its own behind.
+    for (int attempt = 0; attempt < 100; ++attempt) {
+        const std::filesystem::path name =
+            located.string() + "." + std::to_string(::getpid()) + "-" + std::to_string(attempt);
+        const int descriptor = uninterrupted(
+            [&] { return ::open(name.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0666); });
+        if (descriptor >= 0) return std::make_unique<file_aside>(descriptor, name, located);
+        if (errno != EEXIST) break;
+    }
+    return nullptr;
 }
 
 bool drive::create_folder(std::string_view path) {

@@ -26,13 +26,14 @@ class drive final : public file_port {
     explicit drive(std::filesystem::path root, access to = access::reading_and_writing);
 
     /// Where a path of the suite lies in this system. ".." and "." never lead out of the drive.
-    [[nodiscard]] std::filesystem::path locate(std::string_view path) const;
+    [[nodiscard]] std::filesystem::path locate(std::string_view path) const override;
 
     std::unique_ptr<file> open_records(std::string_view path) override;
     std::optional<std::string> read_whole(std::string_view path) override;
     bool exists(std::string_view path) override;
     std::unique_ptr<file> create(std::string_view path) override;
     std::unique_ptr<file> create_instead(std::string_view path) override;
+    std::unique_ptr<file> create_aside(std::string_view path) override;
     bool create_folder(std::string_view path) override;
 
  private:

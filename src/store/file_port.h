@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <filesystem>
 #include <memory>
 #include <optional>
 #include <span>
@@ -53,6 +54,10 @@ class file {
     /// true where the file system sets nothing aside.
     virtual bool reserve(std::int64_t /*offset*/, std::int64_t /*size*/) { return true; }
 
+    /// Of a file made by `create_aside`: now it stands under its path, in one step. False if the
+    /// system refused.
+    virtual bool put_in_place() { return false; }
+
     /// Asks once for a lock, without waiting. It covers no byte that a record could lie on. Asking
     /// again for a lock held through this very file is granted, and one `unlock` gives it up.
     virtual lock_answer try_lock(program_lock /*which*/) { return lock_answer::unknown; }
@@ -88,8 +93,23 @@ class file_port {
     /// possible.
     virtual std::unique_ptr<file> create_instead(std::string_view path) { return create(path); }
 
+    /// A new, empty file, which takes the place of what stands under the path when it is put there.
+    /// Until then that stays as it is; let go before, the new one is gone. Null if that isn't
+    /// possible, or if something other than a plain file stands there (`errno` is then EINVAL).
+    virtual std::unique_ptr<file> create_aside(std::string_view /*path*/) { return nullptr; }
+
     /// Makes one folder. True if it stands afterwards.
     virtual bool create_folder(std::string_view path) = 0;
+
+    /// Where a path lies in this system, to be shown to the user.
+    [[nodiscard]] virtual std::filesystem::path locate(std::string_view path) const = 0;
 };
+
+/// Gives a file its whole content in one step, when all of it is on the disk. False if the system
+/// refused, `errno` says why: then what stood there before still does.
+inline bool put_whole(file_port& files, std::string_view path, std::span<const std::byte> bytes) {
+    const auto aside = files.create_aside(path);
+    return aside && aside->write(0, bytes) && aside->flush() && aside->put_in_place();
+}
 
 }  // namespace vantora

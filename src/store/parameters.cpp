@@ -221,7 +221,13 @@ void carica_parametri(parametri& into, file_port& files) {
 
 void salva_parametri(const parametri& values, file_port& files) {
     if (values.gnr_illeggibile) return;
-    channel<rec_gnr> general(files.open_records(file_azienda(values.numero_azienda, "gnr")));
+    const std::string own = file_azienda(values.numero_azienda, "gnr");
+    // A company's first one comes whole or not at all: an empty one would hide the general file.
+    if (!files.exists(own)) {
+        put_whole(files, own, std::as_bytes(std::span(&values.gnr, 1)));
+        return;
+    }
+    channel<rec_gnr> general(files.open_records(own));
     general.write(1, values.gnr);
 }
 

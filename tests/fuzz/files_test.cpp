@@ -28,6 +28,7 @@ class one_content final : public file_port {
     bool exists(std::string_view) override { return true; }
     std::unique_ptr<file> create(std::string_view) override { return nullptr; }
     bool create_folder(std::string_view) override { return false; }
+    std::filesystem::path locate(std::string_view) const override { return {}; }
 
  private:
     std::string content_;

@@ -38,6 +38,7 @@ class faulty_file final : public file {
         if (faults_.room_lacks && faults_.room_lacks(path_, offset + size)) return false;
         return real_->reserve(offset, size);
     }
+    bool put_in_place() override { return !faults_.refuses_open(path_) && real_->put_in_place(); }
     lock_answer try_lock(program_lock which) override { return real_->try_lock(which); }
     void unlock(program_lock which) override { real_->unlock(which); }
     [[nodiscard]] bool locked_elsewhere(program_lock which) const override {
@@ -72,11 +73,13 @@ void faulty_files::fail_at(std::size_t n, bool for_good, bool& failed) {
     open_fails = fails;
 }
 
-std::unique_ptr<file> faulty_files::open_records(std::string_view path) {
-    if (open_fails && open_fails(std::string(path))) return nullptr;
-    auto real = real_.open_records(path);
+std::unique_ptr<file> faulty_files::opened(std::string_view path, std::unique_ptr<file> real) {
     if (!real) return nullptr;
     return std::make_unique<faulty_file>(*this, std::string(path), std::move(real));
+}
+
+std::unique_ptr<file> faulty_files::open_records(std::string_view path) {
+    return refuses_open(path) ? nullptr : opened(path, real_.open_records(path));
 }
 
 std::optional<std::string> faulty_files::read_whole(std::string_view path) {
@@ -85,10 +88,11 @@ std::optional<std::string> faulty_files::read_whole(std::string_view path) {
 }
 
 std::unique_ptr<file> faulty_files::create(std::string_view path) {
-    if (open_fails && open_fails(std::string(path))) return nullptr;
-    auto real = real_.create(path);
-    if (!real) return nullptr;
-    return std::make_unique<faulty_file>(*this, std::string(path), std::move(real));
+    return refuses_open(path) ? nullptr : opened(path, real_.create(path));
+}
+
+std::unique_ptr<file> faulty_files::create_aside(std::string_view path) {
+    return refuses_open(path) ? nullptr : opened(path, real_.create_aside(path));
 }
 
 }  // namespace vantora::test

@@ -39,14 +39,14 @@ class faulty_files final : public file_port {
     /// Whether a write at an offset of a file fails.
     std::function<bool(const std::string& path, std::int64_t offset)> write_fails;
     std::function<bool(const std::string& path)> flush_fails;
-    /// Whether a file can't be opened or created.
+    /// Whether a file can't be opened, created or put in its place.
     std::function<bool(const std::string& path)> open_fails;
     /// Whether a file is open for reading only.
     std::function<bool(const std::string& path)> read_only;
     /// Whether the disk has no room for bytes up to `end` of a file.
     std::function<bool(const std::string& path, std::int64_t end)> room_lacks;
-    /// The n-th read, write, flush, opening or creation from now on fails, counted from 0;
-    /// `for_good`: all behind it too. `failed` tells whether it came to that. One thread only.
+    /// The n-th read, write, flush, opening, creation or putting in place from now on fails, from
+    /// 0; `for_good`: all behind it too. `failed` tells whether it came to that. One thread only.
     void fail_at(std::size_t n, bool for_good, bool& failed);
     /// How long the disk takes over each read, of any number at once.
     std::chrono::microseconds read_takes{0};
@@ -57,10 +57,16 @@ class faulty_files final : public file_port {
     std::optional<std::string> read_whole(std::string_view path) override;
     bool exists(std::string_view path) override { return real_.exists(path); }
     std::unique_ptr<file> create(std::string_view path) override;
+    std::unique_ptr<file> create_aside(std::string_view path) override;
     bool create_folder(std::string_view path) override { return real_.create_folder(path); }
+    [[nodiscard]] std::filesystem::path locate(std::string_view path) const override {
+        return real_.locate(path);
+    }
 
  private:
     friend class faulty_file;
+    std::unique_ptr<file> opened(std::string_view path, std::unique_ptr<file> real);
+    bool refuses_open(std::string_view path) { return open_fails && open_fails(std::string(path)); }
     bool refuses_read(const std::string& path, std::int64_t offset, std::size_t size);
 
     file_port& real_;

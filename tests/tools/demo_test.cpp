@@ -4,11 +4,11 @@
 #include <sys/resource.h>
 #include <sys/wait.h>
 
-#include <csignal>
 #include <cstdlib>
 #include <set>
 
 #include "demo_folder.h"
+#include "store/drive.h"
 #include "store/records.h"
 
 namespace vantora::test {
@@ -78,14 +78,13 @@ TEST(demo_company, WhatIsThereStays) {
 TEST(demo_company, AFullDiskLeavesNoHalfCompany) {
     const scratch_folder drive;
     put(drive.path() / "mirwin/mirwin/miraz0.007.parziale/vantora.orc", "of an interrupted run");
-    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    take_file_limits_as_errors();
     rlimit usual{};
     getrlimit(RLIMIT_FSIZE, &usual);
     const rlimit tight{1'000'000, usual.rlim_max};
     setrlimit(RLIMIT_FSIZE, &tight);
     EXPECT_THROW(demo::make_company(small_company, drive.path()), demo::demo_error);
     setrlimit(RLIMIT_FSIZE, &usual);
-    std::signal(SIGXFSZ, handler);
     for (const auto& [name, content] : files_under(drive.path())) {
         EXPECT_EQ(name.find("miraz0"), std::string::npos) << name;
     }

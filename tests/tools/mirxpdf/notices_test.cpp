@@ -15,10 +15,8 @@ namespace {
 /// Boxes on a screen that nobody sees, answered as a user would.
 TEST(mirxpdf_notices, APdfThatIsReadyIsOpenedOnlyIfTheUserWantsIt) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    int count = 1;
-    char name[8] = "notices";
-    char* arguments[2] = {name, nullptr};
-    QApplication application(count, arguments);
+    int no_arguments = 0;
+    QApplication application(no_arguments, nullptr);
     ui::dress_application(application);
     const QString pdf = "/ditta/orc12.pdf";
     int opened = 0;

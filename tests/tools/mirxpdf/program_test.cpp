@@ -1,6 +1,11 @@
 #include <gtest/gtest.h>
 
+#include <QApplication>
+
+#include "mirxpdf/carry_out.h"
 #include "run_of_program.h"
+#include "support/faulty_files.h"
+#include "support/printed_pdf.h"
 
 namespace vantora::test {
 namespace {
@@ -71,10 +76,37 @@ TEST(mirxpdf_program, WhatCannotBecomeAPdfLeavesTheOlderOne) {
         expect_refused(drive, drive.command({std::string("***,c:\\mirdoc.rto,") + place}), 1,
                        "non è stato creato");
     }
-    const std::string full_disk = "ulimit -f 2; trap '' XFSZ; exec \"$0\" \"$@\"";
-    std::vector<std::string> command = {"sh", "-c", full_disk};
-    std::ranges::copy(drive.command({report_call}), std::back_inserter(command));
-    expect_refused(drive, command, 1, "non è stato creato");
+}
+
+/// Each read, write, flush, creation and putting in place is refused once, and from there on.
+TEST(mirxpdf_program, WhateverTheDiskRefusesThereIsAWholePdfOrTheOneBefore) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    int no_arguments = 0;
+    const QApplication application(no_arguments, nullptr);
+    pdf_drive drive;
+    put(drive.at("logo.ppm"), "P6 1 1 255\n\xFF\xFF\x01");
+    drive.write_print_file({{text_at(20, 30, "Ordine"),
+                             {tipo_record::figura, 50, 70, 0, 0, 0, 0, "\\logo.ppm", "", 0, 0}}});
+    vantora::drive real(drive.root());
+    faulty_files disk(real);
+    const auto request = mirxpdf::read_request(report_call);
+    int refused = 0;
+    bool failed = true;
+    for (std::size_t fault = 0; failed; ++fault) {
+        put(drive.at("doc.pdf"), "the one before");
+        const auto before = drive.files();
+        disk.fail_at(fault / 2, fault % 2 == 1, failed);
+        testing::internal::CaptureStderr();
+        const int code =
+            mirxpdf::carry_out(*request, disk.read_whole(request->print_file), disk, {});
+        const std::string said = testing::internal::GetCapturedStderr();
+        refused += code;
+        const bool done = code == mirxpdf::all_done;
+        EXPECT_TRUE(done ? said.empty() : !said.empty() && drive.files() == before) << fault;
+        EXPECT_EQ(done, printed_pdf(drive.at("doc.pdf")).has_pages(1)) << fault;
+        EXPECT_EQ(drive.files().size(), before.size()) << fault;
+    }
+    EXPECT_EQ(refused, 11) << "a picture that can't be read for once is left out, as on paper";
 }
 
 TEST(mirxpdf_program, OneOddValueLosesNoDocumentButIsTold) {
