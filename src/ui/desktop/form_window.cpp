@@ -32,12 +32,12 @@ constexpr QSize frame_room(8, title_room + 6);
 }  // namespace
 
 form_window::form_window(form& screen, user_action act, std::function<void(form&)> close,
-                         std::function<void(form&)> come_forward, bool remember)
+                         std::function<void(form&)> come_forward, bool by_user)
     : screen_(&screen),
       act_(std::move(act)),
       close_(std::move(close)),
       come_forward_(std::move(come_forward)),
-      remember_(remember) {
+      by_user_(by_user) {
     setObjectName(shown(screen.name()));
     setWindowTitle(shown(screen.title()));
     for (control* one : screen.controls()) binders_[one] = make_binder(*one, this, act_);
@@ -47,7 +47,7 @@ form_window::form_window(form& screen, user_action act, std::function<void(form&
     add_help(*this);
     make_scrollable();
     name_the_rest();
-    if (remember_) recall();
+    if (by_user_) recall();
 }
 
 form_window::~form_window() {
@@ -153,7 +153,7 @@ void form_window::recall() {
 
 QSize form_window::size_on(const QRect& room) const {
     QSize size = first_size_;
-    if (remember_) {
+    if (by_user_) {
         size = QSettings().value("windows/" + objectName() + "/size", size).toSize();
     }
     return size.boundedTo(room.size() - frame_room);
@@ -168,7 +168,7 @@ void form_window::appear(const window_place& place) {
     setWindowModality(modal ? Qt::ApplicationModal : Qt::NonModal);
     const bool full_screen = place.known
                                  ? place.full_screen
-                                 : remember_ && QSettings().value("windows/maximised").toBool();
+                                 : by_user_ && QSettings().value("windows/maximised").toBool();
     setWindowState(full_screen && !modal ? windowState() | Qt::WindowMaximized
                                          : windowState() & ~Qt::WindowMaximized);
     QRect inside(QPoint(), normal_size());
@@ -221,7 +221,7 @@ bool form_window::event(QEvent* event) {
         open_manual(this);
         return true;
     }
-    if (event->type() == QEvent::Hide && placed_ && remember_) {
+    if (event->type() == QEvent::Hide && placed_ && by_user_) {
         if (!isMaximized()) QSettings().setValue("windows/" + objectName() + "/size", size());
         if (!isModal()) QSettings().setValue("windows/maximised", isMaximized());
     }

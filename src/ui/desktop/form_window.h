@@ -35,12 +35,15 @@ struct window_place {
 class form_window final : public QWidget {
  public:
     /// `close` and `come_forward`: the user closes the window, or brings it to the front.
-    /// `remember`: sizes are kept from run to run.
+    /// `by_user`: a person works it, not a script; sizes are then kept from run to run.
     form_window(form& screen, user_action act, std::function<void(form&)> close,
-                std::function<void(form&)> come_forward, bool remember);
+                std::function<void(form&)> come_forward, bool by_user);
     ~form_window() override;
 
     [[nodiscard]] form& screen() const { return *screen_; }
+    /// Comforts that move marks or write days out are for persons; a script finds marks and texts
+    /// as the screens left them.
+    [[nodiscard]] bool by_user() const { return by_user_; }
     /// The screen goes; the window follows when its events are over.
     void forget_screen();
 
@@ -97,7 +100,7 @@ class form_window final : public QWidget {
     user_action act_;
     std::function<void(form&)> close_;
     std::function<void(form&)> come_forward_;
-    bool remember_;
+    bool by_user_;
     bool placed_ = false;
     QSize first_size_{800, 500};
     QScrollArea* area_ = nullptr;

@@ -6,6 +6,7 @@
 #include <QToolButton>
 
 #include "ui/desk.h"
+#include "ui/desktop/form_window.h"
 #include "ui/desktop/kinds.h"
 #include "ui/desktop/line_pasting.h"
 #include "ui/desktop/widget_binder.h"
@@ -70,6 +71,7 @@ class text_box_binder final : public widget_binder {
     /// A day is written out when its field is left.
     void focus_lost() override {
         if (model_.accepts.holds != input_rule::content::day) return;
+        if (!static_cast<const form_window*>(edit_->window())->by_user()) return;
         act([&] {
             const int year = model_.owner().desk().clock().now().day.year;
             const auto day = written_out_day(model_.text(), year);

@@ -99,7 +99,7 @@ void lay_out_mirorc(form_window& window) {
     body->addLayout(grid_with_sort_buttons(window, "elenco", "srx", 6), 1);
     auto* orders = window.as<grid_view>("elenco");
     orders->search_in(order_number);
-    orders->keep_mark();
+    if (window.by_user()) orders->keep_mark();
     orders->show_notices_in(fulfilment_day);
 
     auto* progress = window.widget("srt");

@@ -107,7 +107,7 @@ void lay_out_mirorcr(form_window& window) {
     quantity->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     set_look(quantity, "look", "over");
     view->keep_over(quantity, evaso);
-    view->begin_at_first();
+    if (window.by_user()) view->begin_at_first();
     add_grid_keys(window);
 
     body->addWidget(view, 1);
