@@ -49,6 +49,7 @@ void start(program& app, std::string_view argument) {
     provide(app.mirorca, app);
 
     app.desk.at_end = [&app] { chiudi_archivi(app.archives); };
+    app.archives.station_awaited = [&app](bool still) { app.desk.show_station_awaited(still); };
     app.parameters.numero_azienda = numero_azienda_in(argument);
     app.mirorc->show();
 }

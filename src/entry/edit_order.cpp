@@ -56,7 +56,7 @@ void flush(archivi& files, bool stock_moved, write_faults& faults) {
 template <class Change>
 write_outcome change_rows(archivi& files, const ordine_esistente& order, bool lines_move_stock,
                           const Change& change) {
-    const instance_lock alone(files.tot, instance_lock::kind::records);
+    const instance_lock alone(files, instance_lock::kind::records);
     rec_tot now;
     write_outcome outcome(alone, plan_of(files, order, lines_move_stock, now));
     if (!outcome.begun()) return outcome;

@@ -8,7 +8,7 @@ namespace vantora {
 
 write_outcome salva_nuovo_ordine(archivi& files, const testata_registrata& head, double data_reg,
                                  const righe_ordine& lines, std::int16_t articles) {
-    const instance_lock alone(files.tot, instance_lock::kind::records);
+    const instance_lock alone(files, instance_lock::kind::records);
     write_plan plan;
     rec_tot counter;
     plan.counts(files.tot, contatori::ordini, counter);

@@ -25,7 +25,7 @@ void mirorcr::checkeva() {
 }
 
 write_outcome mirorcr::book() {
-    const instance_lock alone(app_.archives.tot, instance_lock::kind::records);
+    const instance_lock alone(app_.archives, instance_lock::kind::records);
     rec_tot now;
     write_outcome outcome(alone, booking_plan(now));
     if (outcome.begun() && orders_moved(now)) outcome.give_up_moved_order();

@@ -73,7 +73,7 @@ std::string snapshot_of(const ddt_da_registrare& document, const righe_ordine& l
 
 write_outcome salva_ddt(archivi& files, file_port& port, int numero_azienda,
                         const ddt_da_registrare& document, const righe_ordine& lines) {
-    const instance_lock alone(files.tot, instance_lock::kind::records);
+    const instance_lock alone(files, instance_lock::kind::records);
     write_plan plan;
     rec_tot counter;
     plan.counts(files.tot, contatori::documenti_trasporto, counter);

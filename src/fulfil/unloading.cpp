@@ -53,7 +53,7 @@ write_outcome scarica_magazzino(archivi& files, const movimento_magazzino& movem
                                 righe_ordine& lines, std::int16_t articles, const valuta& amounts,
                                 const std::function<bool(const rec_art&)>& unload_anyway,
                                 const std::function<void()>& line_dropped) {
-    const instance_lock alone(files.tot, instance_lock::kind::records);
+    const instance_lock alone(files, instance_lock::kind::records);
     write_plan plan;
     rec_tot counter;
     plan.counts(files.tot, contatori::magazzino, counter);

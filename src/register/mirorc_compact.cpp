@@ -24,7 +24,7 @@ void mirorc::compact() {
 }
 
 bool mirorc::run_compaction(bool elimina_evasi) {
-    const instance_lock lock(app_.archives.tot, instance_lock::kind::compaction);
+    const instance_lock lock(app_.archives, instance_lock::kind::compaction);
     if (!may_write(app_.desk, lock)) return false;
     // While the questions were open another station may have saved an order.
     rec_tot counter;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "store/channel.h"
 #include "store/records.h"
 
@@ -20,6 +22,10 @@ struct archivi {
     channel<rec_prv> prv;
     channel<rec_tot> tot;
     channel<blocco_articoli> art_blocchi;  ///< "vantora.art" a second time, 20 records a read
+
+    /// Lets the user see that another station holds this one up: called every few milliseconds
+    /// meanwhile, with false at the end. Null: nobody is told.
+    std::function<void(bool still)> station_awaited;
 };
 
 /// Opens all record files, the counters first; a file that doesn't exist is created empty.

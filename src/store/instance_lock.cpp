@@ -4,18 +4,21 @@
 
 namespace vantora {
 
-instance_lock::instance_lock(const channel<rec_tot>& counters, kind what,
-                             std::chrono::milliseconds limit)
-    : file_(counters.shared_file()) {
+instance_lock::instance_lock(const archivi& files, kind what, std::chrono::milliseconds limit)
+    : file_(files.tot.shared_file()) {
     using clock = std::chrono::steady_clock;
     constexpr std::chrono::milliseconds pause{5};
     if (!file_) return;
     const auto end = clock::now() + limit;
     auto answer = file_->try_lock(program_lock::counters);
+    // The program may end while it is shown, and with it the archives.
+    const auto show = answer == lock_answer::busy ? files.station_awaited : nullptr;
     while (answer == lock_answer::busy && clock::now() < end) {
+        if (show) show(true);
         std::this_thread::sleep_for(pause);
         answer = file_->try_lock(program_lock::counters);
     }
+    if (show) show(false);
     if (answer == lock_answer::held) {
         outcome_ = outcome::held;
         if (what == kind::compaction) file_->try_lock(program_lock::compaction);

@@ -3,8 +3,7 @@
 #include <chrono>
 #include <memory>
 
-#include "store/channel.h"
-#include "store/records/rec_tot.h"
+#include "store/archives.h"
 
 namespace vantora {
 
@@ -27,9 +26,8 @@ class instance_lock {
 
     static constexpr std::chrono::milliseconds patience{10'000};
 
-    /// Waits for the lock as long as `limit`. REQUIRES: `counters` is read only after that.
-    instance_lock(const channel<rec_tot>& counters, kind what,
-                  std::chrono::milliseconds limit = patience);
+    /// Waits for the lock as long as `limit`. REQUIRES: counters are read only after that.
+    instance_lock(const archivi& files, kind what, std::chrono::milliseconds limit = patience);
     instance_lock(const instance_lock&) = delete;
     instance_lock& operator=(const instance_lock&) = delete;
     ~instance_lock() { release(); }

@@ -10,7 +10,7 @@ namespace vantora {
 /// What came of a save, an edit, a deletion or another change of records: whether it began at all,
 /// and what refused on the way.
 ///
-///     const instance_lock alone(files.tot, instance_lock::kind::records);
+///     const instance_lock alone(files, instance_lock::kind::records);
 ///     write_plan plan;
 ///     ...
 ///     write_outcome outcome(alone, plan);

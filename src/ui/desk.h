@@ -50,6 +50,8 @@ class desk {
     /// Shows how much of a list is there, of 0 to 1; the first call begins it. No events run.
     void show_progress(control& list, double done);
     void end_progress(control& list) { front_.progress_ended(list); }
+    /// Shows that another station holds this one up, until called with false. No events run.
+    void show_station_awaited(bool still);
 
     /// Ends the program at once: nothing behind the call runs.
     [[noreturn]] void end_program();

@@ -78,6 +78,11 @@ void desk::show_progress(control& list, double done) {
     if (ended_) throw program_end{};
 }
 
+void desk::show_station_awaited(bool still) {
+    front_.station_awaited(still);
+    if (ended_) throw program_end{};
+}
+
 void desk::set_pointer(pointer shape) {
     if (pointer_ == shape) return;
     pointer_ = shape;

@@ -1,10 +1,13 @@
 #include <QHeaderView>
+#include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
 #include <csignal>
 
 #include "program_window.h"
 #include "register/mirorc.h"
+#include "store/company.h"
+#include "store/instance_lock.h"
 #include "ui/desktop/outside_end.h"
 
 namespace vantora::ui::desktop {
@@ -121,6 +124,29 @@ TEST_F(register_window, ALongListTellsHowFarItIsAndTheUserWaits) {
              bench.desk.dispatch([&] { app.mirorc->build_list(); });
              EXPECT_FALSE(bench.find<QProgressBar>("list_bar"));
              EXPECT_EQ(bench.desk.active(), &app.mirorc.use());
+         },
+         [] { ADD_FAILURE() << "the window was closed meanwhile"; }});
+}
+
+TEST_F(register_window, AnotherStationThatIsWaitedForIsSeenAndTheUserWaits) {
+    run({[&] {
+             auto other = files.open_records(file_azienda(1, "tot"));
+             other->try_lock(program_lock::counters);
+             QTimer::singleShot(0, table(), [&] {
+                 auto* note = bench.find<QLabel>("station_note");
+                 ASSERT_TRUE(note);
+                 EXPECT_TRUE(note->isVisible());
+                 bench.press_button("bottone(2)");
+                 bench.front.front_window()->close();
+                 other.reset();
+             });
+             bench.desk.dispatch([&] {
+                 const instance_lock alone(app.archives, instance_lock::kind::records);
+                 EXPECT_EQ(alone.result(), instance_lock::outcome::held);
+             });
+             EXPECT_FALSE(bench.find<QLabel>("station_note"));
+             EXPECT_EQ(bench.desk.active(), &app.mirorc.use());
+             EXPECT_FALSE(bench.desk.ended());
          },
          [] { ADD_FAILURE() << "the window was closed meanwhile"; }});
 }

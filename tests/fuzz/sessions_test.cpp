@@ -54,7 +54,7 @@ class other_station {
     void act(choices& by) {
         constexpr std::chrono::milliseconds at_once{0};
         if (by.below(2) == 0) return take_order();
-        const instance_lock alone(files_.tot, instance_lock::kind::compaction, at_once);
+        const instance_lock alone(files_, instance_lock::kind::compaction, at_once);
         rec_tot counter;
         if (alone.result() != instance_lock::outcome::held) return;
         if (!files_.tot.read(contatori::ordini, counter)) return;

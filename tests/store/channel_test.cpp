@@ -120,25 +120,28 @@ TEST_F(channel_test, TwoStationsKeepEachOtherOutAndACompactionSaysSo) {
     using namespace std::chrono_literals;
     using enum instance_lock::outcome;
     using enum instance_lock::kind;
-    const auto here = open();
-    auto there = open();
+    archivi here;
+    archivi there;
+    here.tot = open();
+    there.tot = open();
     {
         instance_lock first(here, records);
         EXPECT_EQ(first.result(), held);
         EXPECT_EQ(instance_lock(there, records, 10ms).result(), without);
         rec_tot record;
-        EXPECT_TRUE(there.write(1, record) && there.read(1, record)) << "nothing else waits";
+        EXPECT_TRUE(there.tot.write(1, record) && there.tot.read(1, record))
+            << "nothing else waits";
         first.release();
         const instance_lock second(there, compaction, 10ms);
         EXPECT_EQ(second.result(), held);
         EXPECT_EQ(instance_lock(here, records, 10ms).result(), compaction_elsewhere);
         EXPECT_EQ(instance_lock(here, compaction, 10ms).result(), compaction_elsewhere);
-        there.close();
+        there.tot.close();
         EXPECT_EQ(instance_lock(here, records, 10ms).result(), compaction_elsewhere);
     }
     EXPECT_EQ(instance_lock(here, records, 10ms).result(), held);
     EXPECT_EQ(std::filesystem::file_size(f), 12U);
-    EXPECT_EQ(instance_lock(channel<rec_tot>(), records).result(), without);
+    EXPECT_EQ(instance_lock(archivi(), records).result(), without);
 }
 
 TEST(fields, AreTheBytesOfTheFile) {

@@ -91,15 +91,31 @@ void desktop_front_end::let_events_run() {
 
 void desktop_front_end::progress_changed(control& list, double done) {
     form_window* window = window_of(list.owner());
-    if (!bars_.show(list, window ? &window->widget_of(list) : nullptr, done)) return;
+    if (bars_.show(list, window ? &window->widget_of(list) : nullptr, done)) paint();
+}
+
+void desktop_front_end::progress_ended(control& list) {
+    bars_.end(list);
+    close_late();
+}
+
+void desktop_front_end::station_awaited(bool still) {
+    if (!still) {
+        station_.end();
+        close_late();
+    } else if (station_.show(front_window())) {
+        paint();
+    }
+}
+
+void desktop_front_end::paint() {
     ++painting_;
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     --painting_;
 }
 
-void desktop_front_end::progress_ended(control& list) {
-    bars_.end(list);
-    if (!bars_.none() || !late_closing_) return;
+void desktop_front_end::close_late() {
+    if (!bars_.none() || station_.waiting() || !late_closing_) return;
     QMetaObject::invokeMethod(late_closing_, &QWidget::close, Qt::QueuedConnection);
     late_closing_.clear();
 }

@@ -8,6 +8,7 @@
 #include "ui/desktop/form_window.h"
 #include "ui/desktop/key_guard.h"
 #include "ui/desktop/list_bars.h"
+#include "ui/desktop/station_note.h"
 #include "ui/front_end.h"
 
 class QEventLoop;
@@ -63,6 +64,7 @@ class desktop_front_end final : public front_end {
     void pointer_changed(pointer shape) override;
     void progress_changed(control& list, double done) override;
     void progress_ended(control& list) override;
+    void station_awaited(bool still) override;
     void report_fatal(const std::string& message) override;
 
  private:
@@ -75,6 +77,9 @@ class desktop_front_end final : public front_end {
     void carry_out(const std::function<void()>& action);
     void step_until(const std::function<bool()>& done);
     void leave_finished_waits();
+    /// Paints windows; what the user does waits.
+    void paint();
+    void close_late();
     form_window* window_of(form& which);
     /// The user brings a window to the front.
     void come_forward(form& chosen);
@@ -92,6 +97,7 @@ class desktop_front_end final : public front_end {
     int stepping_ = 0;  ///< waits served by steps, inside one another
     QElapsedTimer since_events_;
     list_bars bars_;
+    station_note station_;
     int painting_ = 0;                    ///< what the user does waits
     QPointer<form_window> late_closing_;  ///< closed by the user meanwhile
     key_guard keys_;

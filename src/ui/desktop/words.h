@@ -16,6 +16,10 @@ inline constexpr const char* no_company =
 inline constexpr const char* trial_company = "Ditta di &prova";
 inline constexpr const char* no_trial_company = "La ditta di prova non si può creare in %1.";
 
+// Waiting ------------------------------------------------------------------------------------
+
+inline constexpr const char* other_station = "Attesa di un'altra postazione...";
+
 // Finding in a list --------------------------------------------------------------------------
 
 inline constexpr const char* find_in_list = "Trova nell'elenco";

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QPointer>
+
+class QLabel;
+class QWidget;
+
+namespace vantora::ui::desktop {
+
+/// A line in the middle of a window that tells for what the program waits: another station.
+class station_note {
+ public:
+    /// The wait goes on; the first call begins it. True if it is time to paint.
+    bool show(QWidget* window);
+    void end();
+
+    [[nodiscard]] bool waiting() const { return since_.isValid(); }
+
+ private:
+    QElapsedTimer since_;
+    QPointer<QLabel> line_;  ///< may go with its window
+};
+
+}  // namespace vantora::ui::desktop
