@@ -49,6 +49,12 @@ constexpr auto millimetres = [] {
     return lines;
 }();
 
+/// In one move; what is too much is overwritten by what follows.
+inline char* put_ready(char* at, const ready_line& line) {
+    std::memcpy(at, &line, sizeof line);
+    return at + line.size;
+}
+
 char* put_other_number(char* at, double value) {
     if (value > -largest_whole && value < largest_whole) {
         const auto whole = static_cast<std::int64_t>(value);
@@ -65,9 +71,7 @@ inline char* put_number(char* at, double value) {
     if (!(value >= 0 && value < millimetres.size())) return put_other_number(at, value);
     const auto whole = static_cast<std::int32_t>(value);
     if (whole != value) return put_other_number(at, value);
-    const ready_line& line = millimetres[static_cast<std::size_t>(whole)];
-    std::memcpy(at, line.text, sizeof line.text);
-    return at + line.size;
+    return put_ready(at, millimetres[static_cast<std::size_t>(whole)]);
 }
 
 }  // namespace
@@ -88,16 +92,9 @@ void print_file_writer::piece::empty(std::size_t least_room) {
     room = least_room;
 }
 
-char* print_file_writer::room(std::size_t size) {
-    if (pending_.used + size > pending_.room) {
-        send_off();
-        pending_.empty(std::max(size, sent_off_at));
-    }
-    return pending_.lines.get() + pending_.used;
-}
-
-void print_file_writer::filled(const char* end) {
-    pending_.used = static_cast<std::size_t>(end - pending_.lines.get());
+void print_file_writer::make_room(std::size_t size) {
+    send_off();
+    pending_.empty(std::max(size, sent_off_at));
 }
 
 bool print_file_writer::write(const piece& lines) {
@@ -163,7 +160,7 @@ void print_file_writer::ready_lines::filled(const char* end) {
     size_ = static_cast<std::size_t>(end - text_.data());
 }
 
-char* print_file_writer::ready_lines::copied_to(char* at) const {
+inline char* print_file_writer::ready_lines::copied_to(char* at) const {
     std::memcpy(at, text_.data(), usual);
     if (size_ > usual) std::memcpy(at + usual, text_.data() + usual, size_ - usual);
     return at + size_;
@@ -201,12 +198,12 @@ void print_file_writer::look::make(const vista_di_record& record, forma_stile as
     behind_text_.filled(at);
 }
 
-char* print_file_writer::room_for(std::size_t text, const look& as) {
+inline char* print_file_writer::room_for(std::size_t text, const look& as) {
     return room(5 * longest_number + as.before_text_.size() + text + as.behind_text_.size() +
                 ready_lines::usual);
 }
 
-void print_file_writer::fill_rest(char* at, std::string_view text, const look& as) {
+inline void print_file_writer::fill_rest(char* at, std::string_view text, const look& as) {
     filled(as.behind_text_.copied_to(put(as.before_text_.copied_to(at), text)));
 }
 
@@ -221,7 +218,8 @@ void print_file_writer::write_view(const vista_di_record& record, forma_stile fo
 }
 
 void print_file_writer::write_text(double x, double y, std::string_view text, const look& as) {
-    char* const at = put_number(room_for(text.size(), as), static_cast<double>(tipo_record::testo));
+    constexpr ready_line text_record = millimetres[static_cast<std::size_t>(tipo_record::testo)];
+    char* const at = put_ready(room_for(text.size(), as), text_record);
     fill_rest(put_number(put_number(at, x), y), text, as);
 }
 

@@ -82,8 +82,14 @@ class print_file_writer {
 
  private:
     /// Room for so many bytes more, to be filled up to what `filled` is told.
-    char* room(std::size_t size);
-    void filled(const char* end);
+    char* room(std::size_t size) {
+        if (pending_.room - pending_.used < size) make_room(size);
+        return pending_.lines.get() + pending_.used;
+    }
+    void make_room(std::size_t size);
+    void filled(const char* end) {
+        pending_.used = static_cast<std::size_t>(end - pending_.lines.get());
+    }
     /// Lines in a row.
     struct piece {
         void empty(std::size_t least_room);

@@ -84,36 +84,39 @@ double text_ruler::width(std::string_view text) const {
     return paper_.text_width(text, font_) * units_;
 }
 
-std::int64_t text_ruler::parts(double width) {
+text_ruler::parts text_ruler::parts_of(double width) {
     constexpr double parts_of_unit = 1 << 24;
     constexpr double widest = 1e9;
-    return static_cast<std::int64_t>(std::clamp(width, -widest, widest) * parts_of_unit);
+    return static_cast<parts>(std::clamp(width, -widest, widest) * parts_of_unit);
 }
 
-std::optional<std::size_t> text_ruler::within(std::string_view text, double limit) const {
-    const std::int64_t surely_within = parts(limit - summing_error(limit));
-    const std::int64_t surely_beyond = parts(limit + summing_error(limit));
+text_ruler::limit::limit(double width)
+    : width_(width),
+      surely_within_(parts_of(width - summing_error(width))),
+      surely_beyond_(parts_of(width + summing_error(width))) {}
+
+std::optional<std::size_t> text_ruler::head_within(std::string_view text, const limit& most) const {
     if (text.empty()) return {};
-    std::int64_t sum = 0;
+    parts sum = 0;
     std::size_t i = 0;
     for (; i + 4 <= text.size(); i += 4) {
         const auto known = [&](std::size_t at) {
             return characters_[static_cast<unsigned char>(text[i + at])];
         };
-        const std::int64_t four = known(0) + known(1) + known(2) + known(3);
-        if (sum + four >= surely_within) break;
+        const parts four = known(0) + known(1) + known(2) + known(3);
+        if (sum + four >= most.surely_within_) break;
         sum += four;
     }
     for (; i < text.size(); ++i) {
-        std::int64_t& character = characters_[static_cast<unsigned char>(text[i])];
+        parts& character = characters_[static_cast<unsigned char>(text[i])];
         sum += character;
-        if (sum < surely_within) continue;
+        if (sum < most.surely_within_) continue;
         if (character == unknown) {
-            character = parts(std::max(0.0, width(text.substr(i, 1))));
+            character = parts_of(std::max(0.0, width(text.substr(i, 1))));
             sum += character - unknown;
-            if (sum < surely_within) continue;
+            if (sum < most.surely_within_) continue;
         }
-        if (sum > surely_beyond) return i;
+        if (sum > most.surely_beyond_) return i;
         return {};
     }
     return text.size();
@@ -134,15 +137,16 @@ std::string formattata(std::string_view cell, int formato, const valuta& in) {
     return formato == 8 && !text->empty() ? "(" + *text + ")" : *text;
 }
 
-std::string_view accorciato(std::string_view text, double limit, const text_ruler& ruler) {
+std::string_view accorciato(std::string_view text, const text_ruler::limit& most,
+                            const text_ruler& ruler) {
     if (text.size() < 2) return text;
     const std::string_view whole = trimmed(text);
-    const auto count = ruler.within(whole, limit);
+    const auto count = ruler.head_within(whole, most);
     if (count == whole.size()) return text;
     std::string_view rest = trimmed(text.substr(0, text.size() - 1));
     if (count) return trimmed(rest.substr(0, std::max<std::size_t>(*count, 1)));
-    if (ruler.width(whole) <= limit) return text;
-    while (rest.size() > 1 && ruler.width(rest) > limit) {
+    if (ruler.is_within(whole, most)) return text;
+    while (rest.size() > 1 && !ruler.is_within(rest, most)) {
         rest = trimmed(rest.substr(0, rest.size() - 1));
     }
     return rest;
@@ -151,19 +155,20 @@ std::string_view accorciato(std::string_view text, double limit, const text_rule
 preparazione_celle::preparazione_celle(text_ruler ruler, double limit, int formato, valuta in,
                                        bool measured)
     : ruler_(std::move(ruler)),
-      limit_(limit),
+      most_(limit),
       formato_(formato),
       currency_(in),
       measured_(measured) {}
 
 cella_pronta preparazione_celle::operator()(std::string_view cell) {
-    if (formato_ == 0) return {accorciato(cell, limit_, ruler_), 0};
+    if (formato_ == 0) return {accorciato(cell, most_, ruler_), 0};
+    if (cell.empty()) return {};
     kept& place = kept_[std::hash<std::string_view>{}(cell) % kept_cells];
     if (place.used && place.cell == cell) return place.ready;
     place.used = true;
     place.cell = cell;
     place.text = formattata(cell, formato_, currency_);
-    const std::string_view fitted = accorciato(place.text, limit_, ruler_);
+    const std::string_view fitted = accorciato(place.text, most_, ruler_);
     place.ready = {fitted, measured_ ? ruler_.width(fitted) : 0};
     return place.ready;
 }

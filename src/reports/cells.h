@@ -14,26 +14,46 @@ namespace vantora {
 
 /// Measures texts in one font, in the unit of an output.
 class text_ruler {
+    /// Widths are summed as whole numbers of parts of a unit.
+    using parts = std::int64_t;
+
  public:
+    /// A width that texts may have.
+    class limit {
+     public:
+        explicit limit(double width);
+
+     private:
+        friend text_ruler;
+
+        double width_;
+        // A sum of character widths may be off by a little.
+        parts surely_within_;  ///< from here on a sum may be beyond the limit
+        parts surely_beyond_;  ///< so far a sum may be within it
+    };
+
     /// REQUIRES: `paper` outlives the ruler.
     text_ruler(const ui::printer& paper, ui::font in, double units_per_millimetre);
 
     /// As the printer says.
     [[nodiscard]] double width(std::string_view text) const;
+    [[nodiscard]] bool is_within(std::string_view text, const limit& most) const {
+        return width(text) <= most.width_;
+    }
     /// How many characters at the head of a text are within the limit, by the widths of the
     /// characters, which are asked for once; nothing where the printer must have its say, since the
     /// limit lies too near to one of their sums.
-    [[nodiscard]] std::optional<std::size_t> within(std::string_view text, double limit) const;
+    [[nodiscard]] std::optional<std::size_t> head_within(std::string_view text,
+                                                         const limit& most) const;
 
  private:
-    /// Widths are summed as whole numbers of parts of a unit.
-    static constexpr std::int64_t unknown = std::int64_t{1} << 58;
-    static std::int64_t parts(double width);
+    static constexpr parts unknown = parts{1} << 58;
+    static parts parts_of(double width);
 
     const ui::printer& paper_;
     ui::font font_;
     double units_;
-    mutable std::array<std::int64_t, 256> characters_;  ///< `unknown`: not asked for yet
+    mutable std::array<parts, 256> characters_;  ///< `unknown`: not asked for yet
 };
 
 /// The text of a cell by its format code: 0 leaves a text as it is; 1 to 8 read a number and write
@@ -41,7 +61,8 @@ class text_ruler {
 std::string formattata(std::string_view cell, int formato, const valuta& in);
 
 /// A text without the characters at its right end that must go until it fits or one is left.
-std::string_view accorciato(std::string_view text, double limit, const text_ruler& ruler);
+std::string_view accorciato(std::string_view text, const text_ruler::limit& most,
+                            const text_ruler& ruler);
 
 /// A cell that can be placed.
 struct cella_pronta {
@@ -68,7 +89,7 @@ class preparazione_celle {
     static constexpr std::size_t kept_cells = 64;
 
     text_ruler ruler_;
-    double limit_;
+    text_ruler::limit most_;
     int formato_;
     valuta currency_;
     bool measured_;

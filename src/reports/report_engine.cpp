@@ -76,6 +76,7 @@ void report_engine::set_columns() {
             cells_.push_back({{std::move(ruler), fit_[i], sheet_.colonne[i].formato_cella,
                                valuta(parameters_), placed_by_width(i)},
                               out_.expect_like(text),
+                              placed_by_width(i),
                               text.x});
         }
     }
@@ -195,12 +196,14 @@ void report_engine::draw_cell(std::size_t column, std::size_t line, std::string_
                               double y) {
     linea_celle& cells = cells_[line * columns() + column];
     const cella_pronta ready = cells.prepara(cell);
-    const double x = placed_by_width(column) ? x_in_column(column, ready.larghezza) : cells.x;
+    const double x = cells.per_larghezza ? x_in_column(column, ready.larghezza) : cells.x;
     out_.text_like(cells.come, x, y, ready.testo);
 }
 
 void report_engine::print_row(std::span<const std::string_view> cells) {
-    const auto cell = [&](std::size_t i) { return i < cells.size() ? cells[i] : ""; };
+    const auto cell = [&](std::size_t i) {
+        return i < cells.size() ? cells[i] : std::string_view();
+    };
     const double y = row_y(sheet_.righe_stampate);
     draw_stripe(y);
     for (std::size_t i = 0; i < columns(); ++i) {

@@ -101,8 +101,9 @@ class report_engine {
     /// One of the lines of text that a row has in a column.
     struct linea_celle {
         preparazione_celle prepara;
-        std::size_t come;  ///< the output's number of texts like these
-        double x;          ///< where they all have the same
+        std::size_t come;    ///< the output's number of texts like these
+        bool per_larghezza;  ///< each stands where its width says
+        double x;            ///< else where they all stand
     };
 
     const parametri& parameters_;

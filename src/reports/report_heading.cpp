@@ -47,7 +47,7 @@ const std::string& report_engine::fitted_title(std::size_t column, std::size_t l
                                                const look& measured) {
     std::string& title = sheet_.colonne[column].titolo_colonna[line];
     const text_ruler ruler(out_.paper(), font_of(measured), out_.units_per_millimetre());
-    title = std::string(accorciato(title, fit_[column], ruler));
+    title = std::string(accorciato(title, text_ruler::limit(fit_[column]), ruler));
     return title;
 }
 

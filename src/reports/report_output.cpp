@@ -22,8 +22,8 @@ std::string without_line_ends(std::string_view text) {
     return made;
 }
 
-bool has_line_end(std::string_view text) {
-    return text.find("\r\n") != std::string_view::npos;
+bool may_have_line_end(std::string_view text) {
+    return text.find('\r') != std::string_view::npos;
 }
 
 vista_di_record record_of(const testo_report& one) {
@@ -81,7 +81,7 @@ void report_on_printer::end_page() {
 
 void report_in_print_file::text(const testo_report& one) {
     vista_di_record record = record_of(one);
-    if (!has_line_end(one.testo)) return file_.write_view(record, one.forma);
+    if (!may_have_line_end(one.testo)) return file_.write_view(record, one.forma);
     const std::string cleaned = without_line_ends(one.testo);
     record.testo = cleaned;
     file_.write_view(record, one.forma);
@@ -94,7 +94,7 @@ std::size_t report_in_print_file::expect_like(const testo_report& one) {
 
 void report_in_print_file::text_like(std::size_t number, double x, double y,
                                      std::string_view text) {
-    if (!has_line_end(text)) return file_.write_text(x, y, text, looks_[number]);
+    if (!may_have_line_end(text)) return file_.write_text(x, y, text, looks_[number]);
     file_.write_text(x, y, without_line_ends(text), looks_[number]);
 }
 

@@ -82,6 +82,16 @@ std::string_view grid::text(int row, int col) const {
     return std::string_view(arena_).substr(one.begin, one.size);
 }
 
+void grid::texts(int row, std::span<std::string_view> into) const {
+    std::ranges::fill(into, std::string_view());
+    if (!holds(row, 0) || static_cast<std::size_t>(row) >= order_.size()) return;
+    const cell* one = &at(row, 0);
+    for (std::string_view& text : into.first(std::min(into.size(), columns_.size()))) {
+        text = {arena_.data() + one->begin, one->size};
+        ++one;
+    }
+}
+
 bool grid::set_text(int row, int col, std::string_view text) {
     if (!holds(row, col)) return false;
     cell& one = at(row, col);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -49,6 +50,8 @@ class grid : public control {
 
     /// Empty outside the grid. Valid until the next change of any cell.
     [[nodiscard]] std::string_view text(int row, int col) const;
+    /// The texts of a row's first columns, as text() gives them.
+    void texts(int row, std::span<std::string_view> into) const;
     /// False, with nothing done, outside the grid.
     bool set_text(int row, int col, std::string_view text);
 
