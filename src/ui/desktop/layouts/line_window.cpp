@@ -40,22 +40,15 @@ constexpr column columns[] = {
     {"prezzo", "Prezzo", 9, true},    {"civ", "Iva", 2, false},
 };
 
-QFrame* command_bar(form_window& window, const std::vector<line_command>& commands) {
-    auto* bar = new QFrame(&window);
-    set_look(bar, "role", "bar");
-    auto* row = new QHBoxLayout(bar);
-    row->setContentsMargins(8, 5, 8, 5);
-    row->setSpacing(2);
+QWidget* command_bar(form_window& window, const std::vector<line_command>& commands) {
+    QHBoxLayout* row = command_row(window, 5);
     for (const line_command& one : commands) {
         // Leaving stands apart.
         if (one.index == 0) row->addStretch(1);
         window.dress("comando", one.index, one.look);
-        auto* button = window.as<QToolButton>("comando", one.index);
-        button->setIconSize(QSize(26, 26));
-        button->setMinimumWidth(84);
-        row->addWidget(button);
+        add_command(row, window.as<QToolButton>("comando", one.index), 26);
     }
-    return bar;
+    return row->parentWidget();
 }
 
 void add_column(form_window& window, line_rows& lines, QGridLayout* cells, const column& one) {

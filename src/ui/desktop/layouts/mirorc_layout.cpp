@@ -28,25 +28,15 @@ constexpr command_look commands[] = {
     {"evasione", "Evas&ione", "Evade gli ordini di un cliente", "Ctrl+E"},
 };
 
-QFrame* register_bar(form_window& window) {
-    auto* bar = new QFrame(&window);
-    set_look(bar, "role", "bar");
-    auto* row = new QHBoxLayout(bar);
-    row->setContentsMargins(8, 6, 8, 6);
-    row->setSpacing(2);
+QWidget* register_bar(form_window& window) {
+    QHBoxLayout* row = command_row(window, 6);
     for (const int i : commands_from_left) {
         if (i == 3) row->addSpacing(18);
         if (i == 0) row->addStretch(1);
         window.dress("bottone", i, commands[i]);
-        auto* button = window.as<QToolButton>("bottone", i);
-        button->setIconSize(QSize(28, 28));
-        button->setMinimumWidth(86);
-        QSizePolicy place(QSizePolicy::Preferred, QSizePolicy::Fixed);
-        place.setRetainSizeWhenHidden(true);
-        button->setSizePolicy(place);
-        row->addWidget(button);
+        add_command(row, window.as<QToolButton>("bottone", i), 28, true);
     }
-    return bar;
+    return row->parentWidget();
 }
 
 QGroupBox* options(form_window& window, const char* title, const char* name, int count) {

@@ -53,31 +53,19 @@ void add_grid_keys(form_window& window) {
     }
 }
 
-QFrame* worklist_bar(form_window& window) {
-    auto* bar = new QFrame(&window);
-    set_look(bar, "role", "bar");
-    auto* row = new QHBoxLayout(bar);
-    row->setContentsMargins(8, 5, 8, 5);
-    row->setSpacing(2);
+QWidget* worklist_bar(form_window& window) {
+    QHBoxLayout* row = command_row(window, 5);
     window.dress("bottone", 1, {"avanti", "&Conferma", "Evade le righe segnate", "F12"});
     window.dress("bottone", 0, {"uscita", "&Esci", "Lascia senza evadere nulla", "Ctrl+Q"});
-    for (const int i : {1, 0}) {
-        auto* button = window.as<QToolButton>("bottone", i);
-        button->setIconSize(QSize(26, 26));
-        button->setMinimumWidth(84);
-        QSizePolicy place(QSizePolicy::Preferred, QSizePolicy::Fixed);
-        place.setRetainSizeWhenHidden(true);
-        button->setSizePolicy(place);
-        row->addWidget(button);
-        if (i == 0) break;
-        row->addSpacing(18);
-        auto* take = window.as<QAbstractButton>("aggiorna");
-        take->setToolTip("La destinazione e il vettore del documento sono quelli del primo ordine");
-        add_shortcut(*take, "Alt+G");
-        row->addWidget(take);
-        row->addStretch(1);
-    }
-    return bar;
+    add_command(row, window.as<QToolButton>("bottone", 1), 26, true);
+    row->addSpacing(18);
+    auto* take = window.as<QAbstractButton>("aggiorna");
+    take->setToolTip("La destinazione e il vettore del documento sono quelli del primo ordine");
+    add_shortcut(*take, "Alt+G");
+    row->addWidget(take);
+    row->addStretch(1);
+    add_command(row, window.as<QToolButton>("bottone", 0), 26, true);
+    return row->parentWidget();
 }
 
 QVBoxLayout* help_lines(form_window& window) {

@@ -30,6 +30,27 @@ void set_look(QWidget* widget, const char* property, const char* value) {
     widget->setProperty(property, value);
 }
 
+QHBoxLayout* command_row(form_window& window, int air) {
+    auto* bar = new QFrame(&window);
+    set_look(bar, "role", "bar");
+    auto* row = new QHBoxLayout(bar);
+    row->setContentsMargins(8, air, 8, air);
+    row->setSpacing(2);
+    return row;
+}
+
+void add_command(QHBoxLayout* row, QToolButton* button, int picture, bool keeps_place) {
+    constexpr int around_picture = 58;
+    button->setIconSize(QSize(picture, picture));
+    button->setMinimumWidth(picture + around_picture);
+    if (keeps_place) {
+        QSizePolicy place(QSizePolicy::Preferred, QSizePolicy::Fixed);
+        place.setRetainSizeWhenHidden(true);
+        button->setSizePolicy(place);
+    }
+    row->addWidget(button);
+}
+
 QVBoxLayout* body_under(QWidget* commands, form_window& window) {
     auto* all = new QVBoxLayout(&window);
     all->setContentsMargins(0, 0, 0, 0);

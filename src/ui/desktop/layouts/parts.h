@@ -30,6 +30,14 @@ QWidget* sized(QWidget* field, int characters, int margins = 24);
 QVBoxLayout* grid_with_sort_buttons(form_window& window, const char* grid, const char* name,
                                     int count);
 
+/// A bar for a window's commands, still empty, with so many dots above and below them. The bar is
+/// the row's parent.
+QHBoxLayout* command_row(form_window& window, int air);
+
+/// A command at the end of such a row, with a picture of so many dots. `keeps_place`: while it is
+/// hidden too.
+void add_command(QHBoxLayout* row, QToolButton* button, int picture, bool keeps_place = false);
+
 /// The plan of a working window: its commands across the top; what comes below them is returned.
 QVBoxLayout* body_under(QWidget* commands, form_window& window);
 

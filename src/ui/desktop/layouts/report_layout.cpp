@@ -61,21 +61,14 @@ constexpr filter_look value_filters[] = {
     {"All'ordine numero", "text1", 1, 6, 0},
 };
 
-QFrame* report_bar(form_window& window) {
-    auto* bar = new QFrame(&window);
-    set_look(bar, "role", "bar");
-    auto* row = new QHBoxLayout(bar);
-    row->setContentsMargins(8, 6, 8, 6);
-    row->setSpacing(2);
+QWidget* report_bar(form_window& window) {
+    QHBoxLayout* row = command_row(window, 6);
     for (const int i : commands_from_left) {
         if (i == 0) row->addStretch(1);
         window.dress("bottone", i, commands[i]);
-        auto* button = window.as<QToolButton>("bottone", i);
-        button->setIconSize(QSize(28, 28));
-        button->setMinimumWidth(86);
-        row->addWidget(button);
+        add_command(row, window.as<QToolButton>("bottone", i), 28);
     }
-    return bar;
+    return row->parentWidget();
 }
 
 /// The command that builds the list, with the progress of the build at its side.
