@@ -54,7 +54,7 @@ double net(double gross, const riga_ordine& line, const valuta& currency) {
 }  // namespace
 
 riepilogo_stampato::riepilogo_stampato(const riepilogo_iva& from) {
-    for (std::size_t code = 1; code <= 12; ++code) {
+    for (std::size_t code = 1; code <= ultima_aliquota; ++code) {
         if (from.imponibile_iva[code] != 0) {
             imponibile += from.imponibile_iva[code];
             iva += from.imposta_iva[code];

@@ -1,11 +1,11 @@
 #pragma once
 
-#include <cmath>
 #include <string>
 
 #include "program/order_lines.h"
 #include "store/block_reader.h"
 #include "store/records/rec_art.h"
+#include "store/values.h"
 
 namespace vantora {
 
@@ -25,11 +25,6 @@ class stored_rows {
     block_reader<Row> reader_;
     std::span<const Row> rows_;
 };
-
-/// What is no number in a file counts as 0.
-inline double finite_or_zero(double stored) {
-    return std::isfinite(stored) ? stored : 0;
-}
 
 /// Reads stored rows, of orders or quotes, into lines. A line shows its article's code as the
 /// article has it now, even if it once came by a bar code.

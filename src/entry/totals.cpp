@@ -1,7 +1,5 @@
 #include "entry/totals.h"
 
-#include <cmath>
-
 #include "program/vat_codes.h"
 #include "store/text/number_text.h"
 #include "ui/errors.h"
@@ -10,16 +8,11 @@ namespace vantora {
 
 namespace {
 
-double checked(double value) {
-    if (!std::isfinite(value)) throw ui::overflow_error();
-    return value;
-}
-
 /// Net amount of a line: the discounts cascade, each step is rounded.
 double net_amount(const riga_ordine& line, bool by_piece, const valuta& currency) {
     double amount = line.prezzo;
     if (by_piece) amount = arrotonda_valuta(amount * line.quantita, currency);
-    return checked(importo_scontato(amount, line.sc1, line.sc2, currency));
+    return ui::checked(importo_scontato(amount, line.sc1, line.sc2, currency));
 }
 
 }  // namespace
@@ -46,9 +39,7 @@ totali_ordine calcola_totali(const righe_ordine& lines, const tabella_iva& rates
         sums.imponibile += vat.imponibile_iva[code] + vat.esente_iva[code];
         sums.totale += vat.imposta_iva[code] + vat.imponibile_iva[code] + vat.esente_iva[code];
     }
-    checked(sums.imponibile);
-    checked(sums.totale);
-    checked(sums.pezzi);
+    for (const double one : {sums.imponibile, sums.totale, sums.pezzi}) ui::checked(one);
     return sums;
 }
 

@@ -1,6 +1,5 @@
 #include "fulfil/booking.h"
 
-#include <cmath>
 #include <vector>
 
 #include "fulfil/faults.h"
@@ -18,9 +17,7 @@ rec_orc prenota_riga(archivi& files, std::int64_t record, double quantity, std::
             release_stock(article, quantity, committed);
         }));
     }
-    const double fulfilled = row.evaso + quantity;
-    if (!std::isfinite(fulfilled)) throw ui::overflow_error();
-    row.evaso = fulfilled;
+    row.evaso = ui::checked(row.evaso + quantity);
     require(files.orc.write(record, row));
     return row;
 }

@@ -1,7 +1,5 @@
 #include "fulfil/mirorca.h"
 
-#include <cmath>
-
 #include "entry/order_head.h"
 #include "fulfil/mirorcc.h"
 #include "fulfil/salva_ddt.h"
@@ -95,8 +93,7 @@ void mirorca::take_lines_over() {
         app_.archives.art.read(line.articolo, article);
         line.codice = article.codice.full();
         line.um = article.um.full();
-        const double weight = article.peso;
-        line.peso = std::isfinite(weight) ? weight : 0;
+        line.peso = finite_or_zero(article.peso);
     }
 }
 
@@ -132,8 +129,7 @@ void mirorca::totals_changed() {
     for (int number = 1; number <= righe_ordine::massimo; ++number) {
         weight += righe_[number].peso * righe_[number].quantita;
     }
-    if (!std::isfinite(weight)) throw ui::overflow_error();
-    app_.mirorcc->Text3[3].set_text(testo_peso(weight));
+    app_.mirorcc->Text3[3].set_text(testo_peso(ui::checked(weight)));
 }
 
 // Commands ----------------------------------------------------------------------------------------
@@ -198,8 +194,9 @@ bool mirorca::ask_to_unload(const rec_art& article) {
 bool mirorca::make_document() {
     const mirorcc& head = *app_.mirorcc;
     ddt_da_registrare document;
-    for (std::size_t i = 0; i < 22; ++i) document.text2[i] = head.Text2[i].text();
-    for (std::size_t i = 0; i < 6; ++i) document.text3[i] = head.Text3[i].text();
+    const testata_documento fields = testata_da_stampare(head);
+    document.text2 = fields.text2;
+    document.text3 = fields.text3;
     document.porto = head.Combo1[0].chosen();
     document.causale = head.Combo1[1].chosen();
     document.trasporto = head.Combo1[2].chosen();

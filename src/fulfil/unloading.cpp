@@ -1,7 +1,5 @@
 #include "fulfil/unloading.h"
 
-#include <cmath>
-
 #include "fulfil/faults.h"
 #include "program/stock.h"
 #include "store/text/dates.h"
@@ -25,11 +23,6 @@ rec_mag movement_of(const movimento_magazzino& all, const riga_ordine& line, dou
     one.segno = 1;
     one.zero = 0;
     return one;
-}
-
-double checked(double value) {
-    if (!std::isfinite(value)) throw ui::overflow_error();
-    return value;
 }
 
 /// The line is gone from the document too; its discounts are worth nothing without a price.
@@ -79,7 +72,7 @@ write_outcome scarica_magazzino(archivi& files, const movimento_magazzino& movem
             require(files.art.read(line.articolo, article));
         }
         const double net_price =
-            checked(importo_scontato(line.prezzo, line.sc1, line.sc2, amounts));
+            ui::checked(importo_scontato(line.prezzo, line.sc1, line.sc2, amounts));
         unload_stock(article, line.quantita, net_price);
         require(files.art.write(line.articolo, article));
 

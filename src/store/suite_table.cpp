@@ -6,6 +6,7 @@
 
 #include "store/company.h"
 #include "store/text_reader.h"
+#include "store/vat_codes.h"
 
 namespace vantora {
 
@@ -87,12 +88,12 @@ std::string two_digits(int number) {
 
 std::vector<std::string> voci_iva(const tabella_iva& iva) {
     std::vector<std::string> entries;
-    for (std::size_t code = 1; code <= 12; ++code) {
+    for (std::size_t code = 1; code <= ultima_aliquota; ++code) {
         const std::string number = two_digits(static_cast<int>(code));
         entries.push_back(number + " Iva " + iva.aliquota_iva[code] + "%");
     }
-    for (std::size_t code = 1; code <= 12; ++code) {
-        const std::string number = two_digits(static_cast<int>(code) + 12);
+    for (std::size_t code = 1; code <= ultima_aliquota; ++code) {
+        const std::string number = two_digits(static_cast<int>(code) + ultima_aliquota);
         entries.push_back(number + " " + iva.descrizione_iva[code]);
     }
     return entries;

@@ -46,10 +46,13 @@ double importo_scontato(double amount, double sc1, double sc2, const valuta& in)
     return amount;
 }
 
+double finite_or_zero(double value) {
+    return std::isfinite(value) ? value : 0;
+}
+
 double valore_netto(double price, double quantity, double sc1, double sc2, const valuta& in) {
     const double gross = arrotonda_valuta(price * quantity, in);
-    const double net = arrotonda_valuta(importo_scontato(gross, sc1, sc2, in), in);
-    return std::isfinite(net) ? net : 0;
+    return finite_or_zero(arrotonda_valuta(importo_scontato(gross, sc1, sc2, in), in));
 }
 
 double testo_a_numero(std::string_view text) {

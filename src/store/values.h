@@ -43,6 +43,9 @@ double percentuale_eccesso(double value, double percent, const valuta& in);
 /// leaves, each is rounded to the currency's unit.
 double importo_scontato(double amount, double sc1, double sc2, const valuta& in);
 
+/// A number that a file or a calculation gave; what is no number, or beyond all, counts as 0.
+double finite_or_zero(double value);
+
 /// What a quantity is worth at its price, net of both discounts; 0 where that is beyond all
 /// numbers.
 double valore_netto(double price, double quantity, double sc1, double sc2, const valuta& in);

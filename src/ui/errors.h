@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cmath>
 #include <stdexcept>
 
 #include "store/text/code_page.h"
@@ -16,6 +17,12 @@ class overflow_error final : public runtime_error {
  public:
     overflow_error() : runtime_error("Errore di run-time '6': Overflow") {}
 };
+
+/// A number; one beyond all numbers is an overflow.
+inline double checked(double value) {
+    if (!std::isfinite(value)) throw overflow_error();
+    return value;
+}
 
 class subscript_error final : public runtime_error {
  public:
