@@ -125,7 +125,7 @@ mirpref::mirpref(program& app) : import_picker(app, ordini()) {}
 // Dropping the picker brings the order to the front, so what its activation does comes before the
 // chosen lines do.
 void mirpref::leave(const std::string& block) {
-    app_.parameters.parametri_valuta[valuta_slot::scelta_ordine] = block;
+    app_.scelta_ordine = block;
     app_.mirorcs->numfat.set_text("1");
     unload();
 }

@@ -65,7 +65,7 @@ void mirorcs::import_order() {
     app_.mirpref.use().show();
     app_.desk.wait_until([this] { return numfat.text() != "0" || gone(); });
     if (gone()) return;
-    const std::string& chosen = app_.parameters.parametri_valuta[valuta_slot::scelta_ordine];
+    const std::string& chosen = app_.scelta_ordine;
     if (const auto block = to_int16(number_at_head(chosen)); !chosen.empty() && block) {
         sostituisci_con_ordine(righe_, app_.archives, *block);
         compute_totals();

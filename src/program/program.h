@@ -49,6 +49,7 @@ struct program {
     int modo_ordine = 0;
     int schermo_pronto = 0;     ///< 0: the next screen starts fresh
     int ripristino_vista = 0;   ///< 1: the register puts its view options back, nothing is saved
+    std::string scelta_ordine;  ///< block of the order chosen to be imported, empty for none
     int ricarica_registro = 0;  ///< 1: the register rebuilds its list on return
     int selezione_cliente = 0;  ///< who called the customer pick list, 99: a customer was chosen
     double data_sistema = 0;    ///< date number of the last confirmation

@@ -36,7 +36,6 @@ inline constexpr std::size_t decimali_prezzo = 5;     ///< decimals of unit pric
 inline constexpr std::size_t cartella_pdf = 7;
 inline constexpr std::size_t riservato_pdf = 8;
 inline constexpr std::size_t invio_email = 9;
-inline constexpr std::size_t scelta_ordine = 10;
 inline constexpr std::size_t settima_riga = 11;  ///< kept for the suite
 }  // namespace valuta_slot
 
