@@ -15,7 +15,8 @@ constexpr double testo = 3;
 constexpr double figura = 4;
 
 /// Columns of an element's values; what they mean beyond the position turns on its kind.
-enum colonna {
+namespace colonna {
+enum : std::size_t {
     tipo,
     sinistra,
     alto,
@@ -27,6 +28,7 @@ enum colonna {
     grassetto,
     corsivo
 };
+}  // namespace colonna
 
 constexpr double larghezza_pagina = 210;
 constexpr double altezza_pagina = 297;
@@ -39,14 +41,14 @@ std::span<elemento_disegno> elements_in_use(disegno& drawing) {
 }
 
 ui::colour ink_of(const elemento_disegno& one) {
-    return ui::colour_of(one.valori[colore]).value_or(ui::black);
+    return ui::colour_of(one.valori[colonna::colore]).value_or(ui::black);
 }
 
 /// The user sees each picture while it goes to the paper.
 void disegna_immagine(program& app, ui::printer& paper, const elemento_disegno& one,
                       figure_documento& pictures, ui::picture& figure) {
-    const double x = one.valori[sinistra];
-    const double y = one.valori[alto];
+    const double x = one.valori[colonna::sinistra];
+    const double y = one.valori[colonna::alto];
     const auto image = pictures.at(one.testi[0], x, y, paper.page_width(), paper.page_height());
     if (!image) return;
     figure.set_bitmap(image);
@@ -62,45 +64,46 @@ void draw_picture(program& app, document_output& out, const elemento_disegno& on
     disegna_immagine(app, out.paper(), one, pictures, figure);
     record_di_stampa record;
     record.tipo = tipo_record::figura;
-    record.x1 = one.valori[sinistra];
-    record.y1 = one.valori[alto];
-    record.x2 = one.valori[destra];
-    record.y2 = one.valori[basso];
+    record.x1 = one.valori[colonna::sinistra];
+    record.y1 = one.valori[colonna::alto];
+    record.x2 = one.valori[colonna::destra];
+    record.y2 = one.valori[colonna::basso];
     record.testo = one.testi[0];
     out.file().write(record);
 }
 
 void pull_into_page(elemento_disegno& one) {
     auto& values = one.valori;
-    values[sinistra] = std::max(values[sinistra], 0.0);
-    values[alto] = std::max(values[alto], 0.0);
-    values[destra] = std::min(values[destra], larghezza_pagina);
-    values[basso] = std::min(values[basso], altezza_pagina);
+    values[colonna::sinistra] = std::max(values[colonna::sinistra], 0.0);
+    values[colonna::alto] = std::max(values[colonna::alto], 0.0);
+    values[colonna::destra] = std::min(values[colonna::destra], larghezza_pagina);
+    values[colonna::basso] = std::min(values[colonna::basso], altezza_pagina);
 }
 
 /// The record of a line or a box; both have their line 10.
 record_di_stampa shape_record(tipo_record kind, const elemento_disegno& one, double mark) {
     record_di_stampa record;
     record.tipo = kind;
-    record.x1 = one.valori[sinistra];
-    record.y1 = one.valori[alto];
-    record.x2 = one.valori[destra];
-    record.y2 = one.valori[basso];
-    record.colore = one.valori[colore];
+    record.x1 = one.valori[colonna::sinistra];
+    record.y1 = one.valori[colonna::alto];
+    record.x2 = one.valori[colonna::destra];
+    record.y2 = one.valori[colonna::basso];
+    record.colore = one.valori[colonna::colore];
     record.grassetto = mark;
     return record;
 }
 
 void draw_box(document_output& out, const elemento_disegno& one, bool filled) {
     const auto& values = one.valori;
-    out.paper().box(values[sinistra], values[alto], values[destra], values[basso], ink_of(one),
-                    filled);
+    out.paper().box(values[colonna::sinistra], values[colonna::alto], values[colonna::destra],
+                    values[colonna::basso], ink_of(one), filled);
     out.file().write(shape_record(tipo_record::riquadro, one, filled ? 1 : 0));
 }
 
 void draw_line(document_output& out, const elemento_disegno& one) {
     const auto& values = one.valori;
-    out.paper().line(values[sinistra], values[alto], values[destra], values[basso], ink_of(one));
+    out.paper().line(values[colonna::sinistra], values[colonna::alto], values[colonna::destra],
+                     values[colonna::basso], ink_of(one));
     out.file().write(shape_record(tipo_record::linea, one, 1));
 }
 
@@ -110,12 +113,13 @@ void draw_text(document_output& out, const elemento_disegno& one, std::int16_t s
     // The drawing lists are shared with the suite's invoices, which turn into credit notes.
     const bool credit_note = selezione_2 == 1 && upper(trimmed(text)) == "FATTURA NUMERO";
     if (credit_note) text = "Nota credito numero";
-    out.print(values[sinistra], values[alto], text,
-              {std::max(values[corpo], corpo_minimo), one.testi[1], values[grassetto] != 0,
-               values[corsivo] != 0, values[colore]});
-    out.file().write({tipo_record::testo, values[sinistra], values[alto], 0, 0, values[corpo],
-                      values[colore], std::move(text), one.testi[1], values[grassetto],
-                      values[corsivo]});
+    out.print(
+        values[colonna::sinistra], values[colonna::alto], text,
+        {std::max(values[colonna::corpo], corpo_minimo), one.testi[1],
+         values[colonna::grassetto] != 0, values[colonna::corsivo] != 0, values[colonna::colore]});
+    out.file().write({tipo_record::testo, values[colonna::sinistra], values[colonna::alto], 0, 0,
+                      values[colonna::corpo], values[colonna::colore], std::move(text),
+                      one.testi[1], values[colonna::grassetto], values[colonna::corsivo]});
 }
 
 }  // namespace
@@ -125,17 +129,20 @@ void disegna_sfondo(program& app, document_output& out, const documento_da_stamp
     const auto elements = elements_in_use(document.sfondo);
     pictures.begin_page();
     for (const auto& one : elements) {
-        if (one.valori[tipo] == figura) draw_picture(app, out, one, pictures, document.figura);
+        if (one.valori[colonna::tipo] == figura)
+            draw_picture(app, out, one, pictures, document.figura);
     }
     std::ranges::for_each(elements, pull_into_page);
     for (const auto& one : elements) {
-        if (one.valori[tipo] == riquadro && one.valori[riempito] == 1) draw_box(out, one, true);
+        if (one.valori[colonna::tipo] == riquadro && one.valori[colonna::riempito] == 1)
+            draw_box(out, one, true);
     }
     std::size_t characters = 0;
     for (const auto& one : elements) {
-        if (one.valori[tipo] == riquadro && one.valori[riempito] == 0) draw_box(out, one, false);
-        if (one.valori[tipo] == linea) draw_line(out, one);
-        if (one.valori[tipo] != testo) continue;
+        if (one.valori[colonna::tipo] == riquadro && one.valori[colonna::riempito] == 0)
+            draw_box(out, one, false);
+        if (one.valori[colonna::tipo] == linea) draw_line(out, one);
+        if (one.valori[colonna::tipo] != testo) continue;
         characters += one.testi[0].size();
         if (characters <= caratteri_sfondo) draw_text(out, one, app.selezione_2);
     }
