@@ -54,8 +54,10 @@ void customer_head::wire_events() {
 void customer_head::load() {
     const tabella_suite table = leggi_tabella_suite(app_.files, app_.parameters.numero_azienda);
     vettori_ = table.vettori;
+    std::vector<std::string> names;
+    for (const vettore& carrier : vettori_) names.push_back(carrier[0]);
     Combo3.clear();
-    for (const vettore& carrier : vettori_) Combo3.add(carrier[0]);
+    Combo3.add_all(std::move(names));
     loading_ = true;
     Combo3.choose(0);
     loading_ = false;

@@ -39,14 +39,13 @@ bool control::set_focus() {
     return owner_ && owner_->desk().give_focus(*this);
 }
 
-bool control::offer_key(int code, std::optional<char>& character) {
+bool control::offer_key(int code, std::optional<char> character) {
     key_event down{code};
     if (on_key_down) on_key_down(down);
     if (down.swallowed()) return false;
     if (!character) return true;
     key_event press{static_cast<unsigned char>(*character)};
     if (on_key_press) on_key_press(press);
-    character = static_cast<char>(press.code);
     return !press.swallowed();
 }
 

@@ -45,8 +45,7 @@ class control_view {
     virtual void changed(aspect what) = 0;
 };
 
-/// A key on its way through a control's key events. A handler swallows it by setting the code to
-/// 0; only what is left then changes the control.
+/// A key on its way through a control's key events. One that a handler swallows has no effect.
 struct key_event {
     int code = 0;
 
@@ -118,7 +117,7 @@ class control {
 
     /// Offers a key to the key events: key down first, then, for a key with a character, key
     /// press. False if one of them swallowed it.
-    bool offer_key(int code, std::optional<char>& character);
+    bool offer_key(int code, std::optional<char> character);
 
     /// What a key that wasn't swallowed does in this kind of control. A front end whose fields
     /// have a cursor edits there in its place.

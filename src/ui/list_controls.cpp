@@ -19,22 +19,7 @@ std::string_view list_control::text() const {
     return chosen_ < 0 ? std::string_view{} : std::string_view(item(chosen_));
 }
 
-void list_control::add(std::string item) {
-    if (!sorted_) {
-        items_.push_back(std::move(item));
-    } else {
-        const auto place = std::upper_bound(items_.begin(), items_.end(), item, stands_before);
-        if (chosen_ >= place - items_.begin()) ++chosen_;
-        items_.insert(place, std::move(item));
-    }
-    show_change(aspect::items);
-}
-
 void list_control::add_all(std::vector<std::string> items) {
-    if (sorted_ && chosen_ >= 0) {
-        for (auto& item : items) add(std::move(item));
-        return;
-    }
     items_.insert(items_.end(), std::make_move_iterator(items.begin()),
                   std::make_move_iterator(items.end()));
     if (sorted_) std::stable_sort(items_.begin(), items_.end(), stands_before);

@@ -24,8 +24,7 @@ class list_control : public control {
     /// The chosen entry, empty if there is none.
     [[nodiscard]] std::string_view text() const;
 
-    void add(std::string item);
-    /// Many entries at once; the same outcome as adding them one by one.
+    /// REQUIRES: nothing is chosen in a sorted list.
     void add_all(std::vector<std::string> items);
     /// Takes all entries out; nothing is chosen, and no click fires.
     void clear();

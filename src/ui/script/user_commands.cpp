@@ -45,8 +45,7 @@ void press(desk& desk, const named_key& pressed) {
     control* here = desk.focus();
     if (!here) return;
     if (pressed.code != key::tab) return here->press_key(pressed.code, pressed.character);
-    std::optional<char> none;
-    if (here->offer_key(key::tab, none)) desk.tab(false);
+    if (here->offer_key(key::tab, {})) desk.tab(false);
 }
 
 }  // namespace
