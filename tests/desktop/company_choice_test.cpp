@@ -6,7 +6,7 @@
 #include <fstream>
 
 #include "support/scratch_folder.h"
-#include "window_bench.h"
+#include "window_stage.h"
 
 namespace vantora {
 namespace {

@@ -1,6 +1,9 @@
-#include <QFile>
+#include <QDialog>
+#include <QDir>
+#include <QLabel>
 #include <QLineEdit>
 #include <QRegularExpression>
+#include <QTemporaryDir>
 #include <set>
 
 #include "program_window.h"
@@ -70,6 +73,33 @@ TEST_F(keys, F1FindsAnArticleInADescriptionAndElseOpensTheManual) {
         cell.setProperty("column", "ds");
         EXPECT_FALSE(asks_for_manual(f1, &cell));
     }});
+    const QTemporaryDir folder;
+    QDir(folder.path()).mkpath("bin");
+    for (const char* better : {"manual/%1.html", "share/doc/vantora-ordini/%1.html",
+                               "manual/%1.pdf", "share/doc/vantora-ordini/%1.pdf"}) {
+        const QString file = folder.filePath(QString(better).arg("vantora-ordini-manuale"));
+        QDir().mkpath(QFileInfo(file).path());
+        ASSERT_TRUE(QFile(file).open(QIODevice::WriteOnly));
+        EXPECT_EQ(manual_file(folder.filePath("bin")), file);
+    }
+}
+
+TEST_F(keys, TheOverviewShowsWhatTheWindowTells) {
+    QStringList told, shown;
+    run({[&] {
+        QWidget* window = bench.front.front_window();
+        for (const told_key* one : keys_of(*window)) told << one->native_keys() << one->what();
+        QTimer::singleShot(0, [&] {
+            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            ASSERT_TRUE(dialog);
+            for (const QLabel* one : dialog->findChildren<QLabel*>()) shown << one->text();
+            dialog->reject();
+        });
+        QTest::keyClick(window, Qt::Key_Question, Qt::ControlModifier);
+        window->activateWindow();
+    }});
+    EXPECT_EQ(shown, told);
+    EXPECT_TRUE(told.contains("Registra un nuovo ordine"));
 }
 
 }  // namespace

@@ -6,7 +6,7 @@
 #include <QTemporaryDir>
 
 #include "ui/controls.h"
-#include "window_bench.h"
+#include "window_stage.h"
 
 namespace vantora::ui::desktop {
 namespace {
@@ -18,7 +18,7 @@ class listed final : public form {
         add("elenco", elenco);
         elenco.set_columns({{"Numero", 1}, {"Nome", 3}, {"nascosta", 0}});
         elenco.set_rows(7);
-        const char* names[] = {"Alfa", "Beta", "Gamma", "Alfabeta", "Delta; \"D\""};
+        const char* names[] = {"Alfa", "Beta", "Gamma", "Alfabeta", "Delta; \"D\"\n\xC8"};
         for (int row = 1; row <= 5; ++row) {
             elenco.set_text(row, 0, std::to_string(row) + ",5");
             elenco.set_text(row, 1, names[row - 1]);
@@ -82,6 +82,7 @@ TEST_F(list_tools, RowsAreMarkedAndCopiedWithoutTouchingTheList) {
         EXPECT_EQ(copied(), "1,5\tAlfa\n2,5\tBeta\n");
         QTest::keyClick(table(), Qt::Key_A, Qt::ControlModifier);
         EXPECT_EQ(copied().count('\n'), 5);
+        EXPECT_TRUE(copied().endsWith("5,5\tDelta; \"D\" È\n"));
         screen->elenco.set_text(1, 0, "0");
         EXPECT_EQ(copied(), "2,5\tBeta\n") << "marks of a list that changed are gone";
     }});
@@ -104,7 +105,7 @@ TEST_F(list_tools, TheListIsSavedAsCsv) {
     ASSERT_TRUE(saved.open(QIODevice::ReadOnly));
     EXPECT_EQ(saved.readAll(),
               "\xEF\xBB\xBFNumero;Nome\r\n1,5;Alfa\r\n2,5;Beta\r\n3,5;Gamma\r\n4,5;Alfabeta\r\n"
-              "5,5;\"Delta; \"\"D\"\"\"\r\n");
+              "5,5;\"Delta; \"\"D\"\"\nÈ\"\r\n");
 }
 
 }  // namespace

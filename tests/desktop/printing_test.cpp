@@ -8,7 +8,7 @@
 #include "support/scratch_folder.h"
 #include "ui/controls.h"
 #include "ui/desktop/system_ports.h"
-#include "window_bench.h"
+#include "window_stage.h"
 
 namespace vantora::ui::desktop {
 namespace {

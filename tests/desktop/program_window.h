@@ -9,7 +9,7 @@
 #include "store/drive.h"
 #include "support/faulty_files.h"
 #include "ui/pictures/pixbuf_decoder.h"
-#include "window_bench.h"
+#include "window_stage.h"
 
 namespace vantora::ui::desktop::test {
 
@@ -46,7 +46,7 @@ class program_window : public testing::Test {
     vantora::test::small_company company;
     drive files{company.drive()};
     vantora::test::faulty_files disk{files};
-    window_bench bench;
+    window_stage bench;
     ui::pixbuf_decoder pictures;
     program app{disk, bench.desk, pictures};
 };

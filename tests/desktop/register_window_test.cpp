@@ -3,12 +3,14 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <csignal>
+#include <sstream>
 
 #include "program_window.h"
 #include "register/mirorc.h"
 #include "store/company.h"
 #include "store/instance_lock.h"
 #include "ui/desktop/outside_end.h"
+#include "ui/desktop/script_runner.h"
 
 namespace vantora::ui::desktop {
 namespace {
@@ -51,6 +53,13 @@ TEST_F(register_window, ShowsAndSortsTheOrdersAsItsButtonsAndOptionsSay) {
              // Typing searches the sorted column.
              QTest::keyClicks(table(), "ze");
              EXPECT_EQ(app.mirorc->elenco.row(), 3);
+             for (const int col : {0, 4}) {
+                 QWidget* button = bench.find(("srx(" + std::to_string(col) + ")").c_str());
+                 const QPoint head(table()->columnViewportPosition(col), 0);
+                 EXPECT_NEAR(button->mapTo(table()->window(), QPoint()).x(),
+                             table()->viewport()->mapTo(table()->window(), head).x(), 2);
+                 EXPECT_NEAR(button->width(), table()->columnWidth(col), 4);
+             }
              QTest::mouseClick(bench.find("selvis(1)"), Qt::LeftButton, {}, QPoint(8, 8));
              EXPECT_EQ(app.parameters.gnr.vista_registro, 1);
              QTest::keyClick(bench.find("selvis(1)"), Qt::Key_Down);
@@ -107,7 +116,11 @@ TEST_F(register_window, CompactsAfterItsTwoQuestions) {
              QTest::keyClick(box(), Qt::Key_Backtab);
              QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
          },
-         [&] { EXPECT_EQ(cell(1, 1), "3"); }});
+         [&] {
+             EXPECT_EQ(cell(1, 1) + cell(2, 0), "3");
+             EXPECT_TRUE(bench.find("bottone(4)")->isVisible());
+             EXPECT_FALSE(bench.find("srt")->isVisible());
+         }});
 }
 
 TEST_F(register_window, ALongListTellsHowFarItIsAndTheUserWaits) {
@@ -117,6 +130,7 @@ TEST_F(register_window, ALongListTellsHowFarItIsAndTheUserWaits) {
                  auto* bar = bench.find<QProgressBar>("list_bar");
                  ASSERT_TRUE(bar);
                  EXPECT_TRUE(bar->isVisible());
+                 EXPECT_TRUE(table()->geometry().contains(bar->geometry())) << "in its place";
                  bench.press_button("bottone(2)");
                  bench.front.front_window()->close();
                  EXPECT_FALSE(bench.desk.ended());
@@ -208,10 +222,23 @@ TEST_F(register_window, DraggedColumnsKeepTheirWidthsFromRunToRun) {
         width = table()->columnWidth(1);
         EXPECT_GT(width, designed + 30);
     }});
-    test::window_bench later;
+    test::window_stage later;
     program again(disk, later.desk, pictures);
     later.run([&] { start(again, "ordini001"); },
               {[&] { EXPECT_NEAR(later.find<QTableView>("elenco")->columnWidth(1), width, 2); }});
+}
+
+TEST_F(register_window, AScriptOfManyOrdersLeavesNoWindowsBehind) {
+    std::stringstream commands, replies;
+    for (int i = 0; i < 12; ++i) commands << "click mirorc.bottone(2)\nclose mirorcx\n";
+    script::interpreter by(bench.desk, bench.time, bench.paper, bench.programs);
+    script_runner runner(bench.front, by, commands, replies);
+    bench.front.served_by([&] { return runner.step(); }, {});
+    bench.desk.dispatch([&] { start(app, "ordini001"); });
+    bench.front.run();
+    runner.write_reply();
+    EXPECT_EQ(QString::fromStdString(replies.str()).count("\"screen\":\"mirorcx\""), 12);
+    EXPECT_LT(QApplication::topLevelWidgets().size(), 12);
 }
 
 }  // namespace

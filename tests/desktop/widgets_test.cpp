@@ -1,4 +1,5 @@
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QScrollBar>
 #include <QTableView>
@@ -7,7 +8,7 @@
 
 #include "store/text/code_page.h"
 #include "ui/controls.h"
-#include "window_bench.h"
+#include "window_stage.h"
 
 namespace vantora::ui::desktop {
 namespace {
@@ -24,6 +25,7 @@ class trial final : public form {
         add("barra", barra);
         add("data", data);
         add("elenco", elenco);
+        add("figura", figura);
         elenco.set_columns({{"a", 1}, {"b", 1}});
         tendina.add_all({"uno", "due", "tre"});
         std::vector<std::string> many;
@@ -44,6 +46,7 @@ class trial final : public form {
     scroll_bar barra;
     date_picker data;
     grid elenco;
+    picture figura;
 };
 
 using widgets = test::window_of<trial>;
@@ -76,6 +79,13 @@ TEST_F(widgets, KeysGoToTheEventsFirstAndMayBeSwallowed) {
         EXPECT_EQ(bench.find<QLineEdit>("testo")->text(), "da fuori");
         QTest::keyClick(bench.find("testo"), Qt::Key_Z, Qt::ControlModifier);
         EXPECT_EQ(screen->testo.text(), "") << "what the hand found there";
+        screen->figura.set_bitmap(std::make_shared<const bitmap>(bitmap{2, 1, {0, 0}}));
+        const auto* figure = bench.find<QLabel>("figura");
+        EXPECT_TRUE(figure->isVisible());
+        EXPECT_EQ(figure->geometry().center(), figure->window()->rect().center());
+        screen->altro.on_change = [&] { screen->unload(); };
+        QTest::keyClicks(bench.find("altro"), "1");
+        EXPECT_TRUE(bench.desk.forms().empty()) << "in the midst of its own event";
     }});
 }
 

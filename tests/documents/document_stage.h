@@ -11,7 +11,7 @@
 
 namespace vantora::test {
 
-/// A document on the bench, with the printer and the print file that it goes to.
+/// A document, with the printer and the print file that it goes to.
 struct document_stage : program_stage<ui::test::prepared_user> {
     testata_documento head;
     righe_ordine lines;

@@ -317,7 +317,10 @@ TEST(stored_orders, WhatStandsInTheWayIsNamedAndNothingIsWritten) {
         };
         stage.faults.read_fails = [&](auto& path, auto...) { return hit(path, way::unreadable); };
         stage.faults.read_only = [&](auto& path) { return hit(path, way::read_only); };
-        stage.faults.room_lacks = [&](auto& path, auto) { return hit(path, way::full); };
+        // Room for a whole block is asked for.
+        stage.faults.room_lacks = [&](auto& path, auto end) {
+            return hit(path, way::full) && end % (200 * sizeof(rec_orc)) == 0;
+        };
         if (one.how == way::negative) stage.company.counter(contatori::ordini, -1);
         const write_outcome outcome = stage.work(stage.any(one.what));
         EXPECT_FALSE(outcome.begun());

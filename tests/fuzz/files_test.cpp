@@ -12,7 +12,7 @@
 #include "documents/printed_document.h"
 #include "support/file_bytes.h"
 #include "support/scratch_folder.h"
-#include "ui/bench_desk.h"
+#include "ui/desk_stage.h"
 #include "ui/pictures/pixbuf_decoder.h"
 
 namespace vantora {
@@ -73,7 +73,7 @@ void read_as_picture(std::string_view content) {
 
 /// Layout, drawing and pictures of a document all have the content.
 void print_document(one_content& files) {
-    ui::test::bench_desk around;
+    ui::test::desk_stage around;
     ui::pixbuf_decoder decoder;
     program app{files, around.desk, decoder};
     const auto tables = std::make_unique<tabelle_documento>();

@@ -187,17 +187,5 @@ TEST(compattazione, ProgressTellsEveryBlockBeforeItMovesAndMayEndThePass) {
     EXPECT_EQ(kept_numbers(archive.files), (std::vector<std::string>{"2", "2", "3"}));
 }
 
-TEST(compattazione, DamagedCountersDoNoHarm) {
-    for (const int count : {-5, 0, 50, 32767}) {
-        noted_archive archive("od");
-        const auto length = std::filesystem::file_size(archive.company.file("orc"));
-        archive.counter.quanti = static_cast<std::int16_t>(count);
-        archive.compact();
-        EXPECT_EQ(stored(archive.files.orc, 1).numero.trimmed(), "1") << count;
-        EXPECT_EQ(counter_of(archive.files).quanti, count > 0 ? count - 1 : count);
-        EXPECT_EQ(std::filesystem::file_size(archive.company.file("orc")), length) << count;
-    }
-}
-
 }  // namespace
 }  // namespace vantora::test

@@ -26,9 +26,4 @@ std::vector<nlohmann::json> run_script(const std::filesystem::path& folder,
     return replies;
 }
 
-nlohmann::json value_after(const std::filesystem::path& folder,
-                           const std::vector<std::string>& commands) {
-    return run_script(folder, commands).back().value("value", nlohmann::json());
-}
-
 }  // namespace vantora::test

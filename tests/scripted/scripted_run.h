@@ -12,8 +12,4 @@ namespace vantora::test {
 std::vector<nlohmann::json> run_script(const std::filesystem::path& drive,
                                        const std::vector<std::string>& commands);
 
-/// The same, the value of the last command only.
-nlohmann::json value_after(const std::filesystem::path& drive,
-                           const std::vector<std::string>& commands);
-
 }  // namespace vantora::test

@@ -81,33 +81,7 @@ TEST_F(channel_test, RoomIsSetAsideWithoutChangingTheFile) {
     ::setrlimit(RLIMIT_FSIZE, &before);
 }
 
-TEST_F(channel_test, ASaveIsPlannedOnlyWhereItCanBeWritten) {
-    test::put(f, std::string("\5\0          \xFF\xFF          ", 24));
-    const struct {
-        std::string damage;
-        int counter;
-        const char* obstacle;
-    } cases[] = {
-        {"none", 1, ""},
-        {"negative counter", 2, "vantora.tot"},
-        {"unreadable", 1, "vantora.tot"},
-        {"read only", 1, "vantora.orc"},
-        {"full", 1, "vantora.orc"},
-    };
-    for (const auto& one : cases) {
-        test::faulty_files disk(port);
-        disk.read_fails = [&](auto&&...) { return one.damage == "unreadable"; };
-        disk.read_only = [&](auto& path) { return one.damage == "read only" && path == "\\o"; };
-        disk.room_lacks = [&](auto&, auto end) { return one.damage == "full" && end > 1199 * 284; };
-        channel<rec_tot> tot(disk.open_records("\\f"), "vantora.tot");
-        channel<rec_orc> orc(disk.open_records("\\o"), "vantora.orc");
-        write_plan plan;
-        rec_tot counter;
-        plan.counts(tot, one.counter, counter);
-        plan.writes(orc, block_record(counter.quanti + 1, 1), righe_blocco);
-        EXPECT_EQ(plan.obstacle(), one.obstacle) << one.damage;
-        EXPECT_EQ(plan.possible(), plan.obstacle().empty());
-    }
+TEST(write_faults, NameEachFileOnceInTheOrderOfTheFirstFaults) {
     write_faults refused;
     const channel<rec_orc> orc(nullptr, "vantora.orc");
     const channel<rec_art> art(nullptr, "vantora.art");

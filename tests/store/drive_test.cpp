@@ -2,11 +2,54 @@
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <unistd.h>
+
+#include <cerrno>
 
 #include "store/company.h"
 #include "support/file_bytes.h"
 #include "support/scratch_folder.h"
+
+namespace {
+
+/// How the system's calls go: as they do on a drive of another machine, where every second one is
+/// interrupted and the others do a part of what was asked; and what was flushed.
+struct {
+    bool by_halves = false;
+    int calls = 0;
+    std::string flushed;
+
+    bool interrupts() {
+        const bool now = by_halves && ++calls % 2 == 1;
+        if (now) errno = EINTR;
+        return now;
+    }
+    [[nodiscard]] size_t part(size_t size) const { return by_halves ? (size + 1) / 2 : size; }
+    int flush(const char* what) {
+        if (interrupts()) return -1;
+        flushed += what;
+        return 0;
+    }
+} calls;
+
+}  // namespace
+
+// In the place of the system's own.
+extern "C" {
+ssize_t pread(int file, void* into, size_t size, off_t at) {
+    return calls.interrupts() ? -1 : syscall(SYS_pread64, file, into, calls.part(size), at);
+}
+ssize_t pwrite(int file, const void* from, size_t size, off_t at) {
+    return calls.interrupts() ? -1 : syscall(SYS_pwrite64, file, from, calls.part(size), at);
+}
+int fdatasync(int) {
+    return calls.flush("file ");
+}
+int fsync(int) {
+    return calls.flush("folder ");
+}
+}
 
 namespace vantora {
 namespace {
@@ -48,6 +91,20 @@ TEST_F(drive_test, OpensNothingButPlainFiles) {
     }
     EXPECT_FALSE(port.read_whole("\\manca").has_value());
     EXPECT_FALSE(port.create_folder("\\manca\\dentro"));
+}
+
+TEST_F(drive_test, WhatIsInterruptedOrDoneByHalvesIsDoneWhole) {
+    const auto file = port.open_records("\\f");
+    const std::string written = "una riga di un archivio";
+    std::string read(written.size() + 5, '?');
+    calls = {true, 0, ""};
+    EXPECT_TRUE(file->write(0, std::as_bytes(std::span(written))));
+    EXPECT_EQ(file->read(0, std::as_writable_bytes(std::span(read))), written.size());
+    EXPECT_TRUE(file->flush() && file->flush());
+    EXPECT_EQ(calls.flushed, "file folder file ") << "a new file is lost with its name";
+    calls = {};
+    EXPECT_EQ(read.substr(0, written.size()), written);
+    EXPECT_EQ(test::bytes_of(folder.path() / "f"), written);
 }
 
 TEST_F(drive_test, OfATextFarTooLargeItReadsTheHead) {

@@ -34,14 +34,6 @@ TEST(code_page, CapitalsKeepTheLength) {
     EXPECT_EQ(upper("caff\xE8 \xFF\x9A\xDF\xF7"), "CAFF\xC8 \x9F\x8A\xDF\xF7");
 }
 
-TEST(code_page, TrimmingTakesBlanksOnly) {
-    EXPECT_EQ(trimmed("  a b "), "a b");
-    EXPECT_EQ(trimmed("   "), "");
-    const std::string zeros("\0a\0", 3);
-    EXPECT_EQ(trimmed(zeros), zeros);
-    EXPECT_EQ(trimmed("\ta"), "\ta");
-}
-
 TEST(compare_alphabetically, PutsAccentsBesideTheirBaseLetter) {
     std::istringstream order("- 0 9 a à ab ae aè àe b e è èlite eolo f z"_cp);
     std::string before;

@@ -1,3 +1,5 @@
+// How amounts round is held by the totals, against a plain recomputation.
+
 #include "store/values.h"
 
 #include <gtest/gtest.h>
@@ -15,30 +17,6 @@ valuta euro(int price_decimals = 2) {
     valuta currency;
     currency.decimali_prezzo = price_decimals;
     return currency;
-}
-
-TEST(values, RoundingAddsItsBiasAndGoesDown) {
-    const std::pair<double, double> in_lire[] = {{10.48, 10},   {10.49, 11}, {10.50, 11},
-                                                 {-10.60, -11}, {0, 0},      {-0.2, 0}};
-    for (const auto& [value, rounded] : in_lire) {
-        EXPECT_EQ(arrotonda_valuta(value, lire()), rounded) << value;
-    }
-    const std::pair<double, double> in_euro[] = {
-        {2.005, 2.01}, {2.00495, 2.01}, {5.555, 5.56}, {-1.006, -1.01}};
-    for (const auto& [value, rounded] : in_euro) {
-        EXPECT_EQ(arrotonda_valuta(value, euro()), rounded) << value;
-    }
-}
-
-TEST(values, PercentagesRoundByTheirOwnBias) {
-    EXPECT_EQ(percentuale_valuta(100, 22, lire()), 22);
-    EXPECT_EQ(percentuale_valuta(100, 22, euro()), 22);
-    EXPECT_EQ(percentuale_valuta(101, 10, lire()), 10);
-    EXPECT_EQ(percentuale_eccesso(101, 10, lire()), 11);
-    EXPECT_EQ(percentuale_eccesso(1001, 20, lire()), 201);
-    EXPECT_EQ(percentuale_valuta(1001, 10, lire()), 100);
-    EXPECT_EQ(percentuale_eccesso(25.65, 20, euro()), 5.13);
-    EXPECT_EQ(percentuale_valuta(30, 10, euro()), 3);
 }
 
 TEST(values, TypedTextsAreItalian) {

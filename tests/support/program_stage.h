@@ -4,7 +4,7 @@
 #include "store/drive.h"
 #include "support/faulty_files.h"
 #include "support/scratch_folder.h"
-#include "ui/bench_desk.h"
+#include "ui/desk_stage.h"
 #include "ui/pictures/pixbuf_decoder.h"
 
 namespace vantora::test {

@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <set>
 
+#include "demo/codes.h"
 #include "demo_folder.h"
 #include "store/drive.h"
 #include "store/records.h"
@@ -48,6 +49,13 @@ TEST(demo_company, OrdersStandInEveryStateAndStockAgreesWithTheMovements) {
         EXPECT_GE(one.impegnato, 0) << number;
         EXPECT_LE(one.impegnato, one.ordinato_clienti + 1e-6) << number;
     }
+}
+
+/// Well-known ones, as other programs check them.
+TEST(demo_company, CodesEndInTheirCheckDigits) {
+    EXPECT_EQ(demo::codice_ean("400638133393"), "4006381333931");
+    EXPECT_EQ(demo::partita_iva("0074311015"), "00743110157");
+    EXPECT_EQ(demo::codice_fiscale("RSSMRA85T10A562"), "RSSMRA85T10A562S");
 }
 
 TEST(demo_company, SeedAloneDecidesTheArchives) {

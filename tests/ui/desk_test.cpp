@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "bench_desk.h"
+#include "desk_stage.h"
 #include "ui/controls.h"
 #include "ui/screen.h"
 
@@ -59,13 +59,13 @@ class desk_test : public testing::Test {
             one.does();
             const std::string where = "step " + std::to_string(&one - steps.data());
             EXPECT_EQ(notes, one.notes) << where;
-            const control* focus = bench.desk.focus();
+            const control* focus = stage.desk.focus();
             EXPECT_EQ(focus ? focus->owner().name() + focus->address() : "", one.focus) << where;
         }
     }
 
-    test::bench_desk bench;
-    ui::desk& desk = bench.desk;
+    test::desk_stage stage;
+    ui::desk& desk = stage.desk;
     std::string notes;
     screen<noting_form> a;
     screen<noting_form> b;
@@ -85,7 +85,7 @@ TEST_F(desk_test, ShowingLoadsOnceActivatesAndGivesTheFirstControlTheFocus) {
         {[&] { a->show(); }, "b.-secondo a.activate a.+secondo ", "a.secondo"},
         // A message box is no return from another screen.
         {[&] {
-             bench.user.actions = {[&] { desk.answer_box(answer::ok); }};
+             stage.user.actions = {[&] { desk.answer_box(answer::ok); }};
              desk.message("testo", "titolo", icon::stop);
          },
          "", "a.secondo"},
@@ -123,7 +123,7 @@ TEST_F(desk_test, FocusGoesNowhereHiddenDisabledOrUnshown) {
 /// Out of two questions, one inside the other, and out of work in which pending events run.
 TEST_F(desk_test, TheProgramsEndUnwindsWhateverRuns) {
     for (const bool by_pending_events : {false, true}) {
-        test::bench_desk fresh;
+        test::desk_stage fresh;
         int closed = 0;
         fresh.desk.at_end = [&] { ++closed; };
         bool ran_on = false;

@@ -6,7 +6,6 @@
 #include <random>
 
 #include "store/text/code_page.h"
-#include "ui/list_text.h"
 
 namespace vantora::ui {
 namespace {
@@ -53,17 +52,6 @@ TEST(ListSearch, FindsTheRowsThatAPlainSearchFinds) {
         const std::string wanted = text(4);
         ASSERT_EQ(texts.rows_with(wanted), plain_search(rows, wanted)) << wanted;
     }
-}
-
-TEST(ListText, RowsComeAsSpreadsheetsReadThem) {
-    const std::string cells[] = {from_utf8("Perché \"no\""), "1.234,50", "a;b\tc\nd", ""};
-    const std::vector<std::string_view> line(std::begin(cells), std::end(cells));
-    std::string text;
-    add_tabbed_row(text, line);
-    add_csv_row(text, line);
-    EXPECT_EQ(text,
-              "Perché \"no\"\t1.234,50\ta;b c d\t\n"
-              "\"Perché \"\"no\"\"\";1.234,50;\"a;b\tc\nd\";\r\n");
 }
 
 }  // namespace

@@ -10,9 +10,9 @@
 
 #include "ui/clock.h"
 #include "ui/desk.h"
-#include "ui/script/bench_ports.h"
 #include "ui/script/command.h"
 #include "ui/script/kept_answers.h"
+#include "ui/script/stage_ports.h"
 
 namespace vantora::ui::script {
 

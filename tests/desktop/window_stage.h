@@ -12,7 +12,7 @@
 #include "ui/desk.h"
 #include "ui/desktop/desktop_front_end.h"
 #include "ui/look/style.h"
-#include "ui/script/bench_ports.h"
+#include "ui/script/stage_ports.h"
 
 namespace vantora::ui::desktop::test {
 
@@ -36,9 +36,9 @@ inline QApplication& application() {
 
 /// A desk behind real windows. What the user does is prepared in steps, each of which runs when
 /// the program waits; the last one done, the program ends.
-class window_bench {
+class window_stage {
  public:
-    window_bench() { front.begin(desk); }
+    window_stage() { front.begin(desk); }
 
     void run(const std::function<void()>& begin, std::vector<std::function<void()>> steps) {
         steps_ = std::move(steps);
@@ -63,13 +63,13 @@ class window_bench {
 
  private:
     /// What the program waits behind; a step that opened something lets the next one run inside it.
-    struct stage {
+    struct depth {
         const void* box;
         const void* modal;
         bool waiting;
-        bool operator==(const stage&) const = default;
+        bool operator==(const depth&) const = default;
     };
-    [[nodiscard]] stage now() const { return {desk.open_box(), desk.modal(), desk.waiting()}; }
+    [[nodiscard]] depth now() const { return {desk.open_box(), desk.modal(), desk.waiting()}; }
 
     // Each step calls for the next before it runs, since it may itself wait for that one.
     void come_back() {
@@ -93,7 +93,7 @@ class window_bench {
     QApplication& application_ = application();
     std::vector<std::function<void()>> steps_;
     std::size_t next_ = 0;
-    std::optional<stage> running_;  ///< how things stood when the step at work began
+    std::optional<depth> running_;  ///< how things stood when the step at work began
     QObject here_;
 };
 
@@ -110,7 +110,7 @@ class window_of : public testing::Test {
         bench.run(open, std::move(steps));
     }
 
-    window_bench bench;
+    window_stage bench;
     Form* screen = nullptr;
 };
 

@@ -4,8 +4,8 @@
 #include <functional>
 
 #include "ui/desk.h"
-#include "ui/script/bench_ports.h"
 #include "ui/script/kept_answers.h"
+#include "ui/script/stage_ports.h"
 
 namespace vantora::ui::test {
 
@@ -40,7 +40,7 @@ class prepared_user final : public silent_front_end {
 };
 
 /// A desk with everything a test needs around it.
-struct bench_desk {
+struct desk_stage {
     prepared_user user;
     local_clock time;
     script::recording_printer paper;

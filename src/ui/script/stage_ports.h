@@ -10,7 +10,7 @@
 
 namespace vantora::ui::script {
 
-// The printer and the launcher of the test bench: they keep what they are told.
+// The printer and the launcher in a scripted run: they keep what they are told.
 
 struct printed_text {
     double x = 0, y = 0;
