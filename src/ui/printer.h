@@ -31,8 +31,6 @@ class printer {
 
     [[nodiscard]] virtual int orientation() const = 0;
     virtual void set_orientation(int orientation) = 0;
-    [[nodiscard]] virtual int copies() const = 0;
-    virtual void set_copies(int copies) = 0;
     [[nodiscard]] virtual double page_width() const = 0;   ///< millimetres
     [[nodiscard]] virtual double page_height() const = 0;  ///< millimetres
 

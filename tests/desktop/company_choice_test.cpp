@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QListWidget>
+#include <QProcess>
 #include <fstream>
 
 #include "support/scratch_folder.h"
@@ -39,6 +40,22 @@ TEST(company_choice, OpensTheCompanyTakenAndNothingWhereThereIsNone) {
     nothing.show();
     QTest::keyClick(&nothing, Qt::Key_Return);
     EXPECT_EQ(nothing.result(), 0);
+}
+
+TEST(desktop_program, TakesItsCommandsFromAScriptThatCanBeOpened) {
+    const test::scratch_folder folder;
+    const auto script = folder.path() / "comandi";
+    std::ofstream(script)
+        << "answer yes\nanswer no\nclick mirorc.srtt(0)\nclick mirorc.bottone(0)\n";
+    const auto run = [&](const std::string& file) {
+        QProcess program;
+        program.start(DESKTOP_PROGRAM, {"--drive", QString::fromStdString(folder.path().string()),
+                                        "--script", QString::fromStdString(file), "ordini001"});
+        program.waitForFinished();
+        return std::pair(program.exitCode(), program.readAllStandardOutput().count("\"ok\":true"));
+    };
+    EXPECT_EQ(run(script.string()), std::pair(0, qsizetype{4})) << "kept answers are given";
+    EXPECT_EQ(run("/no/such/file").first, 2);
 }
 
 }  // namespace

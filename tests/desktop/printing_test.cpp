@@ -4,6 +4,7 @@
 #include <QPrintPreviewWidget>
 
 #include "store/text/code_page.h"
+#include "support/file_bytes.h"
 #include "support/printed_pdf.h"
 #include "support/scratch_folder.h"
 #include "ui/controls.h"
@@ -57,6 +58,20 @@ TEST_F(printing, TextsLinesAndPagesStandWhereTheyWerePut) {
     for (const auto& [x, y, colour] : dots) {
         EXPECT_EQ(printed_pdf::at(line, x, y), QColor(colour)) << x << " " << y;
     }
+}
+
+TEST_F(printing, AProgramIsStartedWithItsArgument) {
+    const auto program = folder.path() / "mirxpdf";
+    const auto told = folder.path() / "told";
+    vantora::test::put(program, "#!/bin/sh\nprintf %s \"$*\" >" + told.string());
+    permissions(program, std::filesystem::perms::owner_all);
+    system_launcher programs([&](std::string_view path) {
+        return path == "c:\\mirxpdf" ? program.string() : "/no/such/program";
+    });
+    EXPECT_TRUE(programs.start("c:\\mirxpdf ***,c:\\a b.rto"));
+    EXPECT_FALSE(programs.start("c:\\another"));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return vantora::test::bytes_of(told).size() > 13; }));
+    EXPECT_EQ(vantora::test::bytes_of(told), "***,c:\\a b.rto");
 }
 
 TEST_F(printing, EachJobAsksForItsFileAndADroppedOneLeavesNothing) {

@@ -120,7 +120,9 @@ TEST_F(register_window, CompactsAfterItsTwoQuestions) {
              EXPECT_EQ(cell(1, 1) + cell(2, 0), "3");
              EXPECT_TRUE(bench.find("bottone(4)")->isVisible());
              EXPECT_FALSE(bench.find("srt")->isVisible());
+             bench.front.front_window()->close();
          }});
+    EXPECT_FALSE(app.archives.tot.is_open()) << "closing the register ends the program";
 }
 
 TEST_F(register_window, ALongListTellsHowFarItIsAndTheUserWaits) {
@@ -129,7 +131,7 @@ TEST_F(register_window, ALongListTellsHowFarItIsAndTheUserWaits) {
              QTimer::singleShot(0, table(), [&] {
                  auto* bar = bench.find<QProgressBar>("list_bar");
                  ASSERT_TRUE(bar);
-                 EXPECT_TRUE(bar->isVisible());
+                 EXPECT_TRUE(bar->isVisible() && QGuiApplication::overrideCursor());
                  EXPECT_TRUE(table()->geometry().contains(bar->geometry())) << "in its place";
                  bench.press_button("bottone(2)");
                  bench.front.front_window()->close();
@@ -137,6 +139,7 @@ TEST_F(register_window, ALongListTellsHowFarItIsAndTheUserWaits) {
              });
              bench.desk.dispatch([&] { app.mirorc->build_list(); });
              EXPECT_FALSE(bench.find<QProgressBar>("list_bar"));
+             EXPECT_FALSE(QGuiApplication::overrideCursor()) << "nor is it busy";
              EXPECT_EQ(bench.desk.active(), &app.mirorc.use());
          },
          [] { ADD_FAILURE() << "the window was closed meanwhile"; }});
@@ -163,12 +166,6 @@ TEST_F(register_window, AnotherStationThatIsWaitedForIsSeenAndTheUserWaits) {
              EXPECT_FALSE(bench.desk.ended());
          },
          [] { ADD_FAILURE() << "the window was closed meanwhile"; }});
-}
-
-TEST_F(register_window, ClosingItEndsTheProgram) {
-    run({[&] { bench.front.front_window()->close(); }});
-    ASSERT_TRUE(bench.desk.ended().has_value());
-    EXPECT_FALSE(app.archives.tot.is_open());
 }
 
 TEST_F(register_window, ATooltipTellsWhatStandsBehindARow) {
@@ -213,19 +210,33 @@ TEST_F(register_window, AskedToEndFromOutsideItEndsWhateverIsOpen) {
     EXPECT_FALSE(app.archives.tot.is_open());
 }
 
-TEST_F(register_window, DraggedColumnsKeepTheirWidthsFromRunToRun) {
+TEST_F(register_window, WindowsAndDraggedColumnsKeepTheirSizesFromRunToRun) {
     int width = 0;
     run({[&] {
+        bench.front.front_window()->resize(700, 500);
+        QCoreApplication::processEvents();
         const int designed = table()->columnWidth(1);
         heads()->resizeSection(1, designed + 60);
         QTest::mouseRelease(heads()->viewport(), Qt::LeftButton);
         width = table()->columnWidth(1);
         EXPECT_GT(width, designed + 30);
+        bench.desk.dispatch([&] { app.mirorc->hide(); });
     }});
-    test::window_stage later;
-    program again(disk, later.desk, pictures);
-    later.run([&] { start(again, "ordini001"); },
-              {[&] { EXPECT_NEAR(later.find<QTableView>("elenco")->columnWidth(1), width, 2); }});
+    const auto run_again = [&](const std::function<void(QWidget&)>& look) {
+        test::window_stage later;
+        program again(disk, later.desk, pictures);
+        later.run([&] { start(again, "ordini001"); }, {[&] {
+                      look(*later.front.front_window());
+                      later.desk.dispatch([&] { again.mirorc->hide(); });
+                  }});
+    };
+    run_again([&](QWidget& window) {
+        EXPECT_EQ(window.size(), QSize(700, 500));
+        EXPECT_NEAR(window.findChild<QTableView*>("elenco")->columnWidth(1), width, 2);
+        window.showMaximized();
+    });
+    run_again([](QWidget& window) { EXPECT_TRUE(window.isMaximized()); });
+    QSettings().remove("windows");
 }
 
 TEST_F(register_window, AScriptOfManyOrdersLeavesNoWindowsBehind) {

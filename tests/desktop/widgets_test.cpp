@@ -1,6 +1,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QScrollBar>
 #include <QTableView>
 #include <QWheelEvent>
@@ -8,6 +9,7 @@
 
 #include "store/text/code_page.h"
 #include "ui/controls.h"
+#include "ui/errors.h"
 #include "window_stage.h"
 
 namespace vantora::ui::desktop {
@@ -183,6 +185,21 @@ TEST_F(widgets, TheWheelChangesWhatHasTheFocusAlone) {
             turn();
             EXPECT_NE(all(), unchanged) << one;
         }
+    }});
+}
+
+TEST_F(widgets, ARunTimeErrorIsToldInABox) {
+    run({[&] {
+        QString told;
+        QTimer::singleShot(0, [&] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            ASSERT_TRUE(box);
+            told = box->text();
+            box->accept();
+        });
+        bench.desk.dispatch([] { throw overflow_error(); });
+        EXPECT_EQ(told, "Errore di run-time '6': Overflow");
+        bench.front.end_by_user();
     }});
 }
 

@@ -123,15 +123,13 @@ class restless_user final : public ui::front_end {
         using enum ui::control_kind;
         switch (one.kind()) {
             case button:
-                return as<ui::button>(one).click();
+            case check_box:
+            case option_button:
+                return one.press_key(ui::key::blank, ' ');
             case label:
                 return as<ui::label>(one).click();
             case picture:
                 return as<ui::picture>(one).click();
-            case check_box:
-                return as<ui::check_box>(one).toggle();
-            case option_button:
-                return as<ui::option_button>(one).choose();
             case list_box:
             case drop_down:
                 as<ui::list_control>(one).pick(any(as<ui::list_control>(one).count()));

@@ -19,14 +19,7 @@ struct own_company {
 
 /// The report screens over a company of their own.
 struct report_stage : own_company, company_stage {
-    report_stage() : company_stage(company) {
-        provide(app.mirorc);
-        provide(app.mirstoe);
-        provide(app.mirstos);
-        provide(app.mirstov);
-        provide(app.mirston);
-        provide(app.mirstoa);
-    }
+    report_stage() : company_stage(company) { run(); }
 
     static grid_rows rows_of(const ui::grid& list) {
         grid_rows rows;

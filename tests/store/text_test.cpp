@@ -15,22 +15,17 @@
 namespace vantora {
 namespace {
 
-TEST(code_page, EveryCharacterSurvivesTheWayThroughUtf8) {
+TEST(code_page, GoesThroughUtf8AndHasCapitalsOfItsOwn) {
     std::string all;
     for (int code = 0; code < 256; ++code) all.push_back(static_cast<char>(code));
     EXPECT_EQ(from_utf8(to_utf8(all)), all);
     EXPECT_EQ(to_utf8("\x80 \xE8"), "€ è");
     EXPECT_EQ("Città €"_cp, "Citt\xE0 \x80");
-}
-
-TEST(code_page, WhatItDoesntHaveBecomesAQuestionMark) {
+    // What it doesn't have becomes a question mark.
     EXPECT_EQ(from_utf8("日本x"), "??x");
     EXPECT_EQ(from_utf8("\xF0\x9F\x98\x80"), "?");
     EXPECT_EQ(from_utf8("a\xFF\xC3"), "a??") << "bytes that are no UTF-8";
     EXPECT_EQ(from_utf8("\xC0\x80"), "??") << "overlong";
-}
-
-TEST(code_page, CapitalsKeepTheLength) {
     EXPECT_EQ(upper("caff\xE8 \xFF\x9A\xDF\xF7"), "CAFF\xC8 \x9F\x8A\xDF\xF7");
 }
 
@@ -81,14 +76,11 @@ TEST(dates, CutStoredDatesWhateverTheyHold) {
     EXPECT_EQ(stored_date({2024, 5, 6}), "20240506");
 }
 
-TEST(dates, NumbersCountFromTheEndOf1899) {
+TEST(dates, NumbersCountFromTheEndOf1899AndAClockIsReadInOneForm) {
     EXPECT_EQ(date_number({{1899, 12, 30}}), 0);
     EXPECT_EQ(date_number({{1900, 1, 1}}), 2);
     EXPECT_EQ(date_number({{2024, 5, 6}, 12, 0, 0}), 45418.5);
     EXPECT_EQ(date_number({{2000, 2, 29}, 6, 0, 0}), 36585.25);
-}
-
-TEST(read_clock, ReadsOneFormOnly) {
     EXPECT_EQ(read_clock("2024-05-06 10:20:30"), (date_time{{2024, 5, 6}, 10, 20, 30}));
     for (const char* text : {"", "2024-05-06", "2024-05-06 24:00:00", "2024-13-06 10:20:30",
                              "2024-05-06T10:20:30", "06/05/2024 10:20:30"}) {
@@ -96,7 +88,7 @@ TEST(read_clock, ReadsOneFormOnly) {
     }
 }
 
-TEST(plain_text, ShowsAtMostFifteenDigitsInTheirShortestForm) {
+TEST(plain_text, ShowsAtMostFifteenDigitsInTheirShortestFormAndIsReadAgain) {
     const std::pair<double, const char*> cases[] = {
         {0, "0"},
         {-0.0, "0"},
@@ -115,9 +107,6 @@ TEST(plain_text, ShowsAtMostFifteenDigitsInTheirShortestForm) {
     EXPECT_EQ(plain_text_signed(3), " 3");
     EXPECT_EQ(plain_text_signed(-2), "-2");
     EXPECT_EQ(plain_text_signed(0), " 0");
-}
-
-TEST(plain_text, SurvivesTheWayThroughItsText) {
     std::mt19937_64 random(1);
     for (int i = 0; i < 20000; ++i) {
         const auto digits = static_cast<double>(random() % 1000000000000000);

@@ -1,4 +1,5 @@
-// How amounts round is held by the totals, against a plain recomputation.
+// How amounts round is held by the totals, how many decimals a company has by the reports, both
+// against a plain recomputation.
 
 #include "store/values.h"
 
@@ -29,7 +30,7 @@ TEST(values, TypedTextsAreItalian) {
     }
 }
 
-TEST(values, AmountsAndPricesShowNothingForZeroAndTheDecimalsOfTheCompany) {
+TEST(values, NothingIsShownForZeroAndElseTheDecimalsOfTheCompany) {
     EXPECT_EQ(formato_importo(0, lire()) + formato_importo(0, euro()), "");
     EXPECT_EQ(formato_prezzo(0, euro(5)), "");
     EXPECT_EQ(formato_importo(1234.5, euro()), "1.234,50");
@@ -41,25 +42,9 @@ TEST(values, AmountsAndPricesShowNothingForZeroAndTheDecimalsOfTheCompany) {
         EXPECT_EQ(formato_prezzo(1234.56789, euro(decimals)), text);
     }
     EXPECT_EQ(formato_prezzo(1234.4, lire()), "1.234");
-}
-
-TEST(values, QuantitiesShowDecimalsOnlyIfThereAreAny) {
-    const std::pair<const char*, const char*> cases[] = {
+    const std::pair<const char*, const char*> quantities[] = {
         {"0", ""}, {"", ""}, {"1500", "1.500"}, {"2.5", "2,50"}, {"2,5", "2"}, {"-3", "-3"}};
-    for (const auto& [text, shown] : cases) EXPECT_EQ(formato_quantita(text), shown) << text;
-}
-
-TEST(values, SettingsComeFromTheirSlotsWhateverStandsThere) {
-    const std::pair<const char*, int> decimals[] = {{"2", 2}, {"3", 3}, {"5", 5}, {"6", 2},
-                                                    {"1", 2}, {"", 2},  {"x", 2}, {"-4", 2}};
-    for (const auto& [slot, expected] : decimals) {
-        parametri parameters;
-        parameters.parametri_valuta[valuta_slot::modo_decimali] = "0";
-        parameters.parametri_valuta[valuta_slot::decimali_prezzo] = slot;
-        const valuta currency(parameters);
-        EXPECT_EQ(currency.decimali_prezzo, expected) << slot;
-        EXPECT_FALSE(currency.centesimi);
-    }
+    for (const auto& [text, shown] : quantities) EXPECT_EQ(formato_quantita(text), shown);
 }
 
 }  // namespace

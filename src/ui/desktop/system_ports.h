@@ -33,8 +33,6 @@ class system_printer final : public printer {
 
     [[nodiscard]] int orientation() const override;
     void set_orientation(int orientation) override;
-    [[nodiscard]] int copies() const override { return printer_.copyCount(); }
-    void set_copies(int copies) override { printer_.setCopyCount(copies); }
     [[nodiscard]] double page_width() const override;
     [[nodiscard]] double page_height() const override;
     [[nodiscard]] double text_width(std::string_view text, const font& in) const override;

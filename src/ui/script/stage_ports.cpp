@@ -8,12 +8,11 @@ namespace vantora::ui::script {
 
 void recording_printer::set_up(std::optional<int> orientation, std::optional<int> copies) {
     if (orientation) orientation_ = chosen_orientation_ = *orientation;
-    if (copies) copies_ = chosen_copies_ = *copies;
+    if (copies) copies_ = *copies;
 }
 
 bool recording_printer::choose_settings() {
     orientation_ = chosen_orientation_;
-    copies_ = chosen_copies_;
     return true;
 }
 

@@ -64,8 +64,6 @@ class recording_printer final : public printer {
 
     [[nodiscard]] int orientation() const override { return orientation_; }
     void set_orientation(int orientation) override { orientation_ = orientation; }
-    [[nodiscard]] int copies() const override { return copies_; }
-    void set_copies(int copies) override { copies_ = copies; }
     [[nodiscard]] double page_width() const override { return orientation_ == upright ? 210 : 297; }
     [[nodiscard]] double page_height() const override {
         return orientation_ == upright ? 297 : 210;
@@ -88,7 +86,6 @@ class recording_printer final : public printer {
     int orientation_ = upright;
     int copies_ = 1;
     int chosen_orientation_ = upright;
-    int chosen_copies_ = 1;
     print_job job_;
     bool page_open_ = false;
     std::vector<print_job> jobs_;

@@ -25,23 +25,5 @@ TEST(mail_settings, KeysAreReadWithTheirDefaults) {
     EXPECT_EQ(all.password, "due parole = #");
 }
 
-TEST(mail_settings, TheFirstWrongLineIsTold) {
-    const std::pair<const char*, const char*> cases[] = {
-        {"server = a.it\nservre = b.it\nporta = x", "riga 2: chiave sconosciuta"},
-        {"\nserver", "riga 2: manca il segno ="},
-        {"porta = 65536", "riga 1: la porta va da 1 a 65535"},
-        {"porta = 25x", "riga 1: la porta va da 1 a 65535"},
-        {"sicurezza = forse", "riga 1: la sicurezza è tls, starttls oppure nessuna"},
-        {"oggetto = a\rBcc: b@c.it", "riga 1: il valore contiene caratteri di controllo"},
-        {"server = a.it\nutente = ordini", "manca il mittente"},
-    };
-    for (const auto& [content, what] : cases) {
-        const auto read = read_mail_settings(content);
-        const auto* error = std::get_if<settings_error>(&read);
-        ASSERT_TRUE(error) << content;
-        EXPECT_EQ(error->what, what);
-    }
-}
-
 }  // namespace
 }  // namespace vantora::mirxpdf

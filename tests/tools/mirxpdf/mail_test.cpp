@@ -76,7 +76,13 @@ TEST_F(mirxpdf_mail, WithoutSettingsThePdfStaysAndTheUserIsTold) {
     expect_not_sent("rossi@verdi.it", "non è configurata");
     const std::pair<const char*, const char*> settings[] = {
         {"# server = smtp.esempio.it\n", "mirwin/mirwin/mirxpdf.conf"},
-        {"server = smtp.esempio.it\nmittente = a@b.it\nporta = molte\n", "riga 3: la porta"},
+        {"server = a.it\nservre = b.it\nporta = x", "riga 2: chiave sconosciuta"},
+        {"\nserver", "riga 2: manca il segno ="},
+        {"porta = 65536", "riga 1: la porta va da 1 a 65535"},
+        {"\n\nporta = 25x", "riga 3: la porta va da 1 a 65535"},
+        {"sicurezza = forse", "riga 1: la sicurezza è tls, starttls oppure nessuna"},
+        {"oggetto = a\rBcc: b@c.it", "riga 1: il valore contiene caratteri di controllo"},
+        {"server = a.it\nutente = ordini", "manca il mittente"},
         {"server = a/b@c\nmittente = a@b.it\n", "nome del server"},
         {"server = a.it\nmittente = Ditta <a@b.it\n", "mittente non è un indirizzo"}};
     for (const auto& [content, reason] : settings) {
