@@ -106,14 +106,12 @@ TEST(background, PicturesAreOneMarkEachAndOnlyAsFarAsThePaperGoes) {
         double x, y;
         double width, height;  ///< points; 0: not drawn
         std::string told;
-    } cases[] = {
-        {"small", picture_file(5, 2), 10, 20, 5, 2, question},
-        {"off the paper", picture_file(5, 2), 10, 300, 0, 0, question},
-        {"over the edge", picture_file(9, 2), 209, 20, 4, 2, question},
-        {"no picture", picture_file(5, 2).substr(0, 8), 10, 20, 0, 0, question},
-        {"claims too many", picture_file(5, 2, 30000), 10, 20, 0, 0, left_out},
-        {"largest", picture_file(2000, 2000), 10, 20, 756, 1047, question},
-    };
+    } cases[] = {{"small", picture_file(5, 2), 10, 20, 5, 2, question},
+                 {"off the paper", picture_file(5, 2), 10, 300, 0, 0, question},
+                 {"over the edge", picture_file(9, 2), 209, 20, 4, 2, question},
+                 {"no picture", picture_file(5, 2).substr(0, 8), 10, 20, 0, 0, question},
+                 {"claims too many", picture_file(5, 2, 30000), 10, 20, 0, 0, left_out},
+                 {"largest", picture_file(2000, 2000), 10, 20, 756, 1047, question}};
     for (const auto& one : cases) {
         background_stage order;
         order.element({4, one.x, one.y, 3, 4}, " c:\\LOGO.bmp ");

@@ -148,17 +148,15 @@ TEST_F(line_grid, APriceBringsAVatCodeToALineWithout) {
         script commands;
         const char* shown;
         const char* painted;
-    } cases[] = {
-        {0, "04", {set("prezzo(1)", "10")}, "04", "04"},
-        {25, "9 ", {set("prezzo(1)", "10")}, "9 ", "09"},
-        {24, "04", {set("prezzo(1)", "-1")}, "24", "24"},
-        {0, "04", {set("prezzo(1)", "1"), set("prezzo(1)", "0")}, "04", "04"},
-        {7,
-         "04",
-         {"focus mirorcs.civ(1)", "pick mirorcs.Combo1 13", set("prezzo(1)", "3")},
-         "14",
-         "14"},
-    };
+    } cases[] = {{0, "04", {set("prezzo(1)", "10")}, "04", "04"},
+                 {25, "9 ", {set("prezzo(1)", "10")}, "9 ", "09"},
+                 {24, "04", {set("prezzo(1)", "-1")}, "24", "24"},
+                 {0, "04", {set("prezzo(1)", "1"), set("prezzo(1)", "0")}, "04", "04"},
+                 {7,
+                  "04",
+                  {"focus mirorcs.civ(1)", "pick mirorcs.Combo1 13", set("prezzo(1)", "3")},
+                  "14",
+                  "14"}};
     for (const auto& one : cases) {
         customer.iva_cliente = static_cast<std::int16_t>(one.own);
         general(0, one.base);

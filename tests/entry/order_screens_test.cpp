@@ -4,6 +4,7 @@
 #include <limits>
 #include <random>
 
+#include "entry/order_head.h"
 #include "entry/order_station.h"
 #include "scripted/problems.h"
 
@@ -25,7 +26,17 @@ TEST(mirorcs, ANewOrderTakesItsHeadFromTheCustomersScreenAndIsPrinted) {
     order_company company;
     company.counter(contatori::ordini, 0, 41);
     order_station at(company);
-    at.front.decide = [&] { return at.front.told.back() != "Stampa altra copia?"; };
+    at.front.decide = [&] {
+        mirorcs& screen = *at.app.mirorcs;
+        screen.comando[0].click();
+        at.desk.close(screen);
+        at.app.mirorcx->show();
+        screen.show();
+        EXPECT_EQ(screen.quantita[0].text(), "2") << "nothing else happens during a save";
+        EXPECT_EQ(at.desk.pointer_shape(), ui::pointer::normal);
+        EXPECT_EQ(testata_da_stampare(*at.app.mirorcx).combo1[1], "Pagamento 2");
+        return at.front.told.back() != "Stampa altra copia?";
+    };
     at.desk.dispatch([&] {
         at.app.mirorc->bottone[2].click();
         at.app.mirorcx->Text3[3].set_text("cantiere");
@@ -94,6 +105,7 @@ TEST(order_screens, WhateverRefusesIsTold) {
                 if (fault == 'o') at.run();
                 take(which, at);
                 EXPECT_FALSE(at.desk.ended());
+                EXPECT_EQ(at.desk.pointer_shape(), ui::pointer::normal);
                 const bool told = std::ranges::any_of(at.front.told, [](const std::string& text) {
                     return text.find("errore su") != std::string::npos;
                 });
@@ -110,6 +122,7 @@ TEST(mirorcz, AnOrderIsFoundAgainAsItWasLeft) {
     order_station at(company);
     mirorcz& screen = at.open(2);
     EXPECT_EQ(screen.evaso[0].text(), "2");
+    EXPECT_TRUE(at.app.selezione_2 == 1 && at.app.modo_ordine == 0);
     EXPECT_TRUE(screen.impegno.on());
     at.desk.dispatch([&] {
         screen.comando[5].click();
@@ -185,9 +198,6 @@ TEST(mirorcz, DamagedOrdersDoNoHarm) {
         }
         if (at.desk.ended()) {
             EXPECT_EQ(at.desk.ended()->message, "Errore di run-time '6': Overflow");
-        }
-        for (int number = 1; number <= 3; ++number) {
-            EXPECT_TRUE(std::isfinite(company.article_now(number).ordinato_clienti));
         }
     }
 }

@@ -62,6 +62,30 @@ TEST(stations, AnOrderIsNotWrittenOverTheOneThatACompactionPutIntoItsBlock) {
     }
 }
 
+/// In the midst of a compaction the list is the one of before, and nothing opens.
+TEST(stations, NothingOfTheRegisterMovesDuringACompaction) {
+    order_company company;
+    for (const int block : {1, 2, 3}) company.order(block, 1, {{1, 5}});
+    delete_order(company, 1);
+    order_station at(company);
+    int times = 0;
+    at.front.meanwhile = [&] {
+        const mirorc& screen = *at.app.mirorc;
+        if (!screen.srt.visible()) return;
+        ++times;
+        at.desk.dispatch([&] { at.app.mirorc->elenco.click_cell(2, 0); });
+        at.app.mirorc->bottone[1].click();
+        at.compact();
+        EXPECT_EQ(at.active(), "mirorc");
+        EXPECT_EQ(screen.elenco.text(1, mirorc::cliente), "Ordine eliminato");
+        EXPECT_EQ(screen.elenco.hint_of(2), "");
+        EXPECT_EQ(at.front.told.size(), 2U);
+    };
+    at.compact();
+    EXPECT_EQ(times, 3) << "it tells how far it is, block by block";
+    EXPECT_EQ(at.app.mirorc->elenco.text(1, mirorc::ordine), "20");
+}
+
 /// There are so many orders, none of them deleted, all of them whole, and the stock is theirs.
 void expect_sound(order_company& company, int orders) {
     EXPECT_EQ(company.counter_now(contatori::ordini).quanti, orders);

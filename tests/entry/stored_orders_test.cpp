@@ -335,10 +335,8 @@ TEST(stored_orders, CountersTakeWhatFitsAndKeepTheRest) {
         const char* number;
         int then_in_use;
         int then_last;
-    } cases[] = {
-        {0, "1", 1, 1},      {0, "abc", 1, 0},       {3, "7.5", 4, 8},   {3, "6.5", 4, 6},
-        {3, "99999", 4, 55}, {32767, "9", 32767, 9}, {3, " 1 2", 4, 12}, {3, "", 4, 0},
-    };
+    } cases[] = {{0, "1", 1, 1},      {0, "abc", 1, 0},       {3, "7.5", 4, 8},   {3, "6.5", 4, 6},
+                 {3, "99999", 4, 55}, {32767, "9", 32767, 9}, {3, " 1 2", 4, 12}, {3, "", 4, 0}};
     for (const auto& one : cases) {
         small_company company;
         rec_tot expected{static_cast<std::int16_t>(one.in_use), 5, 6, 55, 7.5F};

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <vector>
 
 #include "fulfil/mirorca.h"
@@ -25,6 +27,7 @@ struct fulfil_stage : order_company, station {
             app.mirorcc->HScroll1.drag(customer);
             app.mirorcc->bottone.click();
         });
+        EXPECT_EQ(desk.pointer_shape(), ui::pointer::normal);
     }
     void click(int row, int col) {
         desk.dispatch([&] { app.mirorcr->elenco.click_cell(row, col); });
@@ -38,6 +41,7 @@ struct fulfil_stage : order_company, station {
     }
     void book() {
         desk.dispatch([this] { app.mirorcr->bottone[1].click(); });
+        EXPECT_TRUE(desk.ended() || desk.pointer_shape() == ui::pointer::normal);
     }
     /// Confirms the document, with the answers to the questions to come.
     void confirm(const std::vector<bool>& answers) {

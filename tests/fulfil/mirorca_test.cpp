@@ -129,7 +129,12 @@ TEST(mirorca, ADocumentIsCountedWithoutTheCopyThatCantBeMade) {
 
 TEST(mirorca, WhatIsStoredElsewhereDuringAQuestionStays) {
     document_stage stage;
+    stage.desk.dispatch([&] { stage.screen().ds[1].set_text("a mano"); });
     stage.front.decide = [&] {
+        stage.screen().comando[0].click();
+        stage.app.mirorcc->show();
+        stage.screen().show();
+        EXPECT_EQ(stage.screen().ds[1].text(), "a mano") << "nothing else happens meanwhile";
         const bool asked = stage.front.told.back().starts_with("La giacenza");
         if (asked) change_stored(stage.files.art, 2, [](rec_art& one) { one.prezzo1 = 7; });
         return asked;

@@ -2,21 +2,11 @@
 
 #include <gtest/gtest.h>
 
-#include "support/program_stage.h"
+#include "scripted/station.h"
 #include "ui/controls.h"
 
 namespace vantora::test {
 namespace {
-
-/// Does its own work whenever pending events are let through.
-class busy_user : public silent_front_end {
- public:
-    std::function<void()> meanwhile;
-
-    void let_events_run() override {
-        if (meanwhile) meanwhile();
-    }
-};
 
 struct plain_screen : ui::form {
     explicit plain_screen(program& app) : form(app.desk, "prova", ""), lista(elenco, app, 26, 0) {
@@ -48,7 +38,7 @@ class list_grid_of_a_screen : public testing::Test {
         place->show();
     }
 
-    program_stage<busy_user> stage;
+    program_stage<answering_user> stage;
     ui::screen<plain_screen> place;
 };
 
@@ -90,6 +80,7 @@ TEST_F(list_grid_of_a_screen, ARefreshServedDuringASortStays) {
         place->lista.sort(0, ui::sort_order::generic_ascending);
         EXPECT_EQ(place->elenco.text(1, 0), "1") << "blank rows stay at the bottom";
         EXPECT_TRUE(place->elenco.has_focus());
+        EXPECT_EQ(place->elenco.back_colour(25, 0), 2U) << "striped anew";
     }
 }
 

@@ -165,18 +165,5 @@ TEST(compattazione, FlushesTheBlocksBeforeTheCounter) {
     EXPECT_EQ(refused.compact().names(), "vantora.tot");
 }
 
-TEST(compattazione, ProgressTellsEveryBlockBeforeItMovesAndMayEndThePass) {
-    noted_archive archive("doo");
-    const bytes before = archive.company.content("tot");
-    std::vector<int> told;
-    const auto stop_at_the_last = [&](int registrazione) {
-        told.push_back(registrazione);
-        if (registrazione == 3) throw crash{};
-    };
-    EXPECT_THROW(compatta_archivio(archive.files, archive.counter, false, stop_at_the_last), crash);
-    EXPECT_EQ(told, (std::vector<int>{1, 2, 3}));
-    EXPECT_EQ(archive.company.content("tot"), before);
-}
-
 }  // namespace
 }  // namespace vantora::test

@@ -68,13 +68,11 @@ TEST_F(report_road, ThePdfIsNamedOrRefused) {
         bool can_start;
         int failing_from;  ///< offset of the first write that fails
         std::string pdf;   ///< empty: refused
-    } cases[] = {
-        {"C:\\PDF", true, never, "C:\\PDF\\valoreordini.pdf"},
-        {"C:\\PDF\\ ", true, never, "C:\\PDF\\valoreordini.pdf"},
-        {"C:", false, never, ""},
-        {"C:", true, 0, ""},
-        {"C:", true, 65000, ""},
-    };
+    } cases[] = {{"C:\\PDF", true, never, "C:\\PDF\\valoreordini.pdf"},
+                 {"C:\\PDF\\ ", true, never, "C:\\PDF\\valoreordini.pdf"},
+                 {"C:", false, never, ""},
+                 {"C:", true, 0, ""},
+                 {"C:", true, 65000, ""}};
     for (const auto& one : cases) {
         app.parameters.parametri_valuta[valuta_slot::cartella_pdf] = one.folder;
         stage.programs.allow(one.can_start);

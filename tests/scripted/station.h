@@ -15,7 +15,11 @@ class answering_user final : public silent_front_end {
             }
         }
     }
+    void let_events_run() override {
+        if (meanwhile) meanwhile();
+    }
     ui::desk* desk = nullptr;
+    std::function<void()> meanwhile;  ///< done whenever pending events run
     std::function<bool()> decide = [] { return false; };
     std::vector<std::string> told;
 };

@@ -4,6 +4,7 @@
 #include <sys/resource.h>
 
 #include "store/archives.h"
+#include "store/company.h"
 #include "store/drive.h"
 #include "store/instance_lock.h"
 #include "store/records.h"
@@ -144,7 +145,10 @@ TEST(archives, OpenTheCountersFirstAndCreateWhatIsMissing) {
     drive port(folder.path());
     archivi files;
     apri_archivi(files, port, 3);
-    EXPECT_TRUE(std::filesystem::exists(folder.path() / "mirwin/mirwin/miraz0.003/vantora.srb"));
+    for (const char* kind :
+         {"tot", "cli", "src", "art", "sra", "orc", "srb", "mag", "bol", "prx", "prv"}) {
+        EXPECT_TRUE(std::filesystem::exists(port.locate(file_azienda(3, kind)))) << kind;
+    }
     rec_art article;
     article.codice = "VENTI";
     files.art.write(20, article);

@@ -127,6 +127,8 @@ TEST_F(drive_test, AFileThatMayOnlyBeReadIsOpenedForReading) {
     std::byte byte{};
     EXPECT_EQ(opened->read(1, std::span(&byte, 1)), 1U);
     EXPECT_FALSE(opened->write(0, std::span(&byte, 1)));
+    drive reading(folder.path(), drive::access::reading_only);
+    EXPECT_FALSE(reading.open_records("\\new") || reading.create("\\new"));
 }
 
 TEST(company, NumbersAndFolders) {

@@ -67,15 +67,13 @@ TEST_F(parameters_test, CurrencySettingsFallBackTogether) {
         const char* mode;
         const char* price_decimals;
         const char* seventh;
-    } cases[] = {
-        {nullptr, "1", "2", "9"},
-        {"", "1", "2", "9"},
-        {"0,1,\"A\",\"B\"", "1", "2", "9"},
-        {"0,1,\"A\",\"B\",3\r\n", "0", "3", "9"},
-        {"2,1,A,B,4\r\nsesta\r\nsettima\r\n", "1", "4", "settima"},
-        {"0\r\n1\r\nA\r\nB\r\n5\r\nsesta\r\n7\r\n", "0", "5", "7"},
-        {"x,1,A,B,2\r\n\r\n\r\n", "0", "2", ""},
-    };
+    } cases[] = {{nullptr, "1", "2", "9"},
+                 {"", "1", "2", "9"},
+                 {"0,1,\"A\",\"B\"", "1", "2", "9"},
+                 {"0,1,\"A\",\"B\",3\r\n", "0", "3", "9"},
+                 {"2,1,A,B,4\r\nsesta\r\nsettima\r\n", "1", "4", "settima"},
+                 {"0\r\n1\r\nA\r\nB\r\n5\r\nsesta\r\n7\r\n", "0", "5", "7"},
+                 {"x,1,A,B,2\r\n\r\n\r\n", "0", "2", ""}};
     for (const auto& one : cases) {
         if (one.content) put(general / "vantora.eur", one.content);
         const parametri loaded = load();
@@ -92,23 +90,21 @@ TEST_F(parameters_test, AReportFileMayEndAnywhere) {
         double otherwise;
         double read;
         double (*setting)(table);
-    } settings[] = {
-        {1, 30, 10, [](table t) -> double { return t[0].margine_sinistro; }},
-        {1, 950, 20, [](table t) -> double { return t[0].margine_destro; }},
-        {1, 950, 40, [](table t) -> double { return t[0].margine_basso; }},
-        {1, 2, 1, [](table t) -> double { return t[0].stile; }},
-        {37, 14, 11, [](table t) -> double { return t[1].corpo_carattere; }},
-        {37, 9, 15, [](table t) -> double { return t[5].corpo_carattere; }},
-        {37, 0, 1, [](table t) -> double { return t[5].grassetto; }},
-        {37, 0, 255, [](table t) { return t[5].colore; }},
-        {37, 240, 190, [](table t) -> double { return t[0].altezza; }},
-        {43, 16777215, 123, [](table t) { return t[0].sfondo; }},
-        {44, 0, 1, [](table t) -> double { return t[1].stile; }},
-        {45, 0, 11, [](table t) -> double { return t[1].altezza; }},
-        {46, 0, 12, [](table t) -> double { return t[2].altezza; }},
-        {47, 0, 13, [](table t) { return t[1].sfondo; }},
-        {48, 0, 14, [](table t) { return t[2].sfondo; }},
-    };
+    } settings[] = {{1, 30, 10, [](table t) -> double { return t[0].margine_sinistro; }},
+                    {1, 950, 20, [](table t) -> double { return t[0].margine_destro; }},
+                    {1, 950, 40, [](table t) -> double { return t[0].margine_basso; }},
+                    {1, 2, 1, [](table t) -> double { return t[0].stile; }},
+                    {37, 14, 11, [](table t) -> double { return t[1].corpo_carattere; }},
+                    {37, 9, 15, [](table t) -> double { return t[5].corpo_carattere; }},
+                    {37, 0, 1, [](table t) -> double { return t[5].grassetto; }},
+                    {37, 0, 255, [](table t) { return t[5].colore; }},
+                    {37, 240, 190, [](table t) -> double { return t[0].altezza; }},
+                    {43, 16777215, 123, [](table t) { return t[0].sfondo; }},
+                    {44, 0, 1, [](table t) -> double { return t[1].stile; }},
+                    {45, 0, 11, [](table t) -> double { return t[1].altezza; }},
+                    {46, 0, 12, [](table t) -> double { return t[2].altezza; }},
+                    {47, 0, 13, [](table t) { return t[1].sfondo; }},
+                    {48, 0, 14, [](table t) { return t[2].sfondo; }}};
     const auto lines = report_lines();
     for (std::size_t kept = 0; kept <= lines.size(); ++kept) {
         const auto read = report_table({lines.begin(), lines.begin() + long(kept)});

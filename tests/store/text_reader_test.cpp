@@ -12,19 +12,17 @@ TEST(text_reader, LinesAndItemsEndInEachOfTheThreeWays) {
         const char* content;
         texts lines;
         texts items;
-    } cases[] = {
-        {"a\r\nb\rc\nd", {"a", "b", "c", "d"}, {"a", "b", "c", "d"}},
-        {"\r\n\r\n", {"", ""}, {"", ""}},
-        {"a\n\nb", {"a", "", "b"}, {"a", "", "b"}},
-        {"", {}, {}},
-        {" \"x\", y \r\n", {" \"x\", y "}, {"x", "y"}},
-        {"1, 2 ,3\r\n4", {"1, 2 ,3", "4"}, {"1", "2", "3", "4"}},
-        {"\"a, b\" dropped,c", {"\"a, b\" dropped,c"}, {"a, b", "c"}},
-        {"  \" kept \"\r\nx", {"  \" kept \"", "x"}, {" kept ", "x"}},
-        {"\"never closed\r\nx", {"\"never closed", "x"}, {"never closed\r\nx"}},
-        {",,\n", {",,"}, {"", "", ""}},
-        {"a\"b\",c", {"a\"b\",c"}, {"a\"b\"", "c"}},
-    };
+    } cases[] = {{"a\r\nb\rc\nd", {"a", "b", "c", "d"}, {"a", "b", "c", "d"}},
+                 {"\r\n\r\n", {"", ""}, {"", ""}},
+                 {"a\n\nb", {"a", "", "b"}, {"a", "", "b"}},
+                 {"", {}, {}},
+                 {" \"x\", y \r\n", {" \"x\", y "}, {"x", "y"}},
+                 {"1, 2 ,3\r\n4", {"1, 2 ,3", "4"}, {"1", "2", "3", "4"}},
+                 {"\"a, b\" dropped,c", {"\"a, b\" dropped,c"}, {"a, b", "c"}},
+                 {"  \" kept \"\r\nx", {"  \" kept \"", "x"}, {" kept ", "x"}},
+                 {"\"never closed\r\nx", {"\"never closed", "x"}, {"never closed\r\nx"}},
+                 {",,\n", {",,"}, {"", "", ""}},
+                 {"a\"b\",c", {"a\"b\",c"}, {"a\"b\"", "c"}}};
     for (const auto& one : cases) {
         texts lines;
         texts items;

@@ -50,13 +50,11 @@ TEST(read_date, TakesDayMonthYearAndElseMonthDayYear) {
     struct {
         const char* text;
         date expected;
-    } cases[] = {
-        {"01/02/2024", {2024, 2, 1}},     {"1/2/24", {2024, 2, 1}},
-        {" 31-12-1999 ", {1999, 12, 31}}, {"12/31/2024", {2024, 12, 31}},
-        {"29.02.2024", {2024, 2, 29}},    {"1 1 00", {2000, 1, 1}},
-        {"1/1/29", {2029, 1, 1}},         {"1/1/30", {1930, 1, 1}},
-        {"1/1/99", {1999, 1, 1}},         {"5/6/0100", {100, 6, 5}},
-    };
+    } cases[] = {{"01/02/2024", {2024, 2, 1}},     {"1/2/24", {2024, 2, 1}},
+                 {" 31-12-1999 ", {1999, 12, 31}}, {"12/31/2024", {2024, 12, 31}},
+                 {"29.02.2024", {2024, 2, 29}},    {"1 1 00", {2000, 1, 1}},
+                 {"1/1/29", {2029, 1, 1}},         {"1/1/30", {1930, 1, 1}},
+                 {"1/1/99", {1999, 1, 1}},         {"5/6/0100", {100, 6, 5}}};
     for (const auto& one : cases) EXPECT_EQ(read_date(one.text), one.expected) << one.text;
     for (const char* text : {"", "29/02/2023", "31/04/2024", "13/13/2024", "0/1/2024", "1/2",
                              "1/2/", "1/2/202", "1/2/20245", "001/2/2024", "1//2/2024", "1/2/2024x",
@@ -89,20 +87,18 @@ TEST(dates, NumbersCountFromTheEndOf1899AndAClockIsReadInOneForm) {
 }
 
 TEST(plain_text, ShowsAtMostFifteenDigitsInTheirShortestFormAndIsReadAgain) {
-    const std::pair<double, const char*> cases[] = {
-        {0, "0"},
-        {-0.0, "0"},
-        {-0.5, "-0.5"},
-        {0.1 + 0.2, "0.3"},
-        {2.0 / 3, "0.666666666666667"},
-        {999999999999999, "999999999999999"},
-        {1E15, "1E+15"},
-        {-1E100, "-1E+100"},
-        {0.0001, "0.0001"},
-        {0.00001, "0.00001"},
-        {1.5E-20, "1.5E-20"},
-        {1234567890.12345678, "1234567890.12346"},
-    };
+    const std::pair<double, const char*> cases[] = {{0, "0"},
+                                                    {-0.0, "0"},
+                                                    {-0.5, "-0.5"},
+                                                    {0.1 + 0.2, "0.3"},
+                                                    {2.0 / 3, "0.666666666666667"},
+                                                    {999999999999999, "999999999999999"},
+                                                    {1E15, "1E+15"},
+                                                    {-1E100, "-1E+100"},
+                                                    {0.0001, "0.0001"},
+                                                    {0.00001, "0.00001"},
+                                                    {1.5E-20, "1.5E-20"},
+                                                    {1234567890.12345678, "1234567890.12346"}};
     for (const auto& [value, text] : cases) EXPECT_EQ(plain_text(value), text);
     EXPECT_EQ(plain_text_signed(3), " 3");
     EXPECT_EQ(plain_text_signed(-2), "-2");
@@ -132,9 +128,7 @@ TEST(number_at_head, ReadsLenientlyAndStopsAtTheFirstOtherCharacter) {
     for (const auto& [value, texts] : cases) {
         for (const char* text : texts) EXPECT_EQ(number_at_head(text), value) << text;
     }
-}
-
-TEST(whole_number_text, IsANumberOnlyIfNothingIsLeft) {
+    // As a whole text it is a number only if nothing is left.
     EXPECT_EQ(whole_number_text(" 12.5 "), 12.5);
     EXPECT_EQ(whole_number_text("-3"), -3);
     for (const char* text : {"", " ", "1a", "12/03/2024", "1,5", ".", "-"}) {

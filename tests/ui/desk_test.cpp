@@ -28,6 +28,11 @@ class noting_form : public form {
     button bottone;
     std::function<void()> when_activated;
 
+    void save(const std::function<void()>& meanwhile) {
+        const work saving(*this);
+        meanwhile();
+    }
+
  protected:
     void load() override { note("load"); }
     void activate() override {
@@ -72,52 +77,51 @@ class desk_test : public testing::Test {
 };
 
 TEST_F(desk_test, ShowingLoadsOnceActivatesAndGivesTheFirstControlTheFocus) {
-    walk({
-        {[&] { EXPECT_FALSE(a->secondo.set_focus()) << "nobody sees it"; }, "a.load ", ""},
-        {[&] { a->show(); }, "a.activate a.+primo ", "a.primo"},
-        {[&] { a->show(); }, "", "a.primo"},
-        {[&] { b->show(); }, "b.load a.-primo b.activate b.+primo ", "b.primo"},
-        {[&] { a->secondo.set_focus(); }, "b.-primo a.activate a.+secondo ", "a.secondo"},
-        // A focus given on activation stays.
-        {[&] { b->when_activated = [&] { b->secondo.set_focus(); }; }, "", "a.secondo"},
-        {[&] { b->show(); }, "a.-secondo b.activate b.+secondo ", "b.secondo"},
-        // A screen remembers where it had the focus.
-        {[&] { a->show(); }, "b.-secondo a.activate a.+secondo ", "a.secondo"},
-        // A message box is no return from another screen.
-        {[&] {
-             stage.user.actions = {[&] { desk.answer_box(answer::ok); }};
-             desk.message("testo", "titolo", icon::stop);
-         },
-         "", "a.secondo"},
-        // A focus loss may send the focus elsewhere.
-        {[&] { a->secondo.on_blur = [&] { a->bottone.set_focus(); }; }, "", "a.secondo"},
-        {[&] { a->primo.set_focus(); }, "a.-primo ", "a.bottone"},
-    });
+    walk({{[&] { EXPECT_FALSE(a->secondo.set_focus()) << "nobody sees it"; }, "a.load ", ""},
+          {[&] { a->show(); }, "a.activate a.+primo ", "a.primo"},
+          {[&] { a->show(); }, "", "a.primo"},
+          {[&] { b->show(); }, "b.load a.-primo b.activate b.+primo ", "b.primo"},
+          {[&] { a->secondo.set_focus(); }, "b.-primo a.activate a.+secondo ", "a.secondo"},
+          // A focus given on activation stays.
+          {[&] { b->when_activated = [&] { b->secondo.set_focus(); }; }, "", "a.secondo"},
+          {[&] { b->show(); }, "a.-secondo b.activate b.+secondo ", "b.secondo"},
+          // A screen remembers where it had the focus.
+          {[&] { a->show(); }, "b.-secondo a.activate a.+secondo ", "a.secondo"},
+          // A message box is no return from another screen.
+          {[&] {
+               stage.user.actions = {[&] { desk.answer_box(answer::ok); }};
+               desk.message("testo", "titolo", icon::stop);
+           },
+           "", "a.secondo"},
+          // A focus loss may send the focus elsewhere.
+          {[&] { a->secondo.on_blur = [&] { a->bottone.set_focus(); }; }, "", "a.secondo"},
+          {[&] { a->primo.set_focus(); }, "a.-primo ", "a.bottone"}});
 }
 
 TEST_F(desk_test, FocusGoesNowhereHiddenDisabledOrUnshown) {
     a->show();
-    walk({
-        {[&] { a->secondo.set_visible(false); }, "", "a.primo"},
-        {[&] { EXPECT_FALSE(a->secondo.set_focus()); }, "", "a.primo"},
-        {[&] { a->secondo.set_visible(true); }, "", "a.primo"},
-        {[&] { a->secondo.set_enabled(false); }, "", "a.primo"},
-        {[&] { EXPECT_FALSE(a->secondo.set_focus()); }, "", "a.primo"},
-        {[&] { EXPECT_FALSE(a->scritta.set_focus()); }, "", "a.primo"},
-        // Hiding passes the focus on, and nothing comes back by itself.
-        {[&] { a->primo.set_visible(false); }, "a.-primo ", "a.bottone"},
-        {[&] { a->bottone.set_enabled(false); }, "", ""},
-        {[&] { a->primo.set_visible(true); }, "", ""},
-        {[&] { a->bottone.set_enabled(true); }, "", ""},
-        // From nowhere to the first, then past the disabled one.
-        {[&] { desk.tab(false); }, "a.+primo ", "a.primo"},
-        {[&] { desk.tab(false); }, "a.-primo ", "a.bottone"},
-        {[&] { desk.tab(true); }, "a.+primo ", "a.primo"},
-        // Hiding a screen makes no other one active.
-        {[&] { b->show(); }, "b.load a.-primo b.activate b.+primo ", "b.primo"},
-        {[&] { b->hide(); }, "b.-primo ", ""},
-    });
+    walk({{[&] { a->secondo.set_visible(false); }, "", "a.primo"},
+          {[&] { EXPECT_FALSE(a->secondo.set_focus()); }, "", "a.primo"},
+          {[&] { a->secondo.set_visible(true); }, "", "a.primo"},
+          {[&] { a->secondo.set_enabled(false); }, "", "a.primo"},
+          {[&] { EXPECT_FALSE(a->secondo.set_focus()); }, "", "a.primo"},
+          {[&] { EXPECT_FALSE(a->scritta.set_focus()); }, "", "a.primo"},
+          // Hiding passes the focus on, and nothing comes back by itself.
+          {[&] { a->primo.set_visible(false); }, "a.-primo ", "a.bottone"},
+          {[&] { a->bottone.set_enabled(false); }, "", ""},
+          {[&] { a->primo.set_visible(true); }, "", ""},
+          {[&] { a->bottone.set_enabled(true); }, "", ""},
+          // From nowhere to the first, then past the disabled one.
+          {[&] { desk.tab(false); }, "a.+primo ", "a.primo"},
+          {[&] { desk.tab(false); }, "a.-primo ", "a.bottone"},
+          {[&] { desk.tab(true); }, "a.+primo ", "a.primo"},
+          // Hiding a screen makes no other one active.
+          {[&] { b->show(); }, "b.load a.-primo b.activate b.+primo ", "b.primo"},
+          {[&] { b->hide(); }, "b.-primo ", ""}});
     EXPECT_EQ(desk.active(), nullptr);
+    a->show();
+    a->save([&] { EXPECT_TRUE(desk.obstacle(*a) && desk.obstacle(a->primo)); });
+    EXPECT_FALSE(desk.obstacle(*a) || desk.obstacle(a->primo));
 }
 
 /// Out of two questions, one inside the other, and out of work in which pending events run.

@@ -32,27 +32,25 @@ TEST(input_rule, AHandTypesOnlyWhatAFieldHolds) {
     struct {
         const input_rule& rule;
         const char *before, *now, *admitted;  // null: refused
-    } cases[] = {
-        {number, "2", "2,", "2."},
-        {number, "2.", "2.,", nullptr},
-        {number, "", "-1,5", "-1.5"},
-        {number, "1", "1-", nullptr},
-        {number, "", "€ 1.234,50", "1234.50"},
-        {number, "", "1.234.567", "1234567"},
-        {number, "1", "1e", nullptr},
-        {number, "", "1,2,3", nullptr},
-        {number, "", "123456789012345", "123456789012345"},
-        {number, "123456789012345", "1234567890123456", nullptr},
-        {number, "12", "", ""},
-        {number, "", "*", nullptr},
-        {starred, "", "*", "*"},
-        {percent, "3276", "32767", "32767"},
-        {percent, "3276", "32768", nullptr},
-        {percent, "3.99999", "399999", nullptr},
-        {four, "abcd", "abxcd", nullptr},
-        {four, "ab", "aXYZb", "aXYb"},
-        {four, "abcdef", "abcdf", "abcdf"},
-    };
+    } cases[] = {{number, "2", "2,", "2."},
+                 {number, "2.", "2.,", nullptr},
+                 {number, "", "-1,5", "-1.5"},
+                 {number, "1", "1-", nullptr},
+                 {number, "", "€ 1.234,50", "1234.50"},
+                 {number, "", "1.234.567", "1234567"},
+                 {number, "1", "1e", nullptr},
+                 {number, "", "1,2,3", nullptr},
+                 {number, "", "123456789012345", "123456789012345"},
+                 {number, "123456789012345", "1234567890123456", nullptr},
+                 {number, "12", "", ""},
+                 {number, "", "*", nullptr},
+                 {starred, "", "*", "*"},
+                 {percent, "3276", "32767", "32767"},
+                 {percent, "3276", "32768", nullptr},
+                 {percent, "3.99999", "399999", nullptr},
+                 {four, "abcd", "abxcd", nullptr},
+                 {four, "ab", "aXYZb", "aXYb"},
+                 {four, "abcdef", "abcdf", "abcdf"}};
     for (const auto& one : cases) {
         const auto admitted = one.rule.admit(from_utf8(one.before), from_utf8(one.now));
         EXPECT_EQ(admitted, one.admitted ? std::optional<std::string>(one.admitted) : std::nullopt)
