@@ -73,6 +73,12 @@ const damage damages[] = {
      }},
     {{"the counter says 5000 records, the file holds 4000"},
      wrong("tot", contatori::ordini, &rec_tot::quanti, std::int16_t{25})},
+    {{"the counter says 4000 records, the file holds 3800"},
+     [](auto& c) { std::filesystem::resize_file(c.file("orc"), 19 * 200 * sizeof(rec_orc)); }},
+    {{"vantora.cli: the file isn't there"},
+     [](auto& c) { std::filesystem::remove(c.file("cli")); }},
+    {{"row 1: a quantity or the price is no number"},
+     [](auto& c) { wrong("orc", open_order(c), &rec_orc::quantita, std::nan(""))(c); }},
     {{"the count of quotes is negative"},
      wrong("tot", contatori::preventivi, &rec_tot::quanti, std::int16_t{-5})},
     {{"the last number of the orders is 32700"},
@@ -148,6 +154,9 @@ TEST(archive_repair, SetsTheWrongFiguresRightAndLeavesACopyOfTheFile) {
     expected.replace(2 * size, size, now, 2 * size, size);
     EXPECT_EQ(now, expected);
     EXPECT_EQ(test::bytes_of(company.file("art").string() + ".copy1"), wrong);
+    std::filesystem::resize_file(company.file("orc"), 119 * 200 * sizeof(rec_orc));
+    EXPECT_EQ(repair(true), 3) << "an order is missing";
+    EXPECT_EQ(test::bytes_of(company.file("art")), now);
 }
 
 TEST(archive_export, FolderAndDatabaseHoldTheSameRows) {

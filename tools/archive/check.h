@@ -13,7 +13,7 @@ findings check_archive(company_files& company);
 
 /// Lengths of the record files against whole records and against their counters; counters that
 /// are nonsense or near their end.
-void check_files(const company_files& company, findings& into);
+void check_files(company_files& company, findings& into);
 /// Order of the indexes, each record once, the key of its record.
 void check_indexes(company_files& company, findings& into);
 /// The orders, block by block, in one pass that also adds up what they have open.
@@ -24,5 +24,13 @@ void check_stock(company_files& company, const open_quantities& open, findings& 
 void check_movements(company_files& company, findings& into);
 /// Parameter and table files that fall back to defaults.
 void check_tables(company_files& company, findings& into);
+
+/// So many records of an open file couldn't be read.
+template <class Record>
+void tell_unread(const channel<Record>& file, int records, findings& into) {
+    if (records == 0 || !file.is_open()) return;
+    into.push_back({gravity::error, file.name(), std::to_string(records) + " records can't be read",
+                    "See whether its disk is sound; put the file back from a copy."});
+}
 
 }  // namespace vantora::archive

@@ -1,6 +1,7 @@
 #include <cmath>
 
 #include "archive/check.h"
+#include "store/company.h"
 
 namespace vantora::archive {
 
@@ -32,11 +33,16 @@ std::string named(const char* extension) {
     return std::string("vantora.") + extension;
 }
 
-void check_length(const counted_file& file, const company_files& company, findings& into) {
+void check_length(const counted_file& file, company_files& company, findings& into) {
     const auto length = company.length_of(file.extension);
     if (!length) {
         into.push_back({gravity::error, named(file.extension), "the file isn't there",
                         "Put it back from a copy; the programs take it as empty."});
+        return;
+    }
+    if (!company.files().open_records(file_azienda(company.numero_azienda(), file.extension))) {
+        into.push_back({gravity::error, named(file.extension), "the file can't be opened",
+                        "Give the programs the right to read it; they take it as empty."});
         return;
     }
     if (const auto rest = *length % file.record_length; rest != 0) {
@@ -99,7 +105,7 @@ void check_counter(const named_counter& one, const company_files& company, findi
 
 }  // namespace
 
-void check_files(const company_files& company, findings& into) {
+void check_files(company_files& company, findings& into) {
     for (const counted_file& file : counted_files) check_length(file, company, into);
     for (const named_counter& one : named_counters) check_counter(one, company, into);
     const float running = company.counter(contatori::documenti_trasporto).progressivo;

@@ -1,5 +1,4 @@
 #include <cmath>
-#include <cstring>
 #include <map>
 
 #include "archive/check.h"
@@ -26,17 +25,6 @@ bool same_head(const rec_orc& one, const rec_orc& other) {
     return one.numero == other.numero && one.data == other.data && one.cliente == other.cliente &&
            one.data_evasione == other.data_evasione && one.impegno == other.impegno &&
            one.annullato == other.annullato;
-}
-
-/// The rows without those at the end that repeat an empty one, which have nothing to tell.
-rows without_empty_end(rows order) {
-    const rec_orc& last = order.back();
-    if (last.quantita != 0 || last.evaso != 0 || last.prezzo != 0 || last.articolo != 0) {
-        return order;
-    }
-    std::size_t used = order.size();
-    while (used > 1 && std::memcmp(&order[used - 2], &last, sizeof last) == 0) --used;
-    return order.first(used);
 }
 
 class order_check {
@@ -137,12 +125,9 @@ class order_check {
 
 void check_orders(company_files& company, open_quantities& open, findings& into) {
     order_check check(company, into);
-    scan_blocks(company.records().orc, company.count(contatori::ordini),
-                [&](int registrazione, rows order) {
-                    const rows used = without_empty_end(order);
-                    check.look_at(registrazione, used);
-                    open.add(used);
-                });
+    const int unread = open.add_orders(
+        company, [&check](int registrazione, rows order) { check.look_at(registrazione, order); });
+    tell_unread(company.records().orc, unread * righe_blocco, into);
     check.tell_repeated_numbers();
 }
 

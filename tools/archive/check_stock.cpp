@@ -40,6 +40,11 @@ void check_stock(company_files& company, const open_quantities& open, findings& 
                                  "Set it right in the suite's article module."});
              }
          });
+    if (!open.complete()) {
+        into.push_back({gravity::note, articles.name(),
+                        "what the orders have open couldn't be compared, as not all can be read",
+                        "Check again once the orders are whole."});
+    }
     for (const wrong_ordered_quantity& one : open.compare(articles)) {
         if (!std::isfinite(one.stored)) continue;
         into.push_back({gravity::error, article_named(one.articolo, one.codice),

@@ -87,8 +87,9 @@ void check_general(company_files& company, findings& into) {
     if (content->size() < sizeof gnr) {
         into.push_back({gravity::error, "vantora.gnr",
                         "it is " + std::to_string(content->size()) + " bytes long instead of " +
-                            std::to_string(sizeof gnr),
+                            std::to_string(sizeof gnr) + ": what is missing gets its default",
                         "Put the file back from a copy."});
+        return;
     }
     if (gnr.formato_gnr.full() != "9") {
         into.push_back({gravity::warning, "vantora.gnr", "it has the form of an older version",

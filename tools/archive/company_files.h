@@ -51,28 +51,40 @@ int held_of(const channel<Record>& from, int count) {
 }
 
 /// Hands records 1 to `count` over in order, read ahead in stretches of 128 KiB. What can't
-/// be read is passed over.
+/// be read is passed over; returns how many records that were.
 template <class Record, class Visit>
-void scan(const channel<Record>& from, int count, Visit visit) {
+int scan(const channel<Record>& from, int count, Visit visit) {
     constexpr int at_once = std::max(1, (1 << 17) / static_cast<int>(sizeof(Record)));
     count = held_of(from, count);
     auto ahead = all_records_ahead(from, count, at_once);
     Record one;
+    int unread = 0;
     for (int number = 1; number <= count; ++number) {
-        if (ahead.next(one)) visit(number, std::as_const(one));
+        if (ahead.next(one)) {
+            visit(number, std::as_const(one));
+        } else {
+            ++unread;
+        }
     }
+    return unread;
 }
 
 /// The same with the 200 rows of a block at a time: visit(registrazione, rows). A block is read as
-/// a whole or passed over.
+/// a whole or passed over; returns how many were.
 template <class Row, class Visit>
-void scan_blocks(const channel<Row>& from, int blocks, Visit visit) {
+int scan_blocks(const channel<Row>& from, int blocks, Visit visit) {
     constexpr int rows = righe_blocco;
     blocks = (held_of(from, blocks * rows) + rows - 1) / rows;
     auto ahead = all_records_ahead(from, blocks * rows, rows);
+    int unread = 0;
     for (int block = 1; block <= blocks; ++block) {
-        if (const auto its = ahead.next_run()) visit(block, *its);
+        if (const auto its = ahead.next_run()) {
+            visit(block, *its);
+        } else {
+            ++unread;
+        }
     }
+    return unread;
 }
 
 }  // namespace vantora::archive

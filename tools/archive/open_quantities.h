@@ -23,20 +23,43 @@ class open_quantities {
     /// For articles 1 to `articles`.
     explicit open_quantities(std::int16_t articles);
 
-    /// Adds an order's 200 rows.
-    void add(std::span<const rec_orc> order);
+    /// Adds all orders of a company: see(registrazione, rows) has a look at each on the way, its
+    /// rows without the empty ones at its end. Returns how many couldn't be read.
+    template <class See>
+    int add_orders(company_files& company, See see) {
+        const rec_tot counter = company.counter(contatori::ordini);
+        const int orders = company.count(contatori::ordini);
+        const auto& from = company.records().orc;
+        const int unread = scan_blocks(from, orders, [&](int registrazione, auto order) {
+            const auto used = without_empty_end(order);
+            see(registrazione, used);
+            add(used);
+        });
+        complete_ = unread == 0 && counter.quanti >= 0 &&
+                    from.records_held().value_or(0) >= orders * righe_blocco;
+        return unread;
+    }
 
-    /// The articles whose figure differs by more than adding up in another order can make it.
+    /// Whether all orders of the company were there. Without them no figure can be told right.
+    [[nodiscard]] bool complete() const { return complete_; }
+
+    /// The articles whose figure differs by more than adding up in another order can make it; none
+    /// of those that a row tells no number of, and none at all if the orders aren't complete.
     [[nodiscard]] std::vector<wrong_ordered_quantity> compare(
         const channel<rec_art>& articles) const;
 
  private:
+    static std::span<const rec_orc> without_empty_end(std::span<const rec_orc> order);
+    void add(std::span<const rec_orc> order);
+
     struct sum {
         double open = 0;
         double moved = 0;  ///< of all amounts, whatever their sign: what rounding depends on
+        bool known = true;
     };
 
     std::vector<sum> by_article_;  ///< from 1
+    bool complete_ = false;
 };
 
 }  // namespace vantora::archive

@@ -12,13 +12,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::vector<wrong_ordered_quantity> find_wrong(company_files& company) {
-    open_quantities open(company.count(contatori::articoli));
-    scan_blocks(company.records().orc, company.count(contatori::ordini),
-                [&](int, std::span<const rec_orc> order) { open.add(order); });
-    return open.compare(company.records().art);
-}
-
 /// A name that no earlier copy has.
 fs::path place_for_copy(const fs::path& of) {
     for (int number = 1;; ++number) {
@@ -40,7 +33,13 @@ bool set_right(channel<rec_art>& articles, const wrong_ordered_quantity& one) {
 int repair_ordered_quantities(const fs::path& root, int numero_azienda,
                               const std::function<bool()>& confirmed, std::ostream& out) {
     company_files company(root, numero_azienda);
-    const auto wrong = find_wrong(company);
+    open_quantities open(company.count(contatori::articoli));
+    open.add_orders(company, [](auto...) {});
+    if (!open.complete()) {
+        out << "Not all orders of the company can be read; nothing was changed.\n";
+        return 3;
+    }
+    const auto wrong = open.compare(company.records().art);
     if (wrong.empty()) {
         out << "All ordered quantities are right; nothing was changed.\n";
         return 0;
