@@ -96,9 +96,13 @@ int run(int orders, int customers, int rounds) {
             [&] { read_rows(true); });
     compare("build of the register", rounds, build, "one read for each row alone",
             [&] { read_rows(false); });
+    const auto drop = [&] { drop_from_memory(bench.folder.path()); };
     compare(
-        "the same from the disk", 3, build, "one read for each row alone",
-        [&] { read_rows(false); }, [&] { drop_from_memory(bench.folder.path()); });
+        "the same from the disk", 5, build, "one read for each row and its customer",
+        [&] { read_rows(true); }, drop);
+    compare(
+        "the same from the disk", 5, build, "one read for each row alone",
+        [&] { read_rows(false); }, drop);
     test::faulty_files far(bench.files);
     far.read_takes = std::chrono::microseconds(500);
     apri_archivi(app.archives, far, 1);

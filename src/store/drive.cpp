@@ -67,6 +67,10 @@ class system_file : public file {
         return done;
     }
 
+    void will_read(std::int64_t offset, std::int64_t size) override {
+        ::posix_fadvise(descriptor_, offset, size, POSIX_FADV_WILLNEED);
+    }
+
     bool write(std::int64_t offset, std::span<const std::byte> bytes) override {
         std::size_t done = 0;
         while (done < bytes.size()) {

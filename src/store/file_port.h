@@ -36,6 +36,9 @@ class file {
     /// threads may read at once.
     virtual std::optional<std::size_t> read(std::int64_t offset, std::span<std::byte> into) = 0;
 
+    /// These bytes will be read soon: the disk may begin with them. Doesn't wait for it.
+    virtual void will_read(std::int64_t /*offset*/, std::int64_t /*size*/) {}
+
     /// Writes all bytes at `offset`; a gap behind the old end fills with zero bytes. False if the
     /// system refused.
     virtual bool write(std::int64_t offset, std::span<const std::byte> bytes) = 0;

@@ -22,7 +22,7 @@ constexpr std::size_t batch_bytes_max = 256U << 10U;
 constexpr std::size_t batches_max = 72;
 constexpr std::size_t batches_near = 6;
 constexpr std::size_t batch_places_max = 64;
-constexpr std::size_t batch_places_far = 4;
+constexpr std::size_t batch_places_far = 8;
 /// A batch has one place at first, and twice as many after each so many batches.
 constexpr std::size_t batches_of_a_size = 8;
 
@@ -71,6 +71,14 @@ std::span<batch::piece> read_neighbours(file& from, batch& into, std::span<batch
         one.read = done || (count > 1 && read_place(from, one.place, into.bytes.get() + one.at));
     }
     return pieces.subspan(count);
+}
+
+/// Has the disk begin with all places of a batch before the first of them is waited for.
+void announce(file& to, const batch& all) {
+    if (all.pieces.size() < 2) return;
+    for (const auto& one : all.pieces) {
+        to.will_read(one.place.offset, static_cast<std::int64_t>(one.place.bytes));
+    }
 }
 
 /// Whether the reads of late were slow. One alone may have met a busy processor.
@@ -225,6 +233,7 @@ class read_ahead::readers {
         locked.unlock();
         using clock = std::chrono::steady_clock;
         const auto begin = clock::now();
+        if (from_ && speed_.is_slow()) announce(*from_, mine);
         for (std::span left(mine.pieces); !left.empty() && from_ && !ending_;) {
             left = read_neighbours(*from_, mine, left);
         }

@@ -17,7 +17,8 @@ namespace vantora {
 ///
 /// Costs: of n reads of a time t each about n t / 32, of reads from memory half of them or less.
 /// In memory at once: 72 batches of at most 256 KiB, or of one place if that is larger; a few of
-/// them as long as the reads come from memory.
+/// them as long as the reads come from memory. With the disk at once: the places of 32 batches;
+/// when the object goes, some of them may still be on their way into the system's own memory.
 class read_ahead {
  public:
     /// Bytes of the file in one read. A negative offset can't be read.
