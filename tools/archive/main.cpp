@@ -54,12 +54,19 @@ bool asked_user() {
 }
 
 const std::map<std::string, show_request::kind> kinds = {
-    {"orders", show_request::kind::orders},      {"order", show_request::kind::orders},
-    {"quotes", show_request::kind::quotes},      {"customers", show_request::kind::customers},
-    {"customer", show_request::kind::customers}, {"articles", show_request::kind::articles},
-    {"article", show_request::kind::articles},   {"movements", show_request::kind::movements},
-    {"movement", show_request::kind::movements}, {"documents", show_request::kind::documents},
-    {"document", show_request::kind::documents}, {"counters", show_request::kind::counters}};
+    {"orders", show_request::kind::orders},       {"order", show_request::kind::orders},
+    {"quotes", show_request::kind::quotes},       {"quote", show_request::kind::quotes},
+    {"customers", show_request::kind::customers}, {"customer", show_request::kind::customers},
+    {"articles", show_request::kind::articles},   {"article", show_request::kind::articles},
+    {"movements", show_request::kind::movements}, {"movement", show_request::kind::movements},
+    {"documents", show_request::kind::documents}, {"document", show_request::kind::documents},
+    {"counters", show_request::kind::counters}};
+
+std::vector<std::string> names_of_kinds() {
+    std::vector<std::string> names;
+    for (const auto& [name, kind] : kinds) names.push_back(name);
+    return names;
+}
 
 }  // namespace
 
@@ -87,10 +94,11 @@ int main(int count, char** arguments) {
 
     show_request request;
     CLI::App* show_records = app.add_subcommand("show", "shows records in words");
-    show_records->add_option("WHAT", request.what, "orders, quotes, customers, articles, ...")
+    std::string what;
+    show_records->add_option("WHAT", what, "orders, quotes, customers, articles, ...")
         ->required()
-        ->transform(CLI::CheckedTransformer(kinds));
-    show_records->add_option("NUMBER", request.number, "one of them")->check(CLI::PositiveNumber);
+        ->check(CLI::IsMember(names_of_kinds()));
+    show_records->add_option("NUMBER", request.number, "one of them")->check(CLI::Range(1, 32767));
     show_records->add_flag("--json", request.json, "every field by its name");
 
     std::string target;
@@ -118,6 +126,7 @@ int main(int count, char** arguments) {
             drive, number, [yes] { return yes || asked_user(); }, std::cout);
     }
     if (*save) return run_export(company, target, plain);
+    request.what = kinds.at(what);
     if (show(company, request, std::cout)) return sound;
     std::cerr << "There is no such record.\n";
     return unreadable;
