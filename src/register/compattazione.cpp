@@ -37,14 +37,14 @@ write_faults compatta_archivio(archivi& files, rec_tot& counter, bool elimina_ev
     std::int16_t vuoti = 0;
     bool moved = false;
     for (int registrazione = 1; registrazione <= orders; ++registrazione) {
-        heads.next(riga);
+        // Of what can't be read nobody knows that it may go.
+        const bool read = heads.next(riga);
         progress(registrazione);
-        if (riga.annullato == 1 || (elimina_evasi && riga.evaso_flag == 1)) {
+        if (read && (riga.annullato == 1 || (elimina_evasi && riga.evaso_flag == 1))) {
             ++vuoti;
         } else if (vuoti > 0) {
             const int target = registrazione - vuoti;
             if (!faults.note(move_block(files.orc, registrazione, target, rows), files.orc)) break;
-            riga = rows.back();
             moved = true;
         }
     }

@@ -38,15 +38,15 @@ void write_archive(small_company& company, const std::string& states) {
     company.files.tot.write(contatori::ordini, counter);
 }
 
-/// The pass as a person would do it by hand, record by record: an unreadable head counts as the
-/// record before it; at a block that can't be read whole all stops, and the counter stays. So it
+/// The pass as a person would do it by hand, record by record: an order whose head can't be read
+/// stays; at a block that can't be read whole all stops, and the counter stays. So it
 /// does behind so many blocks, when the next write fails or the process ends.
 void compact_by_hand(archivi& files, rec_tot& counter, bool fulfilled_too, std::size_t blocks) {
     rec_orc row{};
     int gone = 0;
     for (int i = 1; i <= counter.quanti; ++i) {
-        files.orc.read(block_record(i, 1), row);
-        if (row.annullato == 1 || (fulfilled_too && row.evaso_flag == 1)) {
+        const bool read = files.orc.read(block_record(i, 1), row);
+        if (read && (row.annullato == 1 || (fulfilled_too && row.evaso_flag == 1))) {
             ++gone;
         } else if (gone > 0) {
             if (blocks-- == 0) return;
