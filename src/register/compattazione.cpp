@@ -27,6 +27,8 @@ bool move_block(channel<rec_orc>& orders, int from, int to, std::vector<rec_orc>
 write_faults compatta_archivio(archivi& files, rec_tot& counter, bool elimina_evasi,
                                const std::function<void(int)>& progress) {
     write_faults faults;
+    // Moved below a count that can't fall, orders would stand twice.
+    if (!faults.note(files.tot.writable(), files.tot)) return faults;
     const int orders = counter.quanti;
     records_ahead<rec_orc> heads(
         files.orc, static_cast<std::size_t>(std::max(orders, 0)), [](std::size_t before) {

@@ -15,9 +15,9 @@ namespace vantora {
 /// told the `registrazione` at hand, before anything of it moves, and may end the pass by leaving
 /// through an exception: the blocks moved so far then stand twice, and the old count still holds.
 ///
-/// An order whose head can't be read stays. The first block that can't be copied ends the moving,
-/// since the next would be laid over it, and leaves the count as it was; so does a disk that
-/// doesn't take what was moved. Returns the files at fault.
+/// Without a counter to write nothing moves. An order whose head can't be read stays. The first
+/// block that can't be copied ends the moving, since the next would be laid over it, and leaves the
+/// count as it was; so does a disk that doesn't take what was moved. Returns the files at fault.
 write_faults compatta_archivio(archivi& files, rec_tot& counter, bool elimina_evasi,
                                const std::function<void(int)>& progress);
 

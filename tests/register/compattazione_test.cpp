@@ -163,6 +163,10 @@ TEST(compattazione, FlushesTheBlocksBeforeTheCounter) {
     EXPECT_EQ(counter_of(refused.files).quanti, 4);
     refused.faults.flush_fails = [&](const std::string& path) { return path == tot; };
     EXPECT_EQ(refused.compact().names(), "vantora.tot");
+    refused.faults.events.clear();
+    refused.faults.read_only = refused.faults.flush_fails;
+    EXPECT_EQ(refused.compact().names(), "vantora.tot");
+    EXPECT_TRUE(refused.faults.events.empty());
 }
 
 }  // namespace
