@@ -26,7 +26,8 @@ class instance_lock {
 
     static constexpr std::chrono::milliseconds patience{10'000};
 
-    /// Waits for the lock as long as `limit`. REQUIRES: counters are read only after that.
+    /// Waits for the lock as long as `limit`, which the user is shown. REQUIRES: counters are read
+    /// only after that.
     instance_lock(const archivi& files, kind what, std::chrono::milliseconds limit = patience);
     instance_lock(const instance_lock&) = delete;
     instance_lock& operator=(const instance_lock&) = delete;
