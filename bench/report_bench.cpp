@@ -32,11 +32,14 @@ int run(int rows, int rounds) {
         std::ifstream in(stage.files.locate(file_di_stampa), std::ios::binary);
         const std::string whole{std::istreambuf_iterator<char>(in), {}};
         std::printf("%d rows, %zu bytes of print file\n", rows, whole.size());
+        const auto write_bytes = [&] {
+            stage.files.create_instead(file_di_stampa)->write(0, std::as_bytes(std::span(whole)));
+        };
+        // Both have had a turn before the rounds that count: the first in a program meets code and
+        // memory that were never touched.
+        write_bytes();
         compare(look == 0 ? "report, plain look" : "report, grey look", rounds, print,
-                "its print file from memory", [&] {
-                    stage.files.create_instead(file_di_stampa)
-                        ->write(0, std::as_bytes(std::span(whole)));
-                });
+                "its print file from memory", write_bytes);
     }
     return 0;
 }
