@@ -40,12 +40,12 @@ std::vector<std::string> faults_of(const demo_folder& folder) {
     return lines;
 }
 
-/// The record of the first open order that a company has with an article in its row 1.
-std::int64_t open_order(const demo_folder& company) {
+/// The record of the first open, or fulfilled, order of a company with an article in its row 1.
+std::int64_t open_order(const demo_folder& company, bool open = true) {
     const auto rows = test::records_of<rec_orc>(company.file("orc"));
     for (std::size_t i = 0; i < rows.size(); i += righe_blocco) {
         const rec_orc& row = rows[i];
-        if (row.annullato != 1 && row.evaso_flag != 1 && row.articolo >= 1) {
+        if (row.annullato != 1 && (row.evaso_flag != 1) == open && row.articolo >= 1) {
             return static_cast<std::int64_t>(i) + 1;
         }
     }
@@ -119,6 +119,9 @@ TEST(archive_check, FindsEachDamageAndNothingElseAndWritesNothing) {
             {.numero_azienda = 7, .orders = orders, .articles = articles, .customers = customers});
         EXPECT_EQ(faults_of(sound), std::vector<std::string>{}) << orders;
     }
+    const demo_folder emptied(test::small_company);
+    wrong("orc", open_order(emptied, false), &rec_orc::quantita, 0.0)(emptied);
+    EXPECT_EQ(faults_of(emptied), std::vector<std::string>{}) << "what was fulfilled has left";
     for (const damage& one : damages) {
         SCOPED_TRACE(one.told[0]);
         const demo_folder company(

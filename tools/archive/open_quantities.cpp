@@ -38,7 +38,11 @@ void open_quantities::add(std::span<const rec_orc> order) {
             its.known = false;
             continue;
         }
-        its.open += quantity - fulfilled;
+        if (quantity != 0) {
+            its.open += quantity - fulfilled;
+        } else {
+            (fulfilled > 0 ? its.less : its.more) += std::abs(fulfilled);
+        }
         its.moved += std::abs(quantity) + std::abs(fulfilled);
     }
 }
@@ -53,7 +57,10 @@ std::vector<wrong_ordered_quantity> open_quantities::compare(
              if (!its.known) return;
              const double stored = article.ordinato_clienti;
              const double allowed = tolerance * std::max({1.0, its.moved, std::abs(stored)});
-             if (std::abs(stored - its.open) <= allowed) return;
+             if (stored >= its.open - its.less - allowed &&
+                 stored <= its.open + its.more + allowed) {
+                 return;
+             }
              wrong.push_back({static_cast<std::int16_t>(number), to_utf8(article.codice.trimmed()),
                               stored, its.open});
          });

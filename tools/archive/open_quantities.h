@@ -17,7 +17,9 @@ struct wrong_ordered_quantity {
 };
 
 /// What the orders that aren't deleted have open of each article: quantity less fulfilled. A row
-/// without a quantity moved no stock when it was saved, but what was fulfilled of it did.
+/// without a quantity has nothing open. If something was fulfilled of it, its quantity was taken
+/// out afterwards, or a text row left the house with a quantity, which the article's figure
+/// follows: the row doesn't tell which, so both are right.
 class open_quantities {
  public:
     /// For articles 1 to `articles`.
@@ -54,6 +56,8 @@ class open_quantities {
 
     struct sum {
         double open = 0;
+        double less = 0;   ///< what fulfilled rows without a quantity may have taken off
+        double more = 0;   ///< or, taken back, added
         double moved = 0;  ///< of all amounts, whatever their sign: what rounding depends on
         bool known = true;
     };
