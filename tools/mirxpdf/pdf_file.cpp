@@ -25,8 +25,11 @@ QString reason_of(int error) {
         case ENOENT:
         case ENOTDIR:
             return "la cartella manca";
+        case EIO:
+            return "errore del disco";
         default:
-            return QString::fromStdString(std::generic_category().message(error));
+            return "errore del sistema: " +
+                   QString::fromStdString(std::generic_category().message(error));
     }
 }
 
