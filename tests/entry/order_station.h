@@ -1,5 +1,7 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include "customer/mirorcm.h"
 #include "customer/mirorcx.h"
 #include "entry/mirorcs.h"
@@ -27,6 +29,7 @@ struct order_station : station {
     /// Opens the order in a row of the register.
     mirorcz& open(int row) {
         desk.dispatch([&] { app.mirorc->elenco.click_cell(row, 0); });
+        EXPECT_TRUE(desk.ended() || desk.pointer_shape() == ui::pointer::normal);
         return *app.mirorcz;
     }
     void save_opened() {
