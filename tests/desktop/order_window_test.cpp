@@ -150,6 +150,9 @@ TEST_F(order_window, GoodsLeaveByTheKeyboardAloneAsOftenAsWanted) {
         EXPECT_EQ(focus(), "elenco");
         EXPECT_EQ(table()->currentIndex().row(), 0);
         press(Qt::Key_Down);
+        press(Qt::Key_F7);
+        EXPECT_EQ(focused()->geometry(), table()->visualRect(table()->model()->index(1, 6)));
+        press(Qt::Key_Return);
         press(Qt::Key_F6);
         press(Qt::Key_F12);
     };

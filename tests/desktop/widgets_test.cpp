@@ -111,8 +111,10 @@ TEST_F(widgets, FocusChoicesAndValuesFollowBothWays) {
         EXPECT_EQ(screen->barra.value(), 41);
         screen->barra.set_value(50);
         EXPECT_EQ(bar->value(), 50);
+        int offered = 0;
+        screen->spunta.on_key_down = [&](key_event&) { ++offered; };
         QTest::keyClick(bench.find("spunta"), Qt::Key_Space);
-        EXPECT_TRUE(screen->spunta.on());
+        EXPECT_TRUE(screen->spunta.on() && offered == 1);
         screen->spunta.set_enabled(false);
         EXPECT_FALSE(bench.find("spunta")->isEnabled());
     }});

@@ -45,6 +45,9 @@ TEST(mirorcs, ANewOrderTakesItsHeadFromTheCustomersScreenAndIsPrinted) {
         at.app.mirorcx->bottone.click();
         at.app.mirorcs->lookup().List1.pick(0);
         at.app.mirorcs->quantita[0].set_text("2");
+        at.app.mirorcs->artic[1].set_focus();
+        at.app.mirorcs->lookup().List1.pick(1);
+        at.app.mirorcs->ds[1].set_focus();
         at.app.mirorcs->impegno.set_on(true);
         at.app.mirorcs->prezz[1].set_on(true);
         at.app.mirorcs->comando[1].click();
@@ -65,6 +68,7 @@ TEST(mirorcs, ANewOrderTakesItsHeadFromTheCustomersScreenAndIsPrinted) {
     const rec_orc first = company.row_now(1, 1);
     EXPECT_EQ(first.articolo, 1);
     EXPECT_EQ(first.quantita, 2);
+    EXPECT_EQ(company.row_now(1, 2).articolo, 0) << "its description was entered";
     EXPECT_EQ(first.impegno.full(), "1");
     EXPECT_NEAR(first.data_reg, 45418.43090, 0.00001);
     EXPECT_EQ(company.row_now(1, 2).testo3.trimmed(), "amm indirizzo");

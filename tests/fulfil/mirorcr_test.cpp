@@ -89,11 +89,11 @@ TEST(mirorcr, TheDestinationOfTheFirstOrderThatLeavesIsTakenIfWanted) {
             row.testo2 = "PARMA";
             row.testo3 = "2x10";
         });
+        stage.order(3, 1, {{1, 5}});
         stage.run();
         stage.open_worklist(1);
         stage.app.mirorcc->Combo1[2].choose(1);
-        stage.click(1, mirorcr::ordine);
-        stage.click(2, mirorcr::ordine);
+        for (const int row : {1, 2, 3}) stage.click(row, mirorcr::ordine);
         if (wanted) stage.desk.dispatch([&] { stage.app.mirorcr->aggiorna.toggle(); });
         stage.book();
         EXPECT_EQ(stage.app.mirorcc->Text2[12].text(), wanted ? "PARMA" : "amm citta");
