@@ -34,6 +34,7 @@ TEST_F(printing, TextsLinesAndPagesStandWhereTheyWerePut) {
     system_printer paper([&](const QString&) { return file("ordine.pdf"); }, {});
     const font small{"Arial", 10, false, false};
     const double width = paper.text_width("Quantità"_cp, small);
+    EXPECT_NEAR(paper.text_width("AV", small), 2 * paper.text_width("A", small), 1e-9) << "kerned";
     paper.text(100, 60, "Quantità"_cp, small, 0);
     paper.text(20, 250, "Verdana", {"Verdana", 24, true, false}, 0);
     paper.new_page();

@@ -40,6 +40,8 @@ QFont page_font(const font& wanted) {
     made.setPointSizeF(wanted.size > 0 ? wanted.size : 1);
     made.setBold(wanted.bold);
     made.setItalic(wanted.italic);
+    // Character by character, as the suite's pages are measured: a text is as wide as the sum.
+    made.setKerning(false);
     return made;
 }
 
