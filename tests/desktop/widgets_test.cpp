@@ -9,6 +9,7 @@
 
 #include "store/text/code_page.h"
 #include "ui/controls.h"
+#include "ui/desktop/grid_view.h"
 #include "ui/errors.h"
 #include "window_stage.h"
 
@@ -124,7 +125,9 @@ TEST_F(widgets, FocusChoicesAndValuesFollowBothWays) {
 TEST_F(widgets, AListTakesTheRowThatIsHighlighted) {
     run({[&] {
         grid& list = screen->elenco;
-        auto* view = bench.find<QTableView>("elenco");
+        auto* view = bench.find<grid_view>("elenco");
+        auto* editor = new QLineEdit(view);
+        view->keep_over(editor, 0);
         int taken = 0;
         list.on_click = [&] { taken = list.row(); };
         std::mt19937 random(7);
@@ -139,6 +142,7 @@ TEST_F(widgets, AListTakesTheRowThatIsHighlighted) {
                                             Qt::Key_End,  Qt::Key_Left};
                 if (random() % 9 == 0) {
                     view->verticalScrollBar()->setValue(static_cast<int>(random() % rows));
+                    ASSERT_EQ(editor->geometry(), view->visualRect(view->currentIndex()));
                 }
                 const Qt::Key key = keys[random() % std::size(keys)];
                 const int before = list.row();
