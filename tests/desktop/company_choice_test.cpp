@@ -43,6 +43,7 @@ TEST(company_choice, OpensTheCompanyTakenAndNothingWhereThereIsNone) {
 }
 
 TEST(desktop_program, TakesItsCommandsFromAScriptThatCanBeOpened) {
+    ui::desktop::test::application();  // no display is needed from here on
     const test::scratch_folder folder;
     const auto script = folder.path() / "comandi";
     std::ofstream(script)
