@@ -9,10 +9,10 @@
 #include <random>
 
 #include "bench/measure.h"
+#include "desktop/form_window.h"
+#include "desktop/look/style.h"
 #include "support/program_stage.h"
 #include "ui/controls.h"
-#include "ui/desktop/form_window.h"
-#include "ui/look/style.h"
 
 namespace vantora::bench {
 namespace {

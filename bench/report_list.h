@@ -3,8 +3,8 @@
 #include <string>
 
 #include "reports/report.h"
-#include "store/text/number_text.h"
 #include "store/values.h"
+#include "text/number_text.h"
 
 namespace vantora::bench {
 

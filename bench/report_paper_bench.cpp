@@ -7,8 +7,8 @@
 
 #include "bench/measure.h"
 #include "bench/report_list.h"
+#include "desktop/system_ports.h"
 #include "support/program_stage.h"
-#include "ui/desktop/system_ports.h"
 
 namespace vantora::bench {
 namespace {

@@ -6,24 +6,30 @@ cd "$(dirname "$0")/.."
 
 # FOLDER: what it may include beside itself.
 allowed='
-store: store/records store/text
-store/records: store
-store/text:
-ui: store/text
+text:
+errors:
+store: store/records text
+store/records: store text
+orders: store store/records text errors
+ui: text errors
 ui/pictures: ui
-ui/script: ui store/text
-ui/paper: ui store/text
-ui/look: ui
-ui/desktop: ui ui/paper ui/look ui/script ui/desktop/layouts store/text
-ui/desktop/layouts: ui ui/paper ui/look ui/desktop store/text
-program: store store/records store/text ui
-customer: program store store/records store/text ui
-documents: program store store/records store/text ui
-register: program store store/records store/text ui
-entry: customer documents program store store/records store/text ui
-fulfil: customer documents entry program store store/records store/text ui
-reports: documents program store store/records store/text ui
-app: register customer entry fulfil reports documents program store store/records store/text ui ui/desktop ui/look ui/paper ui/pictures ui/script
+ui/script: ui text
+ui/paper: ui text
+desktop: desktop/controls desktop/keys desktop/lists desktop/look desktop/printing windows ui ui/paper ui/script text
+desktop/controls: desktop desktop/keys desktop/lists desktop/look windows ui ui/paper text
+desktop/keys: desktop desktop/controls desktop/look ui
+desktop/lists: desktop desktop/controls desktop/keys desktop/look windows ui ui/paper text
+desktop/look: ui
+desktop/printing: desktop desktop/look ui ui/paper
+windows: desktop desktop/controls desktop/keys desktop/lists desktop/look ui ui/paper text
+program: orders store store/records text ui
+customer: program orders store store/records text ui
+documents: program orders store store/records text ui errors
+register: program orders store store/records text ui
+entry: customer documents program orders store store/records text ui errors
+fulfil: customer documents entry program orders store store/records text ui errors
+reports: documents program orders store store/records text ui
+app: register customer entry fulfil reports documents program store store/records text ui desktop desktop/look ui/paper ui/pictures ui/script
 '
 
 git ls-files 'src/*.h' 'src/*.cpp' |

@@ -77,7 +77,7 @@ def with_pictures(html, pictures, icons):
 
 
 def main(docs, pictures, out):
-    icons = docs.parent / "src/ui/look/icons"
+    icons = docs.parent / "src/desktop/look/icons"
     toc, html = body_of(docs, icons)
     cover = (docs / "cover.html").read_text(encoding="utf-8")
     page = (

@@ -12,10 +12,10 @@
 #include <QStandardPaths>
 #include <algorithm>
 
+#include "desktop/words.h"
 #include "store/company.h"
 #include "store/drive.h"
 #include "store/text_reader.h"
-#include "ui/desktop/words.h"
 #include "ui/paper/toolkit_values.h"
 
 namespace vantora {

@@ -6,12 +6,12 @@
 #include "app/desktop_company_choice.h"
 #include "app/options.h"
 #include "app/start.h"
+#include "desktop/desktop_front_end.h"
+#include "desktop/look/style.h"
+#include "desktop/outside_end.h"
+#include "desktop/script_runner.h"
+#include "desktop/system_ports.h"
 #include "store/drive.h"
-#include "ui/desktop/desktop_front_end.h"
-#include "ui/desktop/outside_end.h"
-#include "ui/desktop/script_runner.h"
-#include "ui/desktop/system_ports.h"
-#include "ui/look/style.h"
 #include "ui/pictures/pixbuf_decoder.h"
 
 namespace {

@@ -2,7 +2,7 @@
 
 #include <CLI/CLI.hpp>
 
-#include "store/text/code_page.h"
+#include "text/code_page.h"
 
 namespace vantora {
 

@@ -3,7 +3,7 @@
 #include <optional>
 #include <string>
 
-#include "store/text/dates.h"
+#include "text/dates.h"
 #include "ui/desk.h"
 
 namespace vantora {

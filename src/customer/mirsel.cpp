@@ -4,7 +4,7 @@
 #include "program/pick_list.h"
 #include "store/key_index.h"
 #include "store/record_stretches.h"
-#include "store/text/number_text.h"
+#include "text/number_text.h"
 #include "ui/enter_key.h"
 
 namespace vantora {

@@ -3,8 +3,8 @@
 #include <cmath>
 
 #include "documents/document_content.h"
-#include "store/text/int16.h"
-#include "store/text/number_text.h"
+#include "text/int16.h"
+#include "text/number_text.h"
 
 namespace vantora {
 

@@ -1,7 +1,7 @@
 #include "documents/document_content.h"
 
-#include "store/text/number_text.h"
 #include "store/vat_codes.h"
+#include "text/number_text.h"
 
 namespace vantora {
 

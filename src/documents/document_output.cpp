@@ -1,6 +1,6 @@
 #include "documents/document_output.h"
 
-#include "store/text/number_text.h"
+#include "text/number_text.h"
 
 namespace vantora {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "store/text/code_page.h"
+#include "text/code_page.h"
 
 namespace vantora {
 

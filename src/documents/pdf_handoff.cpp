@@ -2,7 +2,7 @@
 
 #include "documents/print_file.h"
 #include "store/company.h"
-#include "store/text/number_text.h"
+#include "text/number_text.h"
 
 namespace vantora {
 

@@ -1,8 +1,8 @@
 #include "documents/pdf_settings.h"
 
 #include "store/company.h"
-#include "store/text/code_page.h"
 #include "store/text_reader.h"
+#include "text/code_page.h"
 
 namespace vantora {
 

@@ -6,8 +6,8 @@
 #include <optional>
 #include <utility>
 
-#include "store/text/code_page.h"
-#include "store/text/number_text.h"
+#include "text/code_page.h"
+#include "text/number_text.h"
 
 namespace vantora {
 

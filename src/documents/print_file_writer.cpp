@@ -7,7 +7,7 @@
 #include <span>
 #include <utility>
 
-#include "store/text/number_text.h"
+#include "text/number_text.h"
 
 namespace vantora {
 

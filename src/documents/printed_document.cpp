@@ -5,7 +5,7 @@
 #include "documents/background.h"
 #include "documents/document_composer.h"
 #include "documents/pdf_handoff.h"
-#include "store/text/code_page.h"
+#include "text/code_page.h"
 
 namespace vantora {
 

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "documents/document_tables.h"
-#include "program/order_lines.h"
+#include "orders/order_lines.h"
 #include "program/program.h"
 #include "store/values.h"
 #include "ui/controls.h"

@@ -3,9 +3,9 @@
 #include <algorithm>
 
 #include "store/record_runs.h"
-#include "store/text/code_page.h"
-#include "store/text/int16.h"
-#include "store/text/number_text.h"
+#include "text/code_page.h"
+#include "text/int16.h"
+#include "text/number_text.h"
 
 namespace vantora {
 

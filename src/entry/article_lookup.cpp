@@ -2,7 +2,7 @@
 
 #include "program/list_progress.h"
 #include "store/key_index.h"
-#include "store/text/number_text.h"
+#include "text/number_text.h"
 
 namespace vantora {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <vector>
 
-#include "program/stock.h"
+#include "orders/stock.h"
 
 namespace vantora {
 

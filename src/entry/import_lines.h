@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "program/order_lines.h"
+#include "orders/order_lines.h"
 #include "store/archives.h"
 
 namespace vantora {

@@ -1,10 +1,10 @@
 #include "entry/import_picker.h"
 
 #include "entry/mirorcs.h"
-#include "program/customer_names.h"
+#include "orders/customer_names.h"
 #include "store/block_reader.h"
-#include "store/text/dates.h"
-#include "store/text/number_text.h"
+#include "text/dates.h"
+#include "text/number_text.h"
 
 namespace vantora {
 

@@ -2,11 +2,11 @@
 
 #include <algorithm>
 
-#include "program/vat_codes.h"
-#include "store/text/int16.h"
-#include "store/text/number_text.h"
+#include "errors/run_time_errors.h"
+#include "orders/vat_codes.h"
+#include "text/int16.h"
+#include "text/number_text.h"
 #include "ui/enter_key.h"
-#include "ui/errors.h"
 
 namespace vantora {
 
@@ -167,7 +167,7 @@ void line_grid::wire_cells(int row) {
     const auto discount = [this, row](ui::text_box* cell, std::int16_t riga_ordine::*field) {
         cell->on_change = [this, row, cell, field] {
             const auto percent = to_int16(number_at_head(cell->text()));
-            if (!percent) throw ui::overflow_error();
+            if (!percent) throw overflow_error();
             changed_line(row).*field = *percent;
             compute_totals();
         };

@@ -3,7 +3,7 @@
 #include <deque>
 #include <optional>
 
-#include "program/order_lines.h"
+#include "orders/order_lines.h"
 
 namespace vantora {
 

@@ -5,9 +5,9 @@
 #include "entry/import_picker.h"
 #include "entry/order_head.h"
 #include "entry/save_order.h"
-#include "store/text/dates.h"
-#include "store/text/int16.h"
-#include "store/text/number_text.h"
+#include "text/dates.h"
+#include "text/int16.h"
+#include "text/number_text.h"
 
 namespace vantora {
 

@@ -2,7 +2,7 @@
 
 #include "customer/customer_head.h"
 #include "customer/shipping_data.h"
-#include "store/text/dates.h"
+#include "text/dates.h"
 
 namespace vantora {
 

@@ -1,6 +1,6 @@
 #include "entry/order_rows.h"
 
-#include "store/text/dates.h"
+#include "text/dates.h"
 
 namespace vantora {
 

@@ -3,7 +3,7 @@
 #include <array>
 #include <string>
 
-#include "program/order_lines.h"
+#include "orders/order_lines.h"
 #include "store/records/rec_orc.h"
 
 namespace vantora {

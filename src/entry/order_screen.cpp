@@ -4,7 +4,7 @@
 #include "entry/order_head.h"
 #include "entry/order_printing.h"
 #include "program/write_messages.h"
-#include "store/text/number_text.h"
+#include "text/number_text.h"
 
 namespace vantora {
 

@@ -1,8 +1,8 @@
 #include "entry/save_order.h"
 
-#include "program/stock.h"
-#include "store/text/int16.h"
-#include "store/text/number_text.h"
+#include "orders/stock.h"
+#include "text/int16.h"
+#include "text/number_text.h"
 
 namespace vantora {
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "program/order_lines.h"
+#include "orders/order_lines.h"
 #include "store/block_reader.h"
 #include "store/records/rec_art.h"
 #include "store/values.h"

@@ -1,8 +1,8 @@
 #include "entry/totals.h"
 
-#include "program/vat_codes.h"
-#include "store/text/number_text.h"
-#include "ui/errors.h"
+#include "errors/run_time_errors.h"
+#include "orders/vat_codes.h"
+#include "text/number_text.h"
 
 namespace vantora {
 
@@ -12,7 +12,7 @@ namespace {
 double net_amount(const riga_ordine& line, bool by_piece, const valuta& currency) {
     double amount = line.prezzo;
     if (by_piece) amount = arrotonda_valuta(amount * line.quantita, currency);
-    return ui::checked(importo_scontato(amount, line.sc1, line.sc2, currency));
+    return checked(importo_scontato(amount, line.sc1, line.sc2, currency));
 }
 
 }  // namespace
@@ -39,7 +39,7 @@ totali_ordine calcola_totali(const righe_ordine& lines, const tabella_iva& rates
         sums.imponibile += vat.imponibile_iva[code] + vat.esente_iva[code];
         sums.totale += vat.imposta_iva[code] + vat.imponibile_iva[code] + vat.esente_iva[code];
     }
-    for (const double one : {sums.imponibile, sums.totale, sums.pezzi}) ui::checked(one);
+    for (const double one : {sums.imponibile, sums.totale, sums.pezzi}) checked(one);
     return sums;
 }
 

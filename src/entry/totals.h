@@ -1,6 +1,6 @@
 #pragma once
 
-#include "program/order_lines.h"
+#include "orders/order_lines.h"
 #include "store/suite_table.h"
 #include "store/values.h"
 

@@ -3,7 +3,7 @@
 #include <vector>
 
 #include "fulfil/faults.h"
-#include "program/stock.h"
+#include "orders/stock.h"
 #include "store/records/order_block.h"
 
 namespace vantora {
@@ -17,7 +17,7 @@ rec_orc prenota_riga(archivi& files, std::int64_t record, double quantity, std::
             release_stock(article, quantity, committed);
         }));
     }
-    row.evaso = ui::checked(row.evaso + quantity);
+    row.evaso = checked(row.evaso + quantity);
     require(files.orc.write(record, row));
     return row;
 }

@@ -86,7 +86,7 @@ void mirorcr::take_transport_data(int order) {
     rec_orc row;
     for (const int number : {2, 3, 4}) {
         require(app_.archives.orc.read(block_record(order, number), row));
-        if (!mostra_spedizione(*app_.mirorcc, number, row)) throw ui::subscript_error();
+        if (!mostra_spedizione(*app_.mirorcc, number, row)) throw subscript_error();
     }
 }
 

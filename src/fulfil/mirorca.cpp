@@ -1,15 +1,15 @@
 #include "fulfil/mirorca.h"
 
 #include "entry/order_head.h"
+#include "errors/run_time_errors.h"
 #include "fulfil/mirorcc.h"
 #include "fulfil/salva_ddt.h"
 #include "fulfil/unloading.h"
 #include "program/write_messages.h"
 #include "store/records/rec_mag.h"
-#include "store/text/dates.h"
-#include "store/text/int16.h"
-#include "store/text/number_text.h"
-#include "ui/errors.h"
+#include "text/dates.h"
+#include "text/int16.h"
+#include "text/number_text.h"
 
 namespace vantora {
 
@@ -64,7 +64,7 @@ void mirorca::empty_hand_over() {
 }
 
 void mirorca::hand_over(int line, const rec_orc& row, std::optional<double> quantity) {
-    if (line >= elenco.rows()) throw ui::subscript_error();
+    if (line >= elenco.rows()) throw subscript_error();
     if (quantity) {
         elenco.set_text(line, articolo, std::to_string(row.articolo));
         elenco.set_text(line, col_quantita, plain_text(*quantity));
@@ -129,7 +129,7 @@ void mirorca::totals_changed() {
     for (int number = 1; number <= righe_ordine::massimo; ++number) {
         weight += righe_[number].peso * righe_[number].quantita;
     }
-    app_.mirorcc->Text3[3].set_text(testo_peso(ui::checked(weight)));
+    app_.mirorcc->Text3[3].set_text(testo_peso(checked(weight)));
 }
 
 // Commands ----------------------------------------------------------------------------------------

@@ -1,7 +1,7 @@
 #include "fulfil/mirorcc.h"
 
 #include "program/pick_list.h"
-#include "store/text/int16.h"
+#include "text/int16.h"
 
 namespace vantora {
 

@@ -1,7 +1,7 @@
 #include "fulfil/mirorcr.h"
 
-#include "store/text/number_text.h"
 #include "store/values.h"
+#include "text/number_text.h"
 #include "ui/enter_key.h"
 
 namespace vantora {

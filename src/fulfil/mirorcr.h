@@ -2,8 +2,8 @@
 
 #include <span>
 
+#include "orders/order_seen.h"
 #include "program/list_grid.h"
-#include "program/order_seen.h"
 #include "store/write_outcome.h"
 #include "ui/controls.h"
 

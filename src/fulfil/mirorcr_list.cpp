@@ -4,8 +4,8 @@
 #include "program/list_progress.h"
 #include "store/block_reader.h"
 #include "store/record_stretches.h"
-#include "store/text/dates.h"
 #include "store/values.h"
+#include "text/dates.h"
 
 namespace vantora {
 

@@ -1,9 +1,9 @@
 #include "fulfil/salva_ddt.h"
 
 #include "store/company.h"
-#include "store/text/dates.h"
-#include "store/text/int16.h"
-#include "store/text/number_text.h"
+#include "text/dates.h"
+#include "text/int16.h"
+#include "text/number_text.h"
 
 namespace vantora {
 

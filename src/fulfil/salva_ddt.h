@@ -3,7 +3,7 @@
 #include <array>
 #include <string>
 
-#include "program/order_lines.h"
+#include "orders/order_lines.h"
 #include "store/archives.h"
 #include "store/file_port.h"
 #include "store/write_outcome.h"

@@ -1,9 +1,9 @@
 #include "fulfil/unloading.h"
 
 #include "fulfil/faults.h"
-#include "program/stock.h"
-#include "store/text/dates.h"
-#include "store/text/int16.h"
+#include "orders/stock.h"
+#include "text/dates.h"
+#include "text/int16.h"
 
 namespace vantora {
 
@@ -72,12 +72,12 @@ write_outcome scarica_magazzino(archivi& files, const movimento_magazzino& movem
             require(files.art.read(line.articolo, article));
         }
         const double net_price =
-            ui::checked(importo_scontato(line.prezzo, line.sc1, line.sc2, amounts));
+            checked(importo_scontato(line.prezzo, line.sc1, line.sc2, amounts));
         unload_stock(article, line.quantita, net_price);
         require(files.art.write(line.articolo, article));
 
         const auto next = add_int16(counter.quanti, 1);
-        if (!next) throw ui::overflow_error();
+        if (!next) throw overflow_error();
         counter.quanti = *next;
         require(files.mag.write(*next, movement_of(movement, line, net_price)));
     }

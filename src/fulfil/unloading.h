@@ -3,7 +3,7 @@
 #include <functional>
 #include <string>
 
-#include "program/order_lines.h"
+#include "orders/order_lines.h"
 #include "store/archives.h"
 #include "store/values.h"
 #include "store/write_outcome.h"

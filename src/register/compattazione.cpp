@@ -3,7 +3,7 @@
 #include <vector>
 
 #include "store/record_runs.h"
-#include "store/text/int16.h"
+#include "text/int16.h"
 
 namespace vantora {
 

@@ -1,7 +1,7 @@
 #include "register/mirorc.h"
 
-#include "store/text/int16.h"
-#include "store/text/number_text.h"
+#include "text/int16.h"
+#include "text/number_text.h"
 
 namespace vantora {
 

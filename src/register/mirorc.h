@@ -1,6 +1,6 @@
 #pragma once
 
-#include "program/customer_names.h"
+#include "orders/customer_names.h"
 #include "program/list_grid.h"
 #include "ui/controls.h"
 

@@ -2,11 +2,11 @@
 
 #include "register/mirorc.h"
 #include "store/records/order_block.h"
-#include "store/text/code_page.h"
-#include "store/text/dates.h"
-#include "store/text/int16.h"
-#include "store/text/number_text.h"
 #include "store/values.h"
+#include "text/code_page.h"
+#include "text/dates.h"
+#include "text/int16.h"
+#include "text/number_text.h"
 
 namespace vantora {
 

@@ -3,7 +3,7 @@
 
 #include "register/mirorc.h"
 #include "store/block_reader.h"
-#include "store/text/dates.h"
+#include "text/dates.h"
 
 namespace vantora {
 

@@ -5,9 +5,9 @@
 #include <functional>
 #include <utility>
 
-#include "store/text/code_page.h"
-#include "store/text/digit.h"
-#include "store/text/number_text.h"
+#include "text/code_page.h"
+#include "text/digit.h"
+#include "text/number_text.h"
 
 namespace vantora {
 

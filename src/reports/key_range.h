@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "store/text/code_page.h"
+#include "text/code_page.h"
 
 namespace vantora {
 

@@ -1,6 +1,6 @@
 #include "reports/list_cells.h"
 
-#include "store/text/number_text.h"
+#include "text/number_text.h"
 
 namespace vantora {
 

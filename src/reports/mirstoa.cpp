@@ -2,13 +2,13 @@
 
 #include <algorithm>
 
-#include "program/customer_names.h"
+#include "orders/customer_names.h"
 #include "reports/key_range.h"
 #include "store/company.h"
 #include "store/key_index.h"
 #include "store/record_stretches.h"
-#include "store/text/number_text.h"
 #include "store/text_reader.h"
+#include "text/number_text.h"
 
 namespace vantora {
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "store/text/dates.h"
+#include "text/dates.h"
 
 namespace vantora {
 

@@ -1,7 +1,7 @@
 #include "reports/mirstov.h"
 
-#include "program/customer_names.h"
-#include "store/text/dates.h"
+#include "orders/customer_names.h"
+#include "text/dates.h"
 
 namespace vantora {
 

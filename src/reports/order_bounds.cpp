@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "store/text/int16.h"
-#include "store/text/number_text.h"
+#include "text/int16.h"
+#include "text/number_text.h"
 
 namespace vantora {
 

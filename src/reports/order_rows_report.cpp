@@ -1,8 +1,8 @@
 #include "reports/order_rows_report.h"
 
-#include "program/customer_names.h"
-#include "store/text/dates.h"
+#include "orders/customer_names.h"
 #include "store/values.h"
+#include "text/dates.h"
 
 namespace vantora {
 

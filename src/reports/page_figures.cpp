@@ -1,6 +1,6 @@
 #include "reports/page_figures.h"
 
-#include "store/text/number_text.h"
+#include "text/number_text.h"
 #include "ui/printer.h"
 
 namespace vantora {

@@ -4,7 +4,7 @@
 #include <numeric>
 #include <utility>
 
-#include "store/text/number_text.h"
+#include "text/number_text.h"
 
 namespace vantora {
 

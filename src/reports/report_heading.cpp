@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "reports/report_engine.h"
-#include "store/text/dates.h"
-#include "store/text/number_text.h"
+#include "text/dates.h"
+#include "text/number_text.h"
 
 namespace vantora {
 

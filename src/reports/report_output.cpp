@@ -1,6 +1,6 @@
 #include "reports/report_output.h"
 
-#include "store/text/code_page.h"
+#include "text/code_page.h"
 
 namespace vantora {
 

@@ -1,7 +1,7 @@
 #include "reports/sheet_report.h"
 
-#include "store/text/dates.h"
 #include "store/values.h"
+#include "text/dates.h"
 
 namespace vantora {
 

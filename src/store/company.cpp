@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "store/text/number_text.h"
+#include "text/number_text.h"
 
 namespace vantora {
 

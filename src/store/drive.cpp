@@ -10,7 +10,7 @@
 #include <csignal>
 #include <utility>
 
-#include "store/text/code_page.h"
+#include "text/code_page.h"
 
 namespace vantora {
 

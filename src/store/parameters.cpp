@@ -2,10 +2,10 @@
 
 #include "store/channel.h"
 #include "store/company.h"
-#include "store/text/int16.h"
-#include "store/text/number_text.h"
 #include "store/text_reader.h"
 #include "store/vat_codes.h"
+#include "text/int16.h"
+#include "text/number_text.h"
 
 namespace vantora {
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "store/text/number_text.h"
+#include "text/number_text.h"
 
 namespace vantora {
 

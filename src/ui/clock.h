@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "store/text/dates.h"
+#include "text/dates.h"
 
 namespace vantora::ui {
 

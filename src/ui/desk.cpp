@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "store/text/code_page.h"
+#include "text/code_page.h"
 
 namespace vantora::ui {
 

@@ -1,13 +1,16 @@
 #include <utility>
 
+#include "errors/run_time_errors.h"
 #include "ui/desk.h"
-#include "ui/errors.h"
 
 namespace vantora::ui {
 
 // How the desk waits for the user, and how the program ends in the midst of it. The end unwinds
 // the screens' code as an exception, but never through a front end: each wait of the desk throws
 // it anew on its own side.
+
+/// Unwinds whatever runs when the program ends.
+struct program_end {};
 
 /// Counts the dispatches that run inside one another; behind the last one, screens that went
 /// meanwhile are dropped.

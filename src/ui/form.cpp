@@ -1,6 +1,6 @@
 #include "ui/form.h"
 
-#include "store/text/code_page.h"
+#include "text/code_page.h"
 #include "ui/desk.h"
 
 namespace vantora::ui {

@@ -1,7 +1,7 @@
 #include <algorithm>
 
-#include "store/text/code_page.h"
-#include "store/text/number_text.h"
+#include "text/code_page.h"
+#include "text/number_text.h"
 #include "ui/grid.h"
 
 namespace vantora::ui {

@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <cmath>
 
-#include "store/text/code_page.h"
-#include "store/text/dates.h"
-#include "store/text/digit.h"
-#include "store/text/number_text.h"
+#include "text/code_page.h"
+#include "text/dates.h"
+#include "text/digit.h"
+#include "text/number_text.h"
 
 namespace vantora::ui {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "store/text/code_page.h"
+#include "text/code_page.h"
 
 namespace vantora::ui {
 

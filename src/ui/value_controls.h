@@ -1,6 +1,6 @@
 #pragma once
 
-#include "store/text/dates.h"
+#include "text/dates.h"
 #include "ui/control.h"
 
 namespace vantora::ui {

@@ -4,8 +4,8 @@
 #include <random>
 #include <set>
 
+#include "desktop/look/contrast.h"
 #include "program_window.h"
-#include "ui/look/contrast.h"
 
 namespace vantora::ui::desktop {
 namespace {

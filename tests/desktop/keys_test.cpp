@@ -6,9 +6,9 @@
 #include <QTemporaryDir>
 #include <set>
 
+#include "desktop/keys/keys.h"
+#include "desktop/keys/manual.h"
 #include "program_window.h"
-#include "ui/desktop/keys.h"
-#include "ui/desktop/manual.h"
 
 namespace vantora::ui::desktop {
 namespace {

@@ -3,12 +3,12 @@
 #include <QDialog>
 #include <QPrintPreviewWidget>
 
-#include "store/text/code_page.h"
+#include "desktop/system_ports.h"
 #include "support/file_bytes.h"
 #include "support/printed_pdf.h"
 #include "support/scratch_folder.h"
+#include "text/code_page.h"
 #include "ui/controls.h"
-#include "ui/desktop/system_ports.h"
 #include "window_stage.h"
 
 namespace vantora::ui::desktop {

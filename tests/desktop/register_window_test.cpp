@@ -5,12 +5,12 @@
 #include <csignal>
 #include <sstream>
 
+#include "desktop/outside_end.h"
+#include "desktop/script_runner.h"
 #include "program_window.h"
 #include "register/mirorc.h"
 #include "store/company.h"
 #include "store/instance_lock.h"
-#include "ui/desktop/outside_end.h"
-#include "ui/desktop/script_runner.h"
 
 namespace vantora::ui::desktop {
 namespace {

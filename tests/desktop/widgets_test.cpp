@@ -7,10 +7,10 @@
 #include <QWheelEvent>
 #include <random>
 
-#include "store/text/code_page.h"
+#include "desktop/controls/grid_view.h"
+#include "errors/run_time_errors.h"
+#include "text/code_page.h"
 #include "ui/controls.h"
-#include "ui/desktop/grid_view.h"
-#include "ui/errors.h"
 #include "window_stage.h"
 
 namespace vantora::ui::desktop {

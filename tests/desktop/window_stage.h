@@ -9,9 +9,9 @@
 #include <QTimer>
 #include <QToolButton>
 
+#include "desktop/desktop_front_end.h"
+#include "desktop/look/style.h"
 #include "ui/desk.h"
-#include "ui/desktop/desktop_front_end.h"
-#include "ui/look/style.h"
 #include "ui/script/stage_ports.h"
 
 namespace vantora::ui::desktop::test {

@@ -6,8 +6,8 @@
 
 #include "documents/document_shape.h"
 #include "documents/printed_document.h"
-#include "store/text/code_page.h"
 #include "support/program_stage.h"
+#include "text/code_page.h"
 
 namespace vantora::test {
 

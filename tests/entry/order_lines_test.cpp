@@ -1,4 +1,4 @@
-#include "program/order_lines.h"
+#include "orders/order_lines.h"
 
 #include <gtest/gtest.h>
 
@@ -162,7 +162,7 @@ TEST(righe_ordine, SessionsLeaveLinesWhereStepsByHandLeaveThem) {
     }
     righe_ordine lines;
     for (const int number : {-1, 0, 201, 32767}) {
-        EXPECT_THROW(lines[number].iva = 1, ui::subscript_error) << number;
+        EXPECT_THROW(lines[number].iva = 1, subscript_error) << number;
     }
 }
 

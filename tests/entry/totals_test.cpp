@@ -7,7 +7,7 @@
 #include <random>
 #include <vector>
 
-#include "ui/errors.h"
+#include "errors/run_time_errors.h"
 
 namespace vantora {
 namespace {
@@ -96,7 +96,7 @@ TEST(calcola_totali, AmountsBeyondAllNumbersAreAnOverflow) {
         {{.iva = 14, .quantita = most.prezzo}, {.iva = 14, .quantita = most.prezzo}},
     };
     for (const auto& lines : wrong) {
-        EXPECT_THROW(calcola_totali(order_of(lines), {}, currency(true)), ui::overflow_error)
+        EXPECT_THROW(calcola_totali(order_of(lines), {}, currency(true)), overflow_error)
             << lines[0].quantita << " x " << lines[0].prezzo;
     }
     EXPECT_NO_THROW(calcola_totali(order_of({{.iva = 14, .prezzo = 1e300}}), {}, currency(true)));

@@ -5,8 +5,8 @@
 #include <random>
 
 #include "fulfil/fulfil_stage.h"
-#include "store/text/code_page.h"
-#include "store/text/number_text.h"
+#include "text/code_page.h"
+#include "text/number_text.h"
 
 namespace vantora::test {
 namespace {

@@ -5,7 +5,7 @@
 #include <fstream>
 
 #include "fulfil/fulfil_stage.h"
-#include "store/text/code_page.h"
+#include "text/code_page.h"
 
 namespace vantora::test {
 namespace {

@@ -4,9 +4,9 @@
 
 #include "reports/report_screen.h"
 #include "reports/report_stage.h"
-#include "store/text/dates.h"
-#include "store/text/number_text.h"
 #include "store/values.h"
+#include "text/dates.h"
+#include "text/number_text.h"
 
 namespace vantora::test {
 

@@ -7,10 +7,10 @@
 #include <random>
 #include <sstream>
 
-#include "store/text/code_page.h"
-#include "store/text/dates.h"
-#include "store/text/int16.h"
-#include "store/text/number_text.h"
+#include "text/code_page.h"
+#include "text/dates.h"
+#include "text/int16.h"
+#include "text/number_text.h"
 
 namespace vantora {
 namespace {

@@ -4,7 +4,7 @@
 #include <cstdlib>
 #include <ctime>
 
-#include "store/text/code_page.h"
+#include "text/code_page.h"
 #include "ui/clock.h"
 #include "ui/controls.h"
 

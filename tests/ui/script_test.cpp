@@ -3,9 +3,9 @@
 #include <nlohmann/json.hpp>
 #include <sstream>
 
-#include "store/text/code_page.h"
+#include "errors/run_time_errors.h"
+#include "text/code_page.h"
 #include "ui/controls.h"
-#include "ui/errors.h"
 #include "ui/script/script_front_end.h"
 
 namespace vantora::ui {

@@ -2,7 +2,7 @@
 #include <map>
 
 #include "archive/check.h"
-#include "store/text/dates.h"
+#include "text/dates.h"
 
 namespace vantora::archive {
 

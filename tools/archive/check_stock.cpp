@@ -1,7 +1,7 @@
 #include <cmath>
 
 #include "archive/check.h"
-#include "store/text/number_text.h"
+#include "text/number_text.h"
 
 namespace vantora::archive {
 

@@ -2,9 +2,9 @@
 
 #include "archive/check.h"
 #include "store/company.h"
-#include "store/text/number_text.h"
 #include "store/text_reader.h"
 #include "store/vat_codes.h"
+#include "text/number_text.h"
 
 namespace vantora::archive {
 

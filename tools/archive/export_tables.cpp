@@ -3,7 +3,7 @@
 #include <initializer_list>
 
 #include "archive/words.h"
-#include "store/text/dates.h"
+#include "text/dates.h"
 
 namespace vantora::archive {
 

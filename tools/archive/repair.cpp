@@ -4,7 +4,7 @@
 
 #include "archive/open_quantities.h"
 #include "store/company.h"
-#include "store/text/number_text.h"
+#include "text/number_text.h"
 
 namespace vantora::archive {
 

@@ -5,8 +5,8 @@
 
 #include "archive/fields.h"
 #include "archive/words.h"
-#include "store/text/dates.h"
-#include "store/text/number_text.h"
+#include "text/dates.h"
+#include "text/number_text.h"
 
 namespace vantora::archive {
 

@@ -3,7 +3,7 @@
 #include "demo/catalogue.h"
 #include "demo/codes.h"
 #include "demo/draws.h"
-#include "store/text/code_page.h"
+#include "text/code_page.h"
 
 namespace vantora::demo {
 

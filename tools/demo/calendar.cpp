@@ -2,7 +2,7 @@
 
 #include <chrono>
 
-#include "store/text/dates.h"
+#include "text/dates.h"
 
 namespace vantora::demo {
 

@@ -6,7 +6,7 @@
 #include "demo/draws.h"
 #include "demo/tables.h"
 #include "demo/words.h"
-#include "store/text/code_page.h"
+#include "text/code_page.h"
 
 namespace vantora::demo {
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <utility>
 
-#include "store/text/code_page.h"
+#include "text/code_page.h"
 
 namespace vantora::demo {
 

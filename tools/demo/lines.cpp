@@ -4,7 +4,7 @@
 
 #include "demo/catalogue.h"
 #include "store/records/order_block.h"
-#include "store/text/code_page.h"
+#include "text/code_page.h"
 
 namespace vantora::demo {
 

@@ -8,7 +8,7 @@
 #include "demo/stock.h"
 #include "store/records/order_block.h"
 #include "store/records/rec_orc.h"
-#include "store/text/code_page.h"
+#include "text/code_page.h"
 
 namespace vantora::demo {
 

@@ -1,6 +1,6 @@
 #include "demo/output.h"
 
-#include "store/text/code_page.h"
+#include "text/code_page.h"
 
 namespace vantora::demo {
 

@@ -4,7 +4,7 @@
 
 #include "demo/codes.h"
 #include "demo/fonts.h"
-#include "store/text/code_page.h"
+#include "text/code_page.h"
 
 namespace vantora::demo {
 

@@ -5,7 +5,7 @@
 #include "mirxpdf/mail.h"
 #include "mirxpdf/pdf_file.h"
 #include "store/company.h"
-#include "store/text/code_page.h"
+#include "text/code_page.h"
 #include "ui/paper/toolkit_values.h"
 #include "ui/pictures/pixbuf_decoder.h"
 

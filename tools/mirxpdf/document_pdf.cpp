@@ -4,7 +4,7 @@
 #include <QPainter>
 #include <QPdfWriter>
 
-#include "store/text/code_page.h"
+#include "text/code_page.h"
 #include "ui/paper/page_painter.h"
 
 namespace vantora::mirxpdf {

@@ -4,10 +4,10 @@
 #include <QUrl>
 #include <cstdlib>
 
+#include "desktop/look/style.h"
 #include "mirxpdf/carry_out.h"
 #include "store/drive.h"
-#include "store/text/code_page.h"
-#include "ui/look/style.h"
+#include "text/code_page.h"
 
 namespace {
 

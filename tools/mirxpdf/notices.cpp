@@ -5,7 +5,7 @@
 #include <QPushButton>
 #include <iostream>
 
-#include "ui/look/box_look.h"
+#include "desktop/look/box_look.h"
 
 namespace vantora::mirxpdf {
 

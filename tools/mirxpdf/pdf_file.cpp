@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <system_error>
 
-#include "store/text/code_page.h"
+#include "text/code_page.h"
 
 namespace vantora::mirxpdf {
 

@@ -5,7 +5,7 @@
 #include <cstdlib>
 #include <vector>
 
-#include "store/text/code_page.h"
+#include "text/code_page.h"
 
 namespace vantora::mirxpdf {
 

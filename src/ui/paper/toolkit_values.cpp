@@ -1,6 +1,6 @@
 #include "ui/paper/toolkit_values.h"
 
-#include "store/text/code_page.h"
+#include "text/code_page.h"
 
 namespace vantora::ui {
 

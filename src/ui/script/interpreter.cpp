@@ -1,6 +1,6 @@
 #include "ui/script/interpreter.h"
 
-#include "store/text/code_page.h"
+#include "text/code_page.h"
 #include "ui/script/state.h"
 
 namespace vantora::ui::script {

@@ -1,4 +1,4 @@
-#include "store/text/code_page.h"
+#include "text/code_page.h"
 #include "ui/script/interpreter.h"
 #include "ui/script/state.h"
 

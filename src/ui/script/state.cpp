@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "store/text/code_page.h"
+#include "text/code_page.h"
 #include "ui/controls.h"
 
 namespace vantora::ui::script {

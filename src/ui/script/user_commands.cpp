@@ -1,7 +1,7 @@
 #include <optional>
 
-#include "store/text/code_page.h"
-#include "store/text/dates.h"
+#include "text/code_page.h"
+#include "text/dates.h"
 #include "ui/controls.h"
 #include "ui/script/interpreter.h"
 

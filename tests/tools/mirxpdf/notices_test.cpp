@@ -7,7 +7,7 @@
 #include <QPushButton>
 #include <QTimer>
 
-#include "ui/look/style.h"
+#include "desktop/look/style.h"
 
 namespace vantora::mirxpdf {
 namespace {

@@ -1,0 +1,125 @@
+#include <QAbstractListModel>
+#include <QComboBox>
+#include <QGuiApplication>
+#include <QListView>
+#include <QMouseEvent>
+
+#include "desktop/controls/kinds.h"
+#include "desktop/controls/widget_binder.h"
+#include "ui/list_controls.h"
+
+namespace vantora::ui::desktop {
+
+namespace {
+
+/// Shows a list's entries where they are, without copying them.
+class entries_model final : public QAbstractListModel {
+ public:
+    entries_model(const list_control& list, QObject* parent)
+        : QAbstractListModel(parent), list_(list) {}
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent) const override {
+        return parent.isValid() ? 0 : list_.count();
+    }
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override {
+        if (role != Qt::DisplayRole || index.row() >= list_.count()) return {};
+        return shown(list_.item(index.row()));
+    }
+    void reset() {
+        beginResetModel();
+        endResetModel();
+    }
+
+ private:
+    const list_control& list_;
+};
+
+class list_box_binder final : public widget_binder {
+ public:
+    list_box_binder(list_control& model, QWidget* parent, const user_action& act)
+        : widget_binder(model, new QListView(parent), act),
+          view_(as<QListView>()),
+          model_(model),
+          entries_(new entries_model(model, view_)) {
+        view_->setModel(entries_);
+        view_->setUniformItemSizes(true);
+        view_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+        connect(view_->selectionModel(), &QItemSelectionModel::currentChanged, this,
+                [this](const QModelIndex& now) {
+                    // The mouse picks when it lets go.
+                    const bool by_mouse = QGuiApplication::mouseButtons() != Qt::NoButton;
+                    if (!showing() && !by_mouse && now.isValid()) pick(now.row());
+                });
+        view_->viewport()->installEventFilter(this);
+        show_all();
+    }
+
+ private:
+    void show_value(aspect what) override {
+        if (what == aspect::items) entries_->reset();
+        const QModelIndex chosen = entries_->index(model_.chosen(), 0);
+        view_->setCurrentIndex(chosen);
+        if (chosen.isValid()) view_->scrollTo(chosen);
+    }
+    // The entry that is highlighted is the one picked, by whatever key.
+    [[nodiscard]] bool widget_takes(bool typed) const override { return typed; }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (watched == &widget()) return widget_binder::eventFilter(watched, event);
+        if (event->type() == QEvent::MouseButtonRelease) {
+            const auto& mouse = static_cast<QMouseEvent&>(*event);
+            const bool on_entry = view_->indexAt(mouse.position().toPoint()).isValid();
+            if (mouse.button() == Qt::LeftButton && on_entry) pick(view_->currentIndex().row());
+        }
+        return false;
+    }
+    void pick(int entry) {
+        act([&] { model_.pick(entry); });
+    }
+
+    QListView* view_;
+    list_control& model_;
+    entries_model* entries_;
+};
+
+class drop_down_binder final : public widget_binder {
+ public:
+    drop_down_binder(list_control& model, QWidget* parent, const user_action& act)
+        : widget_binder(model, new QComboBox(parent), act),
+          box_(as<QComboBox>()),
+          model_(model),
+          entries_(new entries_model(model, box_)) {
+        box_->setModel(entries_);
+        box_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        box_->setMinimumContentsLength(12);
+        box_->setMaxVisibleItems(16);
+        connect(box_, &QComboBox::activated, this, [this](int position) {
+            if (showing()) return;
+            this->act([&] { model_.pick(position); });
+            show_again(aspect::value);
+        });
+        show_all();
+    }
+
+ private:
+    void show_value(aspect what) override {
+        if (what == aspect::items) entries_->reset();
+        if (box_->currentIndex() != model_.chosen()) box_->setCurrentIndex(model_.chosen());
+    }
+
+    QComboBox* box_;
+    list_control& model_;
+    entries_model* entries_;
+};
+
+}  // namespace
+
+std::unique_ptr<binder> bind_list_kind(control& to, QWidget* parent, const user_action& act) {
+    auto& list = static_cast<list_control&>(to);
+    if (to.kind() == control_kind::list_box) {
+        return std::make_unique<list_box_binder>(list, parent, act);
+    }
+    return std::make_unique<drop_down_binder>(list, parent, act);
+}
+
+}  // namespace vantora::ui::desktop

@@ -1,0 +1,205 @@
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QToolButton>
+
+#include "desktop/controls/kinds.h"
+#include "desktop/controls/widget_binder.h"
+#include "desktop/form_window.h"
+#include "desktop/line_pasting.h"
+#include "ui/desk.h"
+#include "ui/text_controls.h"
+
+namespace vantora::ui::desktop {
+
+namespace {
+
+/// Without the characters that the code page lacks.
+QString without_strange(QString text) {
+    constexpr QChar replacement = '?';
+    qsizetype at = 0;
+    while (at < text.size()) {
+        const qsizetype units = text[at].isHighSurrogate() ? 2 : 1;
+        const QString one = text.mid(at, units);
+        if (one != replacement && taken(one).starts_with('?')) {
+            text.remove(at, units);
+        } else {
+            at += units;
+        }
+    }
+    return text;
+}
+
+class text_box_binder final : public widget_binder {
+ public:
+    text_box_binder(text_box& model, QWidget* parent, const user_action& act)
+        : widget_binder(model, new QLineEdit(parent), act), edit_(as<QLineEdit>()), model_(model) {
+        connect(edit_, &QLineEdit::textEdited, this, [this](const QString& text) { edited(text); });
+        show_all();
+    }
+
+ private:
+    void edited(const QString& text) {
+        const QString kept = without_strange(text);
+        behind_cursor_ = text.size() - edit_->cursorPosition();
+        this->act([&] {
+            const auto admitted = model_.accepts.admit(model_.text(), taken(kept));
+            if (!admitted || kept != text) QApplication::beep();
+            if (admitted) model_.set_text(*admitted);
+        });
+        show_again(aspect::text);
+        behind_cursor_.reset();
+    }
+
+    // A text that comes while the field is worked on is there to be typed over; one that the
+    // hand itself typed stays with the cursor in it.
+    void show_value(aspect) override {
+        const QString text = shown(model_.text());
+        if (edit_->text() == text) return;
+        edit_->setText(text);
+        if (behind_cursor_) {
+            edit_->setCursorPosition(static_cast<int>(text.size() - *behind_cursor_));
+        } else if (edit_->hasFocus()) {
+            edit_->selectAll();
+        } else {
+            edit_->setCursorPosition(0);
+        }
+    }
+
+    /// A day is written out when its field is left.
+    void focus_lost() override {
+        if (model_.accepts.holds != input_rule::content::day) return;
+        if (!static_cast<const form_window*>(edit_->window())->by_user()) return;
+        act([&] {
+            const int year = model_.owner().desk().clock().now().day.year;
+            const auto day = written_out_day(model_.text(), year);
+            if (day) model_.set_text(*day);
+        });
+    }
+
+    [[nodiscard]] bool widget_takes(bool) const override { return true; }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        const bool took = widget_binder::eventFilter(watched, event);
+        if (event->type() == QEvent::FocusIn) found_ = edit_->text();
+        return took;
+    }
+
+    /// A number that the screen itself put in with a comma counts with its decimals too.
+    void take_own_comma() {
+        if (model_.accepts.holds != input_rule::content::number) return;
+        if (model_.text().find(',') == std::string::npos) return;
+        const auto plain = model_.accepts.admit({}, model_.text());
+        if (plain) act([&] { model_.set_text(*plain); });
+    }
+
+    bool key_pressed(QKeyEvent& event) override {
+        if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) take_own_comma();
+        if (event.matches(QKeySequence::Paste) && model_.on_paste_lines) {
+            if (const auto lines = lines_on_clipboard()) {
+                act([&] { paste_lines(model_, *lines, edit_->window()); });
+                return true;
+            }
+        }
+        if (event.matches(QKeySequence::Undo) && !edit_->isUndoAvailable()) {
+            edited(found_);
+            return true;
+        }
+        return widget_binder::key_pressed(event);
+    }
+
+    QLineEdit* edit_;
+    text_box& model_;
+    QString found_;                           ///< what stood in the field when the hand came to it
+    std::optional<qsizetype> behind_cursor_;  ///< while the hand's own change is shown
+};
+
+class label_binder final : public widget_binder {
+ public:
+    label_binder(label& model, QWidget* parent, const user_action& act)
+        : widget_binder(model, new QLabel(parent), act), label_(as<QLabel>()), model_(model) {
+        show_all();
+    }
+
+ private:
+    void show_value(aspect) override { label_->setText(shown(model_.text())); }
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::MouseButtonRelease && model_.on_click) {
+            act([this] { model_.click(); });
+        }
+        return widget_binder::eventFilter(watched, event);
+    }
+
+    QLabel* label_;
+    label& model_;
+};
+
+class button_binder final : public widget_binder {
+ public:
+    button_binder(button& model, QWidget* parent, const user_action& act)
+        : widget_binder(model, new QToolButton(parent), act),
+          button_(as<QToolButton>()),
+          model_(model) {
+        button_->setToolButtonStyle(Qt::ToolButtonTextOnly);
+        connect(button_, &QToolButton::clicked, this,
+                [this] { act_click(*button_, [this] { model_.click(); }); });
+        show_all();
+    }
+
+ private:
+    // A command without a caption of its own is captioned by the screen's layout.
+    void show_value(aspect what) override {
+        if (what == aspect::text && !model_.text().empty()) button_->setText(shown(model_.text()));
+    }
+
+    QToolButton* button_;
+    button& model_;
+};
+
+/// A picture lies in the middle of its window, in front of everything, while there is one to see.
+class picture_binder final : public widget_binder {
+ public:
+    picture_binder(picture& model, QWidget* parent, const user_action& act)
+        : widget_binder(model, new QLabel(parent), act), label_(as<QLabel>()), model_(model) {
+        show_all();
+    }
+
+ private:
+    void show_value(aspect what) override {
+        if (what != aspect::content) return;
+        const auto& image = model_.shown();
+        label_->setPixmap(image ? QPixmap::fromImage(image_of(*image)) : QPixmap());
+        show_visibility();
+    }
+    void show_visibility() override {
+        const bool seen = model_.visible() && !label_->pixmap().isNull();
+        if (seen) {
+            label_->adjustSize();
+            label_->move(label_->parentWidget()->rect().center() - label_->rect().center());
+            label_->raise();
+        }
+        label_->setVisible(seen);
+    }
+
+    QLabel* label_;
+    picture& model_;
+};
+
+}  // namespace
+
+std::unique_ptr<binder> bind_text_kind(control& to, QWidget* parent, const user_action& act) {
+    switch (to.kind()) {
+        case control_kind::text_box:
+            return std::make_unique<text_box_binder>(static_cast<text_box&>(to), parent, act);
+        case control_kind::label:
+            return std::make_unique<label_binder>(static_cast<label&>(to), parent, act);
+        case control_kind::button:
+            return std::make_unique<button_binder>(static_cast<button&>(to), parent, act);
+        default:
+            return std::make_unique<picture_binder>(static_cast<picture&>(to), parent, act);
+    }
+}
+
+}  // namespace vantora::ui::desktop

@@ -1,0 +1,140 @@
+#include <QCalendarWidget>
+#include <QDateEdit>
+#include <QKeyEvent>
+#include <QProgressBar>
+#include <QScrollBar>
+#include <QTextCharFormat>
+
+#include "desktop/controls/kinds.h"
+#include "desktop/controls/widget_binder.h"
+#include "ui/value_controls.h"
+
+namespace vantora::ui::desktop {
+
+namespace {
+
+class scroll_bar_binder final : public widget_binder {
+ public:
+    scroll_bar_binder(scroll_bar& model, QWidget* parent, const user_action& act)
+        : widget_binder(model, new QScrollBar(Qt::Horizontal, parent), act),
+          bar_(as<QScrollBar>()),
+          model_(model) {
+        connect(bar_, &QScrollBar::valueChanged, this, [this](int value) {
+            if (showing()) return;
+            this->act([&] { model_.drag(value); });
+            show_again(aspect::value);
+        });
+        show_all();
+    }
+
+ private:
+    /// Left and right, as the bar lies; up and down are the model's.
+    bool key_pressed(QKeyEvent& event) override {
+        if (widget_binder::key_pressed(event)) return true;
+        if (event.key() != Qt::Key_Right && event.key() != Qt::Key_Left) return false;
+        bar_->triggerAction(event.key() == Qt::Key_Right ? QScrollBar::SliderSingleStepAdd
+                                                         : QScrollBar::SliderSingleStepSub);
+        return true;
+    }
+
+    void show_value(aspect) override {
+        const quiet while_showing(*this);
+        bar_->setRange(std::min(model_.minimum(), model_.maximum()),
+                       std::max(model_.minimum(), model_.maximum()));
+        bar_->setPageStep(std::max(1, (bar_->maximum() - bar_->minimum()) / 20));
+        bar_->setValue(model_.value());
+    }
+
+    QScrollBar* bar_;
+    scroll_bar& model_;
+};
+
+class progress_binder final : public widget_binder {
+ public:
+    progress_binder(progress_bar& model, QWidget* parent, const user_action& act)
+        : widget_binder(model, new QProgressBar(parent), act),
+          bar_(as<QProgressBar>()),
+          model_(model) {
+        show_all();
+    }
+
+ private:
+    void show_value(aspect) override {
+        bar_->setRange(model_.minimum(), model_.maximum());
+        bar_->setValue(model_.value());
+    }
+
+    QProgressBar* bar_;
+    progress_bar& model_;
+};
+
+class date_binder final : public widget_binder {
+ public:
+    date_binder(date_picker& model, QWidget* parent, const user_action& act)
+        : widget_binder(model, new QDateEdit(parent), act), edit_(as<QDateEdit>()), model_(model) {
+        edit_->setCalendarPopup(true);
+        edit_->setDisplayFormat("dd/MM/yyyy");
+        edit_->setMinimumWidth(edit_->fontMetrics().horizontalAdvance("00/00/0000") + 52);
+        edit_->setDateRange(QDate(100, 1, 1), QDate(9999, 12, 31));
+        const QLocale italian(QLocale::Italian, QLocale::Italy);
+        edit_->setLocale(italian);
+        edit_->calendarWidget()->setLocale(italian);
+        edit_->calendarWidget()->setFirstDayOfWeek(Qt::Monday);
+        edit_->calendarWidget()->setMinimumSize(330, 240);
+        QPalette greyed = edit_->calendarWidget()->palette();
+        greyed.setColor(QPalette::Disabled, QPalette::Text, QColor("#6a7783"));
+        edit_->calendarWidget()->setPalette(greyed);
+        connect(edit_, &QDateEdit::dateChanged, this, [this](QDate day) {
+            if (showing()) return;
+            this->act([&] {
+                model_.set_focus();
+                model_.set_value({day.year(), day.month(), day.day()});
+            });
+        });
+        edit_->calendarWidget()->installEventFilter(this);
+        show_all();
+    }
+
+ private:
+    /// The calendar goes away after a choice as without one; the date stands by then.
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (watched == &widget()) return widget_binder::eventFilter(watched, event);
+        if (event->type() == QEvent::Show) mark_today();
+        if (event->type() == QEvent::Hide) this->act([&] { model_.choose(model_.value()); });
+        return false;
+    }
+
+    void show_value(aspect) override {
+        const date& day = model_.value();
+        edit_->setDate(QDate(day.year, day.month, day.day));
+    }
+
+    void mark_today() {
+        QTextCharFormat today;
+        today.setFontWeight(QFont::Bold);
+        today.setFontUnderline(true);
+        today.setBackground(QColor("#dcebf8"));
+        edit_->calendarWidget()->setDateTextFormat({}, {});
+        edit_->calendarWidget()->setDateTextFormat(QDate::currentDate(), today);
+    }
+
+    [[nodiscard]] bool widget_takes(bool) const override { return true; }
+
+    QDateEdit* edit_;
+    date_picker& model_;
+};
+
+}  // namespace
+
+std::unique_ptr<binder> bind_value_kind(control& to, QWidget* parent, const user_action& act) {
+    switch (to.kind()) {
+        case control_kind::scroll_bar:
+            return std::make_unique<scroll_bar_binder>(static_cast<scroll_bar&>(to), parent, act);
+        case control_kind::progress_bar:
+            return std::make_unique<progress_binder>(static_cast<progress_bar&>(to), parent, act);
+        default:
+            return std::make_unique<date_binder>(static_cast<date_picker&>(to), parent, act);
+    }
+}
+
+}  // namespace vantora::ui::desktop

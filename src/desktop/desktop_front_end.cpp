@@ -1,0 +1,291 @@
+#include "desktop/desktop_front_end.h"
+
+#include <QApplication>
+#include <QEventLoop>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include "desktop/lists/shown_lines.h"
+#include "desktop/look/box_look.h"
+#include "ui/desk.h"
+
+namespace vantora::ui::desktop {
+
+namespace {
+
+/// Long work serves the window system this often, in milliseconds.
+constexpr qint64 serving_pause = 16;
+
+/// So long after the program brought a window to the front, others may still come forward that it
+/// had called before, in milliseconds.
+constexpr qint64 settling_time = 600;
+
+constexpr const char* program_title = "Vantora Ordini";
+
+}  // namespace
+
+desktop_front_end::desktop_front_end() {
+    since_events_.start();
+}
+
+desktop_front_end::~desktop_front_end() {
+    // The windows of the last screens wait for their end.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+void desktop_front_end::begin(desk& on) {
+    desk_ = &on;
+    keys_.begin();
+}
+
+// Waiting -----------------------------------------------------------------------------------------
+
+void desktop_front_end::run() {
+    run_until([this] { return next_step_ == nullptr && desk_->ended().has_value(); });
+}
+
+void desktop_front_end::end_by_user() {
+    desk_->stop();
+    // The system's own dialogs wait in loops of theirs.
+    for (QWidget* open : QApplication::topLevelWidgets()) {
+        auto* dialog = qobject_cast<QDialog*>(open);
+        if (dialog && dialog->isVisible()) dialog->reject();
+    }
+    leave_finished_waits();
+}
+
+void desktop_front_end::run_until(const std::function<bool()>& done) {
+    if (done()) return;
+    if (next_step_) return step_until(done);
+    QEventLoop loop;
+    waits_.push_back({&loop, &done});
+    loop.exec();
+    waits_.pop_back();
+}
+
+void desktop_front_end::step_until(const std::function<bool()>& done) {
+    ++stepping_;
+    while (!done()) {
+        for (int settling = 0; settling < 3; ++settling) QCoreApplication::processEvents();
+        // Closed windows go when none of their events can still be under way.
+        if (stepping_ == 1) QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        if (!next_step_()) {
+            desk_->stop();
+            break;
+        }
+    }
+    --stepping_;
+}
+
+void desktop_front_end::leave_finished_waits() {
+    if (!waits_.empty() && (*waits_.back().done)()) waits_.back().loop->quit();
+}
+
+void desktop_front_end::let_events_run() {
+    if (since_events_.elapsed() < serving_pause) return;
+    QCoreApplication::processEvents();
+    since_events_.restart();
+    // The user may have closed the window while it was only painted.
+    if (QPointer<form_window> closing = std::exchange(late_closing_, nullptr)) closing->close();
+}
+
+void desktop_front_end::progress_changed(control& list, double done) {
+    form_window* window = window_of(list.owner());
+    if (bars_.show(list, window ? &window->widget_of(list) : nullptr, done)) paint();
+}
+
+void desktop_front_end::progress_ended(control& list) {
+    bars_.end(list);
+    close_late();
+}
+
+void desktop_front_end::station_awaited(bool still) {
+    if (!still) {
+        station_.end();
+        close_late();
+    } else if (station_.show(front_window())) {
+        paint();
+    }
+}
+
+void desktop_front_end::paint() {
+    ++painting_;
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    --painting_;
+}
+
+void desktop_front_end::close_late() {
+    if (!bars_.none() || station_.waiting() || !late_closing_) return;
+    QMetaObject::invokeMethod(late_closing_, &QWidget::close, Qt::QueuedConnection);
+    late_closing_.clear();
+}
+
+void desktop_front_end::act(control& on, const std::function<void()>& action) {
+    if (painting_ > 0) return;
+    if (!desk_->obstacle(on)) {
+        carry_out(action);
+    } else if (control* rightful = desk_->focus()) {
+        focus_moved(rightful);
+    }
+}
+
+void desktop_front_end::carry_out(const std::function<void()>& action) {
+    desk_->dispatch(action);
+    leave_finished_waits();
+}
+
+// Windows -----------------------------------------------------------------------------------------
+
+form_window* desktop_front_end::window_of(form& which) {
+    const auto found = windows_.find(&which);
+    return found == windows_.end() ? nullptr : found->second.get();
+}
+
+void desktop_front_end::form_loaded(form& which) {
+    windows_[&which] = std::make_unique<form_window>(
+        which, [this](control& on, const std::function<void()>& action) { act(on, action); },
+        [this](form& closing) {
+            if (painting_ > 0) {
+                late_closing_ = window_of(closing);
+                return;
+            }
+            if (!desk_->obstacle(closing)) carry_out([&] { desk_->close(closing); });
+        },
+        [this](form& chosen) { come_forward(chosen); }, next_step_ == nullptr);
+}
+
+void desktop_front_end::come_forward(form& chosen) {
+    form* active = desk_->active();
+    if (!active || active == &chosen || painting_ > 0) return;
+    if (since_called_.elapsed() < settling_time) {
+        // The window system is still busy with what the program asked: no user's choice.
+        if (form_window* window = window_of(*active)) window->activateWindow();
+    } else if (!desk_->obstacle(chosen)) {
+        carry_out([&] { chosen.show(); });
+    }
+}
+
+void desktop_front_end::form_shown(form& which) {
+    form_window* window = window_of(which);
+    if (!window) return;
+    form_window* before = desk_->active() ? window_of(*desk_->active()) : nullptr;
+    if (before && before->isVisible()) place_ = before->place();
+    window->appear(place_);
+}
+
+void desktop_front_end::form_hidden(form& which) {
+    form_window* window = window_of(which);
+    if (!window) return;
+    if (window->isVisible()) place_ = window->place();
+    window->hide();
+}
+
+void desktop_front_end::form_unloaded(form& which) {
+    const auto found = windows_.find(&which);
+    if (found == windows_.end()) return;
+    if (found->second->isVisible() && !found->second->isModal()) place_ = found->second->place();
+    found->second->hide();
+    // The window may be in the midst of one of its own events.
+    form_window* window = found->second.release();
+    windows_.erase(found);
+    window->forget_screen();
+    window->deleteLater();
+}
+
+void desktop_front_end::form_activated(form& which) {
+    form_window* window = window_of(which);
+    if (!window) return;
+    keys_.screen_came_up();
+    since_called_.start();
+    window->raise();
+    if (!window->isActiveWindow()) window->activateWindow();
+    // What stands in the field that had the focus is there to be typed over.
+    control* worked_on = desk_->focus();
+    if (worked_on && &worked_on->owner() == &which) window->select_text(*worked_on);
+}
+
+void desktop_front_end::focus_moved(control* to) {
+    if (!to) return;
+    if (form_window* window = window_of(to->owner())) window->focus_on(*to);
+}
+
+QWidget* desktop_front_end::front_window() const {
+    if (!boxes_.empty()) return boxes_.back();
+    const auto active = windows_.find(desk_->active());
+    return active == windows_.end() ? nullptr : active->second.get();
+}
+
+// Boxes and pointer -------------------------------------------------------------------------------
+
+void desktop_front_end::box_opened(const message_box& box) {
+    QWidget* parent = desk_->active() ? window_of(*desk_->active()) : nullptr;
+    auto* shown_box = new QMessageBox(parent);
+    shown_box->setWindowTitle(shown(box.title));
+    shown_box->setTextFormat(Qt::PlainText);
+    shown_box->setText(shown_lines(box.text));
+    if (box.buttons == buttons::yes_no) {
+        auto* yes = shown_box->addButton(QString::fromUtf8("&Sì"), QMessageBox::YesRole);
+        auto* no = shown_box->addButton("&No", QMessageBox::NoRole);
+        shown_box->setDefaultButton(box.proposed == answer::no ? no : yes);
+        shown_box->setEscapeButton(no);
+    } else {
+        shown_box->setStandardButtons(QMessageBox::Ok);
+    }
+    dress_box(*shown_box, box.icon);
+    shown_box->setWindowModality(Qt::ApplicationModal);
+    const bool question = box.buttons == buttons::yes_no;
+    QObject::connect(shown_box, &QMessageBox::finished, shown_box, [this, shown_box, question] {
+        const auto* clicked = shown_box->clickedButton();
+        const bool yes =
+            clicked && shown_box->buttonRole(shown_box->clickedButton()) == QMessageBox::YesRole;
+        const answer given = !question ? answer::ok : yes ? answer::yes : answer::no;
+        carry_out([&] { desk_->answer_box(given); });
+    });
+    boxes_.push_back(shown_box);
+    keys_.screen_came_up();
+    show_pointer();
+    shown_box->show();
+}
+
+void desktop_front_end::box_closed() {
+    if (boxes_.empty()) return;
+    QMessageBox* box = boxes_.back();
+    boxes_.pop_back();
+    show_pointer();
+    QObject::disconnect(box, &QMessageBox::finished, nullptr, nullptr);
+    box->hide();
+    box->deleteLater();
+    if (form* active = desk_->active()) form_activated(*active);
+    focus_moved(desk_->focus());
+    // The next bar code takes the place of the one that the box complained about.
+    if (control* worked_on = desk_->focus()) {
+        if (form_window* window = window_of(worked_on->owner())) window->select_text(*worked_on);
+    }
+}
+
+void desktop_front_end::pointer_changed(pointer) {
+    show_pointer();
+}
+
+void desktop_front_end::show_pointer() {
+    // A box can be answered even if the work that asks isn't over.
+    const bool busy = desk_->pointer_shape() == pointer::busy && boxes_.empty();
+    if (busy == busy_shown_) return;
+    busy_shown_ = busy;
+    if (busy) {
+        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    } else {
+        QGuiApplication::restoreOverrideCursor();
+    }
+}
+
+void desktop_front_end::report_fatal(const std::string& message) {
+    if (next_step_) return;
+    QMessageBox box;
+    box.setWindowTitle(program_title);
+    box.setText(shown(message));
+    dress_box(box, icon::stop);
+    box.exec();
+}
+
+}  // namespace vantora::ui::desktop

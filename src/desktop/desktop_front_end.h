@@ -1,0 +1,106 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <map>
+#include <memory>
+#include <vector>
+
+#include "desktop/form_window.h"
+#include "desktop/keys/key_guard.h"
+#include "desktop/lists/list_bars.h"
+#include "desktop/station_note.h"
+#include "ui/front_end.h"
+
+class QEventLoop;
+class QMessageBox;
+
+namespace vantora::ui {
+class desk;
+}
+
+namespace vantora::ui::desktop {
+
+/// The front end with windows. What the user does is carried out on the models, one action at a
+/// time; while the program waits inside one, the window system goes on.
+class desktop_front_end final : public front_end {
+ public:
+    desktop_front_end();
+    ~desktop_front_end() override;
+
+    /// Tells whose front end this is. Called once, before the program starts.
+    void begin(desk& on);
+
+    using answers_in_advance = std::function<std::optional<answer>(const message_box&)>;
+
+    /// Something that acts in the user's place: called whenever the program waits and its windows
+    /// have settled; false when there is nothing more to come. Sizes are then not remembered.
+    /// Boxes for which `answers` has one are not shown.
+    void served_by(std::function<bool()> next_step, answers_in_advance answers = {}) {
+        next_step_ = std::move(next_step);
+        answers_ = std::move(answers);
+    }
+
+    /// Serves the user until the program ends.
+    void run();
+    /// Ends the program from outside, as when the user logs off.
+    void end_by_user();
+
+    /// The window in front, for a picture of it; null if there is none.
+    [[nodiscard]] QWidget* front_window() const;
+
+    void run_until(const std::function<bool()>& done) override;
+    void let_events_run() override;
+    std::optional<answer> answer_at_once(const message_box& box) override {
+        return answers_ ? answers_(box) : std::nullopt;
+    }
+    void form_loaded(form& which) override;
+    void form_shown(form& which) override;
+    void form_hidden(form& which) override;
+    void form_unloaded(form& which) override;
+    void form_activated(form& which) override;
+    void focus_moved(control* to) override;
+    void box_opened(const message_box& box) override;
+    void box_closed() override;
+    void pointer_changed(pointer shape) override;
+    void progress_changed(control& list, double done) override;
+    void progress_ended(control& list) override;
+    void station_awaited(bool still) override;
+    void report_fatal(const std::string& message) override;
+
+ private:
+    struct wait {
+        QEventLoop* loop;
+        const std::function<bool()>* done;
+    };
+
+    void act(control& on, const std::function<void()>& action);
+    void carry_out(const std::function<void()>& action);
+    void step_until(const std::function<bool()>& done);
+    void leave_finished_waits();
+    /// Paints windows; what the user does waits.
+    void paint();
+    void close_late();
+    form_window* window_of(form& which);
+    /// The user brings a window to the front.
+    void come_forward(form& chosen);
+    void show_pointer();
+
+    desk* desk_ = nullptr;
+    std::function<bool()> next_step_;
+    answers_in_advance answers_;
+    std::map<form*, std::unique_ptr<form_window>> windows_;
+    window_place place_;          ///< of the last window
+    QElapsedTimer since_called_;  ///< since the program brought a window to the front
+    std::vector<QMessageBox*> boxes_;
+    bool busy_shown_ = false;
+    std::vector<wait> waits_;
+    int stepping_ = 0;  ///< waits served by steps, inside one another
+    QElapsedTimer since_events_;
+    list_bars bars_;
+    station_note station_;
+    int painting_ = 0;                    ///< what the user does waits
+    QPointer<form_window> late_closing_;  ///< closed by the user meanwhile
+    key_guard keys_;
+};
+
+}  // namespace vantora::ui::desktop

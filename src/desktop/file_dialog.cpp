@@ -1,0 +1,81 @@
+#include "desktop/file_dialog.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QGuiApplication>
+#include <QMessageBox>
+#include <QStandardPaths>
+
+#include "desktop/look/box_look.h"
+#include "desktop/words.h"
+
+namespace vantora::ui::desktop {
+
+namespace {
+
+QDir documents() {
+    const QDir folder(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    return folder.exists() ? folder : QDir::home();
+}
+
+QString proposed_file(const QString& called, const QString& ending) {
+    const QDir folder = documents();
+    QString name = called + "." + ending;
+    for (int i = 2; folder.exists(name); ++i) {
+        name = QString("%1 (%2).%3").arg(called).arg(i).arg(ending);
+    }
+    return folder.filePath(name);
+}
+
+QString run_dialog(QFileDialog& dialog, const file_kind& kind, const char* accept) {
+    const plain_pointer shown_meanwhile;
+    // The system's own dialog speaks the system's language.
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.setViewMode(QFileDialog::List);
+    dialog.setNameFilter(QString("%1 (*.%2)").arg(kind.name, kind.ending));
+    dialog.setDefaultSuffix(kind.ending);
+    dialog.setLabelText(QFileDialog::LookIn, QString::fromUtf8(words::look_in));
+    dialog.setLabelText(QFileDialog::FileName, QString::fromUtf8(words::file_name));
+    dialog.setLabelText(QFileDialog::FileType, QString::fromUtf8(words::file_type));
+    dialog.setLabelText(QFileDialog::Accept, QString::fromUtf8(accept));
+    dialog.setLabelText(QFileDialog::Reject, QString::fromUtf8(words::cancel));
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
+}  // namespace
+
+plain_pointer::plain_pointer() : busy_(QGuiApplication::overrideCursor() != nullptr) {
+    if (busy_) QGuiApplication::changeOverrideCursor(Qt::ArrowCursor);
+}
+
+plain_pointer::~plain_pointer() {
+    if (busy_) QGuiApplication::changeOverrideCursor(Qt::WaitCursor);
+}
+
+QString ask_where_to_save(const QString& title, const QString& called, const file_kind& kind,
+                          QWidget* above) {
+    QFileDialog dialog(above, title);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    const QString proposed = proposed_file(called, kind.ending);
+    dialog.setDirectory(documents());
+    dialog.selectFile(proposed);
+    return run_dialog(dialog, kind, words::save);
+}
+
+QString ask_what_to_open(const QString& title, const file_kind& kind, QWidget* above) {
+    QFileDialog dialog(above, title);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    dialog.setDirectory(documents());
+    return run_dialog(dialog, kind, words::open);
+}
+
+void tell(const QString& what, QWidget* above) {
+    const plain_pointer shown_meanwhile;
+    QMessageBox box(above);
+    box.setWindowTitle(QString::fromUtf8(words::attention));
+    box.setText(what);
+    dress_box(box, icon::warning);
+    box.exec();
+}
+
+}  // namespace vantora::ui::desktop

@@ -1,0 +1,232 @@
+#include "desktop/form_window.h"
+
+#include <QAccessible>
+#include <QCloseEvent>
+#include <QGroupBox>
+#include <QGuiApplication>
+#include <QLineEdit>
+#include <QScreen>
+#include <QScrollArea>
+#include <QSettings>
+#include <QShortcut>
+#include <QSplitter>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include "desktop/controls/grid_view.h"
+#include "desktop/controls/widget_binder.h"
+#include "desktop/keys/manual.h"
+#include "desktop/lists/list_tools.h"
+#include "desktop/look/style.h"
+#include "ui/desk.h"
+#include "windows/layouts.h"
+
+namespace vantora::ui::desktop {
+
+namespace {
+
+// What the window system's frame takes, about.
+constexpr int title_room = 30;
+constexpr QSize frame_room(8, title_room + 6);
+
+}  // namespace
+
+form_window::form_window(form& screen, user_action act, std::function<void(form&)> close,
+                         std::function<void(form&)> come_forward, bool by_user)
+    : screen_(&screen),
+      act_(std::move(act)),
+      close_(std::move(close)),
+      come_forward_(std::move(come_forward)),
+      by_user_(by_user) {
+    setObjectName(shown(screen.name()));
+    setWindowTitle(shown(screen.title()));
+    for (control* one : screen.controls()) binders_[one] = make_binder(*one, this, act_);
+    follow_controls_by_tab();
+    lay_out(*this);
+    add_list_tools(*this);
+    add_help(*this);
+    make_scrollable();
+    name_the_rest();
+    if (by_user_) recall();
+}
+
+form_window::~form_window() {
+    forget_screen();
+}
+
+void form_window::forget_screen() {
+    if (!screen_) return;
+    for (control* one : screen_->controls()) one->attach(nullptr);
+    screen_ = nullptr;
+    for (auto& [model, one] : binders_) one->retire();
+}
+
+QWidget* form_window::widget(const char* name, int index) const {
+    const control* one =
+        screen_->find(name, index < 0 ? std::optional<int>{} : std::optional<int>(index));
+    return &binders_.at(one)->widget();
+}
+
+QWidget& form_window::widget_of(const control& one) const {
+    return binders_.at(&one)->widget();
+}
+
+void form_window::dress(const char* name, int index, const command_look& look,
+                        Qt::ToolButtonStyle style) {
+    auto* button = as<QToolButton>(name, index);
+    button->setIcon(picture_named(look.icon));
+    button->setText(QString::fromUtf8(look.caption));
+    button->setToolButtonStyle(style);
+    QString tip = QString::fromUtf8(look.tooltip);
+    button->setToolTip(tip);
+    if (*look.shortcut != '\0') add_shortcut(*button, look.shortcut);
+    button->setAccessibleName(QString::fromUtf8(look.caption).remove('&'));
+    button->setAccessibleDescription(QString::fromUtf8(look.tooltip));
+}
+
+void form_window::make_scrollable() {
+    area_ = new QScrollArea(this);
+    area_->setFrameShape(QFrame::NoFrame);
+    area_->setWidgetResizable(true);
+    area_->setFocusPolicy(Qt::NoFocus);
+    auto* body = new QWidget(area_);
+    body->setLayout(layout());
+    // What lies over the layout goes with it.
+    for (auto* one : findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+        if (one == area_) continue;
+        const bool seen = !one->isHidden();
+        one->setParent(body);
+        one->setVisible(seen);
+    }
+    body->setMinimumSize(minimumSize().expandedTo(body->minimumSizeHint()));
+    setMinimumSize(0, 0);
+    area_->setWidget(body);
+    auto* whole = new QVBoxLayout(this);
+    whole->setContentsMargins(0, 0, 0, 0);
+    whole->addWidget(area_);
+}
+
+void form_window::follow_controls_by_tab() {
+    std::vector<QWidget*> stops;
+    for (control* one : screen_->controls()) {
+        if (one->focusable()) stops.push_back(&binders_.at(one)->widget());
+    }
+    set_tab_order(stops);
+}
+
+void form_window::name_the_rest() {
+    for (const auto& [model, one] : binders_) {
+        if (model->kind() == control_kind::label || model->kind() == control_kind::picture)
+            continue;
+        QWidget& control = one->widget();
+        const QAccessibleInterface* heard = QAccessible::queryAccessibleInterface(&control);
+        if (!heard || !heard->text(QAccessible::Name).isEmpty()) continue;
+        QString name = windowTitle();
+        for (const QWidget* around = control.parentWidget(); around != this;
+             around = around->parentWidget()) {
+            const auto* frame = qobject_cast<const QGroupBox*>(around);
+            if (frame) name = frame->title().remove('&');
+        }
+        control.setAccessibleName(name);
+    }
+}
+
+void form_window::set_tab_order(const std::vector<QWidget*>& stops) {
+    for (std::size_t i = 1; i < stops.size(); ++i) setTabOrder(stops[i - 1], stops[i]);
+}
+
+/// How the user left what can be dragged in the window.
+void form_window::recall() {
+    // Calendars have tables of their own.
+    for (auto* table : findChildren<QTableView*>()) {
+        if (auto* list = dynamic_cast<grid_view*>(table)) {
+            list->remember_widths("windows/" + objectName() + "/" + list->objectName());
+        }
+    }
+    for (auto* splitter : findChildren<QSplitter*>()) {
+        const QString name = "windows/" + objectName() + "/" + splitter->objectName();
+        splitter->restoreState(QSettings().value(name).toByteArray());
+        connect(splitter, &QSplitter::splitterMoved, this,
+                [splitter, name] { QSettings().setValue(name, splitter->saveState()); });
+    }
+}
+
+QSize form_window::size_on(const QRect& room) const {
+    QSize size = first_size_;
+    if (by_user_) {
+        size = QSettings().value("windows/" + objectName() + "/size", size).toSize();
+    }
+    return size.boundedTo(room.size() - frame_room);
+}
+
+void form_window::appear(const window_place& place) {
+    const bool modal = screen_->desk().modal() == screen_;
+    const QScreen* around = place.known ? QGuiApplication::screenAt(place.middle) : nullptr;
+    const QRect room = (around ? around : QGuiApplication::primaryScreen())->availableGeometry();
+    if (!placed_) resize(size_on(room));
+    placed_ = true;
+    setWindowModality(modal ? Qt::ApplicationModal : Qt::NonModal);
+    const bool full_screen = place.known
+                                 ? place.full_screen
+                                 : by_user_ && QSettings().value("windows/maximised").toBool();
+    setWindowState(full_screen && !modal ? windowState() | Qt::WindowMaximized
+                                         : windowState() & ~Qt::WindowMaximized);
+    QRect inside(QPoint(), normal_size());
+    inside.moveCenter(place.known ? place.middle : room.center() + QPoint(0, title_room / 2));
+    inside.moveRight(std::min(inside.right(), room.right()));
+    inside.moveBottom(std::min(inside.bottom(), room.bottom()));
+    inside.moveTopLeft(QPoint(std::max(inside.left(), room.left()),
+                              std::max(inside.top(), room.top() + title_room)));
+    // A geometry set now would be that of the maximised window.
+    if (!isMaximized()) setGeometry(inside);
+    show();
+}
+
+QSize form_window::normal_size() const {
+    return isMaximized() && normalGeometry().isValid() ? normalGeometry().size() : size();
+}
+
+window_place form_window::place() const {
+    return {true, geometry().center(), isMaximized()};
+}
+
+void form_window::focus_on(control& one) {
+    QWidget& target = widget_of(one);
+    // As if the user had come by Tab: what stands in a field is there to be typed over. A window
+    // that only comes to the front keeps quiet about a field that had its focus before.
+    if (!target.hasFocus()) {
+        target.setFocus(Qt::TabFocusReason);
+        select_text(one);
+    }
+    const QSize room = area_->viewport()->size();
+    const bool fits = target.width() <= room.width() && target.height() <= room.height();
+    if (fits && area_->widget()->isAncestorOf(&target)) area_->ensureWidgetVisible(&target);
+}
+
+void form_window::select_text(control& one) {
+    if (one.kind() == control_kind::text_box) {
+        static_cast<QLineEdit&>(widget_of(one)).selectAll();
+    }
+}
+
+void form_window::closeEvent(QCloseEvent* event) {
+    // The screen decides what closing means.
+    event->ignore();
+    if (screen_) close_(*screen_);
+}
+
+bool form_window::event(QEvent* event) {
+    if (event->type() == QEvent::KeyPress &&
+        asks_for_manual(static_cast<QKeyEvent&>(*event), focusWidget())) {
+        open_manual(this);
+        return true;
+    }
+    if (event->type() == QEvent::Hide && placed_ && by_user_) {
+        if (!isMaximized()) QSettings().setValue("windows/" + objectName() + "/size", size());
+        if (!isModal()) QSettings().setValue("windows/maximised", isMaximized());
+    }
+    if (event->type() == QEvent::WindowActivate && screen_) come_forward_(*screen_);
+    return QWidget::event(event);
+}
+
+}  // namespace vantora::ui::desktop

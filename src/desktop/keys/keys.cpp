@@ -1,0 +1,169 @@
+#include "desktop/keys/keys.h"
+
+#include <QAbstractButton>
+#include <QBoxLayout>
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QFrame>
+#include <QGridLayout>
+#include <QLabel>
+#include <QMenu>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QShortcut>
+#include <QToolButton>
+#include <algorithm>
+
+#include "desktop/controls/widget_binder.h"
+#include "desktop/keys/manual.h"
+#include "desktop/words.h"
+
+namespace vantora::ui::desktop {
+
+namespace {
+
+constexpr const char* told_name = "told_key";
+
+}  // namespace
+
+told_key::told_key(QWidget& owner, QString keys, QString what)
+    : QObject(&owner), keys_(std::move(keys)), what_(std::move(what)) {
+    setObjectName(told_name);
+}
+
+QString told_key::native_keys() const {
+    QStringList named;
+    for (const QString& one : keys_.split(' ')) {
+        named << QKeySequence(one).toString(QKeySequence::NativeText);
+    }
+    return named.join(", ");
+}
+
+QShortcut* add_key(QWidget& owner, const char* keys, const char* what) {
+    auto* shortcut = new QShortcut(QKeySequence(keys), &owner);
+    shortcut->setAutoRepeat(false);
+    new told_key(owner, keys, QString::fromUtf8(what));
+    return shortcut;
+}
+
+void add_shortcut(QAbstractButton& button, const char* keys) {
+    const QString what = button.toolTip().isEmpty() ? button.text().remove('&') : button.toolTip();
+    QShortcut* shortcut = add_key(button, keys, what.toUtf8().constData());
+    QObject::connect(shortcut, &QShortcut::activated, &button, [&button] { click_by_key(button); });
+    const QString named = QString("(%1)").arg(shortcut->key().toString(QKeySequence::NativeText));
+    button.setToolTip((button.toolTip() + " " + named).trimmed());
+}
+
+std::vector<const told_key*> keys_of(const QWidget& window) {
+    std::vector<const told_key*> keys;
+    for (const QObject* child : window.findChildren<QObject*>(told_name)) {
+        const auto* one = static_cast<const told_key*>(child);
+        const auto* owner = static_cast<const QWidget*>(one->parent());
+        if (owner == &window || !owner->isHidden()) keys.push_back(one);
+    }
+    // Commands first, then what the window has besides.
+    std::ranges::stable_partition(keys,
+                                  [&](const told_key* one) { return one->parent() != &window; });
+    return keys;
+}
+
+// The overview ------------------------------------------------------------------------------------
+
+namespace {
+
+constexpr int single_column_rows = 14;
+constexpr int longest_line = 60;  ///< characters; what is longer would need a window too wide
+
+QWidget* key_table(const std::vector<const told_key*>& keys, QWidget* parent) {
+    auto* table = new QWidget(parent);
+    auto* cells = new QGridLayout(table);
+    cells->setHorizontalSpacing(14);
+    cells->setVerticalSpacing(5);
+    const int count = static_cast<int>(keys.size());
+    const int rows_a_column = count > single_column_rows ? (count + 1) / 2 : single_column_rows;
+    int at = 0;
+    for (const told_key* one : keys) {
+        auto* key = new QLabel(one->native_keys(), table);
+        key->setProperty("role", "key");
+        auto* what = new QLabel(one->what(), table);
+        what->setWordWrap(one->what().size() > longest_line);
+        const int column = at / rows_a_column * 2;
+        const int row = at % rows_a_column;
+        cells->addWidget(key, row, column, Qt::AlignLeft | Qt::AlignVCenter);
+        cells->addWidget(what, row, column + 1);
+        what->setContentsMargins(0, 0, 24, 0);
+        ++at;
+    }
+    cells->setRowStretch(rows_a_column, 1);
+    return table;
+}
+
+}  // namespace
+
+void show_keys(QWidget& window) {
+    QDialog dialog(&window);
+    dialog.setObjectName("tasti");
+    dialog.setWindowTitle(QString::fromUtf8(words::keys_of_window).arg(window.windowTitle()));
+    auto* area = new QScrollArea(&dialog);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    QWidget* table = key_table(keys_of(window), area);
+    area->setWidget(table);
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, &dialog);
+    auto* manual =
+        buttons->addButton(QString::fromUtf8(words::open_manual), QDialogButtonBox::HelpRole);
+    QObject::connect(manual, &QPushButton::clicked, &dialog, [&dialog] { open_manual(&dialog); });
+    QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+    auto* all = new QVBoxLayout(&dialog);
+    all->addWidget(area, 1);
+    all->addWidget(buttons);
+    const QSize room = window.screen()->availableSize() * 9 / 10;
+    const QSize wanted = table->sizeHint() + QSize(50, 80);
+    dialog.resize(wanted.boundedTo(room));
+    dialog.exec();
+}
+
+namespace {
+
+/// Made when it is asked for: a menu is a window, and screens come and go.
+void show_help_menu(QWidget& window, const QWidget& below) {
+    QMenu menu(&window);
+    const QString tab = "\t";
+    menu.addAction(QString::fromUtf8(words::show_keys) + tab +
+                       QKeySequence("Ctrl+?").toString(QKeySequence::NativeText),
+                   &window, [&window] { show_keys(window); });
+    menu.addAction(QString::fromUtf8(words::open_manual) + tab + "F1", &window,
+                   [&window] { open_manual(&window); });
+    menu.exec(below.mapToGlobal(QPoint(0, below.height())));
+}
+
+}  // namespace
+
+QToolButton* help_button(QWidget& window) {
+    auto* button = new QToolButton(&window);
+    button->setObjectName("aiuto");
+    button->setText("?");
+    button->setToolTip(QString::fromUtf8(words::help));
+    button->setAccessibleName(QString::fromUtf8(words::help));
+    button->setFocusPolicy(Qt::NoFocus);
+    button->setProperty("look", "help");
+    QObject::connect(button, &QToolButton::clicked, &window,
+                     [&window, button] { show_help_menu(window, *button); });
+    return button;
+}
+
+void add_help(QWidget& window) {
+    QObject::connect(add_key(window, "Ctrl+?", words::show_keys), &QShortcut::activated, &window,
+                     [&window] { show_keys(window); });
+    new told_key(window, "F1", QString::fromUtf8(words::manual_key));
+    if (window.findChild<QToolButton*>("aiuto")) return;
+    for (auto* bar : window.findChildren<QFrame*>()) {
+        auto* row = qobject_cast<QHBoxLayout*>(bar->layout());
+        if (!row || bar->property("role").toString() != "bar") continue;
+        row->addWidget(help_button(window), 0, Qt::AlignTop);
+        return;
+    }
+}
+
+}  // namespace vantora::ui::desktop

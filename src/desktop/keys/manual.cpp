@@ -1,0 +1,44 @@
+#include "desktop/keys/manual.h"
+
+#include <QCoreApplication>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QUrl>
+
+#include "desktop/look/box_look.h"
+#include "desktop/words.h"
+
+namespace vantora::ui::desktop {
+
+QString manual_file(const QString& programs) {
+    for (const char* ending : {"pdf", "html"}) {
+        for (const char* folder : {"../share/doc/vantora-ordini", "../manual"}) {
+            const QFileInfo file(QString("%1/%2/vantora-ordini-manuale.%3")
+                                     .arg(programs, QString(folder), QString(ending)));
+            if (file.isReadable()) return QDir::cleanPath(file.absoluteFilePath());
+        }
+    }
+    return {};
+}
+
+bool asks_for_manual(const QKeyEvent& key, const QWidget* focused) {
+    if (key.key() != Qt::Key_F1 || key.modifiers() != Qt::NoModifier || key.isAutoRepeat()) {
+        return false;
+    }
+    return !focused || focused->property("column").toString() != "ds";
+}
+
+void open_manual(QWidget* above) {
+    const QString file = manual_file(QCoreApplication::applicationDirPath());
+    if (!file.isEmpty() && QDesktopServices::openUrl(QUrl::fromLocalFile(file))) return;
+    QMessageBox box(above);
+    box.setWindowTitle(words::manual);
+    box.setText(file.isEmpty() ? QString::fromUtf8(words::no_manual)
+                               : QString::fromUtf8(words::manual_stays_shut).arg(file));
+    dress_box(box, icon::information);
+    box.exec();
+}
+
+}  // namespace vantora::ui::desktop

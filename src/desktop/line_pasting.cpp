@@ -1,0 +1,58 @@
+#include "desktop/line_pasting.h"
+
+#include <QClipboard>
+#include <QFile>
+#include <QGuiApplication>
+#include <QProgressDialog>
+#include <QStringDecoder>
+
+#include "desktop/file_dialog.h"
+#include "desktop/words.h"
+#include "ui/paper/toolkit_values.h"
+
+namespace vantora::ui::desktop {
+
+namespace {
+
+constexpr qint64 file_size_max = 4'000'000;
+
+std::string decoded(const QByteArray& bytes) {
+    const auto marked = QStringConverter::encodingForData(bytes);
+    QStringDecoder decoder(marked.value_or(QStringConverter::Utf8));
+    const QString text = decoder(bytes);
+    // What is no UTF-8 is the code page of older spreadsheets, and of the files.
+    return decoder.hasError() ? bytes.toStdString() : taken(text);
+}
+
+}  // namespace
+
+std::optional<std::string> lines_on_clipboard() {
+    const std::string text = taken(QGuiApplication::clipboard()->text());
+    return holds_pasted_lines(text) ? std::optional(text) : std::nullopt;
+}
+
+std::optional<std::string> lines_of_file(const QString& file, QWidget* above) {
+    QFile source(file);
+    if (!source.open(QIODevice::ReadOnly) || source.size() > file_size_max) {
+        const QString why =
+            source.isOpen() ? QString::fromUtf8(words::too_large) : source.errorString();
+        tell(QString::fromUtf8(words::cannot_read).arg(file, why), above);
+        return {};
+    }
+    return decoded(source.readAll());
+}
+
+void paste_lines(text_box& field, const std::string& text, QWidget* above) {
+    QProgressDialog progress(QString::fromUtf8(words::pasting), QString::fromUtf8(words::break_off),
+                             0, 1, above);
+    progress.setWindowTitle(QString::fromUtf8(words::paste_lines));
+    progress.setWindowModality(Qt::ApplicationModal);
+    progress.setMinimumDuration(400);
+    field.on_paste_lines(text, [&progress](int done, int of) {
+        progress.setMaximum(of);
+        progress.setValue(done);
+        return !progress.wasCanceled();
+    });
+}
+
+}  // namespace vantora::ui::desktop

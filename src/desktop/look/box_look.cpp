@@ -1,0 +1,51 @@
+#include "desktop/look/box_look.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QMessageBox>
+
+#include "desktop/look/style.h"
+
+namespace vantora::ui {
+
+namespace {
+
+constexpr int narrowest = 330;
+constexpr QSize picture_size(40, 40);
+
+const char* picture_of(icon sign) {
+    switch (sign) {
+        case icon::stop:
+            return "fermo";
+        case icon::warning:
+            return "avviso";
+        case icon::question:
+            return "domanda";
+        case icon::information:
+            break;
+    }
+    return "informazione";
+}
+
+}  // namespace
+
+void dress_box(QMessageBox& box, icon sign) {
+    box.setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                       Qt::WindowCloseButtonHint);
+    box.setIconPixmap(picture_named(picture_of(sign)).pixmap(picture_size, box.devicePixelRatio()));
+    auto* rows = static_cast<QGridLayout*>(box.layout());
+    // Icon and text stand on one line.
+    for (const char* name : {"qt_msgbox_label", "qt_msgboxex_icon_label"}) {
+        auto* part = box.findChild<QLabel*>(name);
+        if (!part) continue;
+        part->setAlignment(Qt::AlignVCenter | Qt::AlignLeft);
+        rows->setAlignment(part, Qt::AlignVCenter);
+        rows->setRowMinimumHeight(0,
+                                  std::max(rows->rowMinimumHeight(0), part->sizeHint().height()));
+    }
+    // The text takes the room, not the icon.
+    rows->setColumnStretch(rows->columnCount() - 1, 1);
+    rows->addItem(new QSpacerItem(narrowest, 0), rows->rowCount(), 0, 1, rows->columnCount());
+}
+
+}  // namespace vantora::ui

@@ -1,0 +1,139 @@
+#include "desktop/printing/print_preview.h"
+
+#include <QBoxLayout>
+#include <QDialog>
+#include <QFrame>
+#include <QLabel>
+#include <QPainter>
+#include <QPrintPreviewWidget>
+#include <QPrinter>
+#include <QScreen>
+#include <QShortcut>
+#include <QToolButton>
+
+#include "desktop/file_dialog.h"
+#include "desktop/look/style.h"
+#include "desktop/words.h"
+
+namespace vantora::ui::desktop {
+
+namespace {
+
+void save_as_pdf(const recorded_pages& pages, const QPrinter& like, const QString& called,
+                 QWidget* above) {
+    const QString file = ask_where_to_save(QString::fromUtf8(words::save_pdf), called,
+                                           {QString::fromUtf8(words::pdf_files), "pdf"}, above);
+    if (file.isEmpty()) return;
+    QPrinter paper(QPrinter::HighResolution);
+    paper.setOutputFormat(QPrinter::PdfFormat);
+    paper.setOutputFileName(file);
+    paper.setPageLayout(like.pageLayout());
+    paper.setFullPage(true);
+    paper.setDocName(called);
+    if (!draw_pages(pages, paper)) {
+        tell(QString::fromUtf8(words::cannot_write).arg(file, QString()), above);
+    }
+}
+
+/// The dialog's bar of commands.
+class preview_bar final : public QFrame {
+ public:
+    preview_bar(QPrintPreviewWidget& view, QWidget* parent)
+        : QFrame(parent), view_(view), row_(new QHBoxLayout(this)), page_(new QLabel(this)) {
+        setProperty("role", "bar");
+        row_->setContentsMargins(8, 5, 8, 5);
+        row_->setSpacing(2);
+    }
+
+    void add(const char* icon, const char* what, const char* keys,
+             const std::function<void()>& action) {
+        auto* button = new QToolButton(this);
+        const QString text = QString::fromUtf8(what);
+        if (*icon) button->setIcon(picture_named(icon));
+        button->setToolButtonStyle(*icon ? Qt::ToolButtonTextBesideIcon : Qt::ToolButtonTextOnly);
+        button->setText(text);
+        button->setToolTip(text + " (" + QKeySequence(keys).toString(QKeySequence::NativeText) +
+                           ")");
+        button->setAccessibleName(text);
+        button->setShortcut(QKeySequence(keys));
+        connect(button, &QToolButton::clicked, this, action);
+        row_->addWidget(button);
+    }
+    void add_space() { row_->addSpacing(14); }
+    void add_page_number() {
+        page_->setMinimumWidth(page_->fontMetrics().horizontalAdvance("Pagina 000 di 000"));
+        page_->setAlignment(Qt::AlignCenter);
+        row_->addWidget(page_);
+    }
+    void add_stretch() { row_->addStretch(1); }
+
+    void show_page() {
+        page_->setText(
+            QString::fromUtf8(words::page_of).arg(view_.currentPage()).arg(view_.pageCount()));
+    }
+
+ private:
+    QPrintPreviewWidget& view_;
+    QHBoxLayout* row_;
+    QLabel* page_;
+};
+
+void fill(preview_bar& bar, QPrintPreviewWidget& view, QDialog& dialog,
+          const std::function<void()>& save) {
+    const auto turn = [&view, &bar](int by) {
+        view.setCurrentPage(view.currentPage() + by);
+        bar.show_page();
+    };
+    bar.add("stampante", words::print, "Ctrl+P", [&dialog] { dialog.accept(); });
+    bar.add("pdf", words::save_pdf, "Ctrl+S", save);
+    bar.add_space();
+    bar.add("", words::zoom_in, "Ctrl++", [&view] { view.zoomIn(); });
+    bar.add("", words::zoom_out, "Ctrl+-", [&view] { view.zoomOut(); });
+    bar.add("", words::fit_width, "Ctrl+1", [&view] { view.fitToWidth(); });
+    bar.add("", words::fit_page, "Ctrl+0", [&view] { view.fitInView(); });
+    bar.add_space();
+    bar.add("su", words::page_before, "PgUp", [turn] { turn(-1); });
+    bar.add_page_number();
+    bar.add("giu", words::page_after, "PgDown", [turn] { turn(1); });
+    bar.add_stretch();
+    bar.add("uscita", words::close_preview, "Esc", [&dialog] { dialog.reject(); });
+}
+
+}  // namespace
+
+bool draw_pages(const recorded_pages& pages, QPrinter& on) {
+    QPainter painter;
+    if (!painter.begin(&on)) return false;
+    page_painter page(painter);
+    for (std::size_t i = 0; i < pages.count(); ++i) {
+        if (i > 0) on.newPage();
+        pages.draw(i, page);
+    }
+    return painter.end();
+}
+
+bool wants_printed(const recorded_pages& pages, QPrinter& printer, const QString& called,
+                   QWidget* above) {
+    const plain_pointer shown_meanwhile;
+    QDialog dialog(above);
+    dialog.setObjectName("anteprima");
+    dialog.setWindowTitle(QString::fromUtf8(words::preview_of).arg(called));
+    dialog.setWindowFlag(Qt::WindowMaximizeButtonHint);
+    auto* view = new QPrintPreviewWidget(&printer, &dialog);
+    view->setAccessibleName(QString::fromUtf8(words::preview));
+    QObject::connect(view, &QPrintPreviewWidget::paintRequested, &dialog,
+                     [&pages](QPrinter* on) { draw_pages(pages, *on); });
+    auto* bar = new preview_bar(*view, &dialog);
+    fill(*bar, *view, dialog, [&] { save_as_pdf(pages, printer, called, &dialog); });
+    QObject::connect(view, &QPrintPreviewWidget::previewChanged, bar, &preview_bar::show_page);
+    auto* all = new QVBoxLayout(&dialog);
+    all->setContentsMargins(0, 0, 0, 0);
+    all->setSpacing(0);
+    all->addWidget(bar);
+    all->addWidget(view, 1);
+    // With room for the frame; no window may be active after a question.
+    dialog.resize(QSize(1040, 820).boundedTo(dialog.screen()->availableSize() * 17 / 20));
+    return dialog.exec() == QDialog::Accepted;
+}
+
+}  // namespace vantora::ui::desktop

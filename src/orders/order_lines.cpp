@@ -1,0 +1,47 @@
+#include "orders/order_lines.h"
+
+#include <utility>
+
+namespace vantora {
+
+void clear_line(riga_ordine& line) {
+    const double fulfilled = line.evaso;
+    const double weight = line.peso;
+    line = riga_ordine{};
+    line.evaso = fulfilled;
+    line.peso = weight;
+}
+
+void righe_ordine::clear() {
+    for (int number = 1; number <= massimo; ++number) {
+        riga_ordine& line = (*this)[number];
+        clear_line(line);
+        line.peso = 0;
+    }
+}
+
+void righe_ordine::insert(int number) {
+    for (int i = massimo - 1; i >= number; --i) (*this)[i + 1] = (*this)[i];
+    clear_line((*this)[number]);
+}
+
+void righe_ordine::remove(int number) {
+    for (int i = number; i < massimo; ++i) (*this)[i] = (*this)[i + 1];
+    clear_line((*this)[massimo]);
+}
+
+void righe_ordine::sort_by_code() {
+    const auto key = [](const riga_ordine& line) {
+        const std::string_view code = line.codice.trimmed();
+        return code.empty() ? std::string_view("\xFF") : code;
+    };
+    // After an exchange all lines between are at least the old first one, so going on behind the
+    // exchanged line is the same as starting over.
+    for (int i = 1; i < massimo; ++i) {
+        for (int j = i + 1; j <= massimo; ++j) {
+            if (key((*this)[i]) > key((*this)[j])) std::swap((*this)[i], (*this)[j]);
+        }
+    }
+}
+
+}  // namespace vantora

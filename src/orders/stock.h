@@ -1,0 +1,51 @@
+#pragma once
+
+#include "orders/order_lines.h"
+#include "store/channel.h"
+#include "store/records/rec_art.h"
+#include "store/write_plan.h"
+
+namespace vantora {
+
+// What the quantities of order and document lines do to the stock figures of their articles. The
+// first four touch no file. A figure that would leave the range of numbers stays as it was.
+
+/// A quantity is ordered: `ordinato_clienti` rises. With `commit` stock is set aside for it, as
+/// far as `giacenza` goes. No guard: a negative quantity and negative stock move by the same rule.
+void order_stock(rec_art& article, double quantity, bool commit);
+
+/// An ordered quantity is no longer open, because its line was changed or deleted or because it
+/// was fulfilled: `ordinato_clienti` falls. With `committed` what was set aside for it becomes
+/// free stock again, as far as `impegnato` goes.
+void release_stock(rec_art& article, double quantity, bool committed);
+
+/// A quantity leaves the warehouse at a net unit price.
+void unload_stock(rec_art& article, double quantity, double net_price);
+
+/// Whether a number is that of an article when there are so many; others are free text.
+constexpr bool is_article(int number, int articles) {
+    return number >= 1 && number <= articles;
+}
+
+/// How many lines have stock behind them: those with a quantity of an article.
+int lines_with_stock(const righe_ordine& lines, int articles);
+
+/// Reads article `number`, changes it by `change(article)` and writes it back, with nothing
+/// between. True if it was written; an article out of range or unreadable is left alone.
+template <class Change>
+bool change_article(channel<rec_art>& files, int number, int articles, Change change) {
+    rec_art article;
+    if (!is_article(number, articles) || !files.read(number, article)) return false;
+    change(article);
+    return files.write(number, article);
+}
+
+/// The same for commands that pass faults over: they are noted.
+template <class Change>
+bool change_article(channel<rec_art>& files, int number, int articles, write_faults& faults,
+                    Change change) {
+    return is_article(number, articles) &&
+           faults.note(change_article(files, number, articles, change), files);
+}
+
+}  // namespace vantora

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <initializer_list>
+#include <span>
+#include <vector>
+
+#include "desktop/form_window.h"
+
+namespace vantora::ui::desktop {
+
+// The window of a screen that shows a customer and holds the head of a document: what differs from
+// screen to screen is the frame with the document's own fields, and the way on.
+
+/// A field of a frame: a control of the screen by name and index, -1 for none.
+struct frame_field {
+    const char* name;
+    int index = -1;
+    int characters = 0;        ///< how many shall fit; 0: it takes what is left
+    const char* caption = "";  ///< of a field that isn't the first of its row
+};
+
+/// A row of a frame: a caption and the fields behind it.
+struct frame_row {
+    const char* caption;
+    std::vector<frame_field> fields;
+};
+
+struct customer_window {
+    const char* frame;           ///< title of the frame with the document's own fields
+    std::vector<frame_row> own;  ///< its rows
+    command_look go_on;          ///< the button that goes on
+};
+
+/// The rows of an order's head.
+std::vector<frame_row> order_head_rows();
+
+void lay_out_customer(form_window& window, const customer_window& look);
+
+}  // namespace vantora::ui::desktop

@@ -1,0 +1,306 @@
+#include "windows/line_window.h"
+
+#include <QLineEdit>
+#include <QListView>
+#include <QScrollBar>
+#include <QShortcut>
+#include <QSplitter>
+
+#include "desktop/file_dialog.h"
+#include "desktop/line_pasting.h"
+#include "desktop/words.h"
+#include "ui/value_controls.h"
+#include "windows/article_entries.h"
+#include "windows/line_rows.h"
+
+namespace vantora::ui::desktop {
+
+namespace {
+
+constexpr int rows = line_rows::count;
+constexpr int tallest_row = 48;         ///< dots
+constexpr int cell_margins = 16;        ///< dots, with the cursor's; the description needs the rest
+constexpr int widest_description = 80;  ///< characters
+constexpr int least_description = 245;  ///< dots
+constexpr int list_width = 355;         ///< dots, for codes and whole descriptions
+constexpr int frame_margin = 14;        ///< dots, as frames are drawn, with some room to spare
+constexpr int stock_characters = 140;   ///< the record number behind them is not for the eye
+
+struct column {
+    const char* control;
+    const char* head;  ///< empty: the column before has it for both
+    int characters;    ///< width; 0 takes what is left
+    bool number;
+};
+
+constexpr column columns[] = {
+    {"artic", "Articolo", 13, false},  // a bar code
+    {"ds", "Descrizione", 0, false},  {"um", "U.m.", 3, false},   {"quantita", "Quantità", 8, true},
+    {"evaso", "Evaso", 7, true},      {"sc1", "Sconti", 3, true}, {"sc2", "", 3, true},
+    {"prezzo", "Prezzo", 9, true},    {"civ", "Iva", 2, false},
+};
+
+QWidget* command_bar(form_window& window, const std::vector<line_command>& commands) {
+    QHBoxLayout* row = command_row(window, 5);
+    for (const line_command& one : commands) {
+        // Leaving stands apart.
+        if (one.index == 0) row->addStretch(1);
+        window.dress("comando", one.index, one.look);
+        add_command(row, window.as<QToolButton>("comando", one.index), 26);
+    }
+    return row->parentWidget();
+}
+
+void add_column(form_window& window, line_rows& lines, QGridLayout* cells, const column& one) {
+    const int at = cells->columnCount();
+    if (*one.head == '\0') {
+        cells->addWidget(cells->itemAtPosition(0, at - 1)->widget(), 0, at - 1, 1, 2);
+    } else {
+        auto* head = new QLabel(QString::fromUtf8(one.head), &window);
+        set_look(head, "role", "faint");
+        head->setContentsMargins(5, 0, 5, 0);
+        if (one.number) head->setAlignment(Qt::AlignRight);
+        cells->addWidget(head, 0, at);
+    }
+    for (int row = 0; row < rows; ++row) {
+        auto* cell = window.as<QLineEdit>(one.control, row);
+        lines.add_cell(one.control, one.head, row, cell);
+        set_look(cell, "column", one.control);
+        if (one.number) cell->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        sized(cell, one.characters > 0 ? one.characters : widest_description, cell_margins);
+        if (one.characters == 0) cell->setMinimumWidth(least_description);
+        cell->setMinimumHeight(cell->fontMetrics().height() + 6);
+        cell->setSizePolicy(cell->sizePolicy().horizontalPolicy(), QSizePolicy::Expanding);
+        cells->addWidget(cell, row + 1, at);
+    }
+    if (one.characters == 0) cells->setColumnStretch(at, 1);
+}
+
+/// The lines move under the cells by pages; the cell keeps the focus.
+void add_paging(form_window& window, line_rows& lines) {
+    for (const int step : {-rows, rows}) {
+        QShortcut* keys = add_key(window, step < 0 ? "PgUp" : "PgDown",
+                                  step < 0 ? words::lines_up : words::lines_down);
+        keys->setAutoRepeat(true);
+        QObject::connect(keys, &QShortcut::activated, &window,
+                         [&lines, step] { lines.scroll(step); });
+    }
+    window.widget("VScroll1")->setToolTip(QString::fromUtf8("Righe da 1 a 200 (Pag su, Pag giù)"));
+}
+
+/// Pasting lines and taking back what was done to many at once.
+void add_line_keys(form_window& window, line_rows& lines) {
+    const auto row = [&lines] { return std::max(lines.current(), 0); };
+    new told_key(window, "Ctrl+V", QString::fromUtf8(words::paste_key));
+    QShortcut* file = add_key(window, "Ctrl+Shift+O", words::paste_file);
+    QObject::connect(file, &QShortcut::activated, &lines, [&window, row] {
+        const QString chosen =
+            ask_what_to_open(QString::fromUtf8(words::paste_file),
+                             {QString::fromUtf8(words::csv_files), "csv"}, &window);
+        if (chosen.isEmpty()) return;
+        if (const auto text = lines_of_file(chosen, &window)) {
+            window.act_on<text_box>("artic", row(),
+                                    [&](text_box& cell) { paste_lines(cell, *text, &window); });
+        }
+    });
+    new told_key(window, "Ctrl+Z", QString::fromUtf8(words::text_back));
+    QShortcut* back = add_key(window, "Ctrl+Shift+Z", words::lines_back);
+    QObject::connect(back, &QShortcut::activated, &lines, [&window, row] {
+        window.act_on("artic", row(), [](control& cell) { cell.owner().take_back(); });
+    });
+}
+
+QGroupBox* line_frame(form_window& window) {
+    auto* box = new QGroupBox("Dettaglio documento", &window);
+    auto* lines = new line_rows(window);
+    auto* table = new QWidget(box);
+    table->setMaximumHeight(rows * tallest_row);
+    auto* cells = new QGridLayout(table);
+    cells->setContentsMargins(0, 0, 0, 0);
+    cells->setSpacing(1);
+    for (int row = 0; row < rows; ++row) {
+        cells->addWidget(lines->number(row), row + 1, 0);
+        cells->setRowStretch(row + 1, 1);
+    }
+    for (const column& one : columns) {
+        if (window.screen().find(one.control, 0)) add_column(window, *lines, cells, one);
+    }
+    lines->show_numbers();
+    auto* bar = window.as<QScrollBar>("VScroll1");
+    bar->setOrientation(Qt::Vertical);
+    bar->setFixedWidth(18);
+    bar->setFocusPolicy(Qt::ClickFocus);
+    lines->take_wheel_over(table);
+    cells->addWidget(bar, 1, cells->columnCount(), rows, 1);
+    add_paging(window, *lines);
+    add_line_keys(window, *lines);
+    table->setMaximumWidth(cells->totalMaximumSize().width());
+    box->setMaximumWidth(table->maximumWidth() + 2 * frame_margin);
+
+    QShortcut* vat = add_key(window, "F4", words::vat_of_line);
+    QObject::connect(vat, &QShortcut::activated, &window, [&window, lines] {
+        window.act_on("civ", lines->current(), [](control& cell) { cell.set_focus(); });
+    });
+    for (int row = 0; row < rows; ++row) {
+        window.widget("civ", row)->setToolTip("Sceglie il codice iva (F4)");
+    }
+
+    QShortcut* back = add_key(window, "F2", words::cell_before);
+    QObject::connect(back, &QShortcut::activated, lines, &line_rows::go_back);
+    box->setToolTip("F2: torna alla cella di prima");
+
+    auto* hint =
+        new QLabel("Per cercare un articolo tramite la descrizione, inserirla e premere F1)", box);
+    set_look(hint, "role", "faint");
+    auto* all = new QVBoxLayout(box);
+    all->setContentsMargins(0, 0, 0, 0);
+    all->addWidget(table, 1);
+    all->addWidget(hint);
+    all->addStretch(0);
+    return box;
+}
+
+QGroupBox* list_frame(form_window& window) {
+    auto* box = new QGroupBox("Lista articoli memorizzati in magazzino", &window);
+    auto* column = new QVBoxLayout(box);
+    column->setContentsMargins(0, 0, 0, 0);
+    auto* list = window.as<QListView>("List1");
+    list->setFocusPolicy(Qt::ClickFocus);
+    list->setItemDelegate(new article_entries(list));
+    list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    list->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    column->addWidget(list, 1);
+    auto* line = new QHBoxLayout;
+    window.dress("command3d3", -1,
+                 {"aggiorna", "&Ricarica", "Rilegge la lista degli articoli", "F5"},
+                 Qt::ToolButtonTextBesideIcon);
+    window.dress("riordina", -1,
+                 {"riordina", "Ri&ordina righe", "Ordina le righe per codice", "Ctrl+R"},
+                 Qt::ToolButtonTextBesideIcon);
+    for (const char* name : {"command3d3", "riordina"}) {
+        set_look(window.widget(name), "look", "plain");
+        line->addWidget(window.widget(name));
+    }
+    line->addStretch(1);
+    column->addLayout(line);
+    return box;
+}
+
+QFrame* stock_line(form_window& window) {
+    auto* frame = new QFrame(&window);
+    set_look(frame, "role", "stock");
+    auto* stock = window.as<QLabel>("listx");
+    stock->setFont(QFont("Liberation Mono", 9));
+    stock->setFixedHeight(stock->fontMetrics().height() + 6);
+    stock->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    stock->setMaximumWidth(stock->fontMetrics().horizontalAdvance(QString(stock_characters, '0')));
+    auto* line = new QHBoxLayout(frame);
+    line->setContentsMargins(8, 1, 8, 1);
+    line->addWidget(stock, 1000);
+    line->addStretch(1);
+    return frame;
+}
+
+/// Which order it is that is worked on.
+QFrame* head_strip(form_window& window) {
+    auto* strip = new QFrame(&window);
+    set_look(strip, "role", "head");
+    auto* text = window.as<QLabel>("testata");
+    text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    auto* line = new QHBoxLayout(strip);
+    line->setContentsMargins(12, 4, 12, 4);
+    line->addWidget(text);
+    return strip;
+}
+
+struct choice {
+    const char* control;
+    int index;
+    const char* keys;
+    const char* tooltip;
+};
+
+constexpr choice choices[] = {
+    {"prezz", 0, "Alt+1", "Le righe prendono il primo prezzo dell'articolo"},
+    {"prezz", 1, "Alt+2", "Le righe prendono il secondo prezzo dell'articolo"},
+    {"barcode", -1, "Alt+B", "Le righe si registrano per codice a barre"},
+    {"impegno", -1, "Alt+G", "L'ordine impegna la giacenza degli articoli"},
+    {"postael", -1, "Alt+M", "Il documento si spedisce per posta elettronica"},
+    {"eva", -1, "Alt+V", "L'ordine non ha altro da evadere"},
+};
+
+QGridLayout* choice_table(form_window& window) {
+    auto* table = new QGridLayout;
+    table->setVerticalSpacing(4);
+    table->setHorizontalSpacing(18);
+    int at = 0;
+    for (const choice& one : choices) {
+        if (!window.screen().find(one.control, std::max(one.index, 0))) continue;
+        auto* button = window.as<QAbstractButton>(one.control, one.index);
+        button->setToolTip(QString::fromUtf8(one.tooltip));
+        add_shortcut(*button, one.keys);
+        table->addWidget(button, at % 2, at / 2);
+        ++at;
+    }
+    return table;
+}
+
+QHBoxLayout* foot_line(form_window& window, const char* const (&captions)[3]) {
+    auto* foot = new QHBoxLayout;
+    foot->setSpacing(12);
+    QGridLayout* options = choice_table(window);
+    foot->addLayout(options);
+    foot->setAlignment(options, Qt::AlignVCenter);
+    foot->addStretch(1);
+    for (int i = 0; i < 3; ++i) {
+        auto* total = window.as<QLabel>("tota", i);
+        set_look(total, "role", "total");
+        total->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        total->setFixedWidth(136);
+        auto* column = new QVBoxLayout;
+        column->setSpacing(2);
+        auto* text = caption(captions[i], &window);
+        set_look(text, "role", "faint");
+        column->addWidget(text);
+        column->addWidget(total);
+        foot->addLayout(column);
+    }
+    return foot;
+}
+
+}  // namespace
+
+void lay_out_line_window(form_window& window, const std::vector<line_command>& commands,
+                         const line_window_parts& parts) {
+    auto* all = new QVBoxLayout(&window);
+    all->setContentsMargins(0, 0, 0, 0);
+    all->setSpacing(0);
+    all->addWidget(command_bar(window, commands));
+    if (window.screen().find("testata", {})) all->addWidget(head_strip(window));
+
+    auto* body = new QVBoxLayout;
+    body->setContentsMargins(10, 8, 10, 8);
+    body->setSpacing(8);
+    if (parts.above) body->addWidget(parts.above);
+    // Lines and list share the room as the user wants.
+    auto* middle = new QSplitter(Qt::Horizontal, &window);
+    middle->setObjectName("righe_e_lista");
+    middle->setChildrenCollapsible(false);
+    middle->setHandleWidth(10);
+    QGroupBox* lines = line_frame(window);
+    middle->addWidget(lines);
+    middle->addWidget(list_frame(window));
+    middle->setStretchFactor(0, 2);
+    middle->setStretchFactor(1, 1);
+    // The lines have room for what they hold; the list's descriptions want theirs.
+    middle->setSizes({lines->minimumSizeHint().width(), list_width});
+    body->addWidget(middle, 1);
+    body->addWidget(stock_line(window));
+    body->addLayout(foot_line(window, parts.totals));
+    all->addLayout(body, 1);
+
+    window.setMinimumSize(1040, 560);
+    window.set_first_size(QSize(1340, 690));
+}
+
+}  // namespace vantora::ui::desktop

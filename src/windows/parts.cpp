@@ -1,0 +1,92 @@
+#include "windows/parts.h"
+
+namespace vantora::ui::desktop {
+
+QLabel* caption(const char* utf8, QWidget* parent) {
+    auto* label = new QLabel(QString::fromUtf8(utf8).trimmed(), parent);
+    label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    return label;
+}
+
+QString spoken(const char* utf8) {
+    return QString::fromUtf8(utf8).remove('&').replace('\n', ' ').trimmed();
+}
+
+QLabel* caption_of(QWidget* field, const char* utf8, QWidget* parent) {
+    QLabel* label = caption(utf8, parent);
+    label->setBuddy(field);
+    if (field->accessibleName().isEmpty()) {
+        field->setAccessibleName(spoken(utf8));
+    }
+    return label;
+}
+
+QWidget* sized(QWidget* field, int characters, int margins) {
+    field->setFixedWidth(field->fontMetrics().horizontalAdvance('0') * characters + margins);
+    return field;
+}
+
+void set_look(QWidget* widget, const char* property, const char* value) {
+    widget->setProperty(property, value);
+}
+
+QHBoxLayout* command_row(form_window& window, int air) {
+    auto* bar = new QFrame(&window);
+    set_look(bar, "role", "bar");
+    auto* row = new QHBoxLayout(bar);
+    row->setContentsMargins(8, air, 8, air);
+    row->setSpacing(2);
+    return row;
+}
+
+void add_command(QHBoxLayout* row, QToolButton* button, int picture, bool keeps_place) {
+    constexpr int around_picture = 58;
+    button->setIconSize(QSize(picture, picture));
+    button->setMinimumWidth(picture + around_picture);
+    if (keeps_place) {
+        QSizePolicy place(QSizePolicy::Preferred, QSizePolicy::Fixed);
+        place.setRetainSizeWhenHidden(true);
+        button->setSizePolicy(place);
+    }
+    row->addWidget(button);
+}
+
+QVBoxLayout* body_under(QWidget* commands, form_window& window) {
+    auto* all = new QVBoxLayout(&window);
+    all->setContentsMargins(0, 0, 0, 0);
+    all->setSpacing(0);
+    all->addWidget(commands);
+    auto* body = new QVBoxLayout;
+    body->setContentsMargins(10, 8, 10, 10);
+    body->setSpacing(8);
+    all->addLayout(body, 1);
+    return body;
+}
+
+QVBoxLayout* grid_with_sort_buttons(form_window& window, const char* grid, const char* name,
+                                    int count) {
+    auto* strip = new QWidget(&window);
+    strip->setFixedHeight(strip->fontMetrics().height() + 10);
+    auto* table = window.as<grid_view>(grid);
+    for (int i = 0; i < count; ++i) {
+        auto* button = window.as<QToolButton>(name, i);
+        button->setParent(strip);
+        set_look(button, "look", "sort");
+        if (button->text().isEmpty()) {
+            button->setEnabled(false);
+            button->setToolTip(QString());
+            set_look(button, "look", "blank");
+        } else {
+            button->setToolTip(QString::fromUtf8("Riordina l'elenco su questa colonna"));
+        }
+        button->setGeometry(0, 1, 60, strip->height() - 3);
+        table->keep_above(i, button);
+    }
+    auto* column = new QVBoxLayout;
+    column->setSpacing(1);
+    column->addWidget(strip);
+    column->addWidget(table, 1);
+    return column;
+}
+
+}  // namespace vantora::ui::desktop

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QBoxLayout>
+#include <QFrame>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QToolButton>
+
+#include "desktop/controls/grid_view.h"
+#include "desktop/form_window.h"
+
+namespace vantora::ui::desktop {
+
+// What several screens' layouts are put together from.
+
+/// A fixed text in front of a field.
+QLabel* caption(const char* utf8, QWidget* parent);
+
+/// The same, for a field that it names: to the keyboard and to those who listen instead of reading.
+QLabel* caption_of(QWidget* field, const char* utf8, QWidget* parent);
+
+/// A caption as those hear it who listen.
+QString spoken(const char* utf8);
+
+/// A text box made so wide that about `characters` fit; the margins are its frame's and some air.
+QWidget* sized(QWidget* field, int characters, int margins = 24);
+
+/// A grid with its "Riordina" buttons above the columns, `count` of the control array `name`.
+QVBoxLayout* grid_with_sort_buttons(form_window& window, const char* grid, const char* name,
+                                    int count);
+
+/// A bar for a window's commands, still empty, with so many dots above and below them. The bar is
+/// the row's parent.
+QHBoxLayout* command_row(form_window& window, int air);
+
+/// A command at the end of such a row, with a picture of so many dots. `keeps_place`: while it is
+/// hidden too.
+void add_command(QHBoxLayout* row, QToolButton* button, int picture, bool keeps_place = false);
+
+/// The plan of a working window: its commands across the top; what comes below them is returned.
+QVBoxLayout* body_under(QWidget* commands, form_window& window);
+
+/// Sets how the style sheet draws a widget.
+void set_look(QWidget* widget, const char* property, const char* value);
+
+}  // namespace vantora::ui::desktop
