@@ -1,7 +1,10 @@
 #include <QApplication>
+#include <QSettings>
+#include <QStandardPaths>
 #include <cstdlib>
 #include <fstream>
 #include <iostream>
+#include <optional>
 
 #include "app/desktop_company_choice.h"
 #include "app/options.h"
@@ -50,6 +53,19 @@ bool choose_company(vantora::program_options& options) {
     return true;
 }
 
+/// The folder of what belongs to the person; a run by script has none unless it is named.
+std::optional<vantora::drive> folder_of_person(const vantora::program_options& options) {
+    std::filesystem::path folder = options.data;
+    if (folder.empty() && options.script.empty()) {
+        folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation).toStdString();
+    }
+    std::error_code refused;
+    if (folder.empty() || !(std::filesystem::create_directories(folder, refused), !refused)) {
+        return {};
+    }
+    return std::optional<vantora::drive>(std::in_place, folder);
+}
+
 }  // namespace
 
 int main(int count, char** arguments) {
@@ -72,11 +88,17 @@ int main(int count, char** arguments) {
     QApplication::setApplicationName("Ordini");
     QApplication::setQuitOnLastWindowClosed(false);
     QGuiApplication::setDesktopFileName("example.vantora.Ordini");
+    if (!options.data.empty()) {  // sizes and widths lie there too
+        QSettings::setDefaultFormat(QSettings::IniFormat);
+        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope,
+                           QString::fromStdString(options.data));
+    }
     ui::dress_application(application);
 
     if (options.argument.empty() && options.script.empty() && !choose_company(options)) return 0;
 
     drive files(options.drive);
+    std::optional<drive> person = folder_of_person(options);
     ui::local_clock time;
     if (options.clock) time.stop_at(*options.clock);
     ui::pixbuf_decoder pictures;
@@ -92,6 +114,7 @@ int main(int count, char** arguments) {
         ui::script::interpreter commands(desk, time, script.paper, script.programs);
         ui::desktop::script_runner runner(front, commands, script.commands(), std::cout);
         program app(files, desk, pictures);
+        app.person = person ? &*person : nullptr;
         front.begin(desk);
         front.served_by(
             [&runner] { return runner.step(); },
@@ -106,7 +129,9 @@ int main(int count, char** arguments) {
     ui::desktop::system_launcher programs(
         [&files](std::string_view path) { return files.locate(path).string(); });
     ui::desk desk(front, time, paper, programs);
+    desk.guards().switch_to(true);
     program app(files, desk, pictures);
+    app.person = person ? &*person : nullptr;
     front.begin(desk);
     const ui::desktop::outside_end from_outside([&front] { front.end_by_user(); });
     desk.dispatch([&] { start(app, options.argument); });

@@ -15,6 +15,7 @@ std::optional<int> program_options::read(int count, char** arguments) {
         ->check([](const std::string& text) {
             return read_clock(text) ? std::string() : "expected \"2024-05-06 10:20:30\"";
         });
+    parser.add_option("--data", data, "folder for drafts and settings of the person");
     if (takes_script) {
         parser.add_option("--script", script, "carry out the commands of a file (- for input)");
     }

@@ -15,7 +15,9 @@ struct program_options {
     std::string description;
     std::string drive = "/";         ///< folder that holds the suite's tree
     std::optional<date_time> clock;  ///< where the clock stands still
-    std::string argument;            ///< of the suite's menu program, in the code page
+    /// Folder of what belongs to the person and not to the archive; empty: the system's own place.
+    std::string data;
+    std::string argument;  ///< of the suite's menu program, in the code page
     /// File of commands for a desktop run, "-" for standard input; only where `takes_script`.
     std::string script;
     bool takes_script = false;

@@ -1,4 +1,5 @@
 #include <iostream>
+#include <optional>
 
 #include "app/options.h"
 #include "app/start.h"
@@ -23,6 +24,8 @@ int main(int count, char** arguments) {
     ui::script::interpreter commands(desk, time, paper, programs);
     ui::pixbuf_decoder pictures;
     program app(files, desk, pictures);
+    std::optional<drive> person;
+    if (!options.data.empty()) app.person = &person.emplace(options.data);
 
     front.begin(desk, commands);
     desk.dispatch([&] { start(app, options.argument); });

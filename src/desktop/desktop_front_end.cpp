@@ -217,28 +217,57 @@ QWidget* desktop_front_end::front_window() const {
 
 // Boxes and pointer -------------------------------------------------------------------------------
 
+namespace {
+
+constexpr char answer_property[] = "answer";
+
+struct box_button {
+    QString caption;
+    QMessageBox::ButtonRole role;
+    answer gives;
+};
+
+/// In the order shown; the last one is what Escape gives.
+std::vector<box_button> buttons_of(const message_box& box) {
+    switch (box.buttons) {
+        case buttons::ok:
+            return {{"OK", QMessageBox::AcceptRole, answer::ok}};
+        case buttons::yes_no:
+            return {{QString::fromUtf8("&Sì"), QMessageBox::YesRole, answer::yes},
+                    {"&No", QMessageBox::NoRole, answer::no}};
+        case buttons::choice:
+            break;
+    }
+    std::vector<box_button> all;
+    for (const std::string& caption : box.choices) {
+        all.push_back(
+            {shown(caption), QMessageBox::ActionRole, static_cast<answer>(all.size() + 1)});
+    }
+    return all;
+}
+
+}  // namespace
+
 void desktop_front_end::box_opened(const message_box& box) {
     QWidget* parent = desk_->active() ? window_of(*desk_->active()) : nullptr;
     auto* shown_box = new QMessageBox(parent);
     shown_box->setWindowTitle(shown(box.title));
     shown_box->setTextFormat(Qt::PlainText);
     shown_box->setText(shown_lines(box.text));
-    if (box.buttons == buttons::yes_no) {
-        auto* yes = shown_box->addButton(QString::fromUtf8("&Sì"), QMessageBox::YesRole);
-        auto* no = shown_box->addButton("&No", QMessageBox::NoRole);
-        shown_box->setDefaultButton(box.proposed == answer::no ? no : yes);
-        shown_box->setEscapeButton(no);
-    } else {
-        shown_box->setStandardButtons(QMessageBox::Ok);
+    for (const box_button& one : buttons_of(box)) {
+        QPushButton* button = shown_box->addButton(one.caption, one.role);
+        button->setProperty(answer_property, static_cast<int>(one.gives));
+        if (one.gives == box.proposed || box.buttons == buttons::ok) {
+            shown_box->setDefaultButton(button);
+        }
+        shown_box->setEscapeButton(button);  // the last one stays
     }
     dress_box(*shown_box, box.icon);
     shown_box->setWindowModality(Qt::ApplicationModal);
-    const bool question = box.buttons == buttons::yes_no;
-    QObject::connect(shown_box, &QMessageBox::finished, shown_box, [this, shown_box, question] {
-        const auto* clicked = shown_box->clickedButton();
-        const bool yes =
-            clicked && shown_box->buttonRole(shown_box->clickedButton()) == QMessageBox::YesRole;
-        const answer given = !question ? answer::ok : yes ? answer::yes : answer::no;
+    QObject::connect(shown_box, &QMessageBox::finished, shown_box, [this, shown_box] {
+        const QAbstractButton* clicked = shown_box->clickedButton();
+        if (!clicked) clicked = shown_box->escapeButton();
+        const auto given = static_cast<answer>(clicked->property(answer_property).toInt());
         carry_out([&] { desk_->answer_box(given); });
     });
     boxes_.push_back(shown_box);

@@ -38,6 +38,9 @@ struct program {
     file_port& files;
     ui::desk& desk;
     ui::picture_decoder& pictures;
+    /// The folder of what belongs to the person and not to the archive: drafts, for one. Null
+    /// where nothing of it is read or written.
+    file_port* person = nullptr;
     archivi archives;
     parametri parameters;
 

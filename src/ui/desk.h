@@ -10,6 +10,7 @@
 #include "ui/clock.h"
 #include "ui/form.h"
 #include "ui/front_end.h"
+#include "ui/guards.h"
 #include "ui/launcher.h"
 #include "ui/message_box.h"
 #include "ui/printer.h"
@@ -55,6 +56,9 @@ class desk {
 
     /// Ends the program at once: nothing behind the call runs.
     [[noreturn]] void end_program();
+
+    /// Questions that only protect a person.
+    [[nodiscard]] ui::guards& guards() { return guards_; }
 
     [[nodiscard]] ui::clock& clock() const { return clock_; }
     [[nodiscard]] ui::printer& printer() const { return printer_; }
@@ -118,6 +122,7 @@ class desk {
     ui::clock& clock_;
     ui::printer& printer_;
     ui::launcher& launcher_;
+    ui::guards guards_{*this};
 
     std::vector<std::unique_ptr<form>> loaded_;
     std::vector<std::unique_ptr<form>> buried_;  ///< unloaded, but something of theirs still runs

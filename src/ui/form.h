@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "ui/control.h"
@@ -11,6 +12,15 @@
 namespace vantora::ui {
 
 class desk;
+
+/// A window beyond the system's own that a screen opens, by a key and a command of its bar.
+struct further_window {
+    std::string name;     ///< by which scripts open it
+    std::string caption;  ///< of the command, in the code page
+    std::string key;      ///< as keyboards call it: "Ctrl+B"
+    std::function<bool()> can_open;
+    std::function<void()> open;
+};
 
 /// A screen: a struct whose members are its controls and whose member functions are its events.
 /// Controls register in the constructor, in the order in which Tab walks them.
@@ -48,6 +58,11 @@ class form {
         if (remembered_ == &from) remembered_ = &to;
     }
 
+    /// The windows that the user can open from here.
+    [[nodiscard]] const std::vector<further_window>& further_windows() const {
+        return further_windows_;
+    }
+
     /// The user takes the last change of many lines at once back. False if there is none.
     virtual bool take_back() { return false; }
 
@@ -62,6 +77,8 @@ class form {
     }
 
     void add_element(const std::string& name, int index, control& one);
+
+    void offer(further_window one) { further_windows_.push_back(std::move(one)); }
 
     /// The screen is at work as long as one of these lives.
     class work {
@@ -93,6 +110,7 @@ class form {
     int at_work_ = 0;
     control* remembered_ = nullptr;  ///< had the focus when the form was last active
     std::vector<control*> controls_;
+    std::vector<further_window> further_windows_;
 };
 
 }  // namespace vantora::ui

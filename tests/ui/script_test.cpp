@@ -79,6 +79,15 @@ class every_kind final : public form {
             testo.set_text(started ? "partito" : "fermo");
         };
         figura.on_click = [this] { scritta.set_text("via"); };
+        offer({"altra", "Altra", "Ctrl+B", [this] { return !spunta.on(); },
+               [this] {
+                   const auto chosen = desk().guards().choose(
+                       "Che fare?", {"Sì, così"_cp, "Niente"}, answer::choice_2);
+                   const bool goes_on = desk().guards().confirm("Davvero?");
+                   const bool refused = desk().guards().refuse("Non si fa");
+                   note(std::to_string(static_cast<int>(chosen)) + (goes_on ? "g" : "n") +
+                        (refused ? "r" : "d"));
+               }});
     }
     void note(const std::string& what) { scritta.set_text(scritta.text() + " " + what); }
 
@@ -240,6 +249,22 @@ TEST(script, ABoxBlocksItsCommandUntilItIsAnswered) {
     EXPECT_EQ(kept[2]["value"]["text"], "no");
     const auto waits = run({"answer ok", "answer yes", "click prova.bottone(0)"});
     EXPECT_TRUE(waits[2].contains("box") && !waits[2].contains("boxes"));
+}
+
+TEST(script, GuardsAskOnlyWhereTheyAreOnAndFurtherWindowsOpenByName) {
+    const auto off = run({"open altra", "get prova.scritta", "open nessuna", "click prova.spunta",
+                          "open altra", "guards forse"});
+    EXPECT_EQ(off[1]["value"]["text"], "perché 2gd");
+    for (const int refused : {2, 4, 5}) EXPECT_EQ(off[refused]["ok"], false) << refused;
+
+    const auto on =
+        run({"guards on", "open altra", "answer yes", "answer 3", "answer 1", "answer no",
+             "answer ok", "get prova.scritta", "answer 2", "answer no", "answer ok", "open altra"});
+    EXPECT_EQ(on[1]["box"]["buttons"], "choice");
+    EXPECT_EQ(on[1]["box"]["choices"], (json{"Sì, così", "Niente"}));
+    EXPECT_TRUE(on[2]["ok"] == false && on[3]["ok"] == false) << "it has two choices";
+    EXPECT_EQ(on[7]["value"]["text"], "perché 1nr");
+    EXPECT_EQ(on[11]["boxes"][0]["answer"], 2);
 }
 
 TEST(script, AWaitingLoopLetsTheUserWork) {

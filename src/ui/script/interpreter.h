@@ -76,11 +76,13 @@ class interpreter {
     void activate(const words& line);
     void close(const words& line);
     void answer(const words& line);
+    void open(const words& line);
     void quit(const words& line);
 
     void stop_clock(const words& line);
     void set_printer(const words& line);
     void set_launch(const words& line);
+    void set_guards(const words& line);
     void shot(const words& line);
 
     void get(const words& line);

@@ -88,6 +88,11 @@ void interpreter::set_launch(const words& line) {
     launcher_.allow(line[1].text == "ok");
 }
 
+void interpreter::set_guards(const words& line) {
+    if (line[1].text != "on" && line[1].text != "off") return refuse("it is on or off");
+    desk_.guards().switch_to(line[1].text == "on");
+}
+
 void interpreter::shot(const words& line) {
     if (!shoot) return refuse("this front end has no windows");
     if (!shoot(line[1].text)) refuse("the picture can't be saved");

@@ -53,7 +53,7 @@ const char* icon_name(icon sign) {
     return "";
 }
 
-const char* answer_name(answer given) {
+json answer_json(answer given) {
     switch (given) {
         case answer::ok:
             return "ok";
@@ -61,15 +61,30 @@ const char* answer_name(answer given) {
             return "yes";
         case answer::no:
             return "no";
+        default:
+            return static_cast<int>(given);  // a choice
+    }
+}
+
+const char* buttons_name(buttons which) {
+    switch (which) {
+        case buttons::ok:
+            return "ok";
+        case buttons::yes_no:
+            return "yesno";
+        case buttons::choice:
+            return "choice";
     }
     return "";
 }
 
 json box_json(const message_box& box) {
-    return {{"text", to_utf8(box.text)},
-            {"title", to_utf8(box.title)},
-            {"icon", icon_name(box.icon)},
-            {"buttons", box.buttons == buttons::ok ? "ok" : "yesno"}};
+    json whole = {{"text", to_utf8(box.text)},
+                  {"title", to_utf8(box.title)},
+                  {"icon", icon_name(box.icon)},
+                  {"buttons", buttons_name(box.buttons)}};
+    for (const std::string& one : box.choices) whole["choices"].push_back(to_utf8(one));
+    return whole;
 }
 
 template <class Bar>
@@ -193,7 +208,7 @@ std::string compose(command_reply reply, const desk& desk,
     if (const message_box* box = desk.open_box()) whole["box"] = box_json(*box);
     for (const answered_box& one : answered) {
         json box = box_json(one.box);
-        box["answer"] = answer_name(one.given);
+        box["answer"] = answer_json(one.given);
         whole["boxes"].push_back(std::move(box));
     }
     if (const form* modal = desk.modal()) whole["modal"] = modal->name();

@@ -184,9 +184,24 @@ void interpreter::answer(const words& line) {
     if (line[1].text == "yes") given = ui::answer::yes;
     if (line[1].text == "no") given = ui::answer::no;
     if (line[1].text == "ok") given = ui::answer::ok;
+    if (const auto number = read_int(line[1].text); number && *number >= 1 && *number <= 4) {
+        given = static_cast<ui::answer>(*number);
+    }
     if (!given) return refuse("this is no answer");
     if (!desk_.open_box()) return answers_.keep(*given);
     if (!desk_.answer_box(*given)) refuse("the message box has no such button");
+}
+
+void interpreter::open(const words& line) {
+    form* here = desk_.active();
+    if (!here) return refuse("no screen is active");
+    if (const auto why = desk_.obstacle(*here)) return refuse(*why);
+    for (const further_window& one : here->further_windows()) {
+        if (one.name != line[1].text) continue;
+        if (!one.can_open()) return refuse("there is nothing to open");
+        return act(one.open);
+    }
+    refuse("the screen opens no such window");
 }
 
 void interpreter::quit(const words&) {
