@@ -25,11 +25,12 @@ windows: desktop desktop/controls desktop/keys desktop/lists desktop/look ui ui/
 program: orders store store/records text ui
 customer: program orders store store/records text ui
 documents: program orders store store/records text ui errors
-register: program orders store store/records text ui
+enquiry: customer documents entry program orders store store/records text ui
+register: enquiry program orders store store/records text ui
 entry: customer documents program orders store store/records text ui errors
 fulfil: customer documents entry program orders store store/records text ui errors
 reports: documents program orders store store/records text ui
-app: register customer entry fulfil reports documents program store store/records text ui desktop desktop/look ui/paper ui/pictures ui/script
+app: register enquiry customer entry fulfil reports documents program store store/records text ui desktop desktop/look ui/paper ui/pictures ui/script
 '
 
 git ls-files 'src/*.h' 'src/*.cpp' |

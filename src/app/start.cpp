@@ -4,6 +4,11 @@
 #include "customer/mirorcm.h"
 #include "customer/mirorcx.h"
 #include "customer/mirsel.h"
+#include "enquiry/documenti.h"
+#include "enquiry/prezzi.h"
+#include "enquiry/quadro.h"
+#include "enquiry/ricerca.h"
+#include "enquiry/storia.h"
 #include "entry/import_picker.h"
 #include "entry/mirorcs.h"
 #include "entry/mirorcz.h"
@@ -47,6 +52,11 @@ void start(program& app, std::string_view argument) {
     provide(app.mirorcc, app);
     provide(app.mirorcr, app);
     provide(app.mirorca, app);
+    provide(app.documenti, app);
+    provide(app.prezzi, app);
+    provide(app.quadro, app);
+    provide(app.ricerca, app);
+    provide(app.storia, app);
 
     app.desk.at_end = [&app] { chiudi_archivi(app.archives); };
     app.archives.station_awaited = [&app](bool still) { app.desk.show_station_awaited(still); };

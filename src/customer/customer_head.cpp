@@ -2,6 +2,7 @@
 
 #include "customer/customer_fields.h"
 #include "customer/mirsel.h"
+#include "customer/shipping_data.h"
 #include "program/pick_list.h"
 #include "store/key_index.h"
 #include "ui/enter_key.h"
@@ -62,8 +63,8 @@ void customer_head::load() {
     Combo3.choose(0);
     loading_ = false;
     fill_lists(table);
-    Combo1[porto].add_all({"Porto franco", "Porto assegnato", "Addebito in fattura", ""});
-    Combo1[trasporto].add_all({"Mittente", "Destinatario", "Vettore", ""});
+    Combo1[porto].add_all({std::begin(voci_porto), std::end(voci_porto)});
+    Combo1[trasporto].add_all({std::begin(voci_trasporto), std::end(voci_trasporto)});
     Combo1[porto].choose(0);
     Combo1[trasporto].choose(0);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "store/fields.h"
 #include "store/records/rec_orc.h"
@@ -13,6 +14,11 @@ class customer_head;
 
 /// The choices that `testo3` of row 3 packs into one character each, in their order.
 enum class scelta_testata { porto, trasporto, pagamento, prezzo };
+
+/// The entries of the lists of port and of who transports, the same for every company.
+inline constexpr std::string_view voci_porto[] = {"Porto franco", "Porto assegnato",
+                                                  "Addebito in fattura", ""};
+inline constexpr std::string_view voci_trasporto[] = {"Mittente", "Destinatario", "Vettore", ""};
 
 /// One of the packed choices. What is no digit counts as 0.
 int scelta(const text<40>& testo3, scelta_testata which);

@@ -132,7 +132,7 @@ page_painter* system_printer::page() {
 }
 
 void system_printer::put(recorded_pages::mark mark) {
-    if (preview_ && !job_) {
+    if (shows_first()) {
         if (recorded_.count() == 0) recorded_orientation_ = orientation();
         recorded_.add(std::move(mark));
     } else if (page_painter* on = page()) {
@@ -158,7 +158,7 @@ void system_printer::picture(double x, double y, double side,
 }
 
 void system_printer::new_page() {
-    if (preview_ && !job_) {
+    if (shows_first()) {
         if (recorded_.count() == 0) recorded_orientation_ = orientation();
         return recorded_.end_page();
     }
@@ -183,6 +183,7 @@ void system_printer::print_recorded() {
 }
 
 void system_printer::end_job() {
+    preview_next_ = false;
     if (recorded_.count() > 0) {
         print_recorded();
     } else if (!job_) {

@@ -45,11 +45,13 @@ class system_printer final : public printer {
     void new_page() override;
     void end_job() override;
     void set_job_name(std::string_view name) override;
+    void preview_next_job() override { preview_next_ = true; }
     bool choose_settings() override;
 
  private:
     struct job;
 
+    [[nodiscard]] bool shows_first() const { return (preview_ || preview_next_) && !job_; }
     /// Keeps or draws a mark.
     void put(recorded_pages::mark mark);
     /// The page to draw on; begins the job or the page if none is open. Null if the job is
@@ -67,7 +69,8 @@ class system_printer final : public printer {
     std::unique_ptr<job> job_;
     bool page_ended_ = false;  ///< the next mark begins a new page
     bool preview_ = false;
-    recorded_pages recorded_;  ///< of the job at hand, if it is to be seen first
+    bool preview_next_ = false;  ///< of one job
+    recorded_pages recorded_;    ///< of the job at hand, if it is to be seen first
     int recorded_orientation_ = upright;
 };
 

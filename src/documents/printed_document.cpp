@@ -26,19 +26,24 @@ void tell_left_out(program& app, const std::vector<std::string>& files) {
 
 }  // namespace
 
-esito_stampa stampa_documento(program& app, const documento_da_stampare& document) {
-    if (!app.desk.ask("Iniziare la stampa?", nomi_di(document.tipo).titolo_stampa)) {
-        return esito_stampa::rifiutata;
-    }
+esito_stampa componi_documento(program& app, const documento_da_stampare& document,
+                               ui::printer& paper) {
     app.desk.set_pointer(ui::pointer::busy);
     const paginazione pages = impagina(forma_di(document.tipo), document.tabelle, document.righe);
-    document_output out(app.desk.printer(), app.files);
+    document_output out(paper, app.files);
     figure_documento pictures(app.files, app.pictures, document.figura.shown());
     componi_pagine(document, pages, out, [&] { disegna_sfondo(app, out, document, pictures); });
     const bool whole = out.end();
     app.desk.set_pointer(ui::pointer::normal);
     tell_left_out(app, pictures.left_out());
     return whole ? esito_stampa::completa : esito_stampa::senza_file;
+}
+
+esito_stampa stampa_documento(program& app, const documento_da_stampare& document) {
+    if (!app.desk.ask("Iniziare la stampa?", nomi_di(document.tipo).titolo_stampa)) {
+        return esito_stampa::rifiutata;
+    }
+    return componi_documento(app, document, app.desk.printer());
 }
 
 void offri_copie(program& app, const documento_da_stampare& document, bool invia) {

@@ -39,6 +39,11 @@ enum class esito_stampa {
     senza_file,  ///< on paper, but there is no print file that a PDF could be made from
 };
 
+/// Puts the document on paper and into the print file, page by page, by the company's layout. It is
+/// out even if it had no page; a printer or a file that fails is passed over.
+esito_stampa componi_documento(program& app, const documento_da_stampare& document,
+                               ui::printer& paper);
+
 /// Asks whether to begin; on yes puts the document on the printer and into the print file, page by
 /// page, by the company's layout. It is out even if it had no page; a printer or a file that fails
 /// is passed over.

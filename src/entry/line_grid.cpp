@@ -27,6 +27,7 @@ line_grid::line_grid(program& app, const line_grid_kind& kind)
     wire_controls();
     wire_lookup();
     for (int row = 0; row < rows; ++row) wire_cells(row);
+    offer_prices();
 }
 
 void line_grid::register_controls() {
@@ -97,6 +98,7 @@ void line_grid::open_lines(std::int16_t customer) {
     svuota_righe();
     history_.clear();
     combo_attivo_ = true;
+    numero_cliente_ = customer;
     app_.archives.cli.read(customer, cliente_);
     lookup_.open();
 }
@@ -129,6 +131,15 @@ void line_grid::paint() {
     app_.desk.let_events_run();
     prima_riga_ = VScroll1.value();
     paint_rows(0);
+}
+
+void line_grid::go_to_line(int number) {
+    if (number < 1 || number > righe_ordine::massimo) return;
+    const int top = VScroll1.value();
+    if (number < top || number >= top + rows) {
+        VScroll1.set_value(std::min(number, righe_ordine::massimo - rows + 1));
+    }
+    artic[number - VScroll1.value()].set_focus();
 }
 
 void line_grid::paint_rows(int first) {

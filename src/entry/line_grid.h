@@ -89,6 +89,8 @@ class line_grid : public ui::form {
     void compute_totals();
     /// Paints the twelve rows from the lines.
     void paint();
+    /// Scrolls a line into sight and gives it the focus; for a number that is none, nothing.
+    void go_to_line(int number);
 
     program& app_;
     righe_ordine righe_;
@@ -97,6 +99,7 @@ class line_grid : public ui::form {
     disegno disegno_;
     valuta valuta_;
     rec_cli cliente_;
+    std::int16_t numero_cliente_ = 0;
     article_lookup lookup_;
 
  private:
@@ -145,6 +148,11 @@ class line_grid : public ui::form {
     /// The texts that an article's line has below it.
     [[nodiscard]] std::vector<std::string> long_text_of(std::int16_t article) const;
     void unfold_long_text(std::int16_t article, int line);
+
+    // Prices given before -------------------------------------------------------------------------
+
+    void offer_prices();
+    void look_prices_up(int row);
 
     // Pasting and taking back ---------------------------------------------------------------------
 

@@ -24,7 +24,14 @@ enum { modifica_testata = 5, elimina = 6 };
 }  // namespace
 
 mirorcz::mirorcz(program& app)
-    : order_screen(app, ordine_da_modificare, app.mirorcm, "Ordine clienti") {}
+    : order_screen(app, ordine_da_modificare, app.mirorcm, "Ordine clienti") {
+    offer({"storia", "S&toria dell'ordine", "F9", [] { return true; },
+           [this] {
+               app_.ordine_cercato = {};
+               app_.storia.use().show_over();
+               go_to_line(std::exchange(app_.ordine_cercato, {}).riga);
+           }});
+}
 
 void mirorcz::open() {
     if (app_.modo_ordine != 0) return;

@@ -25,6 +25,7 @@ void order_screen::activate() {
     open();
     show_head();
     artic[0].set_focus();
+    go_to_line(std::exchange(app_.ordine_cercato, {}).riga);
 }
 
 void order_screen::show_head() {

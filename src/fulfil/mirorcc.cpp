@@ -14,6 +14,8 @@ constexpr customer_head_kind dati_trasporto{
 
 mirorcc::mirorcc(program& app) : customer_head(app, dati_trasporto) {
     add("Combo2", Combo2);
+    offer({"documenti", "&Documenti di trasporto", "Ctrl+T", [] { return true; },
+           [this] { app_.documenti.use().show_over(); }});
 }
 
 void mirorcc::load() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "store/archives.h"
@@ -27,6 +28,25 @@ class mirstoe;
 class mirston;
 class mirstos;
 class mirstov;
+
+class documenti;
+class prezzi;
+class quadro;
+class ricerca;
+class storia;
+
+/// A row of an order; 0 for none.
+struct riga_di_ordine {
+    std::int16_t registrazione = 0;
+    std::int16_t riga = 0;
+};
+
+/// What a row takes over from one that sold the same article.
+struct prezzo_e_sconti {
+    double prezzo = 0;
+    std::int16_t sc1 = 0;
+    std::int16_t sc2 = 0;
+};
 
 /// The running program, shared by all its screens: the open files, the parameters, the values that
 /// pass from screen to screen, and the screens themselves. Built in `main`, handed to every screen
@@ -62,6 +82,15 @@ struct program {
     std::string data_riserva;   ///< instead of a proposal that is no date
     std::string data_scelta;    ///< what the user chose
 
+    // Between the windows in which something is looked up and the screens behind them.
+
+    struct {
+        std::int16_t articolo = 0;
+        std::int16_t cliente = 0;
+    } prezzi_di;                                   ///< whose prices are looked up
+    std::optional<prezzo_e_sconti> prezzo_scelto;  ///< for the row they were looked up from
+    riga_di_ordine ordine_cercato;                 ///< to be shown now
+
     // The screens, under the system's own names -------------------------------------------------
 
     ui::screen<vantora::mirorc> mirorc;    ///< register
@@ -81,6 +110,14 @@ struct program {
     ui::screen<vantora::mirstov> mirstov;  ///< order valuation
     ui::screen<vantora::mirston> mirston;  ///< customer sheets
     ui::screen<vantora::mirstoa> mirstoa;  ///< article sheets
+
+    // Where things are looked up ------------------------------------------------------------------
+
+    ui::screen<vantora::documenti> documenti;  ///< transport documents given out
+    ui::screen<vantora::prezzi> prezzi;        ///< prices given before
+    ui::screen<vantora::quadro> quadro;        ///< figures of the company at a glance
+    ui::screen<vantora::ricerca> ricerca;      ///< search over all orders
+    ui::screen<vantora::storia> storia;        ///< what became of an order
 };
 
 }  // namespace vantora

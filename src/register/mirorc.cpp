@@ -60,6 +60,7 @@ mirorc::mirorc(program& app)
     for (auto& option : visua) option.on_click = [this] { change_view(); };
     for (int i = 0; i < 9; ++i) bottone[i].on_click = [this, i] { run_command(i); };
     for (auto& label : srtt) label.on_click = [this] { compact(); };
+    offer_enquiries();
 }
 
 void mirorc::load() {
@@ -165,10 +166,13 @@ void mirorc::open_order() {
     if (compacting_) return;
     elenco.set_col(registr);
     const auto registrazione = to_int16(number_at_head(elenco.text(elenco.row(), registr)));
-    if (!registrazione || *registrazione < 1) return;
+    if (registrazione && *registrazione >= 1) open_order(*registrazione);
+}
+
+void mirorc::open_order(std::int16_t registrazione) {
     app_.modo_ordine = 1;
-    app_.selezione_1 = *registrazione;
-    app_.archives.orc.read(block_record(*registrazione, 1), riga_);
+    app_.selezione_1 = registrazione;
+    app_.archives.orc.read(block_record(registrazione, 1), riga_);
     if (riga_.annullato == 1) {
         app_.desk.message("Ordine annullato", titolo_messaggi, ui::icon::stop);
         return;

@@ -55,6 +55,12 @@ class mirorc final : public ui::form {
     void sort_by(int button);
     void run_command(int button);
     void open_order();
+    /// Opens an order at its row, if it is none that was deleted.
+    void open_order(std::int16_t registrazione);
+    void offer_enquiries();
+    /// Shows a window in which something is looked up, and opens the order found there.
+    void look_up(ui::screen_place& where);
+    void print_again();
     /// The first lines of a row's order, what is open of it, what it is worth.
     [[nodiscard]] std::string hint(int row) const;
     /// That a row's order should have left already.

@@ -244,6 +244,16 @@ std::optional<std::string> drive::read_whole(std::string_view path) {
     }
 }
 
+std::optional<std::string> drive::read_head(std::string_view path, std::size_t bytes) {
+    const auto opened = open_plain(locate(path), O_RDONLY);
+    std::string head(bytes, '\0');
+    const auto got = opened ? opened->read(0, std::as_writable_bytes(std::span(head)))
+                            : std::optional<std::size_t>();
+    if (!got) return {};
+    head.resize(*got);
+    return head;
+}
+
 bool drive::exists(std::string_view path) {
     std::error_code failed;
     return std::filesystem::exists(locate(path), failed) || failed;

@@ -30,6 +30,7 @@ class drive final : public file_port {
 
     std::unique_ptr<file> open_records(std::string_view path) override;
     std::optional<std::string> read_whole(std::string_view path) override;
+    std::optional<std::string> read_head(std::string_view path, std::size_t bytes) override;
     bool exists(std::string_view path) override;
     std::unique_ptr<file> create(std::string_view path) override;
     std::unique_ptr<file> create_instead(std::string_view path) override;

@@ -85,6 +85,13 @@ class file_port {
     /// the suite; empty if it doesn't exist or can't be read.
     virtual std::optional<std::string> read_whole(std::string_view path) = 0;
 
+    /// Its first `bytes` bytes, or all of it if it is shorter.
+    virtual std::optional<std::string> read_head(std::string_view path, std::size_t bytes) {
+        auto all = read_whole(path);
+        if (all && all->size() > bytes) all->resize(bytes);
+        return all;
+    }
+
     /// Whether something stands under the name, be it readable or not.
     virtual bool exists(std::string_view path) = 0;
 

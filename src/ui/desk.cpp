@@ -48,14 +48,19 @@ void desk::show_modal(form& which) {
     run_until([this, &which] { return std::ranges::find(modals_, &which) == modals_.end(); });
 }
 
-void desk::activate(form& which) {
+void desk::show_over(form& which) {
+    which.lies_over_ = true;
+    show_modal(which);
+}
+
+void desk::activate(form& which, bool anew) {
     if (active_ == &which) return;
     drop_focus();
     active_ = &which;
     std::erase(stacking_, &which);
     stacking_.push_back(&which);
     front_.form_activated(which);
-    which.activate();
+    if (anew) which.activate();
     if (active_ != &which || focus_) return;
     if (which.remembered_ && which.remembered_->can_take_focus()) {
         give_focus(*which.remembered_);
@@ -104,7 +109,7 @@ void desk::unload(form& which) {
     std::erase(modals_, &which);
     front_.form_unloaded(which);
     // What lies beneath comes to the front, as windows do.
-    if (was_active && !stacking_.empty()) activate(*stacking_.back());
+    if (was_active && !stacking_.empty()) activate(*stacking_.back(), !which.lies_over_);
 }
 
 bool desk::give_focus(control& to) {

@@ -72,6 +72,9 @@ class desk {
     form& load(std::unique_ptr<form> made);
     void show(form& which);
     void show_modal(form& which);
+    /// The same in front of the active screen, which notices as little as of a message box: it
+    /// isn't activated anew, and its focus comes back.
+    void show_over(form& which);
     void hide(form& which);
     void unload(form& which);
 
@@ -111,7 +114,7 @@ class desk {
 
  private:
     void run_until(const std::function<bool()>& done);
-    void activate(form& which);
+    void activate(form& which, bool anew = true);
     void drop_focus();
     void finish(ending how);
     void fail(const std::string& message);

@@ -37,6 +37,9 @@ void form::show() {
 void form::show_modal() {
     desk_.show_modal(*this);
 }
+void form::show_over() {
+    desk_.show_over(*this);
+}
 void form::hide() {
     desk_.hide(*this);
 }

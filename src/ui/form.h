@@ -49,6 +49,8 @@ class form {
     void show();
     /// Shows it in front of its caller and comes back when it is hidden or unloaded.
     void show_modal();
+    /// Shows it in front of the active screen like a message box; it is unloaded to leave it.
+    void show_over();
     void hide();
     /// Drops the screen; its next use loads it afresh. What runs in it finishes first.
     void unload();
@@ -107,6 +109,7 @@ class form {
     std::string name_;
     std::string title_;
     bool visible_ = false;
+    bool lies_over_ = false;  ///< like a message box
     int at_work_ = 0;
     control* remembered_ = nullptr;  ///< had the focus when the form was last active
     std::vector<control*> controls_;

@@ -166,6 +166,7 @@ bool grid::click_cell(int row, int col) {
     set_focus();
     if (!holds(row, col)) return false;
     mouse_column_ = col;
+    head_clicked_ = row == 0;
     if (row > 0) {
         set_row(row);
         set_col(col);

@@ -66,6 +66,8 @@ class grid : public control {
     bool set_col(int col);
     /// The column under the mouse at the last click.
     [[nodiscard]] int mouse_column() const { return mouse_column_; }
+    /// Whether the last click was on the head.
+    [[nodiscard]] bool head_clicked() const { return head_clicked_; }
 
     /// First row shown under the head, from 1. Past what fits it stops at the last row.
     [[nodiscard]] int top_row() const { return top_row_; }
@@ -116,6 +118,7 @@ class grid : public control {
     int top_row_ = 1;
     bool shows_end_ = false;
     int mouse_column_ = 0;
+    bool head_clicked_ = false;
 };
 
 }  // namespace vantora::ui

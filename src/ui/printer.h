@@ -50,6 +50,9 @@ class printer {
     /// What the next job is called, as "Ordine 401"; a job printed into a file proposes it.
     virtual void set_job_name(std::string_view /*name*/) {}
 
+    /// The pages of the next job are shown before they are printed, where the front end can.
+    virtual void preview_next_job() {}
+
     /// Shows the system's printer dialog in set-up mode and takes its choice over. False if the
     /// user left it without a choice.
     virtual bool choose_settings() = 0;

@@ -13,6 +13,7 @@
 #include "desktop/form_window.h"
 #include "desktop/look/style.h"
 #include "desktop/words.h"
+#include "text/searchable.h"
 
 namespace vantora::ui::desktop {
 

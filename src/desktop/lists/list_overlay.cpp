@@ -5,6 +5,7 @@
 #include <QPainter>
 
 #include "desktop/lists/list_search.h"
+#include "text/searchable.h"
 
 namespace vantora::ui::desktop {
 

@@ -2,7 +2,7 @@
 
 #include <cstring>
 
-#include "text/code_page.h"
+#include "text/searchable.h"
 
 namespace vantora::ui {
 
@@ -10,38 +10,7 @@ namespace {
 
 constexpr char separator = 0;
 
-/// Each character as searches compare it; 0 for those that don't show.
-const std::array<char, 256>& folds() {
-    static const std::array<char, 256> all = [] {
-        std::array<char, 256> made{};
-        for (unsigned code = 32; code < 256; ++code) {
-            if (code != 127) made[code] = folded(static_cast<char>(code));
-        }
-        return made;
-    }();
-    return all;
-}
-
-/// Appends a text as searches compare it.
-void append_folded(std::string& to, std::string_view text) {
-    const auto& fold = folds();
-    const std::size_t before = to.size();
-    to.resize(before + text.size());
-    char* at = to.data() + before;
-    for (const char character : text) {
-        *at = fold[static_cast<unsigned char>(character)];
-        at += *at != 0 ? 1 : 0;
-    }
-    to.resize(static_cast<std::size_t>(at - to.data()));
-}
-
 }  // namespace
-
-std::string searchable(std::string_view text) {
-    std::string plain;
-    append_folded(plain, text);
-    return plain;
-}
 
 void list_search::clear() {
     texts_.clear();
@@ -50,7 +19,7 @@ void list_search::clear() {
 }
 
 void list_search::add_cell(std::string_view text) {
-    append_folded(texts_, text);
+    append_searchable(texts_, text);
     texts_.push_back(separator);
 }
 

@@ -8,9 +8,6 @@
 
 namespace vantora::ui {
 
-/// A text as searches compare it: in capitals, without accents and without what doesn't show.
-std::string searchable(std::string_view text);
-
 /// The texts of a list, ready to be searched while the user types. They lie in one buffer, of which
 /// a search reads every byte once at most: 32,767 rows answer within a frame.
 class list_search {

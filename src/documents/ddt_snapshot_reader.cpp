@@ -1,0 +1,94 @@
+#include "documents/ddt_snapshot_reader.h"
+
+#include <utility>
+
+#include "store/text_reader.h"
+#include "text/int16.h"
+#include "text/number_text.h"
+
+namespace vantora {
+
+namespace {
+
+constexpr std::size_t campo_colli = 2;
+
+/// Reads value by value; what is missing or no number makes the whole file unusable.
+class snapshot_reader {
+ public:
+    explicit snapshot_reader(std::string content) : lines_(std::move(content)) {}
+
+    std::string text() {
+        std::string value;
+        whole_ = lines_.line(value) && whole_;
+        return value;
+    }
+    double number() { return number_at_head(text()); }
+    std::int16_t int16() {
+        const auto value = to_int16(number());
+        whole_ = value && whole_;
+        return value.value_or(0);
+    }
+    [[nodiscard]] bool whole() const { return whole_ && lines_.at_end(); }
+
+ private:
+    text_reader lines_;
+    bool whole_ = true;
+};
+
+/// Takes the next choice off a text of one digit each; none is "-1".
+int take_choice(std::string_view& packed) {
+    const std::size_t length = packed.starts_with('-') ? 2 : 1;
+    const auto choice = to_int16(number_at_head(packed.substr(0, length)));
+    packed.remove_prefix(std::min(length, packed.size()));
+    return choice.value_or(-1);
+}
+
+void read_line(snapshot_reader& from, riga_ordine& line) {
+    line.articolo = from.int16();
+    from.text();
+    line.codice = from.text();
+    line.descrizione = from.text();
+    line.um = from.text();
+    line.sc1 = from.int16();
+    line.sc2 = from.int16();
+    line.iva = from.int16();
+    line.quantita = from.number();
+    line.prezzo = from.number();
+}
+
+}  // namespace
+
+std::string nome_istantanea(float progressivo) {
+    return "b" + masked(progressivo, "##########0");
+}
+
+std::optional<istantanea_ddt> leggi_istantanea(std::string content) {
+    snapshot_reader from(std::move(content));
+    istantanea_ddt all;
+    all.cliente = from.int16();
+    for (std::string& field : all.text3) field = from.text();
+    all.causale = from.int16();
+    all.aspetto = from.int16();
+    const std::string packed = from.text();
+    std::string_view choices = packed;
+    all.porto = take_choice(choices);
+    all.trasporto = take_choice(choices);
+    for (int number = 1; number <= righe_ordine::massimo; ++number) {
+        read_line(from, all.righe[number]);
+    }
+    for (std::size_t i = 8; i <= 12; ++i) all.text2[i] = from.text();
+    for (std::size_t i = 17; i <= 21; ++i) all.text2[i] = from.text();
+    if (!from.whole()) return {};
+    return all;
+}
+
+std::string colli_di(std::string beginning) {
+    text_reader lines(std::move(beginning));
+    std::string value;
+    for (std::size_t i = 0; i <= campo_colli + 1; ++i) {
+        if (!lines.line(value)) return {};
+    }
+    return value;
+}
+
+}  // namespace vantora

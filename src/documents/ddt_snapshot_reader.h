@@ -1,0 +1,34 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "orders/order_lines.h"
+
+namespace vantora {
+
+/// What the text file of a transport document keeps of it.
+struct istantanea_ddt {
+    std::int16_t cliente = 0;
+    std::array<std::string, 6> text3;  ///< number, date, parcels, weight, start: day and time
+    int causale = -1;                  ///< entries chosen in their lists, -1 for none
+    int aspetto = -1;
+    int porto = -1;
+    int trasporto = -1;
+    righe_ordine righe;
+    std::array<std::string, 22> text2;  ///< destination and carrier; other fields are empty
+};
+
+/// The name of that file, in the company's folder: "b" and the document's running number.
+std::string nome_istantanea(float progressivo);
+
+/// Reads it; empty if it isn't a whole one.
+std::optional<istantanea_ddt> leggi_istantanea(std::string content);
+
+/// The parcels alone, from the beginning of the file; empty if they aren't there.
+std::string colli_di(std::string beginning);
+
+}  // namespace vantora

@@ -1,0 +1,143 @@
+#include "enquiry/archived_document.h"
+
+#include "customer/customer_fields.h"
+#include "customer/shipping_data.h"
+#include "documents/ddt_snapshot_reader.h"
+#include "documents/pdf_handoff.h"
+#include "documents/print_file.h"
+#include "documents/unprinted_paper.h"
+#include "entry/stored_lines.h"
+#include "entry/totals.h"
+#include "store/company.h"
+#include "store/suite_table.h"
+#include "text/dates.h"
+#include "text/number_text.h"
+
+namespace vantora {
+
+namespace {
+
+/// The places of a head's lists on a page.
+enum lista : std::size_t { porto, seconda, trasporto };
+
+template <class List>
+std::string entry_of(const List& list, int place) {
+    const auto at = static_cast<std::size_t>(place);
+    return place >= 0 && at < std::size(list) ? std::string(list[at]) : std::string();
+}
+
+/// The customer's own fields; a customer that can't be read leaves them empty.
+void fill_customer(documento_archiviato& document, const program& app, std::int16_t number) {
+    app.archives.cli.read(number, document.cliente);
+    for (std::size_t i = 0; i < customer_fields.size(); ++i) {
+        document.testata.text2[i] = customer_fields[i](document.cliente);
+    }
+}
+
+void fill_order_head(documento_archiviato& document, const program& app,
+                     const stored_rows<rec_orc>& rows) {
+    fill_customer(document, app, rows[1].cliente);
+    testata_documento& head = document.testata;
+    head.text3 = {std::string(rows[1].numero.trimmed()),
+                  date_text_of_stored(rows[1].data.full()),
+                  date_text_of_stored(rows[1].data_evasione.full()),
+                  std::string(rows[1].testo1.trimmed()),
+                  std::string(rows[1].testo2.trimmed()),
+                  std::string(rows[1].testo3.trimmed())};
+    const std::pair<std::size_t, const text<40>*> stored[] = {
+        {8, &rows[2].testo1},  {9, &rows[2].testo2},  {10, &rows[2].testo3}, {11, &rows[3].testo1},
+        {12, &rows[3].testo2}, {17, &rows[4].testo1}, {18, &rows[4].testo2}, {19, &rows[4].testo3}};
+    for (const auto& [field, text] : stored) head.text2[field] = text->trimmed();
+    const auto chosen = [&](scelta_testata which) { return scelta(rows[3].testo3, which); };
+    const tabella_suite table = leggi_tabella_suite(app.files, app.parameters.numero_azienda);
+    head.combo1 = {entry_of(voci_porto, chosen(scelta_testata::porto)),
+                   entry_of(table.pagamenti, chosen(scelta_testata::pagamento)),
+                   entry_of(voci_trasporto, chosen(scelta_testata::trasporto))};
+}
+
+bool wants_mail(const program& app, const rec_cli& customer) {
+    const auto& mail = app.parameters.parametri_valuta[valuta_slot::invio_email];
+    return customer.invio_email.full() == "1" && number_at_head(mail) != 0;
+}
+
+}  // namespace
+
+documento_archiviato ordine_archiviato(const program& app, std::int16_t registrazione) {
+    documento_archiviato document;
+    const stored_rows<rec_orc> rows(app.archives.orc, registrazione);
+    if (rows[1].annullato == 1) {
+        document.perche = "Ordine annullato";
+        return document;
+    }
+    fill_order_head(document, app, rows);
+    stored_lines lines(app.archives.art);
+    for (int number = 1; number <= righe_ordine::massimo; ++number) {
+        lines.read(rows[number], document.righe[number]);
+    }
+    const tabella_suite table = leggi_tabella_suite(app.files, app.parameters.numero_azienda);
+    document.iva = calcola_totali(document.righe, table.iva, valuta(app.parameters)).iva;
+    return document;
+}
+
+documento_archiviato ddt_archiviato(const program& app, std::int16_t number) {
+    documento_archiviato document;
+    document.tipo = tipo_documento::documento_trasporto;
+    rec_bol record;
+    if (!app.archives.bol.read(number, record)) {
+        document.perche = "Il documento non si lascia leggere: "_cp + app.archives.bol.name();
+        return document;
+    }
+    const std::string name = nome_istantanea(record.progressivo);
+    const std::string file = cartella_azienda(app.parameters.numero_azienda) + "\\" + name;
+    auto content = app.files.read_whole(file);
+    if (!content) {
+        document.perche = "Manca il file " + name + " con il contenuto del documento";
+        return document;
+    }
+    auto kept = leggi_istantanea(std::move(*content));
+    if (!kept) {
+        document.perche =
+            "Il file "_cp + name + ", con il contenuto del documento, è danneggiato"_cp;
+        return document;
+    }
+    fill_customer(document, app, kept->cliente);
+    testata_documento& head = document.testata;
+    head.text3 = kept->text3;
+    for (std::size_t i = 8; i <= 12; ++i) head.text2[i] = kept->text2[i];
+    for (std::size_t i = 17; i <= 21; ++i) head.text2[i] = kept->text2[i];
+    const tabella_suite table = leggi_tabella_suite(app.files, app.parameters.numero_azienda);
+    head.combo1 = {entry_of(voci_porto, kept->porto), entry_of(table.causali, kept->causale),
+                   entry_of(voci_trasporto, kept->trasporto)};
+    head.combo2 = entry_of(table.aspetti, kept->aspetto);
+    document.righe = kept->righe;
+    return document;
+}
+
+void ristampa(program& app, documento_archiviato& document, uscita_ristampa where) {
+    auto tables = std::make_unique<tabelle_documento>();
+    auto drawing = std::make_unique<disegno>();
+    carica_documento(*tables, document.tipo, app.parameters, app.files);
+    carica_disegno(*drawing, document.tipo, app.parameters.numero_azienda, app.files);
+    const valuta currency(app.parameters);
+    ui::picture nothing_shown;
+    const documento_da_stampare printed{document.tipo, document.testata, document.righe,
+                                        document.iva,  document.cliente, currency,
+                                        *tables,       *drawing,         nothing_shown};
+    const std::string_view number = trimmed(document.testata.text3[0]);
+    const bool order = document.tipo == tipo_documento::ordine;
+    app.desk.printer().set_job_name((order ? "Ordine " : "DDT ") + std::string(number));
+    if (where != uscita_ristampa::pdf) {
+        if (where == uscita_ristampa::anteprima) app.desk.printer().preview_next_job();
+        componi_documento(app, printed, app.desk.printer());
+        return;
+    }
+    unprinted_paper paper(app.desk.printer());
+    std::optional<std::string> file;
+    if (componi_documento(app, printed, paper) == esito_stampa::completa) {
+        file = app.files.read_whole(file_di_stampa);
+    }
+    offri_pdf(app, {document.tipo, document.testata.text3[0], wants_mail(app, document.cliente),
+                    document.cliente.email.full(), *tables, std::move(file)});
+}
+
+}  // namespace vantora

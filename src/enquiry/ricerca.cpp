@@ -1,0 +1,100 @@
+#include "enquiry/ricerca.h"
+
+#include "enquiry/all_records.h"
+#include "enquiry/order_search.h"
+#include "orders/customer_names.h"
+#include "text/dates.h"
+#include "text/int16.h"
+#include "text/number_text.h"
+#include "ui/enter_key.h"
+
+namespace vantora {
+
+namespace {
+
+constexpr int righe_insieme = 500;    ///< that the list grows by
+constexpr int blocchi_insieme = 256;  ///< between two looks at what the user does
+
+const tipo_ricerca& tipo_cerca() {
+    static const tipo_ricerca kind{"ricerca",
+                                   "Cerca negli ordini",
+                                   {{{"Ordine", 1000}},
+                                    {{"Data", 1000}, ricerca::data_stored},
+                                    {{"Cliente", 4000}},
+                                    {{"Riga", 600, ui::alignment::right}},
+                                    {{"Trovato in", 5000}},
+                                    {{"", 0}},
+                                    {{"", 0}}},
+                                   {"&Indietro", "&Apri l'ordine"}};
+    return kind;
+}
+
+}  // namespace
+
+ricerca::ricerca(program& app) : enquiry_screen(app, tipo_cerca()) {
+    add("testo", testo);
+    testo.accepts = ui::input_rule::text(decltype(rec_orc::testo1)::width);
+    ui::on_enter(testo, [this] { search(); });
+}
+
+void ricerca::activate() {
+    esito.set_text("Scrivere che cosa si cerca");
+    testo.set_focus();
+}
+
+// The list stands still while nothing was looked for.
+std::string ricerca::fill(list_rows& /*list*/) {
+    return {};
+}
+
+void ricerca::add_row(const rec_orc& head, const riga_trovata& at, std::string_view customer) {
+    const int row = ++found_;
+    if (row >= elenco.rows()) elenco.set_rows(row + righe_insieme);
+    elenco.set_text(row, ordine, head.numero.trimmed());
+    elenco.set_text(row, data, date_text_of_stored(head.data.full()));
+    elenco.set_text(row, cliente, customer);
+    elenco.set_text(row, riga, std::to_string(at.riga));
+    elenco.set_text(row, trovato, at.trovato.empty() ? customer : std::string_view(at.trovato));
+    elenco.set_text(row, registrazione, std::to_string(at.registrazione));
+    elenco.set_text(row, data_stored, head.data.full());
+}
+
+void ricerca::search() {
+    const int round = ++searches_;
+    const order_search all(app_.archives, testo.text());
+    if (!all.looks_for_something()) return activate();
+    customer_names names(app_.archives.cli,
+                         static_cast<std::int16_t>(in_uso(app_.archives, contatori::clienti)));
+    found_ = 0;
+    lista_.finish(1);
+    esito.set_text("Cerca ...");
+    bool at_end = true;
+    all.run(
+        [&](const rec_orc& head, const riga_trovata& at) {
+            if (found_ < righe_elencabili) add_row(head, at, names.of(head.cliente));
+        },
+        [&](int passed) {
+            if (passed % blocchi_insieme == 0) desk().let_events_run();
+            at_end = visible() && round == searches_;
+            return at_end && found_ < righe_elencabili;
+        });
+    if (!at_end) return;
+    finish(found_ + 1, found_ < righe_elencabili
+                           ? quanti_sono(found_, "risultato", "risultati")
+                           : "Elenco fermato a "_cp + std::to_string(found_) + " righe");
+    if (found_ > 0 && testo.has_focus()) elenco.set_focus();
+}
+
+void ricerca::open_row(int row) {
+    const auto number = [&](int column) {
+        return to_int16(number_at_head(elenco.text(row, column))).value_or(0);
+    };
+    app_.ordine_cercato = {number(registrazione), number(riga)};
+    leave();
+}
+
+void ricerca::run_command(int /*command*/, int row) {
+    open_row(row);
+}
+
+}  // namespace vantora

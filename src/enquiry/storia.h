@@ -1,0 +1,27 @@
+#pragma once
+
+#include "enquiry/enquiry_screen.h"
+#include "enquiry/order_story.h"
+
+namespace vantora {
+
+/// What became of the order that is open: its rows, ordered, fulfilled and left, then the documents
+/// and movements that belong to it. Enter goes to the row, or shows the document again.
+class storia final : public enquiry_screen {
+ public:
+    explicit storia(program& app);
+
+    enum colonna { che_cosa, data, descrizione, ordinato, evaso, resta, riga, documento };
+
+ protected:
+    std::string fill(list_rows& list) override;
+    void open_row(int row) override;
+    void run_command(int command, int row) override;
+
+ private:
+    void list_order(list_rows& list, const std::vector<rec_orc>& rows);
+    void list_delivery(list_rows& list, const consegna& one);
+    [[nodiscard]] std::string article_text(std::int16_t number) const;
+};
+
+}  // namespace vantora
