@@ -62,12 +62,13 @@ std::string order_search::in_head(std::span<const rec_orc> block) const {
     return {};
 }
 
-std::string order_search::in_line(const rec_orc& row) const {
+std::optional<std::string> order_search::in_line(const rec_orc& row) const {
     if (blank(row)) return {};
     const auto article = static_cast<std::size_t>(std::max<int>(row.articolo, 0));
     const std::string description = description_of(row);
     const bool found = (article < articles_.size() && articles_[article]) || holds(description);
-    return found ? std::string(trimmed(description)) : std::string();
+    if (!found) return {};
+    return std::string(trimmed(description));
 }
 
 void order_search::look_into(const ordine_letto& order,
@@ -82,8 +83,7 @@ void order_search::look_into(const ordine_letto& order,
     int row = 0;
     for (const rec_orc& line : order.righe) {
         ++row;
-        std::string text = in_line(line);
-        if (!text.empty()) found(head, {order.registrazione, row, std::move(text)});
+        if (auto text = in_line(line)) found(head, {order.registrazione, row, std::move(*text)});
     }
 }
 

@@ -13,7 +13,7 @@ namespace vantora {
 struct riga_trovata {
     std::int16_t registrazione = 0;
     int riga = 1;         ///< of the order's block, from 1
-    std::string trovato;  ///< the text that holds it
+    std::string trovato;  ///< the text that holds it; empty if customer or article do
 };
 
 /// Looks for a text in the orders of a company, without regard to case and accents. One pass over
@@ -39,7 +39,7 @@ class order_search {
     /// What of an order's head rows holds the text; empty if nothing does.
     [[nodiscard]] std::string in_head(std::span<const rec_orc> block) const;
     /// What of a line does.
-    [[nodiscard]] std::string in_line(const rec_orc& row) const;
+    [[nodiscard]] std::optional<std::string> in_line(const rec_orc& row) const;
 
     const archivi& files_;
     std::string wanted_;
