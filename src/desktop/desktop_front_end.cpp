@@ -69,6 +69,7 @@ void desktop_front_end::step_until(const std::function<bool()>& done) {
         for (int settling = 0; settling < 3; ++settling) QCoreApplication::processEvents();
         // Closed windows go when none of their events can still be under way.
         if (stepping_ == 1) QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        desk_->rest();
         if (!next_step_()) {
             desk_->stop();
             break;

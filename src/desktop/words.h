@@ -65,9 +65,8 @@ inline constexpr const char* pasting = "Inserimento delle righe...";
 inline constexpr const char* break_off = "Interrompi";
 inline constexpr const char* too_large = "è troppo grande";
 inline constexpr const char* cannot_read = "Il file %1 non si può leggere: %2";
-inline constexpr const char* text_back = "Ridà alla cella il testo di prima";
-inline constexpr const char* lines_back =
-    "Ridà le righe di prima dell'ultimo inserimento, cancellazione, riordino o incollo";
+inline constexpr const char* change_back = "Annulla l'ultima modifica delle righe";
+inline constexpr const char* change_forth = "Rifà la modifica annullata (anche Ctrl+Y)";
 
 // Printing ---------------------------------------------------------------------------------------
 

@@ -96,7 +96,6 @@ void line_grid::close() {
 
 void line_grid::open_lines(std::int16_t customer) {
     svuota_righe();
-    history_.clear();
     combo_attivo_ = true;
     numero_cliente_ = customer;
     app_.archives.cli.read(customer, cliente_);
@@ -362,7 +361,6 @@ void line_grid::printer_setup() {
 
 void line_grid::shift_lines(void (righe_ordine::*shift)(int)) {
     if (!current_row_shown()) return;
-    keep_lines();
     prima_riga_ = VScroll1.value();
     (righe_.*shift)(prima_riga_ + riga_corrente_);
     paint_rows(riga_corrente_);
@@ -370,7 +368,6 @@ void line_grid::shift_lines(void (righe_ordine::*shift)(int)) {
 }
 
 void line_grid::sort_lines() {
-    keep_lines();
     righe_.sort_by_code();
     paint();
     return_to(artic);

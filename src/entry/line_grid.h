@@ -65,13 +65,16 @@ class line_grid : public ui::form {
     [[nodiscard]] const righe_ordine& lines() const { return righe_; }
     [[nodiscard]] const totali_ordine& totals() const { return totali_; }
 
-    /// The lines are again as before the last insert, delete, sort or paste.
+    /// All that was changed since the window came up, back and forth.
     bool take_back() override;
+    bool bring_back() override;
+    [[nodiscard]] bool keeps_changes_of(const ui::control& one) const override;
 
  protected:
     void load() override;
     /// Only shows the register; what stays behind is loaded afresh by its next use.
     void close() override;
+    void settled() override;
 
     /// A command of `comando` that isn't one of `comando_comune` on lines and printer. It never
     /// comes while the screen saves or prints.
@@ -91,6 +94,12 @@ class line_grid : public ui::form {
     void paint();
     /// Scrolls a line into sight and gives it the focus; for a number that is none, nothing.
     void go_to_line(int number);
+
+    /// What the user can change here, as it stands.
+    [[nodiscard]] order_content content() const;
+    void show_content(const order_content& content);
+    /// Another order comes, or none.
+    void forget_changes() { history_.clear(); }
 
     program& app_;
     righe_ordine righe_;
@@ -154,7 +163,7 @@ class line_grid : public ui::form {
     void offer_prices();
     void look_prices_up(int row);
 
-    // Pasting and taking back ---------------------------------------------------------------------
+    // Pasting -------------------------------------------------------------------------------------
 
     class paste_report;
     void paste_lines(int row, std::string_view text, const ui::paste_progress& goes_on);
@@ -163,7 +172,13 @@ class line_grid : public ui::form {
     /// The row of a line, scrolled into sight if need be.
     int row_showing(int line);
     void type_line(const ui::pasted_line& line, int row);
-    void keep_lines();
+
+    // Back and forth ------------------------------------------------------------------------------
+
+    [[nodiscard]] ui::text_box& cell_at(line_column column, int row);
+    [[nodiscard]] ui::text_box& cell_to_return_to(const line_place& place, int row);
+    [[nodiscard]] cell_in_work cell_in_focus() const;
+    bool go_along(std::optional<line_place> (line_history::*step)());
 
     line_history history_;
 };

@@ -66,7 +66,6 @@ void line_grid::paste_lines(int row, std::string_view text, const ui::paste_prog
     if (at_work() || row < 0 || row >= rows) return;
     const auto lines = ui::read_pasted_lines(text);
     if (lines.empty()) return;
-    keep_lines();
     paste_report report;
     {
         const work pasting(*this);
@@ -141,27 +140,6 @@ void line_grid::type_line(const ui::pasted_line& line, int row) {
     press_enter(sc1[row]);
     press_enter(sc2[row]);
     if (!line.price.empty()) prezzo[row].set_text(line.price);
-}
-
-// Taking back -------------------------------------------------------------------------------------
-
-void line_grid::keep_lines() {
-    history_.keep(righe_, VScroll1.value());
-}
-
-bool line_grid::take_back() {
-    if (at_work()) return false;
-    const auto before = history_.take_back();
-    if (!before) return false;
-    righe_ = before->lines;
-    if (VScroll1.value() == before->first_shown) {
-        paint();
-    } else {
-        VScroll1.set_value(before->first_shown);
-    }
-    compute_totals();
-    return_to(artic);
-    return true;
 }
 
 }  // namespace vantora

@@ -17,7 +17,6 @@ void line_grid::look_prices_up(int row) {
     app_.prezzi.use().show_over();
     const auto chosen = std::exchange(app_.prezzo_scelto, {});
     if (!chosen) return;
-    keep_lines();
     sc1[row].set_text(chosen->sc1 == 0 ? std::string() : plain_text(chosen->sc1));
     sc2[row].set_text(chosen->sc2 == 0 ? std::string() : plain_text(chosen->sc2));
     prezzo[row].set_text(plain_text(chosen->prezzo));

@@ -36,6 +36,7 @@ mirorcz::mirorcz(program& app)
 void mirorcz::open() {
     if (app_.modo_ordine != 0) return;
     app_.archives.tot.read(contatori::ordini, contatore_);
+    forget_changes();
     open_order(app_.selezione_2);
     customer_head& screen = head();
     for (std::size_t i = 0; i < customer_fields.size(); ++i) {

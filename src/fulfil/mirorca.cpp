@@ -227,6 +227,7 @@ void mirorca::print(const mirorcc& head) {
 }
 
 void mirorca::leave() {
+    forget_changes();
     hide();
     app_.mirorc.use().show();
 }

@@ -51,6 +51,8 @@ class desk {
     /// Shows how much of a list is there, of 0 to 1; the first call begins it. No events run.
     void show_progress(control& list, double done);
     void end_progress(control& list) { front_.progress_ended(list); }
+    /// Tells in passing what needs no answer.
+    void note(const std::string& text) { front_.note_shown(text); }
     /// Shows that another station holds this one up, until called with false. No events run.
     void show_station_awaited(bool still);
 
@@ -87,6 +89,8 @@ class desk {
     /// Runs one action of the user. Errors that end the program are caught here; the front end
     /// looks at ended() afterwards.
     void dispatch(const std::function<void()>& action);
+    /// The user pauses.
+    void rest();
     /// There is no user any more: the program ends.
     void stop() { finish({}); }
     /// Moves the focus along the Tab order.

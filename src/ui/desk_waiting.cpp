@@ -32,6 +32,7 @@ void desk::dispatch(const std::function<void()>& action) {
     const depth_guard inside(*this);
     try {
         action();
+        if (active_) active_->settled();
     } catch (const program_end&) {
         // finish() has done what there is to do
     } catch (const std::exception& error) {
@@ -39,6 +40,12 @@ void desk::dispatch(const std::function<void()>& action) {
     } catch (...) {
         fail("Errore imprevisto");
     }
+}
+
+void desk::rest() {
+    dispatch([this] {
+        for (form* one : forms()) one->rest();
+    });
 }
 
 void desk::fail(const std::string& message) {

@@ -65,8 +65,15 @@ class form {
         return further_windows_;
     }
 
-    /// The user takes the last change of many lines at once back. False if there is none.
+    /// The user takes the last change back, or does again what was taken back. False if there is
+    /// nothing to it.
     virtual bool take_back() { return false; }
+    virtual bool bring_back() { return false; }
+    /// Whether that holds for what is typed in a control.
+    [[nodiscard]] virtual bool keeps_changes_of(const control&) const { return false; }
+
+    /// The user pauses: what takes its time can be done now. No box may come up.
+    virtual void rest() {}
 
     /// Tells its holder that the form was unloaded.
     std::function<void()> when_unloaded;
@@ -98,6 +105,8 @@ class form {
     virtual void load() {}
     /// Whenever it becomes the active screen, coming from another one.
     virtual void activate() {}
+    /// Something that the user did is carried out, and the screen is the active one.
+    virtual void settled() {}
     /// The user closes it by its title bar.
     virtual void close() { unload(); }
 

@@ -44,6 +44,8 @@ class front_end {
     virtual void progress_changed(control& /*list*/, double /*done*/) {}
     /// Called once behind the above; the list may be shown.
     virtual void progress_ended(control& /*list*/) {}
+    /// Something to know that needs no answer.
+    virtual void note_shown(const std::string& /*text*/) {}
     /// Another station holds this one up; called again and again meanwhile, with false at the end.
     /// Nothing that the user does may be served, windows may be painted.
     virtual void station_awaited(bool /*still*/) {}

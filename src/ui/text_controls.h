@@ -34,6 +34,11 @@ class text_box : public text_control {
 
     std::function<void()> on_change;  ///< the text became another one, whoever set it
     input_rule accepts;               ///< from a hand in a window
+    /// A hand in a window changed the text otherwise than by one key at its end.
+    std::function<void()> on_edited;
+    /// A bar code came in, faster than hands type, where the cursor happened to stand; the text is
+    /// again as before. A field without it takes the code as typed.
+    std::function<void(const std::string& code)> on_scan;
     /// Lines from a spreadsheet are pasted here; a field without it takes them as a text.
     std::function<void(std::string_view text, const paste_progress& goes_on)> on_paste_lines;
 

@@ -103,10 +103,15 @@ void add_line_keys(form_window& window, line_rows& lines) {
                                     [&](text_box& cell) { paste_lines(cell, *text, &window); });
         }
     });
-    new told_key(window, "Ctrl+Z", QString::fromUtf8(words::text_back));
-    QShortcut* back = add_key(window, "Ctrl+Shift+Z", words::lines_back);
+    // In the cells the keys reach the fields first, which do the same.
+    QShortcut* back = add_key(window, "Ctrl+Z", words::change_back);
     QObject::connect(back, &QShortcut::activated, &lines, [&window, row] {
         window.act_on("artic", row(), [](control& cell) { cell.owner().take_back(); });
+    });
+    QShortcut* forth = add_key(window, "Ctrl+Shift+Z", words::change_forth);
+    forth->setKeys({QKeySequence("Ctrl+Shift+Z"), QKeySequence("Ctrl+Y")});
+    QObject::connect(forth, &QShortcut::activated, &lines, [&window, row] {
+        window.act_on("artic", row(), [](control& cell) { cell.owner().bring_back(); });
     });
 }
 

@@ -95,6 +95,17 @@ class text_box_binder final : public widget_binder {
         if (plain) act([&] { model_.set_text(*plain); });
     }
 
+    /// Back and forth among the changes of a window that keeps those of all its cells.
+    bool goes_along_changes(const QKeyEvent& event) {
+        const bool back = event.matches(QKeySequence::Undo);
+        const bool forth = event.matches(QKeySequence::Redo) ||
+                           event.keyCombination() == (Qt::ControlModifier | Qt::Key_Y);
+        form& owner = model_.owner();
+        if ((!back && !forth) || !owner.keeps_changes_of(model_)) return false;
+        act([&] { back ? owner.take_back() : owner.bring_back(); });
+        return true;
+    }
+
     bool key_pressed(QKeyEvent& event) override {
         if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) take_own_comma();
         if (event.matches(QKeySequence::Paste) && model_.on_paste_lines) {
@@ -103,6 +114,7 @@ class text_box_binder final : public widget_binder {
                 return true;
             }
         }
+        if (goes_along_changes(event)) return true;
         if (event.matches(QKeySequence::Undo) && !edit_->isUndoAvailable()) {
             edited(found_);
             return true;

@@ -20,6 +20,7 @@ void script_front_end::run() {
 void script_front_end::run_until(const std::function<bool()>& done) {
     std::string line;
     while (!done()) {
+        desk_->rest();
         write_reply();
         if (!std::getline(commands_, line)) return desk_->stop();
         interpreter_->execute(line);

@@ -1,0 +1,163 @@
+#include "entry/line_history.h"
+
+#include <algorithm>
+#include <tuple>
+
+namespace vantora {
+
+namespace {
+
+auto numbers_of(const riga_ordine& line) {
+    return std::tuple(line.articolo, line.iva, line.quantita, line.prezzo, line.sc1, line.sc2,
+                      line.evaso, line.peso);
+}
+
+/// Showing a line trims its texts, which is no change.
+bool same_line(const riga_ordine& one, const riga_ordine& other) {
+    return one.codice.trimmed() == other.codice.trimmed() &&
+           one.descrizione.trimmed() == other.descrizione.trimmed() &&
+           one.um.trimmed() == other.um.trimmed() && numbers_of(one) == numbers_of(other);
+}
+
+}  // namespace
+
+void line_history::begin(order_content now) {
+    clear();
+    begun_ = true;
+    now_ = std::move(now);
+}
+
+line_history::shown_line line_history::line_of(const order_content& content, int number) {
+    shown_line line{content.lines[number], {}};
+    const auto typed = content.typed_codes.find(number);
+    if (typed != content.typed_codes.end()) line.typed_code = typed->second;
+    return line;
+}
+
+bool line_history::same(const shown_line& one, const shown_line& other) {
+    return same_line(one.line, other.line) && one.typed_code == other.typed_code;
+}
+
+void line_history::show(order_content& content, int number, const shown_line& line) {
+    content.lines[number] = line.line;
+    content.typed_codes.erase(number);
+    if (line.typed_code) content.typed_codes[number] = *line.typed_code;
+}
+
+line_history::step line_history::difference(const order_content& before,
+                                            const order_content& after) {
+    step found{{}, before.choices, after.choices};
+    const bool codes = before.typed_codes != after.typed_codes;
+    for (int number = 1; number <= righe_ordine::massimo; ++number) {
+        if (!codes && same_line(before.lines[number], after.lines[number])) continue;
+        changed_line line{number, line_of(before, number), line_of(after, number)};
+        if (!same(line.before, line.after)) found.lines.push_back(std::move(line));
+    }
+    return found;
+}
+
+line_history::growth line_history::growth_of(const std::string& before, const std::string& after) {
+    const bool more = after.size() > before.size();
+    const std::string& shorter = more ? before : after;
+    const std::string& longer = more ? after : before;
+    if (shorter.size() == longer.size()) return growth::none;
+    const auto differs = std::mismatch(shorter.begin(), shorter.end(), longer.begin()).first;
+    const auto head = static_cast<std::size_t>(differs - shorter.begin());
+    // What isn't the same from the left must be so from the right.
+    if (!longer.ends_with(shorter.substr(head))) return growth::none;
+    return more ? growth::more : growth::less;
+}
+
+bool line_history::joins_last(const step& one, growth kind, int line) const {
+    return kind != growth::none && kind == open_ && taken_back_.empty() && !done_.empty() &&
+           one.choices_before == one.choices_after && one.lines.size() == 1 &&
+           one.lines[0].number == line && done_.back().lines.size() == 1 &&
+           done_.back().lines[0].number == line;
+}
+
+void line_history::note(const order_content& now, const cell_in_work& focus) {
+    step one = difference(now_, now);
+    const bool stays = focus.at == focus_.at;
+    const growth kind =
+        stays && focus.at.line > 0 ? growth_of(focus_.text, focus.text) : growth::none;
+    if (!stays) open_ = growth::none;
+    focus_ = focus;
+    if (one.lines.empty() && one.choices_before == one.choices_after) return;
+    if (joins_last(one, kind, focus.at.line)) {
+        done_.back().lines[0].after = one.lines[0].after;
+    } else {
+        keep_taken_back();
+        push(std::move(one));
+    }
+    open_ = kind;
+    now_ = now;
+}
+
+void line_history::stand_at(order_content now, const cell_in_work& focus) {
+    now_ = std::move(now);
+    focus_ = focus;
+    open_ = growth::none;
+}
+
+void line_history::push(step one) {
+    done_.push_back(std::move(one));
+    if (done_.size() > steps_max) done_.pop_front();
+}
+
+void line_history::keep_taken_back() {
+    if (taken_back_.empty()) return;
+    order_content there = now_;
+    for (; !taken_back_.empty(); taken_back_.pop_back()) {
+        step& one = taken_back_.back();
+        for (const changed_line& line : one.lines) show(there, line.number, line.after);
+        there.choices = one.choices_after;
+        push(std::move(one));
+    }
+    push(difference(there, now_));
+}
+
+line_place line_history::place_of(const step& one) {
+    if (one.lines.empty()) return {};
+    const changed_line& first = one.lines.front();
+    const riga_ordine& was = first.before.line;
+    const riga_ordine& is = first.after.line;
+    using enum line_column;
+    line_place place{first.number, price};
+    const auto look = [&](bool changed, line_column column) {
+        if (changed && column < place.column) place.column = column;
+    };
+    look(was.prezzo != is.prezzo, price);
+    look(was.sc2 != is.sc2, sc2);
+    look(was.sc1 != is.sc1, sc1);
+    look(was.evaso != is.evaso, fulfilled);
+    look(was.quantita != is.quantita, quantity);
+    look(was.um.trimmed() != is.um.trimmed(), unit);
+    look(was.descrizione.trimmed() != is.descrizione.trimmed(), description);
+    look(was.codice.trimmed() != is.codice.trimmed() ||
+             first.before.typed_code != first.after.typed_code || was.articolo != is.articolo,
+         code);
+    return place;
+}
+
+std::optional<line_place> line_history::back() {
+    if (done_.empty()) return {};
+    taken_back_.push_back(std::move(done_.back()));
+    done_.pop_back();
+    const step& one = taken_back_.back();
+    for (const changed_line& line : one.lines) show(now_, line.number, line.before);
+    now_.choices = one.choices_before;
+    return place_of(one);
+}
+
+std::optional<line_place> line_history::forth() {
+    if (taken_back_.empty()) return {};
+    step& one = taken_back_.back();
+    for (const changed_line& line : one.lines) show(now_, line.number, line.after);
+    now_.choices = one.choices_after;
+    const line_place place = place_of(one);
+    push(std::move(one));
+    taken_back_.pop_back();
+    return place;
+}
+
+}  // namespace vantora
