@@ -12,7 +12,7 @@
 #include "documents/printed_document.h"
 #include "entry/mirorcz.h"
 #include "entry/save_order.h"
-#include "entry/totals.h"
+#include "orders/totals.h"
 #include "store/company.h"
 #include "support/program_stage.h"
 

@@ -6,6 +6,7 @@
 
 #include "enquiry/order_walk.h"
 #include "orders/customer_names.h"
+#include "orders/order_rows.h"
 #include "text/number_text.h"
 
 namespace vantora {
@@ -109,8 +110,8 @@ class counting {
             if (ordered_on) add_to_month(ordered_, *ordered_on, value, order.registrazione);
             customers_[head.cliente].add(value, order.registrazione);
             if (is_article(row.articolo)) sold_[row.articolo].add(value, order.registrazione);
-            const double left = row.quantita - row.evaso;
-            if (head.evaso_flag == 1 || !(left > 0)) continue;
+            if (head.evaso_flag == 1 || !is_open(row)) continue;
+            const double left = open_quantity(row);
             open_[due].add(worth(row, left), order.registrazione);
             if (is_article(row.articolo)) wanted_[row.articolo].add(left, order.registrazione);
         }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "orders/order_rows.h"
 #include "text/searchable.h"
 
 namespace vantora {
@@ -9,10 +10,6 @@ namespace vantora {
 namespace {
 
 constexpr int righe_di_testata = 4;
-
-std::string description_of(const rec_orc& row) {
-    return std::string(row.descrizione.full()).append(row.descrizione2.full());
-}
 
 bool blank(const rec_orc& row) {
     return row.articolo < 1 && trimmed(row.descrizione.full()).empty();

@@ -1,6 +1,7 @@
 #include "enquiry/storia.h"
 
 #include "enquiry/archived_document.h"
+#include "orders/order_rows.h"
 #include "store/values.h"
 #include "text/dates.h"
 #include "text/int16.h"
@@ -47,8 +48,7 @@ std::string storia::fill(list_rows& list) {
 void storia::list_order(list_rows& list, const std::vector<rec_orc>& rows) {
     for (std::size_t i = 0; i < rows.size(); ++i) {
         const rec_orc& row = rows[i];
-        const std::string text =
-            std::string(row.descrizione.full()) + std::string(row.descrizione2.full());
+        const std::string text = description_of(row);
         if (row.quantita == 0 && trimmed(text).empty()) continue;
         list.next();
         list.write(che_cosa, "Riga " + std::to_string(i + 1));
@@ -57,7 +57,7 @@ void storia::list_order(list_rows& list, const std::vector<rec_orc>& rows) {
         if (row.quantita != 0) {
             list.write(ordinato, quantity_text(row.quantita));
             list.write(evaso, quantity_text(row.evaso));
-            list.write(resta, quantity_text(row.quantita - row.evaso));
+            list.write(resta, quantity_text(open_quantity(row)));
         }
         list.write(riga, std::to_string(i + 1));
     }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "orders/order_rows.h"
 #include "orders/stock.h"
 
 namespace vantora {
@@ -34,7 +35,7 @@ bool undo_row(archivi& files, const ordine_esistente& order, const rec_orc& row,
               write_faults& faults) {
     if (row.quantita == 0) return false;
     return change_article(files.art, row.articolo, order.articoli, faults, [&](rec_art& article) {
-        release_stock(article, row.quantita - row.evaso, order.impegno);
+        release_stock(article, open_quantity(row), order.impegno);
     });
 }
 

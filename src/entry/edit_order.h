@@ -1,7 +1,7 @@
 #pragma once
 
-#include "entry/order_rows.h"
 #include "orders/order_seen.h"
+#include "orders/stored_order.h"
 #include "store/archives.h"
 #include "store/write_outcome.h"
 

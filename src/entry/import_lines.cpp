@@ -1,6 +1,6 @@
 #include "entry/import_lines.h"
 
-#include "entry/stored_lines.h"
+#include "orders/stored_lines.h"
 
 namespace vantora {
 
@@ -22,16 +22,6 @@ void copy_rows(righe_ordine& lines, int first, const channel<Row>& from,
 }
 
 }  // namespace
-
-int ultima_riga_usata(const righe_ordine& lines) {
-    for (int number = righe_ordine::massimo; number >= 1; --number) {
-        const riga_ordine& line = lines[number];
-        const bool used = !line.descrizione.trimmed().empty() || !line.codice.trimmed().empty() ||
-                          line.prezzo != 0;
-        if (used) return number;
-    }
-    return 0;
-}
 
 void aggiungi_preventivo(righe_ordine& lines, const archivi& files, std::int64_t block) {
     copy_rows(lines, ultima_riga_usata(lines) + 1, files.prv, files.art, block);

@@ -10,9 +10,6 @@ namespace vantora {
 // The lines of a quote or an order as lines of a new order: prices and discounts as they were, not
 // those of today; a line without a price has no VAT code.
 
-/// Number of the last line in use, by code, description or price; 0 if none is.
-int ultima_riga_usata(const righe_ordine& lines);
-
 /// Adds all 200 rows of a quote behind the last line in use, empty ones too; what would come to
 /// lie behind line 200 is dropped.
 void aggiungi_preventivo(righe_ordine& lines, const archivi& files, std::int64_t block);

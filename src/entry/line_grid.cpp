@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "errors/run_time_errors.h"
-#include "orders/vat_codes.h"
+#include "store/vat_codes.h"
 #include "text/int16.h"
 #include "text/number_text.h"
 #include "ui/enter_key.h"

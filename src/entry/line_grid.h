@@ -3,7 +3,7 @@
 #include "documents/document_tables.h"
 #include "entry/article_lookup.h"
 #include "entry/line_history.h"
-#include "entry/totals.h"
+#include "orders/totals.h"
 #include "program/program.h"
 #include "ui/controls.h"
 

@@ -1,6 +1,6 @@
 #include "entry/line_grid.h"
-#include "entry/stored_lines.h"
-#include "orders/vat_codes.h"
+#include "orders/stored_lines.h"
+#include "store/vat_codes.h"
 
 namespace vantora {
 

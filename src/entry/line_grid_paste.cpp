@@ -24,12 +24,6 @@ constexpr const char* why_refused(ui::paste_fault fault) {
     }
 }
 
-bool is_blank(const riga_ordine& line) {
-    return line.articolo == 0 && line.codice.trimmed().empty() &&
-           line.descrizione.trimmed().empty() && line.um.trimmed().empty() && line.quantita == 0 &&
-           line.prezzo == 0 && line.sc1 == 0 && line.sc2 == 0 && line.evaso == 0;
-}
-
 void press_enter(ui::control& cell) {
     cell.press_key(ui::key::enter, static_cast<char>(ui::key::enter));
 }
@@ -105,10 +99,10 @@ void line_grid::paste_line(const ui::pasted_line& line, int& at, paste_report& r
 bool line_grid::make_room(int at, int lines) {
     if (at + lines - 1 > righe_ordine::massimo) return false;
     int missing = 0;
-    while (missing < lines && is_blank(righe_[at + lines - 1 - missing])) ++missing;
+    while (missing < lines && is_empty(righe_[at + lines - 1 - missing])) ++missing;
     missing = lines - missing;
     for (int i = 0; i < missing; ++i) {
-        if (!is_blank(righe_[righe_ordine::massimo - i])) return false;
+        if (!is_empty(righe_[righe_ordine::massimo - i])) return false;
     }
     for (int i = 0; i < missing; ++i) {
         righe_.insert(at);

@@ -4,7 +4,7 @@
 #include "customer/customer_head.h"
 #include "customer/shipping_data.h"
 #include "entry/order_head.h"
-#include "entry/stored_lines.h"
+#include "orders/stored_lines.h"
 #include "program/write_messages.h"
 
 namespace vantora {

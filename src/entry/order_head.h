@@ -1,8 +1,8 @@
 #pragma once
 
 #include "documents/printed_document.h"
-#include "entry/order_rows.h"
-#include "entry/stored_lines.h"
+#include "orders/stored_lines.h"
+#include "orders/stored_order.h"
 
 namespace vantora {
 

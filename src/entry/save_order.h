@@ -1,6 +1,6 @@
 #pragma once
 
-#include "entry/order_rows.h"
+#include "orders/stored_order.h"
 #include "store/archives.h"
 #include "store/write_outcome.h"
 

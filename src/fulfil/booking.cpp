@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "fulfil/faults.h"
+#include "orders/order_rows.h"
 #include "orders/stock.h"
 #include "store/records/order_block.h"
 
@@ -25,13 +26,8 @@ rec_orc prenota_riga(archivi& files, std::int64_t record, double quantity, std::
 void chiudi_se_evaso(archivi& files, std::int64_t registrazione) {
     std::vector<rec_orc> rows(righe_blocco);
     require(files.orc.read_block(block_record(registrazione, 1), rows));
-    double rest = 0;
-    for (const rec_orc& row : rows) {
-        rest += row.quantita;
-        rest -= row.evaso;
-    }
     // A damaged figure that is no number closes no order.
-    if (!(rest <= 0)) return;
+    if (!(balance_of(rows) <= 0)) return;
     rec_orc head;
     require(files.orc.read(block_record(registrazione, 1), head));
     head.evaso_flag = 1;

@@ -5,6 +5,7 @@
 #include "fulfil/mirorcc.h"
 #include "fulfil/salva_ddt.h"
 #include "fulfil/unloading.h"
+#include "orders/order_rows.h"
 #include "program/write_messages.h"
 #include "store/records/rec_mag.h"
 #include "text/dates.h"
@@ -69,8 +70,7 @@ void mirorca::hand_over(int line, const rec_orc& row, std::optional<double> quan
         elenco.set_text(line, articolo, std::to_string(row.articolo));
         elenco.set_text(line, col_quantita, plain_text(*quantity));
     }
-    elenco.set_text(line, descrizione,
-                    std::string(row.descrizione.full()).append(row.descrizione2.full()));
+    elenco.set_text(line, descrizione, description_of(row));
     elenco.set_text(line, col_sc1, std::to_string(row.sc1));
     elenco.set_text(line, col_sc2, std::to_string(row.sc2));
     elenco.set_text(line, col_prezzo, plain_text(row.prezzo));

@@ -51,8 +51,8 @@ class mirorcr final : public ui::form {
     void list_orders(std::int16_t orders);
     void list_rows_of(int order, std::span<const rec_orc> rows, articles_shown& articles);
     void list_row(int order, std::int64_t record, bool first_of_order, articles_shown& articles);
-    [[nodiscard]] bool is_open(const rec_orc& head) const;
-    [[nodiscard]] bool row_is_open() const;
+    /// Whether an order is one of the customer's that can be fulfilled.
+    [[nodiscard]] bool is_listed(const rec_orc& head) const;
 
     // What leaves -------------------------------------------------------------------------------
 

@@ -1,6 +1,7 @@
 #include <charconv>
 
 #include "fulfil/mirorcr.h"
+#include "orders/order_rows.h"
 #include "program/list_progress.h"
 #include "store/block_reader.h"
 #include "store/record_stretches.h"
@@ -20,10 +21,6 @@ struct voce_articolo {
     text<15> codice;
     text<40> descrizione;
 };
-
-std::string joined(std::string_view first, std::string_view second) {
-    return std::string(first).append(second);
-}
 
 }  // namespace
 
@@ -53,24 +50,19 @@ void mirorcr::list_orders(std::int16_t orders) {
     articles_shown articles(app_.archives.art);
     list_progress progress(app_.desk, elenco);
     block_reader<rec_orc> reader(app_.archives.orc, riga_);
-    reader.walk_heads(1, orders, [this](const rec_orc& head) { return is_open(head); });
+    reader.walk_heads(1, orders, [this](const rec_orc& head) { return is_listed(head); });
     for (int order = 1; order <= orders; ++order) {
         progress.come_to(order, orders);
         riga_ = reader.first_row(order);
-        if (!is_open(riga_)) continue;
+        if (!is_listed(riga_)) continue;
         visti_.emplace_back(order, riga_);
         list_rows_of(order, reader.block(order), articles);
     }
     if (righe_ > 1) elenco.set_row(righe_ - 1);
 }
 
-bool mirorcr::is_open(const rec_orc& head) const {
-    return head.cliente == app_.selezione_1 && head.annullato == 0 && head.evaso_flag == 0;
-}
-
-bool mirorcr::row_is_open() const {
-    if (riga_.quantita > riga_.evaso) return true;
-    return riga_.quantita == 0 && !riga_.descrizione.trimmed().empty();
+bool mirorcr::is_listed(const rec_orc& head) const {
+    return head.cliente == app_.selezione_1 && is_open_order(head);
 }
 
 void mirorcr::list_rows_of(int order, std::span<const rec_orc> rows, articles_shown& articles) {
@@ -78,7 +70,7 @@ void mirorcr::list_rows_of(int order, std::span<const rec_orc> rows, articles_sh
     std::int64_t record = block_record(order, 1);
     for (const rec_orc& row : rows) {
         riga_ = row;
-        if (row_is_open()) list_row(order, record, righe_ == listed_before, articles);
+        if (can_leave(riga_)) list_row(order, record, righe_ == listed_before, articles);
         ++record;
     }
 }
@@ -93,14 +85,15 @@ void mirorcr::list_row(int order, std::int64_t record, bool first_of_order,
         elenco.set_text(row, descrizione, riga_.testo1.trimmed());
     }
     if (riga_.articolo < 1) {
-        elenco.set_text(row, articolo, joined(riga_.descrizione.full(), riga_.descrizione2.full()));
+        elenco.set_text(row, articolo, description_of(riga_));
     } else {
         const voce_articolo& shown = articles.of(riga_.articolo);
-        elenco.set_text(row, articolo,
-                        joined(shown.codice.trimmed(), " ").append(shown.descrizione.full()));
+        elenco.set_text(
+            row, articolo,
+            std::string(shown.codice.trimmed()).append(" ").append(shown.descrizione.full()));
     }
     elenco.set_text(row, ordinato, testo_quantita(riga_.quantita));
-    elenco.set_text(row, da_evadere, testo_quantita(riga_.quantita - riga_.evaso));
+    elenco.set_text(row, da_evadere, testo_quantita(open_quantity(riga_)));
     elenco.set_text(row, numero_riga, std::to_string(record));
     elenco.set_text(row, numero_ordine, std::to_string(order));
 }

@@ -2,6 +2,7 @@
 
 #include "fulfil/faults.h"
 #include "orders/stock.h"
+#include "orders/totals.h"
 #include "text/dates.h"
 #include "text/int16.h"
 
@@ -9,7 +10,7 @@ namespace vantora {
 
 namespace {
 
-rec_mag movement_of(const movimento_magazzino& all, const riga_ordine& line, double net_price) {
+rec_mag movement_of(const movimento_magazzino& all, const riga_ordine& line, double price) {
     rec_mag one;
     one.data = all.data;
     one.documento = all.documento;
@@ -19,7 +20,7 @@ rec_mag movement_of(const movimento_magazzino& all, const riga_ordine& line, dou
     one.articolo = line.articolo;
     one.cliente = all.cliente;
     one.quantita = line.quantita;
-    one.prezzo = net_price;
+    one.prezzo = price;
     one.segno = 1;
     one.zero = 0;
     return one;
@@ -71,15 +72,14 @@ write_outcome scarica_magazzino(archivi& files, const movimento_magazzino& movem
             // The user may have thought about it for long.
             require(files.art.read(line.articolo, article));
         }
-        const double net_price =
-            checked(importo_scontato(line.prezzo, line.sc1, line.sc2, amounts));
-        unload_stock(article, line.quantita, net_price);
+        const double price = checked(net_price(line, amounts));
+        unload_stock(article, line.quantita, price);
         require(files.art.write(line.articolo, article));
 
         const auto next = add_int16(counter.quanti, 1);
         if (!next) throw overflow_error();
         counter.quanti = *next;
-        require(files.mag.write(*next, movement_of(movement, line, net_price)));
+        require(files.mag.write(*next, movement_of(movement, line, price)));
     }
     outcome.faults.note(files.art.flush(), files.art);
     outcome.faults.note(files.mag.flush(), files.mag);

@@ -4,6 +4,22 @@
 
 namespace vantora {
 
+bool is_empty(const riga_ordine& line) {
+    return line.articolo == 0 && line.codice.trimmed().empty() &&
+           line.descrizione.trimmed().empty() && line.um.trimmed().empty() && line.quantita == 0 &&
+           line.prezzo == 0 && line.sc1 == 0 && line.sc2 == 0 && line.evaso == 0;
+}
+
+int ultima_riga_usata(const righe_ordine& lines) {
+    for (int number = righe_ordine::massimo; number >= 1; --number) {
+        const riga_ordine& line = lines[number];
+        const bool used = !line.descrizione.trimmed().empty() || !line.codice.trimmed().empty() ||
+                          line.prezzo != 0;
+        if (used) return number;
+    }
+    return 0;
+}
+
 void clear_line(riga_ordine& line) {
     const double fulfilled = line.evaso;
     const double weight = line.peso;

@@ -59,6 +59,12 @@ struct riepilogo_iva {
     std::array<double, 17> esente_iva{};      ///< 1 to 12: net amounts by exemption code - 12
 };
 
+/// Whether nothing at all stands in a line: something can be put there without being missed.
+bool is_empty(const riga_ordine& line);
+
+/// Number of the last line in use, by code, description or price; 0 if none is.
+int ultima_riga_usata(const righe_ordine& lines);
+
 /// Empties a line, all but its fulfilled quantity and its weight.
 void clear_line(riga_ordine& line);
 

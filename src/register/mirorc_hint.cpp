@@ -1,8 +1,8 @@
 #include <algorithm>
 
+#include "orders/stored_lines.h"
+#include "orders/totals.h"
 #include "register/mirorc.h"
-#include "store/records/order_block.h"
-#include "store/values.h"
 #include "text/code_page.h"
 #include "text/dates.h"
 #include "text/int16.h"
@@ -14,11 +14,10 @@ namespace vantora {
 
 namespace {
 
-constexpr std::size_t righe_raccontate = 6;
+constexpr int righe_raccontate = 6;
 
 std::string line_text(const rec_orc& row) {
-    const std::string description =
-        filtra_stampa(std::string(row.descrizione.full()) + std::string(row.descrizione2.full()));
+    const std::string description = filtra_stampa(description_of(row));
     std::string text;
     if (row.quantita != 0) {
         text = testo_quantita(row.quantita) + " " + std::string(row.um.trimmed()) + "  ";
@@ -26,24 +25,32 @@ std::string line_text(const rec_orc& row) {
     return text.append(trimmed(description));
 }
 
-/// An order's figures over its rows.
-struct somme_ordine {
-    std::size_t righe = 0;
-    double da_evadere = 0;
-    double valore_da_evadere = 0;
-    double valore = 0;
-
-    void add(const rec_orc& row, const valuta& in) {
-        ++righe;
-        valore += valore_netto(row.prezzo, row.quantita, row.sc1, row.sc2, in);
-        if (!(row.quantita > row.evaso)) return;
-        da_evadere += row.quantita - row.evaso;
-        valore_da_evadere +=
-            valore_netto(row.prezzo, row.quantita - row.evaso, row.sc1, row.sc2, in);
+/// An order's figures over its rows: all of it as its own screen counts it, and what is open.
+class somme_ordine {
+ public:
+    void add(const rec_orc& row) {
+        riga_ordine line;
+        take_row(row, line);
+        tutte_[++righe_] = line;
+        if (!is_open(row)) return;
+        line.quantita = finite_or_zero(open_quantity(row));
+        da_evadere_[righe_] = line;
     }
+
+    [[nodiscard]] int righe() const { return righe_; }
+    [[nodiscard]] totali_ordine totali(const valuta& in) const { return somma_righe(tutte_, in); }
+    [[nodiscard]] totali_ordine da_evadere(const valuta& in) const {
+        return somma_righe(da_evadere_, in);
+    }
+
+ private:
+    int righe_ = 0;
+    righe_ordine tutte_;
+    righe_ordine da_evadere_;
 };
 
 std::string amount_text(double value, const valuta& in) {
+    value = finite_or_zero(value);
     return value == 0 ? "0,00" : formato_importo(value, in);
 }
 
@@ -62,19 +69,20 @@ std::string mirorc::hint(int row) const {
     for (const rec_orc& one : block) {
         const std::string line = line_text(one);
         if (line.empty() && one.prezzo == 0) continue;
-        sums.add(one, in);
-        if (sums.righe <= righe_raccontate) text += line + "\n";
+        sums.add(one);
+        if (sums.righe() <= righe_raccontate) text += line + "\n";
     }
-    if (sums.righe > righe_raccontate) {
-        text += "... in tutto " + std::to_string(sums.righe) + " righe\n";
+    if (sums.righe() > righe_raccontate) {
+        text += "... in tutto " + std::to_string(sums.righe()) + " righe\n";
     }
     if (block.front().evaso_flag == 1) {
         text += "Evaso";
     } else {
-        text += "Da evadere: " + (sums.da_evadere == 0 ? "0" : testo_quantita(sums.da_evadere)) +
-                " pezzi, " + amount_text(sums.valore_da_evadere, in);
+        const totali_ordine open = sums.da_evadere(in);
+        const std::string pieces = open.pezzi == 0 ? "0" : testo_quantita(open.pezzi);
+        text += "Da evadere: " + pieces + " pezzi, " + amount_text(open.imponibile, in);
     }
-    return text + "\nValore dell'ordine: " + amount_text(sums.valore, in);
+    return text + "\nValore dell'ordine: " + amount_text(sums.totali(in).imponibile, in);
 }
 
 std::string mirorc::notice(int row) const {

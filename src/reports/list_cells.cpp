@@ -21,9 +21,4 @@ std::string etichetta_articolo::title() const {
     return label(codice, descrizione.trimmed());
 }
 
-std::string free_text(const text<40>& descrizione, const text<10>& descrizione2) {
-    const std::string whole = std::string(descrizione.full()).append(descrizione2.full());
-    return std::string(trimmed(whole));
-}
-
 }  // namespace vantora

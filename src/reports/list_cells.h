@@ -2,9 +2,9 @@
 
 #include <string>
 
+#include "orders/order_rows.h"
 #include "store/record_stretches.h"
 #include "store/records/rec_art.h"
-#include "store/records/rec_orc.h"
 
 namespace vantora {
 
@@ -28,19 +28,10 @@ struct etichetta_articolo {
 /// The articles of one build.
 using etichette_articoli = record_stretches<rec_art, etichetta_articolo>;
 
-/// A free text in two fields, as one.
-std::string free_text(const text<40>& descrizione, const text<10>& descrizione2);
-
-/// Whether a field holds nothing but blanks.
-template <std::size_t N>
-bool is_blank(const text<N>& field) {
-    static const text<N> blanks{""};
-    return field == blanks;
-}
-
-/// Whether a row of an order is more than an empty line.
-inline bool in_use(const rec_orc& row) {
-    return row.quantita != 0 || !is_blank(row.descrizione);
+/// The text of a row that is of no article.
+template <class Row>
+std::string free_text(const Row& row) {
+    return std::string(trimmed(description_of(row)));
 }
 
 }  // namespace vantora

@@ -63,8 +63,8 @@ std::span<const rec_orc> mirstoe::rows_of(int order) {
 
 bool mirstoe::takes(const rec_orc& row) const {
     if (!in_use(row)) return false;
-    if (Combo1.chosen() == da_evadere) return !(row.quantita <= row.evaso);
-    if (Combo1.chosen() == evasi) return !(row.quantita > row.evaso);
+    if (Combo1.chosen() == da_evadere) return may_be_open(row);
+    if (Combo1.chosen() == evasi) return !is_open(row);
     return true;
 }
 

@@ -81,7 +81,7 @@ void mirston::take_rows(raccolta& found, int order) {
     if (!found.righe.wants(owner)) return;
     const auto rows = ordini_.block(order);
     for (const rec_orc& row : rows) {
-        if (!in_use(row) && row.prezzo == 0) continue;
+        if (!in_use_or_priced(row)) continue;
         if (!found.righe.wants(owner)) return;
         const bool first = &row == &rows.front();
         if (first) found.teste.emplace_back(row);
@@ -97,7 +97,7 @@ void mirston::take_rows(raccolta& found, int order) {
 std::string mirston::article_text(const riga_cliente& row, etichette_articoli& articles) const {
     const bool known = row.articolo >= 1 && row.articolo <= articoli_.quanti;
     if (known) return articles.of(row.articolo).text();
-    return free_text(row.descrizione, row.descrizione2);
+    return free_text(row);
 }
 
 void mirston::list_sheets(list_rows& list, raccolta& found) {

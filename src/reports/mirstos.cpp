@@ -38,10 +38,6 @@ const tipo_report& scadenziario() {
     return kind;
 }
 
-bool is_open(const rec_orc& row) {
-    return row.quantita > row.evaso;
-}
-
 }  // namespace
 
 mirstos::mirstos(program& app) : order_rows_report(app, scadenziario()) {}

@@ -42,8 +42,8 @@ void order_rows_report::list_head(list_rows& list, const rec_orc& row,
 
 void order_rows_report::list_row(list_rows& list, const rec_orc& row,
                                  etichette_articoli& articles) const {
-    list.write(places().articolo, row.articolo < 1 ? free_text(row.descrizione, row.descrizione2)
-                                                   : articles.of(row.articolo).text());
+    list.write(places().articolo,
+               row.articolo < 1 ? free_text(row) : articles.of(row.articolo).text());
     list.write(places().ordinato, testo_quantita(row.quantita));
     list.write(places().evaso, testo_quantita(row.evaso));
 }

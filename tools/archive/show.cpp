@@ -5,6 +5,7 @@
 
 #include "archive/fields.h"
 #include "archive/words.h"
+#include "orders/order_rows.h"
 #include "text/dates.h"
 #include "text/number_text.h"
 
@@ -43,8 +44,7 @@ std::string state_of(const rec_orc& head) {
 }
 
 bool is_used(const rec_orc& row) {
-    return row.articolo > 0 || row.quantita != 0 || row.prezzo != 0 ||
-           !row.descrizione.trimmed().empty();
+    return row.articolo > 0 || in_use_or_priced(row);
 }
 
 /// The names of those that the records point to.
@@ -114,10 +114,9 @@ std::string in_words(const rec_prv& head, names& of) {
 }
 
 std::string line_in_words(const rec_orc& row, names& of) {
-    return of.article(row.articolo) + words_of(row.descrizione.full()) +
-           words_of(row.descrizione2.full()) + ": " + plain_text(row.quantita) + " " +
-           words_of(row.um.full()) + " at " + plain_text(row.prezzo) + ", fulfilled " +
-           plain_text(row.evaso);
+    return of.article(row.articolo) + words_of(description_of(row)) + ": " +
+           plain_text(row.quantita) + " " + words_of(row.um.full()) + " at " +
+           plain_text(row.prezzo) + ", fulfilled " + plain_text(row.evaso);
 }
 
 struct output {

@@ -21,7 +21,7 @@ std::vector<std::string_view> split(std::string_view sizes) {
 
 void set_stock(article& one, draws& chance) {
     if (chance.percent(8)) return;
-    one.giacenza = 10LL * chance.between(1, chance.percent(30) ? 900 : 120);
+    one.record.giacenza = 10.0 * chance.between(1, chance.percent(30) ? 900 : 120);
 }
 
 void set_prices(article& one, draws& chance, const product& kind, int size, int sizes) {
@@ -84,10 +84,6 @@ article make_article(draws& chance, int number) {
     return one;
 }
 
-double from_tenths(long long tenths) {
-    return static_cast<double>(tenths) / 10;
-}
-
 }  // namespace
 
 std::vector<article> make_articles(int count, std::uint64_t seed) {
@@ -100,11 +96,11 @@ std::vector<article> make_articles(int count, std::uint64_t seed) {
 
 rec_art stored(const article& one) {
     rec_art record = one.record;
-    record.giacenza = from_tenths(one.giacenza);
-    record.impegnato = from_tenths(one.impegnato);
-    record.ordinato_clienti = from_tenths(one.ordinato_clienti);
-    record.scaricato = from_tenths(one.scaricato);
-    record.valore_scaricato = static_cast<double>(one.valore_scaricato) / 1000;
+    for (f64le rec_art::*figure : {&rec_art::giacenza, &rec_art::impegnato,
+                                   &rec_art::ordinato_clienti, &rec_art::scaricato}) {
+        record.*figure = record.*figure / 10;
+    }
+    record.valore_scaricato = record.valore_scaricato / 1000;
     return record;
 }
 

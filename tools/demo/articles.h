@@ -12,16 +12,10 @@ namespace vantora::demo {
 /// An article while the company is made. Money is counted in cents, quantities in tenths of the
 /// unit: whole numbers, so that no machine rounds them differently.
 struct article {
-    rec_art record;  ///< all but the stock figures
+    rec_art record;  ///< its stock figures in tenths, its value unloaded in tenths times cents
     long long prezzo1_cents = 0;
     long long prezzo2_cents = 0;
     std::vector<std::string> long_text;  ///< in the code page; empty: none
-
-    long long giacenza = 0;          ///< tenths
-    long long impegnato = 0;         ///< tenths
-    long long ordinato_clienti = 0;  ///< tenths
-    long long scaricato = 0;         ///< tenths
-    long long valore_scaricato = 0;  ///< tenths times cents
 
     [[nodiscard]] bool deleted() const { return record.eliminato != 0; }
     [[nodiscard]] bool sold_by_measure() const { return record.um.full() == "MT"; }
@@ -30,7 +24,7 @@ struct article {
 /// The articles with their opening stock. Some are deleted, never the first; some have no bar code.
 std::vector<article> make_articles(int count, std::uint64_t seed);
 
-/// The record of an article with its stock figures of the moment.
+/// The record of an article as it is stored.
 rec_art stored(const article& one);
 
 /// The record of an article's long text. REQUIRES: it has one.

@@ -4,6 +4,7 @@
 
 #include "demo/catalogue.h"
 #include "store/records/order_block.h"
+#include "store/vat_codes.h"
 #include "text/code_page.h"
 
 namespace vantora::demo {
@@ -22,11 +23,6 @@ int draw_article(draws& chance, const std::vector<article>& articles) {
     return 0;
 }
 
-int vat_code(const rec_cli& customer, int usual) {
-    const int own = customer.iva_cliente;
-    return own > 0 ? own : usual;
-}
-
 document_line article_line(draws& chance, const article& one, int number, const rec_cli& customer) {
     document_line line;
     line.articolo = number;
@@ -35,7 +31,7 @@ document_line article_line(draws& chance, const article& one, int number, const 
     line.quantita =
         one.sold_by_measure() ? chance.one_of(metre_quantities) : chance.one_of(piece_quantities);
     line.prezzo = customer.listino.full() == "1" ? one.prezzo2_cents : one.prezzo1_cents;
-    line.iva = vat_code(customer, one.record.iva);
+    line.iva = own_vat_code(customer).value_or(one.record.iva);
     line.sc1 = customer.sconto1;
     line.sc2 = customer.sconto2;
     if (chance.percent(8)) line.sc2 = chance.between(2, 10);
@@ -51,8 +47,7 @@ document_line text_line(std::string text) {
 document_line carriage_line(draws& chance, const rec_cli& customer) {
     document_line line = text_line("Contributo spese di trasporto");
     line.prezzo = 100LL * chance.between(8, 35);
-    const std::int16_t own_code = customer.iva_cliente;
-    line.iva = own_code > 0 ? own_code : std::int16_t{1};
+    line.iva = own_vat_code(customer).value_or(1);
     return line;
 }
 
@@ -62,12 +57,17 @@ long long less_percent(long long cents, int percent) {
 
 }  // namespace
 
-std::string_view document_line::first_part() const {
-    return std::string_view(descrizione).substr(0, 40);
-}
-
-std::string_view document_line::second_part() const {
-    return std::string_view(descrizione).substr(std::min<std::size_t>(descrizione.size(), 40), 10);
+riga_ordine document_line::typed() const {
+    riga_ordine line;
+    line.articolo = static_cast<std::int16_t>(articolo);
+    line.descrizione = descrizione;
+    line.um = um;
+    line.quantita = static_cast<double>(quantita) / 10;
+    line.prezzo = static_cast<double>(prezzo) / 100;
+    line.iva = static_cast<std::int16_t>(iva);
+    line.sc1 = static_cast<std::int16_t>(sc1);
+    line.sc2 = static_cast<std::int16_t>(sc2);
+    return line;
 }
 
 std::vector<document_line> draw_lines(draws& chance, const std::vector<article>& articles,

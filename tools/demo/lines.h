@@ -6,6 +6,7 @@
 
 #include "demo/articles.h"
 #include "demo/draws.h"
+#include "orders/stored_order.h"
 #include "store/records/rec_cli.h"
 
 namespace vantora::demo {
@@ -22,27 +23,15 @@ struct document_line {
     int sc1 = 0;
     int sc2 = 0;
 
-    [[nodiscard]] double stored_quantita() const { return static_cast<double>(quantita) / 10; }
     [[nodiscard]] double stored_evaso() const { return static_cast<double>(evaso) / 10; }
-    [[nodiscard]] double stored_prezzo() const { return static_cast<double>(prezzo) / 100; }
-
-    /// First 40 characters of the description, and the ten behind them.
-    [[nodiscard]] std::string_view first_part() const;
-    [[nodiscard]] std::string_view second_part() const;
+    /// The line as the orders' screen has it.
+    [[nodiscard]] riga_ordine typed() const;
 };
 
 /// Puts a line into a row of an order or a quote.
 template <class Row>
 void set_line(Row& row, const document_line& line) {
-    row.articolo = static_cast<std::int16_t>(line.articolo);
-    row.descrizione = line.first_part();
-    row.descrizione2 = line.second_part();
-    row.um = line.um;
-    row.quantita = line.stored_quantita();
-    row.prezzo = line.stored_prezzo();
-    row.iva = static_cast<std::int16_t>(line.iva);
-    row.sc1 = static_cast<std::int16_t>(line.sc1);
-    row.sc2 = static_cast<std::int16_t>(line.sc2);
+    fill_line(row, line.typed());
 }
 
 /// What a customer orders: articles at the customer's price list and discounts, with their long

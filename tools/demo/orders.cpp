@@ -5,7 +5,7 @@
 #include "demo/calendar.h"
 #include "demo/draws.h"
 #include "demo/lines.h"
-#include "demo/stock.h"
+#include "orders/stock.h"
 #include "store/records/order_block.h"
 #include "store/records/rec_orc.h"
 #include "text/code_page.h"
@@ -130,6 +130,24 @@ long long delivered_part(draws& chance, const document_line& line) {
     return fate == 1 ? line.quantita / 20 * 10 : 0;
 }
 
+/// The article of a line, with stock behind it; null for a line of text.
+rec_art* article_of(const document_line& line, std::vector<article>& articles) {
+    if (line.articolo < 1 || line.quantita == 0) return nullptr;
+    return &articles[static_cast<std::size_t>(line.articolo - 1)].record;
+}
+
+/// A quantity of a line leaves. What the stock lacks has been bought in before.
+void deliver(document_line& line, long long quantity, bool committed,
+             std::vector<article>& articles) {
+    line.evaso += quantity;
+    rec_art* const one = article_of(line, articles);
+    if (!one) return;
+    const auto leaving = static_cast<double>(quantity);
+    release_stock(*one, leaving, committed);
+    if (one->giacenza < leaving) one->giacenza = one->giacenza + 4 * leaving;
+    unload_stock(*one, leaving, static_cast<double>(net_price(line)));
+}
+
 void deliver_order(draws& chance, order& one, std::vector<article>& articles, deliveries& into) {
     delivery papers(one, into);
     bool keep_open = one.state == order_state::partly_delivered;
@@ -148,8 +166,16 @@ void deliver_order(draws& chance, order& one, std::vector<article>& articles, de
 }
 
 void play_out(draws& chance, order& one, std::vector<article>& articles, deliveries& into) {
-    book_order(one.lines, one.committed, articles);
-    if (one.state == order_state::deleted) unbook_order(one.lines, one.committed, articles);
+    for (const document_line& line : one.lines) {
+        rec_art* const its = article_of(line, articles);
+        if (its) order_stock(*its, static_cast<double>(line.quantita), one.committed);
+    }
+    for (const document_line& line : one.lines) {
+        rec_art* const its = article_of(line, articles);
+        if (its && one.state == order_state::deleted) {
+            release_stock(*its, static_cast<double>(line.quantita), one.committed);
+        }
+    }
     if (one.state == order_state::fulfilled || one.state == order_state::partly_delivered) {
         deliver_order(chance, one, articles, into);
     }

@@ -8,6 +8,8 @@
 
 namespace vantora {
 
+// How an order goes into its rows. The way back is in stored_lines.h.
+
 /// The head of an order as its rows store it.
 struct testata_registrata {
     std::string numero;
@@ -23,7 +25,20 @@ struct testata_registrata {
 /// fields of the row stay as they are.
 void fill_head(rec_orc& row, const testata_registrata& head, std::size_t number);
 
-/// Puts a line on its row. All other fields stay, the fulfilled quantity included.
-void fill_line(rec_orc& row, const riga_ordine& line);
+/// Puts a line on its row, of an order or a quote. All other fields stay, the fulfilled quantity
+/// included.
+template <class Row>
+void fill_line(Row& row, const riga_ordine& line) {
+    const std::string_view description = line.descrizione.full();
+    row.articolo = line.articolo;
+    row.descrizione = description.substr(0, row.descrizione.width);
+    row.descrizione2 = description.substr(row.descrizione.width, row.descrizione2.width);
+    row.um = line.um.full();
+    row.quantita = line.quantita;
+    row.prezzo = line.prezzo;
+    row.iva = line.iva;
+    row.sc1 = line.sc1;
+    row.sc2 = line.sc2;
+}
 
 }  // namespace vantora

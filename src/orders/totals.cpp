@@ -1,7 +1,7 @@
-#include "entry/totals.h"
+#include "orders/totals.h"
 
 #include "errors/run_time_errors.h"
-#include "orders/vat_codes.h"
+#include "store/vat_codes.h"
 #include "text/number_text.h"
 
 namespace vantora {
@@ -12,13 +12,12 @@ namespace {
 double net_amount(const riga_ordine& line, bool by_piece, const valuta& currency) {
     double amount = line.prezzo;
     if (by_piece) amount = arrotonda_valuta(amount * line.quantita, currency);
-    return checked(importo_scontato(amount, line.sc1, line.sc2, currency));
+    return importo_scontato(amount, line.sc1, line.sc2, currency);
 }
 
 }  // namespace
 
-totali_ordine calcola_totali(const righe_ordine& lines, const tabella_iva& rates,
-                             const valuta& currency) {
+totali_ordine somma_righe(const righe_ordine& lines, const valuta& currency) {
     totali_ordine sums;
     riepilogo_iva& vat = sums.iva;
     for (int number = 1; number <= righe_ordine::massimo; ++number) {
@@ -34,9 +33,18 @@ totali_ordine calcola_totali(const righe_ordine& lines, const tabella_iva& rates
         }
     }
     for (std::size_t code = 1; code <= ultima_aliquota; ++code) {
+        sums.imponibile += vat.imponibile_iva[code] + vat.esente_iva[code];
+    }
+    return sums;
+}
+
+totali_ordine calcola_totali(const righe_ordine& lines, const tabella_iva& rates,
+                             const valuta& currency) {
+    totali_ordine sums = somma_righe(lines, currency);
+    riepilogo_iva& vat = sums.iva;
+    for (std::size_t code = 1; code <= ultima_aliquota; ++code) {
         const double rate = number_at_head(rates.aliquota_iva[code]);
         vat.imposta_iva[code] = percentuale_eccesso(vat.imponibile_iva[code], rate, currency);
-        sums.imponibile += vat.imponibile_iva[code] + vat.esente_iva[code];
         sums.totale += vat.imposta_iva[code] + vat.imponibile_iva[code] + vat.esente_iva[code];
     }
     for (const double one : {sums.imponibile, sums.totale, sums.pezzi}) checked(one);

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "orders/order_lines.h"
+#include "orders/order_rows.h"
 #include "store/block_reader.h"
 #include "store/records/rec_art.h"
 #include "store/values.h"
@@ -26,6 +27,20 @@ class stored_rows {
     std::span<const Row> rows_;
 };
 
+/// What a stored row says of itself goes into the line; its article's code, its fulfilled quantity
+/// and its weight stay.
+template <class Row>
+void take_row(const Row& row, riga_ordine& line) {
+    line.articolo = row.articolo < 1 ? std::int16_t{0} : std::int16_t{row.articolo};
+    line.descrizione = description_of(row);
+    line.um = row.um.full();
+    line.quantita = finite_or_zero(row.quantita);
+    line.prezzo = finite_or_zero(row.prezzo);
+    line.sc1 = row.sc1;
+    line.sc2 = row.sc2;
+    line.iva = row.iva;
+}
+
 /// Reads stored rows, of orders or quotes, into lines. A line shows its article's code as the
 /// article has it now, even if it once came by a bar code.
 class stored_lines {
@@ -35,7 +50,7 @@ class stored_lines {
     /// What the row says goes into the line; its fulfilled quantity and weight stay.
     template <class Row>
     void read(const Row& row, riga_ordine& line) {
-        line.articolo = row.articolo < 1 ? std::int16_t{0} : std::int16_t{row.articolo};
+        take_row(row, line);
         if (line.articolo == 0) {
             line.codice = "";
         } else {
@@ -43,13 +58,6 @@ class stored_lines {
             articles_.read(line.articolo, article_);
             line.codice = article_.codice.full();
         }
-        line.descrizione = std::string(row.descrizione.full()).append(row.descrizione2.full());
-        line.um = row.um.full();
-        line.quantita = finite_or_zero(row.quantita);
-        line.prezzo = finite_or_zero(row.prezzo);
-        line.sc1 = row.sc1;
-        line.sc2 = row.sc2;
-        line.iva = row.iva;
     }
 
  private:

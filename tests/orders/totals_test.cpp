@@ -1,4 +1,4 @@
-#include "entry/totals.h"
+#include "orders/totals.h"
 
 #include <gtest/gtest.h>
 
