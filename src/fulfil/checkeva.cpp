@@ -41,7 +41,6 @@ write_outcome mirorcr::book() {
 
 bool mirorcr::orders_moved(const rec_tot& now) const {
     const orders_since meanwhile(now, ordini_);
-    if (!meanwhile.others_at_work()) return false;
     return std::ranges::any_of(visti_, [&](const ordine_visto& seen) {
         rec_orc row;
         return !app_.archives.orc.read(block_record(seen.registrazione, 1), row) ||

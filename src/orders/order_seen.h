@@ -19,7 +19,7 @@ struct ordine_visto {
     text<10> numero;
     text<8> data;
     i16le cliente;
-    f64le data_reg;  ///< stays with an order for good, unlike the others
+    f64le data_reg;  ///< stays with an order for good, unlike the others; 0: none
 };
 
 /// What became of the archive's orders since their counter, which is now `now`, stood as `then`.
@@ -28,13 +28,10 @@ class orders_since {
  public:
     orders_since(const rec_tot& now, const rec_tot& then);
 
-    /// Whether a row, read anew from the block where the order was seen, is another one's. Without
-    /// a sign of other stations a changed head alone doesn't make it so: whoever changed it, the
-    /// last save counts.
+    /// Whether a row, read anew from the block where the order was seen, is another one's, or the
+    /// block counts no longer. The date of the first save tells orders apart, whatever became of
+    /// their heads; without one a changed head is another order's once other stations were at work.
     [[nodiscard]] bool took_away(const ordine_visto& seen, const rec_orc& row) const;
-
-    /// The counter is another one: another station saved orders or compacted the archive.
-    [[nodiscard]] bool others_at_work() const { return others_at_work_; }
 
  private:
     rec_tot now_;

@@ -15,7 +15,7 @@ std::string contents(const small_company& company) {
 // Of four orders the second is deleted. While one is open here, something happens at another
 // station; then the order is saved or deleted here.
 TEST(stations, AnOrderIsNotWrittenOverTheOneThatACompactionPutIntoItsBlock) {
-    enum { compacts = 1, takes_order = 2, changes_head = 4 };
+    enum { compacts = 1, takes_order = 2, changes_head = 4, alike = 8, undated = 16 };
     const struct {
         int opened;
         int there;
@@ -27,11 +27,23 @@ TEST(stations, AnOrderIsNotWrittenOverTheOneThatACompactionPutIntoItsBlock) {
                  {3, compacts | takes_order, true},
                  {4, compacts | takes_order, true},
                  {3, takes_order, false},
-                 {3, changes_head, false}};
+                 {3, changes_head, false},
+                 {3, takes_order | changes_head, false},
+                 {3, compacts | alike, true},
+                 {1, compacts | alike, false},
+                 {3, compacts | takes_order | undated, true},
+                 {3, takes_order | undated, false},
+                 {4, compacts | undated, true}};
     for (const auto& one : cases) {
         for (const bool deletes : {false, true}) {
             order_company company;
             for (const int block : {1, 2, 3, 4}) company.order(block, 1, {{1, 5}});
+            for (const int block : {1, 2, 3, 4}) {
+                company.change_rows(block, [&](rec_orc& row) {
+                    if ((one.there & alike) != 0) row.numero = "12";
+                    if ((one.there & undated) != 0) row.data_reg = 0;
+                });
+            }
             delete_order(company, 2);
             order_station here(company);
             order_station there(company);
