@@ -17,7 +17,7 @@ ui/script: ui text
 ui/paper: ui text
 desktop: desktop/controls desktop/keys desktop/lists desktop/look desktop/printing windows ui ui/paper ui/script text
 desktop/controls: desktop desktop/keys desktop/lists desktop/look windows ui ui/paper text
-desktop/keys: desktop desktop/controls desktop/look ui
+desktop/keys: desktop desktop/controls desktop/look ui text
 desktop/lists: desktop desktop/controls desktop/keys desktop/look windows ui ui/paper text
 desktop/look: ui
 desktop/printing: desktop desktop/look ui ui/paper

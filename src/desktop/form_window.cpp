@@ -15,6 +15,7 @@
 
 #include "desktop/controls/grid_view.h"
 #include "desktop/controls/widget_binder.h"
+#include "desktop/keys/further_windows.h"
 #include "desktop/keys/manual.h"
 #include "desktop/lists/list_tools.h"
 #include "desktop/look/style.h"
@@ -44,6 +45,7 @@ form_window::form_window(form& screen, user_action act, std::function<void(form&
     follow_controls_by_tab();
     lay_out(*this);
     add_list_tools(*this);
+    add_further_windows(*this);
     add_help(*this);
     make_scrollable();
     name_the_rest();
@@ -82,6 +84,14 @@ void form_window::dress(const char* name, int index, const command_look& look,
     if (*look.shortcut != '\0') add_shortcut(*button, look.shortcut);
     button->setAccessibleName(QString::fromUtf8(look.caption).remove('&'));
     button->setAccessibleDescription(QString::fromUtf8(look.tooltip));
+}
+
+void form_window::open_further(std::size_t place) const {
+    if (!screen_ || !screen_->further_windows()[place].can_open()) return;
+    for (control* one : screen_->controls()) {
+        if (screen_->desk().obstacle(*one)) continue;
+        return act_(*one, [this, place] { screen_->further_windows()[place].open(); });
+    }
 }
 
 void form_window::make_scrollable() {

@@ -69,6 +69,9 @@ class form_window final : public QWidget {
         if (one) act_(*one, [&] { action(static_cast<Control&>(*one)); });
     }
 
+    /// Opens one of the screen's further windows, if the user may do anything here now.
+    void open_further(std::size_t place) const;
+
     /// The way of Tab, where it isn't that of the controls.
     void set_tab_order(const std::vector<QWidget*>& stops);
 

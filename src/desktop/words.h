@@ -90,6 +90,8 @@ inline constexpr const char* close_preview = "Chiudi";
 
 // Keys and manual --------------------------------------------------------------------------------
 
+inline constexpr const char* more = "Altr&o ▾";
+inline constexpr const char* more_windows = "Altre finestre che si aprono da qui";
 inline constexpr const char* help = "Aiuto: tasti e manuale";
 inline constexpr const char* show_keys = "Tasti di questa finestra";
 inline constexpr const char* keys_of_window = "Tasti: %1";

@@ -1,0 +1,64 @@
+#include "desktop/keys/further_windows.h"
+
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QMenu>
+#include <QShortcut>
+#include <QToolButton>
+
+#include "desktop/form_window.h"
+#include "desktop/words.h"
+#include "text/code_page.h"
+
+namespace vantora::ui::desktop {
+
+namespace {
+
+QString caption_of(const further_window& one) {
+    return QString::fromStdString(to_utf8(one.caption));
+}
+
+/// Made when it is asked for: what can be opened changes.
+void show_menu(form_window& window, const QWidget& below) {
+    QMenu menu(&window);
+    const auto& all = window.screen().further_windows();
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        const QString key =
+            QKeySequence(QString::fromStdString(all[i].key)).toString(QKeySequence::NativeText);
+        QAction* entry = menu.addAction(caption_of(all[i]) + "\t" + key, &window,
+                                        [&window, i] { window.open_further(i); });
+        entry->setEnabled(all[i].can_open());
+    }
+    menu.exec(below.mapToGlobal(QPoint(0, below.height())));
+}
+
+QToolButton* menu_button(form_window& window) {
+    auto* button = new QToolButton(&window);
+    button->setObjectName("altro");
+    button->setText(QString::fromUtf8(words::more));
+    button->setToolTip(QString::fromUtf8(words::more_windows));
+    button->setFocusPolicy(Qt::NoFocus);
+    QObject::connect(button, &QToolButton::clicked, &window,
+                     [&window, button] { show_menu(window, *button); });
+    return button;
+}
+
+}  // namespace
+
+void add_further_windows(form_window& window) {
+    const auto& all = window.screen().further_windows();
+    if (all.empty()) return;
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        const QByteArray what = caption_of(all[i]).remove('&').toUtf8();
+        QObject::connect(add_key(window, all[i].key.c_str(), what.constData()),
+                         &QShortcut::activated, &window, [&window, i] { window.open_further(i); });
+    }
+    for (auto* bar : window.findChildren<QFrame*>()) {
+        auto* row = qobject_cast<QHBoxLayout*>(bar->layout());
+        if (!row || bar->property("role").toString() != "bar") continue;
+        row->addWidget(menu_button(window), 0, Qt::AlignTop);
+        return;
+    }
+}
+
+}  // namespace vantora::ui::desktop
