@@ -21,6 +21,16 @@ std::size_t points_of(const ui::bitmap& image) {
 
 }  // namespace
 
+std::string nomi_di_figure(const std::vector<std::string>& files) {
+    constexpr std::size_t named_max = 5;
+    std::string names;
+    for (std::size_t i = 0; i < std::min(files.size(), named_max); ++i) {
+        const std::size_t cut = files[i].size() - std::min<std::size_t>(files[i].size(), 100);
+        names += (i == 0 ? "" : ", ") + files[i].substr(cut);
+    }
+    return files.size() > named_max ? names + ", ..." : names;
+}
+
 void figure_documento::leave_out(const std::string& path) {
     if (std::ranges::find(left_out_, path) == left_out_.end()) left_out_.push_back(path);
 }
@@ -40,6 +50,7 @@ const figure_documento::file_read& figure_documento::read(const std::string& pat
     const auto bytes = files_.read_whole(path);
     if (!bytes) return made;
     auto decoded = decoder_.decode(*bytes);
+    if (decoded.other_kind) other_kinds_.push_back(path);
     cost_ += decoded.claimed + bytes->size() / 4;
     made.too_large =
         decoded.too_large || (decoded.image && !fits_document(points_of(*decoded.image)));

@@ -21,6 +21,9 @@ inline constexpr std::size_t punti_per_documento = 8'000'000;    ///< of differe
 /// a quarter of the bytes.
 inline constexpr std::size_t lettura_per_documento = 2 * punti_per_documento;
 
+/// The first few of the files for a message, their ends.
+std::string nomi_di_figure(const std::vector<std::string>& files);
+
 /// The pictures of one document. Each file is read once; one that holds no picture leaves the one
 /// before in its place. What is too large, or too much for a page or a document, is left out and
 /// its name kept.
@@ -37,8 +40,10 @@ class figure_documento {
     /// The points that fall on the paper of a picture at (x, y); null for none. All millimetres.
     figura at(std::string_view path, double x, double y, double page_width, double page_height);
 
-    /// The files that were left out, each once.
+    /// The files that were left out as too large, each once.
     [[nodiscard]] const std::vector<std::string>& left_out() const { return left_out_; }
+    /// The files of a kind that isn't read (SVG, TIFF ...), each once.
+    [[nodiscard]] const std::vector<std::string>& other_kinds() const { return other_kinds_; }
 
  private:
     struct file_read {
@@ -60,6 +65,7 @@ class figure_documento {
     std::size_t points_ = 0;
     std::size_t cost_ = 0;  ///< of the files read
     std::vector<std::string> left_out_;
+    std::vector<std::string> other_kinds_;
 };
 
 }  // namespace vantora

@@ -11,17 +11,10 @@ namespace vantora {
 
 namespace {
 
-void tell_left_out(program& app, const std::vector<std::string>& files) {
+void tell_of_pictures(program& app, const std::string& what,
+                      const std::vector<std::string>& files) {
     if (files.empty()) return;
-    constexpr std::size_t named_max = 5;
-    std::string names;
-    for (std::size_t i = 0; i < std::min(files.size(), named_max); ++i) {
-        const std::size_t cut = files[i].size() - std::min<std::size_t>(files[i].size(), 100);
-        names += (i == 0 ? "" : ", ") + files[i].substr(cut);
-    }
-    if (files.size() > named_max) names += ", ...";
-    app.desk.message("Il documento è stampato senza figure troppo grandi: "_cp + names,
-                     "Attenzione", ui::icon::stop);
+    app.desk.message(what + nomi_di_figure(files), "Attenzione", ui::icon::stop);
 }
 
 }  // namespace
@@ -35,7 +28,10 @@ esito_stampa componi_documento(program& app, const documento_da_stampare& docume
     componi_pagine(document, pages, out, [&] { disegna_sfondo(app, out, document, pictures); });
     const bool whole = out.end();
     app.desk.set_pointer(ui::pointer::normal);
-    tell_left_out(app, pictures.left_out());
+    tell_of_pictures(app, "Il documento è stampato senza figure troppo grandi: "_cp,
+                     pictures.left_out());
+    tell_of_pictures(
+        app, "Si leggono solo figure BMP, PNG, JPEG e GIF, non queste: ", pictures.other_kinds());
     return whole ? esito_stampa::completa : esito_stampa::senza_file;
 }
 

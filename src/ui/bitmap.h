@@ -33,10 +33,11 @@ inline constexpr int picture_points_max = 4'000'000;
 struct decoded_picture {
     std::optional<bitmap> image;  ///< empty if the bytes hold no picture, or one too large
     bool too_large = false;
+    bool other_kind = false;  ///< a picture, but none of the kinds that are read
     std::size_t claimed = 0;  ///< points that its head told, unless too large; read whole or not
 };
 
-/// Reads picture files of the usual kinds (BMP, PNG, JPEG, GIF).
+/// Reads BMP, PNG, JPEG and GIF files, and no others.
 class picture_decoder {
  public:
     virtual ~picture_decoder() = default;

@@ -2,11 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <ctime>
 #include <fstream>
 
 #include "documents/document_pictures.h"
 #include "documents/document_stage.h"
 #include "support/faulty_files.h"
+#include "support/picture_file.h"
 
 namespace vantora::test {
 namespace {
@@ -75,11 +77,57 @@ TEST(background, InvoiceNumbersBecomeCreditNotes) {
     }
 }
 
-/// A picture of white points in the plainest of formats, whose head may claim another size.
-std::string picture_file(int width, int height, int claimed = 0) {
-    const auto told = [&](int size) { return std::to_string(claimed == 0 ? size : claimed) + " "; };
-    return "P6 " + told(width) + told(height) + "255\n" +
-           std::string(static_cast<std::size_t>(width * height * 3), '\xFF');
+std::string of_hex(std::string_view digits) {
+    std::string made;
+    for (std::size_t i = 0; i < digits.size(); i += 2) {
+        made += static_cast<char>(std::stoi(std::string(digits.substr(i, 2)), nullptr, 16));
+    }
+    return made;
+}
+
+TEST(background, PicturesOfFourKindsAreReadAndOthersAreToldWithoutReadingThem) {
+    const std::string gif = of_hex("474946383961010001008000000000ff000000");
+    const std::string frame = of_hex("2c0000000001000100000202440100");
+    std::string frames = gif;
+    for (int i = 0; i < 200'000; ++i) frames += frame;
+    // Its drawing takes minutes.
+    std::string svg = "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'><g id='a0'/>";
+    for (int i = 1; i < 30; ++i) {
+        const std::string use = "<use href='#a" + std::to_string(i - 1) + "'/>";
+        svg += "<g id='a" + std::to_string(i) + "'>" + use + use + "</g>";
+    }
+    const std::string jpeg =
+        of_hex("ffd8ffdb004300") + std::string(64, '\1') +
+        of_hex(
+            "ffc2000b0807d007d001011100ffc4001500010100000000000000000000000000000001ffc4"
+            "00151001010000000000000000000000000000e001ffda00080101000000000000");
+    const std::string scan = of_hex("ffda0008010100013f000000");
+    std::string scans = jpeg;
+    for (int i = 0; i < 20'000; ++i) scans += scan;
+    using kind = std::tuple<const char*, std::string, bool, bool>;
+    const kind kinds[] = {
+        {"BMP", picture_file(1, 1), true, false},
+        {"PNG",
+         of_hex("89504e470d0a1a0a0000000d4948445200000001000000010802000000907753de0000000c49"
+                "444154789c63f8cfc0000003010100c9fe92ef0000000049454e44ae426082"),
+         true, false},
+        {"GIF", gif + frame + ";", true, false},
+        {"many GIF", frames, true, false},
+        {"JPEG", jpeg + scan + "\xFF\xD9", true, false},
+        {"JPEG of many scans", scans, false, false},
+        {"SVG", svg + "</svg>", false, true},
+        {"XPM", "/* XPM */ static char *x[] = {\"1 1 1 1\", \"a c #FF0000\", \"a\"};", false, true},
+        {"PPM", "P6 1 1 255\n\xFF\xFF\x01", false, true},
+        {"text", "no picture at all", false, false},
+        {"nothing", "", false, false}};
+    ui::pixbuf_decoder decoder;
+    const auto begun = std::clock();
+    for (const auto& [name, bytes, read, told] : kinds) {
+        const auto got = decoder.decode(bytes);
+        EXPECT_EQ(got.image.has_value(), read) << name;
+        EXPECT_EQ(got.other_kind, told) << name;
+    }
+    EXPECT_LT(std::clock() - begun, CLOCKS_PER_SEC);
 }
 
 /// Prints with pictures, and gives what is told of those left out.
@@ -106,12 +154,15 @@ TEST(background, PicturesAreOneMarkEachAndOnlyAsFarAsThePaperGoes) {
         double x, y;
         double width, height;  ///< points; 0: not drawn
         std::string told;
-    } cases[] = {{"small", picture_file(5, 2), 10, 20, 5, 2, question},
-                 {"off the paper", picture_file(5, 2), 10, 300, 0, 0, question},
-                 {"over the edge", picture_file(9, 2), 209, 20, 4, 2, question},
-                 {"no picture", picture_file(5, 2).substr(0, 8), 10, 20, 0, 0, question},
-                 {"claims too many", picture_file(5, 2, 30000), 10, 20, 0, 0, left_out},
-                 {"largest", picture_file(2000, 2000), 10, 20, 756, 1047, question}};
+    } cases[] = {
+        {"small", picture_file(5, 2), 10, 20, 5, 2, question},
+        {"off the paper", picture_file(5, 2), 10, 300, 0, 0, question},
+        {"over the edge", picture_file(9, 2), 209, 20, 4, 2, question},
+        {"no picture", picture_file(5, 2).substr(0, 8), 10, 20, 0, 0, question},
+        {"other kind", "P6 1 1 255\n\xFF\xFF\x01", 10, 20, 0, 0,
+         question + "Si leggono solo figure BMP, PNG, JPEG e GIF, non queste: c:\\LOGO.bmp|"},
+        {"claims too many", picture_file(5, 2, 30000), 10, 20, 0, 0, left_out},
+        {"largest", picture_file(2000, 2000), 10, 20, 756, 1047, question}};
     for (const auto& one : cases) {
         background_stage order;
         order.element({4, one.x, one.y, 3, 4}, " c:\\LOGO.bmp ");

@@ -11,6 +11,7 @@
 #include "documents/print_file_reader.h"
 #include "documents/printed_document.h"
 #include "support/file_bytes.h"
+#include "support/picture_file.h"
 #include "support/scratch_folder.h"
 #include "ui/desk_stage.h"
 #include "ui/pictures/pixbuf_decoder.h"
@@ -100,7 +101,7 @@ std::vector<std::string> good_contents() {
                    "\\logo.bmp\r\nArial\r\n 1 \r\n0\r\n";
     }
     std::vector<std::string> all{
-        printed, "P6 10 10 255\n" + std::string(300, '\x7F'),
+        printed, test::picture_file(10, 10),
         "/* XPM */ static char *x[] = {\"2 2 1 1\", \"a c #FF0000\", \"aa\", \"aa\"};", ""};
     const test::scratch_folder folder;
     demo::make_company({.numero_azienda = 1}, folder.path());

@@ -3,6 +3,7 @@
 #include <QColor>
 
 #include "run_of_program.h"
+#include "support/picture_file.h"
 #include "support/printed_pdf.h"
 
 namespace vantora::test {
@@ -37,7 +38,8 @@ record_di_stampa shape(tipo_record kind, double x1, double y1, double x2, double
 /// How marks look is the painter's affair; here, that each record becomes its mark.
 TEST_F(mirxpdf_pdf, EveryRecordIsDrawnInItsPlaceAndOrder) {
     // Two points, red and the light grey that is left out.
-    put(drive.at("mirwin/logo.ppm"), std::string("P6 2 1 255\n\xFF\0\0\xC0\xC0\xC0", 17));
+    put(drive.at("mirwin/logo.bmp"),
+        picture_file(2, 1, 0, std::string("\0\0\xFF\xC0\xC0\xC0\0\0", 8)));
     auto right_end = text_at(95, 100, "1.234,50");
     right_end.y2 = right_end.grassetto = 1;
     using enum tipo_record;
@@ -46,7 +48,7 @@ TEST_F(mirxpdf_pdf, EveryRecordIsDrawnInItsPlaceAndOrder) {
                shape(riquadro, 40, 30, 60, 50, 0xFF0000, 1),
                shape(linea, 20, 40, 80, 40, 0xFFFFFF, 1),
                shape(riquadro, 120, 60, 100, 20, 0xFF0000, 0),
-               {figura, 50, 70, 0, 0, 0, 0, " C:\\MIRWIN\\LOGO.PPM ", "", 0, 0},
+               {figura, 50, 70, 0, 0, 0, 0, " C:\\MIRWIN\\LOGO.BMP ", "", 0, 0},
                right_end,
                text_at(100, 110, "sinistra")}});
     const QImage page = made.page(1);

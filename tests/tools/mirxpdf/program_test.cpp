@@ -5,6 +5,7 @@
 #include "mirxpdf/carry_out.h"
 #include "run_of_program.h"
 #include "support/faulty_files.h"
+#include "support/picture_file.h"
 #include "support/printed_pdf.h"
 
 namespace vantora::test {
@@ -84,9 +85,9 @@ TEST(mirxpdf_program, WhateverTheDiskRefusesThereIsAWholePdfOrTheOneBefore) {
     int no_arguments = 0;
     const QApplication application(no_arguments, nullptr);
     pdf_drive drive;
-    put(drive.at("logo.ppm"), "P6 1 1 255\n\xFF\xFF\x01");
+    put(drive.at("logo.bmp"), picture_file(1, 1));
     drive.write_print_file({{text_at(20, 30, "Ordine"),
-                             {tipo_record::figura, 50, 70, 0, 0, 0, 0, "\\logo.ppm", "", 0, 0}}});
+                             {tipo_record::figura, 50, 70, 0, 0, 0, 0, "\\logo.bmp", "", 0, 0}}});
     vantora::drive real(drive.root());
     faulty_files disk(real);
     const auto request = mirxpdf::read_request(report_call);
