@@ -7,7 +7,7 @@
 
 #include "bench/measure.h"
 #include "bench/report_list.h"
-#include "desktop/system_ports.h"
+#include "desktop/printing/system_printer.h"
 #include "support/program_stage.h"
 
 namespace vantora::bench {

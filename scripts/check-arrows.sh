@@ -15,13 +15,14 @@ ui: text errors
 ui/pictures: ui
 ui/script: ui text
 ui/paper: ui text
-desktop: desktop/controls desktop/keys desktop/lists desktop/look desktop/printing windows ui ui/paper ui/script text
-desktop/controls: desktop desktop/keys desktop/lists desktop/look windows ui ui/paper text
-desktop/keys: desktop desktop/controls desktop/look ui text
-desktop/lists: desktop desktop/controls desktop/keys desktop/look windows ui ui/paper text
 desktop/look: ui
-desktop/printing: desktop desktop/look ui ui/paper
-windows: desktop desktop/controls desktop/keys desktop/lists desktop/look ui ui/paper text
+desktop/dialogs: desktop/look
+desktop/keys: desktop/look ui
+desktop/controls: desktop/dialogs desktop/keys desktop/look ui ui/paper text
+desktop/lists: desktop/dialogs desktop/keys desktop/look ui ui/paper text
+desktop/printing: desktop/dialogs desktop/look ui ui/paper
+desktop: desktop/controls desktop/keys desktop/lists desktop/look desktop/printing ui ui/paper ui/script text
+windows: desktop desktop/controls desktop/dialogs desktop/keys desktop/look register customer entry fulfil reports ui ui/paper
 program: orders store store/records text ui
 customer: program orders store store/records text ui
 documents: program orders store store/records text ui errors
@@ -30,7 +31,7 @@ register: enquiry program orders store store/records text ui
 entry: customer documents program orders store store/records text ui errors
 fulfil: customer documents entry program orders store store/records text ui errors
 reports: documents program orders store store/records text ui
-app: register enquiry customer entry fulfil reports documents program store store/records text ui desktop desktop/look ui/paper ui/pictures ui/script
+app: register enquiry customer entry fulfil reports documents program store store/records text ui desktop desktop/look desktop/printing windows ui/paper ui/pictures ui/script
 '
 
 git ls-files 'src/*.h' 'src/*.cpp' |

@@ -12,7 +12,7 @@
 #include <QStandardPaths>
 #include <algorithm>
 
-#include "desktop/words.h"
+#include "desktop/look/words.h"
 #include "store/company.h"
 #include "store/drive.h"
 #include "store/text_reader.h"
@@ -118,7 +118,7 @@ void company_choice::show_companies(const fs::path& drive) {
     const int last = QSettings().value(company_key, -1).toInt();
     for (const auto& [number, heading] : companies_on(drive)) {
         auto* item = new QListWidgetItem(
-            QString("%1   %2").arg(number, 3, 10, QChar('0')).arg(ui::shown(heading).simplified()),
+            QString("%1   %2").arg(number, 3, 10, QChar('0')).arg(ui::to_qt(heading).simplified()),
             companies_);
         item->setData(Qt::UserRole, number);
         if (companies_->count() == 1 || number == last) companies_->setCurrentItem(item);

@@ -12,10 +12,12 @@
 #include "desktop/desktop_front_end.h"
 #include "desktop/look/style.h"
 #include "desktop/outside_end.h"
+#include "desktop/printing/system_printer.h"
 #include "desktop/script_runner.h"
-#include "desktop/system_ports.h"
+#include "desktop/system_launcher.h"
 #include "store/drive.h"
 #include "ui/pictures/pixbuf_decoder.h"
+#include "windows/layouts.h"
 
 namespace {
 
@@ -102,7 +104,7 @@ int main(int count, char** arguments) {
     ui::local_clock time;
     if (options.clock) time.stop_at(*options.clock);
     ui::pixbuf_decoder pictures;
-    ui::desktop::desktop_front_end front;
+    ui::desktop::desktop_front_end front(ui::desktop::lay_out_screen);
 
     if (!options.script.empty()) {
         scripted_run script(options.script);

@@ -5,7 +5,6 @@
 #include <QMessageBox>
 #include <QPushButton>
 
-#include "desktop/lists/shown_lines.h"
 #include "desktop/look/box_look.h"
 #include "ui/desk.h"
 
@@ -24,7 +23,7 @@ constexpr const char* program_title = "Vantora Ordini";
 
 }  // namespace
 
-desktop_front_end::desktop_front_end() {
+desktop_front_end::desktop_front_end(screen_layouts layouts) : layouts_(std::move(layouts)) {
     since_events_.start();
 }
 
@@ -143,16 +142,20 @@ form_window* desktop_front_end::window_of(form& which) {
 }
 
 void desktop_front_end::form_loaded(form& which) {
+    const user by{[this](control& on, const std::function<void()>& action) { act(on, action); },
+                  next_step_ == nullptr};
     windows_[&which] = std::make_unique<form_window>(
-        which, [this](control& on, const std::function<void()>& action) { act(on, action); },
-        [this](form& closing) {
-            if (painting_ > 0) {
-                late_closing_ = window_of(closing);
-                return;
-            }
-            if (!desk_->obstacle(closing)) carry_out([&] { desk_->close(closing); });
-        },
-        [this](form& chosen) { come_forward(chosen); }, next_step_ == nullptr);
+        which, layouts_, by,
+        form_window::window_events{[this](form& closing) { close_by_user(closing); },
+                                   [this](form& chosen) { come_forward(chosen); }});
+}
+
+void desktop_front_end::close_by_user(form& closing) {
+    if (painting_ > 0) {
+        late_closing_ = window_of(closing);
+    } else if (!desk_->obstacle(closing)) {
+        carry_out([&] { desk_->close(closing); });
+    }
 }
 
 void desktop_front_end::come_forward(form& chosen) {
@@ -242,7 +245,7 @@ std::vector<box_button> buttons_of(const message_box& box) {
     std::vector<box_button> all;
     for (const std::string& caption : box.choices) {
         all.push_back(
-            {shown(caption), QMessageBox::ActionRole, static_cast<answer>(all.size() + 1)});
+            {to_qt(caption), QMessageBox::ActionRole, static_cast<answer>(all.size() + 1)});
     }
     return all;
 }
@@ -252,9 +255,9 @@ std::vector<box_button> buttons_of(const message_box& box) {
 void desktop_front_end::box_opened(const message_box& box) {
     QWidget* parent = desk_->active() ? window_of(*desk_->active()) : nullptr;
     auto* shown_box = new QMessageBox(parent);
-    shown_box->setWindowTitle(shown(box.title));
+    shown_box->setWindowTitle(to_qt(box.title));
     shown_box->setTextFormat(Qt::PlainText);
-    shown_box->setText(shown_lines(box.text));
+    shown_box->setText(to_qt_lines(box.text));
     for (const box_button& one : buttons_of(box)) {
         QPushButton* button = shown_box->addButton(one.caption, one.role);
         button->setProperty(answer_property, static_cast<int>(one.gives));
@@ -313,7 +316,7 @@ void desktop_front_end::report_fatal(const std::string& message) {
     if (next_step_) return;
     QMessageBox box;
     box.setWindowTitle(program_title);
-    box.setText(shown(message));
+    box.setText(to_qt(message));
     dress_box(box, icon::stop);
     box.exec();
 }

@@ -24,7 +24,7 @@ namespace vantora::ui::desktop {
 /// time; while the program waits inside one, the window system goes on.
 class desktop_front_end final : public front_end {
  public:
-    desktop_front_end();
+    explicit desktop_front_end(screen_layouts layouts = {});
     ~desktop_front_end() override;
 
     /// Tells whose front end this is. Called once, before the program starts.
@@ -81,10 +81,12 @@ class desktop_front_end final : public front_end {
     void paint();
     void close_late();
     form_window* window_of(form& which);
+    void close_by_user(form& closing);
     /// The user brings a window to the front.
     void come_forward(form& chosen);
     void show_pointer();
 
+    screen_layouts layouts_;
     desk* desk_ = nullptr;
     std::function<bool()> next_step_;
     answers_in_advance answers_;

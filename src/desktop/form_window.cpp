@@ -1,7 +1,9 @@
 #include "desktop/form_window.h"
 
+#include <QAbstractItemView>
 #include <QAccessible>
 #include <QCloseEvent>
+#include <QFormLayout>
 #include <QGroupBox>
 #include <QGuiApplication>
 #include <QLineEdit>
@@ -14,13 +16,11 @@
 #include <QVBoxLayout>
 
 #include "desktop/controls/grid_view.h"
-#include "desktop/controls/widget_binder.h"
-#include "desktop/keys/further_windows.h"
+#include "desktop/further_windows.h"
 #include "desktop/keys/manual.h"
 #include "desktop/lists/list_tools.h"
 #include "desktop/look/style.h"
 #include "ui/desk.h"
-#include "windows/layouts.h"
 
 namespace vantora::ui::desktop {
 
@@ -32,24 +32,22 @@ constexpr QSize frame_room(8, title_room + 6);
 
 }  // namespace
 
-form_window::form_window(form& screen, user_action act, std::function<void(form&)> close,
-                         std::function<void(form&)> come_forward, bool by_user)
-    : screen_(&screen),
-      act_(std::move(act)),
-      close_(std::move(close)),
-      come_forward_(std::move(come_forward)),
-      by_user_(by_user) {
-    setObjectName(shown(screen.name()));
-    setWindowTitle(shown(screen.title()));
-    for (control* one : screen.controls()) binders_[one] = make_binder(*one, this, act_);
+form_window::form_window(form& screen, const screen_layouts& layouts, user by, window_events events)
+    : screen_(&screen), by_(std::move(by)), events_(std::move(events)) {
+    setObjectName(to_qt(screen.name()));
+    setWindowTitle(to_qt(screen.title()));
+    for (control* one : screen.controls()) binders_[one] = make_binder(*one, this, by_);
     follow_controls_by_tab();
-    lay_out(*this);
-    add_list_tools(*this);
+    if (!layouts || !layouts(*this)) stack_controls();
+    for (const control* one : screen.controls()) {
+        if (one->kind() != control_kind::grid && one->kind() != control_kind::list_box) continue;
+        add_list_tools(*this, *one, static_cast<QAbstractItemView&>(widget_of(*one)));
+    }
     add_further_windows(*this);
     add_help(*this);
     make_scrollable();
     name_the_rest();
-    if (by_user_) recall();
+    if (by_person()) recall();
 }
 
 form_window::~form_window() {
@@ -63,34 +61,35 @@ void form_window::forget_screen() {
     for (auto& [model, one] : binders_) one->retire();
 }
 
-QWidget* form_window::widget(const char* name, int index) const {
-    const control* one =
-        screen_->find(name, index < 0 ? std::optional<int>{} : std::optional<int>(index));
-    return &binders_.at(one)->widget();
+QToolButton* form_window::dress(const button& command, const command_look& look,
+                                Qt::ToolButtonStyle style) {
+    QToolButton* shown = widget(command);
+    shown->setIcon(picture_named(look.icon));
+    shown->setText(QString::fromUtf8(look.caption));
+    shown->setToolButtonStyle(style);
+    shown->setToolTip(QString::fromUtf8(look.tooltip));
+    if (*look.shortcut != '\0') add_shortcut(*shown, look.shortcut);
+    shown->setAccessibleName(QString::fromUtf8(look.caption).remove('&'));
+    shown->setAccessibleDescription(QString::fromUtf8(look.tooltip));
+    return shown;
 }
 
-QWidget& form_window::widget_of(const control& one) const {
-    return binders_.at(&one)->widget();
-}
-
-void form_window::dress(const char* name, int index, const command_look& look,
-                        Qt::ToolButtonStyle style) {
-    auto* button = as<QToolButton>(name, index);
-    button->setIcon(picture_named(look.icon));
-    button->setText(QString::fromUtf8(look.caption));
-    button->setToolButtonStyle(style);
-    QString tip = QString::fromUtf8(look.tooltip);
-    button->setToolTip(tip);
-    if (*look.shortcut != '\0') add_shortcut(*button, look.shortcut);
-    button->setAccessibleName(QString::fromUtf8(look.caption).remove('&'));
-    button->setAccessibleDescription(QString::fromUtf8(look.tooltip));
+/// One below the other, for a screen without a layout.
+void form_window::stack_controls() {
+    auto* rows = new QFormLayout(this);
+    for (const control* one : screen_->controls()) {
+        if (one->kind() == control_kind::picture) continue;  // lies in front of all others
+        auto* column = new QVBoxLayout;                      // what goes with a list joins it there
+        column->addWidget(&widget_of(*one));
+        rows->addRow(to_qt(one->address()), column);
+    }
 }
 
 void form_window::open_further(std::size_t place) const {
     if (!screen_ || !screen_->further_windows()[place].can_open()) return;
     for (control* one : screen_->controls()) {
         if (screen_->desk().obstacle(*one)) continue;
-        return act_(*one, [this, place] { screen_->further_windows()[place].open(); });
+        return by_.act(*one, [this, place] { screen_->further_windows()[place].open(); });
     }
 }
 
@@ -163,7 +162,7 @@ void form_window::recall() {
 
 QSize form_window::size_on(const QRect& room) const {
     QSize size = first_size_;
-    if (by_user_) {
+    if (by_person()) {
         size = QSettings().value("windows/" + objectName() + "/size", size).toSize();
     }
     return size.boundedTo(room.size() - frame_room);
@@ -178,7 +177,7 @@ void form_window::appear(const window_place& place) {
     setWindowModality(modal ? Qt::ApplicationModal : Qt::NonModal);
     const bool full_screen = place.known
                                  ? place.full_screen
-                                 : by_user_ && QSettings().value("windows/maximised").toBool();
+                                 : by_person() && QSettings().value("windows/maximised").toBool();
     setWindowState(full_screen && !modal ? windowState() | Qt::WindowMaximized
                                          : windowState() & ~Qt::WindowMaximized);
     QRect inside(QPoint(), normal_size());
@@ -222,7 +221,7 @@ void form_window::select_text(control& one) {
 void form_window::closeEvent(QCloseEvent* event) {
     // The screen decides what closing means.
     event->ignore();
-    if (screen_) close_(*screen_);
+    if (screen_) events_.close(*screen_);
 }
 
 bool form_window::event(QEvent* event) {
@@ -231,11 +230,11 @@ bool form_window::event(QEvent* event) {
         open_manual(this);
         return true;
     }
-    if (event->type() == QEvent::Hide && placed_ && by_user_) {
+    if (event->type() == QEvent::Hide && placed_ && by_person()) {
         if (!isMaximized()) QSettings().setValue("windows/" + objectName() + "/size", size());
         if (!isModal()) QSettings().setValue("windows/maximised", isMaximized());
     }
-    if (event->type() == QEvent::WindowActivate && screen_) come_forward_(*screen_);
+    if (event->type() == QEvent::WindowActivate && screen_) events_.come_forward(*screen_);
     return QWidget::event(event);
 }
 

@@ -1,19 +1,28 @@
 #pragma once
 
 #include <QWidget>
-#include <algorithm>
+#include <functional>
 #include <map>
 #include <memory>
 #include <vector>
 
 #include "desktop/controls/binder.h"
 #include "desktop/keys/keys.h"
+#include "ui/controls.h"
 #include "ui/form.h"
 
+class QAbstractButton;
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QListView;
 class QScrollArea;
+class QScrollBar;
 class QToolButton;
 
 namespace vantora::ui::desktop {
+
+class grid_view;
 
 /// How a command that its screen shows by a picture looks.
 struct command_look {
@@ -30,43 +39,92 @@ struct window_place {
     bool full_screen = false;
 };
 
+/// What each kind of control is shown by.
+template <class Control>
+struct widget_kind {
+    using type = QWidget;
+};
+template <>
+struct widget_kind<text_box> {
+    using type = QLineEdit;
+};
+template <>
+struct widget_kind<label> {
+    using type = QLabel;
+};
+template <>
+struct widget_kind<button> {
+    using type = QToolButton;
+};
+template <>
+struct widget_kind<check_box> {
+    using type = QAbstractButton;
+};
+template <>
+struct widget_kind<option_button> {
+    using type = QAbstractButton;
+};
+template <>
+struct widget_kind<sorted_list_box> {
+    using type = QListView;
+};
+template <>
+struct widget_kind<drop_down> {
+    using type = QComboBox;
+};
+template <>
+struct widget_kind<scroll_bar> {
+    using type = QScrollBar;
+};
+template <>
+struct widget_kind<grid> {
+    using type = grid_view;
+};
+
+class form_window;
+
+/// Arranges the widgets of a screen's controls. False for a screen that it doesn't know: its
+/// controls then stand one below the other.
+using screen_layouts = std::function<bool(form_window&)>;
+
 /// The window of one screen. Makes the widgets of all its controls; the screen's layout arranges
 /// them.
 class form_window final : public QWidget {
  public:
-    /// `close` and `come_forward`: the user closes the window, or brings it to the front.
-    /// `by_user`: a person works it, not a script; sizes are then kept from run to run.
-    form_window(form& screen, user_action act, std::function<void(form&)> close,
-                std::function<void(form&)> come_forward, bool by_user);
+    /// What the user does with the window as a whole.
+    struct window_events {
+        std::function<void(form&)> close;
+        std::function<void(form&)> come_forward;
+    };
+
+    /// With a person at work, sizes are kept from run to run.
+    form_window(form& screen, const screen_layouts& layouts, user by, window_events events);
     ~form_window() override;
 
     [[nodiscard]] form& screen() const { return *screen_; }
-    /// Comforts that move marks or write days out are for persons; a script finds marks and texts
-    /// as the screens left them.
-    [[nodiscard]] bool by_user() const { return by_user_; }
+    [[nodiscard]] bool by_person() const { return by_.is_person; }
     /// The screen goes; the window follows when its events are over.
     void forget_screen();
 
     /// The widget of a control. REQUIRES: the screen has it.
-    [[nodiscard]] QWidget* widget(const char* name, int index = -1) const;
-    template <class Widget>
-    [[nodiscard]] Widget* as(const char* name, int index = -1) const {
-        return static_cast<Widget*>(widget(name, index));
+    template <class Control>
+    [[nodiscard]] auto* widget(const Control& of) const {
+        return static_cast<typename widget_kind<Control>::type*>(&widget_of(of));
     }
-
-    /// REQUIRES: the screen has the control.
-    [[nodiscard]] QWidget& widget_of(const control& one) const;
+    [[nodiscard]] QWidget& widget_of(const control& one) const {
+        return binders_.at(&one)->widget();
+    }
+    /// Whether the screen has a control of its class.
+    [[nodiscard]] bool has(const control& one) const { return binders_.contains(&one); }
 
     /// Gives a command its picture, caption and tooltip.
-    void dress(const char* name, int index, const command_look& look,
-               Qt::ToolButtonStyle style = Qt::ToolButtonTextUnderIcon);
+    QToolButton* dress(const button& command, const command_look& look,
+                       Qt::ToolButtonStyle style = Qt::ToolButtonTextUnderIcon);
 
     /// Carries out what the user does with a control by other means than its widget. Nothing, if
-    /// the screen has gone meanwhile or has no such control.
-    template <class Control = control, class Action>
-    void act_on(const char* name, int index, const Action& action) const {
-        control* one = screen_ ? screen_->find(name, std::max(index, 0)) : nullptr;
-        if (one) act_(*one, [&] { action(static_cast<Control&>(*one)); });
+    /// the screen has gone meanwhile.
+    void act_on(control& one, const std::function<void()>& action) const {
+        if (screen_) by_.act(one, action);
     }
 
     /// Opens one of the screen's further windows, if the user may do anything here now.
@@ -90,6 +148,7 @@ class form_window final : public QWidget {
     bool event(QEvent* event) override;
 
  private:
+    void stack_controls();
     void follow_controls_by_tab();
     /// What has no caption is called by what it is for, or by where it stands.
     void name_the_rest();
@@ -100,10 +159,8 @@ class form_window final : public QWidget {
     [[nodiscard]] QSize normal_size() const;
 
     form* screen_;  ///< null when it is gone
-    user_action act_;
-    std::function<void(form&)> close_;
-    std::function<void(form&)> come_forward_;
-    bool by_user_;
+    user by_;
+    window_events events_;
     bool placed_ = false;
     QSize first_size_{800, 500};
     QScrollArea* area_ = nullptr;

@@ -3,7 +3,7 @@
 #include <QAccessible>
 #include <QLabel>
 
-#include "desktop/words.h"
+#include "desktop/look/words.h"
 
 namespace vantora::ui::desktop {
 

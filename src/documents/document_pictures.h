@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "store/file_port.h"
-#include "ui/bitmap.h"
+#include "ui/picture_decoder.h"
 
 namespace vantora {
 

@@ -11,6 +11,8 @@ namespace vantora {
 
 namespace {
 
+constexpr std::string_view between = " - ";  // code and description of an entry
+
 std::string padded(std::string_view text, std::size_t width) {
     std::string result(text.substr(0, width));
     result.resize(width, ' ');
@@ -22,9 +24,13 @@ std::string entry_of(const rec_art& article, std::int64_t number, modo_lista mod
     const std::string_view description = article.descrizione.full();
     std::string entry;
     entry.reserve(160);
-    entry.append(mode == per_codice ? code : description).append(" - ");
+    entry.append(mode == per_codice ? code : description).append(between);
     entry.append(mode == per_codice ? description : code).append(90, ' ');
     return entry.append(std::to_string(number));
+}
+
+std::string_view part(std::string_view entry, std::size_t begin, std::size_t width) {
+    return trimmed(entry.substr(std::min(begin, entry.size()), width));
 }
 
 bool begins_with(std::string_view text, std::string_view capitals) {
@@ -62,6 +68,14 @@ std::vector<std::string> voci_articoli(const channel<blocco_articoli>& blocks,
 std::int16_t numero_articolo(std::string_view entry) {
     const std::size_t begin = entry.size() < 5 ? 0 : entry.size() - 5;
     return to_int16(number_at_head(entry.substr(begin))).value_or(0);
+}
+
+std::string_view codice_voce(std::string_view entry) {
+    return part(entry, 0, sizeof(rec_art::codice));
+}
+
+std::string_view descrizione_voce(std::string_view entry) {
+    return part(entry, sizeof(rec_art::codice) + between.size(), sizeof(rec_art::descrizione));
 }
 
 int cerca_voce(const std::vector<std::string>& entries, std::string_view wanted) {

@@ -23,6 +23,11 @@ std::vector<std::string> voci_articoli(
 /// The record number that an entry ends with, in its last five characters.
 std::int16_t numero_articolo(std::string_view entry);
 
+/// The code and the description of an entry that begins with the code, without the blanks around
+/// them.
+std::string_view codice_voce(std::string_view entry);
+std::string_view descrizione_voce(std::string_view entry);
+
 /// Position of the first entry that begins with the text, which is in capitals; -1 if none.
 int cerca_voce(const std::vector<std::string>& entries, std::string_view wanted);
 

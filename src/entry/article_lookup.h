@@ -15,7 +15,9 @@ namespace vantora {
 /// to `on_found`; which line takes it is its screen's business.
 class article_lookup {
  public:
-    explicit article_lookup(program& app) : app_(app) {}
+    explicit article_lookup(program& app) : app_(app) {
+        List1.columns = {{"Articolo", codice_voce}, {"Descrizione", descrizione_voce}};
+    }
     article_lookup(const article_lookup&) = delete;
     article_lookup& operator=(const article_lookup&) = delete;
 

@@ -1,8 +1,11 @@
 #pragma once
 
+#include <algorithm>
+
 #include "documents/document_tables.h"
 #include "entry/article_lookup.h"
 #include "entry/line_history.h"
+#include "entry/pasted_lines.h"
 #include "orders/totals.h"
 #include "program/program.h"
 #include "ui/controls.h"
@@ -64,6 +67,10 @@ class line_grid : public ui::form {
     [[nodiscard]] article_lookup& lookup() { return lookup_; }
     [[nodiscard]] const righe_ordine& lines() const { return righe_; }
     [[nodiscard]] const totali_ordine& totals() const { return totali_; }
+    /// The label that shows a total.
+    [[nodiscard]] const ui::label& label_of(totale_mostrato which) const {
+        return tota[std::ranges::find(kind_.tota, which) - kind_.tota];
+    }
 
     /// All that was changed since the window came up, back and forth.
     bool take_back() override;
@@ -167,11 +174,11 @@ class line_grid : public ui::form {
 
     class paste_report;
     void paste_lines(int row, std::string_view text, const ui::paste_progress& goes_on);
-    void paste_line(const ui::pasted_line& line, int& at, paste_report& report);
+    void paste_line(const pasted_line& line, int& at, paste_report& report);
     bool make_room(int at, int lines);
     /// The row of a line, scrolled into sight if need be.
     int row_showing(int line);
-    void type_line(const ui::pasted_line& line, int row);
+    void type_line(const pasted_line& line, int row);
 
     // Back and forth ------------------------------------------------------------------------------
 

@@ -1,7 +1,7 @@
 #include <algorithm>
 
 #include "entry/line_grid.h"
-#include "ui/pasted_lines.h"
+#include "entry/pasted_lines.h"
 
 namespace vantora {
 
@@ -13,11 +13,11 @@ namespace {
 
 constexpr std::size_t told_whole = 15;  ///< refused lines that the box tells with their texts
 
-constexpr const char* why_refused(ui::paste_fault fault) {
+constexpr const char* why_refused(paste_fault fault) {
     switch (fault) {
-        case ui::paste_fault::no_code:
+        case paste_fault::no_code:
             return "manca il codice";
-        case ui::paste_fault::number:
+        case paste_fault::number:
             return "numero non valido";
         default:
             return "troppe colonne";
@@ -32,7 +32,7 @@ void press_enter(ui::control& cell) {
 
 class line_grid::paste_report {
  public:
-    void refuse(const ui::pasted_line& line, std::string_view why) {
+    void refuse(const pasted_line& line, std::string_view why) {
         if (refused_++ < told_whole) {
             std::string source = line.source.substr(0, 60);
             std::ranges::replace(source, '\t', ' ');
@@ -58,7 +58,7 @@ class line_grid::paste_report {
 
 void line_grid::paste_lines(int row, std::string_view text, const ui::paste_progress& goes_on) {
     if (at_work() || row < 0 || row >= rows) return;
-    const auto lines = ui::read_pasted_lines(text);
+    const auto lines = read_pasted_lines(text);
     if (lines.empty()) return;
     paste_report report;
     {
@@ -84,8 +84,8 @@ void line_grid::paste_lines(int row, std::string_view text, const ui::paste_prog
 }
 
 /// `at`: the line that it takes; behind it, the next one.
-void line_grid::paste_line(const ui::pasted_line& line, int& at, paste_report& report) {
-    if (line.fault != ui::paste_fault::none) return report.refuse(line, why_refused(line.fault));
+void line_grid::paste_line(const pasted_line& line, int& at, paste_report& report) {
+    if (line.fault != paste_fault::none) return report.refuse(line, why_refused(line.fault));
     const std::int16_t article = lookup_.article_of(line.code);
     if (article == 0) return report.refuse(line, "articolo non trovato");
     const int below = static_cast<int>(long_text_of(article).size());
@@ -119,7 +119,7 @@ int line_grid::row_showing(int line) {
     return line - VScroll1.value();
 }
 
-void line_grid::type_line(const ui::pasted_line& line, int row) {
+void line_grid::type_line(const pasted_line& line, int row) {
     artic[row].set_focus();
     artic[row].set_text("");
     for (const char one : line.code) artic[row].press_key(ui::key::of(one), one);

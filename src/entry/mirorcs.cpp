@@ -19,7 +19,6 @@ constexpr line_grid_kind nuovo_ordine{.name = "mirorcs",
                                       .has_impegno = true};
 
 /// Commands of `comando` that only a new order has.
-enum { importa_ordine = stampante + 1, importa_preventivo };
 
 }  // namespace
 

@@ -9,6 +9,9 @@ class mirorcs final : public order_screen {
  public:
     explicit mirorcs(program& app);
 
+    /// Commands of `comando` beside those that all have.
+    enum { importa_ordine = stampante + 1, importa_preventivo };
+
     /// "0" while an order to import is being chosen in `mirpref`, which sets it to "1".
     ui::label numfat;
 

@@ -19,7 +19,6 @@ constexpr line_grid_kind ordine_da_modificare{.name = "mirorcz",
                                               .has_eva = true};
 
 /// Commands of `comando` of its own.
-enum { modifica_testata = 5, elimina = 6 };
 
 }  // namespace
 

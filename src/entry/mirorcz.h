@@ -11,6 +11,9 @@ class mirorcz final : public order_screen {
  public:
     explicit mirorcz(program& app);
 
+    /// Commands of `comando` beside those that all have.
+    enum { modifica_testata = stampante + 1, elimina };
+
  protected:
     void open() override;
     write_outcome store() override;

@@ -11,6 +11,9 @@ class mirorcc final : public customer_head {
  public:
     explicit mirorcc(program& app);
 
+    /// The list of `Combo1` that heads of orders have the payments in.
+    static constexpr int causale = pagamento;
+
     ui::drop_down Combo2;  ///< aspect of the goods
 
  protected:

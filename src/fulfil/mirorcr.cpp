@@ -52,8 +52,8 @@ mirorcr::mirorcr(program& app)
 void mirorcr::wire_events() {
     elenco.on_click = [this] { cell_clicked(); };
     ui::on_enter(quantita, [this] { close_editor(); });
-    bottone[0].on_click = [this] { close(); };
-    bottone[1].on_click = [this] { checkeva(); };
+    bottone[uscita].on_click = [this] { close(); };
+    bottone[conferma].on_click = [this] { checkeva(); };
 }
 
 void mirorcr::load() {

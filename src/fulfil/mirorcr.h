@@ -28,6 +28,9 @@ class mirorcr final : public ui::form {
         numero_ordine
     };
 
+    /// Commands of `bottone`.
+    enum { uscita, conferma };
+
     ui::grid elenco;
     ui::text_box quantita;  ///< over the cell of a quantity that is being typed
     ui::check_box aggiorna;

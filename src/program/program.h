@@ -6,7 +6,7 @@
 
 #include "store/archives.h"
 #include "store/parameters.h"
-#include "ui/bitmap.h"
+#include "ui/picture_decoder.h"
 #include "ui/screen.h"
 
 namespace vantora {

@@ -70,6 +70,10 @@ class report_screen : public ui::form {
     ui::progress_bar srt;
     ui::grid elenco;
 
+    /// The fields that this report has, in the order in which Enter goes through them.
+    [[nodiscard]] const std::vector<filtro>& filters() const { return kind_.filtri; }
+    [[nodiscard]] ui::control& filter(filtro which) { return field(which).control; }
+
     /// Builds the list. While that lasts the user may go on working: another call does nothing,
     /// leaving the screen ends it.
     void build_list();

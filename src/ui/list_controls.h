@@ -8,11 +8,18 @@
 
 namespace vantora::ui {
 
+/// A column of entries that hold several texts.
+struct entry_column {
+    std::string head;
+    std::string_view (*text)(std::string_view entry);
+};
+
 /// Entries of which one is chosen, or none (-1). Choosing another entry fires the click, by code
 /// as by hand; choosing the chosen one again fires only when a user does it.
 class list_control : public control {
  public:
     std::function<void()> on_click;
+    std::vector<entry_column> columns;  ///< none: an entry is one text
 
     [[nodiscard]] int count() const { return static_cast<int>(items_.size()); }
     [[nodiscard]] int chosen() const { return chosen_; }

@@ -2,6 +2,14 @@
 
 namespace vantora::ui {
 
+bool holds_pasted_lines(std::string_view text) {
+    constexpr std::string_view around = " \t\r\n\xA0";
+    const std::size_t first = text.find_first_not_of(around);
+    if (first == std::string_view::npos) return false;
+    const std::size_t end = text.find_last_not_of(around) + 1;
+    return text.substr(first, end - first).find_first_of("\n\r\t") != std::string_view::npos;
+}
+
 void text_control::set_text(std::string_view text) {
     if (text_ == text) return;
     text_ = text;

@@ -8,7 +8,6 @@
 #include "ui/bitmap.h"
 #include "ui/control.h"
 #include "ui/input_rule.h"
-#include "ui/pasted_lines.h"
 
 namespace vantora::ui {
 
@@ -26,6 +25,13 @@ class text_control : public control {
  private:
     std::string text_;
 };
+
+/// Told before each line of a paste, how many are done of how many; false breaks it off.
+using paste_progress = std::function<bool(int done, int of)>;
+
+/// Whether a text is lines from a spreadsheet and not a text for one field: it has several lines
+/// or columns behind tabs.
+bool holds_pasted_lines(std::string_view text);
 
 /// A field to type in.
 class text_box : public text_control {

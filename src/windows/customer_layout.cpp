@@ -1,6 +1,9 @@
 #include "windows/customer_layout.h"
 
-#include "windows/parts.h"
+#include <QLineEdit>
+#include <QScrollBar>
+
+#include "windows/layout_pieces.h"
 
 namespace vantora::ui::desktop {
 
@@ -12,43 +15,43 @@ constexpr const char* hint =
     "Per cercare un cliente utilizzare il cursore a lato oppure inserire nel campo sottostante il "
     "nominativo o la ragione sociale (o parte di essa) e clic sul bottone 'cerca'";
 
-const std::vector<frame_row>& registered_office_rows() {
-    static const std::vector<frame_row> rows = {
-        {"Intestazione ", {{"Text2", 0}}},
-        {"", {{"Text2", 1}}},
-        {"Indirizzo", {{"Text2", 2}}},
-        {"CAP Città", {{"Text2", 3, 6}, {"Text2", 4}}},
-        {"Codice fiscale", {{"Text2", 5}, {"Text2", 6, 2, "Partita iva"}, {"Text2", 7, 12}}},
+std::vector<frame_row> registered_office_rows(const customer_head& head) {
+    const auto& fields = head.Text2;
+    return {
+        {"Intestazione ", {{fields[0]}}},
+        {"", {{fields[1]}}},
+        {"Indirizzo", {{fields[2]}}},
+        {"CAP Città", {{fields[3], 6}, {fields[4]}}},
+        {"Codice fiscale", {{fields[5]}, {fields[6], 2, "Partita iva"}, {fields[7], 12}}},
     };
-    return rows;
 }
 
-const std::vector<frame_row>& administrative_office_rows() {
-    static const std::vector<frame_row> rows = {
-        {"Intestazione ", {{"Text2", 8}}},
-        {"", {{"Text2", 9}}},
-        {"Indirizzo", {{"Text2", 10}}},
-        {"CAP Città", {{"Text2", 11, 6}, {"Text2", 12}}},
-        {"Recapiti telefonici", {{"Text2", 13}, {"Text2", 14}, {"Text2", 15}}},
-        {"E Mail", {{"Text2", 16}}},
-        {"Vettori", {{"Combo3"}}},
-        {"Vettore usuale", {{"Text2", 17}}},
-        {"", {{"Text2", 18}}},
-        {"", {{"Text2", 19}}},
-        {"Note da stampare\nsui documenti", {{"Text2", 20}}},
-        {"", {{"Text2", 21}}},
+std::vector<frame_row> administrative_office_rows(const customer_head& head) {
+    const auto& fields = head.Text2;
+    return {
+        {"Intestazione ", {{fields[8]}}},
+        {"", {{fields[9]}}},
+        {"Indirizzo", {{fields[10]}}},
+        {"CAP Città", {{fields[11], 6}, {fields[12]}}},
+        {"Recapiti telefonici", {{fields[13]}, {fields[14]}, {fields[15]}}},
+        {"E Mail", {{fields[16]}}},
+        {"Vettori", {{head.Combo3}}},
+        {"Vettore usuale", {{fields[17]}}},
+        {"", {{fields[18]}}},
+        {"", {{fields[19]}}},
+        {"Note da stampare\nsui documenti", {{fields[20]}}},
+        {"", {{fields[21]}}},
     };
-    return rows;
 }
 
 /// A date picker beside its date shows its calendar alone.
 QWidget* field_of(form_window& window, const frame_field& field) {
-    QWidget* one = window.widget(field.name, field.index);
+    QWidget* one = &window.widget_of(field.shown);
     if (field.characters > 0) return sized(one, field.characters);
-    if (std::string_view(field.name) != "text5") return one;
+    if (field.shown.kind() != control_kind::date_picker) return one;
     one->setToolTip("Sceglie la data dal calendario (frecce: giorno per giorno)");
     set_look(one, "look", "calendar");
-    one->setFixedSize(32, window.widget("nome")->sizeHint().height());
+    one->setFixedSize(32, one->sizeHint().height());
     return one;
 }
 
@@ -81,9 +84,8 @@ QGridLayout* add_frame(form_window& window, QGroupBox* box, std::span<const fram
             stretches = stretches || one->minimumWidth() != one->maximumWidth();
         }
         if (!stretches) line->addStretch(1);
-        const frame_field& first = row.fields.front();
-        fields->addWidget(caption_of(window.widget(first.name, first.index), row.caption, box), at,
-                          0);
+        QWidget& first = window.widget_of(row.fields.front().shown);
+        fields->addWidget(caption_of(&first, row.caption, box), at, 0);
         fields->addLayout(line, at, 1);
     }
     return fields;
@@ -96,10 +98,10 @@ QGroupBox* frame(form_window& window, const char* title, std::span<const frame_r
     return box;
 }
 
-QGroupBox* registered_office(form_window& window) {
+QGroupBox* registered_office(form_window& window, customer_head& head) {
     auto* box = new QGroupBox("Sede legale e dati fiscali", &window);
-    QGridLayout* fields = add_frame(window, box, registered_office_rows());
-    auto* deleted = window.as<QLabel>("Label2");
+    QGridLayout* fields = add_frame(window, box, registered_office_rows(head));
+    QLabel* deleted = window.widget(head.Label2);
     set_look(deleted, "role", "warning");
     deleted->setWordWrap(true);
     fields->addWidget(deleted, fields->rowCount(), 0, 1, 2);
@@ -107,7 +109,7 @@ QGroupBox* registered_office(form_window& window) {
     return box;
 }
 
-QFrame* search_bar(form_window& window) {
+QFrame* search_bar(form_window& window, customer_head& head) {
     auto* bar = new QFrame(&window);
     set_look(bar, "role", "bar");
     auto* around = new QHBoxLayout(bar);
@@ -124,19 +126,15 @@ QFrame* search_bar(form_window& window) {
 
     auto* line = new QHBoxLayout;
     line->setSpacing(8);
+    QLineEdit* name = window.widget(head.nome);
+    line->addWidget(caption_of(name, "Nome/Ragione sociale cliente da cercare:", bar));
+    line->addWidget(name, 2);
+    line->addWidget(plain_command(window, head.b_cerca,
+                                  {"cerca", "&Cerca", "Cerca il cliente per nome", "F3"}));
     line->addWidget(
-        caption_of(window.widget("nome"), "Nome/Ragione sociale cliente da cercare:", bar));
-    line->addWidget(window.widget("nome"), 2);
-    window.dress("b_cerca", -1, {"cerca", "&Cerca", "Cerca il cliente per nome", "F3"},
-                 Qt::ToolButtonTextBesideIcon);
-    window.dress("b_lista", -1,
-                 {"rubrica", "&Lista clienti", "Sceglie il cliente da una lista", "F4"},
-                 Qt::ToolButtonTextBesideIcon);
-    for (const char* name : {"b_cerca", "b_lista"}) {
-        set_look(window.widget(name), "look", "plain");
-        line->addWidget(window.widget(name));
-    }
-    auto* cursor = window.widget("HScroll1");
+        plain_command(window, head.b_lista,
+                      {"rubrica", "&Lista clienti", "Sceglie il cliente da una lista", "F4"}));
+    QWidget* cursor = window.widget(head.HScroll1);
     cursor->setMinimumWidth(240);
     cursor->setFixedHeight(22);
     cursor->setToolTip("Scorre i clienti in ordine alfabetico");
@@ -148,25 +146,11 @@ QFrame* search_bar(form_window& window) {
 
 }  // namespace
 
-std::vector<frame_row> order_head_rows() {
-    return {
-        {"Numero attribuito all'ordine", {{"Text3", 0, 12}}},
-        {"Data di emissione",
-         {{"Text3", 1, 10}, {"text5", 0}, {"Text3", 2, 10, "Data evasione"}, {"text5", 1}}},
-        {"Riferimenti ordine", {{"Text3", 3}}},
-        {"", {{"Text3", 4}}},
-        {"", {{"Text3", 5}}},
-        {"Porto", {{"Combo1", 0}}},
-        {"Pagamento", {{"Combo1", 1}}},
-        {"Trasporto", {{"Combo1", 2}}},
-    };
-}
-
-void lay_out_customer(form_window& window, const customer_window& look) {
+void lay_out_customer(form_window& window, customer_head& head, const customer_window& look) {
     auto* all = new QVBoxLayout(&window);
     all->setContentsMargins(0, 0, 0, 0);
     all->setSpacing(0);
-    all->addWidget(search_bar(window));
+    all->addWidget(search_bar(window, head));
 
     auto* middle = new QWidget(&window);
     middle->setMaximumWidth(widest);
@@ -174,11 +158,11 @@ void lay_out_customer(form_window& window, const customer_window& look) {
     column->setContentsMargins(12, 8, 12, 8);
     auto* frames = new QGridLayout;
     frames->setSpacing(8);
-    frames->addWidget(registered_office(window), 0, 0);
+    frames->addWidget(registered_office(window, head), 0, 0);
     frames->addWidget(frame(window, look.frame, look.own), 1, 0);
     frames->addWidget(
-        frame(window, "Sede amministrativa e dati commerciali", administrative_office_rows()), 0, 1,
-        2, 1);
+        frame(window, "Sede amministrativa e dati commerciali", administrative_office_rows(head)),
+        0, 1, 2, 1);
     frames->setColumnStretch(0, 1);
     frames->setColumnStretch(1, 1);
     frames->setRowStretch(1, 1);
@@ -187,9 +171,9 @@ void lay_out_customer(form_window& window, const customer_window& look) {
     auto* foot = new QHBoxLayout;
     foot->addWidget(help_button(window));
     foot->addStretch(1);
-    window.dress("bottone", -1, look.go_on, Qt::ToolButtonTextOnly);
-    set_look(window.widget("bottone"), "look", "main");
-    foot->addWidget(window.widget("bottone"));
+    QToolButton* go_on = window.dress(head.bottone, look.go_on, Qt::ToolButtonTextOnly);
+    set_look(go_on, "look", "main");
+    foot->addWidget(go_on);
     column->addLayout(foot);
     column->addStretch(1);
     auto* around = new QHBoxLayout;

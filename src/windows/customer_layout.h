@@ -1,9 +1,9 @@
 #pragma once
 
-#include <initializer_list>
 #include <span>
 #include <vector>
 
+#include "customer/customer_head.h"
 #include "desktop/form_window.h"
 
 namespace vantora::ui::desktop {
@@ -11,10 +11,9 @@ namespace vantora::ui::desktop {
 // The window of a screen that shows a customer and holds the head of a document: what differs from
 // screen to screen is the frame with the document's own fields, and the way on.
 
-/// A field of a frame: a control of the screen by name and index, -1 for none.
+/// A field of a frame.
 struct frame_field {
-    const char* name;
-    int index = -1;
+    const control& shown;
     int characters = 0;        ///< how many shall fit; 0: it takes what is left
     const char* caption = "";  ///< of a field that isn't the first of its row
 };
@@ -31,9 +30,6 @@ struct customer_window {
     command_look go_on;          ///< the button that goes on
 };
 
-/// The rows of an order's head.
-std::vector<frame_row> order_head_rows();
-
-void lay_out_customer(form_window& window, const customer_window& look);
+void lay_out_customer(form_window& window, customer_head& head, const customer_window& look);
 
 }  // namespace vantora::ui::desktop

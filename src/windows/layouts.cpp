@@ -1,40 +1,43 @@
 #include "windows/layouts.h"
 
-#include <QFormLayout>
-
+#include "customer/mirdata.h"
+#include "customer/mirorcm.h"
+#include "customer/mirorcx.h"
+#include "customer/mirsel.h"
 #include "desktop/form_window.h"
+#include "entry/import_picker.h"
+#include "entry/mirorcs.h"
+#include "entry/mirorcz.h"
+#include "fulfil/mirorca.h"
+#include "fulfil/mirorcc.h"
+#include "fulfil/mirorcr.h"
+#include "register/mirorc.h"
+#include "reports/mirstoa.h"
+#include "reports/mirston.h"
 
 namespace vantora::ui::desktop {
 
 namespace {
 
-struct screen_layout {
-    std::string_view screen;
-    void (*lay_out)(form_window&);
-};
+template <class Screen>
+bool laid_out(form_window& window) {
+    auto* screen = dynamic_cast<Screen*>(&window.screen());
+    if (screen) lay_out(window, *screen);
+    return screen != nullptr;
+}
 
-constexpr screen_layout known_layouts[] = {
-    {"mirorc", lay_out_mirorc},   {"mirorcx", lay_out_mirorcx}, {"mirorcm", lay_out_mirorcm},
-    {"mirsel", lay_out_mirsel},   {"mirdata", lay_out_mirdata}, {"mirorcs", lay_out_mirorcs},
-    {"mirorcz", lay_out_mirorcz}, {"mirstoe", lay_out_mirstoe}, {"mirstos", lay_out_mirstos},
-    {"mirstov", lay_out_mirstov}, {"mirston", lay_out_mirston}, {"mirstoa", lay_out_mirstoa},
-    {"mirorcb", lay_out_import},  {"mirpref", lay_out_import},  {"mirorcc", lay_out_mirorcc},
-    {"mirorcr", lay_out_mirorcr}, {"mirorca", lay_out_mirorca},
-};
+/// The first of these that the screen is.
+template <class... Screens>
+bool laid_out_as_one_of(form_window& window) {
+    return (laid_out<Screens>(window) || ...);
+}
 
 }  // namespace
 
-void lay_out(form_window& window) {
-    for (const screen_layout& known : known_layouts) {
-        if (known.screen == window.screen().name()) return known.lay_out(window);
-    }
-    auto* rows = new QFormLayout(&window);
-    for (const control* one : window.screen().controls()) {
-        if (one->kind() == control_kind::picture) continue;  // lies in front of all others
-        auto* column = new QVBoxLayout;                      // what goes with a list joins it there
-        column->addWidget(window.widget(one->name().c_str(), one->index().value_or(-1)));
-        rows->addRow(shown(one->address()), column);
-    }
+bool lay_out_screen(form_window& window) {
+    return laid_out_as_one_of<mirorc, mirorcx, mirorcm, mirorcc, mirsel, mirdata, mirorcs, mirorcz,
+                              mirorca, mirorcr, import_picker, mirstoa, mirston, report_screen>(
+        window);
 }
 
 }  // namespace vantora::ui::desktop

@@ -1,29 +1,43 @@
 #pragma once
 
+namespace vantora {
+class import_picker;
+class mirdata;
+class mirorc;
+class mirorca;
+class mirorcc;
+class mirorcm;
+class mirorcr;
+class mirorcs;
+class mirorcx;
+class mirorcz;
+class mirsel;
+class mirstoa;
+class mirston;
+class report_screen;
+}  // namespace vantora
+
 namespace vantora::ui::desktop {
 
 class form_window;
 
-/// Arranges the widgets of a screen: by the screen's own layout, or one below the other for a
-/// screen that has none.
-void lay_out(form_window& window);
+/// Arranges the widgets of a screen of the program. False for any other screen.
+bool lay_out_screen(form_window& window);
 
 // One file a screen, or a family of them.
-void lay_out_mirorc(form_window& window);
-void lay_out_mirorcx(form_window& window);
-void lay_out_mirorcm(form_window& window);
-void lay_out_mirsel(form_window& window);
-void lay_out_mirdata(form_window& window);
-void lay_out_mirorcs(form_window& window);
-void lay_out_import(form_window& window);
-void lay_out_mirorcz(form_window& window);
-void lay_out_mirstoe(form_window& window);
-void lay_out_mirstos(form_window& window);
-void lay_out_mirstov(form_window& window);
-void lay_out_mirston(form_window& window);
-void lay_out_mirstoa(form_window& window);
-void lay_out_mirorcc(form_window& window);
-void lay_out_mirorcr(form_window& window);
-void lay_out_mirorca(form_window& window);
+void lay_out(form_window& window, mirorc& screen);
+void lay_out(form_window& window, mirorcx& screen);
+void lay_out(form_window& window, mirorcm& screen);
+void lay_out(form_window& window, mirorcc& screen);
+void lay_out(form_window& window, mirsel& screen);
+void lay_out(form_window& window, mirdata& screen);
+void lay_out(form_window& window, mirorcs& screen);
+void lay_out(form_window& window, mirorcz& screen);
+void lay_out(form_window& window, mirorca& screen);
+void lay_out(form_window& window, mirorcr& screen);
+void lay_out(form_window& window, import_picker& screen);
+void lay_out(form_window& window, mirstoa& screen);
+void lay_out(form_window& window, mirston& screen);
+void lay_out(form_window& window, report_screen& screen);
 
 }  // namespace vantora::ui::desktop

@@ -6,11 +6,10 @@
 #include <QLineEdit>
 #include <QScrollBar>
 #include <QStyle>
-#include <QToolTip>
 #include <QWheelEvent>
 
-#include "ui/value_controls.h"
-#include "windows/parts.h"
+#include "desktop/look/tip.h"
+#include "windows/layout_pieces.h"
 #include "windows/vat_pick.h"
 
 namespace vantora::ui::desktop {
@@ -30,17 +29,18 @@ bool tell_cut_text(QLineEdit& cell, const QHelpEvent& asked) {
     constexpr int margins = 14;  // dots
     const QString text = cell.text();
     if (cell.fontMetrics().horizontalAdvance(text) <= cell.width() - margins) return false;
-    QToolTip::showText(asked.globalPos(), text, &cell);
+    show_tip(asked.globalPos(), text, &cell);
     return true;
 }
 
 }  // namespace
 
-line_rows::line_rows(form_window& window)
+line_rows::line_rows(form_window& window, line_grid& screen)
     : QObject(&window),
       window_(window),
-      bar_(window.as<QScrollBar>("VScroll1")),
-      pick_(window.as<QComboBox>("Combo1")) {
+      screen_(screen),
+      bar_(window.widget(screen.VScroll1)),
+      pick_(window.widget(screen.Combo1)) {
     for (QLabel*& label : numbers_) {
         label = new QLabel(&window);
         label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -54,7 +54,7 @@ line_rows::line_rows(form_window& window)
     pick_->installEventFilter(this);
     take_wheel_over(bar_);
     connect(bar_, &QScrollBar::valueChanged, this, [this] { show_numbers(); });
-    new vat_pick(window, [this](int step) {
+    new vat_pick(window, screen.Combo1, [this](int step) {
         const int last = static_cast<int>(columns_.size()) - 1;
         const place code{std::max(current_, 0), last};
         if (step > 0) {
@@ -65,16 +65,17 @@ line_rows::line_rows(form_window& window)
     });
 }
 
-void line_rows::add_cell(const char* name, const char* head, int row, QWidget* cell) {
-    if (row == 0) {
-        columns_.push_back(name);
-        heads_ << (*head != '\0' ? spoken(head) : heads_.back() + " 2");
-        cells_.emplace_back();
+void line_rows::add_column(text_box (&cells)[line_grid::rows], const char* head) {
+    columns_.push_back(cells);
+    heads_ << (*head != '\0' ? spoken(head) : heads_.back() + " 2");
+    auto& column = cells_.emplace_back();
+    for (int row = 0; row < count; ++row) {
+        QWidget* cell = window_.widget(cells[row]);
+        set_look(cell, "cell", "true");
+        column[static_cast<std::size_t>(row)] = cell;
+        place_of_[cell] = {row, static_cast<int>(columns_.size()) - 1};
+        cell->installEventFilter(this);
     }
-    set_look(cell, "cell", "true");
-    cells_.back()[static_cast<std::size_t>(row)] = cell;
-    place_of_[cell] = {row, static_cast<int>(columns_.size()) - 1};
-    cell->installEventFilter(this);
 }
 
 void line_rows::take_wheel_over(QWidget* area) {
@@ -127,7 +128,8 @@ void line_rows::place_pick() {
 }
 
 void line_rows::scroll(int lines) {
-    window_.act_on<scroll_bar>("VScroll1", -1, [lines](scroll_bar& bar) {
+    scroll_bar& bar = screen_.VScroll1;
+    window_.act_on(bar, [&bar, lines] {
         bar.set_value(std::clamp(bar.value() + lines, bar.minimum(), bar.maximum()));
     });
 }
@@ -185,8 +187,8 @@ bool line_rows::go_to(place to, int step) {
         if (bar_->value() == before) return false;
         to.row -= step;
     }
-    window_.act_on(columns_[static_cast<std::size_t>(to.column)], to.row,
-                   [](control& cell) { cell.set_focus(); });
+    text_box& cell = columns_[static_cast<std::size_t>(to.column)][to.row];
+    window_.act_on(cell, [&cell] { cell.set_focus(); });
     return true;
 }
 

@@ -6,6 +6,8 @@
 #include <array>
 #include <vector>
 
+#include "entry/line_grid.h"
+
 class QComboBox;
 class QKeyEvent;
 class QLabel;
@@ -22,14 +24,14 @@ class form_window;
 /// lines, the pick of the VAT code lies over its row.
 class line_rows final : public QObject {
  public:
-    static constexpr int count = 12;
+    static constexpr int count = line_grid::rows;
 
     /// REQUIRES: the window's cells are made. The object belongs to the window.
-    explicit line_rows(form_window& window);
+    line_rows(form_window& window, line_grid& screen);
 
-    /// Column by column from left to right, row by row; `name` outlives the object. Those who
-    /// listen hear `head`, or if it is empty the one before, and the line's number.
-    void add_cell(const char* name, const char* head, int row, QWidget* cell);
+    /// A column behind the ones before, with the cells of its rows. Those who listen hear `head`,
+    /// or if it is empty the one before, and the line's number.
+    void add_column(text_box (&cells)[line_grid::rows], const char* head);
     /// Where the wheel moves the lines.
     void take_wheel_over(QWidget* area);
     /// Numbers the lines that stand in the rows. Called once all cells are added, and from then on
@@ -63,10 +65,11 @@ class line_rows final : public QObject {
     [[nodiscard]] bool passes_over(const place& cell) const;
 
     form_window& window_;
+    line_grid& screen_;
     QScrollBar* bar_;
     QComboBox* pick_;
     std::array<QLabel*, count> numbers_{};
-    std::vector<const char*> columns_;
+    std::vector<text_box*> columns_;                  ///< first cell of each
     QStringList heads_;                               ///< as they are heard
     std::vector<std::array<QWidget*, count>> cells_;  ///< by column
     QHash<const QObject*, place> place_of_;

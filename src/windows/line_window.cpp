@@ -6,10 +6,10 @@
 #include <QShortcut>
 #include <QSplitter>
 
-#include "desktop/file_dialog.h"
-#include "desktop/line_pasting.h"
-#include "desktop/words.h"
-#include "ui/value_controls.h"
+#include "desktop/controls/line_pasting.h"
+#include "desktop/dialogs/file_dialog.h"
+#include "desktop/keys/manual.h"
+#include "desktop/look/words.h"
 #include "windows/article_entries.h"
 #include "windows/line_rows.h"
 
@@ -27,31 +27,33 @@ constexpr int frame_margin = 14;        ///< dots, as frames are drawn, with som
 constexpr int stock_characters = 140;   ///< the record number behind them is not for the eye
 
 struct column {
-    const char* control;
+    text_box (line_grid::*cells)[line_grid::rows];
     const char* head;  ///< empty: the column before has it for both
     int characters;    ///< width; 0 takes what is left
     bool number;
 };
 
 constexpr column columns[] = {
-    {"artic", "Articolo", 13, false},  // a bar code
-    {"ds", "Descrizione", 0, false},  {"um", "U.m.", 3, false},   {"quantita", "Quantità", 8, true},
-    {"evaso", "Evaso", 7, true},      {"sc1", "Sconti", 3, true}, {"sc2", "", 3, true},
-    {"prezzo", "Prezzo", 9, true},    {"civ", "Iva", 2, false},
+    {&line_grid::artic, "Articolo", 13, false},  // a bar code
+    {&line_grid::ds, "Descrizione", 0, false},   {&line_grid::um, "U.m.", 3, false},
+    {&line_grid::quantita, "Quantità", 8, true}, {&line_grid::evaso, "Evaso", 7, true},
+    {&line_grid::sc1, "Sconti", 3, true},        {&line_grid::sc2, "", 3, true},
+    {&line_grid::prezzo, "Prezzo", 9, true},     {&line_grid::civ, "Iva", 2, false},
 };
 
-QWidget* command_bar(form_window& window, const std::vector<line_command>& commands) {
+QWidget* command_bar(form_window& window, line_grid& screen,
+                     const std::vector<line_command>& commands) {
     QHBoxLayout* row = command_row(window, 5);
     for (const line_command& one : commands) {
         // Leaving stands apart.
-        if (one.index == 0) row->addStretch(1);
-        window.dress("comando", one.index, one.look);
-        add_command(row, window.as<QToolButton>("comando", one.index), 26);
+        if (one.index == uscita) row->addStretch(1);
+        add_command(row, window.dress(screen.comando[one.index], one.look), 26);
     }
     return row->parentWidget();
 }
 
-void add_column(form_window& window, line_rows& lines, QGridLayout* cells, const column& one) {
+void add_column(form_window& window, text_box (&column_cells)[line_grid::rows], QGridLayout* cells,
+                const column& one) {
     const int at = cells->columnCount();
     if (*one.head == '\0') {
         cells->addWidget(cells->itemAtPosition(0, at - 1)->widget(), 0, at - 1, 1, 2);
@@ -63,9 +65,7 @@ void add_column(form_window& window, line_rows& lines, QGridLayout* cells, const
         cells->addWidget(head, 0, at);
     }
     for (int row = 0; row < rows; ++row) {
-        auto* cell = window.as<QLineEdit>(one.control, row);
-        lines.add_cell(one.control, one.head, row, cell);
-        set_look(cell, "column", one.control);
+        QLineEdit* cell = window.widget(column_cells[row]);
         if (one.number) cell->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         sized(cell, one.characters > 0 ? one.characters : widest_description, cell_margins);
         if (one.characters == 0) cell->setMinimumWidth(least_description);
@@ -77,7 +77,7 @@ void add_column(form_window& window, line_rows& lines, QGridLayout* cells, const
 }
 
 /// The lines move under the cells by pages; the cell keeps the focus.
-void add_paging(form_window& window, line_rows& lines) {
+void add_paging(form_window& window, line_grid& screen, line_rows& lines) {
     for (const int step : {-rows, rows}) {
         QShortcut* keys = add_key(window, step < 0 ? "PgUp" : "PgDown",
                                   step < 0 ? words::lines_up : words::lines_down);
@@ -85,39 +85,41 @@ void add_paging(form_window& window, line_rows& lines) {
         QObject::connect(keys, &QShortcut::activated, &window,
                          [&lines, step] { lines.scroll(step); });
     }
-    window.widget("VScroll1")->setToolTip(QString::fromUtf8("Righe da 1 a 200 (Pag su, Pag giù)"));
+    window.widget(screen.VScroll1)
+        ->setToolTip(QString::fromUtf8("Righe da 1 a 200 (Pag su, Pag giù)"));
 }
 
 /// Pasting lines and taking back what was done to many at once.
-void add_line_keys(form_window& window, line_rows& lines) {
-    const auto row = [&lines] { return std::max(lines.current(), 0); };
+void add_line_keys(form_window& window, line_grid& screen, line_rows& lines) {
+    const auto cell = [&screen, &lines]() -> text_box& {
+        return screen.artic[std::max(lines.current(), 0)];
+    };
     new told_key(window, "Ctrl+V", QString::fromUtf8(words::paste_key));
     QShortcut* file = add_key(window, "Ctrl+Shift+O", words::paste_file);
-    QObject::connect(file, &QShortcut::activated, &lines, [&window, row] {
+    QObject::connect(file, &QShortcut::activated, &lines, [&window, cell] {
         const QString chosen =
             ask_what_to_open(QString::fromUtf8(words::paste_file),
                              {QString::fromUtf8(words::csv_files), "csv"}, &window);
         if (chosen.isEmpty()) return;
         if (const auto text = lines_of_file(chosen, &window)) {
-            window.act_on<text_box>("artic", row(),
-                                    [&](text_box& cell) { paste_lines(cell, *text, &window); });
+            window.act_on(cell(), [&] { paste_lines(cell(), *text, &window); });
         }
     });
     // In the cells the keys reach the fields first, which do the same.
     QShortcut* back = add_key(window, "Ctrl+Z", words::change_back);
-    QObject::connect(back, &QShortcut::activated, &lines, [&window, row] {
-        window.act_on("artic", row(), [](control& cell) { cell.owner().take_back(); });
+    QObject::connect(back, &QShortcut::activated, &lines, [&window, &screen, cell] {
+        window.act_on(cell(), [&screen] { screen.take_back(); });
     });
     QShortcut* forth = add_key(window, "Ctrl+Shift+Z", words::change_forth);
     forth->setKeys({QKeySequence("Ctrl+Shift+Z"), QKeySequence("Ctrl+Y")});
-    QObject::connect(forth, &QShortcut::activated, &lines, [&window, row] {
-        window.act_on("artic", row(), [](control& cell) { cell.owner().bring_back(); });
+    QObject::connect(forth, &QShortcut::activated, &lines, [&window, &screen, cell] {
+        window.act_on(cell(), [&screen] { screen.bring_back(); });
     });
 }
 
-QGroupBox* line_frame(form_window& window) {
+QGroupBox* line_frame(form_window& window, line_grid& screen) {
     auto* box = new QGroupBox("Dettaglio documento", &window);
-    auto* lines = new line_rows(window);
+    auto* lines = new line_rows(window, screen);
     auto* table = new QWidget(box);
     table->setMaximumHeight(rows * tallest_row);
     auto* cells = new QGridLayout(table);
@@ -128,26 +130,35 @@ QGroupBox* line_frame(form_window& window) {
         cells->setRowStretch(row + 1, 1);
     }
     for (const column& one : columns) {
-        if (window.screen().find(one.control, 0)) add_column(window, *lines, cells, one);
+        auto& of_screen = screen.*one.cells;
+        if (!window.has(of_screen[0])) continue;
+        lines->add_column(of_screen, one.head);
+        add_column(window, of_screen, cells, one);
     }
     lines->show_numbers();
-    auto* bar = window.as<QScrollBar>("VScroll1");
+    QScrollBar* bar = window.widget(screen.VScroll1);
     bar->setOrientation(Qt::Vertical);
     bar->setFixedWidth(18);
     bar->setFocusPolicy(Qt::ClickFocus);
     lines->take_wheel_over(table);
     cells->addWidget(bar, 1, cells->columnCount(), rows, 1);
-    add_paging(window, *lines);
-    add_line_keys(window, *lines);
+    add_paging(window, screen, *lines);
+    add_line_keys(window, screen, *lines);
     table->setMaximumWidth(cells->totalMaximumSize().width());
     box->setMaximumWidth(table->maximumWidth() + 2 * frame_margin);
 
     QShortcut* vat = add_key(window, "F4", words::vat_of_line);
-    QObject::connect(vat, &QShortcut::activated, &window, [&window, lines] {
-        window.act_on("civ", lines->current(), [](control& cell) { cell.set_focus(); });
+    QObject::connect(vat, &QShortcut::activated, &window, [&window, &screen, lines] {
+        if (lines->current() < 0) return;
+        text_box& cell = screen.civ[lines->current()];
+        window.act_on(cell, [&cell] { cell.set_focus(); });
     });
     for (int row = 0; row < rows; ++row) {
-        window.widget("civ", row)->setToolTip("Sceglie il codice iva (F4)");
+        window.widget(screen.civ[row])->setToolTip("Sceglie il codice iva (F4)");
+        keep_f1(*window.widget(screen.ds[row]));
+        if (window.has(screen.evaso[row])) {
+            set_look(window.widget(screen.evaso[row]), "role", "told");
+        }
     }
 
     QShortcut* back = add_key(window, "F2", words::cell_before);
@@ -165,36 +176,33 @@ QGroupBox* line_frame(form_window& window) {
     return box;
 }
 
-QGroupBox* list_frame(form_window& window) {
+QGroupBox* list_frame(form_window& window, line_grid& screen) {
     auto* box = new QGroupBox("Lista articoli memorizzati in magazzino", &window);
     auto* column = new QVBoxLayout(box);
     column->setContentsMargins(0, 0, 0, 0);
-    auto* list = window.as<QListView>("List1");
+    list_control& articles = screen.lookup().List1;
+    QListView* list = window.widget(screen.lookup().List1);
     list->setFocusPolicy(Qt::ClickFocus);
-    list->setItemDelegate(new article_entries(list));
+    list->setItemDelegate(new article_entries(articles, list));
     list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     list->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     column->addWidget(list, 1);
     auto* line = new QHBoxLayout;
-    window.dress("command3d3", -1,
-                 {"aggiorna", "&Ricarica", "Rilegge la lista degli articoli", "F5"},
-                 Qt::ToolButtonTextBesideIcon);
-    window.dress("riordina", -1,
-                 {"riordina", "Ri&ordina righe", "Ordina le righe per codice", "Ctrl+R"},
-                 Qt::ToolButtonTextBesideIcon);
-    for (const char* name : {"command3d3", "riordina"}) {
-        set_look(window.widget(name), "look", "plain");
-        line->addWidget(window.widget(name));
-    }
+    line->addWidget(
+        plain_command(window, screen.command3d3,
+                      {"aggiorna", "&Ricarica", "Rilegge la lista degli articoli", "F5"}));
+    line->addWidget(
+        plain_command(window, screen.riordina,
+                      {"riordina", "Ri&ordina righe", "Ordina le righe per codice", "Ctrl+R"}));
     line->addStretch(1);
     column->addLayout(line);
     return box;
 }
 
-QFrame* stock_line(form_window& window) {
+QFrame* stock_line(form_window& window, line_grid& screen) {
     auto* frame = new QFrame(&window);
     set_look(frame, "role", "stock");
-    auto* stock = window.as<QLabel>("listx");
+    QLabel* stock = window.widget(screen.lookup().listx);
     stock->setFont(QFont("Liberation Mono", 9));
     stock->setFixedHeight(stock->fontMetrics().height() + 6);
     stock->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
@@ -207,10 +215,10 @@ QFrame* stock_line(form_window& window) {
 }
 
 /// Which order it is that is worked on.
-QFrame* head_strip(form_window& window) {
+QFrame* head_strip(form_window& window, const label& head) {
     auto* strip = new QFrame(&window);
     set_look(strip, "role", "head");
-    auto* text = window.as<QLabel>("testata");
+    QLabel* text = window.widget(head);
     text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     auto* line = new QHBoxLayout(strip);
     line->setContentsMargins(12, 4, 12, 4);
@@ -219,52 +227,59 @@ QFrame* head_strip(form_window& window) {
 }
 
 struct choice {
-    const char* control;
-    int index;
+    const control& shown;
     const char* keys;
     const char* tooltip;
 };
 
-constexpr choice choices[] = {
-    {"prezz", 0, "Alt+1", "Le righe prendono il primo prezzo dell'articolo"},
-    {"prezz", 1, "Alt+2", "Le righe prendono il secondo prezzo dell'articolo"},
-    {"barcode", -1, "Alt+B", "Le righe si registrano per codice a barre"},
-    {"impegno", -1, "Alt+G", "L'ordine impegna la giacenza degli articoli"},
-    {"postael", -1, "Alt+M", "Il documento si spedisce per posta elettronica"},
-    {"eva", -1, "Alt+V", "L'ordine non ha altro da evadere"},
-};
-
-QGridLayout* choice_table(form_window& window) {
+QGridLayout* choice_table(form_window& window, line_grid& screen) {
+    const choice choices[] = {
+        {screen.prezz[0], "Alt+1", "Le righe prendono il primo prezzo dell'articolo"},
+        {screen.prezz[1], "Alt+2", "Le righe prendono il secondo prezzo dell'articolo"},
+        {screen.lookup().barcode, "Alt+B", "Le righe si registrano per codice a barre"},
+        {screen.impegno, "Alt+G", "L'ordine impegna la giacenza degli articoli"},
+        {screen.postael, "Alt+M", "Il documento si spedisce per posta elettronica"},
+        {screen.eva, "Alt+V", "L'ordine non ha altro da evadere"},
+    };
     auto* table = new QGridLayout;
     table->setVerticalSpacing(4);
     table->setHorizontalSpacing(18);
     int at = 0;
     for (const choice& one : choices) {
-        if (!window.screen().find(one.control, std::max(one.index, 0))) continue;
-        auto* button = window.as<QAbstractButton>(one.control, one.index);
-        button->setToolTip(QString::fromUtf8(one.tooltip));
-        add_shortcut(*button, one.keys);
-        table->addWidget(button, at % 2, at / 2);
+        if (!window.has(one.shown)) continue;
+        auto& button = static_cast<QAbstractButton&>(window.widget_of(one.shown));
+        button.setToolTip(QString::fromUtf8(one.tooltip));
+        add_shortcut(button, one.keys);
+        table->addWidget(&button, at % 2, at / 2);
         ++at;
     }
     return table;
 }
 
-QHBoxLayout* foot_line(form_window& window, const char* const (&captions)[3]) {
+struct total_look {
+    totale_mostrato which;
+    const char* caption;
+};
+
+constexpr total_look totals[] = {{totale_mostrato::imponibile, "Totale imponibile"},
+                                 {totale_mostrato::complessivo, "Totale complessivo"},
+                                 {totale_mostrato::pezzi, "Numero pezzi"}};
+
+QHBoxLayout* foot_line(form_window& window, line_grid& screen) {
     auto* foot = new QHBoxLayout;
     foot->setSpacing(12);
-    QGridLayout* options = choice_table(window);
+    QGridLayout* options = choice_table(window, screen);
     foot->addLayout(options);
     foot->setAlignment(options, Qt::AlignVCenter);
     foot->addStretch(1);
-    for (int i = 0; i < 3; ++i) {
-        auto* total = window.as<QLabel>("tota", i);
+    for (const auto& [which, words] : totals) {
+        QLabel* total = window.widget(screen.label_of(which));
         set_look(total, "role", "total");
         total->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         total->setFixedWidth(136);
         auto* column = new QVBoxLayout;
         column->setSpacing(2);
-        auto* text = caption(captions[i], &window);
+        auto* text = caption(words, &window);
         set_look(text, "role", "faint");
         column->addWidget(text);
         column->addWidget(total);
@@ -275,13 +290,13 @@ QHBoxLayout* foot_line(form_window& window, const char* const (&captions)[3]) {
 
 }  // namespace
 
-void lay_out_line_window(form_window& window, const std::vector<line_command>& commands,
-                         const line_window_parts& parts) {
+void lay_out_lines(form_window& window, line_grid& screen,
+                   const std::vector<line_command>& commands, const line_window_parts& parts) {
     auto* all = new QVBoxLayout(&window);
     all->setContentsMargins(0, 0, 0, 0);
     all->setSpacing(0);
-    all->addWidget(command_bar(window, commands));
-    if (window.screen().find("testata", {})) all->addWidget(head_strip(window));
+    all->addWidget(command_bar(window, screen, commands));
+    if (parts.head) all->addWidget(head_strip(window, *parts.head));
 
     auto* body = new QVBoxLayout;
     body->setContentsMargins(10, 8, 10, 8);
@@ -292,16 +307,16 @@ void lay_out_line_window(form_window& window, const std::vector<line_command>& c
     middle->setObjectName("righe_e_lista");
     middle->setChildrenCollapsible(false);
     middle->setHandleWidth(10);
-    QGroupBox* lines = line_frame(window);
+    QGroupBox* lines = line_frame(window, screen);
     middle->addWidget(lines);
-    middle->addWidget(list_frame(window));
+    middle->addWidget(list_frame(window, screen));
     middle->setStretchFactor(0, 2);
     middle->setStretchFactor(1, 1);
     // The lines have room for what they hold; the list's descriptions want theirs.
     middle->setSizes({lines->minimumSizeHint().width(), list_width});
     body->addWidget(middle, 1);
-    body->addWidget(stock_line(window));
-    body->addLayout(foot_line(window, parts.totals));
+    body->addWidget(stock_line(window, screen));
+    body->addLayout(foot_line(window, screen));
     all->addLayout(body, 1);
 
     window.setMinimumSize(1040, 560);

@@ -1,6 +1,9 @@
 #pragma once
 
-#include "windows/parts.h"
+#include <vector>
+
+#include "entry/line_grid.h"
+#include "windows/layout_pieces.h"
 
 namespace vantora::ui::desktop {
 
@@ -12,13 +15,13 @@ struct line_command {
 
 /// In what such screens differ besides.
 struct line_window_parts {
-    QWidget* above = nullptr;  ///< between the commands and the lines
-    const char* totals[3] = {"Totale imponibile", "Totale complessivo", "Numero pezzi"};
+    const label* head = nullptr;  ///< tells which order or document it is
+    QWidget* above = nullptr;     ///< between the commands and the lines
 };
 
 /// Arranges a screen in which an order's lines are edited: its commands in the order given, the
 /// lines, the list of articles beside them, the stock line, options and totals.
-void lay_out_line_window(form_window& window, const std::vector<line_command>& commands,
-                         const line_window_parts& parts = {});
+void lay_out_lines(form_window& window, line_grid& screen,
+                   const std::vector<line_command>& commands, const line_window_parts& parts);
 
 }  // namespace vantora::ui::desktop

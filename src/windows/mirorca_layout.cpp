@@ -1,3 +1,8 @@
+#include "fulfil/mirorca.h"
+
+#include <QCheckBox>
+#include <QLineEdit>
+
 #include "windows/layouts.h"
 #include "windows/line_window.h"
 
@@ -5,19 +10,19 @@ namespace vantora::ui::desktop {
 
 namespace {
 
-QFrame* movement_bar(form_window& window) {
+QFrame* movement_bar(form_window& window, mirorca& screen) {
     auto* bar = new QFrame(&window);
     auto* line = new QHBoxLayout(bar);
     line->setContentsMargins(0, 0, 0, 0);
     line->setSpacing(8);
-    auto* unload = window.as<QAbstractButton>("scarica");
+    QAbstractButton* unload = window.widget(screen.scarica);
     unload->setToolTip("I beni escono dalla giacenza con un movimento di magazzino");
     add_shortcut(*unload, "Alt+G");
     line->addWidget(unload);
     line->addSpacing(18);
-    QWidget* document = window.widget("text1", 0);
-    QWidget* movement = window.widget("text1", 1);
-    QWidget* day = window.widget("Text");
+    QWidget* document = window.widget(screen.text1[0]);
+    QWidget* movement = window.widget(screen.text1[1]);
+    QWidget* day = window.widget(screen.Text);
     line->addWidget(caption_of(movement, "Movimento", bar));
     line->addWidget(sized(movement, 14));
     line->addWidget(caption_of(day, "Data", bar));
@@ -31,19 +36,19 @@ QFrame* movement_bar(form_window& window) {
 
 }  // namespace
 
-void lay_out_mirorca(form_window& window) {
-    lay_out_line_window(
-        window,
+void lay_out(form_window& window, mirorca& screen) {
+    lay_out_lines(
+        window, screen,
         {
-            {1, {"salva", "&Conferma", "Scarica il magazzino ed emette il documento", "F12"}},
-            {2,
+            {conferma,
+             {"salva", "&Conferma", "Scarica il magazzino ed emette il documento", "F12"}},
+            {inserisci_riga,
              {"inserisci", "&Inserisci riga", "Inserisce una riga vuota sopra la corrente", "F7"}},
-            {3, {"cancella", "Cance&lla riga", "Toglie la riga corrente", "Shift+F7"}},
-            {4, {"stampante", "S&tampante", "Imposta la stampante", "Ctrl+P"}},
-            {0, {"uscita", "&Annulla", "Lascia senza movimento e senza documento", "Ctrl+Q"}},
+            {cancella_riga, {"cancella", "Cance&lla riga", "Toglie la riga corrente", "Shift+F7"}},
+            {stampante, {"stampante", "S&tampante", "Imposta la stampante", "Ctrl+P"}},
+            {uscita, {"uscita", "&Annulla", "Lascia senza movimento e senza documento", "Ctrl+Q"}},
         },
-        {.above = movement_bar(window),
-         .totals = {"Numero pezzi", "Totale imponibile", "Totale complessivo"}});
+        {.head = &screen.testata, .above = movement_bar(window, screen)});
 }
 
 }  // namespace vantora::ui::desktop

@@ -1,18 +1,23 @@
+#include "fulfil/mirorcc.h"
+
 #include "windows/customer_layout.h"
 #include "windows/layouts.h"
 
 namespace vantora::ui::desktop {
 
-void lay_out_mirorcc(form_window& window) {
+void lay_out(form_window& window, mirorcc& head) {
     lay_out_customer(
-        window, {"Dati del trasporto",
-                 {{"Numero DDT", {{"Text3", 0, 10}, {"Text3", 1, 10, "Data"}, {"text5", 0}}},
-                  {"Causale trasporto", {{"Combo1", 1}}},
-                  {"Aspetto dei beni", {{"Combo2"}}},
-                  {"Numero colli", {{"Text3", 2, 10}, {"Text3", 3, 12, "Peso"}}},
-                  {"Porto", {{"Combo1", 0}, {"Combo1", 2, 0, "Trasporto"}}},
-                  {"Inizio trasporto", {{"Text3", 4, 10}, {"text5", 1}, {"Text3", 5, 6, "Ora"}}}},
-                 {"avanti", "&Prosegui", "Passa alle righe da evadere", "F12"}});
+        window, head,
+        {"Dati del trasporto",
+         {{"Numero DDT", {{head.Text3[0], 10}, {head.Text3[1], 10, "Data"}, {head.text5[0]}}},
+          {"Causale trasporto", {{head.Combo1[mirorcc::causale]}}},
+          {"Aspetto dei beni", {{head.Combo2}}},
+          {"Numero colli", {{head.Text3[2], 10}, {head.Text3[3], 12, "Peso"}}},
+          {"Porto",
+           {{head.Combo1[customer_head::porto]},
+            {head.Combo1[customer_head::trasporto], 0, "Trasporto"}}},
+          {"Inizio trasporto", {{head.Text3[4], 10}, {head.text5[1]}, {head.Text3[5], 6, "Ora"}}}},
+         {"avanti", "&Prosegui", "Passa alle righe da evadere", "F12"}});
 }
 
 }  // namespace vantora::ui::desktop

@@ -1,19 +1,17 @@
+#include "fulfil/mirorcr.h"
+
 #include <QLineEdit>
 #include <QShortcut>
 #include <QStyledItemDelegate>
 
 #include "desktop/look/contrast.h"
-#include "desktop/words.h"
+#include "desktop/look/words.h"
+#include "windows/layout_pieces.h"
 #include "windows/layouts.h"
-#include "windows/parts.h"
 
 namespace vantora::ui::desktop {
 
 namespace {
-
-constexpr int ordine = 0;
-constexpr int da_evadere = 5;
-constexpr int evaso = 6;
 
 /// Rows that leave stand out, whatever the stripes are.
 class leaving_rows final : public QStyledItemDelegate {
@@ -23,11 +21,11 @@ class leaving_rows final : public QStyledItemDelegate {
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
         QStyledItemDelegate::initStyleOption(option, index);
         option->text = option->text.trimmed();
-        if (index.siblingAtColumn(evaso).data().toString().isEmpty()) return;
+        if (index.siblingAtColumn(mirorcr::evaso).data().toString().isEmpty()) return;
         const QColor leaving(0xd7, 0xef, 0xdc);
         option->backgroundBrush = leaving;
         option->palette.setColor(QPalette::Text, readable_on(leaving));
-        if (index.column() == evaso) option->font.setBold(true);
+        if (index.column() == mirorcr::evaso) option->font.setBold(true);
     }
 };
 
@@ -38,45 +36,48 @@ struct grid_key {
 };
 
 /// What a click into a column does to the current row, by key.
-constexpr grid_key grid_keys[] = {{ordine, "F5", words::whole_order_leaves},
-                                  {da_evadere, "F6", words::whole_row_leaves},
-                                  {evaso, "F7", words::part_of_row_leaves}};
+constexpr grid_key grid_keys[] = {{mirorcr::ordine, "F5", words::whole_order_leaves},
+                                  {mirorcr::da_evadere, "F6", words::whole_row_leaves},
+                                  {mirorcr::evaso, "F7", words::part_of_row_leaves}};
 
-void add_grid_keys(form_window& window) {
+void add_grid_keys(form_window& window, mirorcr& screen) {
     for (const grid_key& one : grid_keys) {
         QShortcut* keys = add_key(window, one.keys, one.what);
-        QObject::connect(keys, &QShortcut::activated, &window, [&window, one] {
-            window.act_on<grid>("elenco", -1, [one](grid& list) {
-                if (list.row() > 0) list.click_cell(list.row(), one.column);
+        QObject::connect(keys, &QShortcut::activated, &window, [&window, &screen, one] {
+            window.act_on(screen.elenco, [&screen, one] {
+                const int row = screen.elenco.row();
+                if (row > 0) screen.elenco.click_cell(row, one.column);
             });
         });
     }
 }
 
-QWidget* worklist_bar(form_window& window) {
+QWidget* worklist_bar(form_window& window, mirorcr& screen) {
     QHBoxLayout* row = command_row(window, 5);
-    window.dress("bottone", 1, {"avanti", "&Conferma", "Evade le righe segnate", "F12"});
-    window.dress("bottone", 0, {"uscita", "&Esci", "Lascia senza evadere nulla", "Ctrl+Q"});
-    add_command(row, window.as<QToolButton>("bottone", 1), 26, true);
+    QToolButton* confirm = window.dress(screen.bottone[mirorcr::conferma],
+                                        {"avanti", "&Conferma", "Evade le righe segnate", "F12"});
+    QToolButton* leave = window.dress(screen.bottone[mirorcr::uscita],
+                                      {"uscita", "&Esci", "Lascia senza evadere nulla", "Ctrl+Q"});
+    add_command(row, confirm, 26, true);
     row->addSpacing(18);
-    auto* take = window.as<QAbstractButton>("aggiorna");
+    QAbstractButton* take = window.widget(screen.aggiorna);
     take->setToolTip("La destinazione e il vettore del documento sono quelli del primo ordine");
     add_shortcut(*take, "Alt+G");
     row->addWidget(take);
     row->addStretch(1);
-    add_command(row, window.as<QToolButton>("bottone", 0), 26, true);
+    add_command(row, leave, 26, true);
     return row->parentWidget();
 }
 
-QVBoxLayout* help_lines(form_window& window) {
+QVBoxLayout* help_lines(form_window& window, mirorcr& screen) {
     auto* lines = new QVBoxLayout;
     lines->setSpacing(2);
-    for (int i = 0; i < 3; ++i) {
+    for (std::size_t i = 0; i < std::size(screen.Label1); ++i) {
         auto* line = new QHBoxLayout;
         auto* keys = new QLabel(grid_keys[i].keys, &window);
         set_look(keys, "role", "faint");
         keys->setMinimumWidth(keys->fontMetrics().horizontalAdvance("F12 "));
-        auto* text = window.as<QLabel>("Label1", i);
+        QLabel* text = window.widget(screen.Label1[i]);
         text->setWordWrap(true);
         line->addWidget(keys, 0, Qt::AlignTop);
         line->addWidget(text, 1);
@@ -87,22 +88,22 @@ QVBoxLayout* help_lines(form_window& window) {
 
 }  // namespace
 
-void lay_out_mirorcr(form_window& window) {
-    auto* body = body_under(worklist_bar(window), window);
-    auto* view = window.as<grid_view>("elenco");
+void lay_out(form_window& window, mirorcr& screen) {
+    auto* body = body_under(worklist_bar(window, screen), window);
+    grid_view* view = window.widget(screen.elenco);
     view->setItemDelegate(new leaving_rows(view));
-    auto* quantity = window.as<QLineEdit>("quantita");
+    QLineEdit* quantity = window.widget(screen.quantita);
     quantity->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     set_look(quantity, "look", "over");
-    view->keep_over(quantity, evaso);
-    if (window.by_user()) view->begin_at_first();
-    add_grid_keys(window);
+    view->keep_over(quantity, mirorcr::evaso);
+    if (window.by_person()) view->begin_at_first();
+    add_grid_keys(window, screen);
 
     body->addWidget(view, 1);
     auto* foot = new QHBoxLayout;
     foot->setSpacing(24);
-    foot->addLayout(help_lines(window), 1);
-    auto* marked = window.as<QLabel>("segnate");
+    foot->addLayout(help_lines(window, screen), 1);
+    QLabel* marked = window.widget(screen.segnate);
     set_look(marked, "role", "total");
     foot->addWidget(marked, 0, Qt::AlignBottom);
     body->addLayout(foot);

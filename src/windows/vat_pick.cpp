@@ -11,10 +11,11 @@
 
 namespace vantora::ui::desktop {
 
-vat_pick::vat_pick(form_window& window, std::function<void(int)> leave)
+vat_pick::vat_pick(form_window& window, drop_down& codes, std::function<void(int)> leave)
     : QObject(&window),
       window_(window),
-      box_(window.as<QComboBox>("Combo1")),
+      codes_(codes),
+      box_(window.widget(codes)),
       leave_(std::move(leave)) {
     box_->installEventFilter(this);
     box_->view()->installEventFilter(this);
@@ -40,7 +41,7 @@ bool vat_pick::key_pressed(const QKeyEvent& key) {
         case Qt::Key_Down: {
             const int code = key.key() == Qt::Key_Up ? key::up : key::down;
             box_->hidePopup();
-            window_.act_on("Combo1", -1, [code](control& list) { list.press_key(code, {}); });
+            window_.act_on(codes_, [this, code] { codes_.press_key(code, {}); });
             return true;
         }
         case Qt::Key_Return:
@@ -76,7 +77,7 @@ void vat_pick::digit_typed(int digit) {
 
 void vat_pick::pick(int entry) {
     box_->hidePopup();
-    window_.act_on<drop_down>("Combo1", -1, [entry](drop_down& list) { list.pick(entry); });
+    window_.act_on(codes_, [this, entry] { codes_.pick(entry); });
 }
 
 }  // namespace vantora::ui::desktop

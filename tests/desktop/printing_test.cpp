@@ -3,7 +3,7 @@
 #include <QDialog>
 #include <QPrintPreviewWidget>
 
-#include "desktop/system_ports.h"
+#include "desktop/printing/system_printer.h"
 #include "support/file_bytes.h"
 #include "support/printed_pdf.h"
 #include "support/scratch_folder.h"

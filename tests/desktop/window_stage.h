@@ -13,6 +13,7 @@
 #include "desktop/look/style.h"
 #include "ui/desk.h"
 #include "ui/script/stage_ports.h"
+#include "windows/layouts.h"
 
 namespace vantora::ui::desktop::test {
 
@@ -58,7 +59,7 @@ class window_stage {
     local_clock time;
     script::recording_printer paper;
     script::recording_launcher programs;
-    desktop_front_end front;
+    desktop_front_end front{lay_out_screen};
     ui::desk desk{front, time, paper, programs};
 
  private:

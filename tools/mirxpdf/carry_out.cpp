@@ -13,7 +13,7 @@ namespace vantora::mirxpdf {
 
 namespace {
 
-using ui::shown;
+using ui::to_qt;
 
 QString explained(const errore_di_stampa& error) {
     const QString line = QString(" (riga %1)").arg(error.riga);
@@ -47,7 +47,7 @@ std::optional<QString> send(file_port& files, const pdf_request& request,
     const QString place = QString::fromStdString(files.locate(configuration).string());
     const auto addressees = read_addressees(to_utf8(request.addressee));
     if (addressees.empty()) {
-        return "indirizzo e-mail non valido: " + shown(request.addressee);
+        return "indirizzo e-mail non valido: " + to_qt(request.addressee);
     }
     const auto content = files.read_whole(configuration);
     if (!content && files.exists(configuration)) {
@@ -72,7 +72,7 @@ std::optional<QString> send(file_port& files, const pdf_request& request,
 
 int carry_out(const pdf_request& request, const std::optional<std::string>& print_file,
               file_port& files, const notices& tell) {
-    const QString source = shown(request.print_file);
+    const QString source = to_qt(request.print_file);
     if (!print_file) {
         tell.failure("Il file di stampa " + source + " non si può leggere.");
         return no_pdf;
@@ -116,7 +116,7 @@ int carry_out(const pdf_request& request, const std::optional<std::string>& prin
         tell.not_sent("Il documento non è stato inviato: " + *problem + "." + odd, place);
         return not_sent;
     }
-    tell.done(ready + " È stato inviato a " + shown(request.addressee) + ".", odd, place);
+    tell.done(ready + " È stato inviato a " + to_qt(request.addressee) + ".", odd, place);
     return all_done;
 }
 

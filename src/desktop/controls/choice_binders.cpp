@@ -2,8 +2,7 @@
 #include <QCheckBox>
 #include <QRadioButton>
 
-#include "desktop/controls/kinds.h"
-#include "desktop/controls/widget_binder.h"
+#include "desktop/controls/binder.h"
 #include "ui/choice_controls.h"
 
 namespace vantora::ui::desktop {
@@ -12,10 +11,10 @@ namespace {
 
 /// A check box or an option: the model decides whether it goes on, the widget follows.
 template <class Model, class Widget, void (Model::*Click)()>
-class choice_binder final : public widget_binder {
+class choice_binder final : public binder {
  public:
-    choice_binder(Model& model, QWidget* parent, const user_action& act)
-        : widget_binder(model, new Widget(parent), act), button_(as<Widget>()), model_(model) {
+    choice_binder(Model& model, QWidget* parent, const user& by)
+        : binder(model, new Widget(parent), by), button_(as<Widget>()), model_(model) {
         button_->setAutoExclusive(false);
         connect(button_, &QAbstractButton::clicked, this, [this] {
             act_click(*button_, [this] { (model_.*Click)(); });
@@ -26,7 +25,7 @@ class choice_binder final : public widget_binder {
 
  private:
     void show_value(aspect what) override {
-        if (what == aspect::text) button_->setText(shown(model_.text()));
+        if (what == aspect::text) button_->setText(to_qt(model_.text()));
         if (what != aspect::value) return;
         button_->setChecked(model_.on());
         // Tab stops once in a group of options, at the one that is on.
@@ -41,13 +40,13 @@ class choice_binder final : public widget_binder {
 
 }  // namespace
 
-std::unique_ptr<binder> bind_choice_kind(control& to, QWidget* parent, const user_action& act) {
+std::unique_ptr<binder> bind_choice_kind(control& to, QWidget* parent, const user& by) {
     if (to.kind() == control_kind::check_box) {
         return std::make_unique<choice_binder<check_box, QCheckBox, &check_box::toggle>>(
-            static_cast<check_box&>(to), parent, act);
+            static_cast<check_box&>(to), parent, by);
     }
     return std::make_unique<choice_binder<option_button, QRadioButton, &option_button::choose>>(
-        static_cast<option_button&>(to), parent, act);
+        static_cast<option_button&>(to), parent, by);
 }
 
 }  // namespace vantora::ui::desktop

@@ -3,10 +3,8 @@
 #include <QScrollBar>
 #include <QTableView>
 
+#include "desktop/controls/binder.h"
 #include "desktop/controls/grid_view.h"
-#include "desktop/controls/kinds.h"
-#include "desktop/controls/widget_binder.h"
-#include "desktop/lists/shown_lines.h"
 #include "desktop/look/contrast.h"
 #include "ui/grid.h"
 
@@ -33,7 +31,7 @@ class cells_model final : public QAbstractTableModel {
         const int col = index.column();
         switch (role) {
             case Qt::DisplayRole:
-                return shown(grid_.text(row, col));
+                return to_qt(grid_.text(row, col));
             case Qt::BackgroundRole:
                 return toolkit_colour(grid_.back_colour(row, col));
             case Qt::ForegroundRole:
@@ -45,9 +43,9 @@ class cells_model final : public QAbstractTableModel {
                 return told.isValid() ? told : cut_off(index);
             }
             case Qt::AccessibleTextRole: {
-                const QString text = shown(grid_.text(row, col));
+                const QString text = to_qt(grid_.text(row, col));
                 const std::string said = col == 0 ? notice(row) : std::string();
-                return said.empty() ? text : text + ", " + shown(said);
+                return said.empty() ? text : text + ", " + to_qt(said);
             }
             case Qt::FontRole:
                 return view_.is_set_off(row) ? QVariant(strong_) : QVariant();
@@ -57,7 +55,7 @@ class cells_model final : public QAbstractTableModel {
     }
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation along, int role) const override {
         if (along != Qt::Horizontal) return {};
-        if (role == Qt::DisplayRole) return shown(grid_.text(0, section));
+        if (role == Qt::DisplayRole) return to_qt(grid_.text(0, section));
         if (role == Qt::TextAlignmentRole) return aligned(section);
         return {};
     }
@@ -94,7 +92,7 @@ class cells_model final : public QAbstractTableModel {
         if (text.empty()) return {};
         // Each line as it is, however long.
         return "<p style='white-space:pre'>" +
-               shown_lines(text).toHtmlEscaped().replace('\n', QString("<br>")) + "</p>";
+               to_qt_lines(text).toHtmlEscaped().replace('\n', QString("<br>")) + "</p>";
     }
     [[nodiscard]] QVariant aligned(int col) const {
         const auto& columns = grid_.columns();
@@ -106,7 +104,7 @@ class cells_model final : public QAbstractTableModel {
     /// The text of a cell that its column is too narrow for.
     [[nodiscard]] QVariant cut_off(const QModelIndex& index) const {
         constexpr int margins = 12;  // dots, both sides
-        const QString text = shown(grid_.text(index.row() + 1, index.column()));
+        const QString text = to_qt(grid_.text(index.row() + 1, index.column()));
         const int room = view_.columnWidth(index.column()) - margins;
         return view_.fontMetrics().horizontalAdvance(text) > room ? QVariant(text) : QVariant();
     }
@@ -117,10 +115,10 @@ class cells_model final : public QAbstractTableModel {
 };
 
 /// The highlighted row and the first one in sight are those of the model, whoever moves them.
-class grid_binder final : public widget_binder {
+class grid_binder final : public binder {
  public:
-    grid_binder(grid& model, QWidget* parent, const user_action& act)
-        : widget_binder(model, new grid_view(model, parent), act),
+    grid_binder(grid& model, QWidget* parent, const user& by)
+        : binder(model, new grid_view(model, parent), by),
           view_(as<grid_view>()),
           model_(model),
           cells_(new cells_model(model, view_)) {
@@ -179,10 +177,10 @@ class grid_binder final : public widget_binder {
 
     void changed(aspect what) override {
         if (following_) return;
-        widget_binder::changed(what);
+        binder::changed(what);
         if (what != aspect::visibility || !model_.visible() || !stale_) return;
         stale_ = false;
-        widget_binder::changed(aspect::shape);
+        binder::changed(aspect::shape);
     }
 
     /// Where the view wants it, the mark goes with its entry.
@@ -235,7 +233,7 @@ class grid_binder final : public widget_binder {
             case Qt::Key_Down:
                 return arrow_pressed(event);
             default:
-                return widget_binder::key_pressed(event);
+                return binder::key_pressed(event);
         }
     }
 
@@ -250,7 +248,7 @@ class grid_binder final : public widget_binder {
         if (model_.row() == 0) return go_to(view_->verticalScrollBar()->value() + 1);
         const bool down = event.key() == Qt::Key_Down;
         const bool taken =
-            (down && !cells_->holds_text(model_.row() + 1)) || widget_binder::key_pressed(event);
+            (down && !cells_->holds_text(model_.row() + 1)) || binder::key_pressed(event);
         if (taken) view_->scrollTo(view_->currentIndex());
         return taken;
     }
@@ -268,8 +266,8 @@ class grid_binder final : public widget_binder {
 
 }  // namespace
 
-std::unique_ptr<binder> bind_grid(control& to, QWidget* parent, const user_action& act) {
-    return std::make_unique<grid_binder>(static_cast<grid&>(to), parent, act);
+std::unique_ptr<binder> bind_grid(control& to, QWidget* parent, const user& by) {
+    return std::make_unique<grid_binder>(static_cast<grid&>(to), parent, by);
 }
 
 }  // namespace vantora::ui::desktop

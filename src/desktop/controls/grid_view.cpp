@@ -270,7 +270,7 @@ void grid_view::keyboardSearch(const QString& typed) {
         since_typed_.isValid() && since_typed_.elapsed() < QApplication::keyboardInputInterval();
     since_typed_.start();
     typed_ = goes_on ? typed_ + typed : typed;
-    const std::string wanted = upper(taken(typed_));
+    const std::string wanted = upper(from_qt(typed_));
     const int column = sorted_ >= 0 ? sorted_ : search_column_;
     const int rows = model_.rows() - 1;
     // A text typed on may still fit the row that was found by its beginning.

@@ -4,8 +4,7 @@
 #include <QListView>
 #include <QMouseEvent>
 
-#include "desktop/controls/kinds.h"
-#include "desktop/controls/widget_binder.h"
+#include "desktop/controls/binder.h"
 #include "ui/list_controls.h"
 
 namespace vantora::ui::desktop {
@@ -23,7 +22,7 @@ class entries_model final : public QAbstractListModel {
     }
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override {
         if (role != Qt::DisplayRole || index.row() >= list_.count()) return {};
-        return shown(list_.item(index.row()));
+        return to_qt(list_.item(index.row()));
     }
     void reset() {
         beginResetModel();
@@ -34,10 +33,10 @@ class entries_model final : public QAbstractListModel {
     const list_control& list_;
 };
 
-class list_box_binder final : public widget_binder {
+class list_box_binder final : public binder {
  public:
-    list_box_binder(list_control& model, QWidget* parent, const user_action& act)
-        : widget_binder(model, new QListView(parent), act),
+    list_box_binder(list_control& model, QWidget* parent, const user& by)
+        : binder(model, new QListView(parent), by),
           view_(as<QListView>()),
           model_(model),
           entries_(new entries_model(model, view_)) {
@@ -65,7 +64,7 @@ class list_box_binder final : public widget_binder {
     [[nodiscard]] bool widget_takes(bool typed) const override { return typed; }
 
     bool eventFilter(QObject* watched, QEvent* event) override {
-        if (watched == &widget()) return widget_binder::eventFilter(watched, event);
+        if (watched == &widget()) return binder::eventFilter(watched, event);
         if (event->type() == QEvent::MouseButtonRelease) {
             const auto& mouse = static_cast<QMouseEvent&>(*event);
             const bool on_entry = view_->indexAt(mouse.position().toPoint()).isValid();
@@ -82,10 +81,10 @@ class list_box_binder final : public widget_binder {
     entries_model* entries_;
 };
 
-class drop_down_binder final : public widget_binder {
+class drop_down_binder final : public binder {
  public:
-    drop_down_binder(list_control& model, QWidget* parent, const user_action& act)
-        : widget_binder(model, new QComboBox(parent), act),
+    drop_down_binder(list_control& model, QWidget* parent, const user& by)
+        : binder(model, new QComboBox(parent), by),
           box_(as<QComboBox>()),
           model_(model),
           entries_(new entries_model(model, box_)) {
@@ -114,12 +113,12 @@ class drop_down_binder final : public widget_binder {
 
 }  // namespace
 
-std::unique_ptr<binder> bind_list_kind(control& to, QWidget* parent, const user_action& act) {
+std::unique_ptr<binder> bind_list_kind(control& to, QWidget* parent, const user& by) {
     auto& list = static_cast<list_control&>(to);
     if (to.kind() == control_kind::list_box) {
-        return std::make_unique<list_box_binder>(list, parent, act);
+        return std::make_unique<list_box_binder>(list, parent, by);
     }
-    return std::make_unique<drop_down_binder>(list, parent, act);
+    return std::make_unique<drop_down_binder>(list, parent, by);
 }
 
 }  // namespace vantora::ui::desktop

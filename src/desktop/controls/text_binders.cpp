@@ -5,10 +5,8 @@
 #include <QMouseEvent>
 #include <QToolButton>
 
-#include "desktop/controls/kinds.h"
-#include "desktop/controls/widget_binder.h"
-#include "desktop/form_window.h"
-#include "desktop/line_pasting.h"
+#include "desktop/controls/binder.h"
+#include "desktop/controls/line_pasting.h"
 #include "ui/desk.h"
 #include "ui/text_controls.h"
 
@@ -23,7 +21,7 @@ QString without_strange(QString text) {
     while (at < text.size()) {
         const qsizetype units = text[at].isHighSurrogate() ? 2 : 1;
         const QString one = text.mid(at, units);
-        if (one != replacement && taken(one).starts_with('?')) {
+        if (one != replacement && from_qt(one).starts_with('?')) {
             text.remove(at, units);
         } else {
             at += units;
@@ -32,10 +30,10 @@ QString without_strange(QString text) {
     return text;
 }
 
-class text_box_binder final : public widget_binder {
+class text_box_binder final : public binder {
  public:
-    text_box_binder(text_box& model, QWidget* parent, const user_action& act)
-        : widget_binder(model, new QLineEdit(parent), act), edit_(as<QLineEdit>()), model_(model) {
+    text_box_binder(text_box& model, QWidget* parent, const user& by)
+        : binder(model, new QLineEdit(parent), by), edit_(as<QLineEdit>()), model_(model) {
         connect(edit_, &QLineEdit::textEdited, this, [this](const QString& text) { edited(text); });
         show_all();
     }
@@ -45,7 +43,7 @@ class text_box_binder final : public widget_binder {
         const QString kept = without_strange(text);
         behind_cursor_ = text.size() - edit_->cursorPosition();
         this->act([&] {
-            const auto admitted = model_.accepts.admit(model_.text(), taken(kept));
+            const auto admitted = model_.accepts.admit(model_.text(), from_qt(kept));
             if (!admitted || kept != text) QApplication::beep();
             if (admitted) model_.set_text(*admitted);
         });
@@ -56,7 +54,7 @@ class text_box_binder final : public widget_binder {
     // A text that comes while the field is worked on is there to be typed over; one that the
     // hand itself typed stays with the cursor in it.
     void show_value(aspect) override {
-        const QString text = shown(model_.text());
+        const QString text = to_qt(model_.text());
         if (edit_->text() == text) return;
         edit_->setText(text);
         if (behind_cursor_) {
@@ -71,7 +69,7 @@ class text_box_binder final : public widget_binder {
     /// A day is written out when its field is left.
     void focus_lost() override {
         if (model_.accepts.holds != input_rule::content::day) return;
-        if (!static_cast<const form_window*>(edit_->window())->by_user()) return;
+        if (!by_person()) return;
         act([&] {
             const int year = model_.owner().desk().clock().now().day.year;
             const auto day = written_out_day(model_.text(), year);
@@ -82,7 +80,7 @@ class text_box_binder final : public widget_binder {
     [[nodiscard]] bool widget_takes(bool) const override { return true; }
 
     bool eventFilter(QObject* watched, QEvent* event) override {
-        const bool took = widget_binder::eventFilter(watched, event);
+        const bool took = binder::eventFilter(watched, event);
         if (event->type() == QEvent::FocusIn) found_ = edit_->text();
         return took;
     }
@@ -119,7 +117,7 @@ class text_box_binder final : public widget_binder {
             edited(found_);
             return true;
         }
-        return widget_binder::key_pressed(event);
+        return binder::key_pressed(event);
     }
 
     QLineEdit* edit_;
@@ -128,32 +126,30 @@ class text_box_binder final : public widget_binder {
     std::optional<qsizetype> behind_cursor_;  ///< while the hand's own change is shown
 };
 
-class label_binder final : public widget_binder {
+class label_binder final : public binder {
  public:
-    label_binder(label& model, QWidget* parent, const user_action& act)
-        : widget_binder(model, new QLabel(parent), act), label_(as<QLabel>()), model_(model) {
+    label_binder(label& model, QWidget* parent, const user& by)
+        : binder(model, new QLabel(parent), by), label_(as<QLabel>()), model_(model) {
         show_all();
     }
 
  private:
-    void show_value(aspect) override { label_->setText(shown(model_.text())); }
+    void show_value(aspect) override { label_->setText(to_qt(model_.text())); }
     bool eventFilter(QObject* watched, QEvent* event) override {
         if (event->type() == QEvent::MouseButtonRelease && model_.on_click) {
             act([this] { model_.click(); });
         }
-        return widget_binder::eventFilter(watched, event);
+        return binder::eventFilter(watched, event);
     }
 
     QLabel* label_;
     label& model_;
 };
 
-class button_binder final : public widget_binder {
+class button_binder final : public binder {
  public:
-    button_binder(button& model, QWidget* parent, const user_action& act)
-        : widget_binder(model, new QToolButton(parent), act),
-          button_(as<QToolButton>()),
-          model_(model) {
+    button_binder(button& model, QWidget* parent, const user& by)
+        : binder(model, new QToolButton(parent), by), button_(as<QToolButton>()), model_(model) {
         button_->setToolButtonStyle(Qt::ToolButtonTextOnly);
         connect(button_, &QToolButton::clicked, this,
                 [this] { act_click(*button_, [this] { model_.click(); }); });
@@ -163,7 +159,7 @@ class button_binder final : public widget_binder {
  private:
     // A command without a caption of its own is captioned by the screen's layout.
     void show_value(aspect what) override {
-        if (what == aspect::text && !model_.text().empty()) button_->setText(shown(model_.text()));
+        if (what == aspect::text && !model_.text().empty()) button_->setText(to_qt(model_.text()));
     }
 
     QToolButton* button_;
@@ -171,10 +167,10 @@ class button_binder final : public widget_binder {
 };
 
 /// A picture lies in the middle of its window, in front of everything, while there is one to see.
-class picture_binder final : public widget_binder {
+class picture_binder final : public binder {
  public:
-    picture_binder(picture& model, QWidget* parent, const user_action& act)
-        : widget_binder(model, new QLabel(parent), act), label_(as<QLabel>()), model_(model) {
+    picture_binder(picture& model, QWidget* parent, const user& by)
+        : binder(model, new QLabel(parent), by), label_(as<QLabel>()), model_(model) {
         show_all();
     }
 
@@ -201,16 +197,16 @@ class picture_binder final : public widget_binder {
 
 }  // namespace
 
-std::unique_ptr<binder> bind_text_kind(control& to, QWidget* parent, const user_action& act) {
+std::unique_ptr<binder> bind_text_kind(control& to, QWidget* parent, const user& by) {
     switch (to.kind()) {
         case control_kind::text_box:
-            return std::make_unique<text_box_binder>(static_cast<text_box&>(to), parent, act);
+            return std::make_unique<text_box_binder>(static_cast<text_box&>(to), parent, by);
         case control_kind::label:
-            return std::make_unique<label_binder>(static_cast<label&>(to), parent, act);
+            return std::make_unique<label_binder>(static_cast<label&>(to), parent, by);
         case control_kind::button:
-            return std::make_unique<button_binder>(static_cast<button&>(to), parent, act);
+            return std::make_unique<button_binder>(static_cast<button&>(to), parent, by);
         default:
-            return std::make_unique<picture_binder>(static_cast<picture&>(to), parent, act);
+            return std::make_unique<picture_binder>(static_cast<picture&>(to), parent, by);
     }
 }
 

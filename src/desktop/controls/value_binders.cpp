@@ -5,18 +5,17 @@
 #include <QScrollBar>
 #include <QTextCharFormat>
 
-#include "desktop/controls/kinds.h"
-#include "desktop/controls/widget_binder.h"
+#include "desktop/controls/binder.h"
 #include "ui/value_controls.h"
 
 namespace vantora::ui::desktop {
 
 namespace {
 
-class scroll_bar_binder final : public widget_binder {
+class scroll_bar_binder final : public binder {
  public:
-    scroll_bar_binder(scroll_bar& model, QWidget* parent, const user_action& act)
-        : widget_binder(model, new QScrollBar(Qt::Horizontal, parent), act),
+    scroll_bar_binder(scroll_bar& model, QWidget* parent, const user& by)
+        : binder(model, new QScrollBar(Qt::Horizontal, parent), by),
           bar_(as<QScrollBar>()),
           model_(model) {
         connect(bar_, &QScrollBar::valueChanged, this, [this](int value) {
@@ -30,7 +29,7 @@ class scroll_bar_binder final : public widget_binder {
  private:
     /// Left and right, as the bar lies; up and down are the model's.
     bool key_pressed(QKeyEvent& event) override {
-        if (widget_binder::key_pressed(event)) return true;
+        if (binder::key_pressed(event)) return true;
         if (event.key() != Qt::Key_Right && event.key() != Qt::Key_Left) return false;
         bar_->triggerAction(event.key() == Qt::Key_Right ? QScrollBar::SliderSingleStepAdd
                                                          : QScrollBar::SliderSingleStepSub);
@@ -49,12 +48,10 @@ class scroll_bar_binder final : public widget_binder {
     scroll_bar& model_;
 };
 
-class progress_binder final : public widget_binder {
+class progress_binder final : public binder {
  public:
-    progress_binder(progress_bar& model, QWidget* parent, const user_action& act)
-        : widget_binder(model, new QProgressBar(parent), act),
-          bar_(as<QProgressBar>()),
-          model_(model) {
+    progress_binder(progress_bar& model, QWidget* parent, const user& by)
+        : binder(model, new QProgressBar(parent), by), bar_(as<QProgressBar>()), model_(model) {
         show_all();
     }
 
@@ -68,10 +65,10 @@ class progress_binder final : public widget_binder {
     progress_bar& model_;
 };
 
-class date_binder final : public widget_binder {
+class date_binder final : public binder {
  public:
-    date_binder(date_picker& model, QWidget* parent, const user_action& act)
-        : widget_binder(model, new QDateEdit(parent), act), edit_(as<QDateEdit>()), model_(model) {
+    date_binder(date_picker& model, QWidget* parent, const user& by)
+        : binder(model, new QDateEdit(parent), by), edit_(as<QDateEdit>()), model_(model) {
         edit_->setCalendarPopup(true);
         edit_->setDisplayFormat("dd/MM/yyyy");
         edit_->setMinimumWidth(edit_->fontMetrics().horizontalAdvance("00/00/0000") + 52);
@@ -98,7 +95,7 @@ class date_binder final : public widget_binder {
  private:
     /// The calendar goes away after a choice as without one; the date stands by then.
     bool eventFilter(QObject* watched, QEvent* event) override {
-        if (watched == &widget()) return widget_binder::eventFilter(watched, event);
+        if (watched == &widget()) return binder::eventFilter(watched, event);
         if (event->type() == QEvent::Show) mark_today();
         if (event->type() == QEvent::Hide) this->act([&] { model_.choose(model_.value()); });
         return false;
@@ -126,14 +123,14 @@ class date_binder final : public widget_binder {
 
 }  // namespace
 
-std::unique_ptr<binder> bind_value_kind(control& to, QWidget* parent, const user_action& act) {
+std::unique_ptr<binder> bind_value_kind(control& to, QWidget* parent, const user& by) {
     switch (to.kind()) {
         case control_kind::scroll_bar:
-            return std::make_unique<scroll_bar_binder>(static_cast<scroll_bar&>(to), parent, act);
+            return std::make_unique<scroll_bar_binder>(static_cast<scroll_bar&>(to), parent, by);
         case control_kind::progress_bar:
-            return std::make_unique<progress_binder>(static_cast<progress_bar&>(to), parent, act);
+            return std::make_unique<progress_binder>(static_cast<progress_bar&>(to), parent, by);
         default:
-            return std::make_unique<date_binder>(static_cast<date_picker&>(to), parent, act);
+            return std::make_unique<date_binder>(static_cast<date_picker&>(to), parent, by);
     }
 }
 

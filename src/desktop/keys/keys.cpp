@@ -8,6 +8,7 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QMenu>
+#include <QPointer>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
@@ -15,15 +16,17 @@
 #include <QToolButton>
 #include <algorithm>
 
-#include "desktop/controls/widget_binder.h"
 #include "desktop/keys/manual.h"
-#include "desktop/words.h"
+#include "desktop/look/words.h"
 
 namespace vantora::ui::desktop {
 
 namespace {
 
 constexpr const char* told_name = "told_key";
+
+/// Set while a button is pressed by a key of its own.
+constexpr const char* by_key = "by_key";
 
 }  // namespace
 
@@ -45,6 +48,17 @@ QShortcut* add_key(QWidget& owner, const char* keys, const char* what) {
     shortcut->setAutoRepeat(false);
     new told_key(owner, keys, QString::fromUtf8(what));
     return shortcut;
+}
+
+void click_by_key(QAbstractButton& button) {
+    const QPointer<QAbstractButton> pressed(&button);
+    button.setProperty(by_key, true);
+    button.click();
+    if (pressed) pressed->setProperty(by_key, false);
+}
+
+bool clicked_by_key(const QAbstractButton& button) {
+    return button.property(by_key).toBool();
 }
 
 void add_shortcut(QAbstractButton& button, const char* keys) {

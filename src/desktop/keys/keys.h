@@ -32,6 +32,11 @@ class told_key final : public QObject {
 /// while it is held.
 QShortcut* add_key(QWidget& owner, const char* keys, const char* what);
 
+/// Presses a button as its keys do: where the screen doesn't move the focus, it stays.
+void click_by_key(QAbstractButton& button);
+/// Whether a button that is being clicked was pressed that way.
+bool clicked_by_key(const QAbstractButton& button);
+
 /// Further keys for a button, told by its tooltip and by the overview; pressed by them it leaves
 /// the focus where it is.
 void add_shortcut(QAbstractButton& button, const char* keys);

@@ -8,9 +8,19 @@
 #include <QUrl>
 
 #include "desktop/look/box_look.h"
-#include "desktop/words.h"
+#include "desktop/look/words.h"
 
 namespace vantora::ui::desktop {
+
+namespace {
+
+constexpr const char* own_f1 = "own_f1";
+
+}  // namespace
+
+void keep_f1(QWidget& field) {
+    field.setProperty(own_f1, true);
+}
 
 QString manual_file(const QString& programs) {
     for (const char* ending : {"pdf", "html"}) {
@@ -27,7 +37,7 @@ bool asks_for_manual(const QKeyEvent& key, const QWidget* focused) {
     if (key.key() != Qt::Key_F1 || key.modifiers() != Qt::NoModifier || key.isAutoRepeat()) {
         return false;
     }
-    return !focused || focused->property("column").toString() != "ds";
+    return !focused || !focused->property(own_f1).toBool();
 }
 
 void open_manual(QWidget* above) {

@@ -2,9 +2,9 @@
 
 #include <QProgressBar>
 
-#include "desktop/controls/binder.h"
-#include "desktop/words.h"
+#include "desktop/look/words.h"
 #include "ui/form.h"
+#include "ui/paper/toolkit_values.h"
 
 namespace vantora::ui::desktop {
 
@@ -26,7 +26,7 @@ QProgressBar* make_bar(const control& list, QWidget* place) {
     if (!place) {
         // The screen comes up with its list.
         bar->setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
-        bar->setWindowTitle(shown(list.owner().title()));
+        bar->setWindowTitle(to_qt(list.owner().title()));
         bar->setAttribute(Qt::WA_QuitOnClose, false);
         bar->setAttribute(Qt::WA_ShowWithoutActivating);
         bar->resize(bar_size.width(), 2 * bar_size.height());

@@ -9,11 +9,10 @@
 #include <QToolButton>
 #include <algorithm>
 
-#include "desktop/controls/binder.h"
-#include "desktop/form_window.h"
 #include "desktop/look/style.h"
-#include "desktop/words.h"
+#include "desktop/look/words.h"
 #include "text/searchable.h"
+#include "ui/paper/toolkit_values.h"
 
 namespace vantora::ui::desktop {
 
@@ -107,7 +106,7 @@ void list_find::search() {
             texts_.end_row();
         }
     }
-    wanted_ = searchable(taken(text_->text()));
+    wanted_ = searchable(from_qt(text_->text()));
     found_ = texts_.rows_with(wanted_);
 }
 

@@ -2,9 +2,9 @@
 
 #include <QSaveFile>
 
-#include "desktop/file_dialog.h"
+#include "desktop/dialogs/file_dialog.h"
 #include "desktop/lists/list_text.h"
-#include "desktop/words.h"
+#include "desktop/look/words.h"
 
 namespace vantora::ui::desktop {
 

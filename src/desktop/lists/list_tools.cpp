@@ -8,12 +8,11 @@
 #include <QMenu>
 #include <QShortcut>
 
-#include "desktop/form_window.h"
 #include "desktop/keys/keys.h"
 #include "desktop/lists/list_find.h"
 #include "desktop/lists/list_marks.h"
 #include "desktop/lists/list_saving.h"
-#include "desktop/words.h"
+#include "desktop/look/words.h"
 
 namespace vantora::ui::desktop {
 
@@ -32,7 +31,7 @@ QBoxLayout* box_around(const QWidget& widget, QLayout* below) {
 /// The tools of one list, and how they are reached.
 class list_tools final : public QObject {
  public:
-    list_tools(form_window& window, const shown_list& list, QBoxLayout& column)
+    list_tools(QWidget& window, const shown_list& list, QBoxLayout& column)
         : QObject(&list.view()),
           list_(list),
           window_(window),
@@ -94,7 +93,7 @@ class list_tools final : public QObject {
     }
 
     shown_list list_;
-    form_window& window_;
+    QWidget& window_;
     list_overlay* overlay_;
     list_find* find_;
     list_marks* marks_;
@@ -102,14 +101,10 @@ class list_tools final : public QObject {
 
 }  // namespace
 
-void add_list_tools(form_window& window) {
-    for (const control* one : window.screen().controls()) {
-        if (one->kind() != control_kind::grid && one->kind() != control_kind::list_box) continue;
-        auto& view = *window.as<QAbstractItemView>(one->name().c_str(), one->index().value_or(-1));
-        // A list without a place is never shown.
-        QBoxLayout* column = box_around(view, view.parentWidget()->layout());
-        if (column) new list_tools(window, shown_list(*one, view), *column);
-    }
+void add_list_tools(QWidget& window, const control& list, QAbstractItemView& view) {
+    // A list without a place is never shown.
+    QBoxLayout* column = box_around(view, view.parentWidget()->layout());
+    if (column) new list_tools(window, shown_list(list, view), *column);
 }
 
 }  // namespace vantora::ui::desktop

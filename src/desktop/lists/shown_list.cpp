@@ -1,12 +1,12 @@
 #include "desktop/lists/shown_list.h"
 
 #include <QAbstractItemView>
+#include <algorithm>
+#include <numeric>
 
-#include "desktop/words.h"
 #include "text/code_page.h"
 #include "ui/grid.h"
 #include "ui/list_controls.h"
-#include "windows/article_entries.h"
 
 namespace vantora::ui::desktop {
 
@@ -27,8 +27,12 @@ int shown_list::rows() const {
 }
 
 std::vector<int> shown_list::columns() const {
-    if (!is_grid()) return {0, 1};
     std::vector<int> shown;
+    if (!is_grid()) {
+        shown.resize(std::max<std::size_t>(as_list(model_).columns.size(), 1));
+        std::iota(shown.begin(), shown.end(), 0);
+        return shown;
+    }
     const auto& all = as_grid(model_).columns();
     for (std::size_t i = 0; i < all.size(); ++i) {
         if (all[i].width != 0) shown.push_back(static_cast<int>(i));
@@ -38,13 +42,16 @@ std::vector<int> shown_list::columns() const {
 
 std::string_view shown_list::head(int column) const {
     if (is_grid()) return as_grid(model_).text(0, column);
-    return column == 0 ? words::article_code : words::article_description;
+    const auto& columns = as_list(model_).columns;
+    return columns.empty() ? std::string_view() : columns[static_cast<std::size_t>(column)].head;
 }
 
 std::string_view shown_list::text(int row, int column) const {
     if (is_grid()) return trimmed(as_grid(model_).text(row + 1, column));
-    const auto parts = parts_of_article(as_list(model_).item(row));
-    return column == 0 ? parts.code : parts.description;
+    const list_control& list = as_list(model_);
+    const std::string& entry = list.item(row);
+    return list.columns.empty() ? trimmed(entry)
+                                : list.columns[static_cast<std::size_t>(column)].text(entry);
 }
 
 bool shown_list::holds_text(int row) const {

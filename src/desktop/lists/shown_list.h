@@ -15,7 +15,7 @@ class QRect;
 namespace vantora::ui::desktop {
 
 /// A list as it shows, for what finds, marks and copies in it: a grid's visible columns, or the
-/// entries of a list box as code and description. Rows count from 0; a grid's head is none of them.
+/// entries of a list box in their columns. Rows count from 0; a grid's head is none of them.
 /// REQUIRES: model and view outlive it.
 class shown_list {
  public:

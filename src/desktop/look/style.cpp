@@ -179,7 +179,7 @@ QLabel[role="total"] { background: white; border: 1px solid #d3dbe2; border-radi
                        padding: 4px 8px; font-weight: 600; }
 QFrame[role="head"] { background: #fbfcfd; border: none; border-bottom: 1px solid #d3dbe2; }
 QFrame[role="head"] QLabel { font-weight: 600; color: #24527a; }
-QLineEdit[column="evaso"] { color: #5a6a78; background: #f4f7f9; }
+QLineEdit[role="told"] { color: #5a6a78; background: #f4f7f9; }
 QFrame[role="bar"] { background: #f1f5f8; border: none; border-bottom: 1px solid #d3dbe2; }
 )";
 

@@ -11,9 +11,9 @@
 #include <QShortcut>
 #include <QToolButton>
 
-#include "desktop/file_dialog.h"
+#include "desktop/dialogs/file_dialog.h"
 #include "desktop/look/style.h"
-#include "desktop/words.h"
+#include "desktop/look/words.h"
 
 namespace vantora::ui::desktop {
 

@@ -29,7 +29,7 @@ constexpr struct {
 }  // namespace
 
 QFont page_font(const font& wanted) {
-    QStringList families{shown(wanted.name)};
+    QStringList families{to_qt(wanted.name)};
     for (const auto& one : stand_ins) {
         if (families[0].compare(one.name, Qt::CaseInsensitive) == 0) families << one.stand_in;
     }
@@ -47,7 +47,7 @@ QFont page_font(const font& wanted) {
 
 double page_text_width(std::string_view text, const font& in, const QPaintDevice& on) {
     const QFontMetricsF metrics(page_font(in), &on);
-    return metrics.horizontalAdvance(shown(text)) * 25.4 / on.logicalDpiX();
+    return metrics.horizontalAdvance(to_qt(text)) * 25.4 / on.logicalDpiX();
 }
 
 page_painter::page_painter(QPainter& painter)
@@ -65,7 +65,7 @@ void page_painter::text(double x, double y, std::string_view text, const font& i
     painter_.setFont(face);
     painter_.setPen(toolkit_colour(ink));
     const double ascent = QFontMetricsF(face, painter_.device()).ascent();
-    painter_.drawText(QPointF(dots(x), dots(y) + ascent), shown(text));
+    painter_.drawText(QPointF(dots(x), dots(y) + ascent), to_qt(text));
 }
 
 void page_painter::line(double x1, double y1, double x2, double y2, colour ink) {

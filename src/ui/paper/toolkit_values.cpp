@@ -1,10 +1,13 @@
 #include "ui/paper/toolkit_values.h"
 
+#include <QStringList>
+#include <algorithm>
+
 #include "text/code_page.h"
 
 namespace vantora::ui {
 
-QString shown(std::string_view text) {
+QString to_qt(std::string_view text) {
     std::string printable;
     printable.reserve(text.size());
     for (const char character : text) {
@@ -14,7 +17,17 @@ QString shown(std::string_view text) {
     return QString::fromStdString(to_utf8(printable));
 }
 
-std::string taken(const QString& text) {
+QString to_qt_lines(std::string_view text) {
+    QStringList lines;
+    for (std::size_t at = 0; at <= text.size();) {
+        const std::size_t end = std::min(text.find('\n', at), text.size());
+        lines << to_qt(text.substr(at, end - at));
+        at = end + 1;
+    }
+    return lines.join('\n');
+}
+
+std::string from_qt(const QString& text) {
     return from_utf8(text.toStdString());
 }
 

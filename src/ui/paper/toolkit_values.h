@@ -13,10 +13,13 @@ namespace vantora::ui {
 // What files and models hold, as the toolkit takes it.
 
 /// A text of the code page; control characters show as nothing.
-QString shown(std::string_view text);
+QString to_qt(std::string_view text);
+
+/// The same with its line breaks.
+QString to_qt_lines(std::string_view text);
 
 /// A text of the toolkit in the code page.
-std::string taken(const QString& text);
+std::string from_qt(const QString& text);
 
 QColor toolkit_colour(colour from);
 

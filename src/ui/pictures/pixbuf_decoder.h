@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/bitmap.h"
+#include "ui/picture_decoder.h"
 
 namespace vantora::ui {
 

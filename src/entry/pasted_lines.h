@@ -1,11 +1,10 @@
 #pragma once
 
-#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
 
-namespace vantora::ui {
+namespace vantora {
 
 /// Why a pasted line can't be typed.
 enum class paste_fault { none, no_code, number, columns };
@@ -23,17 +22,10 @@ struct pasted_line {
     std::string price;
 };
 
-/// Told before each line of a paste, how many are done of how many; false breaks it off.
-using paste_progress = std::function<bool(int done, int of)>;
-
-/// Whether a text is lines for an order and not a text for one field: it has several lines or
-/// columns behind tabs.
-bool holds_pasted_lines(std::string_view text);
-
 /// Reads lines whose columns are code; code, quantity; code, quantity, price; code, quantity,
 /// discounts ("10" or "10+5"), price; or code, quantity, two discounts, price. Between them stand
 /// tabs, else semicolons, else blanks. Decimal marks are Italian or points. Blank lines are left
 /// out.
 std::vector<pasted_line> read_pasted_lines(std::string_view text);
 
-}  // namespace vantora::ui
+}  // namespace vantora

@@ -6,6 +6,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QToolButton>
+#include <span>
 
 #include "desktop/controls/grid_view.h"
 #include "desktop/form_window.h"
@@ -26,9 +27,12 @@ QString spoken(const char* utf8);
 /// A text box made so wide that about `characters` fit; the margins are its frame's and some air.
 QWidget* sized(QWidget* field, int characters, int margins = 24);
 
-/// A grid with its "Riordina" buttons above the columns, `count` of the control array `name`.
-QVBoxLayout* grid_with_sort_buttons(form_window& window, const char* grid, const char* name,
-                                    int count);
+/// A grid with its "Riordina" buttons above the columns.
+QVBoxLayout* grid_with_sort_buttons(form_window& window, const grid& list,
+                                    std::span<const button> sorting);
+
+/// A command that stands among fields or under a list, with its caption beside its picture.
+QToolButton* plain_command(form_window& window, const button& command, const command_look& look);
 
 /// A bar for a window's commands, still empty, with so many dots above and below them. The bar is
 /// the row's parent.

@@ -1,8 +1,13 @@
-#include "ui/pasted_lines.h"
+#include "entry/pasted_lines.h"
 
 #include <gtest/gtest.h>
 
-namespace vantora::ui {
+#include "ui/text_controls.h"
+
+namespace vantora {
+
+using ui::holds_pasted_lines;
+
 namespace {
 
 std::string told(const pasted_line& line) {
@@ -44,4 +49,4 @@ TEST(PastedLines, OneFieldsTextIsNoLines) {
 }
 
 }  // namespace
-}  // namespace vantora::ui
+}  // namespace vantora

@@ -1,4 +1,4 @@
-#include "desktop/file_dialog.h"
+#include "desktop/dialogs/file_dialog.h"
 
 #include <QDir>
 #include <QFileDialog>
@@ -7,7 +7,7 @@
 #include <QStandardPaths>
 
 #include "desktop/look/box_look.h"
-#include "desktop/words.h"
+#include "desktop/look/words.h"
 
 namespace vantora::ui::desktop {
 

@@ -5,7 +5,6 @@
 #include <memory>
 #include <string>
 
-#include "ui/launcher.h"
 #include "ui/paper/recorded_pages.h"
 #include "ui/printer.h"
 
@@ -72,19 +71,6 @@ class system_printer final : public printer {
     bool preview_next_ = false;  ///< of one job
     recorded_pages recorded_;    ///< of the job at hand, if it is to be seen first
     int recorded_orientation_ = upright;
-};
-
-/// Starts programs of the suite, without a shell.
-class system_launcher final : public launcher {
- public:
-    /// `locate`: where a path of the suite lies in this system.
-    explicit system_launcher(std::function<std::string(std::string_view)> locate)
-        : locate_(std::move(locate)) {}
-
-    bool start(const std::string& command) override;
-
- private:
-    std::function<std::string(std::string_view)> locate_;
 };
 
 }  // namespace vantora::ui::desktop

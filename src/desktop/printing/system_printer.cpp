@@ -1,4 +1,4 @@
-#include "desktop/system_ports.h"
+#include "desktop/printing/system_printer.h"
 
 #include <QApplication>
 #include <QBoxLayout>
@@ -8,14 +8,13 @@
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinterInfo>
-#include <QProcess>
 #include <QPushButton>
 #include <QSettings>
 #include <QTimer>
 
-#include "desktop/file_dialog.h"
+#include "desktop/dialogs/file_dialog.h"
+#include "desktop/look/words.h"
 #include "desktop/printing/print_preview.h"
-#include "desktop/words.h"
 #include "ui/paper/toolkit_values.h"
 
 namespace vantora::ui::desktop {
@@ -197,7 +196,7 @@ void system_printer::end_job() {
 }
 
 void system_printer::set_job_name(std::string_view name) {
-    job_name_ = shown(name).replace('/', '-').trimmed();
+    job_name_ = to_qt(name).replace('/', '-').trimmed();
     if (job_name_.isEmpty()) job_name_ = words::nameless_job;
     printer_.setDocName(job_name_);
 }
@@ -223,14 +222,6 @@ bool system_printer::choose_settings() {
     preview_ = preview->isChecked();
     QSettings().setValue(preview_setting, preview_);
     return true;
-}
-
-bool system_launcher::start(const std::string& command) {
-    const std::size_t end = command.find(' ');
-    const std::string program = locate_(command.substr(0, end));
-    QStringList arguments;
-    if (end != std::string::npos) arguments << shown(command.substr(end + 1));
-    return QProcess::startDetached(QString::fromStdString(program), arguments);
 }
 
 }  // namespace vantora::ui::desktop

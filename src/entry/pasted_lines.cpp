@@ -1,11 +1,11 @@
-#include "ui/pasted_lines.h"
+#include "entry/pasted_lines.h"
 
 #include <algorithm>
 
 #include "text/code_page.h"
 #include "ui/input_rule.h"
 
-namespace vantora::ui {
+namespace vantora {
 
 namespace {
 
@@ -21,7 +21,7 @@ std::string_view stripped(std::string_view text) {
 }
 
 /// "digits, points, commas, one sign in front", as a hand types it; false for anything else.
-bool take_number(std::string_view text, const input_rule& rule, std::string& to) {
+bool take_number(std::string_view text, const ui::input_rule& rule, std::string& to) {
     text = stripped(text);
     if (text.empty()) return true;
     const std::string_view digits = text.substr(text[0] == '-' || text[0] == '+' ? 1 : 0);
@@ -53,7 +53,7 @@ fields separated(std::string_view line, char separator) {
 
 bool is_number(std::string_view text) {
     std::string ignored;
-    return !text.empty() && take_number(text, input_rule::number(), ignored);
+    return !text.empty() && take_number(text, ui::input_rule::number(), ignored);
 }
 
 /// Columns stand two blanks apart or more; one blank is enough before numbers.
@@ -78,7 +78,7 @@ fields aligned(std::string_view line) {
 }
 
 bool take_discounts(std::string_view text, pasted_line& line) {
-    const auto rule = input_rule::small_number();
+    const auto rule = ui::input_rule::small_number();
     text = stripped(text);
     while (!text.empty() && text.back() == '%') text = stripped(text.substr(0, text.size() - 1));
     const std::size_t plus = text.find('+', 1);
@@ -92,23 +92,19 @@ paste_fault take_fields(const fields& from, pasted_line& line) {
     line.code = stripped(from[0]);
     if (line.code.empty()) return paste_fault::no_code;
     const auto number = [](const std::string& text, std::string& to) {
-        return take_number(text, input_rule::number(), to);
+        return take_number(text, ui::input_rule::number(), to);
     };
     bool read = from.size() < 2 || number(from[1], line.quantity);
     if (from.size() > 2) read = read && number(from.back(), line.price);
     if (from.size() > 3) read = read && take_discounts(from[2], line);
     if (from.size() > 4) {
         read = read && line.discount2.empty() &&
-               take_number(from[3], input_rule::small_number(), line.discount2);
+               take_number(from[3], ui::input_rule::small_number(), line.discount2);
     }
     return read ? paste_fault::none : paste_fault::number;
 }
 
 }  // namespace
-
-bool holds_pasted_lines(std::string_view text) {
-    return stripped(text).find_first_of("\n\r\t") != std::string_view::npos;
-}
 
 std::vector<pasted_line> read_pasted_lines(std::string_view text) {
     const auto has = [text](char one) { return text.find(one) != std::string_view::npos; };
@@ -129,4 +125,4 @@ std::vector<pasted_line> read_pasted_lines(std::string_view text) {
     return lines;
 }
 
-}  // namespace vantora::ui
+}  // namespace vantora

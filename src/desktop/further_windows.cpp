@@ -1,4 +1,4 @@
-#include "desktop/keys/further_windows.h"
+#include "desktop/further_windows.h"
 
 #include <QFrame>
 #include <QHBoxLayout>

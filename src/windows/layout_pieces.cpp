@@ -1,4 +1,4 @@
-#include "windows/parts.h"
+#include "windows/layout_pieces.h"
 
 namespace vantora::ui::desktop {
 
@@ -63,13 +63,20 @@ QVBoxLayout* body_under(QWidget* commands, form_window& window) {
     return body;
 }
 
-QVBoxLayout* grid_with_sort_buttons(form_window& window, const char* grid, const char* name,
-                                    int count) {
+QToolButton* plain_command(form_window& window, const button& command, const command_look& look) {
+    QToolButton* made = window.dress(command, look, Qt::ToolButtonTextBesideIcon);
+    set_look(made, "look", "plain");
+    return made;
+}
+
+QVBoxLayout* grid_with_sort_buttons(form_window& window, const grid& list,
+                                    std::span<const button> sorting) {
     auto* strip = new QWidget(&window);
     strip->setFixedHeight(strip->fontMetrics().height() + 10);
-    auto* table = window.as<grid_view>(grid);
-    for (int i = 0; i < count; ++i) {
-        auto* button = window.as<QToolButton>(name, i);
+    grid_view* table = window.widget(list);
+    int column_sorted = 0;
+    for (const button& one : sorting) {
+        QToolButton* button = window.widget(one);
         button->setParent(strip);
         set_look(button, "look", "sort");
         if (button->text().isEmpty()) {
@@ -80,7 +87,7 @@ QVBoxLayout* grid_with_sort_buttons(form_window& window, const char* grid, const
             button->setToolTip(QString::fromUtf8("Riordina l'elenco su questa colonna"));
         }
         button->setGeometry(0, 1, 60, strip->height() - 3);
-        table->keep_above(i, button);
+        table->keep_above(column_sorted++, button);
     }
     auto* column = new QVBoxLayout;
     column->setSpacing(1);

@@ -1,4 +1,4 @@
-#include "desktop/line_pasting.h"
+#include "desktop/controls/line_pasting.h"
 
 #include <QClipboard>
 #include <QFile>
@@ -6,8 +6,8 @@
 #include <QProgressDialog>
 #include <QStringDecoder>
 
-#include "desktop/file_dialog.h"
-#include "desktop/words.h"
+#include "desktop/dialogs/file_dialog.h"
+#include "desktop/look/words.h"
 #include "ui/paper/toolkit_values.h"
 
 namespace vantora::ui::desktop {
@@ -21,13 +21,13 @@ std::string decoded(const QByteArray& bytes) {
     QStringDecoder decoder(marked.value_or(QStringConverter::Utf8));
     const QString text = decoder(bytes);
     // What is no UTF-8 is the code page of older spreadsheets, and of the files.
-    return decoder.hasError() ? bytes.toStdString() : taken(text);
+    return decoder.hasError() ? bytes.toStdString() : from_qt(text);
 }
 
 }  // namespace
 
 std::optional<std::string> lines_on_clipboard() {
-    const std::string text = taken(QGuiApplication::clipboard()->text());
+    const std::string text = from_qt(QGuiApplication::clipboard()->text());
     return holds_pasted_lines(text) ? std::optional(text) : std::nullopt;
 }
 

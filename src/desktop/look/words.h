@@ -40,8 +40,6 @@ inline constexpr const char* save_list = "Salva l'elenco in CSV";
 inline constexpr const char* csv_files = "File CSV";
 inline constexpr const char* list_as_pdf = "Genera il PDF della lista";
 inline constexpr const char* list_coming = "Lettura dell'archivio";
-inline constexpr const char* article_code = "Articolo";
-inline constexpr const char* article_description = "Descrizione";
 
 // Files ------------------------------------------------------------------------------------------
 
