@@ -1,133 +1,101 @@
-#include <CLI/CLI.hpp>
 #include <iostream>
-#include <map>
 
-#include "archive/check.h"
-#include "archive/export_csv.h"
-#include "archive/export_sqlite.h"
-#include "archive/repair.h"
-#include "archive/show.h"
+#include "archive/commands.h"
 #include "store/company.h"
+#include "store/drive.h"
 
-namespace {
+namespace vantora::archive {
 
-using namespace vantora::archive;
-
-constexpr int sound = 0;
-constexpr int has_findings = 1;
-constexpr int wrong_options = 2;
-constexpr int unreadable = 3;
-
-int run_check(company_files& company, bool json) {
-    const findings all = check_archive(company);
-    if (json) {
-        auto list = nlohmann::ordered_json::array();
-        for (const finding& one : all) list.push_back(as_json(one));
-        std::cout << list.dump(2, ' ', false, nlohmann::json::error_handler_t::replace) << '\n';
-    } else {
-        for (const finding& one : all) std::cout << in_one_line(one) << '\n';
-        if (all.empty()) std::cout << "The archive is sound.\n";
-    }
-    return is_sound(all) ? sound : has_findings;
+int which_company::number() const {
+    return numero_azienda_in(argument);
 }
 
-int run_export(company_files& company, const std::filesystem::path& target, bool plain) {
-    bool written = false;
-    if (target.extension() == ".sqlite") {
-        sqlite_file database(target);
-        export_tables(company, database);
-        written = database.finish();
-    } else {
-        csv_folder folder(target, plain);
-        export_tables(company, folder);
-        written = folder.good();
+std::unique_ptr<company_files> opened(const which_company& one) {
+    if (one.argument.empty()) {
+        std::cerr << "Manca la ditta, per esempio ordini007.\n";
+        return {};
     }
-    if (written) return sound;
-    std::cerr << target.string() << " can't be written.\n";
-    return unreadable;
+    auto company = std::make_unique<company_files>(one.drive, one.number());
+    if (company->folder_exists() && company->records().tot.is_open()) return company;
+    std::cerr << "Non c'è un archivio leggibile della ditta " << one.number() << " in " << one.drive
+              << ".\n";
+    return {};
 }
 
 bool asked_user() {
-    std::cout << "Go on? (y/n) " << std::flush;
+    std::cout << "Procedere? (s/n) " << std::flush;
     std::string line;
-    return std::getline(std::cin, line) && (line == "y" || line == "yes");
+    if (!std::getline(std::cin, line)) return false;
+    return line == "s" || line == "S" || line == "sì" || line == "Sì" || line == "SÌ" ||
+           line == "si" || line == "y" || line == "Y" || line == "yes";
 }
 
-const std::map<std::string, show_request::kind> kinds = {
-    {"orders", show_request::kind::orders},       {"order", show_request::kind::orders},
-    {"quotes", show_request::kind::quotes},       {"quote", show_request::kind::quotes},
-    {"customers", show_request::kind::customers}, {"customer", show_request::kind::customers},
-    {"articles", show_request::kind::articles},   {"article", show_request::kind::articles},
-    {"movements", show_request::kind::movements}, {"movement", show_request::kind::movements},
-    {"documents", show_request::kind::documents}, {"document", show_request::kind::documents},
-    {"counters", show_request::kind::counters}};
+namespace {
 
-std::vector<std::string> names_of_kinds() {
-    std::vector<std::string> names;
-    for (const auto& [name, kind] : kinds) names.push_back(name);
-    return names;
+/// What is wrong with a command line.
+std::string in_italian(const CLI::Error& problem) {
+    const std::string kind = problem.get_name();
+    if (kind == "RequiredError") return "manca il comando o un suo argomento";
+    if (kind == "ExtrasError") return "c'è qualcosa di troppo o di sconosciuto";
+    const std::string told = problem.what();
+    return told.substr(0, told.find(':')) + ": valore non ammesso";
+}
+
+/// The words of the command line itself.
+void speak_italian(CLI::App& program) {
+    program.option_defaults()->group("Opzioni");
+    program.group("Comandi");
+    program.set_help_flag("-h,--help", "mostra questo aiuto");
+    const auto words = std::make_shared<CLI::Formatter>();
+    words->label("Usage", "Uso");
+    words->label("Positionals", "Argomenti");
+    words->label("OPTIONS", "OPZIONI");
+    words->label("SUBCOMMAND", "COMANDO");
+    words->label("REQUIRED", "(necessario)");
+    words->label("TEXT", "TESTO");
+    words->label("TEXT:DIR", "CARTELLA");
+    words->label("INT", "NUMERO");
+    program.formatter(words);
+    program.failure_message([](const CLI::App*, const CLI::Error& problem) {
+        return "Comando non compreso: " + in_italian(problem) +
+               ".\nAiuto: vantora-archive --help, vantora-archive COMANDO --help\n";
+    });
+}
+
+/// Each command brings a help option of its own.
+void group_help(CLI::App& of) {
+    of.get_help_ptr()->group("Opzioni");
+    for (CLI::App* one : of.get_subcommands([](CLI::App*) { return true; })) group_help(*one);
+}
+
+int run(int count, char** arguments) {
+    CLI::App program("Cura l'archivio di una ditta: lo controlla, lo mostra, lo esporta");
+    speak_italian(program);
+    program.require_subcommand(1);
+    which_company company;
+    program.add_option("--drive", company.drive, "cartella che contiene l'albero della suite")
+        ->check(CLI::ExistingDirectory);
+    program.add_option("DITTA", company.argument,
+                       "argomento del menu della suite, per esempio ordini007");
+    const command commands[] = {check_command(program), show_command(program),
+                                export_command(program), repair_command(program)};
+    group_help(program);
+    try {
+        program.parse(count, arguments);
+    } catch (const CLI::ParseError& problem) {
+        return program.exit(problem) == 0 ? exit_code::done : exit_code::wrong_options;
+    }
+    for (const command& one : commands) {
+        if (*one.line) return one.run(company);
+    }
+    return exit_code::wrong_options;
 }
 
 }  // namespace
 
+}  // namespace vantora::archive
+
 int main(int count, char** arguments) {
     vantora::take_file_limits_as_errors();
-    CLI::App app("Looks after the archive of a company: checks, shows, exports it");
-    app.require_subcommand(1);
-    std::string drive = "/";
-    std::string argument;
-    app.add_option("--drive", drive, "folder that holds the suite's tree")
-        ->check(CLI::ExistingDirectory);
-    app.add_option("ARGUMENT", argument, "argument of the menu program, such as ordini007")
-        ->required();
-
-    bool json = false;
-    CLI::App* check = app.add_subcommand("check", "tells whether the archive is sound");
-    check->add_flag("--json", json, "for programs");
-
-    bool yes = false;
-    CLI::App* repair = app.add_subcommand("repair", "sets figures right");
-    repair->require_subcommand(1);
-    CLI::App* quantities = repair->add_subcommand(
-        "ordered-quantities", "what the articles have on order, from the open orders");
-    quantities->add_flag("--yes", yes, "don't ask");
-
-    show_request request;
-    CLI::App* show_records = app.add_subcommand("show", "shows records in words");
-    std::string what;
-    show_records->add_option("WHAT", what, "orders, quotes, customers, articles, ...")
-        ->required()
-        ->check(CLI::IsMember(names_of_kinds()));
-    show_records->add_option("NUMBER", request.number, "one of them")->check(CLI::Range(1, 32767));
-    show_records->add_flag("--json", request.json, "every field by its name");
-
-    std::string target;
-    bool plain = false;
-    CLI::App* save = app.add_subcommand("export", "writes all tables out");
-    save->add_option("TARGET", target, "a folder for CSV files, or FILE.sqlite")->required();
-    save->add_flag("--plain", plain, "CSV for programs instead of spreadsheets");
-
-    try {
-        app.parse(count, arguments);
-    } catch (const CLI::ParseError& problem) {
-        return app.exit(problem) == 0 ? sound : wrong_options;
-    }
-
-    const int number = vantora::numero_azienda_in(argument);
-    company_files company(drive, number);
-    if (!company.folder_exists() || !company.records().tot.is_open()) {
-        std::cerr << "There is no readable archive of company " << number << " in " << drive
-                  << ".\n";
-        return unreadable;
-    }
-    if (*check) return run_check(company, json);
-    if (*repair) {
-        return repair_ordered_quantities(
-            drive, number, [yes] { return yes || asked_user(); }, std::cout);
-    }
-    if (*save) return run_export(company, target, plain);
-    request.what = kinds.at(what);
-    if (show(company, request, std::cout)) return sound;
-    std::cerr << "There is no such record.\n";
-    return unreadable;
+    return vantora::archive::run(count, arguments);
 }

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <CLI/CLI.hpp>
+#include <functional>
+#include <memory>
+
+#include "archive/company_files.h"
+
+namespace vantora::archive {
+
+// The commands of the program, one file each: `command_NAME.cpp`.
+
+namespace exit_code {
+inline constexpr int done = 0;  ///< sound, shown, written
+inline constexpr int has_findings = 1;
+inline constexpr int refused = 1;
+inline constexpr int wrong_options = 2;
+inline constexpr int unreadable = 3;
+}  // namespace exit_code
+
+/// Which company the command line names.
+struct which_company {
+    std::string drive = "/";  ///< folder that holds the suite's tree
+    std::string argument;     ///< of the menu program; empty if none was given
+
+    [[nodiscard]] int number() const;
+};
+
+/// A command: its place in the command line, and what it does once that was read.
+struct command {
+    CLI::App* line = nullptr;
+    std::function<int(const which_company&)> run;
+};
+
+command check_command(CLI::App& program);
+command show_command(CLI::App& program);
+command export_command(CLI::App& program);
+command repair_command(CLI::App& program);
+
+/// The company's files, open for reading; says why and returns nothing where there are none.
+std::unique_ptr<company_files> opened(const which_company& one);
+
+/// Asks on the terminal whether to go on.
+bool asked_user();
+
+}  // namespace vantora::archive
