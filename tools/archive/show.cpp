@@ -3,7 +3,6 @@
 #include <nlohmann/json.hpp>
 #include <ostream>
 
-#include "archive/fields.h"
 #include "archive/words.h"
 #include "orders/order_rows.h"
 #include "text/dates.h"
@@ -33,7 +32,9 @@ ordered_json value_of(double field) {
 template <class Record>
 ordered_json all_fields(const Record& one) {
     ordered_json object;
-    visit_fields(one, [&](const char* name, const auto& field) { object[name] = value_of(field); });
+    visit_fields(one, [&](const auto& field, const auto& value) {
+        object[std::string(field.name)] = value_of(value);
+    });
     return object;
 }
 

@@ -1,8 +1,6 @@
 #pragma once
 
-#include <cstddef>
-
-#include "store/fields.h"
+#include "store/record_fields.h"
 
 namespace vantora {
 
@@ -31,27 +29,18 @@ struct rec_gnr {
     text<90> riservato_bl;
 };
 
-static_assert(sizeof(rec_gnr) == 346 && alignof(rec_gnr) == 1);
-static_assert(offsetof(rec_gnr, interi_iniziali) == 0);
-static_assert(offsetof(rec_gnr, vista_registro) == 8);
-static_assert(offsetof(rec_gnr, intero_sesto) == 10);
-static_assert(offsetof(rec_gnr, riservato_bc) == 12);
-static_assert(offsetof(rec_gnr, riservato_bd) == 18);
-static_assert(offsetof(rec_gnr, formato_gnr) == 183);
-static_assert(offsetof(rec_gnr, aggiorna_elenco) == 184);
-static_assert(offsetof(rec_gnr, colore_riga_pari) == 185);
-static_assert(offsetof(rec_gnr, colore_riga_dispari) == 193);
-static_assert(offsetof(rec_gnr, righe_alternate) == 201);
-static_assert(offsetof(rec_gnr, riservato_be) == 202);
-static_assert(offsetof(rec_gnr, riservato_bf) == 203);
-static_assert(offsetof(rec_gnr, riservato_bg) == 204);
-static_assert(offsetof(rec_gnr, riservato_bh) == 242);
-static_assert(offsetof(rec_gnr, usa_barcode) == 244);
-static_assert(offsetof(rec_gnr, riservato_bi) == 246);
-static_assert(offsetof(rec_gnr, codice_iva_base) == 248);
-static_assert(offsetof(rec_gnr, peso_automatico) == 250);
-static_assert(offsetof(rec_gnr, riservato_bj) == 252);
-static_assert(offsetof(rec_gnr, riservato_bk) == 253);
-static_assert(offsetof(rec_gnr, riservato_bl) == 256);
+template <>
+inline constexpr auto fields_of<rec_gnr> =
+    record_fields(field<&rec_gnr::interi_iniziali>{0}, field<&rec_gnr::vista_registro>{8},
+                  field<&rec_gnr::intero_sesto>{10}, field<&rec_gnr::riservato_bc>{12},
+                  field<&rec_gnr::riservato_bd>{18}, field<&rec_gnr::formato_gnr>{183},
+                  field<&rec_gnr::aggiorna_elenco>{184}, field<&rec_gnr::colore_riga_pari>{185},
+                  field<&rec_gnr::colore_riga_dispari>{193}, field<&rec_gnr::righe_alternate>{201},
+                  field<&rec_gnr::riservato_be>{202}, field<&rec_gnr::riservato_bf>{203},
+                  field<&rec_gnr::riservato_bg>{204}, field<&rec_gnr::riservato_bh>{242},
+                  field<&rec_gnr::usa_barcode>{244}, field<&rec_gnr::riservato_bi>{246},
+                  field<&rec_gnr::codice_iva_base>{248}, field<&rec_gnr::peso_automatico>{250},
+                  field<&rec_gnr::riservato_bj>{252}, field<&rec_gnr::riservato_bk>{253},
+                  field<&rec_gnr::riservato_bl>{256});
 
 }  // namespace vantora

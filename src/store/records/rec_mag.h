@@ -1,8 +1,6 @@
 #pragma once
 
-#include <cstddef>
-
-#include "store/fields.h"
+#include "store/record_fields.h"
 
 namespace vantora {
 
@@ -21,17 +19,17 @@ struct rec_mag {
     i16le zero;          ///< always 0
 };
 
-static_assert(sizeof(rec_mag) == 94 && alignof(rec_mag) == 1);
-static_assert(offsetof(rec_mag, data) == 0);
-static_assert(offsetof(rec_mag, documento) == 8);
-static_assert(offsetof(rec_mag, tipo) == 48);
-static_assert(offsetof(rec_mag, movimento) == 50);
-static_assert(offsetof(rec_mag, data_reg) == 62);
-static_assert(offsetof(rec_mag, articolo) == 70);
-static_assert(offsetof(rec_mag, cliente) == 72);
-static_assert(offsetof(rec_mag, quantita) == 74);
-static_assert(offsetof(rec_mag, prezzo) == 82);
-static_assert(offsetof(rec_mag, segno) == 90);
-static_assert(offsetof(rec_mag, zero) == 92);
+template <>
+inline constexpr auto fields_of<rec_mag> =
+    record_fields(field<&rec_mag::data>{0, "data", "date", meaning::date},
+                  field<&rec_mag::documento>{8, "documento", "document"},
+                  field<&rec_mag::tipo>{48, "tipo", "kind"},
+                  field<&rec_mag::movimento>{50, "movimento", "movement"},
+                  field<&rec_mag::data_reg>{62, "registrato_il", "registered", meaning::day},
+                  field<&rec_mag::articolo>{70, "articolo", "article", meaning::article},
+                  field<&rec_mag::cliente>{72, "cliente", "customer", meaning::customer},
+                  field<&rec_mag::quantita>{74, "quantita", "quantity"},
+                  field<&rec_mag::prezzo>{82, "prezzo_netto", "net_price"},
+                  field<&rec_mag::segno>{90, "segno", "sign"}, field<&rec_mag::zero>{92});
 
 }  // namespace vantora

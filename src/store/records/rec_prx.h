@@ -1,8 +1,6 @@
 #pragma once
 
-#include <cstddef>
-
-#include "store/fields.h"
+#include "store/record_fields.h"
 
 namespace vantora {
 
@@ -14,7 +12,8 @@ struct rec_prx {
     i16le marca_testo;  ///< `ha_testo`: the record holds a text; anything else: it has none
 };
 
-static_assert(sizeof(rec_prx) == 502 && alignof(rec_prx) == 1);
-static_assert(offsetof(rec_prx, marca_testo) == 500);
+template <>
+inline constexpr auto fields_of<rec_prx> = record_fields(field<&rec_prx::righe>{0},
+                                                         field<&rec_prx::marca_testo>{500});
 
 }  // namespace vantora

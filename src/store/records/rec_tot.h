@@ -1,8 +1,6 @@
 #pragma once
 
-#include <cstddef>
-
-#include "store/fields.h"
+#include "store/record_fields.h"
 
 namespace vantora {
 
@@ -26,11 +24,13 @@ struct rec_tot {
     f32le progressivo;    ///< running number of the transport snapshots
 };
 
-static_assert(sizeof(rec_tot) == 12 && alignof(rec_tot) == 1);
-static_assert(offsetof(rec_tot, quanti) == 0);
-static_assert(offsetof(rec_tot, modificato) == 2);
-static_assert(offsetof(rec_tot, riservato_a) == 4);
-static_assert(offsetof(rec_tot, ultimo_numero) == 6);
-static_assert(offsetof(rec_tot, progressivo) == 8);
+template <>
+inline constexpr auto fields_of<rec_tot> = record_fields(
+    field<&rec_tot::quanti>{0, "quanti", "count"},
+    field<&rec_tot::modificato>{2, "modificato", "changed"}, field<&rec_tot::riservato_a>{4},
+    field<&rec_tot::ultimo_numero>{6, "ultimo_numero", "last_number"},
+    field<&rec_tot::progressivo>{8, "progressivo", "running_number"});
+
+static_assert(field<&rec_tot::quanti>::name == "quanti");
 
 }  // namespace vantora
