@@ -34,6 +34,10 @@ void mirorcm::place_on_customer() {
     percorri_indice(app_.archives.src, contatore_.quanti, visit);
     HScroll1.set_value(posizione_cliente_);
     cliente_corrente_ = app_.selezione_2;
+    // Whether it may have the order is its own record's word, not that of the one shown before.
+    cliente_ = {};
+    app_.archives.cli.read(cliente_corrente_, cliente_);
+    Label2.set_visible(customer_deleted());
     scorrimento_bloccato_ = false;
     nome.set_focus();
 }

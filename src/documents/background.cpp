@@ -40,10 +40,6 @@ std::span<elemento_disegno> elements_in_use(disegno& drawing) {
     return std::span(drawing.elenco).subspan(1, static_cast<std::size_t>(count));
 }
 
-ui::colour ink_of(const elemento_disegno& one) {
-    return ui::colour_of(one.valori[colonna::colore]).value_or(ui::black);
-}
-
 /// The user sees each picture while it goes to the paper.
 void disegna_immagine(program& app, ui::printer& paper, const elemento_disegno& one,
                       figure_documento& pictures, ui::picture& figure) {
@@ -96,14 +92,14 @@ record_di_stampa shape_record(tipo_record kind, const elemento_disegno& one, dou
 void draw_box(document_output& out, const elemento_disegno& one, bool filled) {
     const auto& values = one.valori;
     out.paper().box(values[colonna::sinistra], values[colonna::alto], values[colonna::destra],
-                    values[colonna::basso], ink_of(one), filled);
+                    values[colonna::basso], out.ink(values[colonna::colore]), filled);
     out.file().write(shape_record(tipo_record::riquadro, one, filled ? 1 : 0));
 }
 
 void draw_line(document_output& out, const elemento_disegno& one) {
     const auto& values = one.valori;
     out.paper().line(values[colonna::sinistra], values[colonna::alto], values[colonna::destra],
-                     values[colonna::basso], ink_of(one));
+                     values[colonna::basso], out.ink(values[colonna::colore]));
     out.file().write(shape_record(tipo_record::linea, one, 1));
 }
 

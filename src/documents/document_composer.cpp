@@ -49,6 +49,7 @@ paginazione impagina(const forma_documento& shape, const tabelle_documento& tabl
                                    first_three(row_of(tables, shape.riga_basso)));
     paginazione pages;
     pages.righe_pagina = to_int16(integer_part(std::max(height, 1.0) / passo_righe)).value_or(0);
+    if (shape.pagine_di_una_riga) pages.righe_pagina = std::max(pages.righe_pagina, 1);
     if (pages.righe_pagina > 0) pages.pagine = last_line / pages.righe_pagina;
     pages.righe_pagina = std::max(pages.righe_pagina, 1);
     if (last_line != pages.righe_pagina * pages.pagine) ++pages.pagine;

@@ -28,7 +28,7 @@ void document_output::set_look(const aspetto_testo& look) {
     if (!look.carattere.empty()) font_.name = look.carattere;
     font_.bold = look.grassetto;
     font_.italic = look.corsivo;
-    ink_ = ui::colour_of(look.colore).value_or(ink_);
+    ink_ = ink(look.colore);
 }
 
 void document_output::print(double x, double y, std::string_view text, const aspetto_testo& look) {

@@ -39,6 +39,11 @@ class document_output {
     /// before in force.
     void print(double x, double y, std::string_view text, const aspetto_testo& look);
 
+    /// A colour of the files; what is none counts as the one in force.
+    [[nodiscard]] ui::colour ink(double colour) const {
+        return ui::colour_of(colour).value_or(ink_);
+    }
+
     /// Puts an item of the layout at its place, in both outputs. An item whose right end stands at
     /// `x` begins as far to the left as the printer says it is wide.
     void place(double x, double y, const testo_posto& item, const voce_layout& look);

@@ -77,8 +77,8 @@ constexpr colonna_riga colonne_trasporto[] = {colonna_riga::codice,   colonna_ri
                                               colonna_riga::quantita, colonna_riga::um,
                                               colonna_riga::prezzo,   colonna_riga::sconti};
 
-constexpr forma_documento forma_ordine{campi_ordine, 68, 69, 70, colonne_ordine};
-constexpr forma_documento forma_trasporto{campi_trasporto, 51, 52, 53, colonne_trasporto};
+constexpr forma_documento forma_ordine{campi_ordine, 68, 69, 70, colonne_ordine, false};
+constexpr forma_documento forma_trasporto{campi_trasporto, 51, 52, 53, colonne_trasporto, true};
 
 }  // namespace
 

@@ -56,6 +56,8 @@ struct forma_documento {
     int riga_basso;                          ///< row with the lower limit
     int prima_colonna;                       ///< row of the first column of the lines
     std::span<const colonna_riga> colonne;
+    /// A body too low for one line counts its pages by one line each; else it has a single page.
+    bool pagine_di_una_riga;
 };
 
 const forma_documento& forma_di(tipo_documento kind);

@@ -142,7 +142,10 @@ void line_grid::go_to_line(int number) {
 }
 
 void line_grid::paint_rows(int first) {
+    painting_ = true;
     for (int row = first; row < rows; ++row) paint_row(row);
+    painting_ = false;
+    compute_totals();
 }
 
 void line_grid::paint_row(int row) {
@@ -218,6 +221,7 @@ void line_grid::price_changed(int row) {
 }
 
 void line_grid::compute_totals() {
+    if (painting_) return;
     totali_ = calcola_totali(righe_, tabelle_.iva, valuta_);
     for (int i = 0; i < 3; ++i) {
         std::string shows;
@@ -285,7 +289,9 @@ void line_grid::description_gains_focus(int row) {
     riga_ordine& line = righe_[line_of(row)];
     line.articolo = 0;
     line.codice = "";
+    line.peso = 0;
     artic[row].set_text("");
+    compute_totals();
 }
 
 void line_grid::discount_gains_focus(int row) {

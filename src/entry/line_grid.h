@@ -97,7 +97,8 @@ class line_grid : public ui::form {
     void propose_mail();
     void svuota_righe();
     void compute_totals();
-    /// Paints the twelve rows from the lines.
+    /// Paints the twelve rows from the lines and computes the totals of all of them: whatever
+    /// changed lines behind the grid ends with it.
     void paint();
     /// Scrolls a line into sight and gives it the focus; for a number that is none, nothing.
     void go_to_line(int number);
@@ -154,6 +155,7 @@ class line_grid : public ui::form {
     int riga_corrente_ = 0;  ///< grid row last in focus; after a `civ` cell the line's number
     int prima_riga_ = 0;     ///< first line last seen; after a `civ` cell the grid row
     bool combo_attivo_ = false;
+    bool painting_ = false;  ///< the totals are computed once, when it is done
 
     // Articles ------------------------------------------------------------------------------------
 
@@ -163,7 +165,10 @@ class line_grid : public ui::form {
     void take_article(std::int16_t number, const rec_art& article, std::string_view code);
     /// The texts that an article's line has below it.
     [[nodiscard]] std::vector<std::string> long_text_of(std::int16_t article) const;
-    void unfold_long_text(std::int16_t article, int line);
+    /// Whether so many lines of text have room below a line, or nobody is to be kept from finding
+    /// out: behind line 200 they end the program.
+    bool has_room(int line, int below, std::string_view code);
+    void unfold_long_text(const std::vector<std::string>& texts, int line);
 
     // Prices given before -------------------------------------------------------------------------
 

@@ -47,6 +47,8 @@ void line_grid::article_enter(int row) {
 
 void line_grid::take_article(std::int16_t number, const rec_art& article, std::string_view code) {
     const int at = line_of(riga_corrente_);
+    const auto long_text = long_text_of(number);
+    if (!has_room(at, static_cast<int>(long_text.size()), code)) return return_to(artic);
     riga_ordine& line = righe_[at];
     line.articolo = number;
     line.codice = code;
@@ -54,7 +56,8 @@ void line_grid::take_article(std::int16_t number, const rec_art& article, std::s
     line.iva = own_vat_code(cliente_).value_or(article.iva);
     line.prezzo = finite_or_zero(prezz[0].on() ? article.prezzo1 : article.prezzo2);
     line.um = article.um.trimmed();
-    unfold_long_text(number, at);
+    line.peso = finite_or_zero(article.peso);
+    unfold_long_text(long_text, at);
     paint();
     return_to(quantita);
 }
@@ -71,8 +74,16 @@ std::vector<std::string> line_grid::long_text_of(std::int16_t article) const {
     return texts;
 }
 
-void line_grid::unfold_long_text(std::int16_t article, int line) {
-    for (const std::string& text : long_text_of(article)) {
+bool line_grid::has_room(int line, int below, std::string_view code) {
+    const int left = righe_ordine::massimo - line;
+    return below <= left || !app_.desk.guards().refuse(
+                                "Il testo lungo dell'articolo " + std::string(code) + " prende " +
+                                std::to_string(below) + " righe: dopo questa ne restano " +
+                                std::to_string(left) + ". L'articolo non è stato inserito."_cp);
+}
+
+void line_grid::unfold_long_text(const std::vector<std::string>& texts, int line) {
+    for (const std::string& text : texts) {
         riga_ordine& below = righe_[++line];
         clear_line(below);
         below.descrizione = text;

@@ -67,7 +67,6 @@ void mirorcs::import_order() {
     const std::string& chosen = app_.scelta_ordine;
     if (const auto block = to_int16(number_at_head(chosen)); !chosen.empty() && block) {
         sostituisci_con_ordine(righe_, app_.archives, *block);
-        compute_totals();
         paint();
     }
     artic[0].set_focus();

@@ -33,17 +33,24 @@ mirorcz::mirorcz(program& app)
 }
 
 void mirorcz::open() {
-    if (app_.modo_ordine != 0) return;
+    if (app_.modo_ordine != 0) return follow_customer();
     app_.archives.tot.read(contatori::ordini, contatore_);
     forget_changes();
     open_order(app_.selezione_2);
+    cliente_aperto_ = app_.selezione_2;
     customer_head& screen = head();
     for (std::size_t i = 0; i < customer_fields.size(); ++i) {
         screen.Text2[i].set_text(customer_fields[i](cliente_));
     }
     read_order();
-    compute_totals();
     paint();
+}
+
+void mirorcz::follow_customer() {
+    if (app_.selezione_2 == cliente_aperto_) return;
+    if (!app_.archives.cli.read(app_.selezione_2, cliente_)) return;
+    cliente_aperto_ = app_.selezione_2;
+    take_price_list();
 }
 
 void mirorcz::read_order() {

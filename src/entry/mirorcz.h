@@ -22,12 +22,15 @@ class mirorcz final : public order_screen {
  private:
     /// Fills lines and head from the order's block.
     void read_order();
+    /// Back from the head: new lines and the PDF are those of the customer that it names now.
+    void follow_customer();
     void change_head();
     void delete_order();
     [[nodiscard]] ordine_esistente order() const;
 
-    rec_tot contatore_;   ///< of the orders, before the order was read
-    ordine_visto visto_;  ///< the order as it was read
+    rec_tot contatore_;                ///< of the orders, before the order was read
+    std::int16_t cliente_aperto_ = 0;  ///< whose record `cliente_` is
+    ordine_visto visto_;               ///< the order as it was read
 };
 
 }  // namespace vantora

@@ -36,8 +36,12 @@ void order_screen::show_head() {
 
 void order_screen::open_order(std::int16_t customer) {
     open_lines(customer);
-    prezz[number_at_head(cliente_.listino.full()) == 1 ? 1 : 0].set_on(true);
+    take_price_list();
     propose_mail();
+}
+
+void order_screen::take_price_list() {
+    prezz[number_at_head(cliente_.listino.full()) == 1 ? 1 : 0].set_on(true);
 }
 
 int order_screen::chosen_price() const {

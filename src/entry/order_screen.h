@@ -35,6 +35,8 @@ class order_screen : public line_grid {
     /// A fresh screen for an order of a customer: no lines, options as company and customer have
     /// them.
     void open_order(std::int16_t customer);
+    /// New lines take the price that the customer has.
+    void take_price_list();
     /// Which of the article's prices is on, 0 or 1; 2 for none.
     [[nodiscard]] int chosen_price() const;
     /// Back to the register; the order's screens go.

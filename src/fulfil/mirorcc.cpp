@@ -62,6 +62,14 @@ void mirorcc::show_customer() {
 void mirorcc::found_at(std::int16_t position) {
     // The cursor's move shows the customer; where it is there already, what was typed stays.
     HScroll1.set_value(position);
+    rec_src found;
+    if (posizione_cliente_ == position && app_.archives.src.read(position, found) &&
+        found.numero == cliente_corrente_) {
+        return;
+    }
+    // Another station's new customers move the others, and lie beyond the cursor's reach.
+    posizione_cliente_ = position;
+    show_customer();
 }
 
 void mirorcc::go_on() {

@@ -22,17 +22,13 @@ int ultima_riga_usata(const righe_ordine& lines) {
 
 void clear_line(riga_ordine& line) {
     const double fulfilled = line.evaso;
-    const double weight = line.peso;
     line = riga_ordine{};
     line.evaso = fulfilled;
-    line.peso = weight;
 }
 
 void righe_ordine::clear() {
     for (int number = 1; number <= massimo; ++number) {
-        riga_ordine& line = (*this)[number];
-        clear_line(line);
-        line.peso = 0;
+        clear_line((*this)[number]);
     }
 }
 

@@ -20,7 +20,7 @@ struct riga_ordine {
     std::int16_t sc1 = 0;  ///< first discount, whole percent
     std::int16_t sc2 = 0;  ///< second discount, whole percent, on the reduced amount
     double evaso = 0;      ///< quantity fulfilled so far
-    double peso = 0;       ///< unit weight
+    double peso = 0;       ///< unit weight of the article, 0 without one
 };
 
 /// The lines of the order on the screen, 1 to 200. Any other number is a subscript error, which
@@ -65,7 +65,7 @@ bool is_empty(const riga_ordine& line);
 /// Number of the last line in use, by code, description or price; 0 if none is.
 int ultima_riga_usata(const righe_ordine& lines);
 
-/// Empties a line, all but its fulfilled quantity and its weight.
+/// Empties a line, all but its fulfilled quantity.
 void clear_line(riga_ordine& line);
 
 }  // namespace vantora

@@ -47,16 +47,18 @@ class stored_lines {
  public:
     explicit stored_lines(const channel<rec_art>& articles) : articles_(articles) {}
 
-    /// What the row says goes into the line; its fulfilled quantity and weight stay.
+    /// What the row says goes into the line; its fulfilled quantity stays.
     template <class Row>
     void read(const Row& row, riga_ordine& line) {
         take_row(row, line);
         if (line.articolo == 0) {
             line.codice = "";
+            line.peso = 0;
         } else {
             // An article that can't be read leaves the code of the one before.
             articles_.read(line.articolo, article_);
             line.codice = article_.codice.full();
+            line.peso = finite_or_zero(article_.peso);
         }
     }
 

@@ -115,6 +115,13 @@ TEST_F(article_lookup, TheCustomersVatCodeGoesFirst) {
     articles[3].iva = std::int16_t{0};
     company.articles(articles);
     expect_after(enter(0, "ab"), {"civ(0)=04"});
+    // The tax is that of the article that stands there now, though no number changes.
+    articles[2].prezzo1 = 10;
+    articles[2].iva = 14;
+    articles[3].iva = 4;
+    company.articles(articles);
+    expect_after(together({enter(0, "ab"), {set("artic(0)", "")}, enter(0, "ABC")}),
+                 {"tota(0)=10,00 ", "tota(1)=10,00 "});
 }
 
 TEST_F(article_lookup, ALongTextOverwritesTheLinesBelow) {
@@ -134,8 +141,11 @@ TEST_F(article_lookup, ALongTextOverwritesTheLinesBelow) {
 
     company.long_text(3, std::vector<std::string>(5, "testo"));
     expect_after(together({{scroll(189)}, enter(6, "ABC")}), {"ds(6)=Chiodo", "ds(11)=testo"});
-    EXPECT_EQ(run(together({{scroll(189)}, enter(7, "ABC")})).back()["fatal"],
+    const script too_low = {scroll(189), set("ds(7)", "resta")};
+    EXPECT_EQ(run(together({too_low, enter(7, "ABC")})).back()["fatal"],
               "Errore di run-time '9': Indice non incluso nell'intervallo");
+    expect_after(together({{"guards on"}, too_low, enter(7, "ABC"), {"answer ok"}}),
+                 {"ds(7)=resta", "quantita(7)=", "ds(8)=", "focus=artic(7)", "box="});
 }
 
 }  // namespace

@@ -28,7 +28,6 @@ std::string told(const riga_ordine& line) {
 riga_ordine emptied(const riga_ordine& line) {
     riga_ordine blank;
     blank.evaso = line.evaso;
-    blank.peso = line.peso;
     return blank;
 }
 
@@ -65,7 +64,9 @@ void import_plainly(plain_lines& lines, std::size_t from, const channel<Row>& ro
         const Row row = stored(rows, block_record(block, k));
         riga_ordine& line = lines[from];
         line.articolo = std::max<std::int16_t>(row.articolo, 0);
-        line.codice = row.articolo < 1 ? "" : stored(articles, row.articolo).codice.full();
+        const rec_art article = row.articolo < 1 ? rec_art{} : stored(articles, row.articolo);
+        line.codice = row.articolo < 1 ? "" : article.codice.full();
+        line.peso = article.peso;
         line.descrizione =
             std::string(row.descrizione.full()) + std::string(row.descrizione2.full());
         line.um = row.um.full();
@@ -140,10 +141,7 @@ TEST(righe_ordine, SessionsLeaveLinesWhereStepsByHandLeaveThem) {
                 case 3:
                     if (random() % 4 != 0) break;
                     lines.clear();
-                    for (auto& one : plain) {
-                        one = emptied(one);
-                        one.peso = 0;
-                    }
+                    for (auto& one : plain) one = emptied(one);
                     break;
                 case 4:
                     sostituisci_con_ordine(lines, company.files, block);

@@ -121,6 +121,33 @@ TEST(order_screens, WhateverRefusesIsTold) {
     }
 }
 
+TEST(mirorcz, NewLinesOfAMovedOrderAreThoseOfItsNewCustomer) {
+    edited_company company;
+    rec_cli moved_to = customer_named("VERDI SRL");
+    moved_to.iva_cliente = 14;
+    moved_to.sconto1 = 7;
+    moved_to.listino = "1";
+    moved_to.email = "verdi@example.it";
+    company.customers({customer_named("ROSSI SPA"), moved_to});
+    order_station at(company);
+    at.front.decide = [&] { return at.front.told.back() != "Stampa altra copia?"; };
+    mirorcz& screen = at.open(2);
+    at.desk.dispatch([&] {
+        screen.comando[5].click();
+        at.app.mirorcm->HScroll1.drag(2);
+        at.app.mirorcm->bottone.click();
+        EXPECT_EQ(screen.ds[2].text(), "testo");
+        EXPECT_TRUE(screen.impegno.on() && !screen.postael.on());
+        screen.artic[3].set_focus();
+        screen.lookup().List1.pick(2);
+        screen.sc1[3].set_focus();
+        screen.postael.set_on(true);
+    });
+    EXPECT_EQ(screen.prezzo[3].text() + screen.civ[3].text() + screen.sc1[3].text(), "5147");
+    at.save_opened();
+    EXPECT_TRUE(at.programs.take_started().at(0).ends_with("orc20.pdf,verdi@example.it"));
+}
+
 TEST(mirorcz, AnOrderIsFoundAgainAsItWasLeft) {
     edited_company company;
     order_station at(company);

@@ -56,8 +56,19 @@ TEST(mirorca, OpensOnTheRowsThatLeave) {
         {document_stage(0).app.mirorcc->Text3[3].text(), ""}};
     for (const auto& [text, expected] : shown) EXPECT_EQ(text, expected);
     EXPECT_TRUE(screen.prezz[1].on() && screen.scarica.on());
+    const std::string& weight = stage.app.mirorcc->Text3[3].text();
     stage.desk.dispatch([&] { screen.quantita[0].set_text("0.0001"); });
-    EXPECT_EQ(stage.app.mirorcc->Text3[3].text(), "50,");
+    EXPECT_EQ(weight, "50,");
+    // It goes with its article: another one's, none for a text.
+    change_stored(stage.files.art, 3, [](rec_art& one) { one.peso = 2; });
+    stage.desk.dispatch([&] {
+        screen.artic[2].set_focus();
+        screen.lookup().List1.pick(2);
+    });
+    EXPECT_EQ(weight, "400,");
+    stage.desk.dispatch([&] { screen.ds[2].set_focus(); });
+    EXPECT_EQ(weight, "0,");
+    EXPECT_EQ(screen.quantita[2].text(), "200");
 }
 
 TEST(mirorca, MovementRecordAndSnapshotSayWhatLeft) {

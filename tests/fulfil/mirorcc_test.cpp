@@ -1,7 +1,10 @@
 #include <gtest/gtest.h>
 
+#include "fulfil/mirorcc.h"
+#include "register/mirorc.h"
 #include "scripted/order_company.h"
 #include "scripted/scripted_run.h"
+#include "scripted/station.h"
 
 namespace vantora::test {
 namespace {
@@ -48,6 +51,22 @@ TEST(transport_data, ControlsShowTheirDefaultsAndWhatFollows) {
     const auto list =
         replies({"set mirorcc.nome \" verdi \"", "click mirorcc.b_lista", "get mirsel.selnome"});
     EXPECT_EQ(list.at(3)["value"]["text"], "verdi");
+    // Another station's new customers move the one that stands there, or lie behind all.
+    for (const char* added : {"NERI", "ZETA"}) {
+        station at(company.drive());
+        at.run();
+        at.desk.dispatch([&] { at.app.mirorc->bottone[8].click(); });
+        mirorcc& screen = *at.app.mirorcc;
+        at.desk.dispatch([&] { screen.HScroll1.drag(2); });
+        company.customers({gone, customer_named("ROSSI SPA"), customer_named("VERDI SRL"),
+                           customer_named(added)});
+        at.desk.dispatch([&] {
+            screen.nome.set_text(added);
+            screen.b_cerca.click();
+        });
+        EXPECT_EQ(screen.Text2[0].text(), added);
+        company.customers({gone, customer_named("ROSSI SPA"), customer_named("VERDI SRL")});
+    }
     company.counter(contatori::documenti_trasporto, 3, 32767);
     EXPECT_EQ(replies({}).back()["value"]["Text3(0)"]["text"], "");
 }
