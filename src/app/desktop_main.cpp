@@ -135,7 +135,8 @@ int main(int count, char** arguments) {
     program app(files, desk, pictures);
     app.person = person ? &*person : nullptr;
     front.begin(desk);
-    const ui::desktop::outside_end from_outside([&front] { front.end_by_user(); });
+    const ui::desktop::outside_end from_outside([&front] { return front.may_end(); },
+                                                [&front] { front.end_by_user(); });
     desk.dispatch([&] { start(app, options.argument); });
     front.run();
     return exit_code(desk);

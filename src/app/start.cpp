@@ -4,11 +4,13 @@
 #include "customer/mirorcm.h"
 #include "customer/mirorcx.h"
 #include "customer/mirsel.h"
+#include "enquiry/bozze.h"
 #include "enquiry/documenti.h"
 #include "enquiry/prezzi.h"
 #include "enquiry/quadro.h"
 #include "enquiry/ricerca.h"
 #include "enquiry/storia.h"
+#include "entry/draft_taking.h"
 #include "entry/import_picker.h"
 #include "entry/mirorcs.h"
 #include "entry/mirorcz.h"
@@ -52,16 +54,21 @@ void start(program& app, std::string_view argument) {
     provide(app.mirorcc, app);
     provide(app.mirorcr, app);
     provide(app.mirorca, app);
+    provide(app.bozze, app);
     provide(app.documenti, app);
     provide(app.prezzi, app);
     provide(app.quadro, app);
     provide(app.ricerca, app);
     provide(app.storia, app);
 
-    app.desk.at_end = [&app] { chiudi_archivi(app.archives); };
+    app.desk.at_end = [&app] {
+        for (ui::form* one : app.desk.forms()) one->rest();
+        chiudi_archivi(app.archives);
+    };
     app.archives.station_awaited = [&app](bool still) { app.desk.show_station_awaited(still); };
     app.parameters.numero_azienda = numero_azienda_in(argument);
     app.mirorc->show();
+    offri_bozze(app);
 }
 
 }  // namespace vantora

@@ -35,12 +35,15 @@ customer_head::customer_head(program& app, const customer_head_kind& kind)
 }
 
 void customer_head::wire_events() {
-    b_cerca.on_click = [this] { search(); };
+    b_cerca.on_click = [this] { search_by_hand(); };
     b_lista.on_click = [this] { open_pick_list(); };
     bottone.on_click = [this] { go_on(); };
-    HScroll1.on_change = [this] { scrolled(); };
+    HScroll1.on_change = [this] {
+        chosen_ = true;
+        scrolled();
+    };
     Combo3.on_click = [this] { take_carrier(); };
-    ui::on_enter(nome, [this] { search(); });
+    ui::on_enter(nome, [this] { search_by_hand(); });
     for (int i = 0; i < 21; ++i) ui::enter_moves(Text2[i], Text2[i + 1]);
     for (int i = 0; i < 5; ++i) ui::enter_moves(Text3[i], Text3[i + 1]);
     for (int i = 0; i < 2; ++i) {
@@ -82,6 +85,7 @@ void customer_head::start_at_first_customer() {
     HScroll1.set_limits(1, contatore_.quanti);
     HScroll1.set_value(1);
     show_customer();
+    chosen_ = contatore_.quanti == 1;
     nome.set_focus();
 }
 
@@ -129,10 +133,19 @@ void customer_head::scrolled() {
     show_customer();
 }
 
+void customer_head::search_by_hand() {
+    if (app_.desk.guards().on() && trimmed(nome.text()).empty()) {
+        Text2[0].set_focus();
+    } else {
+        search();
+    }
+}
+
 void customer_head::search() {
     app_.archives.tot.read(contatori::clienti, contatore_);
     const std::int16_t found = cerca_nominativo(app_.archives.src, contatore_.quanti, nome.text());
     if (found > 0) {
+        chosen_ = true;
         found_at(found);
     } else {
         app_.desk.message("Anagrafica non trovata", "Attenzione", ui::icon::warning);

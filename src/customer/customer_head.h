@@ -40,6 +40,8 @@ class customer_head : public ui::form {
 
     /// Finds the customer whose name begins with the text of `nome`, or says that there is none.
     void search();
+    /// Whether somebody chose the customer shown, who otherwise is just the first one.
+    [[nodiscard]] bool customer_chosen() const { return chosen_; }
 
  protected:
     void load() override;
@@ -77,12 +79,15 @@ class customer_head : public ui::form {
 
  private:
     void wire_events();
+    /// A window moves on from an empty name, which would find whoever stands in the middle.
+    void search_by_hand();
     void follow_typed_date(int picker);
     void take_carrier();
     void open_pick_list();
 
     const customer_head_kind& kind_;
     std::vector<vettore> vettori_;
+    bool chosen_ = true;
     bool loading_ = false;
     bool following_date_ = false;
 };

@@ -4,6 +4,7 @@
 #include <QEventLoop>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QToolTip>
 
 #include "desktop/look/box_look.h"
 #include "ui/desk.h"
@@ -18,6 +19,12 @@ constexpr qint64 serving_pause = 16;
 /// So long after the program brought a window to the front, others may still come forward that it
 /// had called before, in milliseconds.
 constexpr qint64 settling_time = 600;
+
+/// What the user typed is kept aside so often, in milliseconds.
+constexpr int resting_pause = 2000;
+
+/// So long a note can be read, in milliseconds.
+constexpr int note_time = 6000;
 
 constexpr const char* program_title = "Vantora Ordini";
 
@@ -35,12 +42,21 @@ desktop_front_end::~desktop_front_end() {
 void desktop_front_end::begin(desk& on) {
     desk_ = &on;
     keys_.begin();
+    pause_.setSingleShot(true);
+    pause_.setInterval(resting_pause);
+    QObject::connect(&pause_, &QTimer::timeout, [this] { desk_->rest(); });
 }
 
 // Waiting -----------------------------------------------------------------------------------------
 
 void desktop_front_end::run() {
     run_until([this] { return next_step_ == nullptr && desk_->ended().has_value(); });
+}
+
+bool desktop_front_end::may_end() {
+    bool may = true;
+    if (!desk_->open_box()) carry_out([&] { may = desk_->may_end(); });
+    return may;
 }
 
 void desktop_front_end::end_by_user() {
@@ -131,6 +147,7 @@ void desktop_front_end::act(control& on, const std::function<void()>& action) {
 
 void desktop_front_end::carry_out(const std::function<void()>& action) {
     desk_->dispatch(action);
+    if (!next_step_ && !pause_.isActive()) pause_.start();
     leave_finished_waits();
 }
 
@@ -165,7 +182,10 @@ void desktop_front_end::come_forward(form& chosen) {
         // The window system is still busy with what the program asked: no user's choice.
         if (form_window* window = window_of(*active)) window->activateWindow();
     } else if (!desk_->obstacle(chosen)) {
+        // The click that brings it forward is meant for what it falls on.
+        chosen_by_user_ = true;
         carry_out([&] { chosen.show(); });
+        chosen_by_user_ = false;
     }
 }
 
@@ -199,7 +219,7 @@ void desktop_front_end::form_unloaded(form& which) {
 void desktop_front_end::form_activated(form& which) {
     form_window* window = window_of(which);
     if (!window) return;
-    keys_.screen_came_up();
+    if (!chosen_by_user_) keys_.screen_came_up();
     since_called_.start();
     window->raise();
     if (!window->isActiveWindow()) window->activateWindow();
@@ -310,6 +330,14 @@ void desktop_front_end::show_pointer() {
     } else {
         QGuiApplication::restoreOverrideCursor();
     }
+}
+
+void desktop_front_end::note_shown(const std::string& text) {
+    QWidget* window = front_window();
+    if (!window) return;
+    const QWidget* beside = QApplication::focusWidget() ? QApplication::focusWidget() : window;
+    QToolTip::showText(beside->mapToGlobal(QPoint(0, beside->height())), shown(text), window, {},
+                       note_time);
 }
 
 void desktop_front_end::report_fatal(const std::string& message) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QElapsedTimer>
+#include <QTimer>
 #include <map>
 #include <memory>
 #include <vector>
@@ -42,6 +43,9 @@ class desktop_front_end final : public front_end {
 
     /// Serves the user until the program ends.
     void run();
+    /// Whether the program may end from outside: what isn't saved is asked about, if there is no
+    /// question open already.
+    bool may_end();
     /// Ends the program from outside, as when the user logs off.
     void end_by_user();
 
@@ -65,6 +69,7 @@ class desktop_front_end final : public front_end {
     void progress_changed(control& list, double done) override;
     void progress_ended(control& list) override;
     void station_awaited(bool still) override;
+    void note_shown(const std::string& text) override;
     void report_fatal(const std::string& message) override;
 
  private:
@@ -98,10 +103,12 @@ class desktop_front_end final : public front_end {
     std::vector<wait> waits_;
     int stepping_ = 0;  ///< waits served by steps, inside one another
     QElapsedTimer since_events_;
+    QTimer pause_;  ///< from something that the user did to the next time they can rest
     list_bars bars_;
     station_note station_;
     int painting_ = 0;                    ///< what the user does waits
     QPointer<form_window> late_closing_;  ///< closed by the user meanwhile
+    bool chosen_by_user_ = false;         ///< a window is being brought to the front by its user
     key_guard keys_;
 };
 

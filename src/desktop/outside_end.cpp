@@ -1,6 +1,7 @@
 #include "desktop/outside_end.h"
 
 #include <QGuiApplication>
+#include <QSessionManager>
 #include <QSocketNotifier>
 #include <array>
 #include <csignal>
@@ -24,8 +25,13 @@ void raise_alarm(int) {
 
 }  // namespace
 
-outside_end::outside_end(std::function<void()> end) : end_(std::move(end)) {
-    connect(qApp, &QGuiApplication::commitDataRequest, this, [this] { end_(); });
+outside_end::outside_end(std::function<bool()> may_end, std::function<void()> end)
+    : end_(std::move(end)) {
+    connect(qApp, &QGuiApplication::commitDataRequest, this,
+            [this, may_end = std::move(may_end)](QSessionManager& session) {
+                if (session.allowsInteraction() && !may_end()) return session.cancel();
+                end_();
+            });
     if (pipe2(alarm_pipe.data(), O_CLOEXEC | O_NONBLOCK) != 0) return;
     auto* alarm = new QSocketNotifier(alarm_pipe[0], QSocketNotifier::Read, this);
     connect(alarm, &QSocketNotifier::activated, this, [this] {

@@ -9,7 +9,8 @@ namespace vantora::ui::desktop {
 /// (SIGTERM, SIGINT, SIGHUP). One a process.
 class outside_end final : public QObject {
  public:
-    explicit outside_end(std::function<void()> end);
+    /// `may_end`: asks whether the session may end with the program.
+    outside_end(std::function<bool()> may_end, std::function<void()> end);
     ~outside_end() override;
 
  private:

@@ -254,6 +254,7 @@ void line_grid::wire_cell_focus(int row) {
         take_focus(row, true);
         lookup_.follow_cell(artic[row].text());
     };
+    artic[row].on_edited = [this, row] { lookup_.follow_cell(artic[row].text()); };
     artic[row].on_key_press = [this, row](ui::key_event& key) { article_key(row, key); };
     artic[row].on_paste_lines = [this, row](std::string_view text, const auto& goes_on) {
         paste_lines(row, text, goes_on);
@@ -345,10 +346,16 @@ void line_grid::take_vat_pick() {
     compute_totals();
 }
 
+void line_grid::leave_vat_pick() {
+    if (!app_.desk.guards().on() || !Combo1.visible()) return;
+    if (prima_riga_ >= 0 && prima_riga_ < rows) prezzo[prima_riga_].set_focus();
+}
+
 // Commands ------------------------------------------------------------------------------------
 
 void line_grid::command_clicked(int command) {
     if (at_work()) return;
+    leave_vat_pick();
     switch (command) {
         case inserisci_riga:
             return shift_lines(&righe_ordine::insert);

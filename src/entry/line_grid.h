@@ -141,6 +141,8 @@ class line_grid : public ui::form {
     void go_to_next_row(int row);
     void open_vat_pick(int row);
     void take_vat_pick();
+    /// Before something else is done in its row; then the row's number holds again.
+    void leave_vat_pick();
     /// At the current row, if that is one of the twelve.
     void shift_lines(void (righe_ordine::*shift)(int));
     void sort_lines();

@@ -11,6 +11,7 @@ void line_grid::wire_lookup() {
         take_article(number, article, code);
     };
     lookup_.List1.on_click = [this] {
+        leave_vat_pick();
         if (current_row_shown()) lookup_.take_list_entry();
     };
     lookup_.List1.set_enabled(false);

@@ -39,12 +39,23 @@ void mirorcs::open() {
     }
 }
 
+bool mirorcs::may_save() {
+    if (!order_screen::may_save()) return false;
+    return head().customer_chosen() ||
+           app_.desk.guards().confirm("Nessuno ha scelto il cliente: l'ordine va a "_cp +
+                                      head().Text2[0].text() + ". Salvarlo lo stesso?");
+}
+
 write_outcome mirorcs::store() {
     app_.data_sistema = date_number(app_.desk.clock().now());
     testata_registrata saved = testata_da_registrare(head(), chosen_price());
     saved.cliente = app_.selezione_1;
     saved.impegno = impegno.on();
     return salva_nuovo_ordine(app_.archives, saved, app_.data_sistema, righe_, lookup_.articles());
+}
+
+void mirorcs::describe(bozza& draft) const {
+    draft.cliente = app_.selezione_1;
 }
 
 void mirorcs::run_own_command(int command) {

@@ -17,8 +17,10 @@ class mirorcs final : public order_screen {
 
  protected:
     void open() override;
+    bool may_save() override;
     write_outcome store() override;
     void run_own_command(int command) override;
+    void describe(bozza& draft) const override;
 
  private:
     void choose_quote();

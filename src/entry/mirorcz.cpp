@@ -35,7 +35,7 @@ mirorcz::mirorcz(program& app)
 void mirorcz::open() {
     if (app_.modo_ordine != 0) return follow_customer();
     app_.archives.tot.read(contatori::ordini, contatore_);
-    forget_changes();
+    begin_order();
     open_order(app_.selezione_2);
     cliente_aperto_ = app_.selezione_2;
     customer_head& screen = head();
@@ -56,6 +56,7 @@ void mirorcz::follow_customer() {
 void mirorcz::read_order() {
     const stored_rows<rec_orc> stored(app_.archives.orc, app_.selezione_1);
     visto_ = {app_.selezione_1, stored[1]};
+    impronta_ = impronta_di(stored.all());
     stored_lines lines(app_.archives.art);
     for (int number = 1; number <= righe_ordine::massimo; ++number) {
         riga_ordine& line = righe_[number];
@@ -80,6 +81,13 @@ write_outcome mirorcz::store() {
     return salva_ordine(app_.archives, order(), saved, eva.on(), righe_);
 }
 
+void mirorcz::describe(bozza& draft) const {
+    draft.nuova = false;
+    draft.visto = visto_;
+    draft.impronta = impronta_;
+    draft.cliente = app_.selezione_2;
+}
+
 void mirorcz::run_own_command(int command) {
     if (command == modifica_testata) change_head();
     if (command == elimina) delete_order();
@@ -99,7 +107,9 @@ void mirorcz::delete_order() {
     app_.desk.set_pointer(ui::pointer::busy);
     const write_outcome outcome = elimina_ordine(app_.archives, order());
     app_.desk.set_pointer(ui::pointer::normal);
-    if (was_written(app_.desk, outcome)) leave();
+    if (!was_written(app_.desk, outcome)) return;
+    forget_draft();
+    leave();
 }
 
 }  // namespace vantora

@@ -18,6 +18,7 @@ class mirorcz final : public order_screen {
     void open() override;
     write_outcome store() override;
     void run_own_command(int command) override;
+    void describe(bozza& draft) const override;
 
  private:
     /// Fills lines and head from the order's block.
@@ -31,6 +32,7 @@ class mirorcz final : public order_screen {
     rec_tot contatore_;                ///< of the orders, before the order was read
     std::int16_t cliente_aperto_ = 0;  ///< whose record `cliente_` is
     ordine_visto visto_;               ///< the order as it was read
+    std::uint64_t impronta_ = 0;
 };
 
 }  // namespace vantora

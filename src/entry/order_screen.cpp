@@ -1,6 +1,7 @@
 #include "entry/order_screen.h"
 
 #include "customer/customer_head.h"
+#include "entry/import_lines.h"
 #include "entry/order_head.h"
 #include "entry/order_printing.h"
 #include "program/write_messages.h"
@@ -23,6 +24,7 @@ void order_screen::activate() {
     Picture1.set_visible(false);
     Combo1.set_visible(false);
     open();
+    if (taken_up_) show_draft();
     show_head();
     artic[0].set_focus();
     go_to_line(std::exchange(app_.ordine_cercato, {}).riga);
@@ -52,17 +54,27 @@ int order_screen::chosen_price() const {
 }
 
 void order_screen::run_command(int command) {
-    if (command == uscita) return leave();
+    if (command == uscita) {
+        if (may_leave()) leave();
+        return;
+    }
     if (command == conferma) return save();
     run_own_command(command);
 }
 
+bool order_screen::may_save() {
+    return ultima_riga_usata(righe_) > 0 ||
+           app_.desk.guards().confirm("L'ordine non ha righe. Salvarlo lo stesso?");
+}
+
 void order_screen::save() {
+    if (!may_save()) return;
     const work saving(*this);
     app_.desk.set_pointer(ui::pointer::busy);
     const write_outcome outcome = store();
     app_.desk.set_pointer(ui::pointer::normal);
     if (!was_written(app_.desk, outcome)) return;
+    if (outcome.faults.none()) forget_draft();
     offer_to_print();
     app_.ricarica_registro = 1;
     leave();

@@ -18,6 +18,9 @@ namespace {
 
 constexpr const char* titolo_messaggi = "Attenzione";
 
+/// Of a fulfilment whose goods don't leave: its rows are booked already.
+constexpr const char* che_resta = "\nLe righe restano evase, senza movimento e senza documento.";
+
 constexpr line_grid_kind documento_trasporto{
     .name = "mirorca",
     .title = "Evasione ordine - generazione DDT e movimento di magazzino",
@@ -135,14 +138,22 @@ void mirorca::totals_changed() {
 // Commands ----------------------------------------------------------------------------------------
 
 void mirorca::run_command(int command) {
-    if (command == uscita) return cancel();
+    if (command == uscita && may_cancel()) leave();
     if (command == conferma) return confirm();
 }
 
-void mirorca::cancel() {
-    if (app_.desk.ask("Confermi l'annullamento del movimento di magazzino?", titolo_messaggi)) {
-        leave();
-    }
+bool mirorca::may_cancel() {
+    const char* question = "Confermi l'annullamento del movimento di magazzino?";
+    if (!app_.desk.guards().on()) return app_.desk.ask(question, titolo_messaggi);
+    const char* stays =
+        unloaded_ ? "\nIl movimento di magazzino resta fatto, senza documento." : che_resta;
+    return app_.desk.ask(std::string(question).append(stays), titolo_messaggi, ui::icon::question,
+                         ui::answer::no);
+}
+
+void mirorca::close() {
+    if (at_work() || (app_.desk.guards().on() && !may_cancel())) return;
+    line_grid::close();
 }
 
 void mirorca::confirm() {
@@ -180,13 +191,15 @@ bool mirorca::unload_goods() {
 
 bool mirorca::ask_to_unload(const rec_art& article) {
     app_.desk.set_pointer(ui::pointer::normal);
-    const bool unload =
-        app_.desk.ask(std::string("La giacenza dell' articolo ")
-                          .append(article.codice.trimmed())
-                          .append(" ")
-                          .append(article.descrizione.trimmed())
-                          .append(" è insufficiente. Lo si deve scaricare ugualmente?"_cp),
-                      titolo_messaggi);
+    std::string question = std::string("La giacenza dell' articolo ")
+                               .append(article.codice.trimmed())
+                               .append(" ")
+                               .append(article.descrizione.trimmed())
+                               .append(" è insufficiente. Lo si deve scaricare ugualmente?"_cp);
+    if (app_.desk.guards().on()) {
+        question += "\nSe no, la riga resta evasa, senza movimento e senza documento.";
+    }
+    const bool unload = app_.desk.ask(std::move(question), titolo_messaggi);
     app_.desk.set_pointer(ui::pointer::busy);
     return unload;
 }

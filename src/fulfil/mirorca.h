@@ -32,13 +32,15 @@ class mirorca final : public line_grid {
  protected:
     void load() override;
     void activate() override;
+    void close() override;
     void run_command(int command) override;
     void totals_changed() override;
 
  private:
     void take_lines_over();
     void propose_movement();
-    void cancel();
+    /// Leaves the document undone; what that leaves behind is said.
+    bool may_cancel();
     void confirm();
     bool unload_goods();
     bool ask_to_unload(const rec_art& article);

@@ -21,6 +21,7 @@ class stored_rows {
 
     /// REQUIRES: `number` is 1 to 200.
     const Row& operator[](int number) const { return rows_[static_cast<std::size_t>(number - 1)]; }
+    [[nodiscard]] std::span<const Row> all() const { return rows_; }
 
  private:
     block_reader<Row> reader_;

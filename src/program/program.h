@@ -29,6 +29,7 @@ class mirston;
 class mirstos;
 class mirstov;
 
+class bozze;
 class documenti;
 class prezzi;
 class quadro;
@@ -113,6 +114,7 @@ struct program {
 
     // Where things are looked up ------------------------------------------------------------------
 
+    ui::screen<vantora::bozze> bozze;          ///< orders that wait to be gone on with
     ui::screen<vantora::documenti> documenti;  ///< transport documents given out
     ui::screen<vantora::prezzi> prezzi;        ///< prices given before
     ui::screen<vantora::quadro> quadro;        ///< figures of the company at a glance

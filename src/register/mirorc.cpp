@@ -87,7 +87,7 @@ void mirorc::activate() {
 }
 
 void mirorc::close() {
-    app_.desk.end_program();
+    if (app_.desk.may_end()) app_.desk.end_program();
 }
 
 void mirorc::restore_view() {
@@ -124,7 +124,7 @@ void mirorc::run_command(int button) {
     app_.schermo_pronto = 0;
     switch (button) {
         case uscita:
-            app_.desk.end_program();
+            return close();
         case aggiorna:
             return build_list();
         case nuovo_ordine:

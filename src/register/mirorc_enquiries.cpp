@@ -15,6 +15,8 @@ void mirorc::offer_enquiries() {
     offer({"ricerca", "Cerca negli o&rdini", "Ctrl+Shift+F", at_rest, lead(app_.ricerca)});
     offer({"documenti", "&Documenti di trasporto", "Ctrl+T", at_rest, lead(app_.documenti)});
     offer({"quadro", "&Quadro degli ordini", "Ctrl+B", at_rest, lead(app_.quadro)});
+    offer({"bozze", "&Bozze", "Ctrl+Shift+B",
+           [this] { return !compacting_ && app_.person != nullptr; }, lead(app_.bozze)});
     offer({"ristampa", "Ristam&pa l'ordine", "Ctrl+P",
            [this] { return !compacting_ && elenco.row() > 0; }, [this] { print_again(); }});
 }

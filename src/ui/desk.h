@@ -91,6 +91,8 @@ class desk {
     void dispatch(const std::function<void()>& action);
     /// The user pauses.
     void rest();
+    /// The program is asked to end; false if a screen would rather go on.
+    bool may_end();
     /// There is no user any more: the program ends.
     void stop() { finish({}); }
     /// Moves the focus along the Tab order.

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <utility>
 
 #include "errors/run_time_errors.h"
@@ -46,6 +47,10 @@ void desk::rest() {
     dispatch([this] {
         for (form* one : forms()) one->rest();
     });
+}
+
+bool desk::may_end() {
+    return std::ranges::all_of(forms(), [](form* one) { return one->may_end(); });
 }
 
 void desk::fail(const std::string& message) {

@@ -72,6 +72,8 @@ class form {
     /// Whether that holds for what is typed in a control.
     [[nodiscard]] virtual bool keeps_changes_of(const control&) const { return false; }
 
+    /// The program is asked to end. False if the user would rather go on here.
+    virtual bool may_end() { return true; }
     /// The user pauses: what takes its time can be done now. No box may come up.
     virtual void rest() {}
 

@@ -62,6 +62,16 @@ std::optional<std::string> as_number(std::string_view typed, const input_rule& r
 /// Of what was put in, as much as has room.
 std::string cut_to(std::size_t longest, std::string_view before, std::string_view now) {
     if (now.size() <= longest || now.size() <= before.size()) return std::string(now);
+    const std::string_view put = put_in(before, now);
+    const std::size_t over = std::min(now.size() - longest, put.size());
+    const auto head = static_cast<std::size_t>(put.data() - now.data());
+    std::string cut(now.substr(0, head + put.size() - over));
+    return cut.append(now.substr(head + put.size()));
+}
+
+}  // namespace
+
+std::string_view put_in(std::string_view before, std::string_view now) {
     const std::size_t same = std::min(before.size(), now.size());
     std::size_t head = 0;
     while (head < same && before[head] == now[head]) ++head;
@@ -69,13 +79,18 @@ std::string cut_to(std::size_t longest, std::string_view before, std::string_vie
     while (tail < same - head && before[before.size() - 1 - tail] == now[now.size() - 1 - tail]) {
         ++tail;
     }
-    const std::size_t stays = head + tail;
-    const std::size_t room = longest > stays ? longest - stays : 0;
-    std::string cut(now.substr(0, head + room));
-    return cut.append(now.substr(now.size() - tail));
+    return now.substr(head, now.size() - head - tail);
 }
 
-}  // namespace
+std::string with_first_cell(std::string_view before, std::string_view now) {
+    constexpr std::string_view between = "\t\r\n";
+    const std::string_view put = put_in(before, now);
+    if (put.find_first_of(between) == std::string_view::npos) return std::string(now);
+    const auto begin = static_cast<std::size_t>(put.data() - now.data());
+    const std::size_t first = std::min(put.find_first_not_of(between), put.size());
+    const std::string_view cell = put.substr(first, put.find_first_of(between, first) - first);
+    return std::string(now.substr(0, begin)).append(cell).append(now.substr(begin + put.size()));
+}
 
 input_rule input_rule::text(std::size_t longest) {
     input_rule rule;

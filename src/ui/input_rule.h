@@ -34,6 +34,12 @@ struct input_rule {
                                                    std::string_view now) const;
 };
 
+/// What a hand put into a text by making `now` of it.
+std::string_view put_in(std::string_view before, std::string_view now);
+
+/// The same text with only the first cell of a table that was put in; nothing else is changed.
+std::string with_first_cell(std::string_view before, std::string_view now);
+
 /// A day as hands type it, "24/11", "24112026" or "24/11/26", as dd/mm/yyyy; the year may be left
 /// out. Empty if it is none.
 std::optional<std::string> written_out_day(std::string_view typed, int this_year);

@@ -29,6 +29,8 @@ inline QApplication& application() {
         QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, remembered.path());
         auto* made = new QApplication(count, arguments);
         QApplication::setQuitOnLastWindowClosed(false);
+        // Steps follow each other faster than a hand does.
+        QApplication::setDoubleClickInterval(0);
         dress_application(*made);
         return made;
     }();

@@ -23,6 +23,12 @@ TEST(text_box, ItsEventsSwallowKeys) {
     EXPECT_EQ(box.text(), "a");
 }
 
+TEST(input_rule, OfCellsPutIntoOneTheFirstCounts) {
+    EXPECT_EQ(with_first_cell("9", "9125\t136\n7"), "9125");
+    EXPECT_EQ(with_first_cell("ab", "a\r\nx y\tzb"), "ax yb");
+    EXPECT_EQ(with_first_cell("a\tb", "a\tbc"), "a\tbc");
+}
+
 TEST(input_rule, AHandTypesOnlyWhatAFieldHolds) {
     const auto number = input_rule::number();
     const auto percent = input_rule::small_number();

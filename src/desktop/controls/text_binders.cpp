@@ -40,12 +40,22 @@ class text_box_binder final : public binder {
 
  private:
     void edited(const QString& text) {
-        const QString kept = without_strange(text);
+        const std::string before = model_.text();
+        const std::string put = from_qt(without_strange(text));
+        const std::string kept = with_first_cell(before, put);
         behind_cursor_ = text.size() - edit_->cursorPosition();
-        this->act([&] {
-            const auto admitted = model_.accepts.admit(model_.text(), from_qt(kept));
-            if (!admitted || kept != text) QApplication::beep();
+        act([&] {
+            const std::string_view lines = put_in(before, put);
+            if (model_.on_paste_lines && holds_pasted_lines(lines)) {
+                return paste_lines(model_, std::string(lines), edit_->window());
+            }
+            const auto admitted = model_.accepts.admit(before, kept);
+            if (!admitted || kept.size() != static_cast<std::size_t>(text.size())) {
+                QApplication::beep();
+            }
             if (admitted) model_.set_text(*admitted);
+            const bool one_key = kept.size() == before.size() + 1 && kept.starts_with(before);
+            if (admitted && !one_key && model_.on_edited) model_.on_edited();
         });
         show_again(aspect::text);
         behind_cursor_.reset();

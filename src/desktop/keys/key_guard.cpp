@@ -58,7 +58,25 @@ bool key_guard::holds_back(const QKeyEvent& key) {
     return false;
 }
 
+bool key_guard::holds_back_mouse(QEvent::Type what) {
+    switch (what) {
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonDblClick:
+            click_held_back_ = since_screen_.isValid() &&
+                               since_screen_.elapsed() < QApplication::doubleClickInterval();
+            return click_held_back_;
+        case QEvent::MouseButtonRelease:
+            return click_held_back_;
+        default:
+            return false;
+    }
+}
+
 bool key_guard::eventFilter(QObject*, QEvent* event) {
+    if (holds_back_mouse(event->type())) {
+        event->accept();
+        return true;
+    }
     if (event->type() == QEvent::KeyRelease) {
         const auto& key = static_cast<QKeyEvent&>(*event);
         if (key.isAutoRepeat() || !down_.contains(key.key())) return false;

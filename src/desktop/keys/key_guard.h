@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QElapsedTimer>
+#include <QEvent>
 #include <QHash>
 #include <QObject>
 
@@ -10,7 +11,8 @@ namespace vantora::ui::desktop {
 
 /// Stands between the keyboard and the windows: no command repeats because its key is held, and a
 /// key that was down when a screen or box came up does nothing in it until it has been let go; nor
-/// does the command key that brought it, pressed twice in a haste.
+/// does the command key that brought it, pressed twice in a haste. The second click of a double
+/// click falls on nothing that came up with the first.
 class key_guard final : public QObject {
  public:
     /// From now on. REQUIRES: the application object stands.
@@ -23,6 +25,8 @@ class key_guard final : public QObject {
 
  private:
     [[nodiscard]] bool holds_back(const QKeyEvent& key);
+    /// Presses of the mouse in a haste, and what belongs to them.
+    [[nodiscard]] bool holds_back_mouse(QEvent::Type what);
     /// A held key comes as let go and pressed again at the same moment; the toolkit sees that only
     /// where both have arrived.
     [[nodiscard]] bool repeats(const QKeyEvent& key);
@@ -38,6 +42,7 @@ class key_guard final : public QObject {
     int last_key_ = 0;
     int bringer_ = 0;  ///< the key that brought the screen, while no other was pressed
     QElapsedTimer since_screen_;
+    bool click_held_back_ = false;  ///< the press was; its release is, too
 };
 
 }  // namespace vantora::ui::desktop

@@ -1,0 +1,81 @@
+#include "enquiry/bozze.h"
+
+#include "entry/draft_taking.h"
+#include "entry/import_lines.h"
+#include "text/dates.h"
+#include "text/number_text.h"
+
+namespace vantora {
+
+namespace {
+
+enum comando { indietro, riprendi, abbandona };
+
+const tipo_ricerca& tipo_bozze() {
+    using enum ui::alignment;
+    static const tipo_ricerca kind{"bozze",
+                                   "Bozze",
+                                   {{{"Cliente", 4000, left}},
+                                    {{"Ordine", 1200, left}},
+                                    {{"Riferimento", 3000, left}},
+                                    {{"Righe", 800, right}},
+                                    {{"Non salvato del", 1900, left}},
+                                    {{"", 0, left}}},
+                                   {"&Indietro", "&Riprendi", "&Abbandona"},
+                                   false};
+    return kind;
+}
+
+}  // namespace
+
+bozze::bozze(program& app) : enquiry_screen(app, tipo_bozze()) {}
+
+std::string bozze::fill(list_rows& list) {
+    found_ = bozze_in_attesa(app_);
+    for (std::size_t i = 0; i < found_.size(); ++i) {
+        const bozza& draft = found_[i].draft;
+        list.next();
+        list.write(cliente, draft.text2[0]);
+        list.write(ordine, draft.nuova ? "nuovo" : draft.visto.numero.trimmed());
+        list.write(riferimento, draft.text3[3]);
+        list.write(righe, std::to_string(ultima_riga_usata(draft.contenuto.lines)));
+        if (const auto moment = read_clock(draft.salvata)) {
+            list.write(tenuta_il, date_text(moment->day) + " " + time_text(*moment));
+        }
+        list.write(posizione, std::to_string(i));
+    }
+    const std::string said = std::to_string(found_.size());
+    if (found_.empty()) return "Nessuna bozza";
+    return found_.size() == 1 ? "1 bozza" : said + " bozze";
+}
+
+void bozze::open_row(int row) {
+    const std::string name = found_[place_of(row)].name;
+    leave();
+    riprendi_bozza(app_, name);
+}
+
+void bozze::run_command(int command, int row) {
+    if (command == riprendi) return open_row(row);
+    if (command == abbandona) give_up(row);
+}
+
+void bozze::give_up(int row) {
+    const bozza_trovata& one = found_[place_of(row)];
+    const std::string name = one.name;
+    if (!desk().guards().confirm("Abbandonare l'" + nome_bozza(one.draft) + " non salvato?"))
+        return;
+    auto file = file_bozza::take(*app_.person, name);
+    if (file) file->drop();
+    build();
+}
+
+std::size_t bozze::place_of(int row) const {
+    return static_cast<std::size_t>(number_at_head(elenco.text(row, posizione)));
+}
+
+int numero_bozze(const program& app) {
+    return static_cast<int>(bozze_in_attesa(app).size());
+}
+
+}  // namespace vantora
