@@ -22,7 +22,7 @@ desktop/controls: desktop/dialogs desktop/keys desktop/look ui ui/paper text
 desktop/lists: desktop/dialogs desktop/keys desktop/look ui ui/paper text
 desktop/printing: desktop/dialogs desktop/look ui ui/paper
 desktop: desktop/controls desktop/keys desktop/lists desktop/look desktop/printing ui ui/paper ui/script text
-windows: desktop desktop/controls desktop/dialogs desktop/keys desktop/look register customer entry fulfil reports ui ui/paper
+windows: desktop desktop/controls desktop/dialogs desktop/keys desktop/look register enquiry customer entry fulfil reports ui ui/paper
 program: orders store store/records text ui
 customer: program orders store store/records text ui
 documents: program orders store store/records text ui errors

@@ -336,7 +336,7 @@ void desktop_front_end::note_shown(const std::string& text) {
     QWidget* window = front_window();
     if (!window) return;
     const QWidget* beside = QApplication::focusWidget() ? QApplication::focusWidget() : window;
-    QToolTip::showText(beside->mapToGlobal(QPoint(0, beside->height())), shown(text), window, {},
+    QToolTip::showText(beside->mapToGlobal(QPoint(0, beside->height())), to_qt(text), window, {},
                        note_time);
 }
 

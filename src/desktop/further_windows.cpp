@@ -7,7 +7,7 @@
 #include <QToolButton>
 
 #include "desktop/form_window.h"
-#include "desktop/words.h"
+#include "desktop/look/words.h"
 #include "text/code_page.h"
 
 namespace vantora::ui::desktop {

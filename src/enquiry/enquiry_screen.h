@@ -37,6 +37,9 @@ class enquiry_screen : public ui::form {
 
     ui::grid elenco;
     ui::button bottone[comandi_massimi];
+    /// Elements of `bottone` in use.
+    [[nodiscard]] int commands() const { return static_cast<int>(kind_.comandi.size()); }
+
     ui::label esito;  ///< what the list holds, or why it holds nothing
 
  protected:

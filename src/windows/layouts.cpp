@@ -5,6 +5,7 @@
 #include "customer/mirorcx.h"
 #include "customer/mirsel.h"
 #include "desktop/form_window.h"
+#include "enquiry/enquiry_screen.h"
 #include "entry/import_picker.h"
 #include "entry/mirorcs.h"
 #include "entry/mirorcz.h"
@@ -36,8 +37,8 @@ bool laid_out_as_one_of(form_window& window) {
 
 bool lay_out_screen(form_window& window) {
     return laid_out_as_one_of<mirorc, mirorcx, mirorcm, mirorcc, mirsel, mirdata, mirorcs, mirorcz,
-                              mirorca, mirorcr, import_picker, mirstoa, mirston, report_screen>(
-        window);
+                              mirorca, mirorcr, import_picker, enquiry_screen, mirstoa, mirston,
+                              report_screen>(window);
 }
 
 }  // namespace vantora::ui::desktop

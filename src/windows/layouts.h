@@ -1,6 +1,7 @@
 #pragma once
 
 namespace vantora {
+class enquiry_screen;
 class import_picker;
 class mirdata;
 class mirorc;
@@ -36,6 +37,7 @@ void lay_out(form_window& window, mirorcz& screen);
 void lay_out(form_window& window, mirorca& screen);
 void lay_out(form_window& window, mirorcr& screen);
 void lay_out(form_window& window, import_picker& screen);
+void lay_out(form_window& window, enquiry_screen& screen);
 void lay_out(form_window& window, mirstoa& screen);
 void lay_out(form_window& window, mirston& screen);
 void lay_out(form_window& window, report_screen& screen);

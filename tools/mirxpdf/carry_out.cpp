@@ -105,7 +105,7 @@ int carry_out(const pdf_request& request, const std::optional<std::string>& prin
     if (!pictures.left_out().empty()) odd += " Mancano figure troppo grandi.";
     if (!pictures.other_kinds().empty()) {
         odd += " Si leggono solo figure BMP, PNG, JPEG e GIF, non queste: " +
-               shown(nomi_di_figure(pictures.other_kinds())) + ".";
+               to_qt(nomi_di_figure(pictures.other_kinds())) + ".";
     }
     const QString ready = "Il documento è pronto.";
     if (request.addressee.empty()) {
