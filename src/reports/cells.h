@@ -1,11 +1,9 @@
 #pragma once
 
 #include <array>
-#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "store/values.h"
 #include "ui/printer.h"
@@ -14,9 +12,6 @@ namespace vantora {
 
 /// Measures texts in one font, in the unit of an output.
 class text_ruler {
-    /// Widths are summed as whole numbers of parts of a unit.
-    using parts = std::int64_t;
-
  public:
     /// A width that texts may have.
     class limit {
@@ -28,8 +23,8 @@ class text_ruler {
 
         double width_;
         // A sum of character widths may be off by a little.
-        parts surely_within_;  ///< from here on a sum may be beyond the limit
-        parts surely_beyond_;  ///< so far a sum may be within it
+        double surely_within_;  ///< from here on a sum may be beyond the limit
+        double surely_beyond_;  ///< so far a sum may be within it
     };
 
     /// REQUIRES: `paper` outlives the ruler.
@@ -47,13 +42,12 @@ class text_ruler {
                                                          const limit& most) const;
 
  private:
-    static constexpr parts unknown = parts{1} << 58;
-    static parts parts_of(double width);
+    static constexpr double unknown = -1;
 
     const ui::printer& paper_;
     ui::font font_;
     double units_;
-    mutable std::array<parts, 256> characters_;  ///< `unknown`: not asked for yet
+    mutable std::array<double, 256> characters_;  ///< `unknown`: not asked for yet
 };
 
 /// The text of a cell by its format code: 0 leaves a text as it is; 1 to 8 read a number and write
@@ -70,7 +64,7 @@ struct cella_pronta {
     double larghezza = 0;  ///< of the text; measured where that is asked for, else 0
 };
 
-/// Prepares the cells of one column. Quantities repeat themselves, so the latest numbers are kept.
+/// Prepares the cells of one column.
 class preparazione_celle {
  public:
     /// `measured`: the widths of the column's numbers are asked for.
@@ -80,20 +74,12 @@ class preparazione_celle {
     cella_pronta operator()(std::string_view cell);
 
  private:
-    struct kept {
-        bool used = false;
-        std::string cell;
-        std::string text;
-        cella_pronta ready;  ///< `testo` lies in `text`
-    };
-    static constexpr std::size_t kept_cells = 64;
-
     text_ruler ruler_;
     text_ruler::limit most_;
     int formato_;
     valuta currency_;
     bool measured_;
-    std::vector<kept> kept_{kept_cells};
+    std::string text_;  ///< of the latest number
 };
 
 }  // namespace vantora

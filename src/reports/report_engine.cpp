@@ -75,9 +75,8 @@ void report_engine::set_columns() {
             place_in_column(text, i, 0);
             cells_.push_back({{std::move(ruler), fit_[i], sheet_.colonne[i].formato_cella,
                                valuta(parameters_), placed_by_width(i)},
-                              out_.expect_like(text),
-                              placed_by_width(i),
-                              text.x});
+                              text,
+                              placed_by_width(i)});
         }
     }
 }
@@ -196,8 +195,11 @@ void report_engine::draw_cell(std::size_t column, std::size_t line, std::string_
                               double y) {
     linea_celle& cells = cells_[line * columns() + column];
     const cella_pronta ready = cells.prepara(cell);
-    const double x = cells.per_larghezza ? x_in_column(column, ready.larghezza) : cells.x;
-    out_.text_like(cells.come, x, y, ready.testo);
+    testo_report text = cells.come;
+    if (cells.per_larghezza) text.x = x_in_column(column, ready.larghezza);
+    text.y = y;
+    text.testo = ready.testo;
+    out_.text(text);
 }
 
 void report_engine::print_row(std::span<const std::string_view> cells) {

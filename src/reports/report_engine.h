@@ -101,9 +101,8 @@ class report_engine {
     /// One of the lines of text that a row has in a column.
     struct linea_celle {
         preparazione_celle prepara;
-        std::size_t come;    ///< the output's number of texts like these
+        testo_report come;   ///< how they all look and, without `per_larghezza`, where
         bool per_larghezza;  ///< each stands where its width says
-        double x;            ///< else where they all stand
     };
 
     const parametri& parameters_;

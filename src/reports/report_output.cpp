@@ -22,10 +22,6 @@ std::string without_line_ends(std::string_view text) {
     return made;
 }
 
-bool may_have_line_end(std::string_view text) {
-    return text.find('\r') != std::string_view::npos;
-}
-
 vista_di_record record_of(const testo_report& one) {
     vista_di_record record{tipo_record::testo, one.x, one.y, 0, 0};
     record.y2 = one.allineamento == ui::alignment::right ? 1 : 0;
@@ -39,19 +35,6 @@ vista_di_record record_of(const testo_report& one) {
 }
 
 }  // namespace
-
-std::size_t report_output::expect_like(const testo_report& one) {
-    alike_.push_back(one);
-    return alike_.size() - 1;
-}
-
-void report_output::text_like(std::size_t number, double x, double y, std::string_view text) {
-    testo_report& one = alike_[number];
-    one.x = x;
-    one.y = y;
-    one.testo = text;
-    this->text(one);
-}
 
 ui::font usable_font(std::string_view name, double size, bool bold, bool italic) {
     const std::string_view face = trimmed(name);
@@ -81,21 +64,10 @@ void report_on_printer::end_page() {
 
 void report_in_print_file::text(const testo_report& one) {
     vista_di_record record = record_of(one);
-    if (!may_have_line_end(one.testo)) return file_.write_view(record, one.forma);
+    if (one.testo.find('\r') == std::string_view::npos) return file_.write_view(record, one.forma);
     const std::string cleaned = without_line_ends(one.testo);
     record.testo = cleaned;
     file_.write_view(record, one.forma);
-}
-
-std::size_t report_in_print_file::expect_like(const testo_report& one) {
-    looks_.emplace_back().make(record_of(one), one.forma);
-    return looks_.size() - 1;
-}
-
-void report_in_print_file::text_like(std::size_t number, double x, double y,
-                                     std::string_view text) {
-    if (!may_have_line_end(text)) return file_.write_text(x, y, text, looks_[number]);
-    file_.write_text(x, y, without_line_ends(text), looks_[number]);
 }
 
 void report_in_print_file::line(const forma_report& one, linea_report kind) {

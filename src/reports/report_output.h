@@ -1,8 +1,6 @@
 #pragma once
 
-#include <string>
 #include <string_view>
-#include <vector>
 
 #include "documents/print_file_writer.h"
 #include "ui/printer.h"
@@ -50,17 +48,12 @@ class report_output {
     [[nodiscard]] virtual double units_per_millimetre() const = 0;
 
     virtual void text(const testo_report& one) = 0;
-    /// Many texts will look like this one, as those of a column do. Returns their number.
-    virtual std::size_t expect_like(const testo_report& one);
-    /// A text that looks like those of a number.
-    virtual void text_like(std::size_t number, double x, double y, std::string_view text);
     virtual void line(const forma_report& one, linea_report kind) = 0;
     virtual void box(const forma_report& one, bool filled) = 0;
     virtual void end_page() = 0;
 
  private:
     ui::printer& paper_;
-    std::vector<testo_report> alike_;
 };
 
 /// A font of the report table as a printer takes it: a name or size that no font has is replaced.
@@ -90,15 +83,12 @@ class report_in_print_file final : public report_output {
     /// A line end inside a text becomes a line feed alone, which no reader takes for the end of its
     /// line in the file.
     void text(const testo_report& one) override;
-    std::size_t expect_like(const testo_report& one) override;
-    void text_like(std::size_t number, double x, double y, std::string_view text) override;
     void line(const forma_report& one, linea_report kind) override;
     void box(const forma_report& one, bool filled) override;
     void end_page() override;
 
  private:
     print_file_writer& file_;
-    std::vector<print_file_writer::look> looks_;
 };
 
 }  // namespace vantora
