@@ -11,7 +11,7 @@ namespace vantora {
 
 namespace {
 
-constexpr std::size_t told_whole = 15;  ///< refused lines that the box tells with their texts
+constexpr std::size_t told_whole = 20;  ///< refused lines that the box tells
 
 constexpr const char* why_refused(paste_fault fault) {
     switch (fault) {
@@ -33,31 +33,50 @@ void press_enter(ui::control& cell) {
 class line_grid::paste_report {
  public:
     void refuse(const pasted_line& line, std::string_view why) {
-        if (refused_++ < told_whole) {
-            std::string source = line.source.substr(0, 60);
-            std::ranges::replace(source, '\t', ' ');
-            text_ +=
-                "\nriga " + std::to_string(line.number) + ": " + source + " - " + std::string(why);
-        } else {
-            further_ += (further_.empty() ? "" : ", ") + std::to_string(line.number);
-        }
+        if (refused_++ < told_whole) text_ += told(line) + " - " + std::string(why);
+    }
+    void doubt(const pasted_line& line) {
+        if (!line.doubtful.empty() && doubtful_++ < told_whole) doubts_ += told(line);
     }
     [[nodiscard]] std::string message(std::size_t lines) const {
-        if (refused_ == 0) return {};
-        std::string told = "Righe inserite: " + std::to_string(lines - refused_) + " di " +
-                           std::to_string(lines) + "\nNon inserite:" + text_;
-        if (!further_.empty()) told += "\ne le righe " + further_;
-        return told;
+        std::string all;
+        if (refused_ > 0) {
+            all = "Righe inserite: " + std::to_string(lines - refused_) + " di " +
+                  std::to_string(lines) + "\nNon inserite:" + text_ + further(refused_);
+        }
+        if (doubtful_ > 0) {
+            all += (all.empty() ? "" : "\n\n") +
+                   "Da controllare, il punto è stato preso per la virgola dei decimali:"_cp +
+                   doubts_ + further(doubtful_);
+        }
+        return all;
     }
 
  private:
+    static std::string told(const pasted_line& line) {
+        std::string source = line.source.substr(0, 60);
+        std::ranges::replace(source, '\t', ' ');
+        return "\nriga " + std::to_string(line.number) + ": " + source;
+    }
+    static std::string further(std::size_t count) {
+        if (count <= told_whole) return {};
+        return "\ne altre " + std::to_string(count - told_whole);
+    }
+
     std::size_t refused_ = 0;
+    std::size_t doubtful_ = 0;
     std::string text_;
-    std::string further_;
+    std::string doubts_;
 };
 
 void line_grid::paste_lines(int row, std::string_view text, const ui::paste_progress& goes_on) {
     if (at_work() || row < 0 || row >= rows) return;
+    if (too_much_to_paste(text)) {
+        return app_.desk.message(
+            "Sono troppe righe: se ne inseriscono al massimo 20.000, 4 MB in "
+            "tutto. Nessuna è stata inserita."_cp,
+            ui::attention, ui::icon::warning);
+    }
     const auto lines = read_pasted_lines(text);
     if (lines.empty()) return;
     paste_report report;
@@ -92,6 +111,7 @@ void line_grid::paste_line(const pasted_line& line, int& at, paste_report& repor
     if (!make_room(at, below + 1)) return report.refuse(line, "non c'è posto"_cp);
     const int row = row_showing(at);
     type_line(line, row);
+    report.doubt(line);
     at += 1 + below;
 }
 

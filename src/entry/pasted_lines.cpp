@@ -104,12 +104,48 @@ paste_fault take_fields(const fields& from, pasted_line& line) {
     return read ? paste_fault::none : paste_fault::number;
 }
 
+bool has_decimal_comma(std::string_view field) {
+    field = stripped(field);
+    return std::ranges::count(field, ',') == 1 && is_number(field);
+}
+
+/// "1.234", "-12.500": a thousand and more, or a fraction.
+bool is_ambiguous(std::string_view field) {
+    if (!field.empty() && (field[0] == '-' || field[0] == '+')) field.remove_prefix(1);
+    const std::size_t point = field.find('.');
+    const auto digits = [](std::string_view part) {
+        return part.find_first_not_of("0123456789") == std::string_view::npos;
+    };
+    return point != std::string_view::npos && point >= 1 && point <= 3 && field[0] != '0' &&
+           field.size() == point + 4 && digits(field.substr(0, point)) &&
+           digits(field.substr(point + 1));
+}
+
+/// Reads the ambiguous numbers of a line by the paste's convention.
+void settle_numbers(fields& of, bool decimal_commas, pasted_line& line) {
+    for (std::size_t i = 1; i < of.size(); ++i) {
+        const std::string number(stripped(of[i]));
+        if (!is_ambiguous(number)) continue;
+        if (decimal_commas) {
+            std::erase(of[i], '.');
+        } else {
+            line.doubtful += (line.doubtful.empty() ? "" : ", ") + number;
+        }
+    }
+}
+
 }  // namespace
+
+bool too_much_to_paste(std::string_view text) {
+    const auto ends = std::max(std::ranges::count(text, '\n'), std::ranges::count(text, '\r'));
+    return text.size() > pasted_bytes_max || static_cast<std::size_t>(ends) > pasted_lines_max;
+}
 
 std::vector<pasted_line> read_pasted_lines(std::string_view text) {
     const auto has = [text](char one) { return text.find(one) != std::string_view::npos; };
     const char separator = has('\t') ? '\t' : has(';') ? ';' : ' ';
     std::vector<pasted_line> lines;
+    std::vector<fields> columns;
     for (int number = 1; !text.empty(); ++number) {
         const std::size_t end = std::min(text.find_first_of("\r\n"), text.size());
         const std::string_view whole = text.substr(0, end);
@@ -119,8 +155,15 @@ std::vector<pasted_line> read_pasted_lines(std::string_view text) {
         pasted_line& line = lines.emplace_back();
         line.number = number;
         line.source = stripped(whole);
-        line.fault = take_fields(
-            separator == ' ' ? aligned(stripped(whole)) : separated(whole, separator), line);
+        columns.push_back(separator == ' ' ? aligned(stripped(whole))
+                                           : separated(whole, separator));
+    }
+    const bool decimal_commas = std::ranges::any_of(columns, [](const fields& one) {
+        return std::any_of(one.begin() + 1, one.end(), has_decimal_comma);
+    });
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        settle_numbers(columns[i], decimal_commas, lines[i]);
+        lines[i].fault = take_fields(columns[i], lines[i]);
     }
     return lines;
 }

@@ -20,12 +20,21 @@ struct pasted_line {
     std::string discount1;
     std::string discount2;
     std::string price;
+    /// A number such as "1.234" that was taken for a fraction, and may have been meant for more.
+    std::string doubtful;
 };
+
+/// What is pasted at once.
+inline constexpr std::size_t pasted_lines_max = 20'000;
+inline constexpr std::size_t pasted_bytes_max = 4'000'000;
+
+/// Whether a text is more than that.
+bool too_much_to_paste(std::string_view text);
 
 /// Reads lines whose columns are code; code, quantity; code, quantity, price; code, quantity,
 /// discounts ("10" or "10+5"), price; or code, quantity, two discounts, price. Between them stand
-/// tabs, else semicolons, else blanks. Decimal marks are Italian or points. Blank lines are left
-/// out.
+/// tabs, else semicolons, else blanks. Decimal marks are Italian or points, the same in all lines:
+/// where a number has a decimal comma, "1.234" is a thousand and more. Blank lines are left out.
 std::vector<pasted_line> read_pasted_lines(std::string_view text);
 
 }  // namespace vantora

@@ -32,6 +32,13 @@ bool vat_pick::eventFilter(QObject* watched, QEvent* event) {
             });
         }
     }
+    if (watched == box_->view() && event->type() == QEvent::Hide) {
+        // A click outside; what a pick closed isn't there any more.
+        QTimer::singleShot(0, this, [this] {
+            const bool stays = box_->isVisible() && box_->hasFocus();
+            if (stays && !box_->view()->isVisible()) leave_(-1);
+        });
+    }
     return QObject::eventFilter(watched, event);
 }
 

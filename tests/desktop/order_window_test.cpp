@@ -241,7 +241,7 @@ TEST_F(order_window, AnOrderIsLeftWhileItsNewTotalsStillWaitToBeShown) {
     run({[&] {
              press(Qt::Key_F12);
              EXPECT_EQ(front(), "mirorcs") << "F12 opened it; struck twice in haste it means that";
-             press_button("comando(0)");
+             bench.press_button("comando(0)");
              EXPECT_EQ(front(), "mirorcs") << "so does the second click of a double one";
              QApplication::setDoubleClickInterval(0);
              write_cells({"a100", "3000"});

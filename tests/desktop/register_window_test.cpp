@@ -202,7 +202,7 @@ TEST_F(register_window, AskedToEndFromOutsideItEndsWhateverIsOpen) {
              ASSERT_TRUE(box());
              QDialog of_the_system;
              of_the_system.show();
-             const outside_end ending([&] { bench.front.end_by_user(); });
+             const outside_end ending([] { return true; }, [&] { bench.front.end_by_user(); });
              std::raise(SIGTERM);
              EXPECT_TRUE(QTest::qWaitFor([&] { return bench.desk.ended().has_value(); }, 2000));
              EXPECT_FALSE(of_the_system.isVisible());

@@ -25,6 +25,8 @@ TEST(PastedLines, ColumnsSeparatorsAndNumbersOfSpreadsheetsAreRead) {
                  {"A\t2\n\n \t \nB\t\n", {"1|A|2|||", "4|B||||"}},
                  {"A;12,5\nB;1.234,50;;7", {"1|A|12.5|||", "2|B|1234.50|||7"}},
                  {"A;2;3,10", {"1|A|2|||3.10"}},
+                 {"A;1.234;3,10\nB;0.500;12.500", {"1|A|1234|||3.10", "2|B|0.500|||12500"}},
+                 {"A;1.234;3.10", {"1|A|1.234|||3.10"}},
                  {"A;2;10;3,10\nA;2;10+5%;3\nA;2;10;5;3\nA;;;",
                   {"1|A|2|10||3.10", "2|A|2|10|5|3", "3|A|2|10|5|3", "4|A||||"}},
                  {"A 12  3\nAB 12   -3  1,5\nTUBO 12\nABCDEF  2",
@@ -39,6 +41,14 @@ TEST(PastedLines, ColumnsSeparatorsAndNumbersOfSpreadsheetsAreRead) {
         ASSERT_EQ(read.size(), one.lines.size()) << one.text;
         for (std::size_t i = 0; i < read.size(); ++i) EXPECT_EQ(told(read[i]), one.lines[i]);
     }
+}
+
+TEST(PastedLines, WhatMayBeMeantOtherwiseAndWhatIsTooMuchIsKnown) {
+    const auto read = read_pasted_lines("A;1.234;0.125\nB;1234.5;-12.500");
+    EXPECT_EQ(read[0].doubtful + "|" + read[1].doubtful, "1.234|-12.500");
+    EXPECT_TRUE(read_pasted_lines("A;1.234;3,1")[0].doubtful.empty());
+    EXPECT_TRUE(too_much_to_paste(std::string(200'000, '\n')));
+    EXPECT_FALSE(too_much_to_paste(std::string(20'000, '\n')));
 }
 
 TEST(PastedLines, OneFieldsTextIsNoLines) {
