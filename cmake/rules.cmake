@@ -3,7 +3,8 @@
 add_library(vantora_rules INTERFACE)
 target_include_directories(vantora_rules INTERFACE ${PROJECT_SOURCE_DIR}/src)
 target_compile_options(vantora_rules INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
-                                               -Wnon-virtual-dtor -Woverloaded-virtual -Werror
+                                               -Wnon-virtual-dtor -Woverloaded-virtual
+                                               $<$<BOOL:${VANTORA_STRICT}>:-Werror>
                                                # amounts round step by step on every processor
                                                -ffp-contract=off)
 if(VANTORA_SANITIZE)
@@ -55,6 +56,7 @@ function(vantora_test name)
     target_link_libraries(${name} PRIVATE vantora_rules vantora_read_together)
   endif()
   target_link_libraries(${name} PRIVATE vantora_rules ${arg_LINKS} GTest::gtest_main)
-  gtest_discover_tests(${name} DISCOVERY_TIMEOUT 300
+  # asked for its tests when they are run: building needs no display
+  gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 300
                        PROPERTIES TIMEOUT 900)
 endfunction()

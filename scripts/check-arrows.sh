@@ -1,6 +1,10 @@
 #!/bin/sh
-# Fails, naming the places, if a file includes one of a folder that its own folder must not know.
-# All of src is on the include path, so the compiler alone doesn't keep these arrows.
+# Fails, naming the places, if a file includes one of a folder that its own folder must not know,
+# or if an include is spelled so that this can't be seen. All of src is on the include path, so the
+# compiler alone doesn't keep these arrows.
+#   scripts/check-arrows.sh [BUILD_FOLDER...]
+# Of each build folder it looks at what the compiler read, too, however it was included; then
+# permissions that are no longer used fail as well.
 set -eu
 cd "$(dirname "$0")/.."
 
@@ -9,7 +13,7 @@ allowed='
 text:
 errors:
 store: store/records text
-store/records: store text
+store/records: store
 orders: store store/records text errors
 ui: text errors
 ui/pictures: ui
@@ -17,49 +21,98 @@ ui/script: ui text
 ui/paper: ui text
 desktop/look: ui
 desktop/dialogs: desktop/look
-desktop/keys: desktop/look ui
+desktop/keys: desktop/look
 desktop/controls: desktop/dialogs desktop/keys desktop/look ui ui/paper text
 desktop/lists: desktop/dialogs desktop/keys desktop/look ui ui/paper text
 desktop/printing: desktop/dialogs desktop/look ui ui/paper
-desktop: desktop/controls desktop/keys desktop/lists desktop/look desktop/printing ui ui/paper ui/script text
+desktop: desktop/controls desktop/keys desktop/lists desktop/look ui ui/paper ui/script text
 windows: desktop desktop/controls desktop/dialogs desktop/keys desktop/look register enquiry customer entry fulfil reports ui ui/paper
-program: orders store store/records text ui
-customer: program orders store store/records text ui
-documents: program orders store store/records text ui errors
+program: store text ui
+customer: program store store/records text ui
+documents: program orders store text ui
 enquiry: customer documents entry program orders store store/records text ui
-register: enquiry program orders store store/records text ui
-entry: customer documents program orders store store/records text ui errors
-fulfil: customer documents entry program orders store store/records text ui errors
+register: enquiry program orders store text ui
+entry: customer documents program orders store text ui errors
+fulfil: customer entry program orders store store/records text ui errors
 reports: documents program orders store store/records text ui
-app: register enquiry customer entry fulfil reports documents program store store/records text ui desktop desktop/look desktop/printing windows ui/paper ui/pictures ui/script
+app: register enquiry customer entry fulfil reports program store text ui desktop desktop/look desktop/printing windows ui/paper ui/pictures ui/script
+tools/archive: store text orders store/records
+tools/demo: text store/records store orders
+tools/mirxpdf: documents store text ui/paper ui/pictures desktop/look
+bench: tools/archive tools/demo register store customer entry desktop desktop/look ui fulfil store/records documents tools/mirxpdf ui/pictures orders reports text desktop/printing
 '
 
-git ls-files 'src/*.h' 'src/*.cpp' |
-    xargs grep -n '^[[:space:]]*#[[:space:]]*include[[:space:]]*["<][^">]*/' |
-    awk -v allowed="$allowed" '
-        function folder(path) { sub("/[^/]*$", "", path); return path }
-        BEGIN {
-            lines = split(allowed, line, "\n")
-            for (l = 1; l <= lines; ++l) {
-                words = split(line[l], word, /:? +|:$/)
-                known[word[1]] = 1
-                for (w = 2; w <= words; ++w)
-                    may[word[1], word[w]] = 1
-            }
+sources='src/*.h src/*.cpp tools/*.h tools/*.cpp bench/*.h bench/*.cpp'
+found=$(mktemp)
+trap 'rm -f "$found"' EXIT
+
+# Only `#include "x"` and `#include <x>` are read below, so nothing else is let in.
+if git ls-files $sources | xargs grep -nE '^[[:space:]]*(/\*.*\*/[[:space:]]*)*(#|%:|\?\?=)' |
+    grep -E ':[0-9]+:.*(include|import|embed)|(#|%:|\?\?=)[[:space:]]*(\\$|/\*)' |
+    grep -vE ':#include ("[^"]+"|<[^>]+>)( *//.*)?$'; then
+    echo "to be spelled as #include \"...\" or #include <...>"
+    exit 1
+fi
+
+git ls-files $sources | xargs grep -n '^#include ["<][^">]*/' |
+    sed -E 's/^([^:]*:[0-9]+):#include ["<]([^">]*)[">].*/\1 \2/' >"$found"
+for build in "$@"; do
+    # A line for each file that a compiler read:  OBJECT FILE
+    ninja -C "$build" -t deps |
+        awk -v root="$(pwd)/" '
+            /^[^ ].*\(VALID\)$/ { object = $1; sub(/:$/, "", object); next }
+            /^[^ ]/ { object = ""; next }
+            object == "" { next }
+            index($1, root) == 1 { print object, substr($1, length(root) + 1) }
+            sub(/^(\.\.\/)+/, "", $1) { print object, $1 }'
+done | awk '$1 ~ /^(src|tools)\// && $2 ~ /^(src|tools|bench)\//' | sort -u >>"$found"
+
+awk -v allowed="$allowed" -v strict="$#" '
+    function folder(path) { sub("/[^/]*$", "", path); sub(/^src\//, "", path); return path }
+    # Of an object of the build: sources that are read together stand in a folder of their own.
+    function built_from(object) { gsub(/CMakeFiles\/[^\/]*\.dir\/(Unity\/)?/, "", object); return folder(object) }
+    function reach(from, to,   f) {
+        if (from == to || (from, to) in may) return 1
+        if ((from, to) in seen) return 0
+        seen[from, to] = 1
+        for (f in known) if ((from, f) in may && reach(f, to)) return 1
+        return 0
+    }
+    BEGIN {
+        lines = split(allowed, line, "\n")
+        for (l = 1; l <= lines; ++l) {
+            words = split(line[l], word, /:? +|:$/)
+            if (word[1] == "") continue
+            known[word[1]] = 1
+            for (w = 2; w <= words; ++w) if (word[w] != "") may[word[1], word[w]] = 1
         }
-        {
-            match($0, /^[^:]*:[0-9]+:/)
-            place = substr($0, 1, RLENGTH - 1)
-            from = place; sub(/^src\//, "", from); sub(/:.*/, "", from); from = folder(from)
-            match($0, /["<][^">]*/)
-            to = folder(substr($0, RSTART + 1, RLENGTH - 1))
+    }
+    $1 ~ /\.o$/ {
+        from = built_from($1); to = folder($2)
+        if ((from, to) in judged) next
+        judged[from, to] = 1
+        split("", seen)
+        knows = reach(from, to)
+        # Subfolders may be read together in the name of their folder.
+        if ($1 ~ /\/Unity\//) for (f in known) if (index(f, from "/") == 1) knows = knows || reach(f, to)
+        if (!knows) { print $1 ": reads " $2 ", of a folder that " from " must not know"; bad = 1 }
+        next
+    }
+    {
+        from = $1; sub(/:.*/, "", from); from = folder(from)
+        to = folder($2)
+        if (("tools/" to) in known) to = "tools/" to
+    }
+    !(from in known) { print $1 ": " from " is missing in the table of scripts/check-arrows.sh"; bad = 1; next }
+    # Anything of ours, also by a way round through ".."; system headers such as <sys/stat.h> are not.
+    $2 ~ /\.\./ || to in known {
+        used[from, to] = 1
+        if (to != from && !((from, to) in may)) { print $1 ": " from " must not include " to; bad = 1 }
+    }
+    END {
+        if (strict) for (one in may) if (!(one in used)) {
+            split(one, pair, SUBSEP)
+            print "scripts/check-arrows.sh: " pair[1] " no longer includes " pair[2]; bad = 1
         }
-        !(from in known) { print place ": " from " is missing in the table of scripts/check-arrows.sh"; bad = 1; next }
-        # Anything of src, also by a way round through "..", counts; system headers such as <sys/stat.h> do not.
-        to ~ /\.\./ || to in known {
-            if (to != from && !((from, to) in may)) {
-                print place ": " from " must not include " to
-                bad = 1
-            }
-        }
-        END { exit bad }'
+        exit bad
+    }' "$found"

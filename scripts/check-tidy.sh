@@ -5,8 +5,9 @@
 set -eu
 cd "$(dirname "$0")/.."
 
-build=build/release
-[ -f "$build/compile_commands.json" ] || cmake --preset release >/dev/null
+# A preset that reads files one by one.
+build=build/debug
+[ -f "$build/compile_commands.json" ] || cmake --preset debug >/dev/null
 if [ $# -eq 0 ]; then
     set -- $(git ls-files 'src/*.cpp' 'tools/*.cpp' 'bench/*.cpp' | grep -v -E '^src/(ui/(desktop|look|paper)|app/desktop_)')
 fi

@@ -93,7 +93,7 @@ write_outcome salva_ddt(archivi& files, file_port& port, int numero_azienda,
     faults.note(files.bol.flush(), files.bol);
 
     const std::string name = "b" + masked(counter.progressivo, "##########0");
-    const auto file = port.create(cartella_azienda(numero_azienda) + "\\" + name);
+    const auto file = port.create_instead(cartella_azienda(numero_azienda) + "\\" + name);
     const std::string content = snapshot_of(document, lines);
     faults.note(file && file->write(0, std::as_bytes(std::span(content))) && file->flush(), name);
     return outcome;

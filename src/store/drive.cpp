@@ -199,6 +199,13 @@ std::filesystem::path entry_named(const std::filesystem::path& folder, const std
     return folder / name;
 }
 
+void give_rights(const std::filesystem::path& to, mode_t rights) {
+    const int descriptor = ::open(to.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+    if (descriptor < 0) return;
+    ::fchmod(descriptor, rights);
+    ::close(descriptor);
+}
+
 }  // namespace
 
 void take_file_limits_as_errors() {
@@ -266,16 +273,17 @@ std::unique_ptr<file> drive::create(std::string_view path) {
 
 std::unique_ptr<file> drive::create_instead(std::string_view path) {
     const auto located = locate(path);
-    // A link stays what it is, and leads to the file that is emptied.
+    // A link leads away, perhaps to a file of somebody's: its place is taken, it is never followed.
     struct stat state {};
-    if (::lstat(located.c_str(), &state) == 0 && S_ISREG(state.st_mode) &&
+    const bool there = ::lstat(located.c_str(), &state) == 0;
+    if (there && (S_ISREG(state.st_mode) || S_ISLNK(state.st_mode)) &&
         ::unlink(located.c_str()) == 0) {
         auto made = open_plain(located, O_RDWR | O_CREAT | O_EXCL);
         // Who could read and write the old one can the new one.
-        if (made) ::chmod(located.c_str(), state.st_mode & 0777);
+        if (made && S_ISREG(state.st_mode)) give_rights(located, state.st_mode & 0777);
         return made;
     }
-    return open_plain(located, O_RDWR | O_CREAT | O_TRUNC);
+    return open_plain(located, O_RDWR | O_CREAT | O_TRUNC | O_NOFOLLOW);
 }
 
 std::unique_ptr<file> drive::create_aside(std::string_view path) {

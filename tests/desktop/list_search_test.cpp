@@ -1,4 +1,5 @@
 #include "desktop/lists/list_search.h"
+#include "desktop/lists/list_text.h"
 
 #include <gtest/gtest.h>
 
@@ -51,6 +52,24 @@ TEST(ListSearch, FindsTheRowsThatAPlainSearchFinds) {
         ASSERT_EQ(texts.rows(), static_cast<int>(rows.size()));
         const std::string wanted = text(4);
         ASSERT_EQ(texts.rows_with(wanted), plain_search(rows, wanted)) << wanted;
+    }
+}
+
+TEST(list_text, CellsThatASpreadsheetWouldComputeAreCopiedAndSavedAsTexts) {
+    const std::pair<const char*, const char*> cells[] = {
+        {"=1+1", "'=1+1"},    {"@SUM(A1)", "'@SUM(A1)"},
+        {"-2+3", "'-2+3"},    {"+cmd|' /C'!A0", "'+cmd|' /C'!A0"},
+        {"-12,50", "-12,50"}, {"+39 055 1", "+39 055 1"},
+        {"-----", "-----"},   {"=====", "====="},
+        {"A=1", "A=1"},       {"", ""}};
+    for (const auto& [cell, kept] : cells) {
+        const std::string_view row[] = {cell};
+        std::string tabbed;
+        add_tabbed_row(tabbed, row);
+        EXPECT_EQ(tabbed, std::string(kept) + "\n");
+        std::string csv;
+        add_csv_row(csv, row);
+        EXPECT_EQ(csv, std::string(kept) + "\r\n");
     }
 }
 

@@ -98,6 +98,16 @@ TEST_F(print_file, ANewFileTakesThePlaceOfTheOldOneWhichItsReadersKeep) {
     std::filesystem::create_directory(folder.path() / "mirdoc.rto");
     EXPECT_FALSE(print_file_writer(files, marca_verticale).finish());
     EXPECT_TRUE(std::filesystem::is_directory(folder.path() / "mirdoc.rto"));
+    std::filesystem::remove(folder.path() / "mirdoc.rto");
+    std::ofstream(folder.path() / "other") << "somebody's";
+    std::filesystem::create_symlink("other", folder.path() / "mirdoc.rto");
+    write(marca_verticale, {{heading}});
+    EXPECT_EQ(content(), before);
+    EXPECT_EQ(files.read_whole("\\other"), "somebody's") << "not written through a link";
+    std::filesystem::permissions(folder.path() / "mirdoc.rto", std::filesystem::perms(0640));
+    write(marca_verticale, {{heading}});
+    EXPECT_EQ(std::filesystem::status(folder.path() / "mirdoc.rto").permissions(),
+              std::filesystem::perms(0640));
 }
 
 /// The eleven lines of a text, one of them with another content.

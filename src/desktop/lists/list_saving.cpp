@@ -1,5 +1,6 @@
 #include "desktop/lists/list_saving.h"
 
+#include <QFileInfo>
 #include <QSaveFile>
 
 #include "desktop/dialogs/file_dialog.h"
@@ -42,6 +43,8 @@ void save_list(const shown_list& list, const QString& called, QWidget* above) {
                                            {QString::fromUtf8(words::csv_files), "csv"}, above);
     if (file.isEmpty()) return;
     const std::string text = csv_text(list);
+    // A new file takes the place of a link and is never written through it.
+    if (QFileInfo(file).isSymLink()) QFile::remove(file);
     QSaveFile target(file);
     const auto size = static_cast<qint64>(text.size());
     if (target.open(QIODevice::WriteOnly) && target.write(text.data(), size) == size &&

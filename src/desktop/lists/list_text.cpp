@@ -6,10 +6,25 @@
 
 namespace vantora::ui {
 
+namespace {
+
+/// What a spreadsheet would take for a formula gets an apostrophe in front; numbers stay numbers.
+std::string harmless(std::string_view cell) {
+    constexpr std::string_view begins_formula = "=@\t\r\n";
+    const bool is_signed = cell.starts_with('+') || cell.starts_with('-');
+    const std::string_view rest = cell.substr(is_signed ? 1 : 0);
+    const bool is_number = rest.find_first_not_of("0123456789., ") == std::string_view::npos;
+    const bool is_rule = cell.find_first_not_of("-+= ") == std::string_view::npos;
+    const bool is_formula = is_signed ? !is_number : cell.find_first_of(begins_formula) == 0;
+    return (is_formula && !is_rule ? "'" : "") + std::string(cell);
+}
+
+}  // namespace
+
 void add_tabbed_row(std::string& text, list_cells row) {
     for (std::size_t i = 0; i < row.size(); ++i) {
         if (i > 0) text += '\t';
-        std::string cell(row[i]);
+        std::string cell = harmless(row[i]);
         std::ranges::replace_if(
             cell, [](char one) { return static_cast<unsigned char>(one) < ' '; }, ' ');
         text += to_utf8(cell);
@@ -20,9 +35,10 @@ void add_tabbed_row(std::string& text, list_cells row) {
 void add_csv_row(std::string& text, list_cells row) {
     for (std::size_t i = 0; i < row.size(); ++i) {
         if (i > 0) text += ';';
-        const bool quoted = row[i].find_first_of(";\"\r\n\t") != std::string_view::npos;
+        const std::string cell = harmless(row[i]);
+        const bool quoted = cell.find_first_of(";\"\r\n\t") != std::string::npos;
         if (quoted) text += '"';
-        for (const char one : to_utf8(row[i])) text.append(one == '"' ? 2 : 1, one);
+        for (const char one : to_utf8(cell)) text.append(one == '"' ? 2 : 1, one);
         if (quoted) text += '"';
     }
     text += "\r\n";
