@@ -2,14 +2,10 @@
 
 #include <cmath>
 #include <functional>
-#include <map>
 #include <sstream>
 
 #include "archive/check.h"
-#include "archive/export_csv.h"
-#include "archive/export_sqlite.h"
 #include "archive/repair.h"
-#include "archive/show.h"
 #include "demo_folder.h"
 #include "store/company.h"
 
@@ -160,59 +156,6 @@ TEST(archive_repair, SetsTheWrongFiguresRightAndLeavesACopyOfTheFile) {
     std::filesystem::resize_file(company.file("orc"), 119 * 200 * sizeof(rec_orc));
     EXPECT_EQ(repair(true), 3) << "an order is missing";
     EXPECT_EQ(test::bytes_of(company.file("art")), now);
-}
-
-TEST(archive_export, FolderAndDatabaseHoldTheSameRows) {
-    const demo_folder folder(test::small_company);
-    company_files company(folder.drive(), 7);
-    const test::scratch_folder out;
-    csv_folder csv(out.path() / "csv", false);
-    export_tables(company, csv);
-    EXPECT_TRUE(csv.good());
-    sqlite_file database(out.path() / "all.sqlite");
-    export_tables(company, database);
-    ASSERT_TRUE(database.finish());
-
-    sqlite3* opened = nullptr;
-    ASSERT_EQ(sqlite3_open((out.path() / "all.sqlite").c_str(), &opened), SQLITE_OK);
-    std::map<std::string, int> counts;
-    for (const auto& [name, content] : test::files_under(out.path() / "csv")) {
-        const std::string table = name.substr(0, name.find('.'));
-        sqlite3_stmt* query = nullptr;
-        sqlite3_prepare_v2(opened, ("SELECT count(*) FROM " + table).c_str(), -1, &query, nullptr);
-        sqlite3_step(query);
-        counts[table] = sqlite3_column_int(query, 0);
-        EXPECT_EQ(std::ranges::count(content, '\n'), counts[table] + 1) << table;
-        sqlite3_finalize(query);
-    }
-    sqlite3_close(opened);
-    EXPECT_EQ(counts.size(), 8U);
-    EXPECT_EQ(counts["orders"], 120);
-    EXPECT_EQ(counts["articles"], 150);
-    const auto first = test::records_of<rec_art>(folder.file("art")).front();
-    std::string price = std::to_string(first.prezzo1);
-    price.erase(price.find_last_not_of('0') + 1);
-    price[price.find('.')] = ',';
-    EXPECT_NE(test::bytes_of(out.path() / "csv/articles.csv").find(";" + price + ";"),
-              std::string::npos);
-}
-
-TEST(archive_show, TellsAnOrderWithItsLinesAndEveryFieldByItsName) {
-    const demo_folder folder(test::small_company);
-    company_files company(folder.drive(), 7);
-    const auto head = test::records_of<rec_orc>(folder.file("orc")).front();
-    std::ostringstream words;
-    ASSERT_TRUE(show(company, {show_request::kind::orders, 1, false}, words));
-    EXPECT_NE(words.str().find("number " + std::string(head.numero.trimmed()) + " of"),
-              std::string::npos);
-    std::ostringstream fields;
-    ASSERT_TRUE(show(company, {show_request::kind::orders, 1, true}, fields));
-    const auto rows = nlohmann::json::parse(fields.str());
-    ASSERT_EQ(rows.size(), 200U);
-    EXPECT_EQ(rows[0]["quantita"], double{head.quantita});
-    EXPECT_EQ(rows[0].size(), 26U);
-    std::ostringstream none;
-    EXPECT_FALSE(show(company, {show_request::kind::articles, 151, false}, none));
 }
 
 }  // namespace

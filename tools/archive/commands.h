@@ -36,6 +36,8 @@ command check_command(CLI::App& program);
 command show_command(CLI::App& program);
 command export_command(CLI::App& program);
 command repair_command(CLI::App& program);
+command backup_command(CLI::App& program);
+command restore_command(CLI::App& program);
 
 /// The company's files, open for reading; says why and returns nothing where there are none.
 std::unique_ptr<company_files> opened(const which_company& one);

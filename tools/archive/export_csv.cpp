@@ -1,10 +1,13 @@
 #include "archive/export_csv.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 
+#include "archive/csv_text.h"
+
 namespace vantora::archive {
+
+namespace fs = std::filesystem;
 
 namespace {
 
@@ -12,22 +15,44 @@ constexpr std::size_t handed_over_at = 1 << 20;
 constexpr std::string_view utf8_mark = "\xEF\xBB\xBF";
 constexpr const char* line_end = "\r\n";
 
+bool is_iso_date(std::string_view text) {
+    return text.size() >= 10 && text[4] == '-' && text[7] == '-';
+}
+
+/// dd/mm/yyyy of yyyy-mm-dd, with the time behind it if there is one.
 std::string italian_date(const std::string& iso) {
-    if (iso.size() != 10) return iso;
-    return iso.substr(8, 2) + "/" + iso.substr(5, 2) + "/" + iso.substr(0, 4);
+    return iso.substr(8, 2) + "/" + iso.substr(5, 2) + "/" + iso.substr(0, 4) + iso.substr(10);
 }
 
 }  // namespace
 
-csv_folder::csv_folder(std::filesystem::path folder, bool plain)
-    : folder_(std::move(folder)), plain_(plain), separator_(plain ? ',' : ';') {
+csv_folder::csv_folder(fs::path folder, bool plain)
+    : place_(std::move(folder)),
+      made_(place_),
+      plain_(plain),
+      separator_(plain ? ',' : ';'),
+      good_(!made_.folder().empty()) {
     std::error_code failed;
-    std::filesystem::create_directories(folder_, failed);
+    fs::create_directory(made_.folder() / "csv", failed);
+}
+
+std::string csv_folder::obstacle(const fs::path& folder) {
+    std::error_code failed;
+    if (!fs::exists(fs::symlink_status(folder, failed))) return {};
+    if (!fs::is_directory(fs::symlink_status(folder, failed))) return "non è una cartella";
+    for (fs::directory_iterator each(folder, failed), none; !failed && each != none;
+         each.increment(failed)) {
+        if (!each->is_regular_file(failed) || each->path().extension() != ".csv") {
+            return "contiene altro che un'esportazione (" + each->path().filename().string() + ")";
+        }
+    }
+    return failed ? "non si può leggere" : "";
 }
 
 void csv_folder::begin(const exported_table& table) {
     columns_ = table.columns;
-    out_.open(folder_ / (std::string(table.name) + ".csv"), std::ios::binary | std::ios::trunc);
+    const fs::path file = made_.folder() / "csv" / (std::string(table.name) + ".csv");
+    out_.open(file, std::ios::binary | std::ios::trunc);
     if (!plain_) pending_.append(utf8_mark);
     for (std::size_t i = 0; i < columns_.size(); ++i) {
         if (i > 0) pending_.push_back(separator_);
@@ -49,22 +74,26 @@ void csv_folder::put_text(std::string_view text) {
     pending_.push_back('"');
 }
 
+void csv_folder::put(const cell_value& value, content of) {
+    if (const auto* whole = std::get_if<std::int64_t>(&value)) {
+        pending_.append(std::to_string(*whole));
+    } else if (const auto* number = std::get_if<double>(&value)) {
+        std::string digits = digits_of(*number);
+        if (!plain_) std::ranges::replace(digits, '.', ',');
+        pending_.append(digits);
+    } else if (const auto& text = std::get<std::string>(value); plain_) {
+        put_text(text);
+    } else if (of == content::date && is_iso_date(text)) {
+        put_text(italian_date(text));
+    } else {
+        put_text(kept_as_text(text));
+    }
+}
+
 void csv_folder::row(std::span<const cell_value> values) {
     for (std::size_t i = 0; i < values.size(); ++i) {
         if (i > 0) pending_.push_back(separator_);
-        if (const auto* text = std::get_if<std::string>(&values[i])) {
-            put_text(columns_[i].of == content::date && !plain_ ? italian_date(*text) : *text);
-            continue;
-        }
-        char digits[32];
-        char* end = digits;
-        if (const auto* whole = std::get_if<std::int64_t>(&values[i])) {
-            end = std::to_chars(digits, digits + sizeof digits, *whole).ptr;
-        } else if (const double number = std::get<double>(values[i]); std::isfinite(number)) {
-            end = std::to_chars(digits, digits + sizeof digits, number).ptr;
-            if (!plain_) std::replace(digits, digits + (end - digits), '.', ',');
-        }
-        pending_.append(digits, end);
+        put(values[i], columns_[i].of);
     }
     pending_.append(line_end);
     if (pending_.size() >= handed_over_at) hand_over();
@@ -79,6 +108,11 @@ void csv_folder::end() {
     hand_over();
     out_.close();
     good_ = good_ && !out_.fail();
+}
+
+bool csv_folder::finish() {
+    // What stood there goes with the rest of the staging.
+    return good_ && swap_in(made_.folder() / "csv", place_, made_.folder() / "former");
 }
 
 }  // namespace vantora::archive

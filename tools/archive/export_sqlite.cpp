@@ -1,15 +1,19 @@
 #include "archive/export_sqlite.h"
 
 #include <cmath>
+#include <fstream>
+
+#include "archive/csv_text.h"
 
 namespace vantora::archive {
+
+namespace fs = std::filesystem;
 
 namespace {
 
 const char* type_of(content of) {
     switch (of) {
         case content::whole:
-        case content::yes_no:
             return "INTEGER";
         case content::number:
             return "REAL";
@@ -33,23 +37,27 @@ std::string key_of(const exported_table& table) {
 
 }  // namespace
 
-sqlite_file::sqlite_file(std::filesystem::path place)
-    : place_(std::move(place)), unfinished_(place_) {
-    unfinished_ += ".unfinished";
-    std::error_code ignored;
-    std::filesystem::remove(unfinished_, ignored);
+sqlite_file::sqlite_file(fs::path place) : place_(std::move(place)), made_(place_) {
+    if (made_.folder().empty()) {
+        good_ = false;
+        return;
+    }
     sqlite3* opened = nullptr;
-    good_ = sqlite3_open(unfinished_.c_str(), &opened) == SQLITE_OK;
+    good_ = sqlite3_open((made_.folder() / "made").c_str(), &opened) == SQLITE_OK;
     database_.reset(opened);
     // Nobody reads it before it is whole.
     run("PRAGMA journal_mode = OFF; PRAGMA synchronous = OFF; BEGIN");
 }
 
-sqlite_file::~sqlite_file() {
-    insert_.reset();
-    database_.reset();
-    std::error_code ignored;
-    std::filesystem::remove(unfinished_, ignored);
+std::string sqlite_file::obstacle(const fs::path& place) {
+    constexpr std::string_view mark = "SQLite format 3";
+    std::error_code failed;
+    if (!fs::exists(fs::symlink_status(place, failed))) return {};
+    if (!fs::is_regular_file(place, failed)) return "non è un file";
+    std::string head(mark.size(), ' ');
+    std::ifstream(place, std::ios::binary).read(head.data(), static_cast<int>(head.size()));
+    if (fs::file_size(place, failed) == 0 || head == mark) return {};
+    return "non è un file SQLite, e non lo si sovrascrive";
 }
 
 void sqlite_file::run(const std::string& statement) {
@@ -91,7 +99,13 @@ void sqlite_file::row(std::span<const cell_value> values) {
         if (const auto* whole = std::get_if<std::int64_t>(&value)) {
             sqlite3_bind_int64(insert_.get(), at, *whole);
         } else if (const auto* number = std::get_if<double>(&value)) {
-            sqlite3_bind_double(insert_.get(), at, *number);
+            if (std::isfinite(*number)) {
+                sqlite3_bind_double(insert_.get(), at, *number);
+            } else {
+                const std::string word = digits_of(*number);
+                sqlite3_bind_text(insert_.get(), at, word.data(), static_cast<int>(word.size()),
+                                  SQLITE_TRANSIENT);
+            }
         } else if (const auto& text = std::get<std::string>(value); text.empty()) {
             sqlite3_bind_null(insert_.get(), at);
         } else {
@@ -111,10 +125,7 @@ void sqlite_file::end() {
 bool sqlite_file::finish() {
     run("COMMIT");
     good_ = sqlite3_close(database_.release()) == SQLITE_OK && good_;
-    if (!good_) return false;
-    std::error_code failed;
-    std::filesystem::rename(unfinished_, place_, failed);
-    return !failed;
+    return good_ && swap_in(made_.folder() / "made", place_, made_.folder() / "former");
 }
 
 }  // namespace vantora::archive

@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "archive/export_tables.h"
+#include "archive/staging.h"
 
 namespace vantora::archive {
 
@@ -14,13 +15,16 @@ namespace vantora::archive {
 class sqlite_file final : public table_sink {
  public:
     explicit sqlite_file(std::filesystem::path place);
-    ~sqlite_file() override;
+
+    /// Why this file can't be replaced; empty if it can, or isn't there.
+    [[nodiscard]] static std::string obstacle(const std::filesystem::path& place);
 
     void begin(const exported_table& table) override;
     void row(std::span<const cell_value> values) override;
     void end() override;
 
-    /// Puts the finished file in its place. False, with nothing there, if anything failed.
+    /// Puts the finished file in its place. False, with everything there as it was, if anything
+    /// failed.
     bool finish();
 
  private:
@@ -32,7 +36,7 @@ class sqlite_file final : public table_sink {
     };
 
     std::filesystem::path place_;
-    std::filesystem::path unfinished_;
+    staging made_;
     std::unique_ptr<sqlite3, closer> database_;
     std::unique_ptr<sqlite3_stmt, closer> insert_;
     std::string after_;  ///< indexes of the table at hand

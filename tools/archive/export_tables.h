@@ -7,12 +7,12 @@
 #include <variant>
 #include <vector>
 
-#include "archive/company_files.h"
+#include "archive/gaps.h"
 
 namespace vantora::archive {
 
 /// What a column of an exported table holds.
-enum class content { whole, number, words, date, yes_no };
+enum class content { whole, number, words, date };
 
 struct table_column {
     const char* name;
@@ -20,15 +20,15 @@ struct table_column {
     const char* refers_to = nullptr;  ///< table whose `id` it holds, or null
 };
 
-/// One table of the export. The first column is `id`, unless there are two key columns.
+/// One table of the export. Its key are the columns in front.
 struct exported_table {
     const char* name;
     std::vector<table_column> columns;
     int key_columns = 1;
 };
 
-/// A value of a row: a whole number or yes (1) and no (0), a number, a text (UTF-8; a date as
-/// yyyy-mm-dd, empty for none).
+/// A value of a row: a whole number, a number, a text (UTF-8; a date as yyyy-mm-dd, a day with its
+/// time as yyyy-mm-dd hh:mm:ss, what is no date as it stands; empty for none).
 using cell_value = std::variant<std::int64_t, double, std::string>;
 
 /// Takes the tables, one after the other.
@@ -40,9 +40,20 @@ class table_sink {
     virtual void end() = 0;
 };
 
-/// Hands over customers, articles, orders, order lines, quotes, quote lines, movements and
-/// transport documents. Rows of an order that hold nothing are left out; deleted records say so in
-/// a column.
-void export_tables(company_files& company, table_sink& into);
+/// What an export wrote.
+struct export_outcome {
+    gaps missing;  ///< with gaps from the beginning, those that reading met
+    std::int64_t tables = 0;
+    std::int64_t rows = 0;
+    std::int64_t lost_references = 0;
+};
+
+/// Hands over everything that the program knows of a company: customers, articles and their long
+/// texts, orders and quotes with their lines, movements, transport documents with their lines, the
+/// suite's tables, counters and parameters. Lines that hold nothing are left out; deleted records
+/// say so in a column. What belongs to other programs stands field by field in a table of its own,
+/// and so do references to records that there aren't, which are empty where they stood. `missing`:
+/// what is known to be missing; if there is anything, a table of it goes along.
+export_outcome export_tables(company_files& company, table_sink& into, bool english, gaps missing);
 
 }  // namespace vantora::archive

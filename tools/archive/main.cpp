@@ -69,7 +69,7 @@ void group_help(CLI::App& of) {
 }
 
 int run(int count, char** arguments) {
-    CLI::App program("Cura l'archivio di una ditta: lo controlla, lo mostra, lo esporta");
+    CLI::App program("Cura l'archivio di una ditta: lo controlla, lo mostra, lo esporta, lo copia");
     speak_italian(program);
     program.require_subcommand(1);
     which_company company;
@@ -77,8 +77,9 @@ int run(int count, char** arguments) {
         ->check(CLI::ExistingDirectory);
     program.add_option("DITTA", company.argument,
                        "argomento del menu della suite, per esempio ordini007");
-    const command commands[] = {check_command(program), show_command(program),
-                                export_command(program), repair_command(program)};
+    const command commands[] = {check_command(program),  show_command(program),
+                                export_command(program), repair_command(program),
+                                backup_command(program), restore_command(program)};
     group_help(program);
     try {
         program.parse(count, arguments);

@@ -1,0 +1,247 @@
+#include "archive/backup.h"
+
+#include <algorithm>
+#include <sstream>
+
+#include "archive/copying.h"
+#include "archive/staging.h"
+#include "store/archives.h"
+#include "store/company.h"
+#include "store/instance_lock.h"
+#include "text/code_page.h"
+
+namespace vantora::archive {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr const char* title = "VANTORA COPIA 1";
+
+copy_outcome failed(std::string why) {
+    copy_outcome outcome;
+    outcome.fault = std::move(why);
+    return outcome;
+}
+
+std::string list_of(const std::vector<copied_file>& files) {
+    std::string text = std::string(title) + "\n";
+    for (const copied_file& one : files) {
+        text += std::to_string(one.mark) + " " + std::to_string(one.size) + " " + one.path + "\n";
+    }
+    return text + "FINE\n";
+}
+
+std::optional<std::vector<copied_file>> read_list(const std::string& text) {
+    std::istringstream in(text);
+    std::string line;
+    if (!std::getline(in, line) || line != title) return {};
+    std::vector<copied_file> files;
+    while (std::getline(in, line) && line != "FINE") {
+        copied_file one;
+        std::istringstream fields(line);
+        if (!(fields >> one.mark >> one.size) || fields.get() != ' ') return {};
+        std::getline(fields, one.path);
+        if (one.path.empty() || one.path.find("..") != std::string::npos) return {};
+        files.push_back(std::move(one));
+    }
+    if (line != "FINE") return {};
+    return files;
+}
+
+/// Makes all folders above a file.
+bool make_folders(file_port& to, const std::string& target) {
+    for (std::size_t at = target.find('/'); at != std::string::npos;
+         at = target.find('/', at + 1)) {
+        if (!to.create_folder(drive_path(target.substr(0, at)))) return false;
+    }
+    return true;
+}
+
+/// Copies everything into `into` of the drive `to`. A fault names the file.
+std::string copy_all(file_port& from, const std::vector<listed_file>& listed, file_port& to,
+                     const std::string& into, std::vector<copied_file>& copied) {
+    copied.clear();
+    for (const listed_file& one : listed) {
+        const std::string target = into + "/" + one.path;
+        if (!make_folders(to, target)) return target + ": la cartella non si può creare";
+        if (to.exists(drive_path(target))) return one.path + ": lo stesso nome due volte";
+        const auto done = copy_over(from, one.path, to, target);
+        if (!done) return one.path + ": non si può leggere o copiare";
+        copied.push_back(*done);
+    }
+    return {};
+}
+
+/// Reads the copies again.
+std::string compare_all(file_port& to, const std::string& folder,
+                        const std::vector<copied_file>& copied) {
+    for (const copied_file& one : copied) {
+        const auto read = read_over(to, folder + one.path);
+        if (!read || read->size != one.size || read->mark != one.mark) {
+            return one.path + ": riletta, la copia non è uguale";
+        }
+    }
+    return {};
+}
+
+/// The counters file alone: what the lock lies on.
+archivi lock_file(file_port& files, int numero_azienda) {
+    archivi opened;
+    const std::string tot = file_azienda(numero_azienda, "tot");
+    if (files.exists(tot)) opened.tot = channel<rec_tot>(files.open_records(tot), "vantora.tot");
+    return opened;
+}
+
+/// Copies until the files stayed the same all the while: other programs of the suite don't wait.
+std::string copy_consistently(file_port& from, const archivi& tot, int numero_azienda,
+                              file_port& to, const staging& made, std::vector<copied_file>& copied,
+                              std::string& into) {
+    constexpr int attempts_max = 3;
+    const fs::path root = from.locate("\\");
+    const fs::path company = from.locate(cartella_azienda(numero_azienda));
+    for (int attempt = 1; attempt <= attempts_max; ++attempt) {
+        instance_lock alone(tot, instance_lock::kind::compaction);
+        if (alone.result() == instance_lock::outcome::compaction_elsewhere) break;
+        const auto before = list_company(root, company);
+        into = made.folder().filename().string() + "/" + std::to_string(attempt);
+        std::string fault = copy_all(from, before, to, into, copied);
+        if (!fault.empty()) return fault;
+        if (list_company(root, company) == before) return {};
+    }
+    return "l'archivio cambia di continuo: un altro programma o un'altra postazione vi lavora";
+}
+
+constexpr const char* new_company = "ditta";
+
+/// Where a file of a copy goes: into the new folder of the company if it is the company's, to its
+/// own place if it is a general table; nowhere if it is another company's.
+std::optional<std::string> target_of(const std::string& path, int numero_azienda,
+                                     const std::string& into) {
+    const std::size_t general = std::string("mirwin/mirwin/").size();
+    const std::size_t end = path.find('/', general);
+    if (end == std::string::npos) return path;
+    const std::string folder = upper(path.substr(general, end - general));
+    const std::string own = cartella_azienda(numero_azienda);
+    if (folder != upper(own.substr(own.rfind('\\') + 1))) return {};
+    return into + "/" + new_company + path.substr(end);
+}
+
+/// The end of a copy's name that tells when it was made.
+bool is_moment(std::string_view text) {
+    constexpr std::string_view shape = "-0000-00-00-000000";
+    return text.size() == shape.size() && std::ranges::equal(text, shape, [](char one, char as) {
+               return as == '0' ? one >= '0' && one <= '9' : one == as;
+           });
+}
+
+std::vector<std::string> copies_in(const fs::path& folder, const std::string& stem) {
+    std::vector<std::string> names;
+    std::error_code failure;
+    for (const auto& one : fs::directory_iterator(folder, failure)) {
+        const std::string name = one.path().filename().string();
+        if (name.starts_with(stem) && is_moment(std::string_view(name).substr(stem.size())) &&
+            fs::exists(one.path() / copy_list, failure)) {
+            names.push_back(name);
+        }
+    }
+    std::ranges::sort(names);
+    return names;
+}
+
+}  // namespace
+
+std::int64_t copy_outcome::bytes() const {
+    std::int64_t all = 0;
+    for (const copied_file& one : files) all += one.size;
+    return all;
+}
+
+copy_outcome make_copy(file_port& from, file_port& locks, int numero_azienda, file_port& to,
+                       const std::string& name) try {
+    copy_outcome outcome;
+    outcome.place = to.locate("\\") / name;
+    if (fs::exists(fs::symlink_status(outcome.place))) return failed(name + " c'è già");
+    const staging made(outcome.place);
+    if (made.folder().empty()) return failed("nella cartella delle copie non si può scrivere");
+    std::string into;
+    outcome.fault = copy_consistently(from, lock_file(locks, numero_azienda), numero_azienda, to,
+                                      made, outcome.files, into);
+    if (!outcome.fault.empty()) return outcome;
+    outcome.fault = compare_all(to, into + "/", outcome.files);
+    if (!outcome.fault.empty()) return outcome;
+    const std::string list = list_of(outcome.files);
+    const auto file = to.create(drive_path(into + "/" + copy_list));
+    if (!file || !file->write(0, std::as_bytes(std::span(list))) || !file->flush()) {
+        return failed("l'elenco della copia non si può scrivere");
+    }
+    const fs::path finished = made.folder() / fs::path(into).filename();
+    if (!swap_in(finished, outcome.place, made.folder() / "former")) {
+        return failed("la copia non si può mettere al suo posto");
+    }
+    return outcome;
+} catch (const fs::filesystem_error& problem) {
+    return failed(problem.path1().string() + ": " + problem.code().message());
+}
+
+copy_outcome checked_copy(const fs::path& copy, file_port& files) {
+    copy_outcome outcome;
+    outcome.place = copy;
+    const auto text = files.read_whole(std::string("\\") + copy_list);
+    auto listed = text ? read_list(*text) : std::nullopt;
+    if (!listed) return failed(copy.string() + " non è una copia intera");
+    outcome.files = std::move(*listed);
+    outcome.fault = compare_all(files, "", outcome.files);
+    return outcome;
+}
+
+copy_outcome put_back(const copy_outcome& copy, file_port& from, int numero_azienda, file_port& to,
+                      const std::string& former) try {
+    const fs::path place = to.locate(cartella_azienda(numero_azienda));
+    fs::create_directories(place.parent_path());
+    const staging made(place);
+    if (made.folder().empty()) return failed("accanto alla ditta non si può scrivere");
+    const std::string into = made.folder().lexically_relative(to.locate("\\")).generic_string();
+    bool any = false;
+    for (const copied_file& one : copy.files) {
+        const auto target = target_of(one.path, numero_azienda, into);
+        if (!target || (*target == one.path && to.exists(drive_path(*target)))) continue;
+        any = any || *target != one.path;
+        if (!make_folders(to, *target)) return failed(*target + ": la cartella non si può creare");
+        const auto done = copy_over(from, one.path, to, *target);
+        if (!done || done->mark != one.mark || done->size != one.size) {
+            return failed(one.path + ": non si può copiare");
+        }
+    }
+    if (!any) return failed("la copia non è di questa ditta");
+    const archivi tot = lock_file(to, numero_azienda);
+    const instance_lock alone(tot, instance_lock::kind::compaction);
+    if (!alone.may_go_on()) return failed("un'altra postazione sta compattando l'archivio");
+    copy_outcome outcome;
+    outcome.files = copy.files;
+    if (fs::exists(place)) outcome.place = place.parent_path() / former;
+    if (!swap_in(made.folder() / new_company, place, place.parent_path() / former)) {
+        return failed("la ditta non si può sostituire; è rimasta com'era");
+    }
+    return outcome;
+} catch (const fs::filesystem_error& problem) {
+    return failed(problem.path1().string() + ": " + problem.code().message());
+}
+
+int drop_old_copies(const fs::path& folder, const std::string& stem, int keep) {
+    const auto names = copies_in(folder, stem);
+    int dropped = 0;
+    std::error_code failure;
+    for (std::size_t i = 0; i + static_cast<std::size_t>(keep) < names.size(); ++i) {
+        fs::remove_all(folder / names[i], failure);
+        if (!failure) ++dropped;
+    }
+    return dropped;
+}
+
+std::string newest_copy(const fs::path& folder, const std::string& stem) {
+    const auto names = copies_in(folder, stem);
+    return names.empty() ? std::string() : names.back().substr(stem.size() + 1);
+}
+
+}  // namespace vantora::archive

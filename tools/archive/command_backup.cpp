@@ -1,0 +1,169 @@
+#include <chrono>
+#include <ctime>
+#include <iostream>
+
+#include "archive/backup.h"
+#include "archive/commands.h"
+#include "archive/copying.h"
+#include "store/company.h"
+#include "text/number_text.h"
+
+namespace vantora::archive {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// "-2024-12-20-193000"
+std::string moment() {
+    const std::time_t now = std::time(nullptr);
+    char text[32];
+    std::tm local{};
+    const std::size_t size =
+        std::strftime(text, sizeof text, "-%Y-%m-%d-%H%M%S", ::localtime_r(&now, &local));
+    return {text, size};
+}
+
+/// "ditta007"
+std::string stem_of(int numero_azienda) {
+    const std::string padded = "00" + std::to_string(numero_azienda);
+    return "ditta" + padded.substr(padded.size() - 3);
+}
+
+std::string megabytes(std::int64_t bytes) {
+    return masked(static_cast<double>(bytes) / 1e6, "###,###,##0.#0") + " MB";
+}
+
+struct backup_request {
+    std::string folder;
+    int keep = 0;
+    bool quiet = false;
+};
+
+int run_backup(const which_company& which, const backup_request& request) {
+    const auto begun = std::chrono::steady_clock::now();
+    drive from(which.drive, drive::access::reading_only);
+    drive locks(which.drive);
+    std::error_code failed;
+    fs::create_directories(request.folder, failed);
+    drive to(request.folder);
+    const std::string stem = stem_of(which.number());
+    const copy_outcome outcome = make_copy(from, locks, which.number(), to, stem + moment());
+    if (!outcome.fault.empty()) {
+        std::cerr << "Nessuna copia: " << outcome.fault << ".\n";
+        return exit_code::unreadable;
+    }
+    const int dropped = request.keep > 0 ? drop_old_copies(request.folder, stem, request.keep) : 0;
+    if (request.quiet) return exit_code::done;
+    const std::chrono::duration<double> took = std::chrono::steady_clock::now() - begun;
+    std::cout << outcome.files.size() << " file, " << megabytes(outcome.bytes()) << " in "
+              << outcome.place.string() << ", riletti e uguali, "
+              << masked(took.count(), "###,##0.#0") << " secondi\n";
+    if (dropped > 0) std::cout << "Copie più vecchie tolte: " << dropped << "\n";
+    return exit_code::done;
+}
+
+/// What putting a copy back changes; false if nothing does.
+bool tell_differences(const copy_outcome& copy, file_port& now, int numero_azienda,
+                      std::ostream& out) {
+    constexpr int told_max = 20;
+    int differing = 0;
+    const auto tell = [&](const std::string& path, const char* what) {
+        if (++differing <= told_max) out << "  " << path << ": " << what << '\n';
+    };
+    std::vector<std::string> there;
+    const fs::path folder = now.locate(cartella_azienda(numero_azienda));
+    if (fs::is_directory(folder)) {
+        for (const listed_file& one : list_company(now.locate("\\"), folder)) {
+            there.push_back(one.path);
+        }
+    }
+    for (const copied_file& one : copy.files) {
+        const auto found =
+            now.exists(drive_path(one.path)) ? read_over(now, one.path) : std::nullopt;
+        if (!found) {
+            tell(one.path, "oggi manca");
+        } else if (found->size != one.size) {
+            tell(one.path, found->size > one.size ? "oggi è più lungo" : "oggi è più corto");
+        } else if (found->mark != one.mark) {
+            tell(one.path, "diverso");
+        }
+    }
+    for (const std::string& path : there) {
+        const bool copied = std::ranges::any_of(
+            copy.files, [&](const copied_file& one) { return upper(one.path) == upper(path); });
+        if (!copied) tell(path, "nella copia non c'è");
+    }
+    if (differing > told_max) out << "  ... e altri " << differing - told_max << " file\n";
+    return differing > 0;
+}
+
+struct restore_request {
+    std::string copy;
+    bool yes = false;
+};
+
+int run_restore(const which_company& which, const restore_request& request) {
+    drive from(request.copy, drive::access::reading_only);
+    const copy_outcome copy = checked_copy(request.copy, from);
+    if (!copy.fault.empty()) {
+        std::cerr << "Non è stato cambiato nulla: " << copy.fault << ".\n";
+        return exit_code::unreadable;
+    }
+    drive now(which.drive, drive::access::reading_only);
+    std::cout << "La copia è intera. Rispetto all'archivio di oggi:\n";
+    if (!tell_differences(copy, now, which.number(), std::cout)) {
+        std::cout << "  nessuna differenza: non è stato cambiato nulla.\n";
+        return exit_code::done;
+    }
+    std::cout << "La cartella della ditta prende il posto di quella di oggi, che resta accanto. Le "
+                 "tabelle generali si rimettono solo se mancano.\n";
+    if (!request.yes && !asked_user()) {
+        std::cout << "Non è stato cambiato nulla.\n";
+        return exit_code::refused;
+    }
+    drive to(which.drive);
+    const std::string former = "prima-" + stem_of(which.number()) + moment();
+    const copy_outcome outcome = put_back(copy, from, which.number(), to, former);
+    if (!outcome.fault.empty()) {
+        std::cerr << "Non è stato cambiato nulla: " << outcome.fault << ".\n";
+        return exit_code::unreadable;
+    }
+    std::cout << "La ditta è quella della copia.\n";
+    if (!outcome.place.empty()) std::cout << "Quella di prima è " << outcome.place.string() << "\n";
+    return exit_code::done;
+}
+
+}  // namespace
+
+command backup_command(CLI::App& program) {
+    CLI::App* line = program.add_subcommand("backup", "copia la ditta, anche mentre si lavora");
+    const auto request = std::make_shared<backup_request>();
+    line->add_option("CARTELLA", request->folder, "dove stanno le copie")
+        ->required()
+        ->type_name("");
+    line->add_option("--keep", request->keep,
+                     "quante copie della ditta tenere; le altre si tolgono")
+        ->check(CLI::Range(1, 100000).description(""))
+        ->type_name("N");
+    line->add_flag("--quiet", request->quiet, "dice qualcosa solo se non riesce");
+    return {line, [request](const which_company& which) {
+                return opened(which) ? run_backup(which, *request) : exit_code::unreadable;
+            }};
+}
+
+command restore_command(CLI::App& program) {
+    CLI::App* line = program.add_subcommand("restore", "rimette una copia al posto della ditta");
+    const auto request = std::make_shared<restore_request>();
+    line->add_option("COPIA", request->copy, "una cartella fatta da backup")
+        ->required()
+        ->type_name("");
+    line->add_flag("--yes", request->yes, "senza chiedere");
+    return {line, [request](const which_company& which) {
+                if (!which.argument.empty()) return run_restore(which, *request);
+                opened(which);
+                return exit_code::wrong_options;
+            }};
+}
+
+}  // namespace vantora::archive

@@ -1,0 +1,104 @@
+#include "archive/copying.h"
+
+#include <algorithm>
+#include <array>
+
+#include "text/code_page.h"
+
+namespace vantora::archive {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::size_t at_once = 1 << 20;
+
+/// Hands a file over in stretches, in order: take(offset, bytes). False if a read or a take failed.
+template <class Take>
+bool in_stretches(file& from, Take take) {
+    std::vector<std::byte> stretch(at_once);
+    for (std::int64_t offset = 0;;) {
+        const auto got = from.read(offset, stretch);
+        if (!got) return false;
+        if (!take(offset, std::span(stretch).first(*got))) return false;
+        offset += static_cast<std::int64_t>(*got);
+        if (*got < stretch.size()) return true;
+    }
+}
+
+/// Takes in all bytes of a file, in order.
+class marker {
+ public:
+    void add(std::span<const std::byte> bytes) {
+        for (const std::byte one : bytes) {
+            mark_ = (mark_ ^ std::to_integer<std::uint64_t>(one)) * 0x100000001B3;
+        }
+        size_ += static_cast<std::int64_t>(bytes.size());
+    }
+    [[nodiscard]] copied_file of(const std::string& path) const { return {path, size_, mark_}; }
+
+ private:
+    std::uint64_t mark_ = 0xCBF29CE484222325;
+    std::int64_t size_ = 0;
+};
+
+void add_files(const fs::path& root, const fs::path& folder, bool tables_only,
+               std::vector<listed_file>& into) {
+    const auto add = [&](const fs::directory_entry& one) {
+        if (!one.is_regular_file()) return;
+        const std::string name = upper(one.path().filename().string());
+        if (tables_only && !name.starts_with("VANTORA.")) return;
+        into.push_back({one.path().lexically_relative(root).generic_string(),
+                        static_cast<std::int64_t>(one.file_size()), one.last_write_time()});
+    };
+    if (tables_only) {
+        for (const auto& one : fs::directory_iterator(folder)) add(one);
+    } else {
+        for (const auto& one : fs::recursive_directory_iterator(folder)) add(one);
+    }
+}
+
+}  // namespace
+
+std::vector<listed_file> list_company(const fs::path& root, const fs::path& company_folder) {
+    std::vector<listed_file> all;
+    add_files(root, company_folder, false, all);
+    add_files(root, company_folder.parent_path(), true, all);
+    std::ranges::sort(all, {}, &listed_file::path);
+    return all;
+}
+
+std::string drive_path(const std::string& listed) {
+    std::string path = "\\" + from_utf8(listed);
+    std::ranges::replace(path, '/', '\\');
+    return path;
+}
+
+std::optional<copied_file> copy_over(file_port& from, const std::string& path, file_port& to,
+                                     const std::string& target) {
+    const auto source = from.open_records(drive_path(path));
+    const auto made = to.create(drive_path(target));
+    marker bytes;
+    if (!source || !made || !in_stretches(*source, [&](std::int64_t offset, auto stretch) {
+            bytes.add(stretch);
+            return stretch.empty() || made->write(offset, stretch);
+        })) {
+        return {};
+    }
+    if (!made->flush()) return {};
+    return bytes.of(path);
+}
+
+std::optional<copied_file> read_over(file_port& from, const std::string& path) {
+    const auto source = from.open_records(drive_path(path));
+    marker bytes;
+    if (!source || !in_stretches(*source, [&](std::int64_t, auto stretch) {
+            bytes.add(stretch);
+            return true;
+        })) {
+        return {};
+    }
+    return bytes.of(path);
+}
+
+}  // namespace vantora::archive

@@ -1,0 +1,77 @@
+#include "archive/csv_text.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+
+#include "text/code_page.h"
+
+namespace vantora::archive {
+
+namespace {
+
+bool is_digit(char one) {
+    return one >= '0' && one <= '9';
+}
+
+bool is_letter(char one) {
+    return (one >= 'A' && one <= 'Z') || (one >= 'a' && one <= 'z');
+}
+
+constexpr std::string_view month_heads[] = {"GEN", "FEB", "MAR", "APR", "MAG", "GIU", "LUG",
+                                            "AGO", "SET", "OTT", "NOV", "DIC", "JAN", "MAY",
+                                            "JUN", "JUL", "AUG", "SEP", "OCT", "DEC"};
+
+/// Whether a word may stand in a number or a date.
+bool may_be_counted(std::string_view word) {
+    const std::string capitals = upper(word);
+    return capitals == "E" || capitals == "AM" || capitals == "PM" || capitals == "EUR" ||
+           std::ranges::any_of(month_heads, [&](auto head) { return capitals.starts_with(head); });
+}
+
+/// Whether a spreadsheet may take it for a number, an amount, a fraction, a time or a date.
+bool may_be_number(std::string_view text) {
+    if (std::ranges::none_of(text, is_digit)) return false;
+    for (std::size_t at = 0; at < text.size();) {
+        std::size_t end = at;
+        while (end < text.size() && is_letter(text[end])) ++end;
+        if (end > at) {
+            if (!may_be_counted(text.substr(at, end - at))) return false;
+            at = end;
+        } else if (is_digit(text[at]) ||
+                   std::string_view(" .,:;/-+%()$").find(text[at]) != std::string_view::npos ||
+                   static_cast<unsigned char>(text[at]) >= 0x80) {
+            ++at;
+        } else {
+            return false;
+        }
+    }
+    return true;
+}
+
+/// Shown by a spreadsheet as it stands, be it taken for a number or not.
+bool is_harmless_number(std::string_view text) {
+    constexpr std::size_t digits_shown = 11;
+    return text.size() <= digits_shown && std::ranges::all_of(text, is_digit) &&
+           (text.size() == 1 || text[0] != '0');
+}
+
+}  // namespace
+
+std::string kept_as_text(std::string_view text) {
+    if (text.empty()) return {};
+    const bool computed = std::string_view("=+-@'\t").find(text[0]) != std::string_view::npos;
+    if (!computed && (is_harmless_number(text) || !may_be_number(text))) return std::string(text);
+    return "'" + std::string(text);
+}
+
+std::string digits_of(double number) {
+    if (std::isnan(number)) return "NaN";
+    if (std::isinf(number)) return number < 0 ? "-Inf" : "Inf";
+    char digits[400];
+    const auto end =
+        std::to_chars(digits, digits + sizeof digits, number, std::chars_format::fixed);
+    return {digits, end.ptr};
+}
+
+}  // namespace vantora::archive

@@ -1,0 +1,87 @@
+#include "archive/table_writer.h"
+
+namespace vantora::archive {
+
+namespace {
+
+/// visit(file, record number, record, which of its fields count) for every record that a counter
+/// counts. Of an order or quote, row 1 speaks for its head, and a row without a line for none.
+template <class Visit>
+void every_record(company_files& company, const referred& to, Visit visit) {
+    enum : bool { without_head, with_head };
+    archivi& files = company.records();
+    const auto all = [&](const auto& from, int count) {
+        scan(from, count, [&](std::int64_t number, const auto& one) {
+            visit(from.name(), number, one, with_head, true);
+        });
+    };
+    const auto rows = [&](const auto& from, int blocks) {
+        scan_blocks(from, blocks, [&](int block, auto its) {
+            for (std::size_t row = 0; row < its.size(); ++row) {
+                visit(from.name(), block_record(block, static_cast<std::int64_t>(row) + 1),
+                      its[row], row == 0 ? with_head : without_head, is_used(its[row]));
+            }
+        });
+    };
+    all(files.cli, to.customers);
+    all(files.art, to.articles);
+    rows(files.orc, company.count(contatori::ordini));
+    rows(files.prv, company.count(contatori::preventivi));
+    all(files.mag, company.count(contatori::magazzino));
+    all(files.bol, company.count(contatori::documenti_trasporto));
+    all(files.tot, static_cast<int>(files.tot.records_held().value_or(0)));
+}
+
+std::vector<table_column> place_columns(const naming& names) {
+    return {{"file", content::words},
+            {names("registrazione", "record"), content::whole},
+            {names("campo", "field"), content::words}};
+}
+
+/// Fields that stand in the columns of orders and quotes as parts of something else; the texts of
+/// an order's further rows mean nothing.
+template <class Record>
+bool is_shown(const Record&, std::string_view name) {
+    if (std::is_same_v<Record, rec_orc> && name.starts_with("testo")) return true;
+    return name == "descrizione2";
+}
+
+}  // namespace
+
+std::int64_t export_leftovers(company_files& company, table_writer& into) {
+    const naming& names = into.names;
+    exported_table others{names("altri_campi", "other_fields"), place_columns(names), 3};
+    others.columns.push_back({names("valore", "value"), content::words});
+    into.begin(std::move(others));
+    every_record(company, into.to,
+                 [&](const std::string& file, std::int64_t number, const auto& one, bool, bool) {
+                     visit_fields(one, [&](const auto& field, const auto& value) {
+                         if (field.column || is_empty(value) || is_shown(one, field.name)) return;
+                         into.row({file, number, std::string(field.name), plain_cell(value)});
+                     });
+                 });
+    into.end();
+
+    std::int64_t lost = 0;
+    exported_table references{names("riferimenti_mancanti", "missing_references"),
+                              place_columns(names), 3};
+    references.columns.push_back({names("valore", "value"), content::whole});
+    into.begin(std::move(references));
+    every_record(
+        company, into.to,
+        [&](const std::string& file, std::int64_t number, const auto& one, bool head, bool line) {
+            visit_fields(one, [&](const auto& field, const auto& value) {
+                if (!is_reference(field.means) || !(field.head ? head : line)) return;
+                if constexpr (std::is_same_v<std::remove_cvref_t<decltype(value)>, i16le>) {
+                    if (value == 0 || into.to.has(field.means, value)) return;
+                    if (value < 0 && field.means == meaning::article) return;  // a text
+                    ++lost;
+                    into.row({file, number, std::string(field.name), plain_cell(value)});
+                }
+            });
+        });
+    into.end();
+    return lost;
+}
+
+}  // namespace vantora::archive

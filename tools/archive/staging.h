@@ -1,0 +1,32 @@
+#pragma once
+
+#include <filesystem>
+
+namespace vantora::archive {
+
+/// A new folder beside a target, in which it is made before it takes its place. What is still in it
+/// at the end goes with it.
+class staging {
+ public:
+    /// `folder()` is empty if none could be made.
+    explicit staging(const std::filesystem::path& target);
+    staging(const staging&) = delete;
+    staging& operator=(const staging&) = delete;
+    ~staging();
+
+    [[nodiscard]] const std::filesystem::path& folder() const { return folder_; }
+
+ private:
+    std::filesystem::path folder_;
+};
+
+/// Puts what was made in the place of what stands there, in one step where the file system can,
+/// else in two, the second of which is taken back if it fails. What stood there is at `former`
+/// afterwards. False: all is as it was.
+bool swap_in(const std::filesystem::path& made, const std::filesystem::path& place,
+             const std::filesystem::path& former);
+
+/// Waits until the names in a folder have reached the disk.
+void flush_folder(const std::filesystem::path& folder);
+
+}  // namespace vantora::archive
