@@ -2,11 +2,13 @@
 
 #include <QApplication>
 #include <QEventLoop>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QToolTip>
 
 #include "desktop/look/box_look.h"
+#include "desktop/look/words.h"
 #include "ui/desk.h"
 
 namespace vantora::ui::desktop {
@@ -272,6 +274,41 @@ std::vector<box_button> buttons_of(const message_box& box) {
 
 }  // namespace
 
+namespace {
+
+/// A bar code that is read while a box is open doesn't answer it by its Enter: the box shows it.
+class read_meanwhile final : public QObject {
+ public:
+    explicit read_meanwhile(QMessageBox& box) : QObject(&box), box_(box) {
+        box.installEventFilter(this);
+        for (QAbstractButton* one : box.buttons()) one->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() != QEvent::KeyPress) return false;
+        const auto& key = static_cast<QKeyEvent&>(*event);
+        if (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter) {
+            if (!open_) return false;
+            open_ = false;
+            box_.setInformativeText(QString::fromUtf8(words::read_meanwhile).arg(read_.trimmed()));
+            read_ += ' ';
+            return true;
+        }
+        const QString typed = key.text();
+        if (typed.size() != 1 || !typed[0].isDigit()) return false;
+        read_ += typed;
+        open_ = true;
+        return true;
+    }
+
+ private:
+    QMessageBox& box_;
+    QString read_;
+    bool open_ = false;  ///< digits came, and no Enter behind them yet
+};
+
+}  // namespace
+
 void desktop_front_end::box_opened(const message_box& box) {
     QWidget* parent = desk_->active() ? window_of(*desk_->active()) : nullptr;
     auto* shown_box = new QMessageBox(parent);
@@ -286,6 +323,7 @@ void desktop_front_end::box_opened(const message_box& box) {
         }
         shown_box->setEscapeButton(button);  // the last one stays
     }
+    new read_meanwhile(*shown_box);
     dress_box(*shown_box, box.icon);
     shown_box->setWindowModality(Qt::ApplicationModal);
     QObject::connect(shown_box, &QMessageBox::finished, shown_box, [this, shown_box] {

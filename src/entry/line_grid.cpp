@@ -271,6 +271,9 @@ void line_grid::wire_cell_focus(int row) {
     for (ui::text_box* cell : {&um[row], &quantita[row], &evaso[row], &sc2[row], &prezzo[row]}) {
         cell->on_focus = [this, row] { take_focus(row, true); };
     }
+    for (ui::text_box* cell : {&quantita[row], &evaso[row], &sc1[row], &sc2[row], &prezzo[row]}) {
+        cell->on_scan = [this, row](const std::string& code) { take_scan(row, code); };
+    }
     sc1[row].on_focus = [this, row] { discount_gains_focus(row); };
     sc1[row].on_blur = [this, row] { clear_if_zero(sc1[row]); };
     sc2[row].on_blur = [this, row] { clear_if_zero(sc2[row]); };

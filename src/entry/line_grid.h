@@ -186,6 +186,9 @@ class line_grid : public ui::form {
     /// The row of a line, scrolled into sight if need be.
     int row_showing(int line);
     void type_line(const pasted_line& line, int row);
+    /// A bar code that was read while the cursor stood in another cell of the row is the next
+    /// line's.
+    void take_scan(int row, const std::string& code);
 
     // Back and forth ------------------------------------------------------------------------------
 

@@ -156,4 +156,19 @@ void line_grid::type_line(const pasted_line& line, int row) {
     if (!line.price.empty()) prezzo[row].set_text(line.price);
 }
 
+void line_grid::take_scan(int row, const std::string& code) {
+    int line = line_of(row) + 1;
+    while (line <= righe_ordine::massimo && !is_empty(righe_[line])) ++line;
+    if (line > righe_ordine::massimo) {
+        return app_.desk.message("Per il codice " + code + " non c'è una riga libera."_cp,
+                                 ui::attention, ui::icon::warning);
+    }
+    const int free = row_showing(line);
+    artic[free].set_focus();
+    artic[free].set_text("");
+    for (const char one : code) artic[free].press_key(ui::key::of(one), one);
+    app_.desk.note("Codice " + code + " letto nella riga " + std::to_string(line));
+    press_enter(artic[free]);
+}
+
 }  // namespace vantora

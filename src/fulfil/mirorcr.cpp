@@ -51,7 +51,16 @@ mirorcr::mirorcr(program& app)
 
 void mirorcr::wire_events() {
     elenco.on_click = [this] { cell_clicked(); };
-    ui::on_enter(quantita, [this] { close_editor(); });
+    ui::on_enter(quantita, [this] { take_edited(); });
+    quantita.on_blur = [this] {
+        if (editing_ && app_.desk.guards().on()) take_edited();
+    };
+    elenco.on_key_down = [this](ui::key_event& key) {
+        if (key.code != ui::key::del || !app_.desk.guards().on()) return;
+        key.swallow();
+        unmark_row(elenco.row());
+        show_marked();
+    };
     bottone[uscita].on_click = [this] { close(); };
     bottone[conferma].on_click = [this] { checkeva(); };
 }
@@ -86,7 +95,11 @@ void mirorcr::cell_clicked() {
         case ordine:
             return mark_order(static_cast<int>(number_in(row, numero_ordine)));
         case da_evadere:
-            mark_row(row);
+            if (app_.desk.guards().on() && marked_whole(row)) {
+                unmark_row(row);
+            } else {
+                mark_row(row);
+            }
             return show_marked();
         case evaso:
             return open_editor();
@@ -97,26 +110,50 @@ void mirorcr::cell_clicked() {
 
 void mirorcr::mark_order(int order) {
     if (order <= 0) return;
+    bool all = app_.desk.guards().on();
     for (int row = 1; row < righe_; ++row) {
-        if (number_in(row, numero_ordine) == order) mark_row(row);
+        if (number_in(row, numero_ordine) == order) all = all && marked_whole(row);
+    }
+    for (int row = 1; row < righe_; ++row) {
+        if (number_in(row, numero_ordine) != order) continue;
+        if (all) {
+            unmark_row(row);
+        } else {
+            mark_row(row);
+        }
     }
     show_marked();
 }
 
-void mirorcr::mark_row(int row) {
+std::string mirorcr::whole_mark(int row) const {
     const double open = number_in(row, da_evadere);
-    elenco.set_text(row, evaso, open == 0 ? std::string("*") : testo_quantita(open));
+    return open == 0 ? std::string("*") : testo_quantita(open);
+}
+
+bool mirorcr::marked_whole(int row) const {
+    return elenco.text(row, evaso) == whole_mark(row);
+}
+
+void mirorcr::mark_row(int row) {
+    elenco.set_text(row, evaso, whole_mark(row));
+}
+
+void mirorcr::unmark_row(int row) {
+    if (number_in(row, numero_riga) != 0) elenco.set_text(row, evaso, "");
 }
 
 void mirorcr::open_editor() {
     const int row = elenco.row();
-    for (auto& command : bottone) command.set_visible(false);
+    // Under a hand the commands stay in sight: leaving the editor for one takes what it holds.
+    for (auto& command : bottone) command.set_visible(app_.desk.guards().on());
+    editing_ = true;
     quantita.set_text(number_in(row, evaso) == 0 ? std::string_view() : elenco.text(row, evaso));
     quantita.set_visible(true);
     quantita.set_focus();
 }
 
-void mirorcr::close_editor() {
+void mirorcr::take_edited() {
+    editing_ = false;
     elenco.set_enabled(true);
     for (auto& command : bottone) command.set_visible(true);
     elenco.set_col(evaso);
@@ -124,9 +161,16 @@ void mirorcr::close_editor() {
     const bool text_line = typed.starts_with('*');
     elenco.set_text(elenco.row(), evaso,
                     text_line ? std::string("*") : testo_quantita(number_at_head(typed)));
-    elenco.set_focus();
+    if (quantita.has_focus()) elenco.set_focus();
     quantita.set_visible(false);
     show_marked();
+}
+
+void mirorcr::leave_editor() {
+    if (!editing_) return;
+    editing_ = false;
+    elenco.set_focus();
+    quantita.set_visible(false);
 }
 
 void mirorcr::show_marked() {

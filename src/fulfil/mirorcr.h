@@ -38,6 +38,9 @@ class mirorcr final : public ui::form {
     ui::label Label1[3];
     ui::label segnate;  ///< how much is marked to leave
 
+    /// The editor goes, its cell stays as it was.
+    void leave_editor();
+
  protected:
     void load() override;
     void activate() override;
@@ -63,7 +66,13 @@ class mirorcr final : public ui::form {
     void mark_order(int order);
     void mark_row(int row);
     void open_editor();
-    void close_editor();
+    /// What the editor holds goes into its cell.
+    void take_edited();
+    void unmark_row(int row);
+    /// A window takes the mark of a row back by the key that set it.
+    [[nodiscard]] bool marked_whole(int row) const;
+    /// What marks all of a row to leave.
+    [[nodiscard]] std::string whole_mark(int row) const;
     void show_marked();
     [[nodiscard]] double number_in(int row, int col) const;
 
@@ -81,6 +90,7 @@ class mirorcr final : public ui::form {
     void close_fulfilled_orders();
 
     program& app_;
+    bool editing_ = false;
     rec_tot clienti_;
     rec_tot ordini_;
     rec_tot articoli_;

@@ -1,5 +1,6 @@
 #include "fulfil/mirorcr.h"
 
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QShortcut>
 #include <QStyledItemDelegate>
@@ -27,6 +28,28 @@ class leaving_rows final : public QStyledItemDelegate {
         option->palette.setColor(QPalette::Text, readable_on(leaving));
         if (index.column() == mirorcr::evaso) option->font.setBold(true);
     }
+};
+
+/// Escape leaves the editor of a quantity, and its cell as it was.
+class editor_escape final : public QObject {
+ public:
+    editor_escape(form_window& window, mirorcr& screen, QWidget& editor)
+        : QObject(&editor), window_(window), screen_(screen) {
+        editor.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject*, QEvent* event) override {
+        const bool pressed = event->type() == QEvent::KeyPress;
+        if (!pressed && event->type() != QEvent::ShortcutOverride) return false;
+        if (static_cast<QKeyEvent&>(*event).key() != Qt::Key_Escape) return false;
+        event->accept();
+        if (pressed) window_.act_on(screen_.quantita, [this] { screen_.leave_editor(); });
+        return true;
+    }
+
+ private:
+    form_window& window_;
+    mirorcr& screen_;
 };
 
 struct grid_key {
@@ -96,6 +119,7 @@ void lay_out(form_window& window, mirorcr& screen) {
     quantity->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     set_look(quantity, "look", "over");
     view->keep_over(quantity, mirorcr::evaso);
+    new editor_escape(window, screen, *quantity);
     if (window.by_person()) view->begin_at_first();
     add_grid_keys(window, screen);
 

@@ -7,6 +7,7 @@
 
 #include "desktop/controls/binder.h"
 #include "desktop/controls/line_pasting.h"
+#include "desktop/keys/scan_watch.h"
 #include "ui/desk.h"
 #include "ui/text_controls.h"
 
@@ -115,6 +116,14 @@ class text_box_binder final : public binder {
     }
 
     bool key_pressed(QKeyEvent& event) override {
+        const auto code = scan_.ended_by(event, model_.text());
+        if (code && model_.on_scan) {
+            act([&] {
+                model_.set_text(scan_.before());
+                model_.on_scan(*code);
+            });
+            return true;
+        }
         if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) take_own_comma();
         if (event.matches(QKeySequence::Paste) && model_.on_paste_lines) {
             if (const auto lines = lines_on_clipboard()) {
@@ -132,6 +141,7 @@ class text_box_binder final : public binder {
 
     QLineEdit* edit_;
     text_box& model_;
+    scan_watch scan_;
     QString found_;                           ///< what stood in the field when the hand came to it
     std::optional<qsizetype> behind_cursor_;  ///< while the hand's own change is shown
 };
