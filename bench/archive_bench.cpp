@@ -63,12 +63,13 @@ int run(int count, int rounds) {
     const auto database = folder.path() / "all.sqlite";
     const auto export_csv = [&] {
         archive::csv_folder into(csv, false);
-        export_tables(company, into);
+        export_tables(company, into, false, {});
+        into.finish();
     };
     const auto export_database = [&] {
         std::filesystem::remove(database);
         archive::sqlite_file into(database);
-        export_tables(company, into);
+        export_tables(company, into, false, {});
         into.finish();
     };
     export_csv();

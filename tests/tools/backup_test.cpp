@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <chrono>
 #include <map>
 
 #include "archive/backup.h"
@@ -82,7 +83,14 @@ TEST(archive_backup, OldCopiesGoAndNothingElse) {
         EXPECT_EQ(of.make(to, name).fault, "");
     }
     EXPECT_NE(of.make(to, "ditta007-vecchia").fault, "") << "written over";
+    const auto unfinished = out.path() / "ditta007-2024-01-01-000000.aB12cd";
+    std::filesystem::create_directory(unfinished);
+    drop_old_copies(out.path(), "ditta007", 3);
+    EXPECT_TRUE(std::filesystem::exists(unfinished)) << "one that may be at work";
+    std::filesystem::last_write_time(
+        unfinished, std::filesystem::file_time_type::clock::now() - std::chrono::hours(30));
     EXPECT_EQ(drop_old_copies(out.path(), "ditta007", 1), 2);
+    EXPECT_FALSE(std::filesystem::exists(unfinished));
     EXPECT_EQ(newest_copy(out.path(), "ditta007"), "2024-01-03-000000");
     EXPECT_TRUE(std::filesystem::exists(out.path() / "ditta007-vecchia"));
     EXPECT_TRUE(std::filesystem::exists(out.path() / "ditta008-2024-01-01-000000"));

@@ -1,6 +1,7 @@
 #include "archive/backup.h"
 
 #include <algorithm>
+#include <chrono>
 #include <sstream>
 
 #include "archive/copying.h"
@@ -149,6 +150,23 @@ std::vector<std::string> copies_in(const fs::path& folder, const std::string& st
     return names;
 }
 
+/// What a copy left that was ended on the way, long ago.
+void drop_unfinished(const fs::path& folder, const std::string& stem) {
+    constexpr std::size_t random_end = 7;  // ".XXXXXX"
+    const auto long_ago = fs::file_time_type::clock::now() - std::chrono::hours(24);
+    std::error_code failure;
+    for (const auto& one : fs::directory_iterator(folder, failure)) {
+        const std::string name = one.path().filename().string();
+        if (name.size() < stem.size() + random_end || !name.starts_with(stem)) continue;
+        const auto middle = std::string_view(name).substr(stem.size());
+        if (!is_moment(middle.substr(0, middle.size() - random_end)) ||
+            middle[middle.size() - random_end] != '.') {
+            continue;
+        }
+        if (one.last_write_time(failure) < long_ago) fs::remove_all(one.path(), failure);
+    }
+}
+
 }  // namespace
 
 std::int64_t copy_outcome::bytes() const {
@@ -229,6 +247,7 @@ copy_outcome put_back(const copy_outcome& copy, file_port& from, int numero_azie
 }
 
 int drop_old_copies(const fs::path& folder, const std::string& stem, int keep) {
+    drop_unfinished(folder, stem);
     const auto names = copies_in(folder, stem);
     int dropped = 0;
     std::error_code failure;

@@ -47,8 +47,9 @@ copy_outcome checked_copy(const std::filesystem::path& copy, file_port& files);
 copy_outcome put_back(const copy_outcome& copy, file_port& from, int numero_azienda, file_port& to,
                       const std::string& former);
 
-/// Of the copies of a company in a folder, the older ones go, so that `keep` stay; returns how many
-/// went. REQUIRES: keep is at least 1, and the newest one is good.
+/// Of the copies of a company in a folder, the older ones go, so that `keep` stay, and with them
+/// what unfinished ones left more than a day ago; returns how many copies went. REQUIRES: keep is
+/// at least 1, and the newest one is good.
 int drop_old_copies(const std::filesystem::path& folder, const std::string& stem, int keep);
 
 /// When the newest copy of a company in a folder was made, as its name says; empty for none.

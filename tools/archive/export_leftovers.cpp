@@ -46,42 +46,50 @@ bool is_shown(const Record&, std::string_view name) {
     return name == "descrizione2";
 }
 
+/// An article below 1 is none: its row is a text.
+bool is_lost(meaning means, std::int16_t value, const referred& to) {
+    if (!is_reference(means) || value == 0 || to.has(means, value)) return false;
+    return value > 0 || means == meaning::customer;
+}
+
 }  // namespace
 
 std::int64_t export_leftovers(company_files& company, table_writer& into) {
+    struct lost_reference {
+        std::string file;
+        std::int64_t record;
+        std::string_view field;
+        std::int64_t value;
+    };
     const naming& names = into.names;
+    std::vector<lost_reference> lost;
     exported_table others{names("altri_campi", "other_fields"), place_columns(names), 3};
     others.columns.push_back({names("valore", "value"), content::words});
     into.begin(std::move(others));
-    every_record(company, into.to,
-                 [&](const std::string& file, std::int64_t number, const auto& one, bool, bool) {
-                     visit_fields(one, [&](const auto& field, const auto& value) {
-                         if (field.column || is_empty(value) || is_shown(one, field.name)) return;
-                         into.row({file, number, std::string(field.name), plain_cell(value)});
-                     });
-                 });
-    into.end();
-
-    std::int64_t lost = 0;
-    exported_table references{names("riferimenti_mancanti", "missing_references"),
-                              place_columns(names), 3};
-    references.columns.push_back({names("valore", "value"), content::whole});
-    into.begin(std::move(references));
     every_record(
         company, into.to,
         [&](const std::string& file, std::int64_t number, const auto& one, bool head, bool line) {
             visit_fields(one, [&](const auto& field, const auto& value) {
-                if (!is_reference(field.means) || !(field.head ? head : line)) return;
                 if constexpr (std::is_same_v<std::remove_cvref_t<decltype(value)>, i16le>) {
-                    if (value == 0 || into.to.has(field.means, value)) return;
-                    if (value < 0 && field.means == meaning::article) return;  // a text
-                    ++lost;
-                    into.row({file, number, std::string(field.name), plain_cell(value)});
+                    if (is_lost(field.means, value, into.to) && (field.head ? head : line)) {
+                        lost.push_back({file, number, field.name, std::int16_t{value}});
+                    }
                 }
+                if (field.column || is_empty(value) || is_shown(one, field.name)) return;
+                into.row({file, number, std::string(field.name), plain_cell(value)});
             });
         });
     into.end();
-    return lost;
+
+    exported_table references{names("riferimenti_mancanti", "missing_references"),
+                              place_columns(names), 3};
+    references.columns.push_back({names("valore", "value"), content::whole});
+    into.begin(std::move(references));
+    for (const lost_reference& one : lost) {
+        into.row({one.file, one.record, std::string(one.field), one.value});
+    }
+    into.end();
+    return static_cast<std::int64_t>(lost.size());
 }
 
 }  // namespace vantora::archive

@@ -48,7 +48,7 @@ cell_value plain_cell(const Value& value) {
 template <class Value>
 bool is_empty(const Value& value) {
     if constexpr (detail::is_text<Value>) {
-        return cell_text(value.full()).empty();
+        return value.full().find_first_not_of(std::string_view(" \0", 2)) == std::string_view::npos;
     } else {
         return value == 0;
     }
