@@ -45,8 +45,8 @@ int run(int orders) {
     test::program_stage<> stage;
     trial screen(stage.desk, orders);
     ui::desktop::form_window window(
-        screen, [](ui::control&, const std::function<void()>& action) { action(); },
-        [](ui::form&) {}, [](ui::form&) {}, false);
+        screen, {}, {[](ui::control&, const std::function<void()>& action) { action(); }, false},
+        {[](ui::form&) {}, [](ui::form&) {}});
     window.resize(1280, 690);
     window.show();
     QMetaObject::invokeMethod(window.findChild<QShortcut*>("elenco_trova"), "activated");
