@@ -4,6 +4,7 @@
 #include <QPrintPreviewWidget>
 
 #include "desktop/printing/system_printer.h"
+#include "desktop/system_launcher.h"
 #include "support/file_bytes.h"
 #include "support/printed_pdf.h"
 #include "support/scratch_folder.h"
