@@ -186,7 +186,7 @@ TEST_F(register_window, ATooltipTellsWhatStandsBehindARow) {
         const QString third = told(2).replace("<br>", "\n");
         for (const char* part :
              {"In ritardo di 2 giorni\n5,00 N.  Vite\nVite\n", "\n... in tutto 8 righe\n",
-              "Da evadere: 3,00 pezzi, 27,00\nValore dell'ordine: 45,00"}) {
+              "Da evadere: 3,00 pezzi, 27,00\nValore dell'ordine: 108,00"}) {
             EXPECT_TRUE(third.contains(part)) << third.toStdString();
         }
         EXPECT_EQ(told(1), "") << "deleted";
