@@ -12,7 +12,7 @@ cd "$(dirname "$0")/.."
 allowed='
 text:
 errors:
-store: store/records text
+store: store/records text errors
 store/records: store
 orders: store store/records text errors
 ui: text errors

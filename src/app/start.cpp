@@ -17,6 +17,7 @@
 #include "fulfil/mirorca.h"
 #include "fulfil/mirorcc.h"
 #include "fulfil/mirorcr.h"
+#include "program/change_messages.h"
 #include "register/mirorc.h"
 #include "reports/mirstoa.h"
 #include "reports/mirstoe.h"
@@ -65,7 +66,7 @@ void start(program& app, std::string_view argument) {
         for (ui::form* one : app.desk.forms()) one->rest();
         chiudi_archivi(app.archives);
     };
-    app.archives.station_awaited = [&app](bool still) { app.desk.show_station_awaited(still); };
+    watch_stations(app.archives, app.desk);
     app.parameters.numero_azienda = numero_azienda_in(argument);
     app.mirorc->show();
     offri_bozze(app);

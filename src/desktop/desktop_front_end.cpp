@@ -117,11 +117,11 @@ void desktop_front_end::progress_ended(control& list) {
     close_late();
 }
 
-void desktop_front_end::station_awaited(bool still) {
-    if (!still) {
+void desktop_front_end::station_awaited(const std::optional<std::string>& station) {
+    if (!station) {
         station_.end();
         close_late();
-    } else if (station_.show(front_window())) {
+    } else if (station_.show(front_window(), *station)) {
         paint();
     }
 }

@@ -68,7 +68,7 @@ class desktop_front_end final : public front_end {
     void pointer_changed(pointer shape) override;
     void progress_changed(control& list, double done) override;
     void progress_ended(control& list) override;
-    void station_awaited(bool still) override;
+    void station_awaited(const std::optional<std::string>& station) override;
     void note_shown(const std::string& text) override;
     void report_fatal(const std::string& message) override;
 

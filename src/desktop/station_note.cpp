@@ -12,8 +12,11 @@ namespace {
 /// A shorter wait needs no line. Milliseconds.
 constexpr qint64 unnoticed = 300;
 
-QLabel* make_line(QWidget& window) {
-    auto* line = new QLabel(QString::fromUtf8(words::other_station), &window);
+QLabel* make_line(QWidget& window, const std::string& station) {
+    const QString awaited = QString::fromUtf8(words::other_station);
+    auto* line =
+        new QLabel(station.empty() ? awaited + "..." : awaited + ": " + to_qt(station), &window);
+    line->setTextFormat(Qt::PlainText);
     line->setObjectName("station_note");
     line->adjustSize();
     QRect place = line->rect();
@@ -28,10 +31,10 @@ QLabel* make_line(QWidget& window) {
 
 }  // namespace
 
-bool station_note::show(QWidget* window) {
+bool station_note::show(QWidget* window, const std::string& station) {
     if (!since_.isValid()) since_.start();
     if (!window || since_.elapsed() < unnoticed) return false;
-    if (!line_) line_ = make_line(*window);
+    if (!line_) line_ = make_line(*window, station);
     return true;
 }
 

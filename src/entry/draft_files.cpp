@@ -16,7 +16,6 @@ namespace fs = std::filesystem;
 constexpr std::string_view folder = "\\bozze";
 constexpr std::string_view ending = ".bozza";
 constexpr int drafts_max = 500;  ///< of one person
-constexpr program_lock in_work = program_lock::counters;
 
 std::string path_of(const std::string& name) {
     return std::string(folder) + "\\" + name + std::string(ending);
@@ -30,7 +29,7 @@ std::string lock_of(const std::string& name) {
 bool is_in_work(file_port& person, const std::string& name) {
     if (!person.exists(lock_of(name))) return false;
     const auto lock = person.open_records(lock_of(name));
-    return lock && lock->locked_elsewhere(in_work);
+    return lock && lock->locked_by().has_value();
 }
 
 std::vector<std::string> names_in(const file_port& person) {
@@ -48,7 +47,7 @@ std::vector<std::string> names_in(const file_port& person) {
 
 bool file_bozza::hold(file_port& person, const std::string& name) {
     auto lock = person.open_records(lock_of(name));
-    if (!lock || lock->try_lock(in_work) == lock_answer::busy) return false;
+    if (!lock || lock->try_lock() == lock_answer::busy) return false;
     person_ = &person;
     name_ = name;
     lock_ = std::move(lock);

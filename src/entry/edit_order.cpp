@@ -19,88 +19,76 @@ bool rows_move_stock(const archivi& files, const ordine_esistente& order) {
     });
 }
 
-/// What is looked at before an order is written over. `now`: the counter of the orders.
-write_plan plan_of(archivi& files, const ordine_esistente& order, bool lines_move_stock,
-                   rec_tot& now) {
-    write_plan plan;
-    plan.reads(files.tot, contatori::ordini, now);
-    plan.writes(files.orc, block_record(order.visto.registrazione, 1), righe_blocco);
-    if (lines_move_stock || rows_move_stock(files, order)) plan.changes(files.art);
-    return plan;
-}
-
 /// Takes what a stored row still has open out of its article. The check box counts as it is now,
 /// not as it was when the row was stored.
-bool undo_row(archivi& files, const ordine_esistente& order, const rec_orc& row,
-              write_faults& faults) {
+bool undo_row(archive_change& change, archivi& files, const ordine_esistente& order,
+              const rec_orc& row) {
     if (row.quantita == 0) return false;
-    return change_article(files.art, row.articolo, order.articoli, faults, [&](rec_art& article) {
+    return change_article(change, files.art, row.articolo, order.articoli, [&](rec_art& article) {
         release_stock(article, open_quantity(row), order.impegno);
     });
 }
 
-bool apply_line(archivi& files, const ordine_esistente& order, const riga_ordine& line,
-                write_faults& faults) {
+bool apply_line(archive_change& change, archivi& files, const ordine_esistente& order,
+                const riga_ordine& line) {
     if (line.quantita == 0) return false;
-    return change_article(files.art, line.articolo, order.articoli, faults, [&](rec_art& article) {
+    return change_article(change, files.art, line.articolo, order.articoli, [&](rec_art& article) {
         order_stock(article, line.quantita - line.evaso, order.impegno);
     });
 }
 
-void flush(archivi& files, bool stock_moved, write_faults& faults) {
-    if (stock_moved) faults.note(files.art.flush(), files.art);
-    faults.note(files.orc.flush(), files.orc);
-}
-
 /// Goes over the order's rows: what a stored row still had open is taken out of its article, then
-/// `change(number, row, faults)` makes the row new and tells whether it moved stock itself.
-template <class Change>
-write_outcome change_rows(archivi& files, const ordine_esistente& order, bool lines_move_stock,
-                          const Change& change) {
-    const instance_lock alone(files, instance_lock::kind::records);
+/// `renew(change, number, row)` makes the row new and tells whether it moved stock itself.
+template <class Renew>
+change_outcome change_rows(archivi& files, const ordine_esistente& order, bool lines_move_stock,
+                           const Renew& renew) {
+    archive_change change(files);
     rec_tot now;
-    write_outcome outcome(alone, plan_of(files, order, lines_move_stock, now));
-    if (!outcome.begun()) return outcome;
+    change.reads(files.tot, contatori::ordini, now);
+    change.writes(files.orc, block_record(order.visto.registrazione, 1), righe_blocco);
+    if (lines_move_stock || rows_move_stock(files, order)) change.changes(files.art);
     const orders_since meanwhile(now, order.contatore);
-    write_faults& faults = outcome.faults;
 
     bool recognised = false;
     bool stock_moved = false;
     rec_orc row;
-    for (int number = 1; number <= righe_blocco; ++number) {
+    for (int number = 1; change.may_write() && number <= righe_blocco; ++number) {
         const std::int64_t record = block_record(order.visto.registrazione, number);
-        if (!faults.note(files.orc.read(record, row), files.orc)) continue;
+        if (!change.read(files.orc, record, row)) continue;
         if (!recognised && meanwhile.took_away(order.visto, row)) {
-            outcome.give_up_moved_order();
-            return outcome;
+            change.give_up(change_outcome::order_moved);
+            break;
         }
         recognised = true;
-        stock_moved |= undo_row(files, order, row, faults);
-        stock_moved |= change(number, row, faults);
-        faults.note(files.orc.write(record, row), files.orc);
+        stock_moved |= undo_row(change, files, order, row);
+        stock_moved |= renew(change, number, row);
+        change.write(files.orc, record, row);
     }
-    flush(files, stock_moved, faults);
-    return outcome;
+    if (change.may_write()) {
+        if (stock_moved) change.flush(files.art);
+        change.flush(files.orc);
+    }
+    return change.finish();
 }
 
 }  // namespace
 
-write_outcome salva_ordine(archivi& files, const ordine_esistente& order,
-                           const testata_registrata& head, bool evaso, const righe_ordine& lines) {
+change_outcome salva_ordine(archivi& files, const ordine_esistente& order,
+                            const testata_registrata& head, bool evaso, const righe_ordine& lines) {
     return change_rows(files, order, lines_with_stock(lines, order.articoli) > 0,
-                       [&](int number, rec_orc& row, write_faults& faults) {
+                       [&](archive_change& change, int number, rec_orc& row) {
                            const riga_ordine& line = lines[number];
                            fill_head(row, head, static_cast<std::size_t>(number));
                            fill_line(row, line);
                            row.evaso = line.evaso;
                            row.evaso_flag = evaso ? 1 : 0;
                            row.annullato = 0;
-                           return apply_line(files, order, line, faults);
+                           return apply_line(change, files, order, line);
                        });
 }
 
-write_outcome elimina_ordine(archivi& files, const ordine_esistente& order) {
-    return change_rows(files, order, false, [](int, rec_orc& row, write_faults&) {
+change_outcome elimina_ordine(archivi& files, const ordine_esistente& order) {
+    return change_rows(files, order, false, [](archive_change&, int, rec_orc& row) {
         row.annullato = 1;
         return false;
     });

@@ -2,8 +2,7 @@
 
 #include "orders/order_seen.h"
 #include "orders/stored_order.h"
-#include "store/archives.h"
-#include "store/write_outcome.h"
+#include "store/archive_change.h"
 
 namespace vantora {
 
@@ -21,14 +20,13 @@ struct ordine_esistente {
 ///
 /// Failed reads and writes are passed over and noted: an article or a row that can't be read is
 /// left alone, and a row that is left alone moves no stock. What ends the program on the way leaves
-/// rows before it new, rows behind it old, each with its article's stock. It doesn't begin if a
-/// file can't be written, the disk has no room, another station compacts the archive or has put
-/// another order into the block by a compaction.
-write_outcome salva_ordine(archivi& files, const ordine_esistente& order,
-                           const testata_registrata& head, bool evaso, const righe_ordine& lines);
+/// rows before it new, rows behind it old, each with its article's stock. It doesn't begin if
+/// another station's compaction has put another order into the block.
+change_outcome salva_ordine(archivi& files, const ordine_esistente& order,
+                            const testata_registrata& head, bool evaso, const righe_ordine& lines);
 
 /// Deletes an order: what its stored rows still had open is taken out of their articles, and every
 /// row is marked, under the same rules. The block stays until the archive is compacted.
-write_outcome elimina_ordine(archivi& files, const ordine_esistente& order);
+change_outcome elimina_ordine(archivi& files, const ordine_esistente& order);
 
 }  // namespace vantora

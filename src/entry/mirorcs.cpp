@@ -46,7 +46,7 @@ bool mirorcs::may_save() {
                                       head().Text2[0].text() + ". Salvarlo lo stesso?");
 }
 
-write_outcome mirorcs::store() {
+change_outcome mirorcs::store() {
     app_.data_sistema = date_number(app_.desk.clock().now());
     testata_registrata saved = testata_da_registrare(head(), chosen_price());
     saved.cliente = app_.selezione_1;

@@ -18,7 +18,7 @@ class mirorcs final : public order_screen {
  protected:
     void open() override;
     bool may_save() override;
-    write_outcome store() override;
+    change_outcome store() override;
     void run_own_command(int command) override;
     void describe(bozza& draft) const override;
 

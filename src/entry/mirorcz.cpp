@@ -5,7 +5,7 @@
 #include "customer/shipping_data.h"
 #include "entry/order_head.h"
 #include "orders/stored_lines.h"
-#include "program/write_messages.h"
+#include "program/change_messages.h"
 
 namespace vantora {
 
@@ -74,7 +74,7 @@ ordine_esistente mirorcz::order() const {
     return {visto_, contatore_, lookup_.articles(), impegno.on()};
 }
 
-write_outcome mirorcz::store() {
+change_outcome mirorcz::store() {
     testata_registrata saved = testata_da_registrare(head(), chosen_price());
     saved.cliente = app_.selezione_2;
     saved.impegno = impegno.on();
@@ -105,9 +105,9 @@ void mirorcz::delete_order() {
     }
     const work deleting(*this);
     app_.desk.set_pointer(ui::pointer::busy);
-    const write_outcome outcome = elimina_ordine(app_.archives, order());
+    const change_outcome outcome = elimina_ordine(app_.archives, order());
     app_.desk.set_pointer(ui::pointer::normal);
-    if (!was_written(app_.desk, outcome)) return;
+    if (!was_stored(app_.desk, outcome)) return;
     forget_draft();
     leave();
 }

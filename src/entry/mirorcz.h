@@ -16,7 +16,7 @@ class mirorcz final : public order_screen {
 
  protected:
     void open() override;
-    write_outcome store() override;
+    change_outcome store() override;
     void run_own_command(int command) override;
     void describe(bozza& draft) const override;
 

@@ -4,7 +4,7 @@
 #include "entry/import_lines.h"
 #include "entry/order_head.h"
 #include "entry/order_printing.h"
-#include "program/write_messages.h"
+#include "program/change_messages.h"
 #include "text/number_text.h"
 
 namespace vantora {
@@ -71,10 +71,10 @@ void order_screen::save() {
     if (!may_save()) return;
     const work saving(*this);
     app_.desk.set_pointer(ui::pointer::busy);
-    const write_outcome outcome = store();
+    const change_outcome outcome = store();
     app_.desk.set_pointer(ui::pointer::normal);
-    if (!was_written(app_.desk, outcome)) return;
-    if (outcome.faults.none()) forget_draft();
+    if (!was_stored(app_.desk, outcome)) return;
+    if (outcome.how == change_outcome::done) forget_draft();
     offer_to_print();
     app_.ricarica_registro = 1;
     leave();

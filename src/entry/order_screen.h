@@ -2,7 +2,7 @@
 
 #include "entry/draft_files.h"
 #include "entry/line_grid.h"
-#include "store/write_outcome.h"
+#include "store/archive_change.h"
 
 namespace vantora {
 
@@ -37,7 +37,7 @@ class order_screen : public line_grid {
     /// Whether the order is to be saved as it stands.
     virtual bool may_save();
     /// Stores the order. If that doesn't begin, the screen stays.
-    virtual write_outcome store() = 0;
+    virtual change_outcome store() = 0;
     /// A command that leaves and saving don't cover.
     virtual void run_own_command(int command) = 0;
     /// Tells of which order the draft is.

@@ -1,8 +1,7 @@
 #pragma once
 
 #include "orders/stored_order.h"
-#include "store/archives.h"
-#include "store/write_outcome.h"
+#include "store/archive_change.h"
 
 namespace vantora {
 
@@ -11,11 +10,10 @@ namespace vantora {
 /// ends the program before leaves at most stock moved for an order that isn't there.
 ///
 /// The rows behind the fourth repeat its texts, to no purpose. `data_reg`: date number of the save.
-/// `articles`: how many there are. Failed reads and writes are passed over and noted; an article
-/// that can't be read is left alone. It doesn't begin if the counter makes no sense (the block
-/// might be another order's), a file can't be written, the disk has no room for the block, or
-/// another station compacts the archive.
-write_outcome salva_nuovo_ordine(archivi& files, const testata_registrata& head, double data_reg,
-                                 const righe_ordine& lines, std::int16_t articles);
+/// `articles`: how many there are. An article that can't be read or written is passed over. A row
+/// that refuses ends the save: the counter stays, so that no old block comes to count, and the
+/// stock is put back.
+change_outcome salva_nuovo_ordine(archivi& files, const testata_registrata& head, double data_reg,
+                                  const righe_ordine& lines, std::int16_t articles);
 
 }  // namespace vantora

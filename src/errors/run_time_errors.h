@@ -22,6 +22,13 @@ inline double checked(double value) {
     return value;
 }
 
+/// A file that must be read or written couldn't be.
+class device_error final : public runtime_error {
+ public:
+    device_error()
+        : runtime_error("Errore di run-time: un archivio non si lascia leggere o scrivere") {}
+};
+
 class subscript_error final : public runtime_error {
  public:
     subscript_error()

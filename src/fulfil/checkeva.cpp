@@ -1,12 +1,12 @@
 #include <algorithm>
 
 #include "customer/shipping_data.h"
+#include "errors/run_time_errors.h"
 #include "fulfil/booking.h"
-#include "fulfil/faults.h"
 #include "fulfil/mirorca.h"
 #include "fulfil/mirorcc.h"
 #include "fulfil/mirorcr.h"
-#include "program/write_messages.h"
+#include "program/change_messages.h"
 #include "store/records/order_block.h"
 
 namespace vantora {
@@ -16,27 +16,27 @@ namespace vantora {
 
 void mirorcr::checkeva() {
     app_.desk.set_pointer(ui::pointer::busy);
-    const write_outcome outcome = book();
+    const change_outcome outcome = book();
     app_.desk.set_pointer(ui::pointer::normal);
-    if (!was_written(app_.desk, outcome)) return;
+    if (!was_stored(app_.desk, outcome)) return;
     app_.ricarica_registro = 1;
     hide();
     app_.mirorca.use().show();
 }
 
-write_outcome mirorcr::book() {
-    const instance_lock alone(app_.archives, instance_lock::kind::records);
+change_outcome mirorcr::book() {
+    archive_change change(app_.archives, archive_change::faults::end_the_program);
     rec_tot now;
-    write_outcome outcome(alone, booking_plan(now));
-    if (outcome.begun() && orders_moved(now)) outcome.give_up_moved_order();
-    if (!outcome.begun()) return outcome;
+    look_before_booking(change, now);
+    if (change.may_write() && orders_moved(now)) change.give_up(change_outcome::order_moved);
+    if (!change.may_write()) return change.finish();
     app_.mirorca->empty_hand_over();
-    book_marked_rows();
-    close_fulfilled_orders();
+    book_marked_rows(change);
+    close_fulfilled_orders(change);
     // The goods are booked before anything is made of them.
-    outcome.faults.note(app_.archives.art.flush(), app_.archives.art);
-    outcome.faults.note(app_.archives.orc.flush(), app_.archives.orc);
-    return outcome;
+    change.flush(app_.archives.art);
+    change.flush(app_.archives.orc);
+    return change.finish();
 }
 
 bool mirorcr::orders_moved(const rec_tot& now) const {
@@ -48,18 +48,20 @@ bool mirorcr::orders_moved(const rec_tot& now) const {
     });
 }
 
-write_plan mirorcr::booking_plan(rec_tot& now) const {
-    write_plan plan;
-    plan.reads(app_.archives.tot, contatori::ordini, now);
+void mirorcr::look_before_booking(archive_change& change, rec_tot& now) const {
+    change.reads(app_.archives.tot, contatori::ordini, now);
+    bool any = false;
+    bool any_leaves = false;
     for (int row = 1; row < righe_; ++row) {
         if (number_in(row, numero_riga) <= 0) continue;
-        plan.changes(app_.archives.orc);
-        if (number_in(row, evaso) != 0) plan.changes(app_.archives.art);
+        any = true;
+        any_leaves |= number_in(row, evaso) != 0;
     }
-    return plan;
+    if (any) change.changes(app_.archives.orc);
+    if (any_leaves) change.changes(app_.archives.art);
 }
 
-void mirorcr::book_marked_rows() {
+void mirorcr::book_marked_rows(archive_change& change) {
     int line = -1;
     bool transport_data_taken = false;
     for (int row = 1; row < righe_; ++row) {
@@ -68,34 +70,35 @@ void mirorcr::book_marked_rows() {
         const double leaving = number_in(row, evaso);
         if (elenco.text(row, evaso) == "*") {
             rec_orc text;
-            require(app_.archives.orc.read(record, text));
+            change.read(app_.archives.orc, record, text);
             app_.mirorca->hand_over(++line, text, {});
         } else if (leaving != 0) {
-            const rec_orc booked = prenota_riga(app_.archives, record, leaving, articoli_.quanti);
+            const rec_orc booked =
+                prenota_riga(change, app_.archives, record, leaving, articoli_.quanti);
             app_.mirorca->hand_over(++line, booked, leaving);
             if (aggiorna.on() && !transport_data_taken) {
                 transport_data_taken = true;
-                take_transport_data(static_cast<int>(number_in(row, numero_ordine)));
+                take_transport_data(change, static_cast<int>(number_in(row, numero_ordine)));
             }
         }
     }
 }
 
-void mirorcr::take_transport_data(int order) {
+void mirorcr::take_transport_data(archive_change& change, int order) {
     rec_orc row;
     for (const int number : {2, 3, 4}) {
-        require(app_.archives.orc.read(block_record(order, number), row));
+        change.read(app_.archives.orc, block_record(order, number), row);
         if (!mostra_spedizione(*app_.mirorcc, number, row)) throw subscript_error();
     }
 }
 
-void mirorcr::close_fulfilled_orders() {
+void mirorcr::close_fulfilled_orders(archive_change& change) {
     int last = 0;
     for (int row = 1; row < righe_; ++row) {
         const int order = static_cast<int>(number_in(row, numero_ordine));
         if (order <= 0 || order == last) continue;
         last = order;
-        chiudi_se_evaso(app_.archives, order);
+        chiudi_se_evaso(change, app_.archives, order);
     }
 }
 

@@ -6,7 +6,7 @@
 #include "fulfil/salva_ddt.h"
 #include "fulfil/unloading.h"
 #include "orders/order_rows.h"
-#include "program/write_messages.h"
+#include "program/change_messages.h"
 #include "store/records/rec_mag.h"
 #include "text/dates.h"
 #include "text/int16.h"
@@ -181,11 +181,17 @@ bool mirorca::unload_goods() {
     app_.desk.set_pointer(ui::pointer::busy);
     const movimento_magazzino movement{day, text1[0].text(), text1[1].text(), app_.data_sistema,
                                        app_.selezione_1};
-    const write_outcome outcome = scarica_magazzino(
+    const righe_ordine before = righe_;
+    const change_outcome outcome = scarica_magazzino(
         app_.archives, movement, righe_, lookup_.articles(), valuta_,
         [this](const rec_art& article) { return ask_to_unload(article); }, [this] { paint(); });
     app_.desk.set_pointer(ui::pointer::normal);
-    unloaded_ = was_written(app_.desk, outcome);
+    // Lines that were refused stay until the rest of them leaves.
+    if (!outcome.stored()) {
+        righe_ = before;
+        paint();
+    }
+    unloaded_ = was_stored(app_.desk, outcome);
     return unloaded_;
 }
 
@@ -217,10 +223,10 @@ bool mirorca::make_document() {
     document.cliente = app_.selezione_1;
     document.data_reg = app_.data_sistema;
     document.scaricato = scarica.on();
-    const write_outcome outcome =
+    const change_outcome outcome =
         salva_ddt(app_.archives, app_.files, app_.parameters.numero_azienda, document, righe_);
     // The goods may be unloaded already.
-    if (!was_written(app_.desk, outcome, "il documento non è stato registrato")) {
+    if (!was_stored(app_.desk, outcome, "il documento non è stato registrato")) {
         return false;
     }
     print(head);

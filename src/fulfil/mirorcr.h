@@ -4,7 +4,7 @@
 
 #include "orders/order_seen.h"
 #include "program/list_grid.h"
-#include "store/write_outcome.h"
+#include "store/archive_change.h"
 #include "ui/controls.h"
 
 namespace vantora {
@@ -80,14 +80,14 @@ class mirorcr final : public ui::form {
 
     void checkeva();
     /// Books what leaves and closes the orders it ends.
-    write_outcome book();
+    change_outcome book();
     /// Another station's compaction has moved an order of the list. `now`: the counter of orders.
     [[nodiscard]] bool orders_moved(const rec_tot& now) const;
     /// What is looked at before the first row is booked.
-    [[nodiscard]] write_plan booking_plan(rec_tot& now) const;
-    void book_marked_rows();
-    void take_transport_data(int order);
-    void close_fulfilled_orders();
+    void look_before_booking(archive_change& change, rec_tot& now) const;
+    void book_marked_rows(archive_change& change);
+    void take_transport_data(archive_change& change, int order);
+    void close_fulfilled_orders(archive_change& change);
 
     program& app_;
     bool editing_ = false;

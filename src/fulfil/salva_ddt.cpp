@@ -71,32 +71,37 @@ std::string snapshot_of(const ddt_da_registrare& document, const righe_ordine& l
 
 }  // namespace
 
-write_outcome salva_ddt(archivi& files, file_port& port, int numero_azienda,
-                        const ddt_da_registrare& document, const righe_ordine& lines) {
-    const instance_lock alone(files, instance_lock::kind::records);
-    write_plan plan;
+change_outcome salva_ddt(archivi& files, file_port& port, int numero_azienda,
+                         const ddt_da_registrare& document, const righe_ordine& lines) {
+    archive_change change(files);
     rec_tot counter;
-    plan.counts(files.tot, contatori::documenti_trasporto, counter);
+    change.counts(files.tot, contatori::documenti_trasporto, counter, files.bol);
+    const rec_tot before = counter;
     counter.quanti = add_int16(counter.quanti, 1).value_or(counter.quanti);
-    plan.writes(files.bol, counter.quanti, 1);
-    write_outcome outcome(alone, plan);
-    if (!outcome.begun()) return outcome;
-    write_faults& faults = outcome.faults;
+    change.writes(files.bol, counter.quanti, 1);
+    if (!change.may_write()) return change.finish();
 
     const auto number = to_int16(number_at_head(document.text3[0]));
     counter.ultimo_numero = number.value_or(counter.ultimo_numero);
     counter.progressivo = next_progressive(counter.progressivo);
-    faults.note(files.tot.write(contatori::documenti_trasporto, counter), files.tot);
+    if (!change.write(files.tot, contatori::documenti_trasporto, counter)) return change.finish();
     const rec_bol record = record_of(document, number.value_or(0), counter.progressivo);
-    faults.note(files.bol.write(counter.quanti, record), files.bol);
-    faults.note(files.tot.flush(), files.tot);
-    faults.note(files.bol.flush(), files.bol);
+    if (!change.write(files.bol, counter.quanti, record)) {
+        // A document that isn't there must not count.
+        if (change.write(files.tot, contatori::documenti_trasporto, before)) {
+            change.take_back(true);
+        }
+        change.flush(files.tot);
+        return change.finish();
+    }
+    change.flush(files.tot);
+    change.flush(files.bol);
 
     const std::string name = "b" + masked(counter.progressivo, "##########0");
     const auto file = port.create_instead(cartella_azienda(numero_azienda) + "\\" + name);
     const std::string content = snapshot_of(document, lines);
-    faults.note(file && file->write(0, std::as_bytes(std::span(content))) && file->flush(), name);
-    return outcome;
+    change.note(file && file->write(0, std::as_bytes(std::span(content))) && file->flush(), name);
+    return change.finish();
 }
 
 }  // namespace vantora

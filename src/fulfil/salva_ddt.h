@@ -4,9 +4,8 @@
 #include <string>
 
 #include "orders/order_lines.h"
-#include "store/archives.h"
+#include "store/archive_change.h"
 #include "store/file_port.h"
-#include "store/write_outcome.h"
 
 namespace vantora {
 
@@ -24,11 +23,10 @@ struct ddt_da_registrare {
 };
 
 /// Draws the number of a transport document and stores the document: its counter, its record, and
-/// its snapshot, a text file for other programs. Every step that fails is passed over and noted,
-/// without effect on the next: a counter that is full stays, a number that is none of the counter's
-/// leaves it. It doesn't begin if the counter makes no sense (the record might be another
-/// document's), a file can't be written, or another station compacts the archive.
-write_outcome salva_ddt(archivi& files, file_port& port, int numero_azienda,
-                        const ddt_da_registrare& document, const righe_ordine& lines);
+/// its snapshot, a text file for other programs. A number that is none of the counter's leaves it.
+/// A counter or record that can't be written ends it, and the counter is as before; a snapshot that
+/// can't be is passed over.
+change_outcome salva_ddt(archivi& files, file_port& port, int numero_azienda,
+                         const ddt_da_registrare& document, const righe_ordine& lines);
 
 }  // namespace vantora

@@ -1,6 +1,10 @@
 #include "fulfil/unloading.h"
 
-#include "fulfil/faults.h"
+#include <array>
+#include <map>
+#include <utility>
+
+#include "errors/run_time_errors.h"
 #include "orders/stock.h"
 #include "orders/totals.h"
 #include "text/dates.h"
@@ -35,6 +39,50 @@ void drop_line(riga_ordine& line) {
     line.sc2 = sc2;
 }
 
+/// Hands over each line that takes more than there is in stock, with its article, in order and on
+/// the stock as the lines before would leave it; `visit` tells whether the line leaves all the
+/// same.
+void visit_short_lines(const archivi& files, const righe_ordine& lines, int articles,
+                       const std::function<bool(int, const rec_art&)>& visit) {
+    std::map<int, rec_art> stock;
+    for (int number = 1; number <= righe_ordine::massimo; ++number) {
+        const riga_ordine& line = lines[number];
+        if (line.quantita == 0 || !is_article(line.articolo, articles)) continue;
+        auto known = stock.find(line.articolo);
+        if (known == stock.end()) {
+            rec_art article;
+            if (!files.art.read(line.articolo, article)) throw device_error();
+            known = stock.emplace(line.articolo, article).first;
+        }
+        const double quantity = line.quantita;
+        rec_art& article = known->second;
+        if (quantity > article.giacenza && !visit(number, article)) continue;
+        unload_stock(article, quantity, 0);
+    }
+}
+
+/// Writes what leaves: each article, then its movement; the counter behind all of them, once the
+/// disk has them.
+void unload(archive_change& change, archivi& files, const movimento_magazzino& movement,
+            const righe_ordine& lines, int articles, const valuta& amounts, rec_tot counter) {
+    for (int number = 1; number <= righe_ordine::massimo; ++number) {
+        const riga_ordine& line = lines[number];
+        if (line.quantita == 0 || !is_article(line.articolo, articles)) continue;
+        rec_art article;
+        change.read(files.art, line.articolo, article);
+        const double price = checked(net_price(line, amounts));
+        unload_stock(article, line.quantita, price);
+        change.write(files.art, line.articolo, article);
+        counter.quanti = add_int16(counter.quanti, 1).value_or(counter.quanti);
+        change.write(files.mag, counter.quanti, movement_of(movement, line, price));
+    }
+    change.flush(files.art);
+    if (!change.flush(files.mag)) return;
+    counter.modificato = 1;
+    change.write(files.tot, contatori::magazzino, counter);
+    change.flush(files.tot);
+}
+
 }  // namespace
 
 std::string giorno_movimento(std::string_view dd_mm_yyyy) {
@@ -43,50 +91,40 @@ std::string giorno_movimento(std::string_view dd_mm_yyyy) {
     return stored_of_date_text(typed);
 }
 
-write_outcome scarica_magazzino(archivi& files, const movimento_magazzino& movement,
-                                righe_ordine& lines, std::int16_t articles, const valuta& amounts,
-                                const std::function<bool(const rec_art&)>& unload_anyway,
-                                const std::function<void()>& line_dropped) {
-    const instance_lock alone(files, instance_lock::kind::records);
-    write_plan plan;
-    rec_tot counter;
-    plan.counts(files.tot, contatori::magazzino, counter);
-    if (const int moving = lines_with_stock(lines, articles); moving > 0) {
-        plan.changes(files.art);
-        plan.writes(files.mag, counter.quanti + 1, moving);
-    }
-    write_outcome outcome(alone, plan);
-    if (!outcome.begun()) return outcome;
-
-    for (int number = 1; number <= righe_ordine::massimo; ++number) {
-        riga_ordine& line = lines[number];
-        if (line.quantita == 0 || !is_article(line.articolo, articles)) continue;
-        rec_art article;
-        require(files.art.read(line.articolo, article));
-        if (line.quantita > article.giacenza) {
-            if (!unload_anyway(article)) {
-                drop_line(line);
-                line_dropped();
-                continue;
-            }
-            // The user may have thought about it for long.
-            require(files.art.read(line.articolo, article));
+change_outcome scarica_magazzino(archivi& files, const movimento_magazzino& movement,
+                                 righe_ordine& lines, std::int16_t articles, const valuta& amounts,
+                                 const std::function<bool(const rec_art&)>& unload_anyway,
+                                 const std::function<void()>& line_dropped) {
+    std::array<bool, righe_ordine::massimo + 1> asked{};
+    while (true) {
+        archive_change change(files, archive_change::faults::end_the_program);
+        rec_tot counter;
+        const int moving = lines_with_stock(lines, articles);
+        change.counts(files.tot, contatori::magazzino, counter, files.mag, moving);
+        if (moving > 0) {
+            change.changes(files.art);
+            change.writes(files.mag, counter.quanti + 1, moving);
         }
-        const double price = checked(net_price(line, amounts));
-        unload_stock(article, line.quantita, price);
-        require(files.art.write(line.articolo, article));
-
-        const auto next = add_int16(counter.quanti, 1);
-        if (!next) throw overflow_error();
-        counter.quanti = *next;
-        require(files.mag.write(*next, movement_of(movement, line, price)));
+        if (!change.may_write()) return change.finish();
+        // Nobody else waits for an answer; and behind it all is looked at anew.
+        bool all_asked = true;
+        visit_short_lines(files, lines, articles, [&](int line, const rec_art&) {
+            all_asked &= asked[static_cast<std::size_t>(line)];
+            return true;
+        });
+        if (all_asked) {
+            unload(change, files, movement, lines, articles, amounts, counter);
+            return change.finish();
+        }
+        change.finish();
+        visit_short_lines(files, lines, articles, [&](int line, const rec_art& article) {
+            if (std::exchange(asked[static_cast<std::size_t>(line)], true)) return true;
+            if (unload_anyway(article)) return true;
+            drop_line(lines[line]);
+            line_dropped();
+            return false;
+        });
     }
-    outcome.faults.note(files.art.flush(), files.art);
-    outcome.faults.note(files.mag.flush(), files.mag);
-    counter.modificato = 1;
-    require(files.tot.write(contatori::magazzino, counter));
-    outcome.faults.note(files.tot.flush(), files.tot);
-    return outcome;
 }
 
 }  // namespace vantora

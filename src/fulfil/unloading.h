@@ -4,9 +4,8 @@
 #include <string>
 
 #include "orders/order_lines.h"
-#include "store/archives.h"
+#include "store/archive_change.h"
 #include "store/values.h"
-#include "store/write_outcome.h"
 
 namespace vantora {
 
@@ -24,18 +23,16 @@ std::string giorno_movimento(std::string_view dd_mm_yyyy);
 
 /// Takes the goods of a document out of the warehouse: for each line with a quantity of an article
 /// the article is written, then its movement; behind all of them, with all of it on the disk, the
-/// counter that makes the movements count. Where there is less in stock than leaves,
-/// `unload_anyway` is asked; on no the line is emptied and `line_dropped` told.
+/// counter that makes the movements count. Before anything is written, and with no other station
+/// kept waiting, `unload_anyway` is asked about each line that takes more than there is in stock as
+/// the lines before leave it; on no the line is emptied and `line_dropped` told. Where other
+/// stations took from the stock meanwhile, further lines are asked about.
 ///
-/// Has no protection: what can't be read or written ends the program, as does a counter that is
-/// full, and the articles and movements written so far stay, uncounted. `articles`: how many.
-///
-/// Other stations are kept out until it ends, questions included. It doesn't begin if the counter
-/// makes no sense, a file can't be written, the disk has no room for the movements, or another
-/// station compacts the archive.
-write_outcome scarica_magazzino(archivi& files, const movimento_magazzino& movement,
-                                righe_ordine& lines, std::int16_t articles, const valuta& amounts,
-                                const std::function<bool(const rec_art&)>& unload_anyway,
-                                const std::function<void()>& line_dropped);
+/// Has no protection: what can't be read or written ends the program, and the articles and
+/// movements written so far stay, uncounted. `articles`: how many.
+change_outcome scarica_magazzino(archivi& files, const movimento_magazzino& movement,
+                                 righe_ordine& lines, std::int16_t articles, const valuta& amounts,
+                                 const std::function<bool(const rec_art&)>& unload_anyway,
+                                 const std::function<void()>& line_dropped);
 
 }  // namespace vantora

@@ -40,6 +40,17 @@ void unload_stock(rec_art& article, double quantity, double net_price) {
     add(article.valore_scaricato, net_price * quantity);
 }
 
+void restore_stock(rec_art& article, const rec_art& before, const rec_art& after) {
+    for (f64le rec_art::*const figure :
+         {&rec_art::ordinato_clienti, &rec_art::giacenza, &rec_art::impegnato}) {
+        if (article.*figure == after.*figure) {
+            article.*figure = before.*figure;
+        } else {
+            add(article.*figure, before.*figure - after.*figure);
+        }
+    }
+}
+
 int lines_with_stock(const righe_ordine& lines, int articles) {
     int count = 0;
     for (int number = 1; number <= righe_ordine::massimo; ++number) {

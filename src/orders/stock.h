@@ -1,9 +1,8 @@
 #pragma once
 
 #include "orders/order_lines.h"
-#include "store/channel.h"
+#include "store/archive_change.h"
 #include "store/records/rec_art.h"
-#include "store/write_plan.h"
 
 namespace vantora {
 
@@ -22,6 +21,10 @@ void release_stock(rec_art& article, double quantity, bool committed);
 /// A quantity leaves the warehouse at a net unit price.
 void unload_stock(rec_art& article, double quantity, double net_price);
 
+/// Puts the figures of a customer's order back to what they were `before` something of this program
+/// that left them as `after`; what another program changed since then stays changed.
+void restore_stock(rec_art& article, const rec_art& before, const rec_art& after);
+
 /// Whether a number is that of an article when there are so many; others are free text.
 constexpr bool is_article(int number, int articles) {
     return number >= 1 && number <= articles;
@@ -30,22 +33,15 @@ constexpr bool is_article(int number, int articles) {
 /// How many lines have stock behind them: those with a quantity of an article.
 int lines_with_stock(const righe_ordine& lines, int articles);
 
-/// Reads article `number`, changes it by `change(article)` and writes it back, with nothing
+/// Reads article `number`, changes it by `change_it(article)` and writes it back, with nothing
 /// between. True if it was written; an article out of range or unreadable is left alone.
-template <class Change>
-bool change_article(channel<rec_art>& files, int number, int articles, Change change) {
+template <class ChangeIt>
+bool change_article(archive_change& change, channel<rec_art>& files, int number, int articles,
+                    ChangeIt change_it) {
     rec_art article;
-    if (!is_article(number, articles) || !files.read(number, article)) return false;
-    change(article);
-    return files.write(number, article);
-}
-
-/// The same for commands that pass faults over: they are noted.
-template <class Change>
-bool change_article(channel<rec_art>& files, int number, int articles, write_faults& faults,
-                    Change change) {
-    return is_article(number, articles) &&
-           faults.note(change_article(files, number, articles, change), files);
+    if (!is_article(number, articles) || !change.read(files, number, article)) return false;
+    change_it(article);
+    return change.write(files, number, article);
 }
 
 }  // namespace vantora

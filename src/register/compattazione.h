@@ -2,8 +2,7 @@
 
 #include <functional>
 
-#include "store/archives.h"
-#include "store/write_plan.h"
+#include "store/archive_change.h"
 
 namespace vantora {
 
@@ -11,14 +10,14 @@ namespace vantora {
 /// blocks that stay slide down over the gaps, in place, from low to high; then the count falls.
 /// The file keeps its length, the orders keep their numbers, and nothing else is touched.
 ///
-/// `counter`: record `contatori::ordini` as just read; it comes back as written. `progress` is
-/// told the `registrazione` at hand, before anything of it moves, and may end the pass by leaving
-/// through an exception: the blocks moved so far then stand twice, and the old count still holds.
+/// `progress` is told the `registrazione` at hand and how many there are, 0 when the pass begins,
+/// before anything of it moves. It may end the pass by leaving through an exception: the blocks
+/// moved so far then stand twice, and the old count still holds. Nobody is asked anything there.
 ///
 /// Without a counter to write nothing moves. An order whose head can't be read stays. The first
 /// block that can't be copied ends the moving, since the next would be laid over it, and leaves the
-/// count as it was; so does a disk that doesn't take what was moved. Returns the files at fault.
-write_faults compatta_archivio(archivi& files, rec_tot& counter, bool elimina_evasi,
-                               const std::function<void(int)>& progress);
+/// count as it was; so does a disk that doesn't take what was moved.
+change_outcome compatta_archivio(archivi& files, bool elimina_evasi,
+                                 const std::function<void(int registrazione, int of)>& progress);
 
 }  // namespace vantora

@@ -1,4 +1,4 @@
-#include "program/write_messages.h"
+#include "program/change_messages.h"
 #include "register/compattazione.h"
 #include "register/mirorc.h"
 
@@ -24,24 +24,22 @@ void mirorc::compact() {
 }
 
 bool mirorc::run_compaction(bool elimina_evasi) {
-    const instance_lock lock(app_.archives, instance_lock::kind::compaction);
-    if (!may_write(app_.desk, lock)) return false;
-    // While the questions were open another station may have saved an order.
-    rec_tot counter;
-    if (!app_.archives.tot.read(contatori::ordini, counter)) {
-        tell_not_compacted(app_.desk, app_.archives.tot.name());
-        return false;
-    }
-    contatore_ = counter;
-    srt.set_visible(true);
-    srt.set_range(1, counter.quanti);
-    const auto faults =
-        compatta_archivio(app_.archives, counter, elimina_evasi, [this](int registrazione) {
-            srt.set_value(registrazione);
-            app_.desk.let_events_run();
+    const auto outcome =
+        compatta_archivio(app_.archives, elimina_evasi, [this](int registrazione, int of) {
+            if (registrazione == 0) {
+                srt.set_visible(true);
+                srt.set_range(1, of);
+            } else {
+                srt.set_value(registrazione);
+                app_.desk.let_events_run();
+            }
         });
-    if (!faults.none()) tell_not_compacted(app_.desk, faults.names());
-    return true;
+    if (!outcome.begun()) {
+        was_stored(app_.desk, outcome, "l'archivio non è stato compattato");
+    } else if (outcome.how != change_outcome::done) {
+        tell_not_compacted(app_.desk, outcome);
+    }
+    return outcome.begun();
 }
 
 }  // namespace vantora

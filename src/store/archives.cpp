@@ -29,6 +29,12 @@ void apri_archivi(archivi& files, file_port& port, int numero_azienda) {
     open(files.art_blocchi, port, numero_azienda, "art");
 }
 
+void segui_archivi(archivi& files) {
+    const auto follow = [](auto&... all) { (all.follow(), ...); };
+    follow(files.tot, files.cli, files.src, files.art, files.sra, files.orc, files.srb, files.mag,
+           files.bol, files.prx, files.prv, files.art_blocchi);
+}
+
 void chiudi_archivi(archivi& files) {
     files = archivi{};
 }

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <chrono>
 #include <functional>
+#include <optional>
+#include <string>
 
 #include "store/channel.h"
 #include "store/records.h"
@@ -24,12 +27,20 @@ struct archivi {
     channel<blocco_articoli> art_blocchi;  ///< "vantora.art" a second time, 20 records a read
 
     /// Lets the user see that another station holds this one up: called every few milliseconds
-    /// meanwhile, with false at the end. Null: nobody is told.
-    std::function<void(bool still)> station_awaited;
+    /// meanwhile with who it is ("anna su cassa2", empty if that isn't known), with nothing at the
+    /// end. Null: nobody is told.
+    std::function<void(const std::optional<std::string>& station)> station_awaited;
+    /// Whether to wait on, after every `patience` of it. Null: no.
+    std::function<bool(std::chrono::seconds so_far)> wait_on;
+    std::chrono::milliseconds patience{10'000};
+    bool changing = false;  ///< a change of the archive is under way
 };
 
 /// Opens all record files, the counters first; a file that doesn't exist is created empty.
 void apri_archivi(archivi& files, file_port& port, int numero_azienda);
+
+/// Goes along with files that others stand in the place of by now.
+void segui_archivi(archivi& files);
 
 /// Closes every channel; whatever is tried on them afterwards fails.
 void chiudi_archivi(archivi& files);

@@ -67,6 +67,9 @@ class channel {
     /// Whether records can be written here: the channel is open, and not for reading only.
     [[nodiscard]] bool writable() const { return file_ && file_->writable(); }
 
+    /// Goes along if another file stands under the path by now. A closed channel stays as it is.
+    file_place follow() { return file_ ? file_->follow() : file_place::same; }
+
     /// Sets room on the disk aside for `count` records from `first` on; the file's length stays.
     /// False for a closed channel, a number below 1 or a full disk.
     bool reserve(std::int64_t first, std::int64_t count) {

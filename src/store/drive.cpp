@@ -1,10 +1,13 @@
 #include "store/drive.h"
 
 #include <fcntl.h>
+#include <pwd.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <csignal>
@@ -19,17 +22,42 @@ namespace {
 /// Text files of the suite are small; of a larger file its head will do.
 constexpr std::size_t largest_text_file = 64U << 20U;
 
-/// Bytes that stand for the locks, so far behind the largest record file that no program comes
-/// near them, and still within what every system can count.
-constexpr off_t first_lock_byte = off_t{1} << 62;
+/// The byte that stands for the lock, so far behind the largest record file that no program comes
+/// near it, and still within what every system can count.
+constexpr off_t lock_byte = off_t{1} << 62;
 
-struct flock lock_of(program_lock which, short type) {
+struct flock lock_of(short type) {
     struct flock lock {};
     lock.l_type = type;
     lock.l_whence = SEEK_SET;
-    lock.l_start = first_lock_byte + static_cast<off_t>(which);
+    lock.l_start = lock_byte;
     lock.l_len = 1;
     return lock;
+}
+
+/// Who had the lock last stands beside the file's content, where no other program meets it.
+constexpr const char* holder_attribute = "user.vantora.station";
+
+/// User and host, "anna su cassa2".
+std::string this_station() {
+    char host[256] = "";
+    ::gethostname(host, sizeof host - 1);
+    const passwd* user = ::getpwuid(::geteuid());
+    return from_utf8(std::string(user ? user->pw_name : "?") + " su " + host);
+}
+
+/// The entry of a folder that has the name, in whatever case; the name as it is if there is none.
+std::filesystem::path entry_named(const std::filesystem::path& folder, const std::string& name) {
+    std::error_code failed;
+    if (std::filesystem::exists(std::filesystem::symlink_status(folder / name, failed))) {
+        return folder / name;
+    }
+    const std::string wanted = upper(from_utf8(name));
+    for (std::filesystem::directory_iterator entry(folder, failed), end; !failed && entry != end;
+         entry.increment(failed)) {
+        if (upper(from_utf8(entry->path().filename().string())) == wanted) return entry->path();
+    }
+    return folder / name;
 }
 
 /// Calls until the call isn't interrupted.
@@ -40,11 +68,35 @@ auto uninterrupted(const Call& call) {
     return result;
 }
 
+bool flush_folder(const std::filesystem::path& folder) {
+    const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (descriptor < 0) return false;
+    const bool done = uninterrupted([&] { return ::fsync(descriptor); }) == 0;
+    ::close(descriptor);
+    return done;
+}
+
+/// Device and number of a plain file; empty if there is none.
+using file_identity = std::optional<std::pair<dev_t, ino_t>>;
+
+file_identity identity_in(const struct stat& state) {
+    if (!S_ISREG(state.st_mode)) return {};
+    return std::pair(state.st_dev, state.st_ino);
+}
+file_identity identity_of(int descriptor) {
+    struct stat state {};
+    return ::fstat(descriptor, &state) == 0 ? identity_in(state) : std::nullopt;
+}
+file_identity identity_of(const std::filesystem::path& path) {
+    struct stat state {};
+    return ::stat(path.c_str(), &state) == 0 ? identity_in(state) : std::nullopt;
+}
+
 class system_file : public file {
  public:
-    /// `new_in`: the folder that the file is a new entry of; empty for a file that was there.
-    explicit system_file(int descriptor, std::filesystem::path new_in = {})
-        : descriptor_(descriptor), new_in_(std::move(new_in)) {}
+    /// `is_new`: the folder doesn't know it for good yet.
+    system_file(int descriptor, std::filesystem::path path, bool is_new)
+        : descriptor_(descriptor), path_(std::move(path)), is_new_(is_new) {}
     system_file(const system_file&) = delete;
     system_file& operator=(const system_file&) = delete;
     ~system_file() override {
@@ -87,7 +139,7 @@ class system_file : public file {
     bool flush() override {
         if (uninterrupted([&] { return ::fdatasync(descriptor_); }) != 0) return false;
         // A new file is lost with its name: the folder goes to the disk too, once.
-        if (!new_in_.empty() && flush_folder(new_in_)) new_in_.clear();
+        if (is_new_ && flush_folder(path_.parent_path())) is_new_ = false;
         return true;
     }
 
@@ -115,43 +167,81 @@ class system_file : public file {
                              errno != EROFS && errno != EBADF);
     }
 
-    lock_answer try_lock(program_lock which) override {
-        struct flock lock = lock_of(which, F_WRLCK);
-        if (uninterrupted([&] { return ::fcntl(descriptor_, F_OFD_SETLK, &lock); }) == 0) {
-            return lock_answer::held;
-        }
-        return errno == EAGAIN || errno == EACCES ? lock_answer::busy : lock_answer::unknown;
+    file_place follow() override {
+        const auto path = entry_named(path_.parent_path(), path_.filename().string());
+        const auto here = identity_of(descriptor_);
+        const auto there = identity_of(path);
+        if (!there) return file_place::removed;
+        if (here == there) return file_place::same;
+        int mode = ::fcntl(descriptor_, F_GETFL) & O_ACCMODE;
+        auto other = open_again(path, mode);
+        if (!other && mode == O_RDWR) other = open_again(path, O_RDONLY);
+        if (!other) return file_place::removed;
+        // Where a file has another number whenever it is asked for, numbers tell nothing.
+        if (identity_of(other->descriptor_) != there) return file_place::same;
+        if (::dup3(other->descriptor_, descriptor_, O_CLOEXEC) < 0) return file_place::removed;
+        return file_place::replaced;
     }
 
-    void unlock(program_lock which) override {
-        struct flock lock = lock_of(which, F_UNLCK);
+    lock_answer try_lock() override {
+        struct flock lock = lock_of(F_WRLCK);
+        if (uninterrupted([&] { return ::fcntl(descriptor_, F_OFD_SETLK, &lock); }) == 0) {
+            leave_name();
+            return lock_answer::held;
+        }
+        if (errno == EAGAIN || errno == EACCES) return lock_answer::busy;
+        // A file that may only be read is refused before the file system is asked.
+        if (errno == EBADF) uninterrupted([&] { return ::fcntl(descriptor_, F_OFD_GETLK, &lock); });
+        const bool knows_none =
+            errno == ENOLCK || errno == ENOSYS || errno == EOPNOTSUPP || errno == EINVAL;
+        return knows_none ? lock_answer::unknown : lock_answer::refused;
+    }
+
+    void unlock() override {
+        struct flock lock = lock_of(F_UNLCK);
         uninterrupted([&] { return ::fcntl(descriptor_, F_OFD_SETLK, &lock); });
     }
 
-    [[nodiscard]] bool locked_elsewhere(program_lock which) const override {
-        struct flock lock = lock_of(which, F_WRLCK);
-        return uninterrupted([&] { return ::fcntl(descriptor_, F_OFD_GETLK, &lock); }) == 0 &&
-               lock.l_type != F_UNLCK;
+    [[nodiscard]] std::optional<std::string> locked_by() const override {
+        struct flock lock = lock_of(F_WRLCK);
+        if (uninterrupted([&] { return ::fcntl(descriptor_, F_OFD_GETLK, &lock); }) != 0 ||
+            lock.l_type == F_UNLCK) {
+            return {};
+        }
+        return holder();
     }
 
  private:
-    static bool flush_folder(const std::filesystem::path& folder) {
-        const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-        if (descriptor < 0) return false;
-        const bool done = uninterrupted([&] { return ::fsync(descriptor); }) == 0;
-        ::close(descriptor);
-        return done;
+    static std::unique_ptr<system_file> open_again(const std::filesystem::path& path, int mode) {
+        const int descriptor = uninterrupted(
+            [&] { return ::open(path.c_str(), mode | O_CLOEXEC | O_NONBLOCK, 0666); });
+        if (descriptor < 0) return nullptr;
+        return std::make_unique<system_file>(descriptor, path, false);
+    }
+
+    /// Who had the lock last.
+    [[nodiscard]] std::string holder() const {
+        char name[512];
+        const ssize_t size = ::fgetxattr(descriptor_, holder_attribute, name, sizeof name);
+        return {name, static_cast<std::size_t>(std::max<ssize_t>(size, 0))};
+    }
+    void leave_name() {
+        static const std::string own = this_station();
+        if (holder() != own) {
+            ::fsetxattr(descriptor_, holder_attribute, own.data(), own.size(), 0);
+        }
     }
 
     int descriptor_;
-    std::filesystem::path new_in_;
+    std::filesystem::path path_;
+    bool is_new_;
 };
 
 /// A file beside another one, gone again unless it takes that one's place.
 class file_aside final : public system_file {
  public:
     file_aside(int descriptor, std::filesystem::path name, std::filesystem::path place)
-        : system_file(descriptor), name_(std::move(name)), place_(std::move(place)) {}
+        : system_file(descriptor, name, false), name_(std::move(name)), place_(std::move(place)) {}
     ~file_aside() override {
         const int error = errno;
         if (!in_place_) ::unlink(name_.c_str());
@@ -159,7 +249,13 @@ class file_aside final : public system_file {
     }
 
     bool put_in_place() override {
+        const int error = errno;
         in_place_ = ::rename(name_.c_str(), place_.c_str()) == 0;
+        // The name goes to the disk too; where folders can't be flushed, it goes in its own time.
+        if (in_place_) {
+            flush_folder(place_.parent_path());
+            errno = error;
+        }
         return in_place_;
     }
 
@@ -175,28 +271,13 @@ std::unique_ptr<file> open_plain(const std::filesystem::path& path, int flags) {
     const int descriptor =
         uninterrupted([&] { return ::open(path.c_str(), flags | O_CLOEXEC | O_NONBLOCK, 0666); });
     if (descriptor < 0) return nullptr;
-    auto opened = std::make_unique<system_file>(
-        descriptor, is_new ? path.parent_path() : std::filesystem::path());
+    auto opened = std::make_unique<system_file>(descriptor, path, is_new);
     struct stat state {};
     if (::fstat(descriptor, &state) != 0 || !S_ISREG(state.st_mode)) {
         errno = EINVAL;
         return nullptr;
     }
     return opened;
-}
-
-/// The entry of a folder that has the name, in whatever case; the name as it is if there is none.
-std::filesystem::path entry_named(const std::filesystem::path& folder, const std::string& name) {
-    std::error_code failed;
-    if (std::filesystem::exists(std::filesystem::symlink_status(folder / name, failed))) {
-        return folder / name;
-    }
-    const std::string wanted = upper(from_utf8(name));
-    for (std::filesystem::directory_iterator entry(folder, failed), end; !failed && entry != end;
-         entry.increment(failed)) {
-        if (upper(from_utf8(entry->path().filename().string())) == wanted) return entry->path();
-    }
-    return folder / name;
 }
 
 void give_rights(const std::filesystem::path& to, mode_t rights) {
@@ -272,6 +353,7 @@ std::unique_ptr<file> drive::create(std::string_view path) {
 }
 
 std::unique_ptr<file> drive::create_instead(std::string_view path) {
+    if (access_ == access::reading_only) return nullptr;
     const auto located = locate(path);
     // A link leads away, perhaps to a file of somebody's: its place is taken, it is never followed.
     struct stat state {};

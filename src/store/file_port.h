@@ -11,17 +11,21 @@
 
 namespace vantora {
 
-/// What instances of this program, at work on one company from several stations, keep each other
-/// out of. The other programs of the suite know nothing of it and are never stopped by it.
-enum class program_lock {
-    counters,    ///< from reading a counter to writing it
-    compaction,  ///< while blocks of orders move
-};
-
+/// What came of asking for the lock that keeps the instances of this program, at work on one
+/// company from several stations, out of each other's changes. The other programs of the suite know
+/// nothing of it and are never stopped by it.
 enum class lock_answer {
     held,     ///< this file has it now, until it is unlocked or closed
     busy,     ///< another instance has it
+    refused,  ///< there are such locks, but not for this user or not now
     unknown,  ///< the file system knows no such locks
+};
+
+/// Whether an open file is still the one under its path.
+enum class file_place {
+    same,
+    replaced,  ///< another one took its place: from now on it is that one that is open
+    removed,   ///< none is there, or none that can be opened
 };
 
 /// One open file, read and written at byte offsets. Other programs hold the same file open, so
@@ -61,13 +65,18 @@ class file {
     /// system refused.
     virtual bool put_in_place() { return false; }
 
-    /// Asks once for a lock, without waiting. It covers no byte that a record could lie on. Asking
-    /// again for a lock held through this very file is granted, and one `unlock` gives it up.
-    virtual lock_answer try_lock(program_lock /*which*/) { return lock_answer::unknown; }
-    virtual void unlock(program_lock /*which*/) {}
+    /// Looks whether the path still leads to this file, and goes along if it leads to another one;
+    /// a lock that was held is lost then. Reads under way end on the old one.
+    virtual file_place follow() { return file_place::same; }
 
-    /// Whether another instance has the lock.
-    [[nodiscard]] virtual bool locked_elsewhere(program_lock /*which*/) const { return false; }
+    /// Asks once for the lock, without waiting. It covers no byte that a record could lie on.
+    /// Asking again for it through this very file is granted, and one `unlock` gives it up.
+    virtual lock_answer try_lock() { return lock_answer::unknown; }
+    virtual void unlock() {}
+
+    /// Who has the lock, if it is another instance: user and host, "anna su cassa2", in the code
+    /// page; an empty text where the system doesn't tell.
+    [[nodiscard]] virtual std::optional<std::string> locked_by() const { return {}; }
 };
 
 /// The system's files, by the paths of the suite ("\mirwin\mirwin\vantora.eur", "c:\mirdoc.rto"),

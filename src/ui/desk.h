@@ -53,8 +53,8 @@ class desk {
     void end_progress(control& list) { front_.progress_ended(list); }
     /// Tells in passing what needs no answer.
     void note(const std::string& text) { front_.note_shown(text); }
-    /// Shows that another station holds this one up, until called with false. No events run.
-    void show_station_awaited(bool still);
+    /// Shows which station holds this one up, until called with none. No events run.
+    void show_station_awaited(const std::optional<std::string>& station);
 
     /// Ends the program at once: nothing behind the call runs.
     [[noreturn]] void end_program();

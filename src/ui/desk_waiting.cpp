@@ -93,8 +93,8 @@ void desk::show_progress(control& list, double done) {
     if (ended_) throw program_end{};
 }
 
-void desk::show_station_awaited(bool still) {
-    front_.station_awaited(still);
+void desk::show_station_awaited(const std::optional<std::string>& station) {
+    front_.station_awaited(station);
     if (ended_) throw program_end{};
 }
 

@@ -46,9 +46,10 @@ class front_end {
     virtual void progress_ended(control& /*list*/) {}
     /// Something to know that needs no answer.
     virtual void note_shown(const std::string& /*text*/) {}
-    /// Another station holds this one up; called again and again meanwhile, with false at the end.
+    /// Another station holds this one up: which one, "anna su cassa2" or empty if that isn't known.
+    /// Called again and again meanwhile, with none at the end.
     /// Nothing that the user does may be served, windows may be painted.
-    virtual void station_awaited(bool /*still*/) {}
+    virtual void station_awaited(const std::optional<std::string>& /*station*/) {}
     /// The program ends on an error: tell the user before it does.
     virtual void report_fatal(const std::string& /*message*/) {}
 };

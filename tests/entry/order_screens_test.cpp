@@ -111,7 +111,7 @@ TEST(order_screens, WhateverRefusesIsTold) {
                 EXPECT_FALSE(at.desk.ended());
                 EXPECT_EQ(at.desk.pointer_shape(), ui::pointer::normal);
                 const bool told = std::ranges::any_of(at.front.told, [](const std::string& text) {
-                    return text.find("errore su") != std::string::npos;
+                    return text.find("rrore su") != std::string::npos;
                 });
                 const std::string found = problems(company);
                 EXPECT_TRUE(told || (found.empty() && (fault != 'f' || n > 0)))

@@ -114,7 +114,7 @@ TEST(mirorca, DocumentCountersAtTheirLimits) {
     for (const auto& one : cases) {
         document_stage stage;
         rec_tot counter{};
-        counter.quanti = 32767;
+        counter.quanti = 32766;
         counter.ultimo_numero = 41;
         counter.progressivo = one.progressive;
         stage.files.tot.write(contatori::documenti_trasporto, counter);

@@ -6,9 +6,7 @@
 #include "store/archives.h"
 #include "store/company.h"
 #include "store/drive.h"
-#include "store/instance_lock.h"
 #include "store/records.h"
-#include "store/write_plan.h"
 #include "support/faulty_files.h"
 #include "support/file_bytes.h"
 #include "support/scratch_folder.h"
@@ -80,43 +78,6 @@ TEST_F(channel_test, RoomIsSetAsideWithoutChangingTheFile) {
     EXPECT_TRUE(tot.reserve(2, 5));
     EXPECT_FALSE(tot.reserve(2, 5000));
     ::setrlimit(RLIMIT_FSIZE, &before);
-}
-
-TEST(write_faults, NameEachFileOnceInTheOrderOfTheFirstFaults) {
-    write_faults refused;
-    const channel<rec_orc> orc(nullptr, "vantora.orc");
-    const channel<rec_art> art(nullptr, "vantora.art");
-    for (const bool done : {true, false, false}) refused.note(done, orc);
-    refused.note(false, art);
-    EXPECT_EQ(refused.names(), "vantora.orc, vantora.art");
-}
-
-TEST_F(channel_test, TwoStationsKeepEachOtherOutAndACompactionSaysSo) {
-    using namespace std::chrono_literals;
-    using enum instance_lock::outcome;
-    using enum instance_lock::kind;
-    archivi here;
-    archivi there;
-    here.tot = open();
-    there.tot = open();
-    {
-        instance_lock first(here, records);
-        EXPECT_EQ(first.result(), held);
-        EXPECT_EQ(instance_lock(there, records, 10ms).result(), without);
-        rec_tot record;
-        EXPECT_TRUE(there.tot.write(1, record) && there.tot.read(1, record))
-            << "nothing else waits";
-        first.release();
-        const instance_lock second(there, compaction, 10ms);
-        EXPECT_EQ(second.result(), held);
-        EXPECT_EQ(instance_lock(here, records, 10ms).result(), compaction_elsewhere);
-        EXPECT_EQ(instance_lock(here, compaction, 10ms).result(), compaction_elsewhere);
-        there.tot.close();
-        EXPECT_EQ(instance_lock(here, records, 10ms).result(), compaction_elsewhere);
-    }
-    EXPECT_EQ(instance_lock(here, records, 10ms).result(), held);
-    EXPECT_EQ(std::filesystem::file_size(f), 12U);
-    EXPECT_EQ(instance_lock(archivi(), records).result(), without);
 }
 
 TEST(fields, AreTheBytesOfTheFile) {

@@ -22,6 +22,7 @@ class faulty_file final : public file {
         if (faults_.write_fails && faults_.write_fails(path_, offset)) return false;
         if (faults_.writes >= faults_.writes_before_crash) throw crash{};
         ++faults_.writes;
+        if (!faults_.locked) faults_.written_unlocked.push_back(path_);
         faults_.events.push_back({path_, offset, bytes.size(), false});
         return real_->write(offset, bytes);
     }
@@ -39,10 +40,18 @@ class faulty_file final : public file {
         return real_->reserve(offset, size);
     }
     bool put_in_place() override { return !faults_.refuses_open(path_) && real_->put_in_place(); }
-    lock_answer try_lock(program_lock which) override { return real_->try_lock(which); }
-    void unlock(program_lock which) override { real_->unlock(which); }
-    [[nodiscard]] bool locked_elsewhere(program_lock which) const override {
-        return real_->locked_elsewhere(which);
+    file_place follow() override { return real_->follow(); }
+    lock_answer try_lock() override {
+        const lock_answer answer = faults_.lock_answers.value_or(real_->try_lock());
+        faults_.locked |= answer == lock_answer::held;
+        return answer;
+    }
+    void unlock() override {
+        faults_.locked = false;
+        real_->unlock();
+    }
+    [[nodiscard]] std::optional<std::string> locked_by() const override {
+        return real_->locked_by();
     }
 
  private:

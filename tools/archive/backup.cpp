@@ -6,9 +6,9 @@
 
 #include "archive/copying.h"
 #include "archive/staging.h"
+#include "store/archive_change.h"
 #include "store/archives.h"
 #include "store/company.h"
-#include "store/instance_lock.h"
 #include "text/code_page.h"
 
 namespace vantora::archive {
@@ -95,15 +95,15 @@ archivi lock_file(file_port& files, int numero_azienda) {
 }
 
 /// Copies until the files stayed the same all the while: other programs of the suite don't wait.
-std::string copy_consistently(file_port& from, const archivi& tot, int numero_azienda,
-                              file_port& to, const staging& made, std::vector<copied_file>& copied,
+std::string copy_consistently(file_port& from, archivi tot, int numero_azienda, file_port& to,
+                              const staging& made, std::vector<copied_file>& copied,
                               std::string& into) {
     constexpr int attempts_max = 3;
     const fs::path root = from.locate("\\");
     const fs::path company = from.locate(cartella_azienda(numero_azienda));
     for (int attempt = 1; attempt <= attempts_max; ++attempt) {
-        instance_lock alone(tot, instance_lock::kind::compaction);
-        if (alone.result() == instance_lock::outcome::compaction_elsewhere) break;
+        const archive_change alone(tot);
+        if (alone.others_at_work()) break;
         const auto before = list_company(root, company);
         into = made.folder().filename().string() + "/" + std::to_string(attempt);
         std::string fault = copy_all(from, before, to, into, copied);
@@ -232,9 +232,9 @@ copy_outcome put_back(const copy_outcome& copy, file_port& from, int numero_azie
         }
     }
     if (!any) return failed("la copia non è di questa ditta");
-    const archivi tot = lock_file(to, numero_azienda);
-    const instance_lock alone(tot, instance_lock::kind::compaction);
-    if (!alone.may_go_on()) return failed("un'altra postazione sta compattando l'archivio");
+    archivi tot = lock_file(to, numero_azienda);
+    const archive_change alone(tot);
+    if (alone.others_at_work()) return failed("un'altra postazione lavora nell'archivio");
     copy_outcome outcome;
     outcome.files = copy.files;
     if (fs::exists(place)) outcome.place = place.parent_path() / former;

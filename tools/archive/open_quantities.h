@@ -14,6 +14,8 @@ struct wrong_ordered_quantity {
     std::string codice;  ///< UTF-8
     double stored = 0;   ///< what the article says
     double open = 0;     ///< what the orders have open of it
+
+    bool operator==(const wrong_ordered_quantity&) const = default;
 };
 
 /// What the orders that aren't deleted have open of each article: quantity less fulfilled. A row

@@ -19,7 +19,7 @@ inline constexpr const char* no_trial_company = "La ditta di prova non si può c
 // Waiting ------------------------------------------------------------------------------------
 
 inline constexpr const char* read_meanwhile = "Letto intanto, e non inserito: %1";
-inline constexpr const char* other_station = "Attesa di un'altra postazione...";
+inline constexpr const char* other_station = "Attesa di un'altra postazione";
 
 // Finding in a list --------------------------------------------------------------------------
 
