@@ -15,6 +15,10 @@ if(VANTORA_SANITIZE)
   target_link_options(vantora_rules INTERFACE -fsanitize=address,undefined)
 endif()
 
+# What programs tell of their version.
+add_library(vantora_version INTERFACE)
+target_compile_definitions(vantora_version INTERFACE VANTORA_VERSION="${PROJECT_VERSION}")
+
 # Files read together see each other's names; read one by one, they are told of their own.
 add_library(vantora_read_together INTERFACE)
 target_compile_options(vantora_read_together INTERFACE -Wno-shadow -Wno-subobject-linkage)

@@ -14,6 +14,11 @@ done
 as_root=
 if [ "$(id -u)" -ne 0 ]; then
     as_root=sudo
+    command -v sudo >/dev/null || {
+        echo "Packages are missing, and only root may install them. As root:" >&2
+        echo "    apt-get update && apt-get install --no-install-recommends$missing" >&2
+        exit 1
+    }
 fi
 echo "Installing:$missing"
 $as_root apt-get update -qq

@@ -79,7 +79,9 @@ def with_pictures(html, pictures, icons):
 def main(docs, pictures, out):
     icons = docs.parent / "src/desktop/look/icons"
     toc, html = body_of(docs, icons)
-    cover = (docs / "cover.html").read_text(encoding="utf-8")
+    build = (docs.parent / "CMakeLists.txt").read_text(encoding="utf-8")
+    version = re.search(r"project\(.*VERSION ([0-9.]+)", build)[1]
+    cover = (docs / "cover.html").read_text(encoding="utf-8").replace("{version}", version)
     page = (
         f'<!DOCTYPE html>\n<html lang="it"><head><meta charset="utf-8"/><title>{TITLE} - Manuale</title>'
         '<meta name="viewport" content="width=device-width"/>'

@@ -8,6 +8,7 @@ namespace vantora {
 
 std::optional<int> program_options::read(int count, char** arguments) {
     CLI::App parser(description);
+    parser.set_version_flag("--version", VANTORA_VERSION);
     std::string moment;
     parser.add_option("--drive", drive, "folder that holds the suite's tree")
         ->check(CLI::ExistingDirectory);

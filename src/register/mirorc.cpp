@@ -50,7 +50,7 @@ mirorc::mirorc(program& app)
     for (int i = 0; i < 5; ++i) srx[i].set_text("Riordina");
     srtt[0].set_text("Per compattare l'archivio cancellando definitivamente gli ordini eliminati");
     srtt[1].set_text("clic qui ");
-    xx_versione.set_text("Ver. N.15.1");
+    xx_versione.set_text("Ver. N." VANTORA_VERSION);
 
     elenco.on_click = [this] { open_order(); };
     elenco.hint_of = [this](int row) { return hint(row); };

@@ -46,6 +46,7 @@ void speak_italian(CLI::App& program) {
     program.option_defaults()->group("Opzioni");
     program.group("Comandi");
     program.set_help_flag("-h,--help", "mostra questo aiuto");
+    program.set_version_flag("--version", VANTORA_VERSION)->description("mostra la versione");
     const auto words = std::make_shared<CLI::Formatter>();
     words->label("Usage", "Uso");
     words->label("Positionals", "Argomenti");

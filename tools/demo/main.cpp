@@ -35,6 +35,7 @@ int main(int argc, char** argv) {
     std::string drive;
     std::string company;
     CLI::App app("Crea un'azienda dimostrativa completa di archivi e moduli di stampa");
+    app.set_version_flag("--version", VANTORA_VERSION)->description("Versione");
     app.add_option("cartella", drive, "Cartella che fa da disco della suite")->required();
     app.add_option("azienda", company, "Numero dell'azienda, per esempio 007")
         ->required()

@@ -32,6 +32,7 @@ std::optional<int> read_options(options& into, int count, char** arguments) {
                     "sta come mirwin/mirwin/mirxpdf")
         ->check(CLI::ExistingDirectory);
     parser.add_flag("--no-window", into.no_window, "Nessuna finestra: i messaggi vanno su stderr");
+    parser.set_version_flag("--version", VANTORA_VERSION)->description("Versione");
     // From its first word on, the argument is nobody's option.
     parser.prefix_command();
     try {
