@@ -40,6 +40,12 @@ std::optional<int> company_in(std::string name) {
     return std::stoi(digits);
 }
 
+std::string heading_of(const file_port& files, int number) {
+    std::string heading;
+    text_reader(files.read_whole(file_azienda(number, "int")).value_or("")).line(heading);
+    return heading;
+}
+
 QString path_shown(const fs::path& path) {
     return QString::fromStdString(path.string());
 }
@@ -55,12 +61,17 @@ std::vector<company_on_drive> companies_on(const fs::path& root) {
         const auto number = company_in(entry->path().filename().string());
         std::error_code unknown;
         if (!number || !entry->is_directory(unknown)) continue;
-        std::string heading;
-        text_reader(suite.read_whole(file_azienda(*number, "int")).value_or("")).line(heading);
-        found.push_back({*number, heading});
+        found.push_back({*number, heading_of(suite, *number)});
     }
     std::ranges::sort(found, {}, &company_on_drive::number);
     return found;
+}
+
+QString title_of_company(const file_port& files, std::string_view argument) {
+    const int company = numero_azienda_in(argument);
+    const QString number = QString("ditta %1").arg(company, 3, 10, QChar('0'));
+    const QString heading = ui::to_qt(heading_of(files, company)).simplified();
+    return heading.isEmpty() ? number : heading + " (" + number + ")";
 }
 
 fs::path company_choice::last_drive() {

@@ -3,6 +3,7 @@
 #include <QDialog>
 #include <filesystem>
 #include <string>
+#include <string_view>
 #include <vector>
 
 class QLabel;
@@ -12,6 +13,8 @@ class QPushButton;
 
 namespace vantora {
 
+class file_port;
+
 /// A company's number and the first line of its heading, in the code page.
 struct company_on_drive {
     int number;
@@ -20,6 +23,10 @@ struct company_on_drive {
 
 /// The companies whose folders lie on a drive, by number; none if it isn't one of the suite.
 std::vector<company_on_drive> companies_on(const std::filesystem::path& drive);
+
+/// "Rossi S.r.l. (ditta 007)", as a company calls itself, for title bars; the number alone where it
+/// has no heading.
+QString title_of_company(const file_port& files, std::string_view argument);
 
 /// Asks for the company, in place of the suite's menu program, when the program is started without
 /// it, as from the system's menu. Remembers the drive; can make a demonstration company to begin

@@ -127,6 +127,7 @@ int main(int count, char** arguments) {
         return exit_code(desk);
     }
 
+    front.end_titles_with(title_of_company(files, options.argument));
     ui::desktop::system_printer paper;
     ui::desktop::system_launcher programs(
         [&files](std::string_view path) { return files.locate(path).string(); });

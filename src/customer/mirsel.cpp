@@ -49,6 +49,7 @@ mirsel::mirsel(program& app)
       app_(app),
       lista_(elenco, app, righe_minime, numero) {
     add("elenco", elenco);
+    elenco.empty_note = "Nessun risultato";
     add("srx", srx);
     add("selnome", selnome);
     add("indice", indice);

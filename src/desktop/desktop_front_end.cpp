@@ -6,8 +6,10 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QToolTip>
+#include <algorithm>
 
 #include "desktop/look/box_look.h"
+#include "desktop/look/tip.h"
 #include "desktop/look/words.h"
 #include "ui/desk.h"
 
@@ -107,7 +109,18 @@ void desktop_front_end::let_events_run() {
     if (QPointer<form_window> closing = std::exchange(late_closing_, nullptr)) closing->close();
 }
 
+namespace {
+
+bool has_bar_of_its_own(const form& screen) {
+    return std::ranges::any_of(screen.controls(), [](const control* one) {
+        return one->kind() == control_kind::progress_bar && one->visible();
+    });
+}
+
+}  // namespace
+
 void desktop_front_end::progress_changed(control& list, double done) {
+    if (has_bar_of_its_own(list.owner())) return;
     form_window* window = window_of(list.owner());
     if (bars_.show(list, window ? &window->widget_of(list) : nullptr, done)) paint();
 }
@@ -194,6 +207,7 @@ void desktop_front_end::come_forward(form& chosen) {
 void desktop_front_end::form_shown(form& which) {
     form_window* window = window_of(which);
     if (!window) return;
+    window->show_title(title_end_);
     form_window* before = desk_->active() ? window_of(*desk_->active()) : nullptr;
     if (before && before->isVisible()) place_ = before->place();
     window->appear(place_);
@@ -221,6 +235,7 @@ void desktop_front_end::form_unloaded(form& which) {
 void desktop_front_end::form_activated(form& which) {
     form_window* window = window_of(which);
     if (!window) return;
+    window->show_title(title_end_);
     if (!chosen_by_user_) keys_.screen_came_up();
     since_called_.start();
     window->raise();
@@ -374,14 +389,14 @@ void desktop_front_end::note_shown(const std::string& text) {
     QWidget* window = front_window();
     if (!window) return;
     const QWidget* beside = QApplication::focusWidget() ? QApplication::focusWidget() : window;
-    QToolTip::showText(beside->mapToGlobal(QPoint(0, beside->height())), to_qt(text), window, {},
-                       note_time);
+    show_tip(beside->mapToGlobal(QPoint(0, beside->height())), to_qt(text), window, note_time);
 }
 
 void desktop_front_end::report_fatal(const std::string& message) {
     if (next_step_) return;
     QMessageBox box;
     box.setWindowTitle(program_title);
+    box.setTextFormat(Qt::PlainText);
     box.setText(to_qt(message));
     dress_box(box, icon::stop);
     box.exec();

@@ -41,6 +41,9 @@ class desktop_front_end final : public front_end {
         answers_ = std::move(answers);
     }
 
+    /// What stands at the end of every title bar: whose program it is.
+    void end_titles_with(QString text) { title_end_ = std::move(text); }
+
     /// Serves the user until the program ends.
     void run();
     /// Whether the program may end from outside: what isn't saved is asked about, if there is no
@@ -92,6 +95,7 @@ class desktop_front_end final : public front_end {
     void show_pointer();
 
     screen_layouts layouts_;
+    QString title_end_;
     desk* desk_ = nullptr;
     std::function<bool()> next_step_;
     answers_in_advance answers_;

@@ -12,6 +12,7 @@
 #include <QSettings>
 #include <QShortcut>
 #include <QSplitter>
+#include <QTimer>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -115,6 +116,15 @@ void form_window::make_scrollable() {
     whole->addWidget(area_);
 }
 
+void form_window::show_title(const QString& end) {
+    QStringList parts{to_qt(screen_->title())};
+    for (const QString& one : {to_qt(screen_->subject()), end}) {
+        if (!one.isEmpty()) parts << one;
+    }
+    // The toolkit has a use of its own for this sign.
+    setWindowTitle(parts.join(" - ").replace("[*]", "[*][*]"));
+}
+
 void form_window::follow_controls_by_tab() {
     std::vector<QWidget*> stops;
     for (control* one : screen_->controls()) {
@@ -142,6 +152,16 @@ void form_window::name_the_rest() {
 
 void form_window::set_tab_order(const std::vector<QWidget*>& stops) {
     for (std::size_t i = 1; i < stops.size(); ++i) setTabOrder(stops[i - 1], stops[i]);
+}
+
+void form_window::begin_in(control& one) {
+    auto* look = new QTimer(this);
+    connect(look, &QTimer::timeout, this, [this, look, &one] {
+        if (screen_ && (!screen_->visible() || !one.visible())) return;
+        look->deleteLater();
+        act_on(one, [&one] { one.set_focus(); });
+    });
+    look->start(10);
 }
 
 /// How the user left what can be dragged in the window.

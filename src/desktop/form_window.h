@@ -13,7 +13,6 @@
 
 class QAbstractButton;
 class QComboBox;
-class QLabel;
 class QLineEdit;
 class QListView;
 class QScrollArea;
@@ -23,6 +22,7 @@ class QToolButton;
 namespace vantora::ui::desktop {
 
 class grid_view;
+class text_label;
 
 /// How a command that its screen shows by a picture looks.
 struct command_look {
@@ -50,7 +50,7 @@ struct widget_kind<text_box> {
 };
 template <>
 struct widget_kind<label> {
-    using type = QLabel;
+    using type = text_label;
 };
 template <>
 struct widget_kind<button> {
@@ -130,8 +130,14 @@ class form_window final : public QWidget {
     /// Opens one of the screen's further windows, if the user may do anything here now.
     void open_further(std::size_t place) const;
 
+    /// The screen's title, what the screen is about, and whose program it is.
+    void show_title(const QString& end);
+
     /// The way of Tab, where it isn't that of the controls.
     void set_tab_order(const std::vector<QWidget*>& stops);
+
+    /// As soon as the control is there to be worked in, it takes the focus, once.
+    void begin_in(control& one);
 
     /// Size of the first showing.
     void set_first_size(const QSize& size) { first_size_ = size; }

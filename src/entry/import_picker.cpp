@@ -56,6 +56,7 @@ const import_picker_kind& preventivi() {
         "Seleziona preventivo da importare",
         "Clic sulla griglia per selezionare il preventivo da importare oppure clic sul bottone "
         "'indietro' per non importare alcun preventivo",
+        "Nessun preventivo",
         {{"Preventivo", 1200}, {"Data", 1200}, {"Descrizione", 6000}, {"", 0}},
         list_quotes};
     return kind;
@@ -67,6 +68,7 @@ const import_picker_kind& ordini() {
         "Seleziona ordine da importare",
         "Clic sulla griglia per selezionare l'ordine da importare oppure clic sul bottone "
         "'indietro' per non importare alcun ordine",
+        "Nessun ordine",
         {{"Ordine", 1200},
          {"Data", 1200},
          {"Descrizione ordine", 5000},
@@ -87,6 +89,7 @@ import_picker::import_picker(program& app, const import_picker_kind& kind)
     add("Label1", Label1);
     add("bottone", bottone);
     Label1.set_text(kind.hint);
+    elenco.empty_note = kind.empty;
     elenco.on_click = [this] {
         const std::string block(elenco.text(elenco.row(), block_col()));
         if (number_at_head(block) > 0) leave(block);

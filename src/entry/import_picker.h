@@ -15,6 +15,7 @@ struct import_picker_kind {
     const char* name;
     const char* title;
     const char* hint;                      ///< UTF-8
+    const char* empty;                     ///< why the list may be empty
     std::vector<ui::grid_column> columns;  ///< the last one, hidden, holds the block's number
     /// Lists the head rows of the blocks that can be chosen.
     void (*fill)(program& app, import_picker& picker, list_rows& list);

@@ -14,6 +14,9 @@ class mirorcc final : public customer_head {
     /// The list of `Combo1` that heads of orders have the payments in.
     static constexpr int causale = pagamento;
 
+    /// The weight is the sum of the lines, whatever is typed.
+    [[nodiscard]] bool weighs_by_itself() const { return app_.parameters.gnr.peso_automatico == 1; }
+
     ui::drop_down Combo2;  ///< aspect of the goods
 
  protected:

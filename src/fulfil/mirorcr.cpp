@@ -35,6 +35,7 @@ mirorcr::mirorcr(program& app)
     add("bottone", bottone);
     add("Label1", Label1);
     add("segnate", segnate);
+    elenco.empty_note = "Nessun ordine da evadere";
     quantita.set_visible(false);
     quantita.accepts = ui::input_rule::number();
     quantita.accepts.alone = '*';
@@ -47,6 +48,10 @@ mirorcr::mirorcr(program& app)
     Label1[2].set_text(
         "Per evadere parzialmente un articolo clic sulla quantità evasa nella colonna 'evaso' (prima da destra) "_cp);
     wire_events();
+}
+
+std::string mirorcr::subject() const {
+    return app_.mirorcc.loaded() ? app_.mirorcc->Text2[0].text() : std::string();
 }
 
 void mirorcr::wire_events() {

@@ -40,6 +40,8 @@ class mirorcr final : public ui::form {
 
     /// The editor goes, its cell stays as it was.
     void leave_editor();
+    /// The customer whose orders these are.
+    [[nodiscard]] std::string subject() const override;
 
  protected:
     void load() override;

@@ -29,6 +29,7 @@ mirorc::mirorc(program& app)
       app_(app),
       lista_(elenco, app, righe_minime, evasione) {
     add("elenco", elenco);
+    elenco.empty_note = "Nessun ordine";
     add("srx", srx);
     add("selvis", selvis);
     add("visua", visua);

@@ -37,6 +37,7 @@ report_screen::report_screen(program& app, const tipo_report& kind)
     add("bottone", bottone);
     add("srt", srt);
     add("elenco", elenco);
+    elenco.empty_note = "Nessun risultato";
     bottone[aggiorna].set_text("Aggiorna lista");
     for (int i = 0; i < 5; ++i) bottone[i].on_click = [this, i] { run_command(i); };
     Combo1.add_all({"Tutti gli ordini", "Solo ordini da evadere", "Solo ordini evasi"});
@@ -198,6 +199,7 @@ void report_screen::build_once() {
     ordini_.end_walk();
     if (left_ || wanted_anew_) return;
     righe_elenco_ = list.in_use();
+    built_ = true;
     lista_.finish(righe_elenco_);
 }
 

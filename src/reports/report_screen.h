@@ -74,6 +74,9 @@ class report_screen : public ui::form {
     [[nodiscard]] const std::vector<filtro>& filters() const { return kind_.filtri; }
     [[nodiscard]] ui::control& filter(filtro which) { return field(which).control; }
 
+    /// Rows that the report lists; 0 until it was built.
+    [[nodiscard]] int listed() const { return built_ ? righe_elenco_ - 1 : 0; }
+
     /// Builds the list. While that lasts the user may go on working: another call does nothing,
     /// leaving the screen ends it.
     void build_list();
@@ -127,6 +130,7 @@ class report_screen : public ui::form {
     const tipo_report& kind_;
     list_grid lista_;
     bool opened_ = false;
+    bool built_ = false;
     bool building_ = false;
     bool wanted_anew_ = false;  ///< a selector changed during a build
     bool left_ = false;         ///< the screen is closed; something of it may still run

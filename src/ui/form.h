@@ -33,6 +33,8 @@ class form {
 
     [[nodiscard]] const std::string& name() const { return name_; }
     [[nodiscard]] const std::string& title() const { return title_; }
+    /// What it is about just now, such as a customer; for the title bar of a window.
+    [[nodiscard]] virtual std::string subject() const { return {}; }
     [[nodiscard]] bool visible() const { return visible_; }
     [[nodiscard]] const std::vector<control*>& controls() const { return controls_; }
     /// The control of that name and index, without regard to case; null if there is none. A

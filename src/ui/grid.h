@@ -39,6 +39,9 @@ class grid : public control {
     /// comes into sight, so it reads no file.
     std::function<std::string(int row)> notice_of;
 
+    /// Why the list is empty when it is, for the eye.
+    std::string empty_note;
+
     /// Sets columns and heads; what the grid held is gone, and one head row is left.
     void set_columns(std::vector<grid_column> columns);
     [[nodiscard]] const std::vector<grid_column>& columns() const { return columns_; }

@@ -129,7 +129,9 @@ std::optional<std::string> input_rule::admit(std::string_view before, std::strin
 
 std::optional<std::string> written_out_day(std::string_view typed, int this_year) {
     std::string day(trimmed(typed));
-    if ((day.size() == 6 || day.size() == 8) && std::ranges::all_of(day, is_digit)) {
+    if (day.size() == 4 && std::ranges::all_of(day, is_digit)) {
+        day = day.insert(2, "/") + "/" + std::to_string(this_year);
+    } else if ((day.size() == 6 || day.size() == 8) && std::ranges::all_of(day, is_digit)) {
         day.insert(4, "/").insert(2, "/");
     } else if (std::ranges::count_if(day, [](char one) { return !is_digit(one); }) == 1) {
         day += "/" + std::to_string(this_year);

@@ -144,6 +144,18 @@ QFrame* search_bar(form_window& window, customer_head& head) {
     return bar;
 }
 
+/// Leaves as the title bar does.
+QToolButton* leaving_button(form_window& window, const char* what) {
+    auto* button = new QToolButton(&window);
+    button->setObjectName("annulla");
+    button->setText("&Annulla");
+    button->setToolTip(QString::fromUtf8(what));
+    set_look(button, "look", "leave");
+    QObject::connect(button, &QToolButton::clicked, &window, &QWidget::close);
+    add_shortcut(*button, "Esc");
+    return button;
+}
+
 }  // namespace
 
 void lay_out_customer(form_window& window, customer_head& head, const customer_window& look) {
@@ -171,6 +183,7 @@ void lay_out_customer(form_window& window, customer_head& head, const customer_w
     auto* foot = new QHBoxLayout;
     foot->addWidget(help_button(window));
     foot->addStretch(1);
+    if (look.leaving) foot->addWidget(leaving_button(window, look.leaving));
     QToolButton* go_on = window.dress(head.bottone, look.go_on, Qt::ToolButtonTextOnly);
     set_look(go_on, "look", "main");
     foot->addWidget(go_on);

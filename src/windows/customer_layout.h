@@ -25,9 +25,10 @@ struct frame_row {
 };
 
 struct customer_window {
-    const char* frame;           ///< title of the frame with the document's own fields
-    std::vector<frame_row> own;  ///< its rows
-    command_look go_on;          ///< the button that goes on
+    const char* frame;              ///< title of the frame with the document's own fields
+    std::vector<frame_row> own;     ///< its rows
+    command_look go_on;             ///< the button that goes on
+    const char* leaving = nullptr;  ///< what a button that leaves does; null for none
 };
 
 void lay_out_customer(form_window& window, customer_head& head, const customer_window& look);

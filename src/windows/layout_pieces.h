@@ -9,6 +9,7 @@
 #include <span>
 
 #include "desktop/controls/grid_view.h"
+#include "desktop/controls/text_label.h"
 #include "desktop/form_window.h"
 
 namespace vantora::ui::desktop {

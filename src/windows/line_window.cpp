@@ -21,7 +21,7 @@ constexpr int rows = line_rows::count;
 constexpr int tallest_row = 48;         ///< dots
 constexpr int cell_margins = 16;        ///< dots, with the cursor's; the description needs the rest
 constexpr int widest_description = 80;  ///< characters
-constexpr int least_description = 245;  ///< dots
+constexpr int least_description = 225;  ///< dots
 constexpr int list_width = 355;         ///< dots, for codes and whole descriptions
 constexpr int frame_margin = 14;        ///< dots, as frames are drawn, with some room to spare
 constexpr int stock_characters = 140;   ///< the record number behind them is not for the eye
@@ -37,8 +37,8 @@ constexpr column columns[] = {
     {&line_grid::artic, "Articolo", 13, false},  // a bar code
     {&line_grid::ds, "Descrizione", 0, false},   {&line_grid::um, "U.m.", 3, false},
     {&line_grid::quantita, "Quantità", 8, true}, {&line_grid::evaso, "Evaso", 7, true},
-    {&line_grid::sc1, "Sconti", 3, true},        {&line_grid::sc2, "", 3, true},
-    {&line_grid::prezzo, "Prezzo", 9, true},     {&line_grid::civ, "Iva", 2, false},
+    {&line_grid::sc1, "Sconti", 4, true},        {&line_grid::sc2, "", 4, true},
+    {&line_grid::prezzo, "Prezzo", 11, true},    {&line_grid::civ, "Iva", 2, false},
 };
 
 QWidget* command_bar(form_window& window, line_grid& screen,
@@ -202,15 +202,13 @@ QGroupBox* list_frame(form_window& window, line_grid& screen) {
 QFrame* stock_line(form_window& window, line_grid& screen) {
     auto* frame = new QFrame(&window);
     set_look(frame, "role", "stock");
-    QLabel* stock = window.widget(screen.lookup().listx);
-    stock->setFont(QFont("Liberation Mono", 9));
-    stock->setFixedHeight(stock->fontMetrics().height() + 6);
+    text_label* stock = window.widget(screen.lookup().listx);
+    // The record number behind is not for the eye.
+    stock->see_by([](const QString& text) { return text.left(stock_characters).simplified(); });
     stock->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    stock->setMaximumWidth(stock->fontMetrics().horizontalAdvance(QString(stock_characters, '0')));
     auto* line = new QHBoxLayout(frame);
     line->setContentsMargins(8, 1, 8, 1);
-    line->addWidget(stock, 1000);
-    line->addStretch(1);
+    line->addWidget(stock);
     return frame;
 }
 
@@ -276,7 +274,7 @@ QHBoxLayout* foot_line(form_window& window, line_grid& screen) {
         QLabel* total = window.widget(screen.label_of(which));
         set_look(total, "role", "total");
         total->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        total->setFixedWidth(136);
+        total->setFixedWidth(172);
         auto* column = new QVBoxLayout;
         column->setSpacing(2);
         auto* text = caption(words, &window);

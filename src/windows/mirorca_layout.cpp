@@ -49,6 +49,7 @@ void lay_out(form_window& window, mirorca& screen) {
             {uscita, {"uscita", "&Annulla", "Lascia senza movimento e senza documento", "Ctrl+Q"}},
         },
         {.head = &screen.testata, .above = movement_bar(window, screen)});
+    add_shortcut(*window.widget(screen.comando[uscita]), "Esc");
 }
 
 }  // namespace vantora::ui::desktop

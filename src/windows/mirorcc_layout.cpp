@@ -1,5 +1,7 @@
 #include "fulfil/mirorcc.h"
 
+#include <QLineEdit>
+
 #include "windows/customer_layout.h"
 #include "windows/layouts.h"
 
@@ -17,7 +19,13 @@ void lay_out(form_window& window, mirorcc& head) {
            {{head.Combo1[customer_head::porto]},
             {head.Combo1[customer_head::trasporto], 0, "Trasporto"}}},
           {"Inizio trasporto", {{head.Text3[4], 10}, {head.text5[1]}, {head.Text3[5], 6, "Ora"}}}},
-         {"avanti", "&Prosegui", "Passa alle righe da evadere", "F12"}});
+         {"avanti", "&Prosegui", "Passa alle righe da evadere", "F12"},
+         "Torna al registro senza evadere"});
+    if (!window.by_person() || !head.weighs_by_itself()) return;
+    QLineEdit* weight = window.widget(head.Text3[3]);
+    weight->setReadOnly(true);
+    weight->setPlaceholderText("automatico");
+    weight->setToolTip("Il peso si calcola dagli articoli");
 }
 
 }  // namespace vantora::ui::desktop

@@ -81,6 +81,7 @@ QWidget* worklist_bar(form_window& window, mirorcr& screen) {
                                         {"avanti", "&Conferma", "Evade le righe segnate", "F12"});
     QToolButton* leave = window.dress(screen.bottone[mirorcr::uscita],
                                       {"uscita", "&Esci", "Lascia senza evadere nulla", "Ctrl+Q"});
+    add_shortcut(*leave, "Esc");
     add_command(row, confirm, 26, true);
     row->addSpacing(18);
     QAbstractButton* take = window.widget(screen.aggiorna);

@@ -30,7 +30,8 @@ void lay_out(form_window& window, mirorcx& screen) {
     lay_out_customer(window, screen,
                      {"Riferimenti dell'ordine",
                       order_head_rows(screen),
-                      {"avanti", "&Prosegui", "Passa alle righe dell'ordine", "F12"}});
+                      {"avanti", "&Prosegui", "Passa alle righe dell'ordine", "F12"},
+                      "Torna al registro senza ordine"});
 }
 
 void lay_out(form_window& window, mirorcm& screen) {

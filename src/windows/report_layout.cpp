@@ -118,6 +118,18 @@ QHBoxLayout* filter_row(form_window& window, report_screen& screen, const sheet_
     return row;
 }
 
+/// How many rows the list has.
+QLabel* row_count(form_window& window, report_screen& screen) {
+    auto* text = new QLabel(&window);
+    set_look(text, "role", "faint");
+    grid_view* list = window.widget(screen.elenco);
+    QObject::connect(list->model(), &QAbstractItemModel::modelReset, text, [text, &screen] {
+        text->setText(screen.listed() > 0 ? QString::fromUtf8(words::row_count).arg(screen.listed())
+                                          : QString());
+    });
+    return text;
+}
+
 void lay_out_report(form_window& window, report_screen& screen, const sheet_range& sheets) {
     auto* body = body_under(report_bar(window, screen), window);
     body->addLayout(filter_row(window, screen, sheets));
@@ -127,6 +139,8 @@ void lay_out_report(form_window& window, report_screen& screen, const sheet_rang
     QObject::connect(as_pdf, &QAction::triggered, pdf, &QToolButton::click);
     list->addAction(as_pdf);
     body->addWidget(list, 1);
+    body->addWidget(row_count(window, screen));
+    if (window.by_person()) window.begin_in(screen.elenco);
     order_tabs(window, screen);
     window.setMinimumSize(960, 520);
     window.set_first_size(QSize(1280, 690));

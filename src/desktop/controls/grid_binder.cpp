@@ -6,6 +6,8 @@
 #include "desktop/controls/binder.h"
 #include "desktop/controls/grid_view.h"
 #include "desktop/look/contrast.h"
+#include "desktop/look/tip.h"
+#include "text/number_text.h"
 #include "ui/grid.h"
 
 namespace vantora::ui::desktop {
@@ -16,9 +18,7 @@ namespace {
 class cells_model final : public QAbstractTableModel {
  public:
     cells_model(const grid& table, grid_view* view)
-        : QAbstractTableModel(view), grid_(table), view_(*view), strong_(view->font()) {
-        strong_.setBold(true);
-    }
+        : QAbstractTableModel(view), grid_(table), view_(*view) {}
 
     [[nodiscard]] int rowCount(const QModelIndex& parent) const override {
         return parent.isValid() ? 0 : grid_.rows() - 1;
@@ -47,8 +47,6 @@ class cells_model final : public QAbstractTableModel {
                 const std::string said = col == 0 ? notice(row) : std::string();
                 return said.empty() ? text : text + ", " + to_qt(said);
             }
-            case Qt::FontRole:
-                return view_.is_set_off(row) ? QVariant(strong_) : QVariant();
             default:
                 return {};
         }
@@ -90,9 +88,7 @@ class cells_model final : public QAbstractTableModel {
         const std::string said = notice(row);
         if (!said.empty()) text = said + "\n" + text;
         if (text.empty()) return {};
-        // Each line as it is, however long.
-        return "<p style='white-space:pre'>" +
-               to_qt_lines(text).toHtmlEscaped().replace('\n', QString("<br>")) + "</p>";
+        return plain_tip(to_qt_lines(text));
     }
     [[nodiscard]] QVariant aligned(int col) const {
         const auto& columns = grid_.columns();
@@ -106,12 +102,12 @@ class cells_model final : public QAbstractTableModel {
         constexpr int margins = 12;  // dots, both sides
         const QString text = to_qt(grid_.text(index.row() + 1, index.column()));
         const int room = view_.columnWidth(index.column()) - margins;
-        return view_.fontMetrics().horizontalAdvance(text) > room ? QVariant(text) : QVariant();
+        return view_.fontMetrics().horizontalAdvance(text) > room ? QVariant(plain_tip(text))
+                                                                  : QVariant();
     }
 
     const grid& grid_;
     const grid_view& view_;
-    QFont strong_;
 };
 
 /// The highlighted row and the first one in sight are those of the model, whoever moves them.
@@ -183,21 +179,30 @@ class grid_binder final : public binder {
         binder::changed(aspect::shape);
     }
 
-    /// Where the view wants it, the mark goes with its entry.
+    /// Where the view wants it, the mark goes with its entry, and to a newer entry than there was.
     void keep_mark() {
-        if (!model_.visible() || model_.rows() == 1) return;
+        if (!view_->keeps_mark() || !model_.visible() || model_.rows() == 1) return;
         const int filled = cells_->last_filled();
-        const bool same_begin = filled_ == 0 || model_.text(1, 0) == first_;
-        const bool joined = filled_ >= 0 && filled > filled_ && same_begin;
-        filled_ = filled;
-        first_ = model_.text(1, 0);
-        if (!view_->keeps_mark() || filled == 0 || (marked_.empty() && !joined)) return;
-        int row = joined ? filled : 1;
-        while (!joined && row <= filled && model_.text(row, 0) != marked_) ++row;
+        const int newest = row_of_newest(filled);
+        if (newest == 0) return;
+        const double number = number_of(newest);
+        int row = number > newest_ ? newest : 1;
+        newest_ = number;
+        while (row != newest && row <= filled && model_.text(row, 0) != marked_) ++row;
         if (row > filled) return;
         marked_ = model_.text(row, 0);
         follow([&] { model_.set_row(row); });
         brings_into_sight_ = true;
+    }
+
+    [[nodiscard]] double number_of(int row) const { return number_at_head(model_.text(row, 0)); }
+    /// 0 if the list is empty.
+    [[nodiscard]] int row_of_newest(int filled) const {
+        int newest = 0;
+        for (int row = 1; row <= filled; ++row) {
+            if (newest == 0 || number_of(row) > number_of(newest)) newest = row;
+        }
+        return newest;
     }
 
     void show_position() {
@@ -257,8 +262,7 @@ class grid_binder final : public binder {
     grid& model_;
     cells_model* cells_;
     std::string marked_;  ///< column 0 of the row marked last
-    std::string first_;   ///< column 0 of the first row when the list last came
-    int filled_ = -1;     ///< entries then; -1: it hasn't come yet
+    double newest_ = 0;   ///< highest number in column 0 when the list last came
     bool brings_into_sight_ = false;
     bool following_ = false;
     bool stale_ = false;  ///< the grid changed while it was hidden

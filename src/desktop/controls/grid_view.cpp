@@ -10,13 +10,18 @@
 #include <QSignalBlocker>
 #include <QStyledItemDelegate>
 
-#include "desktop/controls/binder.h"
 #include "desktop/look/style.h"
+#include "desktop/look/tip.h"
+#include "desktop/look/words.h"
 #include "text/code_page.h"
+#include "ui/paper/toolkit_values.h"
 
 namespace vantora::ui::desktop {
 
 namespace {
+
+/// What is typed after a longer pause is looked for anew. Milliseconds.
+constexpr int typing_pause = 1500;
 
 /// A small sign at the end of the cells of rows that deserve a second look.
 class notice_marks final : public QStyledItemDelegate {
@@ -226,19 +231,6 @@ void grid_view::show_notices_in(int column) {
     setItemDelegateForColumn(column, new notice_marks(model_, this));
 }
 
-void grid_view::set_off(int column, std::string text) {
-    sum_column_ = column;
-    sum_text_ = std::move(text);
-}
-
-bool grid_view::is_set_off(int row) const {
-    if (sum_column_ < 0 || model_.text(row, sum_column_) != sum_text_) return false;
-    for (int col = 0; col < sum_column_; ++col) {
-        if (!model_.text(row, col).empty()) return false;
-    }
-    return true;
-}
-
 void grid_view::place_followers() {
     for (const follower& one : over_) {
         one.widget->setGeometry(visualRect(model()->index(currentIndex().row(), one.column)));
@@ -266,10 +258,11 @@ void grid_view::show_sorted(int column) {
 // Typing ----------------------------------------------------------------------------------------
 
 void grid_view::keyboardSearch(const QString& typed) {
-    const bool goes_on =
-        since_typed_.isValid() && since_typed_.elapsed() < QApplication::keyboardInputInterval();
+    const bool goes_on = since_typed_.isValid() && since_typed_.elapsed() < typing_pause;
     since_typed_.start();
     typed_ = goes_on ? typed_ + typed : typed;
+    const QPoint below(frameWidth(), horizontalHeader()->height());
+    show_tip(mapToGlobal(below), QString::fromUtf8(words::typed).arg(typed_), this, typing_pause);
     const std::string wanted = upper(from_qt(typed_));
     const int column = sorted_ >= 0 ? sorted_ : search_column_;
     const int rows = model_.rows() - 1;
@@ -305,6 +298,36 @@ void grid_view::scrollContentsBy(int dx, int dy) {
 void grid_view::updateGeometries() {
     QTableView::updateGeometries();
     align_first_row();
+}
+
+void grid_view::paintEvent(QPaintEvent* event) {
+    QTableView::paintEvent(event);
+    QPainter painter(viewport());
+    paint_below(painter);
+    const bool empty = model_.rows() < 2 || model_.text(1, 0).empty();
+    if (model_.empty_note.empty() || !empty) return;
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    painter.drawText(viewport()->rect().adjusted(0, 40, 0, 0), Qt::AlignHCenter | Qt::AlignTop,
+                     to_qt(model_.empty_note));
+}
+
+void grid_view::paint_below(QPainter& painter) {
+    const int step = verticalHeader()->defaultSectionSize();
+    const int room = viewport()->height();
+    const int rows = model()->rowCount();
+    if (rows == 0 || step <= 0) return;
+    const int first = std::max(verticalScrollBar()->value(), 0);
+    const int whole = room / step;  // rows that have their full height
+    for (int place = rows - first; place <= whole; ++place) {
+        // As the last two rows are coloured, in turns.
+        const int like = rows - 1 - (rows > 1 && (first + place - rows) % 2 == 0 ? 1 : 0);
+        painter.fillRect(QRect(0, place * step, viewport()->width(), step),
+                         model()->index(like, 0).data(Qt::BackgroundRole).value<QColor>());
+    }
+    if (whole * step < room && rows - first > whole) {
+        painter.fillRect(QRect(0, whole * step, viewport()->width(), room - whole * step),
+                         palette().color(QPalette::Base));
+    }
 }
 
 void grid_view::moveEvent(QMoveEvent* event) {

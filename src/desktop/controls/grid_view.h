@@ -40,7 +40,7 @@ class grid_view final : public QTableView {
     void keyboardSearch(const QString& typed) override;
 
     /// The mark stays on its entry, known by the text in column 0, when the list comes anew; an
-    /// entry that joined the end is marked.
+    /// entry with a higher number there than any before is marked.
     void keep_mark() { keeps_mark_ = true; }
     [[nodiscard]] bool keeps_mark() const { return keeps_mark_; }
     /// A list that comes anew has its first row marked, wherever its building ended.
@@ -48,16 +48,14 @@ class grid_view final : public QTableView {
     [[nodiscard]] bool begins_at_first() const { return begins_at_first_; }
     /// Where a row that deserves a second look is marked.
     void show_notices_in(int column);
-    /// Sets off the rows that sum others up: nothing stands before their column `column`, and
-    /// there `text`.
-    void set_off(int column, std::string text);
-    [[nodiscard]] bool is_set_off(int row) const;
 
  protected:
     void resizeEvent(QResizeEvent* event) override;
     // The first row shown is whole, at the end of the table too.
     void scrollContentsBy(int dx, int dy) override;
     void updateGeometries() override;
+    /// Stripes go on below the rows, no row is cut in half, an empty list says why it is.
+    void paintEvent(QPaintEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
     /// A key brings the current row into sight, if it was scrolled away too.
     void keyPressEvent(QKeyEvent* event) override;
@@ -77,6 +75,7 @@ class grid_view final : public QTableView {
     void align_first_row();
     void head_clicked(int column);
     void take_dragged_widths();
+    void paint_below(QPainter& painter);
     /// What a column takes of the width, in the user's or the screen's measure; 0 hides it.
     [[nodiscard]] int share_of(int column) const;
     /// Widths of the columns, by their shares; narrow ones keep room for a date or a VAT number.
@@ -95,8 +94,6 @@ class grid_view final : public QTableView {
     bool begins_at_first_ = false;
     QString typed_;  ///< what is searched for
     QElapsedTimer since_typed_;
-    int sum_column_ = -1;
-    std::string sum_text_;
 };
 
 }  // namespace vantora::ui::desktop

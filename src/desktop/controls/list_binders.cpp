@@ -5,6 +5,7 @@
 #include <QMouseEvent>
 
 #include "desktop/controls/binder.h"
+#include "text/code_page.h"
 #include "ui/list_controls.h"
 
 namespace vantora::ui::desktop {
@@ -14,11 +15,12 @@ namespace {
 /// Shows a list's entries where they are, without copying them.
 class entries_model final : public QAbstractListModel {
  public:
-    entries_model(const list_control& list, QObject* parent)
-        : QAbstractListModel(parent), list_(list) {}
+    /// `blank_end`: whether blank entries behind the last filled one show, too.
+    entries_model(const list_control& list, bool blank_end, QObject* parent)
+        : QAbstractListModel(parent), list_(list), blank_end_(blank_end) {}
 
     [[nodiscard]] int rowCount(const QModelIndex& parent) const override {
-        return parent.isValid() ? 0 : list_.count();
+        return parent.isValid() ? 0 : shown_;
     }
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override {
         if (role != Qt::DisplayRole || index.row() >= list_.count()) return {};
@@ -26,11 +28,20 @@ class entries_model final : public QAbstractListModel {
     }
     void reset() {
         beginResetModel();
+        shown_ = list_.count();
+        const auto blank = [&](int entry) { return trimmed(list_.item(entry)).empty(); };
+        while (!blank_end_ && shown_ > list_.chosen() + 1 && blank(shown_ - 1)) --shown_;
         endResetModel();
+    }
+    /// One of the blank entries was chosen.
+    void show_up_to(int entry) {
+        if (entry >= shown_) reset();
     }
 
  private:
     const list_control& list_;
+    bool blank_end_;
+    int shown_ = 0;
 };
 
 class list_box_binder final : public binder {
@@ -39,7 +50,7 @@ class list_box_binder final : public binder {
         : binder(model, new QListView(parent), by),
           view_(as<QListView>()),
           model_(model),
-          entries_(new entries_model(model, view_)) {
+          entries_(new entries_model(model, true, view_)) {
         view_->setModel(entries_);
         view_->setUniformItemSizes(true);
         view_->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -87,11 +98,11 @@ class drop_down_binder final : public binder {
         : binder(model, new QComboBox(parent), by),
           box_(as<QComboBox>()),
           model_(model),
-          entries_(new entries_model(model, box_)) {
+          entries_(new entries_model(model, false, box_)) {
         box_->setModel(entries_);
         box_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
         box_->setMinimumContentsLength(12);
-        box_->setMaxVisibleItems(16);
+        box_->setMaxVisibleItems(12);
         connect(box_, &QComboBox::activated, this, [this](int position) {
             if (showing()) return;
             this->act([&] { model_.pick(position); });
@@ -103,6 +114,7 @@ class drop_down_binder final : public binder {
  private:
     void show_value(aspect what) override {
         if (what == aspect::items) entries_->reset();
+        entries_->show_up_to(model_.chosen());
         if (box_->currentIndex() != model_.chosen()) box_->setCurrentIndex(model_.chosen());
     }
 

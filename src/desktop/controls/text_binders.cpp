@@ -7,6 +7,7 @@
 
 #include "desktop/controls/binder.h"
 #include "desktop/controls/line_pasting.h"
+#include "desktop/controls/text_label.h"
 #include "desktop/keys/scan_watch.h"
 #include "ui/desk.h"
 #include "ui/text_controls.h"
@@ -149,12 +150,12 @@ class text_box_binder final : public binder {
 class label_binder final : public binder {
  public:
     label_binder(label& model, QWidget* parent, const user& by)
-        : binder(model, new QLabel(parent), by), label_(as<QLabel>()), model_(model) {
+        : binder(model, new text_label(parent), by), label_(as<text_label>()), model_(model) {
         show_all();
     }
 
  private:
-    void show_value(aspect) override { label_->setText(to_qt(model_.text())); }
+    void show_value(aspect) override { label_->show_text(to_qt(model_.text())); }
     bool eventFilter(QObject* watched, QEvent* event) override {
         if (event->type() == QEvent::MouseButtonRelease && model_.on_click) {
             act([this] { model_.click(); });
@@ -162,7 +163,7 @@ class label_binder final : public binder {
         return binder::eventFilter(watched, event);
     }
 
-    QLabel* label_;
+    text_label* label_;
     label& model_;
 };
 

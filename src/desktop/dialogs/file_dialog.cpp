@@ -73,6 +73,7 @@ void tell(const QString& what, QWidget* above) {
     const plain_pointer shown_meanwhile;
     QMessageBox box(above);
     box.setWindowTitle(QString::fromUtf8(words::attention));
+    box.setTextFormat(Qt::PlainText);
     box.setText(what);
     dress_box(box, icon::warning);
     box.exec();

@@ -45,6 +45,7 @@ void open_manual(QWidget* above) {
     if (!file.isEmpty() && QDesktopServices::openUrl(QUrl::fromLocalFile(file))) return;
     QMessageBox box(above);
     box.setWindowTitle(words::manual);
+    box.setTextFormat(Qt::PlainText);
     box.setText(file.isEmpty() ? QString::fromUtf8(words::no_manual)
                                : QString::fromUtf8(words::manual_stays_shut).arg(file));
     dress_box(box, icon::information);

@@ -35,6 +35,7 @@ class list_tools final : public QObject {
         : QObject(&list.view()),
           list_(list),
           window_(window),
+          called_(window.windowTitle()),
           overlay_(new list_overlay(list)),
           find_(new list_find(list, *overlay_, list.view().parentWidget())),
           marks_(new list_marks(list, *overlay_, this)) {
@@ -74,7 +75,7 @@ class list_tools final : public QObject {
         if (!text.empty()) QGuiApplication::clipboard()->setText(QString::fromStdString(text));
     }
 
-    void save_all() { save_list(list_, window_.windowTitle(), &window_); }
+    void save_all() { save_list(list_, called_, &window_); }
 
     void show_menu(const QPoint& place) {
         QMenu menu(&list_.view());
@@ -94,6 +95,7 @@ class list_tools final : public QObject {
 
     shown_list list_;
     QWidget& window_;
+    QString called_;  ///< the screen by its title
     list_overlay* overlay_;
     list_find* find_;
     list_marks* marks_;

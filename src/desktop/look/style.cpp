@@ -74,6 +74,9 @@ QToolButton[look="plain"] { background: #f6f8fa; border-color: #808d99;
 QToolButton[look="plain"]:pressed { padding: 4px 2px 2px 9px; }
 QToolButton[look="plain"]:hover { background: #e3edf6; }
 QToolButton[look="plain"]:focus { border-color: #2f6ea5; }
+QToolButton[look="leave"] { background: #f6f8fa; border-color: #808d99; padding: 6px 14px; }
+QToolButton[look="leave"]:hover { background: #e3edf6; }
+QToolButton[look="leave"]:focus { border: 2px solid #2f6ea5; padding: 5px 13px; }
 QToolButton[look="sort"] { background: #eef2f6; border-color: #808d99; padding: 1px 4px;
                            color: #41576a; }
 QToolButton[look="sort"]:hover { background: #e3edf6; }

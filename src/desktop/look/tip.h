@@ -13,8 +13,9 @@ inline QString plain_tip(const QString& text) {
            "</p>";
 }
 
-inline void show_tip(const QPoint& where, const QString& text, QWidget* of) {
-    QToolTip::showText(where, plain_tip(text), of);
+/// For `how_long` milliseconds; -1: as long as the toolkit finds right.
+inline void show_tip(const QPoint& where, const QString& text, QWidget* of, int how_long = -1) {
+    QToolTip::showText(where, plain_tip(text), of, {}, how_long);
 }
 
 }  // namespace vantora::ui

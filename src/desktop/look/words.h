@@ -32,6 +32,9 @@ inline constexpr const char* find_take = "Ctrl+Invio: prende la riga trovata";
 inline constexpr const char* find_none = "nessuna riga";
 inline constexpr const char* find_one_of = "%1 di %2";  ///< which match, how many
 
+inline constexpr const char* typed = "Cerca: %1";
+inline constexpr const char* row_count = "Righe: %1";
+
 // Copying and saving a list ------------------------------------------------------------------
 
 inline constexpr const char* copy_rows = "Copia le righe segnate";

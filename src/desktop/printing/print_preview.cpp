@@ -12,7 +12,6 @@
 #include <QToolButton>
 
 #include "desktop/dialogs/file_dialog.h"
-#include "desktop/look/style.h"
 #include "desktop/look/words.h"
 
 namespace vantora::ui::desktop {
@@ -45,12 +44,9 @@ class preview_bar final : public QFrame {
         row_->setSpacing(2);
     }
 
-    void add(const char* icon, const char* what, const char* keys,
-             const std::function<void()>& action) {
+    QToolButton* add(const char* what, const char* keys, const std::function<void()>& action) {
         auto* button = new QToolButton(this);
         const QString text = QString::fromUtf8(what);
-        if (*icon) button->setIcon(picture_named(icon));
-        button->setToolButtonStyle(*icon ? Qt::ToolButtonTextBesideIcon : Qt::ToolButtonTextOnly);
         button->setText(text);
         button->setToolTip(text + " (" + QKeySequence(keys).toString(QKeySequence::NativeText) +
                            ")");
@@ -58,6 +54,12 @@ class preview_bar final : public QFrame {
         button->setShortcut(QKeySequence(keys));
         connect(button, &QToolButton::clicked, this, action);
         row_->addWidget(button);
+        return button;
+    }
+    void add_turns(const std::function<void(int by)>& turn) {
+        before_ = add(words::page_before, "PgUp", [turn] { turn(-1); });
+        add_page_number();
+        after_ = add(words::page_after, "PgDown", [turn] { turn(1); });
     }
     void add_space() { row_->addSpacing(14); }
     void add_page_number() {
@@ -70,12 +72,16 @@ class preview_bar final : public QFrame {
     void show_page() {
         page_->setText(
             QString::fromUtf8(words::page_of).arg(view_.currentPage()).arg(view_.pageCount()));
+        before_->setEnabled(view_.currentPage() > 1);
+        after_->setEnabled(view_.currentPage() < view_.pageCount());
     }
 
  private:
     QPrintPreviewWidget& view_;
     QHBoxLayout* row_;
     QLabel* page_;
+    QToolButton* before_ = nullptr;
+    QToolButton* after_ = nullptr;
 };
 
 void fill(preview_bar& bar, QPrintPreviewWidget& view, QDialog& dialog,
@@ -84,19 +90,17 @@ void fill(preview_bar& bar, QPrintPreviewWidget& view, QDialog& dialog,
         view.setCurrentPage(view.currentPage() + by);
         bar.show_page();
     };
-    bar.add("stampante", words::print, "Ctrl+P", [&dialog] { dialog.accept(); });
-    bar.add("pdf", words::save_pdf, "Ctrl+S", save);
+    bar.add(words::print, "Ctrl+P", [&dialog] { dialog.accept(); });
+    bar.add(words::save_pdf, "Ctrl+S", save);
     bar.add_space();
-    bar.add("", words::zoom_in, "Ctrl++", [&view] { view.zoomIn(); });
-    bar.add("", words::zoom_out, "Ctrl+-", [&view] { view.zoomOut(); });
-    bar.add("", words::fit_width, "Ctrl+1", [&view] { view.fitToWidth(); });
-    bar.add("", words::fit_page, "Ctrl+0", [&view] { view.fitInView(); });
+    bar.add(words::zoom_in, "Ctrl++", [&view] { view.zoomIn(); });
+    bar.add(words::zoom_out, "Ctrl+-", [&view] { view.zoomOut(); });
+    bar.add(words::fit_width, "Ctrl+1", [&view] { view.fitToWidth(); });
+    bar.add(words::fit_page, "Ctrl+0", [&view] { view.fitInView(); });
     bar.add_space();
-    bar.add("su", words::page_before, "PgUp", [turn] { turn(-1); });
-    bar.add_page_number();
-    bar.add("giu", words::page_after, "PgDown", [turn] { turn(1); });
+    bar.add_turns(turn);
     bar.add_stretch();
-    bar.add("uscita", words::close_preview, "Esc", [&dialog] { dialog.reject(); });
+    bar.add(words::close_preview, "Esc", [&dialog] { dialog.reject(); });
 }
 
 }  // namespace
@@ -117,7 +121,8 @@ bool wants_printed(const recorded_pages& pages, QPrinter& printer, const QString
     const plain_pointer shown_meanwhile;
     QDialog dialog(above);
     dialog.setObjectName("anteprima");
-    dialog.setWindowTitle(QString::fromUtf8(words::preview_of).arg(called));
+    dialog.setWindowTitle(
+        QString::fromUtf8(words::preview_of).arg(called).replace("[*]", "[*][*]"));
     dialog.setWindowFlag(Qt::WindowMaximizeButtonHint);
     auto* view = new QPrintPreviewWidget(&printer, &dialog);
     view->setAccessibleName(QString::fromUtf8(words::preview));
