@@ -40,7 +40,7 @@ std::optional<int> company_in(std::string name) {
     return std::stoi(digits);
 }
 
-std::string heading_of(const file_port& files, int number) {
+std::string heading_of(file_port& files, int number) {
     std::string heading;
     text_reader(files.read_whole(file_azienda(number, "int")).value_or("")).line(heading);
     return heading;
@@ -67,7 +67,7 @@ std::vector<company_on_drive> companies_on(const fs::path& root) {
     return found;
 }
 
-QString title_of_company(const file_port& files, std::string_view argument) {
+QString title_of_company(file_port& files, std::string_view argument) {
     const int company = numero_azienda_in(argument);
     const QString number = QString("ditta %1").arg(company, 3, 10, QChar('0'));
     const QString heading = ui::to_qt(heading_of(files, company)).simplified();

@@ -26,7 +26,7 @@ std::vector<company_on_drive> companies_on(const std::filesystem::path& drive);
 
 /// "Rossi S.r.l. (ditta 007)", as a company calls itself, for title bars; the number alone where it
 /// has no heading.
-QString title_of_company(const file_port& files, std::string_view argument);
+QString title_of_company(file_port& files, std::string_view argument);
 
 /// Asks for the company, in place of the suite's menu program, when the program is started without
 /// it, as from the system's menu. Remembers the drive; can make a demonstration company to begin

@@ -5,7 +5,6 @@
 #include <QKeyEvent>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QToolTip>
 #include <algorithm>
 
 #include "desktop/look/box_look.h"

@@ -90,7 +90,7 @@ QToolButton[look="help"] { padding: 2px 7px; font-weight: 600; color: #24527a; }
 QFileDialog QToolButton { padding: 3px; }
 QPrintDialog QToolButton { background: #f6f8fa; border-color: #808d99; padding: 2px 6px; }
 QToolButton[look="blank"] { background: transparent; border: none; }
-QLineEdit, QComboBox, QDateEdit { border: 1px solid #84919d; border-radius: 4px; padding: 3px 5px;
+QLineEdit, QComboBox, QDateEdit { min-height: 18px; border: 1px solid #84919d; border-radius: 4px; padding: 3px 5px;
                        background: white; selection-background-color: #2f6ea5; }
 QLineEdit:focus, QComboBox:focus, QDateEdit:focus { border: 1px solid #2f6ea5;
                        background: #f4f9ff; }
@@ -105,13 +105,13 @@ QDateEdit[look="calendar"]::down-arrow { image: url(:/icons/scadenziario.svg); w
 QDateEdit[look="calendar"]:focus { border: 1px solid #2f6ea5; background: #d8e9f8; }
 QLineEdit:disabled, QComboBox:disabled, QListView:disabled { background: #e8ecf0;
                        color: #5a6671; }
-QLineEdit[cell="true"] { border-radius: 0; padding: 2px 4px; border-color: #84919d; }
-QLineEdit[cell="current"] { border-radius: 0; padding: 2px 4px; border-color: #5f8fb8;
+QLineEdit[cell="true"] { min-height: 0; border-radius: 0; padding: 2px 4px; border-color: #84919d; }
+QLineEdit[cell="current"] { min-height: 0; border-radius: 0; padding: 2px 4px; border-color: #5f8fb8;
                        background: #eaf3fb; }
 QLineEdit[cell]:focus { border: 1px solid #2f6ea5; background: #fff8dc; }
-QLineEdit[look="over"] { border: 1px solid #2f6ea5; border-radius: 0; padding: 0 3px;
+QLineEdit[look="over"] { min-height: 0; border: 1px solid #2f6ea5; border-radius: 0; padding: 0 3px;
                        background: #fff8dc; }
-QComboBox[look="over"] { border: 1px solid #2f6ea5; background: #fff8dc; border-radius: 2px; }
+QComboBox[look="over"] { min-height: 0; border: 1px solid #2f6ea5; background: #fff8dc; border-radius: 2px; }
 QCheckBox, QRadioButton { border: 1px solid transparent; border-radius: 3px; }
 QCheckBox:focus, QRadioButton:focus { background: #dcebf8; border-color: #2f6ea5; }
 QPushButton { border: 1px solid #808d99; border-radius: 5px; background: #f6f8fa;
