@@ -5,6 +5,7 @@
 #include "customer/shipping_data.h"
 #include "program/pick_list.h"
 #include "store/key_index.h"
+#include "ui/day_field.h"
 #include "ui/enter_key.h"
 
 namespace vantora {
@@ -25,13 +26,24 @@ customer_head::customer_head(program& app, const customer_head_kind& kind)
     Label2.set_text("Attenzione:questo cliente è stato eliminato!"_cp);
     // Until a customer is shown that is: the head of an order comes up without showing one.
     Label2.set_visible(false);
+    limit_hands();
+    wire_events();
+}
+
+void customer_head::limit_hands() {
+    using ui::input_rule;
     // A record never stored: its fields have their full widths.
     const rec_cli widths;
     for (std::size_t i = 0; i < customer_fields.size(); ++i) {
-        Text2[i].accepts = ui::input_rule::text(customer_fields[i](widths).size());
+        Text2[i].accepts = input_rule::text(customer_fields[i](widths).size());
     }
-    for (const int field : kind_.date_fields) Text3[field].accepts = ui::input_rule::day();
-    wire_events();
+    // The carrier's last line comes from an order's row too, where there is more room.
+    Text2[19].accepts = input_rule::text(decltype(rec_orc::testo3)::width);
+    if (!kind_.of_order) return;
+    Text3[0].accepts = input_rule::text(decltype(rec_orc::numero)::width);
+    for (int i = 3; i < 6; ++i) {
+        Text3[i].accepts = input_rule::text(decltype(rec_orc::testo1)::width);
+    }
 }
 
 void customer_head::wire_events() {
@@ -47,11 +59,7 @@ void customer_head::wire_events() {
     for (int i = 0; i < 21; ++i) ui::enter_moves(Text2[i], Text2[i + 1]);
     for (int i = 0; i < 5; ++i) ui::enter_moves(Text3[i], Text3[i + 1]);
     for (int i = 0; i < 2; ++i) {
-        ui::text_box& field = Text3[kind_.date_fields[i]];
-        field.on_change = [this, i] { follow_typed_date(i); };
-        text5[i].on_change = [this, i, &field] {
-            if (!following_date_) field.set_text(text5[i].text());
-        };
+        ui::tie_day(Text3[kind_.date_fields[i]], text5[i], app_.desk.clock());
     }
 }
 
@@ -75,8 +83,35 @@ void customer_head::load() {
 bool customer_head::take_choice() {
     if (app_.selezione_cliente != elenco_clienti::scelta_fatta) return false;
     app_.selezione_cliente = 0;
-    search();
+    if (!app_.desk.guards().on() || !take_picked()) search();
     return true;
+}
+
+bool customer_head::take_picked() {
+    app_.archives.tot.read(contatori::clienti, contatore_);
+    const std::int16_t position = position_of(app_.cliente_scelto);
+    if (position == 0) return false;
+    found_at(position);
+    nome.set_text("");
+    nome.set_focus();
+    return true;
+}
+
+bool customer_head::left_list_without_choice() const {
+    return picking_ && app_.desk.guards().on();
+}
+
+// An index tells a customer from a position and not the other way round, so it is walked, many
+// entries to a read.
+std::int16_t customer_head::position_of(std::int16_t customer) const {
+    std::int16_t found = 0;
+    const std::function<bool(std::int16_t, const rec_src&)> visit = [&](std::int16_t position,
+                                                                        const rec_src& entry) {
+        if (entry.numero == customer) found = position;
+        return found == 0;
+    };
+    percorri_indice(app_.archives.src, contatore_.quanti, visit);
+    return found;
 }
 
 void customer_head::start_at_first_customer() {
@@ -165,7 +200,9 @@ void customer_head::open_pick_list() {
     app_.selezione_cliente = kind_.caller;
     app_.mirsel->selnome.set_text(kind_.trims_name ? trimmed(nome.text())
                                                    : std::string_view(nome.text()));
+    picking_ = true;
     app_.mirsel->show_modal();
+    picking_ = false;
 }
 
 void customer_head::take_carrier() {
@@ -175,13 +212,6 @@ void customer_head::take_carrier() {
         const std::string_view line = trimmed(carrier[i]);
         if (line != "*") Text2[17 + i].set_text(line);
     }
-}
-
-void customer_head::follow_typed_date(int picker) {
-    const auto typed = read_date(Text3[kind_.date_fields[picker]].text());
-    following_date_ = true;
-    text5[picker].set_value(typed.value_or(app_.desk.clock().now().day));
-    following_date_ = false;
 }
 
 }  // namespace vantora

@@ -15,6 +15,7 @@ struct customer_head_kind {
     int caller;               ///< how the pick list knows it, in `selezione_cliente`
     int date_fields[2];       ///< which of `Text3` stand beside the two date pickers
     bool trims_name = false;  ///< before it goes to the pick list
+    bool of_order = true;     ///< number and references go into an order's rows
 };
 
 /// A screen that finds a customer, shows it, and holds the head of a document in its controls:
@@ -47,6 +48,8 @@ class customer_head : public ui::form {
     void load() override;
     /// Back from the pick list with a choice: looks it up. True if that was so.
     bool take_choice();
+    /// Back from the pick list without one, and what was typed is to stay.
+    [[nodiscard]] bool left_list_without_choice() const;
 
     /// Fills the lists that differ from screen to screen: the payment terms, where a screen has no
     /// others.
@@ -64,6 +67,8 @@ class customer_head : public ui::form {
     virtual void show_customer();
     /// Reads the customer at `posizione_cliente_`; what can't be read stays as it was.
     void read_customer();
+    /// Rank of a customer in the name index, by the counter read last; 0 if it isn't there.
+    [[nodiscard]] std::int16_t position_of(std::int16_t customer) const;
     /// Shows the fields of the customer read, and whether it is deleted.
     void show_fields();
     [[nodiscard]] bool customer_deleted() const;
@@ -78,18 +83,22 @@ class customer_head : public ui::form {
     rec_tot contatore_;
 
  private:
+    /// What the fields take from the keyboard: no text that its record would cut.
+    void limit_hands();
     void wire_events();
     /// A window moves on from an empty name, which would find whoever stands in the middle.
     void search_by_hand();
-    void follow_typed_date(int picker);
     void take_carrier();
     void open_pick_list();
+    /// Shows the very customer that was picked, where several have its name. False if the index
+    /// has lost it.
+    bool take_picked();
 
     const customer_head_kind& kind_;
     std::vector<vettore> vettori_;
     bool chosen_ = true;
     bool loading_ = false;
-    bool following_date_ = false;
+    bool picking_ = false;  ///< the pick list is open
 };
 
 }  // namespace vantora

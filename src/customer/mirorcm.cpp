@@ -1,7 +1,8 @@
 #include "customer/mirorcm.h"
 
+#include <algorithm>
+
 #include "program/pick_list.h"
-#include "store/key_index.h"
 
 namespace vantora {
 
@@ -18,20 +19,12 @@ void mirorcm::activate() {
     if (!take_choice()) place_on_customer();
 }
 
-// An index tells a customer from a position and not the other way round, so it is walked, many
-// entries to a read. What the lines put into the fields stays.
+// What the lines put into the fields stays.
 void mirorcm::place_on_customer() {
-    posizione_cliente_ = 1;
     scorrimento_bloccato_ = true;
     app_.archives.tot.read(contatori::clienti, contatore_);
     HScroll1.set_limits(1, contatore_.quanti);
-    const std::function<bool(std::int16_t, const rec_src&)> visit = [this](std::int16_t position,
-                                                                           const rec_src& entry) {
-        if (entry.numero != app_.selezione_2) return true;
-        posizione_cliente_ = position;
-        return false;
-    };
-    percorri_indice(app_.archives.src, contatore_.quanti, visit);
+    posizione_cliente_ = std::max<std::int16_t>(position_of(app_.selezione_2), 1);
     HScroll1.set_value(posizione_cliente_);
     cliente_corrente_ = app_.selezione_2;
     // Whether it may have the order is its own record's word, not that of the one shown before.

@@ -12,13 +12,7 @@ constexpr customer_head_kind nuovo_ordine{
 
 }  // namespace
 
-mirorcx::mirorcx(program& app) : customer_head(app, nuovo_ordine) {
-    using ui::input_rule;
-    Text3[0].accepts = input_rule::text(decltype(rec_orc::numero)::width);
-    for (int i = 3; i < 6; ++i) {
-        Text3[i].accepts = input_rule::text(decltype(rec_orc::testo1)::width);
-    }
-}
+mirorcx::mirorcx(program& app) : customer_head(app, nuovo_ordine) {}
 
 void mirorcx::activate() {
     take_choice();

@@ -110,7 +110,9 @@ void mirsel::list_customer(list_rows& list, const row_content& customer, std::in
 }
 
 void mirsel::pick_row() {
-    if (number_at_head(elenco.text(elenco.row(), numero)) <= 0) return;
+    const double record = number_at_head(elenco.text(elenco.row(), numero));
+    if (record <= 0) return;
+    app_.cliente_scelto = static_cast<std::int16_t>(record);
     leave(std::string(elenco.text(elenco.row(), nominativo)), elenco_clienti::scelta_fatta);
 }
 

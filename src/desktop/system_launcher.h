@@ -16,8 +16,13 @@ class system_launcher final : public launcher {
         : locate_(std::move(locate)) {}
 
     bool start(const std::string& command) override;
+    started_program run(const std::string& command) override;
+    void open(const std::string& path) override;
 
  private:
+    struct program;
+    [[nodiscard]] program program_of(const std::string& command) const;
+
     std::function<std::string(std::string_view)> locate_;
 };
 

@@ -105,7 +105,7 @@ void draw_line(document_output& out, const elemento_disegno& one) {
 
 void draw_text(document_output& out, const elemento_disegno& one, std::int16_t selezione_2) {
     const auto& values = one.valori;
-    std::string text = one.testi[0];
+    std::string text = one.testi[0].substr(0, testo_piu_lungo);
     // The drawing lists are shared with the suite's invoices, which turn into credit notes.
     const bool credit_note = selezione_2 == 1 && upper(trimmed(text)) == "FATTURA NUMERO";
     if (credit_note) text = "Nota credito numero";
@@ -118,10 +118,37 @@ void draw_text(document_output& out, const elemento_disegno& one, std::int16_t s
                       one.testi[1], values[colonna::grassetto], values[colonna::corsivo]});
 }
 
+/// Draws a text as far as it and those before it on the page aren't too long.
+class text_budget {
+ public:
+    explicit text_budget(std::vector<std::string>& shortened) : shortened_(shortened) {}
+
+    bool takes(const std::string& text) {
+        const bool whole = text.size() <= testo_piu_lungo;
+        const std::size_t drawn = std::min(text.size(), testo_piu_lungo);
+        const bool fits = drawn <= left_;
+        if (fits) left_ -= drawn;
+        if (!whole || !fits) note(text);
+        return fits;
+    }
+
+ private:
+    void note(const std::string& text) {
+        constexpr std::size_t told = 30;
+        const std::string beginning = filtra_stampa(text.substr(0, told));
+        if (std::ranges::find(shortened_, beginning) == shortened_.end()) {
+            shortened_.push_back(beginning);
+        }
+    }
+
+    std::vector<std::string>& shortened_;
+    std::size_t left_ = caratteri_sfondo;
+};
+
 }  // namespace
 
 void disegna_sfondo(program& app, document_output& out, const documento_da_stampare& document,
-                    figure_documento& pictures) {
+                    figure_documento& pictures, std::vector<std::string>& shortened) {
     const auto elements = elements_in_use(document.sfondo);
     pictures.begin_page();
     for (const auto& one : elements) {
@@ -133,14 +160,13 @@ void disegna_sfondo(program& app, document_output& out, const documento_da_stamp
         if (one.valori[colonna::tipo] == riquadro && one.valori[colonna::riempito] == 1)
             draw_box(out, one, true);
     }
-    std::size_t characters = 0;
+    text_budget budget(shortened);
     for (const auto& one : elements) {
         if (one.valori[colonna::tipo] == riquadro && one.valori[colonna::riempito] == 0)
             draw_box(out, one, false);
         if (one.valori[colonna::tipo] == linea) draw_line(out, one);
         if (one.valori[colonna::tipo] != testo) continue;
-        characters += one.testi[0].size();
-        if (characters <= caratteri_sfondo) draw_text(out, one, app.selezione_2);
+        if (budget.takes(one.testi[0])) draw_text(out, one, app.selezione_2);
     }
 }
 

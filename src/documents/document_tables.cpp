@@ -7,14 +7,23 @@ namespace vantora {
 
 namespace {
 
-text_reader open(file_port& files, int numero_azienda, std::string_view extension) {
-    return text_reader(files.read_whole(file_azienda(numero_azienda, extension)).value_or(""));
-}
+/// A file of the company; one that is missing is empty.
+struct company_file {
+    company_file(file_port& files, int numero_azienda, std::string_view extension) {
+        const std::string path = file_azienda(numero_azienda, extension);
+        auto read = files.read_whole(path);
+        unreadable = !read && files.exists(path);
+        content = std::move(read).value_or("");
+    }
+
+    std::string content;
+    bool unreadable = false;
+};
 
 /// One line of a file, as much of it as a document may use.
-bool read_text(text_reader& reader, std::string& into) {
+bool read_text(text_reader& reader, std::string& into, std::size_t longest = testo_piu_lungo) {
     if (!reader.line(into)) return false;
-    if (into.size() > testo_piu_lungo) into.resize(testo_piu_lungo);
+    if (into.size() > longest) into.resize(longest);
     return true;
 }
 
@@ -44,22 +53,32 @@ void empty_layout(std::array<voce_layout, 101>& layout) {
 void carica_documento(tabelle_documento& into, tipo_documento kind, parametri& parameters,
                       file_port& files) {
     const int company = parameters.numero_azienda;
-    text_reader heading = open(files, company, "int");
+    into.illeggibili.clear();
+    const auto content_of = [&](std::string_view extension) {
+        company_file read(files, company, extension);
+        if (read.unreadable) into.illeggibili.push_back("vantora." + std::string(extension));
+        return std::move(read.content);
+    };
+    text_reader heading(content_of("int"));
     for (std::size_t i = 1; i < into.testi_intestazione.size(); ++i) {
         read_text(heading, into.testi_intestazione[i]);
     }
+    content_of("tab");
     into.iva = leggi_tabella_suite(files, company).iva;
-    if (!read_layout(into.tabella_layout, open(files, company, nomi_di(kind).layout))) {
+    if (!read_layout(into.tabella_layout, text_reader(content_of(nomi_di(kind).layout)))) {
         empty_layout(into.tabella_layout);
     }
+    content_of("pdf");
     carica_pdf(into.pdf, kind, parameters, files);
 }
 
 void carica_disegno(disegno& into, tipo_documento kind, int numero_azienda, file_port& files) {
-    text_reader reader = open(files, numero_azienda, nomi_di(kind).disegno);
+    company_file file(files, numero_azienda, nomi_di(kind).disegno);
+    into.illeggibile = file.unreadable;
+    text_reader reader(std::move(file.content));
     if (!reader.item(into.elementi)) return;
     for (std::size_t i = 1; i < into.elenco.size(); ++i) {
-        for (auto& text : into.elenco[i].testi) read_text(reader, text);
+        for (auto& text : into.elenco[i].testi) read_text(reader, text, testo_piu_lungo + 1);
         for (auto& value : into.elenco[i].valori) reader.item(value);
     }
 }

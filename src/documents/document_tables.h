@@ -3,6 +3,7 @@
 #include <array>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "documents/document_kind.h"
 #include "documents/pdf_settings.h"
@@ -34,8 +35,10 @@ struct elemento_disegno {
 struct disegno {
     static constexpr std::size_t massimo = 500;
 
-    double elementi = 0;                               ///< elements in use, as the file says
-    std::array<elemento_disegno, massimo + 1> elenco;  ///< from 1
+    double elementi = 0;  ///< elements in use, as the file says
+    /// From 1. A text that is too long has one character more than a document takes.
+    std::array<elemento_disegno, massimo + 1> elenco;
+    bool illeggibile = false;  ///< its file is there and can't be read
 };
 
 /// Everything that a company's files say of one kind of document.
@@ -44,6 +47,7 @@ struct tabelle_documento {
     tabella_iva iva;
     std::array<voce_layout, 101> tabella_layout;  ///< from 1
     tabella_pdf pdf;
+    std::vector<std::string> illeggibili;  ///< files that are there and can't be read
 };
 
 /// Loads the tables of a document, and its PDF settings into their slots of

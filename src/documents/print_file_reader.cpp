@@ -15,6 +15,7 @@ namespace {
 
 /// Beyond this there is no place on any paper, and no size of a letter.
 constexpr double largest = 100'000;
+constexpr std::size_t carattere_piu_lungo = 200;
 constexpr double unlimited = std::numeric_limits<double>::max();
 
 std::string_view line_end_of(std::string_view content) {
@@ -61,8 +62,8 @@ class reader {
         made.y2 = number(largest);
         made.corpo = number(largest);
         made.colore = number(unlimited);
-        made.testo = line();
-        made.carattere = line();
+        made.testo = line().substr(0, testo_piu_lungo);
+        made.carattere = line().substr(0, carattere_piu_lungo);
         made.grassetto = number(largest);
         made.corsivo = number(largest);
         if (odd_ && odd_->difetto == difetto_di_stampa::numero_illeggibile) return {{}, odd_};

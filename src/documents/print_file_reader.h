@@ -32,10 +32,10 @@ struct documento_di_stampa {
 
 /// Reads the content of a print file. Numbers may have a point or a comma for their decimals; an
 /// empty one is 0. A line ends as the file's first line does, so that another line end inside a
-/// text of a report breaks no record. One odd value doesn't lose a document: a number too large is
-/// brought into its range, a record with an unreadable one or of no kind is passed over. Without
-/// its mark, cut off, or with more odd records than others it is no print file: that gives the
-/// first error and no page.
+/// text of a report breaks no record. A text ends where those of a layout do. One odd value doesn't
+/// lose a document: a number too large is brought into its range, a record with an unreadable one
+/// or of no kind is passed over. Without its mark, cut off, or with more odd records than others it
+/// is no print file: that gives the first error and no page.
 std::variant<documento_di_stampa, errore_di_stampa> leggi_file_di_stampa(std::string_view content);
 
 }  // namespace vantora

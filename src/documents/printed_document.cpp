@@ -17,6 +17,18 @@ void tell_of_pictures(program& app, const std::string& what,
     app.desk.message(what + nomi_di_figure(files), "Attenzione", ui::icon::stop);
 }
 
+/// A document lacks what stands in files that can't be read: whether to print it all the same.
+bool may_lack_files(program& app, const documento_da_stampare& document) {
+    std::vector<std::string> files = document.tabelle.illeggibili;
+    if (document.sfondo.illeggibile) {
+        files.push_back("vantora." + std::string(nomi_di(document.tipo).disegno));
+    }
+    return files.empty() ||
+           app.desk.ask("Il documento non è completo: impossibile leggere "_cp +
+                            nomi_di_figure(files) + ". Stamparlo ugualmente?",
+                        nomi_di(document.tipo).titolo_stampa, ui::icon::warning, ui::answer::no);
+}
+
 }  // namespace
 
 esito_stampa componi_documento(program& app, const documento_da_stampare& document,
@@ -25,13 +37,18 @@ esito_stampa componi_documento(program& app, const documento_da_stampare& docume
     const paginazione pages = impagina(forma_di(document.tipo), document.tabelle, document.righe);
     document_output out(paper, app.files);
     figure_documento pictures(app.files, app.pictures, document.figura.shown());
-    componi_pagine(document, pages, out, [&] { disegna_sfondo(app, out, document, pictures); });
+    std::vector<std::string> shortened;
+    componi_pagine(document, pages, out,
+                   [&] { disegna_sfondo(app, out, document, pictures, shortened); });
     const bool whole = out.end();
     app.desk.set_pointer(ui::pointer::normal);
     tell_of_pictures(app, "Il documento è stampato senza figure troppo grandi: "_cp,
                      pictures.left_out());
     tell_of_pictures(
         app, "Si leggono solo figure BMP, PNG, JPEG e GIF, non queste: ", pictures.other_kinds());
+    tell_of_pictures(app,
+                     "Il documento è stampato senza tutti i testi troppo lunghi dello sfondo: "_cp,
+                     shortened);
     return whole ? esito_stampa::completa : esito_stampa::senza_file;
 }
 
@@ -39,6 +56,7 @@ esito_stampa stampa_documento(program& app, const documento_da_stampare& documen
     if (!app.desk.ask("Iniziare la stampa?", nomi_di(document.tipo).titolo_stampa)) {
         return esito_stampa::rifiutata;
     }
+    if (!may_lack_files(app, document)) return esito_stampa::rifiutata;
     return componi_documento(app, document, app.desk.printer());
 }
 

@@ -8,7 +8,7 @@ namespace vantora {
 namespace {
 
 constexpr customer_head_kind dati_trasporto{
-    "mirorcc", "Evasione ordini", elenco_clienti::da_mirorcc, {1, 4}, true};
+    "mirorcc", "Evasione ordini", elenco_clienti::da_mirorcc, {1, 4}, true, false};
 
 }  // namespace
 
@@ -30,6 +30,7 @@ void mirorcc::fill_lists(const tabella_suite& table) {
 
 void mirorcc::activate() {
     if (take_choice()) return;
+    if (left_list_without_choice()) return void(nome.set_focus());
     propose_transport();
     start_at_first_customer();
 }

@@ -27,10 +27,16 @@ class list_rows {
 
     /// Whether nothing further can be listed.
     [[nodiscard]] bool full() const { return in_use_ > most_; }
-    /// Starts the next row. What is written behind the reserved ones is lost.
+    /// Starts the next row. What is written behind those that the list takes is lost.
     void next() { ++in_use_; }
     /// Writes into the row at hand.
-    void write(int col, std::string_view text) { list_.set_text(in_use_ - 1, col, text); }
+    void write(int col, std::string_view text) {
+        if (in_use_ > most_ + 1) return cut_here();
+        list_.set_text(in_use_ - 1, col, text);
+    }
+    /// Whether the list lacks rows that have no place in it.
+    [[nodiscard]] bool cut() const { return cut_; }
+    void cut_here() { cut_ = true; }
     /// Rows in use, head included.
     [[nodiscard]] int in_use() const { return std::min(in_use_, most_ + 1); }
     /// So much of the work is done, for the user to see.
@@ -40,6 +46,7 @@ class list_rows {
     ui::grid& list_;
     int most_;
     int in_use_ = 1;
+    bool cut_ = false;
     list_progress progress_;
 };
 

@@ -76,7 +76,8 @@ struct program {
     std::string scelta_ordine;  ///< block of the order chosen to be imported, empty for none
     int ricarica_registro = 0;  ///< 1: the register rebuilds its list on return
     int selezione_cliente = 0;  ///< who called the customer pick list, 99: a customer was chosen
-    double data_sistema = 0;    ///< date number of the last confirmation
+    std::int16_t cliente_scelto = 0;  ///< record of the customer that was chosen there
+    double data_sistema = 0;          ///< date number of the last confirmation
 
     // The date dialog: dates as texts, dd/mm/yyyy.
     std::string data_proposta;  ///< proposed to the user

@@ -38,6 +38,8 @@ mirorc::mirorc(program& app)
     add("srtt", srtt);
     add("xx_versione", xx_versione);
     add("xsfondo", xsfondo);
+    add("avviso", avviso);
+    avviso.set_visible(false);
 
     selvis_group_.join(selvis);
     visua_group_.join(visua);

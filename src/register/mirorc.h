@@ -38,6 +38,7 @@ class mirorc final : public ui::form {
     ui::button bottone[9];
     ui::progress_bar srt;
     ui::label srtt[2];
+    ui::label avviso;  ///< shown where the view leaves orders out that have no place in the list
     ui::label xx_versione;
     ui::picture xsfondo;
 

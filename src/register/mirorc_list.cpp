@@ -40,11 +40,16 @@ void mirorc::list_orders(list_rows& list) {
     const int first = first_listed(last);
     block_reader<rec_orc> orders(app_.archives.orc, riga_);
     orders.walk_heads(first, last);
-    for (int registrazione = first; registrazione <= last && !list.full(); ++registrazione) {
+    int registrazione = first;
+    for (; registrazione <= last && !list.full(); ++registrazione) {
         riga_ = orders.first_row(registrazione);
         list_order(list, registrazione, names);
         list.come_to(registrazione - first + 1, last - first + 1);
     }
+    if (registrazione <= last) {
+        avviso.set_text("(mancano le ultime " + std::to_string(last - registrazione + 1) + ")");
+    }
+    avviso.set_visible(registrazione <= last);
 }
 
 void mirorc::list_order(list_rows& list, int registrazione, customer_names& names) {

@@ -8,18 +8,15 @@
 namespace vantora {
 
 /// A range of codes or names, in capitals and without the blanks around them. An end that is left
-/// empty lies at the first or last character of all.
+/// empty tests nothing.
 class key_range {
  public:
     key_range(std::string_view from, std::string_view to)
-        : from_(upper(trimmed(from))), to_(upper(trimmed(to))) {
-        if (from_.empty()) from_ = std::string(1, '\0');
-        if (to_.empty()) to_ = std::string(1, '\xFF');
-    }
+        : from_(upper(trimmed(from))), to_(upper(trimmed(to))) {}
 
     [[nodiscard]] bool holds(std::string_view key) const {
         const std::string capital = upper(trimmed(key));
-        return capital >= from_ && capital <= to_;
+        return capital >= from_ && (to_.empty() || capital <= to_);
     }
 
  private:

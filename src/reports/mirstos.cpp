@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "text/dates.h"
+#include "ui/day_field.h"
 
 namespace vantora {
 
@@ -40,7 +41,10 @@ const tipo_report& scadenziario() {
 
 }  // namespace
 
-mirstos::mirstos(program& app) : order_rows_report(app, scadenziario()) {}
+mirstos::mirstos(program& app) : order_rows_report(app, scadenziario()) {
+    add("text5", text5);
+    for (int i = 0; i < 2; ++i) ui::tie_day(text2[i], text5[i], app.desk.clock());
+}
 
 const mirstos::colonne& mirstos::places() const {
     static constexpr colonne all{3, 4, 5, 6, 7, 8, 9};
@@ -52,6 +56,20 @@ void mirstos::fill_fields() {
     const date today = app_.desk.clock().now().day;
     text2[0].set_text(date_text(today));
     text2[1].set_text(date_text({today.year, 12, 31}));
+}
+
+bool mirstos::ready() {
+    if (!app_.desk.guards().on()) return true;
+    for (ui::text_box& field : text2) {
+        const auto day = ui::written_out_day(field.text(), app_.desk.clock().now().day.year);
+        if (!day) {
+            app_.desk.guards().refuse("La data non è corretta: "_cp + field.text());
+            field.set_focus();
+            return false;
+        }
+        field.set_text(*day);
+    }
+    return true;
 }
 
 void mirstos::fill(list_rows& list, const limiti_ordini& orders) {

@@ -11,6 +11,7 @@ class mirstos final : public order_rows_report {
 
  protected:
     void fill_fields() override;
+    bool ready() override;
     void fill(list_rows& list, const limiti_ordini& orders) override;
     void begin_walk(const limiti_ordini& orders) override;
     std::span<const rec_orc> rows_of(int order) override;

@@ -58,9 +58,9 @@ void mirstov::fill(list_rows& list, const limiti_ordini& orders) {
     const valuta in(app_.parameters);
     double total = 0;
     ordini_.walk_blocks(orders.primo, orders.ultimo);
-    for (int order = orders.primo; order <= orders.ultimo && !list.full(); ++order) {
+    for (int order = orders.primo; order <= orders.ultimo && !list.cut(); ++order) {
         const auto rows = ordini_.block(order);
-        const double value = value_of(rows, in);
+        const double value = arrotonda_valuta(value_of(rows, in), in);
         if (value != 0) {
             const rec_orc& last = rows.back();
             list.next();

@@ -11,7 +11,7 @@ void order_rows_report::fill(list_rows& list, const limiti_ordini& orders) {
     customer_names names(app_.archives.cli, clienti_.quanti);
     etichette_articoli articles(app_.archives.art);
     begin_walk(orders);
-    for (int order = orders.primo; order <= orders.ultimo && !list.full(); ++order) {
+    for (int order = orders.primo; order <= orders.ultimo && !list.cut(); ++order) {
         bool shown = false;
         std::int64_t record = block_record(order, 1);
         for (const rec_orc& row : rows_of(order)) {

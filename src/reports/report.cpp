@@ -63,23 +63,49 @@ std::string_view pdf_folder(const program& app) {
     return trimmed(app.parameters.parametri_valuta[valuta_slot::cartella_pdf]);
 }
 
-std::string pdf_command(const program& app, const descrizione_report& report) {
-    std::string command(cartella_generale);
-    command.append("mirxpdf ***,").append(file_di_stampa).append(",").append(pdf_folder(app));
-    if (!command.ends_with('\\')) command.append("\\");
-    return command.append(report.file_pdf).append(", ***");
+std::string pdf_path(const program& app, const descrizione_report& report) {
+    std::string path(pdf_folder(app));
+    if (!path.ends_with('\\')) path.append("\\");
+    return path.append(report.file_pdf);
 }
 
-void tell_of_pdf(program& app, const descrizione_report& report, bool started) {
-    if (!started) {
-        app.desk.message("Non è possibile eseguire il programma di generazione dei files PDF."_cp,
-                         attenzione, ui::icon::stop);
-        return;
+std::string pdf_command(const program& app, const descrizione_report& report) {
+    std::string command(cartella_generale);
+    command.append("mirxpdf ***,").append(file_di_stampa).append(",");
+    return command.append(pdf_path(app, report)).append(", ***");
+}
+
+/// The PDF is there: the user may look at it.
+void show_pdf(program& app, const std::string& path, std::string told) {
+    ui::message_box box{std::move(told), attenzione, ui::icon::information, ui::buttons::choice};
+    box.choices = {"Apri", "Chiudi"};
+    box.proposed = ui::answer::choice_1;
+    if (app.desk.show_box(std::move(box)) == ui::answer::choice_1) app.desk.launcher().open(path);
+}
+
+void tell_of_pdf(program& app, const descrizione_report& report, const ui::started_program& end) {
+    using enum ui::started_program::how;
+    const std::string file = "Il file " + upper(report.file_pdf);
+    const std::string folder =
+        "all'interno della cartella " + app.parameters.parametri_valuta[valuta_slot::cartella_pdf];
+    const std::string made = file + " è stato creato "_cp + folder;
+    switch (end.is) {
+        case not_started:
+            return app.desk.message(
+                "Non è possibile eseguire il programma di generazione dei files PDF."_cp,
+                attenzione, ui::icon::stop);
+        case unwatched:
+            return app.desk.message(made, attenzione, ui::icon::warning);
+        case late:
+            return app.desk.message(file + " è ancora in preparazione "_cp + folder, attenzione,
+                                    ui::icon::warning);
+        case well:
+            return show_pdf(app, pdf_path(app, report),
+                            end.told.empty() ? made : made + "\n\n" + end.told);
+        case failed:
+            return app.desk.message(end.told.empty() ? file + " non è stato creato."_cp : end.told,
+                                    attenzione, ui::icon::stop);
     }
-    std::string text =
-        "Il file " + upper(report.file_pdf) + " è stato creato all'interno della cartella "_cp;
-    text.append(app.parameters.parametri_valuta[valuta_slot::cartella_pdf]);
-    app.desk.message(text, attenzione, ui::icon::warning);
 }
 
 }  // namespace
@@ -97,10 +123,12 @@ void stampa_report(program& app, const descrizione_report& report, const ui::gri
         return;
     }
     // A file that isn't whole is never handed over: the PDF would lack pages without a word.
-    const bool started = print_into_file(app, report, elenco, righe) &&
-                         app.desk.launcher().start(pdf_command(app, report));
+    ui::started_program end;
+    if (print_into_file(app, report, elenco, righe)) {
+        end = app.desk.launcher().run(pdf_command(app, report));
+    }
     app.desk.set_pointer(ui::pointer::normal);
-    tell_of_pdf(app, report, started);
+    tell_of_pdf(app, report, end);
 }
 
 }  // namespace vantora

@@ -28,8 +28,8 @@ struct descrizione_report {
 /// Outputs a screen's list as it stands: rows 1 to `righe` - 1, where `righe` counts the rows in
 /// use with the head; blank rows that only fill the window aren't among them. To the printer it
 /// goes after a question; for a PDF into the print file, which `mirxpdf` is then started on, with a
-/// message that names the PDF's folder (slot `cartella_pdf`, already filled) or says that it can't
-/// be made.
+/// message that names the PDF's folder (slot `cartella_pdf`, already filled) or says why it can't
+/// be made; a window shows it when the PDF is there.
 void stampa_report(program& app, const descrizione_report& report, const ui::grid& elenco,
                    int righe, uscita_report uscita);
 

@@ -38,6 +38,9 @@ report_screen::report_screen(program& app, const tipo_report& kind)
     add("srt", srt);
     add("elenco", elenco);
     elenco.empty_note = "Nessun risultato";
+    add("avviso", avviso);
+    avviso.set_text("Elenco fermato a 32.000 righe: restringere gli ordini");
+    avviso.set_visible(false);
     bottone[aggiorna].set_text("Aggiorna lista");
     for (int i = 0; i < 5; ++i) bottone[i].on_click = [this, i] { run_command(i); };
     Combo1.add_all({"Tutti gli ordini", "Solo ordini da evadere", "Solo ordini evasi"});
@@ -123,16 +126,21 @@ void report_screen::run_command(int button) {
     if (building_) return;
     switch (button) {
         case pdf:
-            return stampa_report(app_, kind_.stampa, elenco, righe_elenco_, uscita_report::pdf);
+            return put_out(uscita_report::pdf);
         case stampa:
-            return stampa_report(app_, kind_.stampa, elenco, righe_elenco_,
-                                 uscita_report::stampante);
+            return put_out(uscita_report::stampante);
         case stampante:
             app_.desk.printer().choose_settings();
             return;
         default:
             return build_list();
     }
+}
+
+void report_screen::put_out(uscita_report to) {
+    app_.desk.printer().set_note(avviso.visible() ? avviso.text() : "");
+    stampa_report(app_, kind_.stampa, elenco, righe_elenco_, to);
+    app_.desk.printer().set_note("");
 }
 
 void report_screen::go_on_from(std::size_t place) {
@@ -171,7 +179,7 @@ void report_screen::read_counters() {
 // Building ----------------------------------------------------------------------------------------
 
 void report_screen::build_list() {
-    if (building_) return;
+    if (building_ || !ready()) return;
     const bool had_focus = elenco.has_focus();
     building_ = true;
     app_.desk.set_pointer(ui::pointer::busy);
@@ -191,7 +199,7 @@ void report_screen::build_list() {
 void report_screen::build_once() {
     lista_.empty();
     read_counters();
-    const limiti_ordini orders = limits();
+    const limiti_ordini orders = held(limits());
     srt.set_range(1, last_step(orders));
     srt.set_visible(true);
     list_rows list(app_.desk, elenco, righe_report);
@@ -200,7 +208,18 @@ void report_screen::build_once() {
     if (left_ || wanted_anew_) return;
     righe_elenco_ = list.in_use();
     built_ = true;
+    avviso.set_visible(list.cut());
     lista_.finish(righe_elenco_);
+}
+
+/// Numbers below 1, and blocks wholly behind the end of the file, hold no rows.
+limiti_ordini report_screen::held(limiti_ordini orders) const {
+    orders.primo = std::max(orders.primo, 1);
+    if (const auto records = app_.archives.orc.records_held()) {
+        const std::int64_t blocks = (*records + righe_blocco - 1) / righe_blocco;
+        orders.ultimo = static_cast<int>(std::min<std::int64_t>(orders.ultimo, blocks));
+    }
+    return orders;
 }
 
 int report_screen::last_step(const limiti_ordini& orders) const {

@@ -69,9 +69,16 @@ class report_screen : public ui::form {
     ui::button bottone[5];
     ui::progress_bar srt;
     ui::grid elenco;
+    ui::date_picker text5[2];  ///< beside `text2`, where a report has that
+    ui::label avviso;          ///< shown where the list lacks rows
 
     /// The fields that this report has, in the order in which Enter goes through them.
     [[nodiscard]] const std::vector<filtro>& filters() const { return kind_.filtri; }
+    /// The calendar beside a day; null beside all else.
+    [[nodiscard]] const ui::date_picker* calendar(filtro which) const {
+        if (which == filtro::prima_data) return &text5[0];
+        return which == filtro::ultima_data ? &text5[1] : nullptr;
+    }
     [[nodiscard]] ui::control& filter(filtro which) { return field(which).control; }
 
     /// Rows that the report lists; 0 until it was built.
@@ -88,6 +95,8 @@ class report_screen : public ui::form {
 
     /// Fills the fields as the screen opens.
     virtual void fill_fields();
+    /// Whether the fields are such that a list can be made of them; the user is told why not.
+    virtual bool ready() { return true; }
     /// Fills the list. Returns at once where carry_on() says so.
     virtual void fill(list_rows& list, const limiti_ordini& orders) = 0;
     /// Which orders the list goes over; the bounds as they stand unless a report knows better.
@@ -124,8 +133,10 @@ class report_screen : public ui::form {
     void go_on_from(std::size_t place);
     void select(filtro which);
     void run_command(int button);
+    void put_out(uscita_report to);
     void leave();
     void build_once();
+    [[nodiscard]] limiti_ordini held(limiti_ordini orders) const;
 
     const tipo_report& kind_;
     list_grid lista_;

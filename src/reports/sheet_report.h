@@ -103,9 +103,10 @@ class sheets_report : public sheet_report {
     void list_each(list_rows& list, raccolta& found, WriteOwn write_own) {
         found.righe.group();
         for (const auto& sheet : found.schede) {
-            if (list.full() || !listing()) return;
+            if (!listing()) return;
             const auto rows = found.righe.rows_of(sheet.numero);
             if (rows.empty()) continue;
+            if (list.full()) return list.cut_here();
             somme sums;
             for (const Row& row : rows) {
                 list.next();
@@ -120,6 +121,7 @@ class sheets_report : public sheet_report {
             }
             list_totals(list, sums);
         }
+        if (found.righe.dropped()) list.cut_here();
     }
 
  private:

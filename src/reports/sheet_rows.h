@@ -31,8 +31,12 @@ class sheet_rows {
     /// Whether a row of that number may be listed.
     [[nodiscard]] bool wants(std::int16_t number) const {
         const std::size_t at = index(number);
-        return places_[at] <= last_place_ && counts_[at] < lines_;
+        const bool listed = places_[at] <= last_place_ && counts_[at] < lines_;
+        dropped_ = dropped_ || (!listed && places_[at] != nowhere);
+        return listed;
     }
+    /// Whether rows of some sheet have no place in the list.
+    [[nodiscard]] bool dropped() const { return dropped_; }
     /// Whether no further row can be listed.
     [[nodiscard]] bool complete() const { return sheets_.empty() || !wants(sheets_.front()); }
 
@@ -78,12 +82,15 @@ class sheet_rows {
             if (count > 0) taken += count + lines_beside_rows;
             if (taken >= lines_) last_place_ = place;
         }
-        std::erase_if(rows_,
-                      [this](const auto& one) { return places_[index(one.first)] > last_place_; });
+        const auto behind = [this](const auto& one) {
+            return places_[index(one.first)] > last_place_;
+        };
+        dropped_ = std::erase_if(rows_, behind) > 0 || dropped_;
         prune_at_ = rows_.size() + margin();
     }
 
     int lines_;
+    mutable bool dropped_ = false;
     std::vector<std::int16_t> sheets_;  ///< in their order
     std::vector<std::int32_t> places_;  ///< of each number among the sheets
     std::vector<std::int32_t> counts_;  ///< rows of each number

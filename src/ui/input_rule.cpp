@@ -107,6 +107,7 @@ input_rule input_rule::number() {
 input_rule input_rule::small_number() {
     input_rule rule = number();
     rule.largest = int16_max;
+    rule.whole = true;
     return rule;
 }
 
@@ -125,6 +126,25 @@ std::optional<std::string> input_rule::admit(std::string_view before, std::strin
     std::string cut = cut_to(static_cast<std::size_t>(longest), before, now);
     if (cut == before && now != before) return {};
     return cut;
+}
+
+std::optional<std::string> written_out_number(std::string_view typed, const input_rule& rule) {
+    if (typed.empty() || (rule.alone != 0 && typed.front() == rule.alone)) return {};
+    // What a screen put in with a comma is taken when it is confirmed, not before.
+    if (typed.find(',') != std::string_view::npos) return {};
+    const double number = number_at_head(typed);
+    const double taken = rule.whole ? std::nearbyint(number) : number;
+    return taken == 0 ? std::string() : plain_text(taken);
+}
+
+std::optional<std::string> doubtful_number(std::string_view typed) {
+    const std::size_t sign = typed.find_first_of("+-") == 0 ? 1 : 0;
+    if (typed.substr(sign).starts_with('0')) return {};
+    if (!grouped_by_points(typed.substr(sign)) || std::ranges::count(typed, '.') != 1) return {};
+    std::string thousands(typed);
+    std::erase(thousands, '.');
+    return "preso come " + plain_text(number_at_head(typed)) + ", non come " +
+           plain_text(number_at_head(thousands));
 }
 
 std::optional<std::string> written_out_day(std::string_view typed, int this_year) {

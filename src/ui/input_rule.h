@@ -19,6 +19,7 @@ struct input_rule {
     int longest = 32767;    ///< characters
     double largest = 1e15;  ///< of a number, by its absolute value
     char alone = 0;         ///< a sign that may stand instead of a number; 0: none
+    bool whole = false;     ///< a number is rounded to the nearest whole one, ties to even
 
     /// A text of at most `longest` characters.
     static input_rule text(std::size_t longest);
@@ -39,6 +40,13 @@ std::string_view put_in(std::string_view before, std::string_view now);
 
 /// The same text with only the first cell of a table that was put in; nothing else is changed.
 std::string with_first_cell(std::string_view before, std::string_view now);
+
+/// A number as the field takes it, a blank for 0. Empty where the text stays as it is.
+std::optional<std::string> written_out_number(std::string_view typed, const input_rule& rule);
+
+/// What to say of a number with a point before exactly three last digits, which may have been meant
+/// for thousands; empty for all others.
+std::optional<std::string> doubtful_number(std::string_view typed);
 
 /// A day as hands type it, "24/11", "24112026" or "24/11/26", as dd/mm/yyyy; the year may be left
 /// out. Empty if it is none.

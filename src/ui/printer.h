@@ -50,6 +50,10 @@ class printer {
     /// What the next job is called, as "Ordine 401"; a job printed into a file proposes it.
     virtual void set_job_name(std::string_view /*name*/) {}
 
+    /// What the reader of the next jobs must know, be it said nowhere on their pages: the window's
+    /// printer writes it under the last one. Empty for nothing.
+    virtual void set_note(std::string_view /*note*/) {}
+
     /// The pages of the next job are shown before they are printed, where the front end can.
     virtual void preview_next_job() {}
 

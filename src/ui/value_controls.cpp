@@ -69,8 +69,14 @@ bool date_picker::choose(const date& value) {
     if (!exists(value)) return false;
     set_focus();
     set_value(value);
+    confirm();
     fire(on_close_up);
     return true;
+}
+
+void date_picker::close_up() {
+    set_focus();
+    fire(on_close_up);
 }
 
 }  // namespace vantora::ui

@@ -62,6 +62,7 @@ class date_picker : public control {
     date_picker() : control(control_kind::date_picker) {}
 
     std::function<void()> on_change;    ///< the date became another one, whoever set it
+    std::function<void()> on_choice;    ///< the user chose a day, perhaps the one that stood there
     std::function<void()> on_close_up;  ///< the user chose in the calendar, or closed it
 
     [[nodiscard]] const date& value() const { return value_; }
@@ -72,6 +73,10 @@ class date_picker : public control {
     bool set_value(const date& value);
     /// The user chooses a date: the picker takes the focus, the date changes, the calendar closes.
     bool choose(const date& value);
+    /// The user chose the day that stands there now; the calendar may stay open.
+    void confirm() { fire(on_choice); }
+    /// The calendar closed.
+    void close_up();
 
  private:
     date value_{2000, 1, 1};

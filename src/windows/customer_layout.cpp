@@ -49,10 +49,7 @@ QWidget* field_of(form_window& window, const frame_field& field) {
     QWidget* one = &window.widget_of(field.shown);
     if (field.characters > 0) return sized(one, field.characters);
     if (field.shown.kind() != control_kind::date_picker) return one;
-    one->setToolTip("Sceglie la data dal calendario (frecce: giorno per giorno)");
-    set_look(one, "look", "calendar");
-    one->setFixedSize(32, one->sizeHint().height());
-    return one;
+    return dress_calendar(one);
 }
 
 QGridLayout* add_frame(form_window& window, QGroupBox* box, std::span<const frame_row> rows) {

@@ -26,6 +26,13 @@ QWidget* sized(QWidget* field, int characters, int margins) {
     return field;
 }
 
+QWidget* dress_calendar(QWidget* picker) {
+    picker->setToolTip("Sceglie la data dal calendario (frecce: giorno per giorno)");
+    set_look(picker, "look", "calendar");
+    picker->setFixedSize(32, picker->sizeHint().height());
+    return picker;
+}
+
 void set_look(QWidget* widget, const char* property, const char* value) {
     widget->setProperty(property, value);
 }

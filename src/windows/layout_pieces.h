@@ -28,6 +28,9 @@ QString spoken(const char* utf8);
 /// A text box made so wide that about `characters` fit; the margins are its frame's and some air.
 QWidget* sized(QWidget* field, int characters, int margins = 24);
 
+/// A date picker that stands beside its date and shows its calendar alone.
+QWidget* dress_calendar(QWidget* picker);
+
 /// A grid with its "Riordina" buttons above the columns.
 QVBoxLayout* grid_with_sort_buttons(form_window& window, const grid& list,
                                     std::span<const button> sorting);

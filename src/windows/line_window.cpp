@@ -47,6 +47,10 @@ QWidget* command_bar(form_window& window, line_grid& screen,
     for (const line_command& one : commands) {
         // Leaving stands apart.
         if (one.index == uscita) row->addStretch(1);
+        if (*one.before != '\0') {
+            row->addSpacing(10);
+            row->addWidget(caption(one.before, row->parentWidget()));
+        }
         add_command(row, window.dress(screen.comando[one.index], one.look), 26);
     }
     return row->parentWidget();

@@ -11,6 +11,7 @@ namespace vantora::ui::desktop {
 struct line_command {
     int index;
     command_look look;
+    const char* before = "";  ///< a caption for it and those behind it
 };
 
 /// In what such screens differ besides.

@@ -51,6 +51,19 @@ QGroupBox* options(form_window& window, const char* title, std::span<option_butt
     return box;
 }
 
+/// What the view of all orders leaves out stands beside it.
+QGroupBox* views(form_window& window, mirorc& screen) {
+    QGroupBox* box = options(window, "Registrazioni", screen.selvis);
+    QWidget* left_out = window.widget(screen.avviso);
+    set_look(left_out, "role", "warning");
+    auto* beside = new QHBoxLayout;
+    static_cast<QVBoxLayout*>(box->layout())->insertLayout(0, beside);
+    beside->addWidget(window.widget(screen.selvis[0]));
+    beside->addWidget(left_out);
+    beside->addStretch(1);
+    return box;
+}
+
 QGroupBox* compaction(form_window& window, mirorc& screen) {
     auto* box = new QGroupBox("Archivio", &window);
     QLabel* text = window.widget(screen.srtt[0]);
@@ -100,7 +113,7 @@ void lay_out(form_window& window, mirorc& screen) {
 
     auto* foot = new QHBoxLayout;
     foot->setSpacing(10);
-    foot->addWidget(options(window, "Registrazioni", screen.selvis));
+    foot->addWidget(views(window, screen));
     foot->addWidget(options(window, "Ordine di lettura", screen.visua));
     foot->addWidget(compaction(window, screen), 1);
     body->addLayout(foot);

@@ -31,10 +31,10 @@ void lay_out(form_window& window, mirorcs& screen) {
     lay_out_order(
         window, screen,
         {mirorcs::importa_ordine,
-         {"importa_ordine", "Importa or&dine", "Importa le righe di un altro ordine", "Ctrl+O"}},
+         {"importa_ordine", "Or&dine", "Importa le righe di un altro ordine", "Ctrl+O"},
+         "Importa:"},
         {mirorcs::importa_preventivo,
-         {"importa_preventivo", "Importa pre&ventivo", "Importa le righe di un preventivo",
-          "Ctrl+I"}},
+         {"importa_preventivo", "Pre&ventivo", "Importa le righe di un preventivo", "Ctrl+I"}},
         "Lascia l'ordine senza salvarlo");
 }
 

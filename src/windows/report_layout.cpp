@@ -78,7 +78,12 @@ void add_building(form_window& window, report_screen& screen, QHBoxLayout* row) 
 /// From the filters to the list they make, then to what is done with it.
 void order_tabs(form_window& window, report_screen& screen) {
     std::vector<QWidget*> stops;
-    for (const filtro one : screen.filters()) stops.push_back(window.widget(screen.filter(one)));
+    for (const filtro one : screen.filters()) {
+        stops.push_back(window.widget(screen.filter(one)));
+        if (const date_picker* picker = screen.calendar(one)) {
+            stops.push_back(window.widget(*picker));
+        }
+    }
     stops.push_back(window.widget(screen.bottone[report_screen::aggiorna]));
     stops.push_back(window.widget(screen.elenco));
     for (const auto& one : report_commands) {
@@ -87,7 +92,9 @@ void order_tabs(form_window& window, report_screen& screen) {
     window.set_tab_order(stops);
 }
 
-void add_filter(form_window& window, QWidget* field, const filter_look& look, QHBoxLayout* row) {
+void add_filter(form_window& window, report_screen& screen, const filter_look& look,
+                QHBoxLayout* row) {
+    QWidget* field = window.widget(screen.filter(look.which));
     sized(field, look.width);
     if (look.stretch > 0) {
         field->setMinimumWidth(field->width());
@@ -99,7 +106,13 @@ void add_filter(form_window& window, QWidget* field, const filter_look& look, QH
     auto* column = new QVBoxLayout;
     column->setSpacing(2);
     column->addWidget(above);
-    column->addWidget(field);
+    auto* line = new QHBoxLayout;
+    line->setSpacing(3);
+    line->addWidget(field);
+    if (const date_picker* picker = screen.calendar(look.which)) {
+        line->addWidget(dress_calendar(window.widget(*picker)));
+    }
+    column->addLayout(line);
     row->addLayout(column, look.stretch);
 }
 
@@ -109,7 +122,7 @@ QHBoxLayout* filter_row(form_window& window, report_screen& screen, const sheet_
     for (const filtro which : screen.filters()) {
         const auto is_it = [which](const filter_look& one) { return one.which == which; };
         const auto sheet = std::ranges::find_if(sheets, is_it);
-        add_filter(window, window.widget(screen.filter(which)),
+        add_filter(window, screen,
                    sheet != sheets.end() ? *sheet : *std::ranges::find_if(filters, is_it), row);
     }
     add_building(window, screen, row);
@@ -141,6 +154,9 @@ void lay_out_report(form_window& window, report_screen& screen, const sheet_rang
     body->addWidget(list, 1);
     body->addWidget(row_count(window, screen));
     if (window.by_person()) window.begin_in(screen.elenco);
+    QWidget* cut = window.widget(screen.avviso);
+    set_look(cut, "role", "warning");
+    body->addWidget(cut);
     order_tabs(window, screen);
     window.setMinimumSize(960, 520);
     window.set_first_size(QSize(1280, 690));

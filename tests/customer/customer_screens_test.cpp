@@ -104,6 +104,39 @@ TEST_F(mirorcx_screen, GoesOnOnlyWithTwoWholeDates) {
     EXPECT_EQ(bare.app.selezione_1, 2);
 }
 
+TEST_F(mirorcx_screen, ADayChosenInACalendarIsWritten) {
+    for (const char* wrong : {"boh", "", "6/5/2024"}) {
+        head.Text3[1].set_text(wrong);
+        head.text5[0].close_up();
+        EXPECT_EQ(head.Text3[1].text(), wrong) << "nothing was chosen";
+        head.text5[0].choose({2024, 5, 6});
+        EXPECT_EQ(head.Text3[1].text(), "06/05/2024") << "today, as it stood there";
+    }
+}
+
+TEST_F(mirorcx_screen, ThePickedCustomerIsTakenWhereAPersonPicks) {
+    company.customers({customer_named("ROSSI"), customer_named("ROSSI"),
+                       customer_named("ROSSI MARIO"), customer_named("ZETA")});
+    for (const bool guarded : {false, true}) {
+        desk.desk.guards().switch_to(guarded);
+        int right = 0;
+        for (const int row : {1, 2, 3}) {
+            int picked = 0;
+            desk.front.actions = {[&] {
+                picked = std::stoi(std::string(app.mirsel->elenco.text(row, mirsel::numero)));
+                app.mirsel->elenco.click_cell(row, 0);
+            }};
+            head.nome.set_text("rossi");
+            head.b_lista.click();
+            EXPECT_EQ(head.nome.text(), "");
+            head.bottone.click();
+            right += app.selezione_1 == picked;
+            app.mirorcx->show();
+        }
+        EXPECT_EQ(right == 3, guarded);
+    }
+}
+
 TEST_F(mirorcx_screen, ItsPickListIsModalAndSorts) {
     desk.with_pick_list([&](mirsel& list) {
         EXPECT_TRUE(desk.desk.obstacle(head));
@@ -147,6 +180,8 @@ TEST_F(mirorcm_screen, StandsOnTheOrdersCustomerAndMovesTheOrderToALivingOne) {
         EXPECT_EQ(head.HScroll1.maximum(), 5);
         EXPECT_TRUE(head.nome.has_focus());
         EXPECT_EQ(head.Text2[0].text(), "come nell'ordine");
+        EXPECT_EQ(head.Text3[0].accepts.longest, 10);
+        EXPECT_EQ(head.Text2[19].accepts.longest, 40) << "as its row holds";
         EXPECT_EQ(head.Text2[17].text(), "") << "the carriers' list touches no field";
         EXPECT_EQ(head.Label2.visible(), customer == 3) << "only the deleted one is told so";
         EXPECT_LE(desk.reads["cli"], 1U);

@@ -76,6 +76,23 @@ TEST_F(printing, AProgramIsStartedWithItsArgument) {
     EXPECT_EQ(vantora::test::bytes_of(told), "***,c:\\a b.rto");
 }
 
+TEST_F(printing, AProgramIsWaitedForAndTellsWhatWentWrong) {
+    const auto program = folder.path() / "mirxpdf";
+    system_launcher programs([&](std::string_view) { return program.string(); });
+    using enum started_program::how;
+    EXPECT_EQ(programs.run("x a").is, not_started);
+    for (const int code : {0, 1}) {
+        vantora::test::put(program,
+                           "#!/bin/sh\nsleep 0.2\necho \"mirxpdf: $QT_QPA_PLATFORM è $1\" >&2\n"
+                           "exit " +
+                               std::to_string(code) + "\n");
+        permissions(program, std::filesystem::perms::owner_all);
+        const started_program end = programs.run("x a b");
+        EXPECT_EQ(end.is, code == 0 ? well : failed);
+        EXPECT_EQ(end.told, "offscreen è a b"_cp);
+    }
+}
+
 TEST_F(printing, EachJobAsksForItsFileAndADroppedOneLeavesNothing) {
     QStringList answers{file("uno.pdf"), QString(), "/dev/null/no.pdf", file("tre.pdf")};
     QStringList asked;
@@ -124,6 +141,7 @@ TEST_F(printing, AJobThatIsSeenFirstIsPrintedAsAnyOther) {
             dialog->done(print ? QDialog::Accepted : QDialog::Rejected);
         });
         paper.set_job_name("Ordine 7");
+        paper.set_note("in fondo");
         paper.set_orientation(printer::landscape);
         paper.text(100, 60, "prima", {}, 0);
         paper.new_page();
@@ -137,6 +155,7 @@ TEST_F(printing, AJobThatIsSeenFirstIsPrintedAsAnyOther) {
     EXPECT_EQ(paper.orientation(), printer::upright);
     EXPECT_TRUE(printed("visto.pdf").has_pages(2));
     EXPECT_NEAR(printed("visto.pdf").place_of("prima").left(), 100, 0.3);
+    EXPECT_GT(printed("visto.pdf").place_of("fondo").top(), 195) << "of 210 millimetres";
     const QImage second = printed("visto.pdf").page(2);
     EXPECT_GT(second.width(), second.height());
 }

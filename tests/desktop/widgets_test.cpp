@@ -1,4 +1,6 @@
+#include <QCalendarWidget>
 #include <QComboBox>
+#include <QDateEdit>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -29,6 +31,9 @@ class trial final : public form {
         add("data", data);
         add("elenco", elenco);
         add("figura", figura);
+        add("scritta", scritta);
+        scritta.set_text("clic qui");
+        scritta.on_click = [this] { ++clicks; };
         elenco.set_columns({{"a", 1}, {"b", 1}});
         tendina.add_all({"uno", "due", "tre"});
         std::vector<std::string> many;
@@ -41,6 +46,8 @@ class trial final : public form {
     void activate() override { ++activations; }
 
     int activations = 0;
+    int clicks = 0;
+    label scritta;
     text_box testo;
     text_box altro;
     check_box spunta;
@@ -53,6 +60,62 @@ class trial final : public form {
 };
 
 using widgets = test::window_of<trial>;
+
+TEST_F(widgets, ACalendarTellsAChoiceOfTheDayThatStandsThere) {
+    run({[&] {
+        int choices = 0;
+        screen->data.on_choice = [&] { ++choices; };
+        auto* picker = bench.find<QDateEdit>("data");
+        const auto open = [&] {
+            QTest::mousePress(picker, Qt::LeftButton, {}, QPoint(picker->width() - 6, 10));
+            return picker->calendarWidget()->findChild<QTableView*>();
+        };
+        QTableView* days = open();
+        const auto chosen = days->selectionModel()->selectedIndexes();
+        ASSERT_EQ(chosen.size(), 1);
+        QTest::mouseClick(days->viewport(), Qt::LeftButton, {},
+                          days->visualRect(chosen[0]).center());
+        EXPECT_EQ(choices, 1);
+        QTest::keyClick(open(), Qt::Key_Escape);
+        EXPECT_EQ(choices, 1);
+        EXPECT_EQ(screen->data.text(), "01/01/2000");
+    }});
+}
+
+TEST_F(widgets, ALabelTakesALeftClickThatEndsOnIt) {
+    run({[&] {
+        auto* label = bench.find("scritta");
+        QTest::mouseClick(label, Qt::RightButton);
+        QTest::mouseClick(label, Qt::MiddleButton);
+        QTest::mousePress(label, Qt::LeftButton);
+        QTest::mouseRelease(label, Qt::LeftButton, {}, QPoint(-5, -5));
+        EXPECT_EQ(screen->clicks, 0);
+        QTest::mouseClick(label, Qt::LeftButton);
+        EXPECT_EQ(screen->clicks, 1);
+    }});
+}
+
+TEST_F(widgets, AFieldThatIsLeftShowsWhatItTook) {
+    run({[&] {
+        screen->testo.accepts = input_rule::number();
+        auto* field = bench.find<QLineEdit>("testo");
+        field->setFocus();
+        QTest::keyClicks(field, "1.000");
+        bench.find("altro")->setFocus();
+        EXPECT_EQ(screen->testo.text(), "1");
+        const auto* hint = field->window()->findChild<QLabel*>("number_hint");
+        ASSERT_TRUE(hint && hint->isVisible());
+        EXPECT_EQ(hint->text(), "preso come 1, non come 1000");
+        screen->testo.accepts = input_rule::day();
+        for (const auto& [typed, wrong] : {std::pair{"boh", true}, {"311224", false}}) {
+            screen->testo.set_text(typed);
+            field->setFocus();
+            bench.find("altro")->setFocus();
+            EXPECT_EQ(field->property("wrong").toBool(), wrong);
+        }
+        EXPECT_EQ(screen->testo.text(), "31/12/2024");
+    }});
+}
 
 TEST_F(widgets, KeysGoToTheEventsFirstAndMayBeSwallowed) {
     run({[&] {

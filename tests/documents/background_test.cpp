@@ -29,8 +29,7 @@ struct background_stage : document_stage {
 TEST(background, DrawsFilledBoxesUnderTheRestAndPullsItIntoThePage) {
     background_stage order;
     order.element({3, 10, 20, 0, 0, 255, 1, 1, 0}, "Nota", "Verdana");
-    order.element({3, 10, 20}, std::string(caratteri_sfondo, 'x'));
-    order.element({1, 300, -5, 100, 400, 7});
+    order.element({1, 300, -5, 100, 400, -1});
     order.element({2, -3, 5, 250, 60, 9, 0});
     order.element({2, 10, 10, 50, 60, 8, 1});
     order.element({2, 10, 10, 50, 60, 8, 2});
@@ -39,16 +38,16 @@ TEST(background, DrawsFilledBoxesUnderTheRestAndPullsItIntoThePage) {
     EXPECT_EQ(order.shown(order.print().at(0)),
               "filled 10 10 50 60 ink 8\n"
               "text 10 20 Nota, Verdana 2 bold ink 255\n"
-              "line 300 0 100 297 ink 7\n"
+              "line 300 0 100 297 ink 255\n"
               "box 0 5 210 60 ink 9\n")
-        << "no text is below 2 points";
+        << "no text is below 2 points; a colour that is none is the one in force";
     EXPECT_EQ(
         order.print_file(),
         "#FILEFORMAT=KLP-RTO\r\n"
         " 0 \r\n 9 \r\n 10 \r\n 40 \r\n-2 \r\n 0 \r\n\r\n\\manca.bmp\r\n\r\n 0 \r\n 0 \r\n"
         " 2 \r\n 10 \r\n 10 \r\n 50 \r\n 60 \r\n 0 \r\n 8 \r\n\r\n\r\n 1 \r\n 0 \r\n"
         " 3 \r\n 10 \r\n 20 \r\n 0 \r\n 0 \r\n 1 \r\n 255 \r\nNota\r\nVerdana\r\n 1 \r\n 0 \r\n"
-        " 1 \r\n 300 \r\n 0 \r\n 100 \r\n 297 \r\n 0 \r\n 7 \r\n\r\n\r\n 1 \r\n 0 \r\n"
+        " 1 \r\n 300 \r\n 0 \r\n 100 \r\n 297 \r\n 0 \r\n-1 \r\n\r\n\r\n 1 \r\n 0 \r\n"
         " 2 \r\n 0 \r\n 5 \r\n 210 \r\n 60 \r\n 0 \r\n 9 \r\n\r\n\r\n 0 \r\n 0 \r\n"
         " 9 \r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n")
         << "the file keeps the size as it stands, and the picture that isn't there";
@@ -63,6 +62,33 @@ TEST(background, CountsOnlyTheElementsInUseAndOnlyWhenSwitchedOn) {
     }
     order.tables.tabella_layout[99].posizione = "000002";
     EXPECT_TRUE(order.print().at(0).empty());
+}
+
+/// On every page, and told once.
+TEST(background, TextsThatAreTooLongAreCutOrLeftOutAlone) {
+    background_stage order;
+    order.element({3, 10, 20}, "lungo" + std::string(testo_piu_lungo, 'x'));
+    for (std::size_t i = 2; i < caratteri_sfondo / testo_piu_lungo; ++i) {
+        order.element({3, 10, 20}, std::string(testo_piu_lungo, 'y'));
+    }
+    order.element({3, 10, 20}, std::string(testo_piu_lungo - 5, 'z'));
+    order.element({3, 10, 20}, "di troppo");
+    order.element({3, 10, 20}, "Nota");
+    order.fill_lines(2);
+    order.front.answers.keep(ui::answer::yes);
+    order.front.answers.keep(ui::answer::ok);
+    stampa_documento(order.app, order.document());
+    const auto pages = order.paper.take_jobs().at(0).pages;
+    ASSERT_EQ(pages.size(), 2U);
+    for (const auto& page : pages) {
+        const auto texts = order.texts(page);
+        EXPECT_EQ(texts.front().size(), testo_piu_lungo);
+        EXPECT_EQ(std::ranges::count(texts, "Nota"), 1);
+        EXPECT_EQ(std::ranges::count(texts, "di troppo"), 0);
+    }
+    std::string told;
+    for (const auto& one : order.front.answers.take_answered()) told = one.box.text;
+    EXPECT_TRUE(told.ends_with(": lungo" + std::string(25, 'x') + ", di troppo")) << told;
 }
 
 TEST(background, InvoiceNumbersBecomeCreditNotes) {

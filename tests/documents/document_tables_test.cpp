@@ -7,6 +7,7 @@
 #include <map>
 
 #include "store/drive.h"
+#include "support/faulty_files.h"
 #include "support/scratch_folder.h"
 
 namespace vantora {
@@ -50,6 +51,22 @@ TEST_F(document_tables, ALayoutIsReadRowByRowFromTheFileOfItsKindOrCountsAsMissi
         }
         EXPECT_EQ(layout_row(98), ",,,0,0, 0") << lines;
     }
+}
+
+TEST_F(document_tables, WhatIsThereAndCantBeReadIsKnown) {
+    for (const char* extension : {"int", "tab", "lyo", "pdf", "lko"}) write(extension, 9);
+    test::faulty_files disk(files);
+    const auto unreadable = [&] {
+        carica_documento(tables, tipo_documento::ordine, parameters, disk);
+        disegno drawing;
+        carica_disegno(drawing, tipo_documento::ordine, 0, disk);
+        std::string all = drawing.illeggibile ? "lko" : "";
+        for (const auto& file : tables.illeggibili) all += " " + file;
+        return all;
+    };
+    EXPECT_EQ(unreadable(), "");
+    disk.read_fails = [](auto&&...) { return true; };
+    EXPECT_EQ(unreadable(), "lko vantora.int vantora.tab vantora.lyo vantora.pdf");
 }
 
 TEST_F(document_tables, HeadingAndPdfSettingsGoToTheirPlaces) {

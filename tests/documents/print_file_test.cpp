@@ -144,6 +144,10 @@ TEST(print_file_reading, TakesOtherWritersFormsAndPassesOverWhatIsOdd) {
     };
     for (const auto& [content, expected] : cases) EXPECT_EQ(read(content), expected);
 
+    const std::string endless(5'000'000, 'w');
+    EXPECT_EQ(read(mark + text_with(8, endless) + end),
+              "upright\n-|3 1 2 0 0 9 0 " + endless.substr(0, 2000) + " Arial 0 0");
+
     // A line with odd content among good records, and what is left of its own one.
     const std::tuple<std::size_t, const char*, const char*, const char*> odd[] = {
         {1, "4", "no kind in line 13", ""},

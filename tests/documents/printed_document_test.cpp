@@ -230,6 +230,24 @@ std::pair<bool, std::string> print_and_hand_over(const Disturb& disturb) {
 }
 
 /// A printer that fails is the front end's affair; a print file that fails keeps the PDF away.
+TEST(printed_document, WhatItLacksIsAskedAboutBeforeAnythingIsPrinted) {
+    for (const bool goes_on : {false, true}) {
+        document_stage order;
+        order.fill_lines(1);
+        order.tables.illeggibili = {"vantora.lyo"};
+        order.background.illeggibile = true;
+        order.front.answers.keep(ui::answer::yes);
+        order.front.answers.keep(goes_on ? ui::answer::yes : ui::answer::no);
+        order.outcome = stampa_documento(order.app, order.document());
+        EXPECT_EQ(order.outcome, goes_on ? esito_stampa::completa : esito_stampa::rifiutata);
+        const auto boxes = order.front.answers.take_answered();
+        EXPECT_EQ(boxes.at(1).box.text,
+                  "Il documento non è completo: impossibile leggere vantora.lyo, vantora.lko. "
+                  "Stamparlo ugualmente?"_cp);
+        EXPECT_EQ(order.print_file() == "no file", !goes_on);
+    }
+}
+
 TEST(printed_document, APrintFileThatIsNotWholeAndItsOwnIsNotHandedOver) {
     std::set<std::string> left;
     bool failed = true;

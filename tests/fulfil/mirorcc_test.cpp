@@ -21,7 +21,15 @@ TEST(transport_data, ControlsShowTheirDefaultsAndWhatFollows) {
         commands.emplace_back("controls mirorcc");
         return run_script(company.drive(), commands);
     };
+    const texts left_list = {"scroll mirorcc.HScroll1 2", "set mirorcc.Text3(2) \"7\"",
+                             "pick mirorcc.Combo2 4", "click mirorcc.b_lista",
+                             "click mirsel.indice"};
+    texts guarded = left_list;
+    guarded.insert(guarded.begin(), "guards on");
     const std::pair<texts, texts> cases[] = {
+        // Who leaves the list without a choice begins anew, unless what was typed is guarded.
+        {left_list, {"Text3(2)=", "Combo2=Aspetto 1", "Text2(0)=BIANCHI"}},
+        {guarded, {"Text3(2)=7", "Combo2=Aspetto 5", "Text2(0)=ROSSI SPA"}},
         {{},
          {"Text3(0)=42", "Text3(1)=06/05/2024", "Text3(2)=", "Text3(4)=06/05/2024",
           "Text3(5)=10:20", "Combo1(1)=Causale 1", "Combo2=Aspetto 1", "Combo1(0)=Porto franco",

@@ -95,7 +95,13 @@ TEST_F(mirorc, ShowsWhatItsViewTakesOnAPageAtLeast) {
         for (const auto& one : cases) {
             company.counter(contatori::ordini, one.orders);
             set_view(one.view);
-            const json replies = run({"get mirorc.elenco", "rows mirorc.elenco 1"});
+            const json replies =
+                run({"get mirorc.elenco", "rows mirorc.elenco 1", "get mirorc.avviso"});
+            const json& left_out = replies[2]["value"];
+            EXPECT_EQ(left_out["visible"], one.rows == 31999);
+            if (one.rows == 31999) {
+                EXPECT_EQ(left_out["text"], "(mancano le ultime 769)");
+            }
             EXPECT_EQ(replies[0]["value"]["rows"], one.rows) << one.orders << readable;
             EXPECT_EQ(replies[0]["value"]["toprow"], one.top) << one.orders;
             EXPECT_EQ(replies[1]["value"][0][0], one.first) << one.orders;

@@ -42,7 +42,7 @@ class plain_lists {
                 fulfilled += net(row_.evaso);
             }
             const double values[] = {ordered, ordered - fulfilled, fulfilled};
-            const double value = values[screen_.Combo1.chosen()];
+            const double value = arrotonda_valuta(values[screen_.Combo1.chosen()], in_);
             if (value == 0) continue;
             next({row_.numero.trimmed(), day(row_.data), text, name_of(row_.cliente),
                   formato_importo(value, in_), std::to_string(i)});
@@ -103,6 +103,9 @@ class plain_lists {
         return end();
     }
 
+    /// Whether rows of the last list found no place.
+    [[nodiscard]] bool cut() const { return cut_; }
+
  private:
     using cells = std::initializer_list<std::string_view>;
 
@@ -125,7 +128,9 @@ class plain_lists {
         orders_ = count(contatori::ordini);
         first_ = number_in(screen_.text1[0]);
         last_ = number_in(screen_.text1[1]);
+        cut_ = false;
         least_rows_ = least_rows;
+        if (screen_.Combo0.count() == 0 && screen_.name() != "mirston") leave_out_nothing();
         // Each build looks these up afresh; the row goes on from build to build.
         customer_ = {};
         article_ = {};
@@ -136,6 +141,7 @@ class plain_lists {
         if (first_ < 1) first_ = 1;
         if (last_ > orders_) last_ = orders_;
         if (last_ < first_) first_ = last_;
+        leave_out_nothing();
     }
     void next(cells of) {
         rows_.emplace_back(screen_.elenco.cols());
@@ -144,7 +150,15 @@ class plain_lists {
     void put(std::size_t col, cells of) {
         for (const std::string_view one : of) rows_.back()[col++] = one;
     }
+    /// Block numbers that no row can have.
+    void leave_out_nothing() {
+        first_ = std::max(first_, 1);
+        while (last_ > 0 && (last_ - 1) * std::int64_t{200} >= *files_.orc.records_held()) --last_;
+    }
     grid_rows end() {
+        for (std::size_t i = 31999; i < rows_.size(); ++i) {
+            cut_ = cut_ || std::ranges::any_of(rows_[i], [](auto& cell) { return !cell.empty(); });
+        }
         rows_.resize(std::min<std::size_t>(rows_.size(), 31999));
         while (rows_.size() + 1 < least_rows_) next({});
         return rows_;
@@ -220,9 +234,7 @@ class plain_lists {
     bool in_bounds(const std::string& key) {
         std::string low = upper(trimmed(screen_.t_inizio.text()));
         std::string high = upper(trimmed(screen_.t_fine.text()));
-        if (low.empty()) low = std::string(1, '\0');
-        if (high.empty()) high = "\xFF";
-        return key >= low && key <= high;
+        return (low.empty() || key >= low) && (high.empty() || key <= high);
     }
     bool article_passes() {
         const auto begins = [](std::string_view text, const ui::text_box& with) {
@@ -270,6 +282,7 @@ class plain_lists {
     int first_ = 1;
     int last_ = 0;
     std::size_t least_rows_ = 0;
+    bool cut_ = false;
     std::string label_;  ///< of a sheet, for its first row
     std::string number_;
     double ordered_ = 0;

@@ -4,6 +4,7 @@
 
 #include "reports/report_stage.h"
 #include "support/file_bytes.h"
+#include "text/code_page.h"
 
 namespace vantora::test {
 namespace {
@@ -86,6 +87,32 @@ TEST_F(report_screens, TheSelectorsOfTheOrderListAreLinked) {
     screen.Combo2.pick(0);
     EXPECT_EQ(screen.Combo1.text(), "Tutti gli ordini");
     EXPECT_EQ(column(screen, 5), "");
+}
+
+TEST_F(report_screens, TheScheduleIsBuiltFromDaysWhereAPersonTypesThem) {
+    report_screen& screen = open(app.mirstos);
+    for (const char* typed : {"1/3/2024", "010324"}) {
+        screen.text2[0].set_text(typed);
+        build(screen);
+        EXPECT_EQ(column(screen, 0), "") << "read as it stands";
+        EXPECT_EQ(screen.text2[0].text(), typed);
+    }
+    app.mirstos->text5[1].choose({2024, 3, 1});
+    EXPECT_EQ(screen.text2[1].text(), "01/03/2024");
+    stage.desk.guards().switch_to(true);
+    build(screen);
+    EXPECT_EQ(column(screen, 0), "10|30");
+    EXPECT_EQ(screen.text2[0].text(), "01/03/2024");
+    std::string told;
+    screen.text2[1].set_text("boh");
+    stage.front.actions = {[&] {
+        told = stage.desk.open_box()->text;
+        stage.desk.answer_box(ui::answer::ok);
+    }};
+    build(screen);
+    EXPECT_EQ(told, "La data non è corretta: boh"_cp);
+    EXPECT_TRUE(screen.text2[1].has_focus());
+    EXPECT_EQ(column(screen, 0), "10|30") << "the list stays";
 }
 
 TEST_F(report_screens, ABuildGoesOnUnderTheHandsOfTheUser) {

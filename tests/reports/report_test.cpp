@@ -92,6 +92,39 @@ TEST_F(report_road, ThePdfIsNamedOrRefused) {
     EXPECT_EQ(print(3, uscita_report::pdf).at(0).box.text, refused);
 }
 
+/// A launcher that waits for its programs, as a window does.
+TEST_F(report_road, AWindowTellsWhatCameOfThePdf) {
+    struct waiting_launcher final : ui::launcher {
+        bool start(const std::string&) override { return false; }
+        ui::started_program run(const std::string&) override { return end; }
+        void open(const std::string& path) override { opened = path; }
+        ui::started_program end;
+        std::string opened;
+    } programs;
+    using enum ui::started_program::how;
+    ui::desk window{stage.front, stage.time, stage.paper, programs};
+    program watched{disk, window, stage.pictures};
+    watched.parameters.parametri_valuta[valuta_slot::cartella_pdf] = "C:";
+    const std::pair<ui::started_program, std::string> cases[] = {
+        {{well, ""}, "Il file VALOREORDINI.PDF è stato creato all'interno della cartella C:"_cp},
+        {{well, "Ma."},
+         "Il file VALOREORDINI.PDF è stato creato all'interno della cartella C:\n\nMa."_cp},
+        {{failed, "Il disco è pieno."_cp}, "Il disco è pieno."_cp},
+        {{failed, ""}, "Il file VALOREORDINI.PDF non è stato creato."_cp},
+        {{late, ""},
+         "Il file VALOREORDINI.PDF è ancora in preparazione all'interno della cartella C:"_cp}};
+    for (const auto& [end, told] : cases) {
+        programs.end = end;
+        programs.opened.clear();
+        stage.front.answers.keep(end.is == well ? ui::answer::choice_1 : ui::answer::ok);
+        stampa_report(watched, report, list, list.rows(), uscita_report::pdf);
+        const auto boxes = stage.front.answers.take_answered();
+        ASSERT_EQ(boxes.size(), 1U);
+        EXPECT_EQ(boxes[0].box.text, told);
+        EXPECT_EQ(programs.opened, end.is == well ? "C:\\valoreordini.pdf" : "");
+    }
+}
+
 TEST_F(report_road, NoSettingStopsAReportOrLosesARow) {
     const std::int16_t cases[][6] = {
         // left, right, top, bottom, height, size

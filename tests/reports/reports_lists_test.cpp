@@ -138,6 +138,7 @@ void compare_lists(random_archive& archive, report_stage& stage, ui::screen<Form
             << screen.name() << ", orders " << screen.text1[0].text() << " to "
             << screen.text1[1].text() << ", choices " << screen.Combo1.chosen()
             << screen.Combo2.chosen() << screen.Combo0.chosen();
+        EXPECT_EQ(screen.avviso.visible(), reference.cut()) << screen.name();
     };
     if (builds > 1) {
         if (screen.elenco.text(3, 0) != "'Aggiorna lista'") compare();

@@ -68,6 +68,22 @@ TEST(input_rule, AHandTypesOnlyWhatAFieldHolds) {
     for (const char* typed : {"", "24", "99/99", "3113", "31022026"}) {
         EXPECT_FALSE(written_out_day(typed, 2026)) << typed;
     }
+    // As a field shows what it took when it is left, and what it says of a doubtful point.
+    const std::tuple<const input_rule&, const char*, const char*, const char*> left[] = {
+        {number, "1.000", "1", "preso come 1, non come 1000"},
+        {number, "-12.345", "-12.345", "preso come -12.345, non come -12345"},
+        {number, "1.0000", "1", ""},
+        {number, "0.125", "0.125", ""},
+        {number, "1234567.895", "1234567.895", ""},
+        {number, "12.50", "12.5", ""},
+        {number, "0", "", ""},
+        {percent, "6.5", "6", ""},
+        {percent, "7.5", "8", ""}};
+    for (const auto& [rule, typed, written, hint] : left) {
+        EXPECT_EQ(written_out_number(typed, rule), written) << typed;
+        EXPECT_EQ(doubtful_number(typed).value_or(""), hint) << typed;
+    }
+    EXPECT_FALSE(written_out_number("*", starred) || written_out_number("1,00", number));
 }
 
 TEST(local_clock, TellsTheTimeOfThePlace) {

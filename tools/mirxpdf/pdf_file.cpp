@@ -1,5 +1,7 @@
 #include "mirxpdf/pdf_file.h"
 
+#include <unistd.h>
+
 #include <cerrno>
 #include <filesystem>
 #include <system_error>
@@ -10,8 +12,12 @@ namespace vantora::mirxpdf {
 
 namespace {
 
-QString reason_of(int error) {
+QString reason_of(int error, const std::filesystem::path& folder) {
     switch (error) {
+        case EBUSY:
+        case ETXTBSY:
+        case EAGAIN:
+            return "il file è aperto in un altro programma";
         case ENOSPC:
         case EDQUOT:
         case EFBIG:
@@ -19,7 +25,9 @@ QString reason_of(int error) {
         case EACCES:
         case EPERM:
         case EROFS:
-            return "la cartella non si può scrivere";
+            return ::access(folder.c_str(), W_OK) == 0
+                       ? "il file è protetto o aperto in un altro programma"
+                       : "la cartella non si può scrivere";
         case EINVAL:
             return "con quel nome non c'è un file normale";
         case ENOENT:
@@ -43,7 +51,7 @@ std::optional<QString> save_pdf(const QByteArray& pdf, std::string_view path, fi
     if (put_whole(files, path, std::as_bytes(std::span(pdf.data(), std::size_t(pdf.size()))))) {
         return {};
     }
-    return reason_of(errno);
+    return reason_of(errno, place.parent_path());
 }
 
 }  // namespace vantora::mirxpdf

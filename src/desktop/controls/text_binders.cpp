@@ -3,10 +3,12 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
+#include <QStyle>
 #include <QToolButton>
 
 #include "desktop/controls/binder.h"
 #include "desktop/controls/line_pasting.h"
+#include "desktop/controls/number_hint.h"
 #include "desktop/controls/text_label.h"
 #include "desktop/keys/scan_watch.h"
 #include "ui/desk.h"
@@ -69,6 +71,7 @@ class text_box_binder final : public binder {
         const QString text = to_qt(model_.text());
         if (edit_->text() == text) return;
         edit_->setText(text);
+        mark_wrong(false);
         if (behind_cursor_) {
             edit_->setCursorPosition(static_cast<int>(text.size() - *behind_cursor_));
         } else if (edit_->hasFocus()) {
@@ -78,15 +81,31 @@ class text_box_binder final : public binder {
         }
     }
 
-    /// A day is written out when its field is left.
+    /// A day or a number is written out when its field is left.
     void focus_lost() override {
-        if (model_.accepts.holds != input_rule::content::day) return;
         if (!by_person()) return;
-        act([&] {
-            const int year = model_.owner().desk().clock().now().day.year;
-            const auto day = written_out_day(model_.text(), year);
-            if (day) model_.set_text(*day);
-        });
+        const bool is_day = model_.accepts.holds == input_rule::content::day;
+        if (is_day) return mark_wrong(!write_out_day());
+        if (model_.accepts.holds == input_rule::content::number) write_out_number();
+    }
+    bool write_out_day() {
+        const int year = model_.owner().desk().clock().now().day.year;
+        const auto day = written_out_day(model_.text(), year);
+        if (day) act([&] { model_.set_text(*day); });
+        return day.has_value();
+    }
+    /// Whoever types a point for the thousands is told what was taken.
+    void write_out_number() {
+        if (const auto hint = doubtful_number(model_.text()))
+            show_number_hint(*edit_, to_qt(*hint));
+        const auto number = written_out_number(model_.text(), model_.accepts);
+        if (number) act([&] { model_.set_text(*number); });
+    }
+    void mark_wrong(bool wrong) {
+        if (edit_->property("wrong").toBool() == wrong) return;
+        edit_->setProperty("wrong", wrong);
+        edit_->style()->unpolish(edit_);
+        edit_->style()->polish(edit_);
     }
 
     [[nodiscard]] bool widget_takes(bool) const override { return true; }
@@ -158,7 +177,9 @@ class label_binder final : public binder {
     void show_value(aspect) override { label_->show_text(to_qt(model_.text())); }
     bool eventFilter(QObject* watched, QEvent* event) override {
         if (event->type() == QEvent::MouseButtonRelease && model_.on_click) {
-            act([this] { model_.click(); });
+            const auto& mouse = static_cast<const QMouseEvent&>(*event);
+            const bool here = label_->rect().contains(mouse.position().toPoint());
+            if (mouse.button() == Qt::LeftButton && here) act([this] { model_.click(); });
         }
         return binder::eventFilter(watched, event);
     }

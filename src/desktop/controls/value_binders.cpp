@@ -88,16 +88,20 @@ class date_binder final : public binder {
                 model_.set_value({day.year(), day.month(), day.day()});
             });
         });
+        for (const auto chosen : {&QCalendarWidget::clicked, &QCalendarWidget::activated}) {
+            connect(edit_->calendarWidget(), chosen, this,
+                    [this] { this->act([&] { model_.confirm(); }); });
+        }
         edit_->calendarWidget()->installEventFilter(this);
         show_all();
     }
 
  private:
-    /// The calendar goes away after a choice as without one; the date stands by then.
+    /// The calendar goes away after a choice as without one.
     bool eventFilter(QObject* watched, QEvent* event) override {
         if (watched == &widget()) return binder::eventFilter(watched, event);
         if (event->type() == QEvent::Show) mark_today();
-        if (event->type() == QEvent::Hide) this->act([&] { model_.choose(model_.value()); });
+        if (event->type() == QEvent::Hide) this->act([&] { model_.close_up(); });
         return false;
     }
 

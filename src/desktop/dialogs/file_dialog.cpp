@@ -2,8 +2,10 @@
 
 #include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QMessageBox>
+#include <QSaveFile>
 #include <QStandardPaths>
 
 #include "desktop/look/box_look.h"
@@ -67,6 +69,17 @@ QString ask_what_to_open(const QString& title, const file_kind& kind, QWidget* a
     dialog.setFileMode(QFileDialog::ExistingFile);
     dialog.setDirectory(documents());
     return run_dialog(dialog, kind, words::open);
+}
+
+void save_whole(const QString& file, const QByteArray& content, QWidget* above) {
+    // A new file takes the place of a link and is never written through it.
+    if (QFileInfo(file).isSymLink()) QFile::remove(file);
+    QSaveFile target(file);
+    if (target.open(QIODevice::WriteOnly) && target.write(content) == content.size() &&
+        target.commit()) {
+        return;
+    }
+    tell(QString::fromUtf8(words::cannot_write).arg(file, target.errorString()), above);
 }
 
 void tell(const QString& what, QWidget* above) {

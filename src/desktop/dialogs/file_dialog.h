@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
 class QWidget;
@@ -30,6 +31,10 @@ QString ask_where_to_save(const QString& title, const QString& called, const fil
 
 /// A file to read, chosen by the user; empty for none.
 QString ask_what_to_open(const QString& title, const file_kind& kind, QWidget* above);
+
+/// Gives a file its content in one step, when all of it is on the disk; if that can't be, what
+/// stands there stays, and the user is told why.
+void save_whole(const QString& file, const QByteArray& content, QWidget* above);
 
 /// A box with a warning.
 void tell(const QString& what, QWidget* above);

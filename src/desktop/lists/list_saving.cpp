@@ -1,8 +1,5 @@
 #include "desktop/lists/list_saving.h"
 
-#include <QFileInfo>
-#include <QSaveFile>
-
 #include "desktop/dialogs/file_dialog.h"
 #include "desktop/lists/list_text.h"
 #include "desktop/look/words.h"
@@ -42,16 +39,7 @@ void save_list(const shown_list& list, const QString& called, QWidget* above) {
     const QString file = ask_where_to_save(QString::fromUtf8(words::save_list), called,
                                            {QString::fromUtf8(words::csv_files), "csv"}, above);
     if (file.isEmpty()) return;
-    const std::string text = csv_text(list);
-    // A new file takes the place of a link and is never written through it.
-    if (QFileInfo(file).isSymLink()) QFile::remove(file);
-    QSaveFile target(file);
-    const auto size = static_cast<qint64>(text.size());
-    if (target.open(QIODevice::WriteOnly) && target.write(text.data(), size) == size &&
-        target.commit()) {
-        return;
-    }
-    tell(QString::fromUtf8(words::cannot_write).arg(file, target.errorString()), above);
+    save_whole(file, QByteArray::fromStdString(csv_text(list)), above);
 }
 
 }  // namespace vantora::ui::desktop

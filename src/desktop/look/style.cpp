@@ -127,6 +127,10 @@ QCalendarWidget QWidget#qt_calendar_navigationbar { background: #e9eef3; }
 QCalendarWidget QToolButton { color: #24527a; font-weight: 600; }
 QCalendarWidget QToolButton#qt_calendar_prevmonth { qproperty-icon: url(:/icons/indietro.svg); }
 QCalendarWidget QToolButton#qt_calendar_nextmonth { qproperty-icon: url(:/icons/avanti.svg); }
+QLabel#number_hint { border: 1px solid #b58a00; border-radius: 4px; background: #fff8dc;
+                     color: #4a3b00; padding: 3px 7px; }
+QLineEdit[wrong="true"], QLineEdit[wrong="true"]:focus { border: 1px solid #a3271c;
+                     background: #fdf0ee; }
 QLabel#station_note { border: 1px solid #2f6ea5; border-radius: 6px; background: #f4f9ff;
                       color: #24527a; padding: 12px 24px; font-weight: 600; }
 QToolTip { border: 1px solid #c5ced6; background: #ffffff; color: #1e2b36; padding: 3px 5px; }

@@ -1,10 +1,12 @@
 #include "desktop/printing/print_preview.h"
 
 #include <QBoxLayout>
+#include <QBuffer>
 #include <QDialog>
 #include <QFrame>
 #include <QLabel>
 #include <QPainter>
+#include <QPdfWriter>
 #include <QPrintPreviewWidget>
 #include <QPrinter>
 #include <QScreen>
@@ -23,15 +25,20 @@ void save_as_pdf(const recorded_pages& pages, const QPrinter& like, const QStrin
     const QString file = ask_where_to_save(QString::fromUtf8(words::save_pdf), called,
                                            {QString::fromUtf8(words::pdf_files), "pdf"}, above);
     if (file.isEmpty()) return;
-    QPrinter paper(QPrinter::HighResolution);
-    paper.setOutputFormat(QPrinter::PdfFormat);
-    paper.setOutputFileName(file);
-    paper.setPageLayout(like.pageLayout());
-    paper.setFullPage(true);
-    paper.setDocName(called);
+    QBuffer pdf;
+    pdf.open(QIODevice::WriteOnly);
+    QPdfWriter paper(&pdf);
+    paper.setResolution(like.resolution());
+    QPageLayout sheet = like.pageLayout();
+    sheet.setMode(QPageLayout::FullPageMode);
+    sheet.setMargins({});
+    paper.setPageLayout(sheet);
+    paper.setTitle(called);
+    paper.setCreator("Vantora Ordini");
     if (!draw_pages(pages, paper)) {
-        tell(QString::fromUtf8(words::cannot_write).arg(file, QString()), above);
+        return tell(QString::fromUtf8(words::cannot_write).arg(file, QString()), above);
     }
+    save_whole(file, pdf.data(), above);
 }
 
 /// The dialog's bar of commands.
@@ -105,7 +112,7 @@ void fill(preview_bar& bar, QPrintPreviewWidget& view, QDialog& dialog,
 
 }  // namespace
 
-bool draw_pages(const recorded_pages& pages, QPrinter& on) {
+bool draw_pages(const recorded_pages& pages, QPagedPaintDevice& on) {
     QPainter painter;
     if (!painter.begin(&on)) return false;
     page_painter page(painter);

@@ -170,7 +170,8 @@ void system_printer::print_recorded() {
     const int now = orientation();
     set_orientation(recorded_orientation_);
     printer_.setFullPage(true);
-    const recorded_pages pages = std::exchange(recorded_, {});
+    recorded_pages pages = std::exchange(recorded_, {});
+    pages.add_to_last(note_mark());
     if (wants_printed(pages, printer_, job_name_, QApplication::activeWindow())) {
         begin_job();
         for (std::size_t i = 0; i < pages.count() && job_->page; ++i) {
@@ -187,12 +188,23 @@ void system_printer::end_job() {
         print_recorded();
     } else if (!job_) {
         return;
+    } else if (job_->page) {
+        note_mark()(*job_->page);
     }
     job_.reset();
     job_name_ = words::nameless_job;
     page_ended_ = false;
     // The next document must not take this one's place.
     if (printer_.outputFormat() == QPrinter::PdfFormat) printer_.setOutputFileName(QString());
+}
+
+recorded_pages::mark system_printer::note_mark() const {
+    constexpr double from_left = 10;
+    constexpr double from_bottom = 9;
+    constexpr colour red = 0x1c27a3;
+    return [note = note_, y = page_height() - from_bottom](page_painter& on) {
+        if (!note.empty()) on.text(from_left, y, note, {"Arial", 9, true, false}, red);
+    };
 }
 
 void system_printer::set_job_name(std::string_view name) {

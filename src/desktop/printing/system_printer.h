@@ -44,6 +44,7 @@ class system_printer final : public printer {
     void new_page() override;
     void end_job() override;
     void set_job_name(std::string_view name) override;
+    void set_note(std::string_view note) override { note_ = note; }
     void preview_next_job() override { preview_next_ = true; }
     bool choose_settings() override;
 
@@ -57,6 +58,8 @@ class system_printer final : public printer {
     /// dropped.
     page_painter* page();
     void begin_job();
+    /// The note as a mark under everything else.
+    [[nodiscard]] recorded_pages::mark note_mark() const;
     void print_recorded();
     /// False, with the user told, if the file can't be written.
     bool open_file(const QString& file);
@@ -65,6 +68,7 @@ class system_printer final : public printer {
     ask_for_file ask_;
     tell_failure tell_;
     QString job_name_;
+    std::string note_;
     std::unique_ptr<job> job_;
     bool page_ended_ = false;  ///< the next mark begins a new page
     bool preview_ = false;

@@ -22,6 +22,8 @@ class recorded_pages {
         begin_page();
         open_ = false;
     }
+    /// Puts a mark on the last page, though it is ended. REQUIRES: there is one.
+    void add_to_last(mark one) { pages_.back().push_back(std::move(one)); }
     void clear() {
         pages_.clear();
         open_ = false;
