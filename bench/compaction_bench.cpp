@@ -44,7 +44,8 @@ int run(int orders, int rounds) {
         files.orc.write_block(1, block);
         rec_tot counter{};
         counter.quanti = static_cast<std::int16_t>(orders);
-        compatta_archivio(files, counter, false, [](int) {});
+        files.tot.write(contatori::ordini, counter);
+        compatta_archivio(files, false, [](int, int) {});
     };
     const auto copy = [&] {
         plain->write(0, bytes);

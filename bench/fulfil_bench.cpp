@@ -70,7 +70,8 @@ void booking(archivi& files, int orders, int every, int rounds) {
         }
     }
     const auto book = [&] {
-        for (const auto record : rows) prenota_riga(files, record, 1, articles);
+        archive_change change(files);
+        for (const auto record : rows) prenota_riga(change, files, record, 1, articles);
     };
     const auto copy = [&] {
         rec_orc row;

@@ -2,6 +2,8 @@
 
 #include <cmath>
 #include <stdexcept>
+#include <string>
+#include <string_view>
 
 namespace vantora {
 
@@ -25,8 +27,10 @@ inline double checked(double value) {
 /// A file that must be read or written couldn't be.
 class device_error final : public runtime_error {
  public:
-    device_error()
-        : runtime_error("Errore di run-time: un archivio non si lascia leggere o scrivere") {}
+    /// `file`: as users know it, "vantora.orc".
+    explicit device_error(std::string_view file)
+        : runtime_error("Errore di run-time: l'archivio " + std::string(file) +
+                        " non si lascia leggere o scrivere") {}
 };
 
 class subscript_error final : public runtime_error {

@@ -51,7 +51,7 @@ void visit_short_lines(const archivi& files, const righe_ordine& lines, int arti
         auto known = stock.find(line.articolo);
         if (known == stock.end()) {
             rec_art article;
-            if (!files.art.read(line.articolo, article)) throw device_error();
+            if (!files.art.read(line.articolo, article)) throw device_error(files.art.name());
             known = stock.emplace(line.articolo, article).first;
         }
         const double quantity = line.quantita;

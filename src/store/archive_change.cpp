@@ -69,7 +69,7 @@ void archive_change::give_up(change_outcome::what why, std::string_view file) {
 
 bool archive_change::note(bool done, std::string_view file) {
     if (done) return true;
-    if (then_ == faults::end_the_program) throw device_error();
+    if (then_ == faults::end_the_program) throw device_error(file);
     return remember(file);
 }
 

@@ -16,7 +16,9 @@ class hostile_texts : public test::program_window {
     hostile_texts() {
         rec_cli customer = vantora::test::customer_named(hostile);
         customer.intestazione2 = customer.indirizzo = hostile;
-        customer.email = customer.note1 = customer.vettore1 = hostile;
+        customer.email = hostile;
+        customer.note1 = hostile;
+        customer.vettore1 = hostile;
         company.customers({customer});
         company.articles({vantora::test::article("<b>A</b>", hostile, 10)});
         company.table_file();
