@@ -110,7 +110,9 @@ void add_filter(form_window& window, report_screen& screen, const filter_look& l
     line->setSpacing(3);
     line->addWidget(field);
     if (const date_picker* picker = screen.calendar(look.which)) {
-        line->addWidget(dress_calendar(window.widget(*picker)));
+        QWidget* calendar = dress_calendar(window.widget(*picker));
+        calendar->setAccessibleName(spoken(look.caption));
+        line->addWidget(calendar);
     }
     column->addLayout(line);
     row->addLayout(column, look.stretch);

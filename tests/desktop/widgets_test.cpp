@@ -61,27 +61,6 @@ class trial final : public form {
 
 using widgets = test::window_of<trial>;
 
-TEST_F(widgets, ACalendarTellsAChoiceOfTheDayThatStandsThere) {
-    run({[&] {
-        int choices = 0;
-        screen->data.on_choice = [&] { ++choices; };
-        auto* picker = bench.find<QDateEdit>("data");
-        const auto open = [&] {
-            QTest::mousePress(picker, Qt::LeftButton, {}, QPoint(picker->width() - 6, 10));
-            return picker->calendarWidget()->findChild<QTableView*>();
-        };
-        QTableView* days = open();
-        const auto chosen = days->selectionModel()->selectedIndexes();
-        ASSERT_EQ(chosen.size(), 1);
-        QTest::mouseClick(days->viewport(), Qt::LeftButton, {},
-                          days->visualRect(chosen[0]).center());
-        EXPECT_EQ(choices, 1);
-        QTest::keyClick(open(), Qt::Key_Escape);
-        EXPECT_EQ(choices, 1);
-        EXPECT_EQ(screen->data.text(), "01/01/2000");
-    }});
-}
-
 TEST_F(widgets, ALabelTakesALeftClickThatEndsOnIt) {
     run({[&] {
         auto* label = bench.find("scritta");
@@ -205,7 +184,9 @@ TEST_F(widgets, AListTakesTheRowThatIsHighlighted) {
                                             Qt::Key_End,  Qt::Key_Left};
                 if (random() % 9 == 0) {
                     view->verticalScrollBar()->setValue(static_cast<int>(random() % rows));
-                    ASSERT_EQ(editor->geometry(), view->visualRect(view->currentIndex()));
+                    const QRect cell = view->visualRect(view->currentIndex());
+                    ASSERT_TRUE(editor->geometry() == cell ||
+                                (cell.isEmpty() && editor->geometry().isEmpty()));
                 }
                 const Qt::Key key = keys[random() % std::size(keys)];
                 const int before = list.row();

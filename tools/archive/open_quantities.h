@@ -15,7 +15,14 @@ struct wrong_ordered_quantity {
     double stored = 0;   ///< what the article says
     double open = 0;     ///< what the orders have open of it
 
-    bool operator==(const wrong_ordered_quantity&) const = default;
+    /// The same finding; a figure that is no number is the same as itself.
+    bool operator==(const wrong_ordered_quantity& other) const {
+        const auto same = [](double one, double another) {
+            return one == another || (one != one && another != another);
+        };
+        return articolo == other.articolo && codice == other.codice && same(stored, other.stored) &&
+               same(open, other.open);
+    }
 };
 
 /// What the orders that aren't deleted have open of each article: quantity less fulfilled. A row

@@ -186,7 +186,7 @@ class grid_binder final : public binder {
         const int newest = row_of_newest(filled);
         if (newest == 0) return;
         const double number = number_of(newest);
-        int row = number > newest_ ? newest : 1;
+        int row = newest_ > 0 && number > newest_ ? newest : 1;
         newest_ = number;
         while (row != newest && row <= filled && model_.text(row, 0) != marked_) ++row;
         if (row > filled) return;
