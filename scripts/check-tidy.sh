@@ -9,7 +9,7 @@ cd "$(dirname "$0")/.."
 build=build/debug
 [ -f "$build/compile_commands.json" ] || cmake --preset debug >/dev/null
 if [ $# -eq 0 ]; then
-    set -- $(git ls-files 'src/*.cpp' 'tools/*.cpp' 'bench/*.cpp' | grep -v -E '^src/(ui/(desktop|look|paper)|app/desktop_)')
+    set -- $(git ls-files 'src/*.cpp' 'tools/*.cpp' 'bench/*.cpp' | grep -v -E '^src/(desktop|windows|ui/paper|app/desktop_)')
 fi
 # Its count of what it passed over in system headers is of no use.
 printf '%s\n' "$@" | xargs -P "$(nproc)" -n 4 clang-tidy -p "$build" --quiet 2>/tmp/tidy.$$ ||
