@@ -185,7 +185,10 @@ TEST_F(widgets, AListTakesTheRowThatIsHighlighted) {
                                             Qt::Key_End,  Qt::Key_Left};
                 if (random() % 9 == 0) {
                     view->verticalScrollBar()->setValue(static_cast<int>(random() % rows));
-                    ASSERT_EQ(editor->geometry(), view->visualRect(view->currentIndex()));
+                    // A row out of sight has no place, and its editor no width.
+                    const QRect cell = view->visualRect(view->currentIndex());
+                    ASSERT_TRUE(editor->geometry() == cell ||
+                                (cell.isEmpty() && editor->geometry().isEmpty()));
                 }
                 const Qt::Key key = keys[random() % std::size(keys)];
                 const int before = list.row();
