@@ -9,6 +9,7 @@
 #include "orders/stored_lines.h"
 #include "orders/totals.h"
 #include "store/company.h"
+#include "store/records/order_block.h"
 #include "store/suite_table.h"
 #include "text/dates.h"
 #include "text/number_text.h"
@@ -64,6 +65,12 @@ bool wants_mail(const program& app, const rec_cli& customer) {
 
 documento_archiviato ordine_archiviato(const program& app, std::int16_t registrazione) {
     documento_archiviato document;
+    // A row that can't be read must not come out as the one before it.
+    std::vector<rec_orc> whole(righe_blocco);
+    if (!app.archives.orc.read_block(block_record(registrazione, 1), whole)) {
+        document.perche = "L'ordine non si lascia leggere: " + app.archives.orc.name();
+        return document;
+    }
     const stored_rows<rec_orc> rows(app.archives.orc, registrazione);
     if (rows[1].annullato == 1) {
         document.perche = "Ordine annullato";
