@@ -10,7 +10,7 @@
 #include "archive/export_sqlite.h"
 #include "bench/cold_files.h"
 #include "bench/measure.h"
-#include "demo/company.h"
+#include "demo/demo_company.h"
 #include "support/scratch_folder.h"
 
 namespace vantora::bench {

@@ -7,13 +7,13 @@
 
 #include "bench/measure.h"
 #include "customer/mirorcm.h"
-#include "demo/company.h"
+#include "demo/demo_company.h"
 #include "documents/print_file.h"
 #include "documents/printed_document.h"
 #include "entry/mirorcz.h"
 #include "entry/save_order.h"
 #include "orders/totals.h"
-#include "store/company.h"
+#include "store/suite_paths.h"
 #include "support/program_stage.h"
 
 namespace vantora::bench {

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "reports/report.h"
-#include "store/values.h"
+#include "store/money.h"
 #include "text/number_text.h"
 
 namespace vantora::bench {

@@ -19,7 +19,7 @@
 #include "reports/mirston.h"
 #include "reports/mirstos.h"
 #include "reports/mirstov.h"
-#include "store/company.h"
+#include "store/suite_paths.h"
 #include "support/program_stage.h"
 
 namespace {

@@ -13,8 +13,8 @@
 #include <algorithm>
 
 #include "desktop/look/words.h"
-#include "store/company.h"
 #include "store/drive.h"
+#include "store/suite_paths.h"
 #include "store/text_reader.h"
 #include "ui/paper/toolkit_values.h"
 

@@ -1,6 +1,6 @@
 #include "documents/document_tables.h"
 
-#include "store/company.h"
+#include "store/suite_paths.h"
 #include "store/text_reader.h"
 
 namespace vantora {

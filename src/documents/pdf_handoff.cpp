@@ -1,7 +1,7 @@
 #include "documents/pdf_handoff.h"
 
 #include "documents/print_file.h"
-#include "store/company.h"
+#include "store/suite_paths.h"
 #include "text/number_text.h"
 
 namespace vantora {

@@ -1,6 +1,6 @@
 #include "documents/pdf_settings.h"
 
-#include "store/company.h"
+#include "store/suite_paths.h"
 #include "store/text_reader.h"
 #include "text/code_page.h"
 

@@ -6,7 +6,7 @@
 #include "documents/document_tables.h"
 #include "orders/order_lines.h"
 #include "program/program.h"
-#include "store/values.h"
+#include "store/money.h"
 #include "ui/controls.h"
 
 namespace vantora {

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "store/archives.h"
-#include "store/values.h"
+#include "store/money.h"
 #include "text/dates.h"
 
 namespace vantora {

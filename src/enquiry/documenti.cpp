@@ -4,7 +4,7 @@
 #include "enquiry/all_records.h"
 #include "enquiry/archived_document.h"
 #include "orders/customer_names.h"
-#include "store/company.h"
+#include "store/suite_paths.h"
 #include "text/dates.h"
 #include "text/int16.h"
 #include "text/number_text.h"

@@ -2,7 +2,7 @@
 
 #include "enquiry/all_records.h"
 #include "orders/customer_names.h"
-#include "store/values.h"
+#include "store/money.h"
 #include "text/dates.h"
 #include "text/number_text.h"
 

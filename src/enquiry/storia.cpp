@@ -2,7 +2,7 @@
 
 #include "enquiry/archived_document.h"
 #include "orders/order_rows.h"
-#include "store/values.h"
+#include "store/money.h"
 #include "text/dates.h"
 #include "text/int16.h"
 #include "text/number_text.h"

@@ -5,7 +5,7 @@
 #include <functional>
 #include <span>
 
-#include "store/company.h"
+#include "store/suite_paths.h"
 
 namespace vantora {
 

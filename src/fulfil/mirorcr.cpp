@@ -1,6 +1,6 @@
 #include "fulfil/mirorcr.h"
 
-#include "store/values.h"
+#include "store/money.h"
 #include "text/number_text.h"
 #include "ui/enter_key.h"
 

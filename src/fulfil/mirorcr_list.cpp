@@ -4,8 +4,8 @@
 #include "orders/order_rows.h"
 #include "program/list_progress.h"
 #include "store/block_reader.h"
+#include "store/money.h"
 #include "store/record_stretches.h"
-#include "store/values.h"
 #include "text/dates.h"
 
 namespace vantora {

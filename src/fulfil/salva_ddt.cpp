@@ -1,6 +1,6 @@
 #include "fulfil/salva_ddt.h"
 
-#include "store/company.h"
+#include "store/suite_paths.h"
 #include "text/dates.h"
 #include "text/int16.h"
 #include "text/number_text.h"

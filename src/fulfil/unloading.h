@@ -5,7 +5,7 @@
 
 #include "orders/order_lines.h"
 #include "store/archive_change.h"
-#include "store/values.h"
+#include "store/money.h"
 
 namespace vantora {
 

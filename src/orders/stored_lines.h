@@ -5,8 +5,8 @@
 #include "orders/order_lines.h"
 #include "orders/order_rows.h"
 #include "store/block_reader.h"
+#include "store/money.h"
 #include "store/records/rec_art.h"
-#include "store/values.h"
 
 namespace vantora {
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "orders/order_lines.h"
+#include "store/money.h"
 #include "store/suite_table.h"
-#include "store/values.h"
 
 namespace vantora {
 

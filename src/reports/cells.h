@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "store/values.h"
+#include "store/money.h"
 #include "ui/printer.h"
 
 namespace vantora {

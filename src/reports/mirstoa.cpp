@@ -4,9 +4,9 @@
 
 #include "orders/customer_names.h"
 #include "reports/key_range.h"
-#include "store/company.h"
 #include "store/key_index.h"
 #include "store/record_stretches.h"
+#include "store/suite_paths.h"
 #include "store/text_reader.h"
 #include "text/number_text.h"
 

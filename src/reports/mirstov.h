@@ -1,7 +1,7 @@
 #pragma once
 
 #include "reports/report_screen.h"
-#include "store/values.h"
+#include "store/money.h"
 
 namespace vantora {
 

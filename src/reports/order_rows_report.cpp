@@ -1,7 +1,7 @@
 #include "reports/order_rows_report.h"
 
 #include "orders/customer_names.h"
-#include "store/values.h"
+#include "store/money.h"
 #include "text/dates.h"
 
 namespace vantora {

@@ -4,7 +4,7 @@
 
 #include "documents/print_file_writer.h"
 #include "reports/report_engine.h"
-#include "store/company.h"
+#include "store/suite_paths.h"
 
 namespace vantora {
 

@@ -1,6 +1,6 @@
 #include "reports/sheet_report.h"
 
-#include "store/values.h"
+#include "store/money.h"
 #include "text/dates.h"
 
 namespace vantora {

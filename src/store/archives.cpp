@@ -1,6 +1,6 @@
 #include "store/archives.h"
 
-#include "store/company.h"
+#include "store/suite_paths.h"
 
 namespace vantora {
 

@@ -1,7 +1,7 @@
 #include "store/parameters.h"
 
 #include "store/channel.h"
-#include "store/company.h"
+#include "store/suite_paths.h"
 #include "store/text_reader.h"
 #include "store/vat_codes.h"
 #include "text/int16.h"

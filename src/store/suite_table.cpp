@@ -4,7 +4,7 @@
 #include <optional>
 #include <string_view>
 
-#include "store/company.h"
+#include "store/suite_paths.h"
 #include "store/text_reader.h"
 #include "store/vat_codes.h"
 

@@ -98,7 +98,7 @@ void add_line_keys(form_window& window, line_grid& screen, line_rows& lines) {
     const auto cell = [&screen, &lines]() -> text_box& {
         return screen.artic[std::max(lines.current(), 0)];
     };
-    new told_key(window, "Ctrl+V", QString::fromUtf8(words::paste_key));
+    new key_help(window, "Ctrl+V", QString::fromUtf8(words::paste_key));
     QShortcut* file = add_key(window, "Ctrl+Shift+O", words::paste_file);
     QObject::connect(file, &QShortcut::activated, &lines, [&window, cell] {
         const QString chosen =

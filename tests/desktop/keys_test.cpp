@@ -42,7 +42,7 @@ TEST_F(keys, OverviewManualAndReadmeTellTheKeysThatTheWindowsHave) {
     run({[&] {
         QStringList told, shown;
         QWidget* front = bench.front.front_window();
-        for (const told_key* one : keys_of(*front)) told << one->native_keys() << one->what();
+        for (const key_help* one : keys_of(*front)) told << one->native_keys() << one->what();
         QTimer::singleShot(0, [&] {
             auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
             ASSERT_TRUE(dialog);
@@ -56,7 +56,7 @@ TEST_F(keys, OverviewManualAndReadmeTellTheKeysThatTheWindowsHave) {
         for (screen_place* place : all_screens()) place->use();
         key_set windows;
         for (const QWidget* window : QApplication::topLevelWidgets()) {
-            for (const told_key* one : keys_of(*window)) {
+            for (const key_help* one : keys_of(*window)) {
                 EXPECT_FALSE(one->what().isEmpty()) << one->keys().toStdString();
                 for (const QString& key : one->keys().split(' ')) windows.insert(portable(key));
             }

@@ -10,7 +10,7 @@
 #include "program_window.h"
 #include "register/mirorc.h"
 #include "store/archive_change.h"
-#include "store/company.h"
+#include "store/suite_paths.h"
 
 namespace vantora::ui::desktop {
 namespace {

@@ -12,7 +12,7 @@
 #include "desktop/desktop_front_end.h"
 #include "desktop/look/style.h"
 #include "ui/desk.h"
-#include "ui/script/stage_ports.h"
+#include "ui/script/recording_ports.h"
 #include "windows/layouts.h"
 
 namespace vantora::ui::desktop::test {

@@ -7,7 +7,7 @@
 #include <memory>
 #include <random>
 
-#include "demo/company.h"
+#include "demo/demo_company.h"
 #include "documents/print_file_reader.h"
 #include "documents/printed_document.h"
 #include "support/file_bytes.h"

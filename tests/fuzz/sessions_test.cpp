@@ -7,7 +7,7 @@
 #include <random>
 
 #include "archive/check.h"
-#include "demo/company.h"
+#include "demo/demo_company.h"
 #include "entry/save_order.h"
 #include "register/compattazione.h"
 #include "register/mirorc.h"

@@ -4,7 +4,7 @@
 
 #include "reports/report_screen.h"
 #include "reports/report_stage.h"
-#include "store/values.h"
+#include "store/money.h"
 #include "text/dates.h"
 #include "text/number_text.h"
 

@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "store/company.h"
 #include "store/drive.h"
+#include "store/suite_paths.h"
 #include "support/faulty_files.h"
 #include "support/scratch_folder.h"
 

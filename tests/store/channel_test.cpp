@@ -4,9 +4,9 @@
 #include <sys/resource.h>
 
 #include "store/archives.h"
-#include "store/company.h"
 #include "store/drive.h"
 #include "store/records.h"
+#include "store/suite_paths.h"
 #include "support/faulty_files.h"
 #include "support/file_bytes.h"
 #include "support/scratch_folder.h"

@@ -7,7 +7,7 @@
 
 #include <cerrno>
 
-#include "store/company.h"
+#include "store/suite_paths.h"
 #include "support/file_bytes.h"
 #include "support/scratch_folder.h"
 

@@ -7,7 +7,7 @@
 #include "archive/check.h"
 #include "archive/repair.h"
 #include "demo_folder.h"
-#include "store/company.h"
+#include "store/suite_paths.h"
 
 namespace vantora::archive {
 namespace {

@@ -3,7 +3,7 @@
 #include <cstring>
 #include <vector>
 
-#include "demo/company.h"
+#include "demo/demo_company.h"
 #include "support/file_bytes.h"
 #include "support/scratch_folder.h"
 

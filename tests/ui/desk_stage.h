@@ -5,7 +5,7 @@
 
 #include "ui/desk.h"
 #include "ui/script/kept_answers.h"
-#include "ui/script/stage_ports.h"
+#include "ui/script/recording_ports.h"
 
 namespace vantora::ui::test {
 

@@ -4,7 +4,7 @@
 #include <fstream>
 #include <nlohmann/json.hpp>
 
-#include "demo/company.h"
+#include "demo/demo_company.h"
 #include "support/scratch_folder.h"
 
 namespace vantora {

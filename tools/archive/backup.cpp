@@ -8,7 +8,7 @@
 #include "archive/staging.h"
 #include "store/archive_change.h"
 #include "store/archives.h"
-#include "store/company.h"
+#include "store/suite_paths.h"
 #include "text/code_page.h"
 
 namespace vantora::archive {

@@ -1,7 +1,7 @@
 #include <cmath>
 
 #include "archive/check.h"
-#include "store/company.h"
+#include "store/suite_paths.h"
 
 namespace vantora::archive {
 

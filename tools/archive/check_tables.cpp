@@ -1,7 +1,7 @@
 #include <cstring>
 
 #include "archive/check.h"
-#include "store/company.h"
+#include "store/suite_paths.h"
 #include "store/text_reader.h"
 #include "store/vat_codes.h"
 #include "text/number_text.h"

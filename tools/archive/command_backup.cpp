@@ -5,7 +5,7 @@
 #include "archive/backup.h"
 #include "archive/commands.h"
 #include "archive/copying.h"
-#include "store/company.h"
+#include "store/suite_paths.h"
 #include "text/number_text.h"
 
 namespace vantora::archive {

@@ -1,6 +1,6 @@
 #include "archive/company_files.h"
 
-#include "store/company.h"
+#include "store/suite_paths.h"
 
 namespace vantora::archive {
 

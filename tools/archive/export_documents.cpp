@@ -1,5 +1,5 @@
 #include "archive/table_writer.h"
-#include "store/company.h"
+#include "store/suite_paths.h"
 #include "store/text_reader.h"
 #include "text/number_text.h"
 

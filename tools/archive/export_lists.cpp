@@ -1,6 +1,6 @@
 #include "archive/table_writer.h"
-#include "store/company.h"
 #include "store/records/rec_gnr.h"
+#include "store/suite_paths.h"
 #include "store/suite_table.h"
 #include "store/text_reader.h"
 

@@ -1,8 +1,8 @@
 #include <iostream>
 
 #include "archive/commands.h"
-#include "store/company.h"
 #include "store/drive.h"
+#include "store/suite_paths.h"
 
 namespace vantora::archive {
 

@@ -4,7 +4,7 @@
 
 #include "archive/open_quantities.h"
 #include "store/archive_change.h"
-#include "store/company.h"
+#include "store/suite_paths.h"
 #include "text/number_text.h"
 
 namespace vantora::archive {

@@ -4,8 +4,8 @@
 #include <string>
 
 #include "archive/company_files.h"
+#include "store/money.h"
 #include "store/suite_table.h"
-#include "store/values.h"
 
 namespace vantora::archive {
 

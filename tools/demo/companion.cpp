@@ -1,8 +1,8 @@
 #include "demo/companion.h"
 
 #include "demo/output.h"
-#include "store/company.h"
 #include "store/drive.h"
+#include "store/suite_paths.h"
 
 namespace vantora::demo {
 

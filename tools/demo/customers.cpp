@@ -4,8 +4,8 @@
 
 #include "demo/codes.h"
 #include "demo/draws.h"
+#include "demo/shop_words.h"
 #include "demo/tables.h"
-#include "demo/words.h"
 #include "text/code_page.h"
 
 namespace vantora::demo {

@@ -2,7 +2,7 @@
 #include <iostream>
 
 #include "demo/companion.h"
-#include "demo/company.h"
+#include "demo/demo_company.h"
 #include "store/drive.h"
 
 namespace {

@@ -4,7 +4,7 @@
 #include "mirxpdf/document_pdf.h"
 #include "mirxpdf/mail.h"
 #include "mirxpdf/pdf_file.h"
-#include "store/company.h"
+#include "store/suite_paths.h"
 #include "text/code_page.h"
 #include "ui/paper/toolkit_values.h"
 #include "ui/pictures/pixbuf_decoder.h"

@@ -23,19 +23,19 @@ namespace vantora::ui::desktop {
 
 namespace {
 
-constexpr const char* told_name = "told_key";
+constexpr const char* told_name = "key_help";
 
 /// Set while a button is pressed by a key of its own.
 constexpr const char* by_key = "by_key";
 
 }  // namespace
 
-told_key::told_key(QWidget& owner, QString keys, QString what)
+key_help::key_help(QWidget& owner, QString keys, QString what)
     : QObject(&owner), keys_(std::move(keys)), what_(std::move(what)) {
     setObjectName(told_name);
 }
 
-QString told_key::native_keys() const {
+QString key_help::native_keys() const {
     QStringList named;
     for (const QString& one : keys_.split(' ')) {
         named << QKeySequence(one).toString(QKeySequence::NativeText);
@@ -46,7 +46,7 @@ QString told_key::native_keys() const {
 QShortcut* add_key(QWidget& owner, const char* keys, const char* what) {
     auto* shortcut = new QShortcut(QKeySequence(keys), &owner);
     shortcut->setAutoRepeat(false);
-    new told_key(owner, keys, QString::fromUtf8(what));
+    new key_help(owner, keys, QString::fromUtf8(what));
     return shortcut;
 }
 
@@ -69,16 +69,16 @@ void add_shortcut(QAbstractButton& button, const char* keys) {
     button.setToolTip((button.toolTip() + " " + named).trimmed());
 }
 
-std::vector<const told_key*> keys_of(const QWidget& window) {
-    std::vector<const told_key*> keys;
+std::vector<const key_help*> keys_of(const QWidget& window) {
+    std::vector<const key_help*> keys;
     for (const QObject* child : window.findChildren<QObject*>(told_name)) {
-        const auto* one = static_cast<const told_key*>(child);
+        const auto* one = static_cast<const key_help*>(child);
         const auto* owner = static_cast<const QWidget*>(one->parent());
         if (owner == &window || !owner->isHidden()) keys.push_back(one);
     }
     // Commands first, then what the window has besides.
     std::ranges::stable_partition(keys,
-                                  [&](const told_key* one) { return one->parent() != &window; });
+                                  [&](const key_help* one) { return one->parent() != &window; });
     return keys;
 }
 
@@ -89,7 +89,7 @@ namespace {
 constexpr int single_column_rows = 14;
 constexpr int longest_line = 60;  ///< characters; what is longer would need a window too wide
 
-QWidget* key_table(const std::vector<const told_key*>& keys, QWidget* parent) {
+QWidget* key_table(const std::vector<const key_help*>& keys, QWidget* parent) {
     auto* table = new QWidget(parent);
     auto* cells = new QGridLayout(table);
     cells->setHorizontalSpacing(14);
@@ -97,7 +97,7 @@ QWidget* key_table(const std::vector<const told_key*>& keys, QWidget* parent) {
     const int count = static_cast<int>(keys.size());
     const int rows_a_column = count > single_column_rows ? (count + 1) / 2 : single_column_rows;
     int at = 0;
-    for (const told_key* one : keys) {
+    for (const key_help* one : keys) {
         auto* key = new QLabel(one->native_keys(), table);
         key->setProperty("role", "key");
         auto* what = new QLabel(one->what(), table);
@@ -170,7 +170,7 @@ QToolButton* help_button(QWidget& window) {
 void add_help(QWidget& window) {
     QObject::connect(add_key(window, "Ctrl+?", words::show_keys), &QShortcut::activated, &window,
                      [&window] { show_keys(window); });
-    new told_key(window, "F1", QString::fromUtf8(words::manual_key));
+    new key_help(window, "F1", QString::fromUtf8(words::manual_key));
     if (window.findChild<QToolButton*>("aiuto")) return;
     for (auto* bar : window.findChildren<QFrame*>()) {
         auto* row = qobject_cast<QHBoxLayout*>(bar->layout());

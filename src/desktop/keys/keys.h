@@ -13,10 +13,10 @@ class QWidget;
 namespace vantora::ui::desktop {
 
 /// One line of the overview of a window's keys, which is made of all those below the window.
-class told_key final : public QObject {
+class key_help final : public QObject {
  public:
     /// `keys` in the portable form "Ctrl+Shift+E"; several are separated by blanks.
-    told_key(QWidget& owner, QString keys, QString what);
+    key_help(QWidget& owner, QString keys, QString what);
 
     [[nodiscard]] const QString& keys() const { return keys_; }
     /// As the keyboard calls them here.
@@ -42,7 +42,7 @@ bool clicked_by_key(const QAbstractButton& button);
 void add_shortcut(QAbstractButton& button, const char* keys);
 
 /// The lines of the overview that hold for what is there to be worked in.
-std::vector<const told_key*> keys_of(const QWidget& window);
+std::vector<const key_help*> keys_of(const QWidget& window);
 
 /// Shows the overview and waits until it is closed.
 void show_keys(QWidget& window);

@@ -48,8 +48,8 @@ class list_tools final : public QObject {
         QShortcut* find = add_key(window, "Ctrl+F", words::find_in_list);
         find->setObjectName(view.objectName() + "_trova");
         QShortcut* save = add_key(window, "Ctrl+Shift+E", words::save_list);
-        new told_key(window, "Ctrl+C", QString::fromUtf8(words::copy_rows));
-        new told_key(window, "Shift+Up Shift+Down Ctrl+A", QString::fromUtf8(words::mark_rows));
+        new key_help(window, "Ctrl+C", QString::fromUtf8(words::copy_rows));
+        new key_help(window, "Shift+Up Shift+Down Ctrl+A", QString::fromUtf8(words::mark_rows));
         connect(find, &QShortcut::activated, find_, [this] {
             if (list_.view().isVisible()) find_->open();
         });

@@ -1,7 +1,7 @@
 #include "ui/script/interpreter.h"
 
 #include "text/code_page.h"
-#include "ui/script/state.h"
+#include "ui/script/replies.h"
 
 namespace vantora::ui::script {
 

@@ -12,7 +12,7 @@
 #include "ui/desk.h"
 #include "ui/script/command.h"
 #include "ui/script/kept_answers.h"
-#include "ui/script/stage_ports.h"
+#include "ui/script/recording_ports.h"
 
 namespace vantora::ui::script {
 

@@ -1,6 +1,6 @@
 #include "text/code_page.h"
 #include "ui/script/interpreter.h"
-#include "ui/script/state.h"
+#include "ui/script/replies.h"
 
 namespace vantora::ui::script {
 

@@ -1,4 +1,4 @@
-#include "ui/script/stage_ports.h"
+#include "ui/script/recording_ports.h"
 
 #include <utility>
 

@@ -1,4 +1,4 @@
-#include "demo/words.h"
+#include "demo/shop_words.h"
 
 namespace vantora::demo {
 

@@ -1,8 +1,8 @@
 #include <span>
 #include <string_view>
 
+#include "demo/shop_words.h"
 #include "demo/tables.h"
-#include "demo/words.h"
 
 namespace vantora::demo {
 

@@ -1,4 +1,4 @@
-#include "store/values.h"
+#include "store/money.h"
 
 #include <array>
 #include <cmath>

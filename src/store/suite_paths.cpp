@@ -1,4 +1,4 @@
-#include "store/company.h"
+#include "store/suite_paths.h"
 
 #include <cmath>
 

@@ -1,7 +1,7 @@
 // How amounts round is held by the totals, how many decimals a company has by the reports, both
 // against a plain recomputation.
 
-#include "store/values.h"
+#include "store/money.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "demo/company.h"
+#include "demo/demo_company.h"
 
 #include <algorithm>
 
@@ -9,9 +9,9 @@
 #include "demo/orders.h"
 #include "demo/page.h"
 #include "demo/tables.h"
-#include "store/company.h"
 #include "store/drive.h"
 #include "store/records/rec_tot.h"
+#include "store/suite_paths.h"
 
 namespace vantora::demo {
 

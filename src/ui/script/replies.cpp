@@ -1,4 +1,4 @@
-#include "ui/script/state.h"
+#include "ui/script/replies.h"
 
 #include <algorithm>
 
