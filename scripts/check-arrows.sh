@@ -26,9 +26,9 @@ desktop/controls: desktop/dialogs desktop/keys desktop/look ui ui/paper text
 desktop/lists: desktop/dialogs desktop/keys desktop/look ui ui/paper text
 desktop/printing: desktop/dialogs desktop/look ui ui/paper
 desktop: desktop/controls desktop/keys desktop/lists desktop/look ui ui/paper ui/script text
-windows: desktop desktop/controls desktop/dialogs desktop/keys desktop/look register enquiry customer entry fulfil reports ui ui/paper
+windows: orders desktop desktop/controls desktop/dialogs desktop/keys desktop/look register enquiry customer entry fulfil reports ui ui/paper
 program: store text ui
-customer: program store store/records text ui
+customer: program orders store store/records text ui
 documents: program orders store text ui
 enquiry: customer documents entry program orders store store/records text ui
 register: enquiry program orders store text ui

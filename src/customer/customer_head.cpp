@@ -38,10 +38,10 @@ void customer_head::limit_hands() {
         Text2[i].accepts = input_rule::text(customer_fields[i](widths).size());
     }
     // The carrier's last line comes from an order's row too, where there is more room.
-    Text2[19].accepts = input_rule::text(decltype(rec_orc::testo3)::width);
+    Text2[campo_cliente::vettore3].accepts = input_rule::text(decltype(rec_orc::testo3)::width);
     if (!kind_.of_order) return;
-    Text3[0].accepts = input_rule::text(decltype(rec_orc::numero)::width);
-    for (int i = 3; i < 6; ++i) {
+    Text3[campo_ordine::numero].accepts = input_rule::text(decltype(rec_orc::numero)::width);
+    for (std::size_t i = campo_ordine::riferimento1; i <= campo_ordine::riferimento3; ++i) {
         Text3[i].accepts = input_rule::text(decltype(rec_orc::testo1)::width);
     }
 }
@@ -56,7 +56,8 @@ void customer_head::wire_events() {
     };
     Combo3.on_click = [this] { take_carrier(); };
     ui::on_enter(nome, [this] { search_by_hand(); });
-    for (int i = 0; i < 21; ++i) ui::enter_moves(Text2[i], Text2[i + 1]);
+    for (std::size_t i = 0; i + 1 < campo_cliente::quanti; ++i)
+        ui::enter_moves(Text2[i], Text2[i + 1]);
     for (int i = 0; i < 5; ++i) ui::enter_moves(Text3[i], Text3[i + 1]);
     for (int i = 0; i < 2; ++i) {
         ui::tie_day(Text3[kind_.date_fields[i]], text5[i], app_.desk.clock());
@@ -134,7 +135,8 @@ void customer_head::show_customer() {
     show_fields();
     Combo1[pagamento].choose(cliente_.pagamento - 1);
     if (!customer_deleted()) return;
-    for (int i = 2; i < 22; ++i) Text2[i].set_text("");
+    for (std::size_t i = campo_cliente::indirizzo; i < campo_cliente::quanti; ++i)
+        Text2[i].set_text("");
 }
 
 void customer_head::read_customer() {
@@ -149,8 +151,9 @@ void customer_head::show_fields() {
     }
     Label2.set_visible(customer_deleted());
     // A deleted customer's name carries a mark in front.
-    const std::string name = Text2[0].text();
-    if (customer_deleted() && !name.empty()) Text2[0].set_text(name.substr(1));
+    const std::string name = Text2[campo_cliente::intestazione1].text();
+    if (customer_deleted() && !name.empty())
+        Text2[campo_cliente::intestazione1].set_text(name.substr(1));
 }
 
 bool customer_head::customer_deleted() const {
@@ -170,7 +173,7 @@ void customer_head::scrolled() {
 
 void customer_head::search_by_hand() {
     if (app_.desk.guards().on() && trimmed(nome.text()).empty()) {
-        Text2[0].set_focus();
+        Text2[campo_cliente::intestazione1].set_focus();
     } else {
         search();
     }
@@ -210,7 +213,7 @@ void customer_head::take_carrier() {
     const vettore& carrier = vettori_[static_cast<std::size_t>(Combo3.chosen())];
     for (std::size_t i = 0; i < carrier.size(); ++i) {
         const std::string_view line = trimmed(carrier[i]);
-        if (line != "*") Text2[17 + i].set_text(line);
+        if (line != "*") Text2[campo_cliente::vettore1 + i].set_text(line);
     }
 }
 

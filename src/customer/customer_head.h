@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "orders/head_fields.h"
 #include "program/program.h"
 #include "store/suite_table.h"
 #include "ui/controls.h"
@@ -12,10 +13,10 @@ namespace vantora {
 struct customer_head_kind {
     const char* name;
     const char* title;
-    int caller;               ///< how the pick list knows it, in `selezione_cliente`
-    int date_fields[2];       ///< which of `Text3` stand beside the two date pickers
-    bool trims_name = false;  ///< before it goes to the pick list
-    bool of_order = true;     ///< number and references go into an order's rows
+    int caller;                  ///< how the pick list knows it, in `selezione_cliente`
+    std::size_t date_fields[2];  ///< which of `Text3` stand beside the two date pickers
+    bool trims_name = false;     ///< before it goes to the pick list
+    bool of_order = true;        ///< number and references go into an order's rows
 };
 
 /// A screen that finds a customer, shows it, and holds the head of a document in its controls:
@@ -31,9 +32,9 @@ class customer_head : public ui::form {
     ui::button b_cerca;
     ui::button b_lista;
     ui::scroll_bar HScroll1;  ///< runs over the customers in the order of their names
-    ui::text_box Text2[22];   ///< the customer, field by field
-    ui::drop_down Combo3;     ///< carriers
-    ui::text_box Text3[6];    ///< number, dates, references
+    ui::text_box Text2[campo_cliente::quanti];  ///< as `campo_cliente`
+    ui::drop_down Combo3;                       ///< carriers
+    ui::text_box Text3[campo_ordine::quanti];   ///< as `campo_ordine` or `campo_ddt`
     ui::date_picker text5[2];
     ui::drop_down Combo1[3];
     ui::button bottone;  ///< goes on

@@ -8,8 +8,10 @@ namespace vantora {
 
 namespace {
 
-constexpr customer_head_kind ordine_esistente{
-    "mirorcm", "Modifica cliente", elenco_clienti::da_mirorcm, {1, 2}};
+constexpr customer_head_kind ordine_esistente{"mirorcm",
+                                              "Modifica cliente",
+                                              elenco_clienti::da_mirorcm,
+                                              {campo_ordine::data, campo_ordine::data_evasione}};
 
 }  // namespace
 

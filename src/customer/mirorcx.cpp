@@ -7,8 +7,10 @@ namespace vantora {
 
 namespace {
 
-constexpr customer_head_kind nuovo_ordine{
-    "mirorcx", "Selezione cliente", elenco_clienti::da_mirorcx, {1, 2}};
+constexpr customer_head_kind nuovo_ordine{"mirorcx",
+                                          "Selezione cliente",
+                                          elenco_clienti::da_mirorcx,
+                                          {campo_ordine::data, campo_ordine::data_evasione}};
 
 }  // namespace
 
@@ -24,14 +26,14 @@ void mirorcx::start_fresh() {
     app_.archives.tot.read(contatori::ordini, contatore_);
     for (auto& field : Text3) field.set_text("");
     const auto next = add_int16(contatore_.ultimo_numero, 1);
-    if (next) Text3[0].set_text(std::to_string(*next));
+    if (next) Text3[campo_ordine::numero].set_text(std::to_string(*next));
     const std::string today = date_text(app_.desk.clock().now().day);
-    Text3[1].set_text(today);
-    Text3[2].set_text(today);
+    Text3[campo_ordine::data].set_text(today);
+    Text3[campo_ordine::data_evasione].set_text(today);
     start_at_first_customer();
 }
 
-bool mirorcx::date_is_right(int field, const std::string& complaint) {
+bool mirorcx::date_is_right(std::size_t field, const std::string& complaint) {
     const std::string_view typed = trimmed(Text3[field].text());
     if (typed.size() == 10 && read_date(typed)) return true;
     app_.desk.message(complaint, "Attenzione", ui::icon::stop);
@@ -40,8 +42,10 @@ bool mirorcx::date_is_right(int field, const std::string& complaint) {
 }
 
 void mirorcx::go_on() {
-    if (!date_is_right(1, "La data dell'ordine non è corretta"_cp)) return;
-    if (!date_is_right(2, "La data presunta di evasione non è corretta"_cp)) return;
+    if (!date_is_right(campo_ordine::data, "La data dell'ordine non è corretta"_cp)) return;
+    if (!date_is_right(campo_ordine::data_evasione,
+                       "La data presunta di evasione non è corretta"_cp))
+        return;
     if (!customer_usable()) return;
     app_.selezione_1 = cliente_corrente_;
     if (!app_.mirorcs.exists()) return;

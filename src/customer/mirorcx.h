@@ -17,7 +17,7 @@ class mirorcx final : public customer_head {
 
  private:
     void start_fresh();
-    bool date_is_right(int field, const std::string& complaint);
+    bool date_is_right(std::size_t field, const std::string& complaint);
 };
 
 }  // namespace vantora

@@ -19,18 +19,18 @@ std::string scelte_registrate(const customer_head& head, int prezzo) {
 }
 
 bool mostra_spedizione(customer_head& head, int number, const rec_orc& row) {
-    const auto show = [&head](int field, const text<40>& stored) {
+    const auto show = [&head](std::size_t field, const text<40>& stored) {
         head.Text2[field].set_text(stored.trimmed());
     };
     switch (number) {
         case 2:
-            show(8, row.testo1);
-            show(9, row.testo2);
-            show(10, row.testo3);
+            show(campo_cliente::amm_intestazione1, row.testo1);
+            show(campo_cliente::amm_intestazione2, row.testo2);
+            show(campo_cliente::amm_indirizzo, row.testo3);
             return true;
         case 3: {
-            show(11, row.testo1);
-            show(12, row.testo2);
+            show(campo_cliente::amm_cap, row.testo1);
+            show(campo_cliente::amm_citta, row.testo2);
             const bool port =
                 head.Combo1[customer_head::porto].choose(scelta(row.testo3, scelta_testata::porto));
             const bool transport = head.Combo1[customer_head::trasporto].choose(
@@ -38,9 +38,9 @@ bool mostra_spedizione(customer_head& head, int number, const rec_orc& row) {
             return port && transport;
         }
         case 4:
-            show(17, row.testo1);
-            show(18, row.testo2);
-            show(19, row.testo3);
+            show(campo_cliente::vettore1, row.testo1);
+            show(campo_cliente::vettore2, row.testo2);
+            show(campo_cliente::vettore3, row.testo3);
             return true;
         default:
             return true;

@@ -76,8 +76,7 @@ std::optional<istantanea_ddt> leggi_istantanea(std::string content) {
     for (int number = 1; number <= righe_ordine::massimo; ++number) {
         read_line(from, all.righe[number]);
     }
-    for (std::size_t i = 8; i <= 12; ++i) all.text2[i] = from.text();
-    for (std::size_t i = 17; i <= 21; ++i) all.text2[i] = from.text();
+    for (const std::size_t i : campo_cliente::del_documento) all.text2[i] = from.text();
     if (!from.whole()) return {};
     return all;
 }

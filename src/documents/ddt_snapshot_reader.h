@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "orders/head_fields.h"
 #include "orders/order_lines.h"
 
 namespace vantora {
@@ -13,13 +14,15 @@ namespace vantora {
 /// What the text file of a transport document keeps of it.
 struct istantanea_ddt {
     std::int16_t cliente = 0;
-    std::array<std::string, 6> text3;  ///< number, date, parcels, weight, start: day and time
-    int causale = -1;                  ///< entries chosen in their lists, -1 for none
+    std::array<std::string, campo_ddt::quanti>
+        text3;         ///< number, date, parcels, weight, start: day and time
+    int causale = -1;  ///< entries chosen in their lists, -1 for none
     int aspetto = -1;
     int porto = -1;
     int trasporto = -1;
     righe_ordine righe;
-    std::array<std::string, 22> text2;  ///< destination and carrier; other fields are empty
+    std::array<std::string, campo_cliente::quanti>
+        text2;  ///< destination and carrier; other fields are empty
 };
 
 /// The name of that file, in the company's folder: "b" and the document's running number.

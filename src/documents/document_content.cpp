@@ -116,7 +116,8 @@ testo_posto contenuto_documento::campo(const campo_documento& field, int page) c
         case fonte::letterale:
             return left(field.testo);
         case fonte::partita_iva:
-            return left(std::string(trimmed(head.text2[6])) + std::string(trimmed(head.text2[7])));
+            return left(std::string(trimmed(head.text2[campo_cliente::prefisso_iva])) +
+                        std::string(trimmed(head.text2[campo_cliente::partita_iva])));
         case fonte::pagina:
             return left(std::to_string(page));
         case fonte::testo_documenti:

@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "orders/head_fields.h"
+
 namespace vantora {
 
 namespace {
@@ -11,12 +13,13 @@ template <std::size_t N>
 constexpr void set_common_fields(std::array<campo_documento, N>& all) {
     using enum fonte;
     for (std::size_t n = 1; n <= 16; ++n) all[n] = {ditta, n};
-    for (std::size_t n = 18; n <= 22; ++n) all[n] = {text2, n - 18};
+    for (std::size_t n = 18; n <= 22; ++n) all[n] = {text2, campo_cliente::intestazione1 + n - 18};
     all[23] = {partita_iva};
-    all[24] = {text2, 5};
-    for (std::size_t n = 25; n <= 32; ++n) all[n] = {text2, n - 17};
-    all[33] = {text3, 0};
-    all[34] = {text3, 1};
+    all[24] = {text2, campo_cliente::codice_fiscale};
+    for (std::size_t n = 25; n <= 32; ++n)
+        all[n] = {text2, campo_cliente::amm_intestazione1 + n - 25};
+    all[33] = {text3, campo_ordine::numero};
+    all[34] = {text3, campo_ordine::data};
     all[35] = {pagina};
 }
 
@@ -24,10 +27,10 @@ constexpr std::array<campo_documento, 68> campi_ordine = [] {
     using enum fonte;
     std::array<campo_documento, 68> all{};
     set_common_fields(all);
-    for (std::size_t n = 36; n <= 38; ++n) all[n] = {text3, n - 33};
+    for (std::size_t n = 36; n <= 38; ++n) all[n] = {text3, campo_ordine::riferimento1 + n - 36};
     all[39] = {letterale, 0, "Ordine cliente"};
-    all[40] = {text3, 2};
-    for (std::size_t n = 41; n <= 43; ++n) all[n] = {text2, n - 24};
+    all[40] = {text3, campo_ordine::data_evasione};
+    for (std::size_t n = 41; n <= 43; ++n) all[n] = {text2, campo_cliente::vettore1 + n - 41};
     all[44] = {combo1, 1};
     all[45] = {testo_documenti};
     for (std::size_t rate = 0; rate < 3; ++rate) {
@@ -43,8 +46,8 @@ constexpr std::array<campo_documento, 68> campi_ordine = [] {
     all[63] = {totale_iva};
     all[64] = {totale};
     all[65] = {letterale, 0, "ORDINE CLIENTE"};
-    all[66] = {text2, 20};
-    all[67] = {text2, 21};
+    all[66] = {text2, campo_cliente::note1};
+    all[67] = {text2, campo_cliente::note2};
     return all;
 }();
 
@@ -58,17 +61,17 @@ constexpr std::array<campo_documento, 51> campi_trasporto = [] {
     std::array<campo_documento, 51> all{};
     set_common_fields(all);
     all[36] = {combo1, 1};
-    all[37] = {text3, 2};
-    all[38] = {text3, 3};
+    all[37] = {text3, campo_ddt::colli};
+    all[38] = {text3, campo_ddt::peso};
     all[39] = {combo2};
     all[40] = {combo1, 0};
     all[41] = {combo1, 2};
-    for (std::size_t n = 43; n <= 45; ++n) all[n] = {text2, n - 26};
-    all[46] = {text3, 4};
-    all[47] = {text3, 5};
+    for (std::size_t n = 43; n <= 45; ++n) all[n] = {text2, campo_cliente::vettore1 + n - 43};
+    all[46] = {text3, campo_ddt::inizio};
+    all[47] = {text3, campo_ddt::ora};
     all[48] = {letterale, 0, "DOCUMENTO DI TRASPORTO"};
-    all[49] = {text2, 20};
-    all[50] = {text2, 21};
+    all[49] = {text2, campo_cliente::note1};
+    all[50] = {text2, campo_cliente::note2};
     return all;
 }();
 

@@ -71,8 +71,8 @@ void offri_copie(program& app, const documento_da_stampare& document, bool invia
         if (now == esito_stampa::completa) file = app.files.read_whole(file_di_stampa);
     } while (app.desk.ask("Stampa altra copia?", nomi_di(document.tipo).titolo_stampa));
     if (!printed) return;
-    offri_pdf(app, {document.tipo, document.testata.text3[0], invia, document.cliente.email.full(),
-                    document.tabelle, std::move(file)});
+    offri_pdf(app, {document.tipo, document.testata.text3[campo_ordine::numero], invia,
+                    document.cliente.email.full(), document.tabelle, std::move(file)});
 }
 
 }  // namespace vantora

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "documents/document_tables.h"
+#include "orders/head_fields.h"
 #include "orders/order_lines.h"
 #include "program/program.h"
 #include "store/money.h"
@@ -13,8 +14,9 @@ namespace vantora {
 
 /// The head of a document, as the fields of the screen that holds it show it.
 struct testata_documento {
-    std::array<std::string, 22> text2;  ///< the customer
-    std::array<std::string, 6> text3;   ///< number, dates; references, or facts of the transport
+    std::array<std::string, campo_cliente::quanti> text2;  ///< the customer
+    std::array<std::string, campo_ordine::quanti>
+        text3;                          ///< number, dates; references, or facts of the transport
     std::array<std::string, 3> combo1;  ///< carriage; payment terms or transport cause; carrier
     std::string combo2;                 ///< aspect of the goods, of a transport document
 };

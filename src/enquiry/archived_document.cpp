@@ -46,8 +46,14 @@ void fill_order_head(documento_archiviato& document, const program& app,
                   std::string(rows[1].testo2.trimmed()),
                   std::string(rows[1].testo3.trimmed())};
     const std::pair<std::size_t, const text<40>*> stored[] = {
-        {8, &rows[2].testo1},  {9, &rows[2].testo2},  {10, &rows[2].testo3}, {11, &rows[3].testo1},
-        {12, &rows[3].testo2}, {17, &rows[4].testo1}, {18, &rows[4].testo2}, {19, &rows[4].testo3}};
+        {campo_cliente::amm_intestazione1, &rows[2].testo1},
+        {campo_cliente::amm_intestazione2, &rows[2].testo2},
+        {campo_cliente::amm_indirizzo, &rows[2].testo3},
+        {campo_cliente::amm_cap, &rows[3].testo1},
+        {campo_cliente::amm_citta, &rows[3].testo2},
+        {campo_cliente::vettore1, &rows[4].testo1},
+        {campo_cliente::vettore2, &rows[4].testo2},
+        {campo_cliente::vettore3, &rows[4].testo3}};
     for (const auto& [field, text] : stored) head.text2[field] = text->trimmed();
     const auto chosen = [&](scelta_testata which) { return scelta(rows[3].testo3, which); };
     const tabella_suite table = leggi_tabella_suite(app.files, app.parameters.numero_azienda);
@@ -110,8 +116,7 @@ documento_archiviato ddt_archiviato(const program& app, std::int16_t number) {
     fill_customer(document, app, kept->cliente);
     testata_documento& head = document.testata;
     head.text3 = kept->text3;
-    for (std::size_t i = 8; i <= 12; ++i) head.text2[i] = kept->text2[i];
-    for (std::size_t i = 17; i <= 21; ++i) head.text2[i] = kept->text2[i];
+    for (const std::size_t i : campo_cliente::del_documento) head.text2[i] = kept->text2[i];
     const tabella_suite table = leggi_tabella_suite(app.files, app.parameters.numero_azienda);
     head.combo1 = {entry_of(voci_porto, kept->porto), entry_of(table.causali, kept->causale),
                    entry_of(voci_trasporto, kept->trasporto)};
@@ -130,7 +135,7 @@ void ristampa(program& app, documento_archiviato& document, uscita_ristampa wher
     const documento_da_stampare printed{document.tipo, document.testata, document.righe,
                                         document.iva,  document.cliente, currency,
                                         *tables,       *drawing,         nothing_shown};
-    const std::string_view number = trimmed(document.testata.text3[0]);
+    const std::string_view number = trimmed(document.testata.text3[campo_ordine::numero]);
     const bool order = document.tipo == tipo_documento::ordine;
     app.desk.printer().set_job_name((order ? "Ordine " : "DDT ") + std::string(number));
     if (where != uscita_ristampa::pdf) {
@@ -143,8 +148,9 @@ void ristampa(program& app, documento_archiviato& document, uscita_ristampa wher
     if (componi_documento(app, printed, paper) == esito_stampa::completa) {
         file = app.files.read_whole(file_di_stampa);
     }
-    offri_pdf(app, {document.tipo, document.testata.text3[0], wants_mail(app, document.cliente),
-                    document.cliente.email.full(), *tables, std::move(file)});
+    offri_pdf(app, {document.tipo, document.testata.text3[campo_ordine::numero],
+                    wants_mail(app, document.cliente), document.cliente.email.full(), *tables,
+                    std::move(file)});
 }
 
 }  // namespace vantora

@@ -35,9 +35,9 @@ std::string bozze::fill(list_rows& list) {
     for (std::size_t i = 0; i < found_.size(); ++i) {
         const bozza& draft = found_[i].draft;
         list.next();
-        list.write(cliente, draft.text2[0]);
+        list.write(cliente, draft.text2[campo_cliente::intestazione1]);
         list.write(ordine, draft.nuova ? "nuovo" : draft.visto.numero.trimmed());
-        list.write(riferimento, draft.text3[3]);
+        list.write(riferimento, draft.text3[campo_ordine::riferimento1]);
         list.write(righe, std::to_string(ultima_riga_usata(draft.contenuto.lines)));
         if (const auto moment = read_clock(draft.salvata)) {
             list.write(tenuta_il, date_text(moment->day) + " " + time_text(*moment));

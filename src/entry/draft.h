@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "entry/line_history.h"
+#include "orders/head_fields.h"
 #include "orders/order_seen.h"
 
 namespace vantora {
@@ -21,8 +22,8 @@ struct bozza {
     ordine_visto visto;          ///< the opened order as it stood then
     std::uint64_t impronta = 0;  ///< and the print of its rows
     std::int16_t cliente = 0;
-    std::array<std::string, 22> text2;  ///< the head's controls
-    std::array<std::string, 6> text3;
+    std::array<std::string, campo_cliente::quanti> text2;  ///< the head's controls
+    std::array<std::string, campo_ordine::quanti> text3;
     std::array<int, 3> combo1{};
     order_content contenuto;
 };

@@ -39,7 +39,7 @@ bool seems_saved(program& app, const bozza& draft) {
     const double since = date_number(*kept);
     return find_order(app, [&](const rec_orc& head) {
                return head.data_reg >= since && head.cliente == draft.cliente &&
-                      head.numero.trimmed() == draft.text3[0];
+                      head.numero.trimmed() == draft.text3[campo_ordine::numero];
            }) > 0;
 }
 
@@ -136,9 +136,10 @@ std::string day_and_time(const std::string& moment) {
 }  // namespace
 
 std::string nome_bozza(const bozza& draft) {
-    const std::string customer = "ordine di " + draft.text2[0];
+    const std::string customer = "ordine di " + draft.text2[campo_cliente::intestazione1];
     if (draft.nuova) return customer;
-    return "ordine " + std::string(draft.visto.numero.trimmed()) + " di " + draft.text2[0];
+    return "ordine " + std::string(draft.visto.numero.trimmed()) + " di " +
+           draft.text2[campo_cliente::intestazione1];
 }
 
 void riprendi_bozza(program& app, const std::string& name) {
@@ -153,7 +154,8 @@ void riprendi_bozza(program& app, const std::string& name) {
     if (!draft->nuova) return take_up_opened(app, std::move(*draft), std::move(*file));
     if (seems_saved(app, *draft) &&
         !app.desk.guards().confirm("Dopo la bozza è stato registrato un ordine "_cp +
-                                   draft->text3[0] + " di " + draft->text2[0] +
+                                   draft->text3[campo_ordine::numero] + " di " +
+                                   draft->text2[campo_cliente::intestazione1] +
                                    ": può essere questo. Riprenderla lo stesso?"_cp)) {
         return;
     }

@@ -43,7 +43,8 @@ bool mirorcs::may_save() {
     if (!order_screen::may_save()) return false;
     return head().customer_chosen() ||
            app_.desk.guards().confirm("Nessuno ha scelto il cliente: l'ordine va a "_cp +
-                                      head().Text2[0].text() + ". Salvarlo lo stesso?");
+                                      head().Text2[campo_cliente::intestazione1].text() +
+                                      ". Salvarlo lo stesso?");
 }
 
 change_outcome mirorcs::store() {

@@ -88,7 +88,8 @@ bool order_screen::may_leave() {
         forget_draft();
         return true;
     }
-    const std::string question = "L'ordine di " + head().Text2[0].text() + " non è salvato."_cp;
+    const std::string question =
+        "L'ordine di " + head().Text2[campo_cliente::intestazione1].text() + " non è salvato."_cp;
     if (!app_.person) return app_.desk.guards().confirm(question + " Abbandonarlo?");
     constexpr auto keep = ui::answer::choice_1;
     constexpr auto give_up = ui::answer::choice_2;

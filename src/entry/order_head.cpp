@@ -12,13 +12,18 @@ testata_registrata testata_da_registrare(const customer_head& screen, int prezzo
     const std::string choices = scelte_registrate(screen, prezzo);
 
     testata_registrata head;
-    head.numero = order[0].text();
-    head.data = order[1].text();
-    head.data_evasione = order[2].text();
-    head.testi = {{{order[3].text(), order[4].text(), order[5].text()},
-                   {fields[8].text(), fields[9].text(), fields[10].text()},
-                   {fields[11].text(), fields[12].text(), choices},
-                   {fields[17].text(), fields[18].text(), fields[19].text()}}};
+    head.numero = order[campo_ordine::numero].text();
+    head.data = order[campo_ordine::data].text();
+    head.data_evasione = order[campo_ordine::data_evasione].text();
+    head.testi = {
+        {{order[campo_ordine::riferimento1].text(), order[campo_ordine::riferimento2].text(),
+          order[campo_ordine::riferimento3].text()},
+         {fields[campo_cliente::amm_intestazione1].text(),
+          fields[campo_cliente::amm_intestazione2].text(),
+          fields[campo_cliente::amm_indirizzo].text()},
+         {fields[campo_cliente::amm_cap].text(), fields[campo_cliente::amm_citta].text(), choices},
+         {fields[campo_cliente::vettore1].text(), fields[campo_cliente::vettore2].text(),
+          fields[campo_cliente::vettore3].text()}}};
     return head;
 }
 
@@ -32,12 +37,12 @@ testata_documento testata_da_stampare(const customer_head& screen) {
 
 void mostra_testata(customer_head& screen, const stored_rows<rec_orc>& rows) {
     auto& order = screen.Text3;
-    order[0].set_text(rows[1].numero.trimmed());
-    order[1].set_text(date_text_of_stored(rows[1].data.full()));
-    order[2].set_text(date_text_of_stored(rows[1].data_evasione.full()));
-    order[3].set_text(rows[1].testo1.trimmed());
-    order[4].set_text(rows[1].testo2.trimmed());
-    order[5].set_text(rows[1].testo3.trimmed());
+    order[campo_ordine::numero].set_text(rows[1].numero.trimmed());
+    order[campo_ordine::data].set_text(date_text_of_stored(rows[1].data.full()));
+    order[campo_ordine::data_evasione].set_text(date_text_of_stored(rows[1].data_evasione.full()));
+    order[campo_ordine::riferimento1].set_text(rows[1].testo1.trimmed());
+    order[campo_ordine::riferimento2].set_text(rows[1].testo2.trimmed());
+    order[campo_ordine::riferimento3].set_text(rows[1].testo3.trimmed());
     for (const int number : {2, 3, 4}) mostra_spedizione(screen, number, rows[number]);
     const int payment = scelta(rows[3].testo3, scelta_testata::pagamento);
     screen.Combo1[customer_head::pagamento].choose(payment);

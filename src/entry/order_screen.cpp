@@ -32,8 +32,9 @@ void order_screen::activate() {
 
 void order_screen::show_head() {
     const customer_head& shown = head();
-    testata.set_text(shown.Text2[0].text() + " - Ordine " + shown.Text3[0].text() + " del " +
-                     shown.Text3[1].text());
+    testata.set_text(shown.Text2[campo_cliente::intestazione1].text() + " - Ordine " +
+                     shown.Text3[campo_ordine::numero].text() + " del " +
+                     shown.Text3[campo_ordine::data].text());
 }
 
 void order_screen::open_order(std::int16_t customer) {

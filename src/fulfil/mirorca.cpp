@@ -114,8 +114,9 @@ void mirorca::activate() {
     propose_movement();
     propose_mail();
     const mirorcc& head = *app_.mirorcc;
-    testata.set_text(head.Text2[0].text() + " - DDT " + head.Text3[0].text() + " del " +
-                     head.Text3[1].text());
+    testata.set_text(head.Text2[campo_cliente::intestazione1].text() + " - DDT " +
+                     head.Text3[campo_ddt::numero].text() + " del " +
+                     head.Text3[campo_ddt::data].text());
     paint();
     artic[0].set_focus();
 }
@@ -123,7 +124,8 @@ void mirorca::activate() {
 void mirorca::propose_movement() {
     text1[0].set_text("");
     Text.set_value(app_.desk.clock().now().day);
-    text1[1].set_text(std::string("DDT n.").append(trimmed(app_.mirorcc->Text3[0].text())));
+    text1[1].set_text(
+        std::string("DDT n.").append(trimmed(app_.mirorcc->Text3[campo_ddt::numero].text())));
 }
 
 void mirorca::totals_changed() {
@@ -132,7 +134,7 @@ void mirorca::totals_changed() {
     for (int number = 1; number <= righe_ordine::massimo; ++number) {
         weight += righe_[number].peso * righe_[number].quantita;
     }
-    app_.mirorcc->Text3[3].set_text(testo_peso(checked(weight)));
+    app_.mirorcc->Text3[campo_ddt::peso].set_text(testo_peso(checked(weight)));
 }
 
 // Commands ----------------------------------------------------------------------------------------
@@ -238,7 +240,8 @@ void mirorca::print(const mirorcc& head) {
     righe_ordine lines = righe_;
     testata_documento printed = testata_da_stampare(head);
     printed.combo2 = head.Combo2.text();
-    app_.desk.printer().set_job_name("DDT " + std::string(trimmed(printed.text3[0])));
+    app_.desk.printer().set_job_name("DDT " +
+                                     std::string(trimmed(printed.text3[campo_ddt::numero])));
     offri_copie(app_,
                 {tipo_documento::documento_trasporto, printed, lines, totali_.iva, cliente_,
                  valuta_, tabelle_, disegno_, Picture1},

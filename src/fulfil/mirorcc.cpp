@@ -7,8 +7,12 @@ namespace vantora {
 
 namespace {
 
-constexpr customer_head_kind dati_trasporto{
-    "mirorcc", "Evasione ordini", elenco_clienti::da_mirorcc, {1, 4}, true, false};
+constexpr customer_head_kind dati_trasporto{"mirorcc",
+                                            "Evasione ordini",
+                                            elenco_clienti::da_mirorcc,
+                                            {campo_ddt::data, campo_ddt::inizio},
+                                            true,
+                                            false};
 
 }  // namespace
 
@@ -39,12 +43,12 @@ void mirorcc::propose_transport() {
     app_.archives.tot.read(contatori::documenti_trasporto, contatore_);
     for (auto& field : Text3) field.set_text("");
     if (const auto next = add_int16(contatore_.ultimo_numero, 1)) {
-        Text3[0].set_text(std::to_string(*next));
+        Text3[campo_ddt::numero].set_text(std::to_string(*next));
     }
     const date_time now = app_.desk.clock().now();
-    Text3[1].set_text(date_text(now.day));
-    Text3[4].set_text(date_text(now.day));
-    Text3[5].set_text(time_text(now));
+    Text3[campo_ddt::data].set_text(date_text(now.day));
+    Text3[campo_ddt::inizio].set_text(date_text(now.day));
+    Text3[campo_ddt::ora].set_text(time_text(now));
     Combo1[1].choose(0);
     Combo2.choose(0);
 }
@@ -54,7 +58,8 @@ void mirorcc::show_customer() {
         read_customer();
         show_fields();
     } else {
-        for (int i = 1; i < 22; ++i) Text2[i].set_text("");
+        for (std::size_t i = campo_cliente::intestazione2; i < campo_cliente::quanti; ++i)
+            Text2[i].set_text("");
         Label2.set_visible(false);
     }
     nome.set_focus();

@@ -51,7 +51,8 @@ mirorcr::mirorcr(program& app)
 }
 
 std::string mirorcr::subject() const {
-    return app_.mirorcc.loaded() ? app_.mirorcc->Text2[0].text() : std::string();
+    return app_.mirorcc.loaded() ? app_.mirorcc->Text2[campo_cliente::intestazione1].text()
+                                 : std::string();
 }
 
 void mirorcr::wire_events() {

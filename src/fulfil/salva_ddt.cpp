@@ -20,7 +20,7 @@ float next_progressive(float progressive) {
 rec_bol record_of(const ddt_da_registrare& document, std::int16_t number, float progressive) {
     rec_bol record;
     record.numero = number;
-    record.data = stored_of_date_text(document.text3[1]);
+    record.data = stored_of_date_text(document.text3[campo_ddt::data]);
     record.testo1 = "";
     record.testo2 = "";
     record.progressivo = progressive;
@@ -64,8 +64,7 @@ std::string snapshot_of(const ddt_da_registrare& document, const righe_ordine& l
     all.number(document.aspetto);
     all.text(std::to_string(document.porto) + std::to_string(document.trasporto));
     for (int number = 1; number <= righe_ordine::massimo; ++number) add_line(all, lines[number]);
-    for (std::size_t i = 8; i <= 12; ++i) all.text(document.text2[i]);
-    for (std::size_t i = 17; i <= 21; ++i) all.text(document.text2[i]);
+    for (const std::size_t i : campo_cliente::del_documento) all.text(document.text2[i]);
     return all.content();
 }
 
@@ -81,7 +80,7 @@ change_outcome salva_ddt(archivi& files, file_port& port, int numero_azienda,
     change.writes(files.bol, counter.quanti, 1);
     if (!change.may_write()) return change.finish();
 
-    const auto number = to_int16(number_at_head(document.text3[0]));
+    const auto number = to_int16(number_at_head(document.text3[campo_ddt::numero]));
     counter.ultimo_numero = number.value_or(counter.ultimo_numero);
     counter.progressivo = next_progressive(counter.progressivo);
     if (!change.write(files.tot, contatori::documenti_trasporto, counter)) return change.finish();

@@ -3,6 +3,7 @@
 #include <array>
 #include <string>
 
+#include "orders/head_fields.h"
 #include "orders/order_lines.h"
 #include "store/archive_change.h"
 #include "store/file_port.h"
@@ -11,9 +12,10 @@ namespace vantora {
 
 /// A transport document as its screens have it, ready to be stored.
 struct ddt_da_registrare {
-    std::array<std::string, 22> text2;  ///< the customer
-    std::array<std::string, 6> text3;   ///< number, date, parcels, weight, start: day and time
-    int porto = -1;                     ///< entries chosen in their lists, -1 for none
+    std::array<std::string, campo_cliente::quanti> text2;  ///< the customer
+    std::array<std::string, campo_ddt::quanti>
+        text3;       ///< number, date, parcels, weight, start: day and time
+    int porto = -1;  ///< entries chosen in their lists, -1 for none
     int causale = -1;
     int trasporto = -1;
     int aspetto = -1;

@@ -36,12 +36,13 @@ void mirorc::print_again() {
         return;
     }
     const work printing(*this);
-    const auto wanted = app_.desk.show_box({"Ristampare l'ordine " + order.testata.text3[0] + "?",
-                                            "Ristampa",
-                                            ui::icon::question,
-                                            ui::buttons::choice,
-                                            ui::answer::choice_1,
-                                            {"Anteprima", "Stampa", "PDF", "Annulla"}});
+    const auto wanted = app_.desk.show_box(
+        {"Ristampare l'ordine " + order.testata.text3[campo_ordine::numero] + "?",
+         "Ristampa",
+         ui::icon::question,
+         ui::buttons::choice,
+         ui::answer::choice_1,
+         {"Anteprima", "Stampa", "PDF", "Annulla"}});
     constexpr uscita_ristampa outputs[] = {uscita_ristampa::anteprima, uscita_ristampa::stampa,
                                            uscita_ristampa::pdf};
     if (wanted == ui::answer::choice_4) return;

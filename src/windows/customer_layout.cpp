@@ -3,6 +3,7 @@
 #include <QLineEdit>
 #include <QScrollBar>
 
+#include "orders/head_fields.h"
 #include "windows/layout_pieces.h"
 
 namespace vantora::ui::desktop {
@@ -17,30 +18,35 @@ constexpr const char* hint =
 
 std::vector<frame_row> registered_office_rows(const customer_head& head) {
     const auto& fields = head.Text2;
+    using namespace campo_cliente;
     return {
-        {"Intestazione ", {{fields[0]}}},
-        {"", {{fields[1]}}},
-        {"Indirizzo", {{fields[2]}}},
-        {"CAP Città", {{fields[3], 6}, {fields[4]}}},
-        {"Codice fiscale", {{fields[5]}, {fields[6], 2, "Partita iva"}, {fields[7], 12}}},
+        {"Intestazione ", {{fields[intestazione1]}}},
+        {"", {{fields[intestazione2]}}},
+        {"Indirizzo", {{fields[indirizzo]}}},
+        {"CAP Città", {{fields[cap], 6}, {fields[citta]}}},
+        {"Codice fiscale",
+         {{fields[codice_fiscale]},
+          {fields[prefisso_iva], 2, "Partita iva"},
+          {fields[partita_iva], 12}}},
     };
 }
 
 std::vector<frame_row> administrative_office_rows(const customer_head& head) {
     const auto& fields = head.Text2;
+    using namespace campo_cliente;
     return {
-        {"Intestazione ", {{fields[8]}}},
-        {"", {{fields[9]}}},
-        {"Indirizzo", {{fields[10]}}},
-        {"CAP Città", {{fields[11], 6}, {fields[12]}}},
-        {"Recapiti telefonici", {{fields[13]}, {fields[14]}, {fields[15]}}},
-        {"E Mail", {{fields[16]}}},
+        {"Intestazione ", {{fields[amm_intestazione1]}}},
+        {"", {{fields[amm_intestazione2]}}},
+        {"Indirizzo", {{fields[amm_indirizzo]}}},
+        {"CAP Città", {{fields[amm_cap], 6}, {fields[amm_citta]}}},
+        {"Recapiti telefonici", {{fields[telefono1]}, {fields[telefono2]}, {fields[telefono3]}}},
+        {"E Mail", {{fields[email]}}},
         {"Vettori", {{head.Combo3}}},
-        {"Vettore usuale", {{fields[17]}}},
-        {"", {{fields[18]}}},
-        {"", {{fields[19]}}},
-        {"Note da stampare\nsui documenti", {{fields[20]}}},
-        {"", {{fields[21]}}},
+        {"Vettore usuale", {{fields[vettore1]}}},
+        {"", {{fields[vettore2]}}},
+        {"", {{fields[vettore3]}}},
+        {"Note da stampare\nsui documenti", {{fields[note1]}}},
+        {"", {{fields[note2]}}},
     };
 }
 

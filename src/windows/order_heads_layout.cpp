@@ -9,15 +9,15 @@ namespace {
 
 std::vector<frame_row> order_head_rows(const customer_head& head) {
     return {
-        {"Numero attribuito all'ordine", {{head.Text3[0], 12}}},
+        {"Numero attribuito all'ordine", {{head.Text3[campo_ordine::numero], 12}}},
         {"Data di emissione",
-         {{head.Text3[1], 10},
+         {{head.Text3[campo_ordine::data], 10},
           {head.text5[0]},
-          {head.Text3[2], 10, "Data evasione"},
+          {head.Text3[campo_ordine::data_evasione], 10, "Data evasione"},
           {head.text5[1]}}},
-        {"Riferimenti ordine", {{head.Text3[3]}}},
-        {"", {{head.Text3[4]}}},
-        {"", {{head.Text3[5]}}},
+        {"Riferimenti ordine", {{head.Text3[campo_ordine::riferimento1]}}},
+        {"", {{head.Text3[campo_ordine::riferimento2]}}},
+        {"", {{head.Text3[campo_ordine::riferimento3]}}},
         {"Porto", {{head.Combo1[customer_head::porto]}}},
         {"Pagamento", {{head.Combo1[customer_head::pagamento]}}},
         {"Trasporto", {{head.Combo1[customer_head::trasporto]}}},
