@@ -21,7 +21,7 @@ ui/script: ui text
 ui/paper: ui text
 desktop/look: ui
 desktop/dialogs: desktop/look
-desktop/keys: desktop/look
+desktop/keys: desktop/dialogs desktop/look
 desktop/controls: desktop/dialogs desktop/keys desktop/look ui ui/paper text
 desktop/lists: desktop/dialogs desktop/keys desktop/look ui ui/paper text
 desktop/printing: desktop/dialogs desktop/look ui ui/paper
@@ -35,7 +35,7 @@ register: enquiry program orders store text ui
 entry: customer documents program orders store text ui errors
 fulfil: customer entry program orders store store/records text ui errors
 reports: documents program orders store store/records text ui
-app: register enquiry customer entry fulfil reports program store text ui desktop desktop/look desktop/printing windows ui/paper ui/pictures ui/script
+app: register enquiry customer entry fulfil reports program store text ui desktop desktop/dialogs desktop/look desktop/printing windows ui/paper ui/pictures ui/script
 tools/archive: store text orders store/records
 tools/demo: text store/records store orders
 tools/mirxpdf: documents store text ui/paper ui/pictures desktop/look

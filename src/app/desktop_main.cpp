@@ -10,12 +10,14 @@
 #include "app/options.h"
 #include "app/start.h"
 #include "desktop/desktop_front_end.h"
+#include "desktop/dialogs/about.h"
 #include "desktop/look/style.h"
 #include "desktop/outside_end.h"
 #include "desktop/printing/system_printer.h"
 #include "desktop/script_runner.h"
 #include "desktop/system_launcher.h"
 #include "store/drive.h"
+#include "store/suite_paths.h"
 #include "ui/pictures/pixbuf_decoder.h"
 #include "windows/layouts.h"
 
@@ -68,6 +70,19 @@ std::optional<vantora::drive> folder_of_person(const vantora::program_options& o
     return std::optional<vantora::drive>(std::in_place, folder);
 }
 
+/// What somebody who helps from afar asks for first.
+QStringList facts_of(const vantora::program_options& options,
+                     const vantora::ui::desktop::system_launcher& programs) {
+    const auto pdf = programs.copy_of(std::string(vantora::cartella_generale) + "mirxpdf");
+    QStringList lines{"Disco della suite: " + QString::fromStdString(options.drive),
+                      "Ditta: " + QString::number(vantora::numero_azienda_in(options.argument)),
+                      "PDF: " + QString::fromStdString(pdf.file.string())};
+    if (!pdf.why_not_suite.empty())
+        lines.back() += " (" + QString::fromStdString(pdf.why_not_suite) + ")";
+    lines << "Impostazioni: " + QSettings().fileName();
+    return lines;
+}
+
 }  // namespace
 
 int main(int count, char** arguments) {
@@ -88,6 +103,7 @@ int main(int count, char** arguments) {
     qunsetenv("QT_NO_GLIB");
     QApplication::setOrganizationName("Vantora");
     QApplication::setApplicationName("Ordini");
+    QApplication::setApplicationVersion(VANTORA_VERSION);
     QApplication::setQuitOnLastWindowClosed(false);
     QGuiApplication::setDesktopFileName("example.vantora.Ordini");
     if (!options.data.empty()) {  // sizes and widths lie there too
@@ -131,6 +147,8 @@ int main(int count, char** arguments) {
     ui::desktop::system_printer paper;
     ui::desktop::system_launcher programs(
         [&files](std::string_view path) { return files.locate(path).string(); });
+    programs.prefer_installed(QApplication::applicationDirPath().toStdString(), options.drive);
+    ui::desktop::set_facts([&] { return facts_of(options, programs); });
     ui::desk desk(front, time, paper, programs);
     desk.guards().switch_to(true);
     program app(files, desk, pictures);

@@ -1,6 +1,7 @@
 #include "desktop/system_launcher.h"
 
 #include <QCoreApplication>
+#include <QDebug>
 #include <QDesktopServices>
 #include <QElapsedTimer>
 #include <QEventLoop>
@@ -19,9 +20,25 @@ struct system_launcher::program {
     QStringList arguments;
 };
 
+void system_launcher::prefer_installed(std::filesystem::path folder, std::string drive) {
+    installed_in_ = std::move(folder);
+    drive_ = std::move(drive);
+}
+
+suite_program system_launcher::copy_of(std::string_view path) const {
+    std::filesystem::path in_suite = locate_(path);
+    if (installed_in_.empty()) return {std::move(in_suite), {}};
+    return choose_copy(in_suite, installed_in_ / in_suite.filename());
+}
+
 system_launcher::program system_launcher::program_of(const std::string& command) const {
     const std::size_t end = command.find(' ');
-    program made{QString::fromStdString(locate_(command.substr(0, end))), {}};
+    const suite_program chosen = copy_of(command.substr(0, end));
+    program made{QString::fromStdString(chosen.file.string()), {}};
+    if (!chosen.why_not_suite.empty()) {
+        made.arguments << "--drive" << QString::fromStdString(drive_);
+        qInfo().noquote() << made.file + ": " + QString::fromStdString(chosen.why_not_suite);
+    }
     if (end != std::string::npos) made.arguments << to_qt(command.substr(end + 1));
     return made;
 }

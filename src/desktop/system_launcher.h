@@ -1,9 +1,11 @@
 #pragma once
 
+#include <filesystem>
 #include <functional>
 #include <string>
 #include <string_view>
 
+#include "desktop/suite_program.h"
 #include "ui/launcher.h"
 
 namespace vantora::ui::desktop {
@@ -14,6 +16,12 @@ class system_launcher final : public launcher {
     /// `locate`: where a path of the suite lies in this system.
     explicit system_launcher(std::function<std::string(std::string_view)> locate)
         : locate_(std::move(locate)) {}
+    /// Programs installed in `folder` may take the place of the suite's, which know their drive by
+    /// where they lie.
+    void prefer_installed(std::filesystem::path folder, std::string drive);
+
+    /// What a program of the suite, by its path there, is started as.
+    [[nodiscard]] suite_program copy_of(std::string_view path) const;
 
     bool start(const std::string& command) override;
     started_program run(const std::string& command) override;
@@ -24,6 +32,8 @@ class system_launcher final : public launcher {
     [[nodiscard]] program program_of(const std::string& command) const;
 
     std::function<std::string(std::string_view)> locate_;
+    std::filesystem::path installed_in_;  ///< empty: the suite's are started
+    std::string drive_;
 };
 
 }  // namespace vantora::ui::desktop

@@ -76,6 +76,37 @@ TEST_F(printing, AProgramIsStartedWithItsArgument) {
     EXPECT_EQ(vantora::test::bytes_of(told), "***,c:\\a b.rto");
 }
 
+TEST_F(printing, TheInstalledProgramTakesThePlaceOfOneInTheSuiteThatIsMissingALinkOrOlder) {
+    namespace fs = std::filesystem;
+    const fs::path in_suite = folder.path() / "suite" / "mirxpdf";
+    const fs::path installed = folder.path() / "mirxpdf";
+    const fs::path told = folder.path() / "told";
+    fs::create_directory(in_suite.parent_path());
+    system_launcher programs([&](std::string_view) { return in_suite.string(); });
+    programs.prefer_installed(installed.parent_path(), "/a drive");
+    const auto started = [&] {
+        fs::remove(told);
+        EXPECT_EQ(programs.run("\\mirxpdf a b").is, started_program::how::well);
+        return vantora::test::bytes_of(told);
+    };
+    const auto make = [&](const fs::path& program, const char* name) {
+        vantora::test::put(
+            program, "#!/bin/sh\nprintf '%s|' " + std::string(name) + " \"$@\" >" + told.string());
+        permissions(program, fs::perms::owner_all);
+    };
+    make(in_suite, "suite");
+    EXPECT_EQ(started(), "suite|a b|") << "none is installed";
+    make(installed, "installed");
+    fs::last_write_time(in_suite, fs::last_write_time(installed) + std::chrono::seconds(1));
+    EXPECT_EQ(started(), "suite|a b|") << "newer, somebody put it there";
+    fs::last_write_time(in_suite, fs::last_write_time(installed) - std::chrono::seconds(1));
+    EXPECT_EQ(started(), "installed|--drive|/a drive|a b|") << "older";
+    fs::rename(in_suite, folder.path() / "elsewhere");
+    EXPECT_EQ(started(), "installed|--drive|/a drive|a b|") << "missing";
+    fs::create_symlink(folder.path() / "elsewhere", in_suite);
+    EXPECT_EQ(started(), "installed|--drive|/a drive|a b|") << "a link";
+}
+
 TEST_F(printing, AProgramIsWaitedForAndTellsWhatWentWrong) {
     const auto program = folder.path() / "mirxpdf";
     system_launcher programs([&](std::string_view) { return program.string(); });

@@ -1,5 +1,7 @@
 #include "mirxpdf/carry_out.h"
 
+#include <QFileInfo>
+
 #include "documents/print_file_reader.h"
 #include "mirxpdf/document_pdf.h"
 #include "mirxpdf/mail.h"
@@ -40,9 +42,10 @@ QString remark(const documento_di_stampa& document) {
         .arg(document.anomalie);
 }
 
-/// Empty if it was sent, else why not.
+/// Empty if it was sent, else why not. `odd` gets what the user is to know besides.
 std::optional<QString> send(file_port& files, const pdf_request& request,
-                            const std::filesystem::path& path, const QByteArray& pdf) {
+                            const std::filesystem::path& path, const QByteArray& pdf,
+                            QString& odd) {
     const std::string configuration = std::string(cartella_generale) + "mirxpdf.conf";
     const QString place = QString::fromStdString(files.locate(configuration).string());
     const auto addressees = read_addressees(to_utf8(request.addressee));
@@ -51,7 +54,9 @@ std::optional<QString> send(file_port& files, const pdf_request& request,
     }
     const auto content = files.read_whole(configuration);
     if (!content && files.exists(configuration)) {
-        return "la configurazione della posta non si può leggere: " + place;
+        const QString owner = QFileInfo(place).owner();
+        return "la configurazione della posta non si può leggere: " + place +
+               (owner.isEmpty() ? "" : ", che è di " + owner);
     }
     const auto read = read_mail_settings(content.value_or(""));
     if (const auto* error = std::get_if<settings_error>(&read)) {
@@ -61,6 +66,9 @@ std::optional<QString> send(file_port& files, const pdf_request& request,
     const auto& settings = std::get<mail_settings>(read);
     if (settings.server.empty()) {
         return "la posta elettronica non è configurata: indicare il server in " + place;
+    }
+    if (!settings.password.empty() && QFileInfo(place).permission(QFile::ReadOther)) {
+        odd += " Attenzione: tutti possono leggere la password che sta in " + place + ".";
     }
     const auto problem = send_pdf(settings, addressees, path.filename().string(), pdf);
     if (!problem) return {};
@@ -112,7 +120,7 @@ int carry_out(const pdf_request& request, const std::optional<std::string>& prin
         tell.done(ready, odd, place);
         return all_done;
     }
-    if (const auto problem = send(files, request, path, pdf)) {
+    if (const auto problem = send(files, request, path, pdf, odd)) {
         tell.not_sent("Il documento non è stato inviato: " + *problem + "." + odd, place);
         return not_sent;
     }

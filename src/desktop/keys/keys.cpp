@@ -16,6 +16,7 @@
 #include <QToolButton>
 #include <algorithm>
 
+#include "desktop/dialogs/about.h"
 #include "desktop/keys/manual.h"
 #include "desktop/look/words.h"
 
@@ -149,6 +150,7 @@ void show_help_menu(QWidget& window, const QWidget& below) {
                    &window, [&window] { show_keys(window); });
     menu.addAction(QString::fromUtf8(words::open_manual) + tab + "F1", &window,
                    [&window] { open_manual(&window); });
+    menu.addAction(QString::fromUtf8(words::about), &window, [&window] { show_about(window); });
     menu.exec(below.mapToGlobal(QPoint(0, below.height())));
 }
 

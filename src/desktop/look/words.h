@@ -98,6 +98,7 @@ inline constexpr const char* help = "Aiuto: tasti e manuale";
 inline constexpr const char* show_keys = "Tasti di questa finestra";
 inline constexpr const char* keys_of_window = "Tasti: %1";
 inline constexpr const char* open_manual = "Apri il manuale";
+inline constexpr const char* about = "Informazioni sul programma";
 inline constexpr const char* manual = "Manuale";
 inline constexpr const char* no_manual = "Il manuale non è installato.";
 inline constexpr const char* manual_stays_shut = "Il manuale non si può aprire: %1";

@@ -84,7 +84,9 @@ TEST_F(mirxpdf_mail, WithoutSettingsThePdfStaysAndTheUserIsTold) {
         {"oggetto = a\rBcc: b@c.it", "riga 1: il valore contiene caratteri di controllo"},
         {"server = a.it\nutente = ordini", "manca il mittente"},
         {"server = a/b@c\nmittente = a@b.it\n", "nome del server"},
-        {"server = a.it\nmittente = Ditta <a@b.it\n", "mittente non è un indirizzo"}};
+        {"server = a.it\nmittente = Ditta <a@b.it\n", "mittente non è un indirizzo"},
+        {"server = 127.0.0.1\nporta = 1\nutente = a@b.it\npassword = x",
+         "tutti possono leggere la password"}};
     for (const auto& [content, reason] : settings) {
         drive.write_settings(content);
         expect_not_sent("rossi@verdi.it", reason);
