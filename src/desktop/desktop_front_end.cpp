@@ -33,7 +33,8 @@ constexpr const char* program_title = "Vantora Ordini";
 
 }  // namespace
 
-desktop_front_end::desktop_front_end(screen_layouts layouts) : layouts_(std::move(layouts)) {
+desktop_front_end::desktop_front_end(screen_layouts layouts)
+    : layouts_(std::move(layouts)), idle_([this] { catch_up(); }) {
     since_events_.start();
 }
 
@@ -159,6 +160,17 @@ void desktop_front_end::act(control& on, const std::function<void()>& action) {
     }
 }
 
+void desktop_front_end::catch_up() {
+    form* active = desk_ ? desk_->active() : nullptr;
+    const bool in_the_midst = next_step_ || waits_.size() != 1 || !boxes_.empty() ||
+                              painting_ > 0 || desk_->pointer_shape() == pointer::busy ||
+                              QApplication::mouseButtons() != Qt::NoButton ||
+                              QApplication::activePopupWidget();
+    if (active && !in_the_midst && !desk_->obstacle(*active)) {
+        carry_out([active] { active->catch_up(); });
+    }
+}
+
 void desktop_front_end::carry_out(const std::function<void()>& action) {
     desk_->dispatch(action);
     if (!next_step_ && !pause_.isActive()) pause_.start();
@@ -237,6 +249,7 @@ void desktop_front_end::form_activated(form& which) {
     window->show_title(title_end_);
     if (!chosen_by_user_) keys_.screen_came_up();
     since_called_.start();
+    QTimer::singleShot(0, &idle_, [this] { catch_up(); });
     window->raise();
     if (!window->isActiveWindow()) window->activateWindow();
     // What stands in the field that had the focus is there to be typed over.

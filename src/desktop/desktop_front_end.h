@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "desktop/form_window.h"
+#include "desktop/idle_watch.h"
 #include "desktop/keys/key_guard.h"
 #include "desktop/lists/list_bars.h"
 #include "desktop/station_note.h"
@@ -88,6 +89,8 @@ class desktop_front_end final : public front_end {
     /// Paints windows; what the user does waits.
     void paint();
     void close_late();
+    /// The active screen may show what others changed.
+    void catch_up();
     form_window* window_of(form& which);
     void close_by_user(form& closing);
     /// The user brings a window to the front.
@@ -114,6 +117,7 @@ class desktop_front_end final : public front_end {
     QPointer<form_window> late_closing_;  ///< closed by the user meanwhile
     bool chosen_by_user_ = false;         ///< a window is being brought to the front by its user
     key_guard keys_;
+    idle_watch idle_;
 };
 
 }  // namespace vantora::ui::desktop

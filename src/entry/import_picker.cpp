@@ -1,5 +1,7 @@
 #include "entry/import_picker.h"
 
+#include <algorithm>
+
 #include "entry/mirorcs.h"
 #include "orders/customer_names.h"
 #include "store/block_reader.h"
@@ -29,7 +31,15 @@ void list_heads(const channel<Row>& rows, std::int16_t blocks, import_picker& pi
         list.write(2, head.testo1.trimmed());
         list_more(head);
         list.write(picker.block_col(), std::to_string(block));
+        picker.note({block, head}, heads.first_row_read());
     }
+}
+
+template <class Row>
+std::optional<ordine_visto> look_into(const channel<Row>& rows, int block) {
+    Row head;
+    if (!rows.read(block_record(block, 1), head)) return {};
+    return ordine_visto(block, head);
 }
 
 void list_quotes(program& app, import_picker& picker, list_rows& list) {
@@ -58,7 +68,9 @@ const import_picker_kind& preventivi() {
         "'indietro' per non importare alcun preventivo",
         "Nessun preventivo",
         {{"Preventivo", 1200}, {"Data", 1200}, {"Descrizione", 6000}, {"", 0}},
-        list_quotes};
+        list_quotes,
+        contatori::preventivi,
+        [](const archivi& files, int block) { return look_into(files.prv, block); }};
     return kind;
 }
 
@@ -74,7 +86,9 @@ const import_picker_kind& ordini() {
          {"Descrizione ordine", 5000},
          {"Cliente", 5000},
          {"", 0}},
-        list_orders};
+        list_orders,
+        contatori::ordini,
+        [](const archivi& files, int block) { return look_into(files.orc, block); }};
     return kind;
 }
 
@@ -90,10 +104,7 @@ import_picker::import_picker(program& app, const import_picker_kind& kind)
     add("bottone", bottone);
     Label1.set_text(kind.hint);
     elenco.empty_note = kind.empty;
-    elenco.on_click = [this] {
-        const std::string block(elenco.text(elenco.row(), block_col()));
-        if (number_at_head(block) > 0) leave(block);
-    };
+    elenco.on_click = [this] { choose(elenco.row()); };
     bottone.on_click = [this] { leave(""); };
 }
 
@@ -102,7 +113,38 @@ void import_picker::load() {
 }
 
 void import_picker::activate() {
+    build_list();
+}
+
+void import_picker::build_list() {
+    app_.archives.tot.read(kind_.contatore, contatore_);
+    visti_.clear();
     lista_.build([this](list_rows& list) { kind_.fill(app_, *this, list); });
+}
+
+void import_picker::choose(int row) {
+    const std::string block(elenco.text(row, block_col()));
+    if (number_at_head(block) <= 0) return;
+    moved_elsewhere(row) ? tell_moved(row) : leave(block);
+}
+
+bool import_picker::moved_elsewhere(int row) const {
+    if (row < 1 || row > static_cast<int>(visti_.size())) return false;
+    const ordine_visto& listed = visti_[static_cast<std::size_t>(row - 1)];
+    const auto there = kind_.look(app_.archives, listed.registrazione);
+    rec_tot now;
+    return listed.letto && there && app_.archives.tot.read(kind_.contatore, now) &&
+           orders_since(now, contatore_).took_away(listed, *there);
+}
+
+void import_picker::tell_moved(int row) {
+    const ordine_visto chosen = visti_[static_cast<std::size_t>(row - 1)];
+    app_.desk.message("Un'altra postazione ha cambiato l'archivio: l'elenco viene riletto.",
+                      "Attenzione", ui::icon::warning);
+    build_list();
+    const auto again = std::ranges::find_if(
+        visti_, [&](const ordine_visto& one) { return same_order(one, chosen); });
+    if (again != visti_.end()) elenco.set_row(static_cast<int>(again - visti_.begin()) + 1);
 }
 
 // Quotes ------------------------------------------------------------------------------------------

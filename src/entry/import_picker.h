@@ -3,6 +3,7 @@
 #include <optional>
 #include <vector>
 
+#include "orders/order_seen.h"
 #include "program/list_grid.h"
 #include "ui/controls.h"
 
@@ -19,6 +20,9 @@ struct import_picker_kind {
     std::vector<ui::grid_column> columns;  ///< the last one, hidden, holds the block's number
     /// Lists the head rows of the blocks that can be chosen.
     void (*fill)(program& app, import_picker& picker, list_rows& list);
+    int contatore;  ///< counts the blocks
+    /// What stands in a block now; empty if it can't be read.
+    std::optional<ordine_visto> (*look)(const archivi& files, int block);
 };
 
 /// A list of quotes or orders whose lines a new order can take over.
@@ -33,6 +37,8 @@ class import_picker : public ui::form {
 
     /// Column with the block's number.
     [[nodiscard]] int block_col() const { return elenco.cols() - 1; }
+    /// The next row shows this.
+    void note(const ordine_visto& listed, bool read) { visti_.emplace_back(listed).letto = read; }
 
  protected:
     void load() override;
@@ -44,8 +50,16 @@ class import_picker : public ui::form {
     program& app_;
 
  private:
+    void choose(int row);
+    void build_list();
+    /// Whether something else stands in a row's block by now.
+    [[nodiscard]] bool moved_elsewhere(int row) const;
+    void tell_moved(int row);
+
     const import_picker_kind& kind_;
     list_grid lista_;
+    rec_tot contatore_;                ///< as the list was read
+    std::vector<ordine_visto> visti_;  ///< from row 1 on
 };
 
 /// The customer's quotes.

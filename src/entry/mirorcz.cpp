@@ -4,7 +4,6 @@
 #include "customer/customer_head.h"
 #include "customer/shipping_data.h"
 #include "entry/order_head.h"
-#include "orders/stored_lines.h"
 #include "program/change_messages.h"
 
 namespace vantora {
@@ -18,7 +17,14 @@ constexpr line_grid_kind ordine_da_modificare{.name = "mirorcz",
                                               .has_impegno = true,
                                               .has_eva = true};
 
-/// Commands of `comando` of its own.
+/// "righe 2, 5, 7 ...": up to three of them.
+std::string named_rows(const std::vector<int>& rows) {
+    std::string text = rows.size() > 1 ? "righe " : "riga ";
+    for (std::size_t i = 0; i < rows.size() && i < 3; ++i) {
+        text += (i > 0 ? ", " : "") + std::to_string(rows[i]);
+    }
+    return rows.size() > 3 ? text + " ..." : text;
+}
 
 }  // namespace
 
@@ -34,7 +40,13 @@ mirorcz::mirorcz(program& app)
 
 void mirorcz::open() {
     if (app_.modo_ordine != 0) return follow_customer();
+    load_order();
+    offer_to_read_again();
+}
+
+void mirorcz::load_order() {
     app_.archives.tot.read(contatori::ordini, contatore_);
+    lette_ = {app_.archives.orc, app_.selezione_1};
     begin_order();
     open_order(app_.selezione_2);
     cliente_aperto_ = app_.selezione_2;
@@ -54,7 +66,7 @@ void mirorcz::follow_customer() {
 }
 
 void mirorcz::read_order() {
-    const stored_rows<rec_orc> stored(app_.archives.orc, app_.selezione_1);
+    const stored_rows<rec_orc>& stored = lette_;
     visto_ = {app_.selezione_1, stored[1]};
     impronta_ = impronta_di(stored.all());
     stored_lines lines(app_.archives.art);
@@ -72,6 +84,31 @@ void mirorcz::read_order() {
 
 ordine_esistente mirorcz::order() const {
     return {visto_, contatore_, lookup_.articles(), impegno.on()};
+}
+
+void mirorcz::offer_to_read_again() {
+    if (!lette_.unread().empty() &&
+        app_.desk.ask("L'ordine non si può leggere per intero ("_cp + named_rows(lette_.unread()) +
+                          "): finché è così non si può salvare, eliminare né stampare. "
+                          "Rileggere?"_cp,
+                      "Attenzione", ui::icon::warning)) {
+        read_again();
+    }
+}
+
+void mirorcz::read_again() {
+    rec_orc head;
+    if (app_.archives.orc.read(block_record(app_.selezione_1, 1), head)) {
+        app_.selezione_2 = head.cliente;
+    }
+    load_order();
+}
+
+bool mirorcz::may_save() {
+    if (lette_.unread().empty()) return order_screen::may_save();
+    // What comes with another reading is to be looked at before it is saved.
+    offer_to_read_again();
+    return false;
 }
 
 change_outcome mirorcz::store() {
@@ -99,6 +136,7 @@ void mirorcz::change_head() {
 }
 
 void mirorcz::delete_order() {
+    if (!lette_.unread().empty()) return offer_to_read_again();
     if (!app_.desk.ask("Sei proprio sicuro?", "Eliminazione ordine", ui::icon::question,
                        ui::answer::no)) {
         return;

@@ -2,6 +2,7 @@
 
 #include "entry/edit_order.h"
 #include "entry/order_screen.h"
+#include "orders/stored_lines.h"
 
 namespace vantora {
 
@@ -16,13 +17,20 @@ class mirorcz final : public order_screen {
 
  protected:
     void open() override;
+    /// An order that couldn't be read whole is never written over.
+    bool may_save() override;
     change_outcome store() override;
     void run_own_command(int command) override;
     void describe(bozza& draft) const override;
 
  private:
+    /// Fills the whole screen from the archive.
+    void load_order();
+    void read_again();
     /// Fills lines and head from the order's block.
     void read_order();
+    /// Says which rows couldn't be read, if there are any; the user may have them read once more.
+    void offer_to_read_again();
     /// Back from the head: new lines and the PDF are those of the customer that it names now.
     void follow_customer();
     void change_head();
@@ -32,6 +40,7 @@ class mirorcz final : public order_screen {
     rec_tot contatore_;                ///< of the orders, before the order was read
     std::int16_t cliente_aperto_ = 0;  ///< whose record `cliente_` is
     ordine_visto visto_;               ///< the order as it was read
+    stored_rows<rec_orc> lette_;       ///< its rows
     std::uint64_t impronta_ = 0;
 };
 

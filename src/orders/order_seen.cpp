@@ -4,21 +4,24 @@
 
 namespace vantora {
 
+bool ordine_visto::dated() const {
+    constexpr f64le none;
+    return std::memcmp(&data_reg, &none, sizeof none) != 0;
+}
+
+bool same_order(const ordine_visto& one, const ordine_visto& other) {
+    if (one.dated() || other.dated()) {
+        return std::memcmp(&one.data_reg, &other.data_reg, sizeof one.data_reg) == 0;
+    }
+    return one.numero == other.numero && one.data == other.data && one.cliente == other.cliente;
+}
+
 orders_since::orders_since(const rec_tot& now, const rec_tot& then)
     : now_(now), others_at_work_(std::memcmp(&now, &then, sizeof then) != 0) {}
 
-bool orders_since::took_away(const ordine_visto& seen, const rec_orc& row) const {
+bool orders_since::took_away(const ordine_visto& seen, const ordine_visto& there) const {
     if (seen.registrazione > now_.quanti) return true;
-    constexpr f64le none;
-    const auto same = [](const f64le& one, const f64le& other) {
-        return std::memcmp(&one, &other, sizeof one) == 0;
-    };
-    if (!same(seen.data_reg, none) || !same(row.data_reg, none)) {
-        return !same(seen.data_reg, row.data_reg);
-    }
-    const bool same_head =
-        seen.numero == row.numero && seen.data == row.data && seen.cliente == row.cliente;
-    return others_at_work_ && !same_head;
+    return !same_order(seen, there) && (others_at_work_ || seen.dated() || there.dated());
 }
 
 }  // namespace vantora

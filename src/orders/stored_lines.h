@@ -1,31 +1,41 @@
 #pragma once
 
+#include <cstring>
+#include <span>
 #include <string>
+#include <vector>
 
 #include "orders/order_lines.h"
 #include "orders/order_rows.h"
-#include "store/block_reader.h"
 #include "store/money.h"
+#include "store/record_runs.h"
+#include "store/records/order_block.h"
 #include "store/records/rec_art.h"
 
 namespace vantora {
 
-/// The 200 rows of one stored order or quote, a rec_orc or rec_prv each.
+/// The 200 rows of one stored order or quote, a rec_orc or rec_prv each, as they were read. A row
+/// that couldn't be read comes with the values of the one before it.
 template <class Row>
 class stored_rows {
  public:
-    stored_rows(const channel<Row>& from, std::int64_t registrazione)
-        : reader_(from), rows_(reader_.block(registrazione)) {}
-    stored_rows(const stored_rows&) = delete;
-    stored_rows& operator=(const stored_rows&) = delete;
+    stored_rows() = default;
+    stored_rows(const channel<Row>& from, std::int64_t registrazione) {
+        read_run(from, block_record(registrazione, 1), std::span(rows_), [this](std::size_t i) {
+            if (i > 0) rows_[i] = rows_[i - 1];
+            unread_.push_back(static_cast<int>(i) + 1);
+        });
+    }
 
     /// REQUIRES: `number` is 1 to 200.
     const Row& operator[](int number) const { return rows_[static_cast<std::size_t>(number - 1)]; }
     [[nodiscard]] std::span<const Row> all() const { return rows_; }
+    /// Numbers of the rows that couldn't be read.
+    [[nodiscard]] const std::vector<int>& unread() const { return unread_; }
 
  private:
-    block_reader<Row> reader_;
-    std::span<const Row> rows_;
+    std::vector<Row> rows_ = std::vector<Row>(righe_blocco);
+    std::vector<int> unread_;
 };
 
 /// What a stored row says of itself goes into the line; its article's code, its fulfilled quantity

@@ -82,6 +82,7 @@ void mirorc::load() {
 }
 
 void mirorc::activate() {
+    see_again(app_.selezione_1);
     const auto& rebuild = app_.parameters.gnr.aggiorna_elenco;
     if (number_at_head(rebuild.full()) == 1 && app_.ricarica_registro == 1) {
         build_list();
@@ -119,6 +120,7 @@ void mirorc::sort_by(int button) {
         elenco.set_focus();
         return;
     }
+    ordinata_per_ = button;
     if (button == data) return lista_.sort(data_stored, numeric_ascending);
     lista_.sort(button, generic_ascending);
 }
@@ -169,13 +171,24 @@ void mirorc::open_order() {
     if (compacting_) return;
     elenco.set_col(registr);
     const auto registrazione = to_int16(number_at_head(elenco.text(elenco.row(), registr)));
-    if (registrazione && *registrazione >= 1) open_order(*registrazione);
+    if (!registrazione || *registrazione < 1) return;
+    rec_orc row;
+    if (app_.archives.orc.read(block_record(*registrazione, 1), row) &&
+        moved_elsewhere(*registrazione, row)) {
+        return tell_moved();
+    }
+    open_order(*registrazione);
 }
 
 void mirorc::open_order(std::int16_t registrazione) {
     app_.modo_ordine = 1;
     app_.selezione_1 = registrazione;
-    app_.archives.orc.read(block_record(registrazione, 1), riga_);
+    if (!app_.archives.orc.read(block_record(registrazione, 1), riga_)) {
+        app_.desk.message(
+            "L'ordine non si può leggere: errore su "_cp + app_.archives.orc.name() + ".",
+            titolo_messaggi, ui::icon::stop);
+        return;
+    }
     if (riga_.annullato == 1) {
         app_.desk.message("Ordine annullato", titolo_messaggi, ui::icon::stop);
         return;

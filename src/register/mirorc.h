@@ -1,6 +1,9 @@
 #pragma once
 
+#include <optional>
+
 #include "orders/customer_names.h"
+#include "orders/order_seen.h"
 #include "program/list_grid.h"
 #include "ui/controls.h"
 
@@ -45,6 +48,10 @@ class mirorc final : public ui::form {
     /// Reads the archive anew and shows it by the chosen view.
     void build_list();
 
+    /// Brings the list up to date if other stations changed something, with the mark, the order of
+    /// its rows and its place as they are.
+    void catch_up() override;
+
  protected:
     void load() override;
     void activate() override;
@@ -77,13 +84,35 @@ class mirorc final : public ui::form {
     void list_orders(list_rows& list);
     void list_order(list_rows& list, int registrazione, customer_names& names);
 
+    // Other stations ----------------------------------------------------------------------------
+
+    /// Notes which order the list shows at a place.
+    void remember(int registrazione, const rec_orc& row, bool read);
+    /// An order that only its head tells from others may have got another one here.
+    void see_again(int registrazione);
+    /// The order as it was listed; null if it wasn't, or couldn't be read.
+    [[nodiscard]] const ordine_visto* seen(int registrazione) const;
+    [[nodiscard]] std::optional<ordine_visto> seen_in(int row) const;
+    /// Whether row 1 of a block, read anew, is another order's than the one listed.
+    [[nodiscard]] bool moved_elsewhere(int registrazione, const rec_orc& row) const;
+    /// The row that shows an order; 0 if none does.
+    [[nodiscard]] int row_of(const ordine_visto& order) const;
+    /// Builds the list anew with the mark on the same order.
+    void list_anew();
+    void tell_moved();
+
     program& app_;
     ui::option_group selvis_group_;
     ui::option_group visua_group_;
     list_grid lista_;
     bool compacting_ = false;
-    rec_orc riga_;       ///< work copy of an order's row
-    rec_tot contatore_;  ///< work copy of a counters record
+    std::optional<int> ordinata_per_;           ///< the button that the list was sorted by
+    std::vector<ordine_visto> visti_;           ///< the orders listed, by `registrazione`
+    int primo_visto_ = 1;                       ///< the first of them
+    rec_tot listato_;                           ///< the counter of the orders as the list was read
+    std::optional<std::int64_t> scritto_alle_;  ///< when their file had been written last
+    rec_orc riga_;                              ///< work copy of an order's row
+    rec_tot contatore_;                         ///< work copy of a counters record
 };
 
 }  // namespace vantora

@@ -62,7 +62,7 @@ std::string mirorc::hint(int row) const {
     if (!registrazione || *registrazione < 1) return {};
     std::vector<rec_orc> block(righe_blocco);
     if (!app_.archives.orc.read_block(block_record(*registrazione, 1), block)) return {};
-    if (block.front().annullato == 1) return {};
+    if (block.front().annullato == 1 || moved_elsewhere(*registrazione, block.front())) return {};
     const valuta in(app_.parameters);
     somme_ordine sums;
     std::string text;

@@ -17,6 +17,7 @@ constexpr int righe_in_vista = 22;
 void mirorc::build_list() {
     // Blocks are on the move; the compaction ends with a build.
     if (compacting_) return;
+    ordinata_per_.reset();
     lista_.build([this](list_rows& list) { list_orders(list); });
     if (visua[1].on() && lista_.in_use() > righe_in_vista + 1) {
         elenco.show_end(righe_in_vista);
@@ -33,16 +34,21 @@ int mirorc::first_listed(int last) const {
 // One read for each order, and one for every 32 customers in question.
 void mirorc::list_orders(list_rows& list) {
     rec_tot customers;
+    scritto_alle_ = app_.archives.orc.last_write();
     app_.archives.tot.read(contatori::ordini, contatore_);
     app_.archives.tot.read(contatori::clienti, customers);
     customer_names names(app_.archives.cli, customers.quanti);
     const int last = contatore_.quanti;
     const int first = first_listed(last);
+    listato_ = contatore_;
+    visti_.clear();
+    primo_visto_ = first;
     block_reader<rec_orc> orders(app_.archives.orc, riga_);
     orders.walk_heads(first, last);
     int registrazione = first;
     for (; registrazione <= last && !list.full(); ++registrazione) {
         riga_ = orders.first_row(registrazione);
+        remember(registrazione, riga_, orders.first_row_read());
         list_order(list, registrazione, names);
         list.come_to(registrazione - first + 1, last - first + 1);
     }

@@ -1,6 +1,7 @@
 #include "reports/mirstoa.h"
 
 #include <algorithm>
+#include <numeric>
 
 #include "orders/customer_names.h"
 #include "reports/key_range.h"
@@ -100,8 +101,10 @@ int mirstoa::last_step(const limiti_ordini&) const {
 
 // One read for 512 entries of the index, one for every 32 articles, one an order, then one for
 // every 32 customers in question.
-void mirstoa::walk_orders(const raccolta&, const limiti_ordini& orders) {
-    ordini_.walk_blocks(orders.primo, orders.ultimo);
+std::vector<int> mirstoa::orders_to_read(const raccolta&, const limiti_ordini& orders) {
+    std::vector<int> all(static_cast<std::size_t>(std::max(orders.ultimo - orders.primo + 1, 0)));
+    std::iota(all.begin(), all.end(), orders.primo);
+    return all;
 }
 
 bool mirstoa::choose_sheets(raccolta& found) {

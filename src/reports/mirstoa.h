@@ -23,7 +23,7 @@ class mirstoa final : public sheets_report<etichetta_articolo, riga_articolo> {
     void load() override;
     [[nodiscard]] int last_step(const limiti_ordini& orders) const override;
     bool choose_sheets(raccolta& found) override;
-    void walk_orders(const raccolta& found, const limiti_ordini& orders) override;
+    std::vector<int> orders_to_read(const raccolta& found, const limiti_ordini& orders) override;
     void take_rows(raccolta& found, int order) override;
     void list_sheets(list_rows& list, raccolta& found) override;
 

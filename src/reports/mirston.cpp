@@ -1,5 +1,8 @@
 #include "reports/mirston.h"
 
+#include <map>
+#include <utility>
+
 #include "reports/key_range.h"
 #include "store/key_index.h"
 #include "store/record_stretches.h"
@@ -54,11 +57,33 @@ int mirston::last_step(const limiti_ordini&) const {
     return clienti_.quanti;
 }
 
-// One read for 512 entries of the index, one for every 32 customers, one an order, a second one for
-// an order in question as long as not all are, then one for every 32 articles in question.
-void mirston::walk_orders(const raccolta& found, const limiti_ordini& orders) {
-    ordini_.walk_heads(orders.primo, orders.ultimo,
-                       [&](const rec_orc& first) { return found.righe.wants(first.cliente); });
+// One read for 512 entries of the index, one for every 32 customers, one for the head of an order,
+// one for each order of the customers listed, in the order of their sheets until the list is full,
+// then one for every 32 articles in question.
+std::vector<int> mirston::orders_to_read(const raccolta& found, const limiti_ordini& orders) {
+    std::map<std::int16_t, std::vector<int>> by_customer;
+    primo_ = orders.primo;
+    proprietari_.clear();
+    ordini_.walk_heads(orders.primo, orders.ultimo);
+    for (int order = orders.primo; order <= orders.ultimo; ++order) {
+        const std::int16_t owner = ordini_.first_row(order).cliente;
+        proprietari_.push_back(owner);
+        by_customer[owner].push_back(order);
+        if (!head_done()) return {};
+    }
+    std::vector<int> all;
+    for (const auto& sheet : found.schede) {
+        const auto its = by_customer.extract(sheet.numero);
+        if (its) all.insert(all.end(), its.mapped().begin(), its.mapped().end());
+    }
+    cliente_ = 0;
+    sue_righe_ = righe_piene_ = 0;
+    return all;
+}
+
+// One line more than there is room for tells that the list is cut.
+bool mirston::complete(const raccolta&) const {
+    return righe_piene_ + sue_righe_ > righe_report;
 }
 
 bool mirston::choose_sheets(raccolta& found) {
@@ -77,11 +102,15 @@ bool mirston::choose_sheets(raccolta& found) {
 }
 
 void mirston::take_rows(raccolta& found, int order) {
-    const std::int16_t owner = ordini_.first_row(order).cliente;
-    if (!found.righe.wants(owner)) return;
     const auto rows = ordini_.block(order);
+    const std::int16_t owner = proprietari_[static_cast<std::size_t>(order - primo_)];
+    if (owner != std::exchange(cliente_, owner)) {
+        if (sue_righe_ > 0) righe_piene_ += sue_righe_ + righe_di_totale;
+        sue_righe_ = 0;
+    }
     for (const rec_orc& row : rows) {
         if (!in_use_or_priced(row)) continue;
+        ++sue_righe_;
         if (!found.righe.wants(owner)) return;
         const bool first = &row == &rows.front();
         if (first) found.teste.emplace_back(row);

@@ -25,12 +25,19 @@ class mirston final : public sheets_report<text<40>, riga_cliente> {
  protected:
     [[nodiscard]] int last_step(const limiti_ordini& orders) const override;
     bool choose_sheets(raccolta& found) override;
-    void walk_orders(const raccolta& found, const limiti_ordini& orders) override;
+    std::vector<int> orders_to_read(const raccolta& found, const limiti_ordini& orders) override;
+    [[nodiscard]] bool complete(const raccolta& found) const override;
     void take_rows(raccolta& found, int order) override;
     void list_sheets(list_rows& list, raccolta& found) override;
 
  private:
     struct cliente;
+
+    int primo_ = 1;                          ///< of the orders read
+    std::vector<std::int16_t> proprietari_;  ///< theirs, from that one on
+    std::int16_t cliente_ = 0;               ///< whose orders are being read
+    int sue_righe_ = 0;                      ///< rows found of this customer
+    int righe_piene_ = 0;                    ///< lines of the list that those before take
 
     [[nodiscard]] std::string article_text(const riga_cliente& row,
                                            etichette_articoli& articles) const;

@@ -7,7 +7,8 @@ namespace vantora {
 
 namespace {
 
-/// An order takes so much longer than an entry of the index and its master record.
+/// An order takes so much longer than an entry of the index and its master record, or than its
+/// head.
 constexpr double order_weight = 20;
 
 }  // namespace
@@ -39,8 +40,12 @@ bool sheet_report::entry_done() {
     return carry_on((done_ += 1) / planned_);
 }
 
+bool sheet_report::head_done() {
+    return entry_done();
+}
+
 bool sheet_report::order_done() {
-    return carry_on((done_ += order_weight) / planned_);
+    return carry_on((done_ += order_weight - 1) / planned_);
 }
 
 bool sheet_report::listing() {

@@ -46,6 +46,7 @@ class sheet_report : public report_screen {
     /// The whole work: the index, then the orders.
     void plan(int entries, const limiti_ordini& orders);
     bool entry_done();
+    bool head_done();
     bool order_done();
     /// The orders are done, and their rows are being listed.
     bool listing();
@@ -80,8 +81,10 @@ class sheets_report : public sheet_report {
 
     /// Chooses the sheets. False if the work ends here.
     virtual bool choose_sheets(raccolta& found) = 0;
-    /// Says which of the orders will be read.
-    virtual void walk_orders(const raccolta& found, const limiti_ordini& orders) = 0;
+    /// Which of the orders will be read, in which order; none if the work ends here.
+    virtual std::vector<int> orders_to_read(const raccolta& found, const limiti_ordini& orders) = 0;
+    /// Whether no further row can be listed.
+    virtual bool complete(const raccolta& found) const { return found.righe.complete(); }
     virtual void take_rows(raccolta& found, int order) = 0;
     virtual void list_sheets(list_rows& list, raccolta& found) = 0;
 
@@ -89,8 +92,10 @@ class sheets_report : public sheet_report {
         plan(last_step(orders), orders);
         raccolta found;
         if (!choose_sheets(found)) return;
-        walk_orders(found, orders);
-        for (int order = orders.primo; order <= orders.ultimo && !found.righe.complete(); ++order) {
+        const std::vector<int> to_read = orders_to_read(found, orders);
+        ordini_.walk_blocks(to_read);
+        for (const int order : to_read) {
+            if (complete(found)) break;
             take_rows(found, order);
             if (!order_done()) return;
         }

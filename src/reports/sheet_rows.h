@@ -8,6 +8,9 @@
 
 namespace vantora {
 
+/// Lines that a sheet takes beside its rows: its total and a blank one.
+inline constexpr int righe_di_totale = 2;
+
 /// Gathers the rows of the sheets, which stand by article or customer, while the orders are walked
 /// once, from the first to the last. Keeps no more than may still be listed: a list has only so
 /// many lines, and each row found for an early sheet pushes the last ones out.
@@ -67,7 +70,6 @@ class sheet_rows {
  private:
     static constexpr std::size_t numbers = 65536;
     static constexpr std::int32_t nowhere = INT32_MAX;
-    static constexpr int lines_beside_rows = 2;  ///< total and blank line
 
     static std::size_t index(std::int16_t number) { return static_cast<std::uint16_t>(number); }
     [[nodiscard]] std::size_t place_of(std::int16_t number) const {
@@ -79,7 +81,7 @@ class sheet_rows {
         int taken = 0;
         for (std::int32_t place = 0; place <= last_place_; ++place) {
             const int count = counts_[index(sheets_[static_cast<std::size_t>(place)])];
-            if (count > 0) taken += count + lines_beside_rows;
+            if (count > 0) taken += count + righe_di_totale;
             if (taken >= lines_) last_place_ = place;
         }
         const auto behind = [this](const auto& one) {

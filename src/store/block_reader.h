@@ -2,6 +2,7 @@
 
 #include <deque>
 #include <functional>
+#include <numeric>
 #include <optional>
 #include <span>
 #include <utility>
@@ -36,12 +37,18 @@ class block_reader {
         });
         if (wanted_) blocks_.emplace(from_);
     }
-    /// block() will be called for blocks `first` to `last`, in order.
+    /// block() will be called for these blocks, in their order.
+    void walk_blocks(std::vector<int> blocks) {
+        begin_walk(1, 0);
+        listed_ = std::move(blocks);
+        blocks_.emplace(from_, listed_.size(),
+                        [this](std::size_t i) { return run_of(listed_[i], righe_blocco); });
+    }
+    /// The same for blocks `first` to `last`.
     void walk_blocks(std::int64_t first, std::int64_t last) {
-        begin_walk(first, last);
-        blocks_.emplace(from_, blocks_between(first, last), [first](std::size_t i) {
-            return run_of(first + static_cast<std::int64_t>(i), righe_blocco);
-        });
+        std::vector<int> blocks(blocks_between(first, last));
+        std::iota(blocks.begin(), blocks.end(), static_cast<int>(first));
+        walk_blocks(std::move(blocks));
     }
     /// Nothing is read ahead any longer.
     void end_walk() { begin_walk(1, 0); }
@@ -94,6 +101,8 @@ class block_reader {
         coming_.clear();
         ready_ = {};
         wanted_ = nullptr;
+        listed_.clear();
+        next_listed_ = 0;
         stretch_seen_ = stretch_taken_ = 0;
         many_taken_ = false;
         next_ = seen_ = first;
@@ -155,8 +164,8 @@ class block_reader {
             if (!whole_.empty()) return std::exchange(whole_, {});
             return blocks_->next_run();
         }
-        if (heads_ || !blocks_ || block != next_) return {};
-        ++next_;
+        if (next_listed_ == listed_.size() || block != listed_[next_listed_]) return {};
+        ++next_listed_;
         return blocks_->next_run();
     }
 
@@ -177,7 +186,9 @@ class block_reader {
     std::vector<Row> rows_;
 
     // The walk.
-    std::int64_t next_ = 1;  ///< block that is taken next
+    std::vector<int> listed_;      ///< the blocks to be taken, if they were listed
+    std::size_t next_listed_ = 0;  ///< of these
+    std::int64_t next_ = 1;        ///< block whose head is taken next
     std::int64_t end_ = 0;
     std::function<bool(const Row&)> wanted_;
     std::optional<records_ahead<Row>> heads_;

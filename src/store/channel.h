@@ -84,6 +84,11 @@ class channel {
         return *bytes / record_length;
     }
 
+    /// When the file was written last, in nanoseconds; empty if that can't be told.
+    [[nodiscard]] std::optional<std::int64_t> last_write() const {
+        return file_ ? file_->last_write() : std::nullopt;
+    }
+
     /// The file behind, for what outlives the channel: a read under way, a lock. Null if closed.
     [[nodiscard]] const std::shared_ptr<file>& shared_file() const { return file_; }
 

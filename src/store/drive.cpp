@@ -149,6 +149,12 @@ class system_file : public file {
         return state.st_size;
     }
 
+    [[nodiscard]] std::optional<std::int64_t> last_write() const override {
+        struct stat state {};
+        if (::fstat(descriptor_, &state) != 0) return {};
+        return std::int64_t{state.st_mtim.tv_sec} * 1'000'000'000 + state.st_mtim.tv_nsec;
+    }
+
     [[nodiscard]] bool writable() const override {
         const int flags = ::fcntl(descriptor_, F_GETFL);
         return flags >= 0 && (flags & O_ACCMODE) != O_RDONLY;

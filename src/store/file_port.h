@@ -53,6 +53,9 @@ class file {
     /// The length in bytes; empty if the system doesn't tell.
     [[nodiscard]] virtual std::optional<std::int64_t> length() const { return {}; }
 
+    /// When it was written last, in nanoseconds; empty if the system doesn't tell.
+    [[nodiscard]] virtual std::optional<std::int64_t> last_write() const { return {}; }
+
     /// Whether it was opened for writing.
     [[nodiscard]] virtual bool writable() const { return true; }
 

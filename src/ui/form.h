@@ -79,6 +79,10 @@ class form {
     /// The user pauses: what takes its time can be done now. No box may come up.
     virtual void rest() {}
 
+    /// The user does nothing, or comes back to the program: what others changed may be shown now.
+    /// Only of the active form, never under a script. No box may come up.
+    virtual void catch_up() {}
+
     /// Tells its holder that the form was unloaded.
     std::function<void()> when_unloaded;
 

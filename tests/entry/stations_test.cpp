@@ -2,6 +2,7 @@
 
 #include <thread>
 
+#include "entry/import_picker.h"
 #include "entry/order_station.h"
 #include "scripted/problems.h"
 
@@ -71,6 +72,109 @@ TEST(stations, AnOrderIsNotWrittenOverTheOneThatACompactionPutIntoItsBlock) {
             EXPECT_EQ(row.annullato, deletes ? 1 : 0);
             EXPECT_EQ(row.descrizione.trimmed(), deletes ? "merce" : "a mano");
         }
+    }
+}
+
+/// A list that another station's compaction made stale leads to no other order.
+TEST(stations, StaleListsAreReadAnewWithTheMarkOnTheSameOrder) {
+    order_company company;
+    for (const int block : {1, 2, 3, 4}) company.order(block, 1, {{1, 5}});
+    delete_order(company, 2);
+    order_station here(company);
+    order_station there(company);
+    ui::grid& list = here.app.mirorc->elenco;
+    there.compact();
+    EXPECT_EQ(list.hint_of(3), "");
+    here.desk.dispatch([&] { list.click_cell(3, 0); });
+    ASSERT_FALSE(here.front.told.empty());
+    EXPECT_TRUE(here.front.told.back().starts_with("Un'altra postazione ha compattato"));
+    EXPECT_EQ(here.active(), "mirorc");
+    EXPECT_EQ(list.text(list.row(), mirorc::ordine), "30");
+    EXPECT_EQ(here.open(list.row()).testata.text(), "ROSSI SPA - Ordine 30 del 01/03/2024");
+    here.desk.dispatch([&] { here.app.mirorcz->comando[0].click(); });
+
+    // The same where an order to import is picked.
+    delete_order(company, 1);
+    here.desk.dispatch([&] {
+        here.app.mirorc->bottone[2].click();
+        here.app.mirorcx->bottone.click();
+    });
+    bool stayed = false;
+    here.front.decide = [&] { return false; };
+    here.front.meanwhile = [&] {
+        if (stayed || !here.app.mirpref.loaded() || here.app.mirpref->elenco.text(1, 0).empty()) {
+            return;
+        }
+        stayed = true;
+        there.compact();
+        ui::grid& picker = here.app.mirpref->elenco;
+        here.desk.dispatch([&] { picker.click_cell(2, 0); });
+        EXPECT_TRUE(here.front.told.back().starts_with("Un'altra postazione ha cambiato"));
+        EXPECT_EQ(picker.text(picker.row(), 0), "40");
+        here.desk.dispatch([&] { here.app.mirpref->bottone.click(); });
+    };
+    here.desk.dispatch([&] { here.app.mirorcs->comando[5].click(); });
+}
+
+TEST(stations, TheRegisterCatchesUpWithTheOthers) {
+    order_company company;
+    for (const int block : {1, 2, 3, 4}) company.order(block, 1 + block % 2, {{1, 5}});
+    delete_order(company, 1);
+    order_station here(company);
+    order_station there(company);
+    mirorc& screen = *here.app.mirorc;
+    here.desk.dispatch([&] { screen.srx[mirorc::cliente].click(); });
+    const auto orders = [&] {
+        std::string all;
+        for (int row = 1; row < 6; ++row) {
+            all += std::string(screen.elenco.text(row, mirorc::ordine)) + ",";
+        }
+        return all;
+    };
+    EXPECT_EQ(orders(), ",20,40,30,,") << "the deleted one first, then by customer";
+    screen.elenco.set_row(3);
+    there.compact();
+    there.take_order();
+    here.desk.dispatch([&] { screen.catch_up(); });
+    EXPECT_EQ(orders(), "20,40,41,30,,");
+    EXPECT_EQ(screen.elenco.row(), 2) << "on the same order";
+}
+
+TEST(stations, AnOrderThatCouldNotBeReadWholeIsNeverSavedOver) {
+    for (const int unread : {1, 2, 200}) {
+        order_company company;
+        company.order(1, 1, {{1, 5}, {2, 7}, {3, 9}});
+        order_station at(company);
+        const std::int64_t broken = (block_record(1, unread) - 1) * channel<rec_orc>::record_length;
+        at.faults.read_fails = [&](const std::string& path, std::int64_t from, std::size_t size) {
+            return path.ends_with("orc") && from <= broken &&
+                   broken < from + static_cast<std::int64_t>(size);
+        };
+        const std::string before = contents(company);
+        at.desk.dispatch([&] { at.app.mirorc->elenco.click_cell(1, 0); });
+        const std::string told = at.front.told.back();
+        if (unread == 1) {
+            EXPECT_EQ(told, "L'ordine non si può leggere: errore su vantora.orc."_cp);
+            EXPECT_EQ(at.active(), "mirorc");
+            continue;
+        }
+        EXPECT_TRUE(told.starts_with("L'ordine non si può leggere per intero (riga "_cp +
+                                     std::to_string(unread)));
+        at.save_opened();
+        at.delete_opened();
+        EXPECT_EQ(at.front.told, (std::vector<std::string>{told, told, told}));
+        at.faults.read_fails = nullptr;
+        at.save_opened();  // the answer is no
+        EXPECT_EQ(contents(company), before);
+        at.front.decide = [] { return true; };
+        at.save_opened();
+        EXPECT_EQ(contents(company), before) << "what comes now is to be looked at first";
+        EXPECT_EQ(at.app.mirorcz->ds[1].text(), "merce");
+        at.app.mirorcz->ds[1].set_text("a mano");
+        at.front.decide = [] { return false; };
+        at.save_opened();
+        EXPECT_EQ(company.row_now(1, 2).descrizione.trimmed(), "a mano");
+        EXPECT_EQ(company.article_now(2).ordinato_clienti, 7);
     }
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <stdexcept>
+
 #include "support/program_stage.h"
 
 namespace vantora::test {
@@ -9,6 +11,11 @@ class answering_user final : public silent_front_end {
  public:
     void run_until(const std::function<bool()>& done) override {
         while (!done()) {
+            if (!desk->open_box()) {
+                if (!meanwhile) throw std::logic_error("waits for a user who does nothing");
+                meanwhile();
+                continue;
+            }
             told.push_back(desk->open_box()->text);
             if (!desk->answer_box(ui::answer::ok)) {
                 desk->answer_box(decide() ? ui::answer::yes : ui::answer::no);
@@ -19,7 +26,7 @@ class answering_user final : public silent_front_end {
         if (meanwhile) meanwhile();
     }
     ui::desk* desk = nullptr;
-    std::function<void()> meanwhile;  ///< done whenever pending events run
+    std::function<void()> meanwhile;  ///< done whenever pending events run, or are waited for
     std::function<bool()> decide = [] { return false; };
     std::vector<std::string> told;
 };
