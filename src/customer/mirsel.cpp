@@ -113,7 +113,14 @@ void mirsel::pick_row() {
     const double record = number_at_head(elenco.text(elenco.row(), numero));
     if (record <= 0) return;
     app_.cliente_scelto = static_cast<std::int16_t>(record);
-    leave(std::string(elenco.text(elenco.row(), nominativo)), elenco_clienti::scelta_fatta);
+    const std::string name(elenco.text(elenco.row(), nominativo));
+    rec_cli now;
+    if (app_.archives.cli.read(app_.cliente_scelto, now) && now.intestazione1.trimmed() != name &&
+        app_.desk.guards().refuse("I clienti sono stati cambiati altrove: "
+                                  "l'elenco viene riletto.")) {
+        return build_list();
+    }
+    leave(name, elenco_clienti::scelta_fatta);
 }
 
 void mirsel::leave(const std::string& chosen_name, int outcome) {

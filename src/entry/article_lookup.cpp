@@ -76,7 +76,13 @@ void article_lookup::take_list_entry() {
     const int state = stato_lista_;
     stato_lista_ = lista_ferma;
     articolo_corrente_ = numero_articolo(List1.text());
-    if (app_.archives.art.read(articolo_corrente_, articolo_)) report(articolo_.codice.trimmed());
+    const bool read = app_.archives.art.read(articolo_corrente_, articolo_);
+    if (read && state == per_codice && articolo_.codice.trimmed() != codice_voce(List1.text()) &&
+        app_.desk.guards().refuse("Gli articoli sono stati cambiati altrove: "
+                                  "l'elenco viene riletto.")) {
+        return reload();
+    }
+    if (read) report(articolo_.codice.trimmed());
     stato_lista_ = state;
 }
 

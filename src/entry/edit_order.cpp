@@ -37,6 +37,17 @@ bool apply_line(archive_change& change, archivi& files, const ordine_esistente& 
     });
 }
 
+/// The rows that are going to be written over are those awaited, or the user is asked first.
+void look_for_other_rows(archive_change& change, const archivi& files,
+                         const ordine_esistente& order, const orders_since& meanwhile) {
+    if (!order.attese || !change.may_write()) return;
+    const stored_rows<rec_orc> there(files.orc, order.visto.registrazione);
+    change.require(there.unread().empty(), files.orc.name());
+    if (order.attese->same_as(there)) return;
+    change.give_up(meanwhile.took_away(order.visto, there[1]) ? change_outcome::order_moved
+                                                              : change_outcome::to_be_asked);
+}
+
 /// Goes over the order's rows: what a stored row still had open is taken out of its article, then
 /// `renew(change, number, row)` makes the row new and tells whether it moved stock itself.
 template <class Renew>
@@ -48,8 +59,10 @@ change_outcome change_rows(archivi& files, const ordine_esistente& order, bool l
     change.writes(files.orc, block_record(order.visto.registrazione, 1), righe_blocco);
     if (lines_move_stock || rows_move_stock(files, order)) change.changes(files.art);
     const orders_since meanwhile(now, order.contatore);
+    look_for_other_rows(change, files, order, meanwhile);
 
     bool recognised = false;
+    bool deleted = false;  // by another station, which took these rows out of their articles
     bool stock_moved = false;
     rec_orc row;
     for (int number = 1; change.may_write() && number <= righe_blocco; ++number) {
@@ -59,8 +72,9 @@ change_outcome change_rows(archivi& files, const ordine_esistente& order, bool l
             change.give_up(change_outcome::order_moved);
             break;
         }
+        deleted = recognised ? deleted : row.annullato == 1;
         recognised = true;
-        stock_moved |= undo_row(change, files, order, row);
+        if (!deleted || row.annullato != 1) stock_moved |= undo_row(change, files, order, row);
         stock_moved |= renew(change, number, row);
         change.write(files.orc, record, row);
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "orders/order_seen.h"
+#include "orders/stored_lines.h"
 #include "orders/stored_order.h"
 #include "store/archive_change.h"
 
@@ -12,6 +13,8 @@ struct ordine_esistente {
     rec_tot contatore;          ///< of the orders, read before the order was
     std::int16_t articoli = 0;  ///< how many articles there are
     bool impegno = false;       ///< commit the stock now, and free what the rows had committed
+    /// Only these rows are written over; null: whatever stands there, the last save counts.
+    const stored_rows<rec_orc>* attese = nullptr;
 };
 
 /// Saves an order anew over its block. Row by row what the stored row still had open is taken out
@@ -21,7 +24,8 @@ struct ordine_esistente {
 /// Failed reads and writes are passed over and noted: an article or a row that can't be read is
 /// left alone, and a row that is left alone moves no stock. What ends the program on the way leaves
 /// rows before it new, rows behind it old, each with its article's stock. It doesn't begin if
-/// another station's compaction has put another order into the block.
+/// another station's compaction has put another order into the block, or if the user is to be asked
+/// about other rows than those awaited.
 change_outcome salva_ordine(archivi& files, const ordine_esistente& order,
                             const testata_registrata& head, bool evaso, const righe_ordine& lines);
 

@@ -1,5 +1,7 @@
 #include "entry/mirorcz.h"
 
+#include <cmath>
+
 #include "customer/customer_fields.h"
 #include "customer/customer_head.h"
 #include "customer/shipping_data.h"
@@ -24,6 +26,18 @@ std::string named_rows(const std::vector<int>& rows) {
         text += (i > 0 ? ", " : "") + std::to_string(rows[i]);
     }
     return rows.size() > 3 ? text + " ..." : text;
+}
+
+/// What else became of an order between two readings, a line each.
+std::string told_between(const stored_rows<rec_orc>& then, const stored_rows<rec_orc>& now) {
+    std::string text = now[1].annullato == 1 ? "\nL'ordine è stato eliminato."_cp : "";
+    for (int number = 1; number <= righe_ordine::massimo; ++number) {
+        const double more = now[number].evaso - then[number].evaso;
+        if (more == 0 || !std::isfinite(more)) continue;
+        text +=
+            "\nEvasione registrata: riga " + std::to_string(number) + ", " + testo_quantita(more);
+    }
+    return text;
 }
 
 }  // namespace
@@ -102,6 +116,7 @@ void mirorcz::read_again() {
         app_.selezione_2 = head.cliente;
     }
     load_order();
+    show_head();
 }
 
 bool mirorcz::may_save() {
@@ -115,7 +130,31 @@ change_outcome mirorcz::store() {
     testata_registrata saved = testata_da_registrare(head(), chosen_price());
     saved.cliente = app_.selezione_2;
     saved.impegno = impegno.on();
-    return salva_ordine(app_.archives, order(), saved, eva.on(), righe_);
+    ordine_esistente known = order();
+    stored_rows<rec_orc> awaited = lette_;
+    if (app_.desk.guards().on()) known.attese = &awaited;
+    while (true) {
+        const change_outcome outcome = salva_ordine(app_.archives, known, saved, eva.on(), righe_);
+        if (outcome.how != change_outcome::to_be_asked) return outcome;
+        awaited = {app_.archives.orc, visto_.registrazione};
+        if (!may_save_over(awaited)) return outcome;
+    }
+}
+
+bool mirorcz::may_save_over(const stored_rows<rec_orc>& now) {
+    app_.desk.set_pointer(ui::pointer::normal);
+    const bool wanted = app_.desk.guards().confirm(
+        "Un'altra postazione ha cambiato quest'ordine mentre era aperto. Salvare lo stesso e "
+        "perdere quelle modifiche?" +
+        told_between(lette_, now));
+    if (!wanted && now[1].annullato != 1 &&
+        app_.desk.guards().confirm(
+            "Caricare l'ordine com'è adesso? Quel che è stato scritto qui va perso."_cp)) {
+        forget_draft();
+        read_again();
+        offer_to_read_again();
+    }
+    return wanted;
 }
 
 void mirorcz::describe(bozza& draft) const {

@@ -31,6 +31,8 @@ class mirorcz final : public order_screen {
     void read_order();
     /// Says which rows couldn't be read, if there are any; the user may have them read once more.
     void offer_to_read_again();
+    /// Whether the user wants to save over what another station made of the order.
+    bool may_save_over(const stored_rows<rec_orc>& now);
     /// Back from the head: new lines and the PDF are those of the customer that it names now.
     void follow_customer();
     void change_head();

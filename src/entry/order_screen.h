@@ -53,13 +53,14 @@ class order_screen : public line_grid {
     void open_order(std::int16_t customer);
     /// New lines take the price that the customer has.
     void take_price_list();
+    /// The title line follows the head.
+    void show_head();
     /// Which of the article's prices is on, 0 or 1; 2 for none.
     [[nodiscard]] int chosen_price() const;
     /// Back to the register; the order's screens go.
     void leave();
 
  private:
-    void show_head();
     void save();
     void offer_to_print();
 

@@ -7,6 +7,7 @@
 #include "fulfil/mirorcc.h"
 #include "fulfil/mirorcr.h"
 #include "program/change_messages.h"
+#include "store/money.h"
 #include "store/records/order_block.h"
 
 namespace vantora {
@@ -18,7 +19,7 @@ void mirorcr::checkeva() {
     app_.desk.set_pointer(ui::pointer::busy);
     const change_outcome outcome = book();
     app_.desk.set_pointer(ui::pointer::normal);
-    if (!was_stored(app_.desk, outcome)) return;
+    if (!outcome.stored()) return stay(outcome);
     app_.ricarica_registro = 1;
     hide();
     app_.mirorca.use().show();
@@ -26,9 +27,10 @@ void mirorcr::checkeva() {
 
 change_outcome mirorcr::book() {
     archive_change change(app_.archives, archive_change::faults::end_the_program);
-    rec_tot now;
-    look_before_booking(change, now);
-    if (change.may_write() && orders_moved(now)) change.give_up(change_outcome::order_moved);
+    look_before_booking(change);
+    if (change.may_write() && app_.desk.guards().on() && !changed_rows().empty()) {
+        change.give_up(change_outcome::to_be_asked);
+    }
     if (!change.may_write()) return change.finish();
     app_.mirorca->empty_hand_over();
     book_marked_rows(change);
@@ -39,17 +41,11 @@ change_outcome mirorcr::book() {
     return change.finish();
 }
 
-bool mirorcr::orders_moved(const rec_tot& now) const {
-    const orders_since meanwhile(now, ordini_);
-    return std::ranges::any_of(visti_, [&](const ordine_visto& seen) {
-        rec_orc row;
-        return !app_.archives.orc.read(block_record(seen.registrazione, 1), row) ||
-               meanwhile.took_away(seen, row);
-    });
-}
-
-void mirorcr::look_before_booking(archive_change& change, rec_tot& now) const {
-    change.reads(app_.archives.tot, contatori::ordini, now);
+void mirorcr::look_before_booking(archive_change& change) const {
+    archivi& files = app_.archives;
+    rec_tot now;
+    change.reads(files.tot, contatori::ordini, now);
+    look_for_orders(change, orders_since(now, ordini_));
     bool any = false;
     bool any_leaves = false;
     for (int row = 1; row < righe_; ++row) {
@@ -59,6 +55,85 @@ void mirorcr::look_before_booking(archive_change& change, rec_tot& now) const {
     }
     if (any) change.changes(app_.archives.orc);
     if (any_leaves) change.changes(app_.archives.art);
+}
+
+void mirorcr::look_for_orders(archive_change& change, const orders_since& meanwhile) const {
+    for (const ordine_visto& seen : visti_) {
+        if (!change.may_write()) return;
+        rec_orc row;
+        const bool read = app_.archives.orc.read(block_record(seen.registrazione, 1), row);
+        change.require(seen.letto && read, app_.archives.orc.name());
+        if (meanwhile.took_away(seen, row)) {
+            change.give_up(change_outcome::order_moved);
+        }
+    }
+}
+
+void mirorcr::stay(const change_outcome& outcome) {
+    const std::string list_is_read = "Non è stato registrato nulla, l'elenco viene riletto."_cp;
+    if (outcome.how == change_outcome::to_be_asked) {
+        app_.desk.guards().refuse(
+            "Un'altra postazione ha cambiato queste righe mentre l'elenco era aperto:" +
+            changed_rows() + "\n" + list_is_read);
+    } else if (outcome.how == change_outcome::order_moved) {
+        app_.desk.message("Un'altra postazione ha compattato l'archivio. " + list_is_read,
+                          ui::attention, ui::icon::warning);
+    } else {
+        was_stored(app_.desk, outcome);
+        if (std::ranges::all_of(visti_, &ordine_visto::letto)) return;
+    }
+    list_anew();
+}
+
+std::string mirorcr::changed_rows() const {
+    std::string named;
+    for (int row = 1; row < righe_; ++row) {
+        const std::string_view leaving = elenco.text(row, evaso);
+        rec_orc now;
+        if ((testo_a_numero(leaving) == 0 && leaving != "*") ||
+            !app_.archives.orc.read(static_cast<std::int64_t>(number_in(row, numero_riga)), now) ||
+            riga_vista(now) == viste_[static_cast<std::size_t>(row - 1)]) {
+            continue;
+        }
+        named += "\nordine " + std::string(now.numero.trimmed()) + ", " +
+                 std::string(elenco.text(row, articolo));
+    }
+    return named;
+}
+
+void mirorcr::list_anew() {
+    struct segno {
+        ordine_visto ordine;
+        std::int64_t riga;
+        riga_vista vista;
+        std::string evaso;
+    };
+    std::vector<segno> marks;
+    const auto order_in = [this](int row) {
+        const auto block = static_cast<int>(number_in(row, numero_ordine));
+        return *std::ranges::find(visti_, block, &ordine_visto::registrazione);
+    };
+    const auto line_in = [this](int row) {
+        return static_cast<std::int64_t>(number_in(row, numero_riga)) % righe_blocco;
+    };
+    for (int row = 1; row < righe_; ++row) {
+        const std::string_view leaving = elenco.text(row, evaso);
+        if (leaving.empty()) continue;
+        marks.push_back({order_in(row), line_in(row), viste_[static_cast<std::size_t>(row - 1)],
+                         std::string(leaving)});
+    }
+    build_list();
+    for (int row = 1; row < righe_ && !marks.empty(); ++row) {
+        const auto its = std::ranges::find_if(marks, [&](const segno& mark) {
+            return mark.riga == line_in(row) &&
+                   mark.vista == viste_[static_cast<std::size_t>(row - 1)] &&
+                   same_order(mark.ordine, order_in(row));
+        });
+        if (its == marks.end()) continue;
+        elenco.set_text(row, evaso, its->evaso);
+        marks.erase(its);
+    }
+    show_marked();
 }
 
 void mirorcr::book_marked_rows(archive_change& change) {

@@ -2,8 +2,8 @@
 
 #include "entry/order_head.h"
 #include "errors/run_time_errors.h"
+#include "fulfil/document_number.h"
 #include "fulfil/mirorcc.h"
-#include "fulfil/salva_ddt.h"
 #include "fulfil/unloading.h"
 #include "orders/order_rows.h"
 #include "program/change_messages.h"
@@ -113,12 +113,16 @@ void mirorca::activate() {
     prezz[number_at_head(cliente_.listino.full()) == 1 ? 0 : 1].set_on(true);
     propose_movement();
     propose_mail();
+    show_head();
+    paint();
+    artic[0].set_focus();
+}
+
+void mirorca::show_head() {
     const mirorcc& head = *app_.mirorcc;
     testata.set_text(head.Text2[campo_cliente::intestazione1].text() + " - DDT " +
                      head.Text3[campo_ddt::numero].text() + " del " +
                      head.Text3[campo_ddt::data].text());
-    paint();
-    artic[0].set_focus();
 }
 
 void mirorca::propose_movement() {
@@ -225,13 +229,46 @@ bool mirorca::make_document() {
     document.cliente = app_.selezione_1;
     document.data_reg = app_.data_sistema;
     document.scaricato = scarica.on();
-    const change_outcome outcome =
-        salva_ddt(app_.archives, app_.files, app_.parameters.numero_azienda, document, righe_);
+    const change_outcome outcome = store_document(document);
     // The goods may be unloaded already.
     if (!was_stored(app_.desk, outcome, "il documento non è stato registrato")) {
         return false;
     }
     print(head);
+    return true;
+}
+
+change_outcome mirorca::store_document(ddt_da_registrare& document) {
+    document.solo_se_chiaro = app_.desk.guards().on();
+    while (true) {
+        const change_outcome outcome =
+            salva_ddt(app_.archives, app_.files, app_.parameters.numero_azienda, document, righe_);
+        if (outcome.how != change_outcome::to_be_asked || !settle_doubt(document)) return outcome;
+    }
+}
+
+bool mirorca::settle_doubt(ddt_da_registrare& document) {
+    std::string& number = document.text3[campo_ddt::numero];
+    std::string& date = document.text3[campo_ddt::data];
+    ui::guards& guards = app_.desk.guards();
+    const auto doubt = dubbio_su(app_.archives, number, date);
+    if (!doubt.any()) return true;
+    if (guards.confirm(doubt.racconto + "Registrarlo lo stesso?")) {
+        document.solo_se_chiaro = false;
+        return true;
+    }
+    const std::string day = doubt.data ? date_text(app_.desk.clock().now().day) : date;
+    const std::string free =
+        doubt.numero ? std::to_string(numero_libero(app_.archives, day)) : number;
+    if (!guards.confirm("Registrarlo con il numero " + free + " del " + day + "?",
+                        ui::answer::yes)) {
+        return false;
+    }
+    number = free;
+    date = day;
+    app_.mirorcc->Text3[campo_ddt::numero].set_text(free);
+    app_.mirorcc->Text3[campo_ddt::data].set_text(day);
+    show_head();
     return true;
 }
 

@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "entry/line_grid.h"
+#include "fulfil/salva_ddt.h"
 #include "store/records/rec_orc.h"
 
 namespace vantora {
@@ -46,6 +47,11 @@ class mirorca final : public line_grid {
     bool ask_to_unload(const rec_art& article);
     /// False if the document couldn't be stored: it isn't printed then, and the screen stays.
     bool make_document();
+    /// Stores the document; the user is asked first where its number or date is doubtful.
+    change_outcome store_document(ddt_da_registrare& document);
+    /// False if the user wants the document neither as it is nor with what is proposed instead.
+    bool settle_doubt(ddt_da_registrare& document);
+    void show_head();
     void print(const mirorcc& head);
     void leave();
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstring>
 #include <span>
 
 #include "orders/order_seen.h"
@@ -8,6 +9,26 @@
 #include "ui/controls.h"
 
 namespace vantora {
+
+/// What the list showed of an order's row, as far as a booking rests on it.
+struct riga_vista {
+    explicit riga_vista(const rec_orc& row)
+        : quantita(row.quantita),
+          evaso(row.evaso),
+          articolo(row.articolo),
+          annullato(row.annullato),
+          evaso_flag(row.evaso_flag) {}
+
+    bool operator==(const riga_vista& other) const {
+        return std::memcmp(this, &other, sizeof other) == 0;
+    }
+
+    f64le quantita;
+    f64le evaso;
+    i16le articolo;
+    i16le annullato;
+    i16le evaso_flag;
+};
 
 /// The worklist of a fulfilment: all open rows of the current customer's orders. The user says how
 /// much of each leaves, and the confirmation books it and hands it over to the transport document.
@@ -83,10 +104,16 @@ class mirorcr final : public ui::form {
     void checkeva();
     /// Books what leaves and closes the orders it ends.
     change_outcome book();
-    /// Another station's compaction has moved an order of the list. `now`: the counter of orders.
-    [[nodiscard]] bool orders_moved(const rec_tot& now) const;
     /// What is looked at before the first row is booked.
-    void look_before_booking(archive_change& change, rec_tot& now) const;
+    void look_before_booking(archive_change& change) const;
+    /// Another station's compaction has moved none of the orders listed.
+    void look_for_orders(archive_change& change, const orders_since& meanwhile) const;
+    /// Nothing was booked; a list that isn't right any more is built anew.
+    void stay(const change_outcome& outcome);
+    /// The marked rows that other stations changed, each in words.
+    [[nodiscard]] std::string changed_rows() const;
+    /// Builds the list anew; what was marked of rows that are as they were stays marked.
+    void list_anew();
     void book_marked_rows(archive_change& change);
     void take_transport_data(archive_change& change, int order);
     void close_fulfilled_orders(archive_change& change);
@@ -99,6 +126,7 @@ class mirorcr final : public ui::form {
     rec_orc riga_;  ///< the row read last; what can't be read stays as it was
     list_grid lista_;
     std::vector<ordine_visto> visti_;  ///< the orders whose rows are listed
+    std::vector<riga_vista> viste_;    ///< their rows, from row 1 of `elenco` on
     int righe_ = 1;                    ///< rows of `elenco` in use, head included
 };
 

@@ -37,6 +37,7 @@ void mirorcr::build_list() {
     elenco.set_rows(1);
     righe_ = 1;
     visti_.clear();
+    viste_.clear();
     app_.archives.tot.read(contatori::ordini, ordini_);
     app_.archives.tot.read(contatori::clienti, clienti_);
     list_orders(ordini_.quanti);
@@ -55,8 +56,9 @@ void mirorcr::list_orders(std::int16_t orders) {
         progress.come_to(order, orders);
         riga_ = reader.first_row(order);
         if (!is_listed(riga_)) continue;
-        visti_.emplace_back(order, riga_);
-        list_rows_of(order, reader.block(order), articles);
+        const auto rows = reader.block(order);
+        visti_.emplace_back(order, rows.front()).letto = reader.first_row_read();
+        list_rows_of(order, rows, articles);
     }
     if (righe_ > 1) elenco.set_row(righe_ - 1);
 }
@@ -79,6 +81,7 @@ void mirorcr::list_row(int order, std::int64_t record, bool first_of_order,
                        articles_shown& articles) {
     if (righe_ >= elenco.rows()) elenco.set_rows(2 * righe_);
     const int row = righe_++;
+    viste_.emplace_back(riga_);
     if (first_of_order) {
         elenco.set_text(row, ordine, riga_.numero.trimmed());
         elenco.set_text(row, data, date_text_of_stored(riga_.data.full()));

@@ -1,5 +1,6 @@
 #include "fulfil/salva_ddt.h"
 
+#include "fulfil/document_number.h"
 #include "store/suite_paths.h"
 #include "text/dates.h"
 #include "text/int16.h"
@@ -78,6 +79,11 @@ change_outcome salva_ddt(archivi& files, file_port& port, int numero_azienda,
     const rec_tot before = counter;
     counter.quanti = add_int16(counter.quanti, 1).value_or(counter.quanti);
     change.writes(files.bol, counter.quanti, 1);
+    if (change.may_write() && document.solo_se_chiaro &&
+        dubbio_su(files, document.text3[campo_ddt::numero], document.text3[campo_ddt::data])
+            .any()) {
+        change.give_up(change_outcome::to_be_asked);
+    }
     if (!change.may_write()) return change.finish();
 
     const auto number = to_int16(number_at_head(document.text3[campo_ddt::numero]));

@@ -22,6 +22,7 @@ struct ddt_da_registrare {
     std::int16_t cliente = 0;
     double data_reg = 0;  ///< date number of the last confirmation of this run
     bool scaricato = false;
+    bool solo_se_chiaro = false;  ///< number and date without a doubt, or the user is to be asked
 };
 
 /// Draws the number of a transport document and stores the document: its counter, its record, and

@@ -83,6 +83,15 @@ void unload(archive_change& change, archivi& files, const movimento_magazzino& m
     change.flush(files.tot);
 }
 
+/// Goods don't leave if the document that goes with them can't be counted any more.
+void look_for_a_document(archive_change& change, const archivi& files) {
+    rec_tot counter;
+    const bool known = files.tot.read(contatori::documenti_trasporto, counter);
+    if (known && counter.quanti == INT16_MAX) {
+        change.give_up(change_outcome::full, files.bol.name());
+    }
+}
+
 }  // namespace
 
 std::string giorno_movimento(std::string_view dd_mm_yyyy) {
@@ -105,6 +114,7 @@ change_outcome scarica_magazzino(archivi& files, const movimento_magazzino& move
             change.changes(files.art);
             change.writes(files.mag, counter.quanti + 1, moving);
         }
+        look_for_a_document(change, files);
         if (!change.may_write()) return change.finish();
         // Nobody else waits for an answer; and behind it all is looked at anew.
         bool all_asked = true;

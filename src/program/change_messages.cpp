@@ -1,5 +1,7 @@
 #include "program/change_messages.h"
 
+#include <algorithm>
+
 #include "text/code_page.h"
 
 namespace vantora {
@@ -17,6 +19,7 @@ std::string text_of(const change_outcome& outcome, const std::string& undone) {
     switch (outcome.how) {
         case change_outcome::done:
         case change_outcome::not_awaited:
+        case change_outcome::to_be_asked:
             return {};
         case change_outcome::in_part:
             return "Salvataggio avvenuto solo in parte: errore su " + files + ".";
@@ -51,6 +54,21 @@ void tell_not_compacted(ui::desk& desk, const change_outcome& outcome) {
     desk.message("Compattazione non completata: errore su " + outcome.files +
                      ". Nessun ordine è andato perso, ma alcuni possono comparire due volte."_cp,
                  ui::attention, ui::icon::stop);
+}
+
+void tell_kept(ui::desk& desk, const std::vector<std::string>& orders) {
+    constexpr std::size_t named_most = 10;
+    std::string named;
+    for (std::size_t i = 0; i < std::min(orders.size(), named_most); ++i) {
+        named += (i > 0 ? ", " : "") + orders[i];
+    }
+    if (orders.size() > named_most) {
+        named += " e altre " + std::to_string(orders.size() - named_most);
+    }
+    desk.message(
+        "Compattazione eseguita. Restano nell'archivio, perché non si possono leggere: "_cp +
+            named + ".",
+        ui::attention, ui::icon::warning);
 }
 
 void watch_stations(archivi& files, ui::desk& desk) {

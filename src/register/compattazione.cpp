@@ -1,8 +1,7 @@
 #include "register/compattazione.h"
 
-#include <vector>
-
 #include "store/record_runs.h"
+#include "text/code_page.h"
 #include "text/int16.h"
 
 namespace vantora {
@@ -24,9 +23,20 @@ bool move_block(archive_change& change, channel<rec_orc>& orders, int from, int 
                               std::span<const rec_orc>(rows).first(static_cast<std::size_t>(kept)));
 }
 
+/// How a block is named whose row 1 can't be read.
+std::string name_of(const channel<rec_orc>& orders, int registrazione) {
+    rec_orc second;
+    std::string number;
+    if (orders.read(block_record(registrazione, 2), second)) {
+        number = filtra_stampa(second.numero.trimmed());
+    }
+    return number.empty() ? "registrazione " + std::to_string(registrazione) : "ordine " + number;
+}
+
 /// Slides the blocks that stay down, until one refuses. Returns how many go.
 std::int16_t close_gaps(archive_change& change, channel<rec_orc>& orders, int count,
-                        bool elimina_evasi, const std::function<void(int, int)>& progress) {
+                        bool elimina_evasi, const std::function<void(int, int)>& progress,
+                        std::vector<std::string>* unread) {
     records_ahead<rec_orc> heads(
         orders, static_cast<std::size_t>(std::max(count, 0)), [](std::size_t before) {
             return record_run{block_record(static_cast<int>(before) + 1, 1)};
@@ -39,6 +49,7 @@ std::int16_t close_gaps(archive_change& change, channel<rec_orc>& orders, int co
         // Of what can't be read nobody knows that it may go.
         const bool read = heads.next(riga);
         progress(registrazione, count);
+        if (!read && unread) unread->push_back(name_of(orders, registrazione));
         if (read && (riga.annullato == 1 || (elimina_evasi && riga.evaso_flag == 1))) {
             ++vuoti;
         } else if (vuoti > 0) {
@@ -53,7 +64,8 @@ std::int16_t close_gaps(archive_change& change, channel<rec_orc>& orders, int co
 }  // namespace
 
 change_outcome compatta_archivio(archivi& files, bool elimina_evasi,
-                                 const std::function<void(int, int)>& progress) {
+                                 const std::function<void(int, int)>& progress,
+                                 std::vector<std::string>* unread) {
     archive_change change(files);
     rec_tot counter;
     if (change.may_write()) {
@@ -64,7 +76,8 @@ change_outcome compatta_archivio(archivi& files, bool elimina_evasi,
     if (!change.may_write()) return change.finish();
     const int orders = counter.quanti;
     progress(0, orders);
-    const std::int16_t vuoti = close_gaps(change, files.orc, orders, elimina_evasi, progress);
+    const std::int16_t vuoti =
+        close_gaps(change, files.orc, orders, elimina_evasi, progress, unread);
     if (!change.none_refused()) return change.finish();
 
     counter.quanti = subtract_int16(counter.quanti, vuoti).value_or(counter.quanti);

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <functional>
+#include <string>
+#include <vector>
 
 #include "store/archive_change.h"
 
@@ -17,7 +19,10 @@ namespace vantora {
 /// Without a counter to write nothing moves. An order whose head can't be read stays. The first
 /// block that can't be copied ends the moving, since the next would be laid over it, and leaves the
 /// count as it was; so does a disk that doesn't take what was moved.
+///
+/// `unread` gets the names of the orders that stayed since their heads couldn't be read.
 change_outcome compatta_archivio(archivi& files, bool elimina_evasi,
-                                 const std::function<void(int registrazione, int of)>& progress);
+                                 const std::function<void(int registrazione, int of)>& progress,
+                                 std::vector<std::string>* unread = nullptr);
 
 }  // namespace vantora

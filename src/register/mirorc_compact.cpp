@@ -24,8 +24,10 @@ void mirorc::compact() {
 }
 
 bool mirorc::run_compaction(bool elimina_evasi) {
-    const auto outcome =
-        compatta_archivio(app_.archives, elimina_evasi, [this](int registrazione, int of) {
+    std::vector<std::string> unread;
+    const auto outcome = compatta_archivio(
+        app_.archives, elimina_evasi,
+        [this](int registrazione, int of) {
             if (registrazione == 0) {
                 srt.set_visible(true);
                 srt.set_range(1, of);
@@ -33,11 +35,14 @@ bool mirorc::run_compaction(bool elimina_evasi) {
                 srt.set_value(registrazione);
                 app_.desk.let_events_run();
             }
-        });
+        },
+        &unread);
     if (!outcome.begun()) {
         was_stored(app_.desk, outcome, "l'archivio non è stato compattato");
     } else if (outcome.how != change_outcome::done) {
         tell_not_compacted(app_.desk, outcome);
+    } else if (!unread.empty()) {
+        tell_kept(app_.desk, unread);
     }
     return outcome.begun();
 }

@@ -19,6 +19,7 @@ struct change_outcome {
         removed,      ///< `files` isn't in its place any more
         full,         ///< `files` has as many records as its counter can count
         not_awaited,  ///< another station is at work, and the user didn't want to wait on
+        to_be_asked,  ///< others changed something that the user is to be asked about first
         order_moved,  ///< a compaction elsewhere put another order into a block to be changed
     };
 

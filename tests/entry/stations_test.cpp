@@ -178,6 +178,58 @@ TEST(stations, AnOrderThatCouldNotBeReadWholeIsNeverSavedOver) {
     }
 }
 
+TEST(stations, AnOrderEditedMeanwhileIsAskedAbout) {
+    enum class user { unasked, stays, reads_anew, saves };
+    for (const user wants : {user::unasked, user::stays, user::reads_anew, user::saves}) {
+        order_company company;
+        company.order(1, 1, {{1, 5}, {2, 7}});
+        order_station at(company);
+        at.desk.guards().switch_to(wants != user::unasked);
+        mirorcz& screen = at.open(1);
+        screen.ds[1].set_text("a mano");
+        company.change_row(1, 1, [](rec_orc& row) { row.evaso = 2; });
+        const std::string before = contents(company);
+        at.front.decide = [&] {
+            const std::string& asked = at.front.told.back();
+            return asked.starts_with("Un'altra")
+                       ? wants == user::saves
+                       : asked.starts_with("Caricare") && wants == user::reads_anew;
+        };
+        at.save_opened();
+        const bool saved = wants == user::saves || wants == user::unasked;
+        EXPECT_EQ(company.row_now(1, 1).evaso, saved ? 0 : 2) << "the last one wins";
+        EXPECT_EQ(at.active(), saved ? "mirorc" : "mirorcz");
+        if (wants != user::unasked) {
+            EXPECT_EQ(at.front.told[0],
+                      "Un'altra postazione ha cambiato quest'ordine mentre era aperto. Salvare lo "
+                      "stesso e perdere quelle modifiche?\nEvasione registrata: riga 1, 2,00");
+        }
+        if (saved) continue;
+        EXPECT_EQ(contents(company), before);
+        EXPECT_EQ(screen.ds[1].text(), wants == user::stays ? "a mano" : "merce");
+        const std::size_t told = at.front.told.size();
+        at.save_opened();
+        EXPECT_EQ(at.active(), wants == user::stays ? "mirorcz" : "mirorc");
+        EXPECT_EQ(at.front.told[told].starts_with("Un'altra"), wants == user::stays);
+    }
+}
+
+/// What another station deleted was taken out of its articles there.
+TEST(stations, AnOrderDeletedMeanwhileIsNotTakenOutOfItsArticlesTwice) {
+    for (const bool saves : {true, false}) {
+        order_company company;
+        company.order(1, 1, {{1, 5}, {2, 7}});
+        company.order(2, 1, {{1, 4}});
+        order_station at(company);
+        at.open(1);
+        delete_order(company, 1);
+        saves ? at.save_opened() : at.delete_opened();
+        EXPECT_EQ(at.active(), "mirorc");
+        EXPECT_EQ(company.article_now(1).ordinato_clienti, saves ? 9 : 4);
+        EXPECT_EQ(problems(company), "");
+    }
+}
+
 /// In the midst of a compaction the list is the one of before, and nothing opens.
 TEST(stations, NothingOfTheRegisterMovesDuringACompaction) {
     order_company company;

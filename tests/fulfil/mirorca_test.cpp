@@ -155,6 +155,64 @@ TEST(mirorca, WhatIsStoredElsewhereDuringAQuestionStays) {
     EXPECT_EQ(stage.article_now(2).prezzo1, 7);
 }
 
+/// Numbers given in the year already, texts that are none, dates that are none.
+TEST(mirorca, DoubtfulNumbersAndDatesAreAskedAboutBeforeTheyAreStored) {
+    constexpr int nothing = -1;
+    const struct {
+        const char* number;
+        const char* date;
+        std::vector<bool> answers;  ///< behind that on the document
+        int stored;
+        const char* day;
+    } cases[] = {{"7", "06/05/2024", {true}, 7, "20240506"},
+                 {"7", "06/05/2024", {false, false}, nothing, ""},
+                 {"7", "06/05/2024", {false, true}, 9, "20240506"},
+                 {"7", "06/05/2023", {}, 7, "20230506"},
+                 {"8", "06/05/2024", {}, 8, "20240506"},
+                 {"A12/26", "06/05/2024", {true}, 0, "20240506"},
+                 {"8", "31/02/2024", {false, false}, nothing, ""},
+                 {"7", "", {false, true, false, true}, 9, "20240506"},
+                 {"A1", "x", {false, true}, 9, "20240506"}};
+    for (const auto& one : cases) {
+        SCOPED_TRACE(std::string(one.number) + " " + one.date);
+        fulfil_stage stage;
+        stage.order(1, 1, {{1, 5}});
+        rec_bol given;
+        given.numero = 7;
+        given.data = "20240102";
+        given.cliente = 2;
+        stage.files.bol.write(1, given);
+        stage.counter(contatori::documenti_trasporto, 1, 8);
+        stage.run();
+        stage.desk.guards().switch_to(true);
+        stage.open_worklist(1);
+        stage.app.mirorcc->Text3[campo_ddt::numero].set_text(one.number);
+        stage.app.mirorcc->Text3[campo_ddt::data].set_text(one.date);
+        stage.click(1, mirorcr::da_evadere);
+        stage.book();
+        stage.app.mirorca->scarica.set_on(false);
+        std::vector<bool> answers{true};
+        answers.insert(answers.end(), one.answers.begin(), one.answers.end());
+        stage.confirm(answers);
+        EXPECT_EQ(stage.desk.active()->name(), one.stored == nothing ? "mirorca" : "mirorc");
+        EXPECT_EQ(stage.counter_now(contatori::documenti_trasporto).quanti,
+                  one.stored == nothing ? 1 : 2);
+        if (one.stored == nothing) continue;
+        EXPECT_EQ(stored(stage.files.bol, 2).numero, one.stored);
+        EXPECT_EQ(stored(stage.files.bol, 2).data.full(), one.day);
+    }
+}
+
+TEST(mirorca, NoGoodsLeaveWithoutRoomForTheirDocument) {
+    document_stage stage;
+    stage.counter(contatori::documenti_trasporto, 32767);
+    const std::string before = stage.content("art") + stage.content("mag") + stage.content("tot");
+    stage.confirm({});
+    EXPECT_EQ(stage.content("art") + stage.content("mag") + stage.content("tot"), before);
+    EXPECT_EQ(stage.desk.active()->name(), "mirorca");
+    EXPECT_TRUE(stage.front.told.back().starts_with("L'archivio vantora.bol è pieno"_cp));
+}
+
 TEST(mirorca, ClosingWritesNothingAndBoxesStayTickedUntilThen) {
     document_stage stage;
     stage.desk.dispatch([&] { stage.screen().scarica.toggle(); });

@@ -125,7 +125,54 @@ TEST(mirorcr, OrdersThatACompactionElsewhereMovedAreNotBooked) {
         EXPECT_EQ(stage.row_now(2, 1).evaso, compacted ? 0 : 5);
         EXPECT_EQ(stage.article_now(1).ordinato_clienti, compacted ? 10 : 5);
         EXPECT_EQ(stage.desk.active()->name(), compacted ? "mirorcr" : "mirorca");
-        EXPECT_EQ(stage.row(1)[mirorcr::evaso], "5,00");
+        EXPECT_EQ(stage.row(1)[mirorcr::evaso], "5,00") << "marked in the list read anew too";
+        if (!compacted) continue;
+        stage.book();
+        EXPECT_EQ(stage.row_now(1, 1).evaso, 5);
+    }
+}
+
+TEST(mirorcr, ADiskThatFailsIsNoOtherStation) {
+    fulfil_stage stage;
+    stage.order(1, 1, {{1, 5}});
+    stage.run();
+    stage.open_worklist(1);
+    stage.click(1, mirorcr::ordine);
+    stage.faults.read_fails = [](const std::string& path, auto, auto) {
+        return path.ends_with("orc");
+    };
+    stage.book();
+    EXPECT_EQ(stage.front.told.back(),
+              "Impossibile leggere o scrivere il file vantora.orc: nulla è stato salvato."_cp);
+    stage.faults.read_fails = nullptr;
+    stage.book();
+    EXPECT_EQ(stage.row_now(1, 1).evaso, 5);
+}
+
+TEST(mirorcr, RowsBookedElsewhereMeanwhileAreNamedAndNothingIsBooked) {
+    for (const bool guarded : {true, false}) {
+        fulfil_stage stage;
+        stage.order(1, 1, {{1, 5}, {2, 7}, {3, 9}});
+        stage.run();
+        stage.desk.guards().switch_to(guarded);
+        stage.open_worklist(1);
+        stage.click(1, mirorcr::da_evadere);
+        stage.type_quantity(2, "3");
+        stage.change_row(1, 1, [](rec_orc& row) { row.evaso = 4; });
+        stage.change_row(1, 3, [](rec_orc& row) { row.evaso = 1; });  // isn't marked
+        const std::string before = stage.content("orc") + stage.content("art");
+        stage.book();
+        EXPECT_EQ(stage.desk.active()->name(), guarded ? "mirorcr" : "mirorca");
+        EXPECT_EQ(stage.row_now(1, 1).evaso, guarded ? 4 : 9);
+        if (!guarded) continue;
+        EXPECT_NE(stage.front.told.back().find("\nordine 10, A1 articolo A1"), std::string::npos);
+        EXPECT_EQ(stage.front.told.back().find("A2"), std::string::npos);
+        EXPECT_EQ(stage.content("orc") + stage.content("art"), before);
+        EXPECT_EQ(stage.row(1)[mirorcr::da_evadere], "1,00");
+        EXPECT_EQ(stage.row(1)[mirorcr::evaso], "");
+        EXPECT_EQ(stage.row(2)[mirorcr::evaso], "3,00");
+        stage.book();
+        EXPECT_EQ(stage.row_now(1, 2).evaso, 3);
     }
 }
 

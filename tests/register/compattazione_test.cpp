@@ -79,9 +79,11 @@ struct noted_archive {
         faults.reads = 0;
     }
     change_outcome compact(bool fulfilled_too = false) {
-        return compatta_archivio(files, fulfilled_too, [](int, int) {});
+        return compatta_archivio(
+            files, fulfilled_too, [](int, int) {}, &unread);
     }
 
+    std::vector<std::string> unread;
     small_company company;
     drive real{company.drive()};
     faulty_files faults{real};
@@ -130,6 +132,11 @@ TEST(compattazione, LeavesTheSameBytesAsMovingRecordByRecord) {
                 try {
                     const bool whole = one.compact(fulfilled_too).how == change_outcome::done;
                     EXPECT_EQ(whole, counter_of(one.company.files).riservato_a == 0);
+                    const auto of_bad = static_cast<std::size_t>(bad_record) / 200;
+                    const bool kept = bad_record % 200 == 1 && of_bad < orders;
+                    EXPECT_TRUE(!whole || one.unread.size() == (kept ? 1U : 0U));
+                    EXPECT_TRUE(!whole || !kept ||
+                                one.unread[0].ends_with(std::to_string(of_bad + 1)));
                 } catch (const crash&) {
                     EXPECT_TRUE(ends);
                 }

@@ -7,8 +7,8 @@
 
 namespace vantora::demo {
 
-/// The most that an archive can number.
-inline constexpr int massimo_record = 32767;
+/// The most records of a file. An archive numbers 767 more: there is room to work.
+inline constexpr int massimo_record = 32000;
 
 /// A company to be made up. REQUIRES: the counts are 0 to `massimo_record`, the number 0 to 999.
 struct demo_request {

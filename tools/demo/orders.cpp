@@ -1,8 +1,7 @@
 #include "demo/orders.h"
 
-#include <limits>
-
 #include "demo/calendar.h"
+#include "demo/demo_company.h"
 #include "demo/draws.h"
 #include "demo/lines.h"
 #include "orders/stock.h"
@@ -217,7 +216,7 @@ void fill_block(std::vector<rec_orc>& block, const order& one, const rec_cli& cu
 
 /// The warehouse's file numbers its records in 16 bits: older movements have been closed off.
 void keep_latest(std::vector<rec_mag>& movements) {
-    constexpr std::size_t most = std::numeric_limits<std::int16_t>::max();
+    constexpr std::size_t most = massimo_record;
     if (movements.size() <= most) return;
     movements.erase(movements.begin(), movements.end() - static_cast<std::ptrdiff_t>(most));
 }

@@ -13,7 +13,7 @@ namespace vantora::demo {
 
 /// What the deliveries of the orders left in the warehouse's files.
 struct deliveries {
-    std::vector<rec_mag> movements;  ///< the latest ones, as many as the file can number
+    std::vector<rec_mag> movements;  ///< the latest ones, `massimo_record` at most
     std::vector<rec_bol> documents;
 };
 
