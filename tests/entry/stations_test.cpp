@@ -1,10 +1,7 @@
 #include <gtest/gtest.h>
 
-#include <thread>
-
 #include "entry/import_picker.h"
 #include "entry/order_station.h"
-#include "scripted/problems.h"
 
 namespace vantora::test {
 namespace {
@@ -252,48 +249,6 @@ TEST(stations, NothingOfTheRegisterMovesDuringACompaction) {
     at.compact();
     EXPECT_EQ(times, 3) << "it tells how far it is, block by block";
     EXPECT_EQ(at.app.mirorc->elenco.text(1, mirorc::ordine), "20");
-}
-
-/// There are so many orders, none of them deleted, all of them whole, and the stock is theirs.
-void expect_sound(order_company& company, int orders) {
-    EXPECT_EQ(company.counter_now(contatori::ordini).quanti, orders);
-    EXPECT_EQ(company.article_now(1).ordinato_clienti, 2 * orders);
-    for (int block = 1; block <= orders; ++block) {
-        EXPECT_EQ(company.row_now(block, 1).annullato, 0) << block;
-    }
-    EXPECT_EQ(problems(company), "");
-}
-
-/// Two stations do something at once, on disks that take their time.
-template <class Here, class There>
-void at_once(order_company& company, Here here, There there) {
-    order_station stations[] = {order_station(company), order_station(company)};
-    for (order_station& one : stations) one.faults.read_takes = std::chrono::microseconds(100);
-    std::thread other([&] { there(stations[1]); });
-    here(stations[0]);
-    other.join();
-}
-
-TEST(stations, NothingIsLostWhateverTwoOfThemDoAtOnce) {
-    const auto save = [](order_station& one) { one.take_order(); };
-    const auto save_five = [&](order_station& one) {
-        for (int i = 0; i < 5; ++i) save(one);
-    };
-    const auto compact = [](order_station& one) { one.compact(); };
-    for (int round = 0; round < 4; ++round) {
-        order_company company;
-        at_once(company, save_five, save_five);
-        expect_sound(company, 10);
-
-        for (const int block : {2, 3, 7}) delete_order(company, block);
-        if (round % 2 == 0) {
-            at_once(company, compact, compact);
-            expect_sound(company, 7);
-        } else {
-            at_once(company, compact, save);
-            expect_sound(company, 8);
-        }
-    }
 }
 
 }  // namespace

@@ -11,6 +11,7 @@
 #include "documents/print_file_reader.h"
 #include "documents/printed_document.h"
 #include "support/file_bytes.h"
+#include "support/long_sessions.h"
 #include "support/picture_file.h"
 #include "support/scratch_folder.h"
 #include "ui/desk_stage.h"
@@ -136,7 +137,8 @@ void mutate(std::string& input, std::mt19937& random) {
 
 TEST(any_file, IsReadAndDrawnWithValuesInTheirRanges) {
     const auto good = good_contents();
-    for (unsigned seed = 0; seed < 6000 && !testing::Test::HasFailure(); ++seed) {
+    const unsigned seeds = test::long_sessions() ? 6000 : 1200;
+    for (unsigned seed = 0; seed < seeds && !testing::Test::HasFailure(); ++seed) {
         SCOPED_TRACE(seed);
         std::mt19937 random(seed);
         std::string content = good[random() % good.size()];

@@ -12,6 +12,7 @@
 #include "register/compattazione.h"
 #include "register/mirorc.h"
 #include "support/file_bytes.h"
+#include "support/long_sessions.h"
 #include "support/program_stage.h"
 #include "ui/controls.h"
 
@@ -226,7 +227,8 @@ void work_restlessly(unsigned seed, bool damaged) {
 }
 
 TEST(any_session, EndsWellAndLeavesSoundFilesSound) {
-    for (unsigned seed = 0; seed < 200 && !testing::Test::HasFailure(); ++seed) {
+    const unsigned seeds = test::long_sessions() ? 200 : 40;
+    for (unsigned seed = 0; seed < seeds && !testing::Test::HasFailure(); ++seed) {
         SCOPED_TRACE(seed);
         work_restlessly(seed, seed % 2 == 1);
     }

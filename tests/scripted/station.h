@@ -25,8 +25,12 @@ class answering_user final : public silent_front_end {
     void let_events_run() override {
         if (meanwhile) meanwhile();
     }
+    void box_opened(const ui::message_box&) override {
+        if (at_box) at_box();
+    }
     ui::desk* desk = nullptr;
     std::function<void()> meanwhile;  ///< done whenever pending events run, or are waited for
+    std::function<void()> at_box;     ///< done whenever a box opens
     std::function<bool()> decide = [] { return false; };
     std::vector<std::string> told;
 };

@@ -22,7 +22,6 @@ class faulty_file final : public file {
         if (faults_.write_fails && faults_.write_fails(path_, offset)) return false;
         if (faults_.writes >= faults_.writes_before_crash) throw crash{};
         ++faults_.writes;
-        if (!faults_.locked) faults_.written_unlocked.push_back(path_);
         faults_.events.push_back({path_, offset, bytes.size(), false});
         return real_->write(offset, bytes);
     }
@@ -41,15 +40,8 @@ class faulty_file final : public file {
     }
     bool put_in_place() override { return !faults_.refuses_open(path_) && real_->put_in_place(); }
     file_place follow() override { return real_->follow(); }
-    lock_answer try_lock() override {
-        const lock_answer answer = faults_.lock_answers.value_or(real_->try_lock());
-        faults_.locked |= answer == lock_answer::held;
-        return answer;
-    }
-    void unlock() override {
-        faults_.locked = false;
-        real_->unlock();
-    }
+    lock_answer try_lock() override { return faults_.lock_answers.value_or(real_->try_lock()); }
+    void unlock() override { real_->unlock(); }
     [[nodiscard]] std::optional<std::string> locked_by() const override {
         return real_->locked_by();
     }

@@ -51,8 +51,6 @@ class faulty_files final : public file_port {
     void fail_at(std::size_t n, bool for_good, bool& failed);
     /// What the file system says whenever the lock is asked for, instead of the truth.
     std::optional<lock_answer> lock_answers;
-    bool locked = false;  ///< the lock is held here
-    std::vector<std::string> written_unlocked;
     /// How long the disk takes over each read, of any number at once.
     std::chrono::microseconds read_takes{0};
     std::atomic<std::size_t> reads = 0;
