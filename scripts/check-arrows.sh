@@ -14,6 +14,7 @@ text:
 errors:
 store: store/records text errors
 store/records: store
+backup: store text
 orders: store store/records text errors
 ui: text errors
 ui/pictures: ui
@@ -31,12 +32,12 @@ program: store text ui
 customer: program orders store store/records text ui
 documents: program orders store text ui
 enquiry: customer documents entry program orders store store/records text ui
-register: enquiry program orders store text ui
+register: backup enquiry program orders store text ui
 entry: customer documents program orders store text ui errors
 fulfil: customer entry program orders store store/records text ui errors
 reports: documents program orders store store/records text ui
 app: register enquiry customer entry fulfil reports program store text ui desktop desktop/dialogs desktop/look desktop/printing windows ui/paper ui/pictures ui/script
-tools/archive: store text orders store/records
+tools/archive: backup store text orders store/records
 tools/demo: text store/records store orders
 tools/mirxpdf: documents store text ui/paper ui/pictures desktop/look
 bench: tools/archive tools/demo register store customer entry desktop desktop/look ui fulfil store/records documents tools/mirxpdf ui/pictures orders reports text desktop/printing

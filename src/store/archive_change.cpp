@@ -3,6 +3,7 @@
 #include <thread>
 
 #include "errors/run_time_errors.h"
+#include "text/code_page.h"
 
 namespace vantora {
 
@@ -95,7 +96,58 @@ change_outcome archive_change::finish() {
                        : written_         ? change_outcome::in_part
                                           : change_outcome::nothing_stored;
     }
+    record(false);
     return outcome_;
+}
+
+archive_change::~archive_change() {
+    const bool interrupted = std::uncaught_exceptions() > exceptions_;
+    let_go();
+    record(interrupted);
+}
+
+namespace {
+
+std::string words_for(const change_outcome& outcome) {
+    switch (outcome.how) {
+        case change_outcome::done:
+            return "fatto";
+        case change_outcome::in_part:
+            return "in parte, errore su " + outcome.files;
+        case change_outcome::nothing_stored:
+            return "niente, errore su " + outcome.files;
+        case change_outcome::stock_moved:
+            return "niente, ma quantità già cambiate; errore su "_cp + outcome.files;
+        case change_outcome::refused:
+        case change_outcome::removed:
+        case change_outcome::full:
+            return "non cominciato, non va " + outcome.files;
+        case change_outcome::not_awaited:
+            return "non cominciato, un'altra postazione al lavoro";
+        case change_outcome::order_moved:
+            return "non cominciato, un'altra postazione ha compattato";
+        case change_outcome::to_be_asked:
+            break;
+    }
+    return {};
+}
+
+}  // namespace
+
+/// A change that only looked isn't worth a line.
+void archive_change::record(bool interrupted) noexcept {
+    const std::string what = std::exchange(what_, {});
+    if (what.empty() || !files_.book) return;
+    if (!written_ &&
+        (outcome_.how == change_outcome::done || outcome_.how == change_outcome::to_be_asked)) {
+        return;
+    }
+    try {
+        files_.book(what, which_, interrupted ? "interrotto" : words_for(outcome_));
+    } catch (...) {
+        // The work goes on without its book.
+        return;
+    }
 }
 
 void archive_change::let_go() {

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <exception>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "store/archives.h"
 
@@ -57,7 +59,14 @@ class archive_change {
     explicit archive_change(archivi& files, faults then = faults::are_noted);
     archive_change(const archive_change&) = delete;
     archive_change& operator=(const archive_change&) = delete;
-    ~archive_change() { let_go(); }
+    ~archive_change();
+
+    /// What the book of what was done calls it: "ordine nuovo", "12", in the code page. A change
+    /// without a name isn't in it.
+    void recorded_as(std::string what, std::string which = {}) {
+        what_ = std::move(what);
+        which_ = std::move(which);
+    }
 
     // Looking: once something stands in the way, nothing more is looked at ----------------------
 
@@ -152,8 +161,12 @@ class archive_change {
     }
     bool remember(std::string_view file);  ///< false
     void let_go();
+    void record(bool interrupted) noexcept;
 
     archivi& files_;
+    std::string what_;  ///< empty once it was recorded
+    std::string which_;
+    int exceptions_ = std::uncaught_exceptions();
     std::shared_ptr<file> locked_;  ///< null if there is nothing to let go
     bool changing_ = false;
     faults then_;

@@ -33,6 +33,10 @@ struct archivi {
     /// Whether to wait on, after every `patience` of it. Null: no.
     std::function<bool(std::chrono::seconds so_far)> wait_on;
     std::chrono::milliseconds patience{10'000};
+    /// Takes down what was done: "ordine nuovo", "12", what came of it. Null: nobody does.
+    std::function<void(const std::string& what, const std::string& which,
+                       const std::string& outcome)>
+        book;
     bool changing = false;  ///< a change of the archive is under way
 };
 

@@ -17,6 +17,13 @@
 
 namespace vantora {
 
+std::string this_station() {
+    char host[256] = "";
+    ::gethostname(host, sizeof host - 1);
+    const passwd* user = ::getpwuid(::geteuid());
+    return from_utf8(std::string(user ? user->pw_name : "?") + " su " + host);
+}
+
 namespace {
 
 /// Text files of the suite are small; of a larger file its head will do.
@@ -37,14 +44,6 @@ struct flock lock_of(short type) {
 
 /// Who had the lock last stands beside the file's content, where no other program meets it.
 constexpr const char* holder_attribute = "user.vantora.station";
-
-/// User and host, "anna su cassa2".
-std::string this_station() {
-    char host[256] = "";
-    ::gethostname(host, sizeof host - 1);
-    const passwd* user = ::getpwuid(::geteuid());
-    return from_utf8(std::string(user ? user->pw_name : "?") + " su " + host);
-}
 
 /// The entry of a folder that has the name, in whatever case; the name as it is if there is none.
 std::filesystem::path entry_named(const std::filesystem::path& folder, const std::string& name) {

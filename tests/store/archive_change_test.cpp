@@ -2,10 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include "store/day_book.h"
 #include "store/drive.h"
 #include "store/suite_paths.h"
 #include "support/faulty_files.h"
+#include "support/file_bytes.h"
 #include "support/scratch_folder.h"
+#include "text/code_page.h"
 
 namespace vantora::test {
 namespace {
@@ -120,6 +123,43 @@ TEST(archive_change, SaysWhetherAnythingIsStored) {
     const change_outcome outcome = part.finish();
     EXPECT_EQ(outcome.how, change_outcome::in_part);
     EXPECT_EQ(outcome.files, "vantora.orc, vantora.tot");
+}
+
+TEST(archive_change, ABookTellsWhatWasDoneAndNeverStopsIt) {
+    two_stations at;
+    const scratch_folder folder;
+    const day_book book(folder.path() / "a" / "b");
+    const auto libro = folder.path() / "a" / "b" / "libro.txt";
+    book.watch(at.here, 7, [] { return date_time{{2024, 5, 6}, 10, 20, 3}; });
+    const auto change = [&at](const std::string& which, bool writes) {
+        archive_change one(at.here);
+        one.recorded_as("ordine nuovo", which);
+        if (writes) one.write(at.here.orc, 1, rec_orc{});
+        if (which == "ends") throw crash{};
+        return one.finish().how;
+    };
+    const auto last_line = [&libro] {
+        const std::string all = bytes_of(libro);
+        return all.empty() ? all : all.substr(all.rfind('\n', all.size() - 2) + 1);
+    };
+    change("looks", false);
+    EXPECT_EQ(last_line(), "");
+    change("12\n\t\x80", true);
+    EXPECT_EQ(last_line(), "06/05/2024 10:20:03\t" + to_utf8(this_station()) +
+                               "\tditta 7\tordine nuovo\t12  \xE2\x82\xAC\tfatto\n");
+    EXPECT_THROW(change("ends", true), crash);
+    EXPECT_TRUE(last_line().ends_with("ends\tinterrotto\n"));
+    at.faults.write_fails = [](auto&, auto) { return true; };
+    change("13", true);
+    EXPECT_TRUE(last_line().ends_with("13\tniente, errore su vantora.orc\n"));
+    at.faults.write_fails = nullptr;
+    put(libro, std::string(1U << 20U, 'x'));
+    change("14", true);
+    EXPECT_EQ(fs::file_size(libro.parent_path() / "libro.1.txt"), 1U << 20U);
+    EXPECT_LT(fs::file_size(libro), 200U);
+    fs::remove_all(libro.parent_path());
+    put(libro.parent_path(), "no folder");
+    EXPECT_EQ(change("15", true), change_outcome::done);
 }
 
 }  // namespace

@@ -4,10 +4,11 @@
 #include <chrono>
 #include <map>
 
-#include "archive/backup.h"
+#include "backup/backup.h"
 #include "demo_folder.h"
 #include "store/drive.h"
 #include "support/faulty_files.h"
+#include "support/sampled.h"
 
 namespace vantora::archive {
 namespace {
@@ -40,7 +41,8 @@ TEST(archive_backup, ACopyIsWholeOrNotThereWhateverWriteFails) {
     copying of(company);
     const auto sources = test::files_under(company.drive());
     for (const bool crashes : {false, true}) {
-        for (std::size_t n = 0;; ++n) {
+        const test::sampled writes(7);
+        for (std::size_t n = writes.first;; n += writes.step) {
             SCOPED_TRACE(n);
             const test::scratch_folder out;
             drive real(out.path());
@@ -91,7 +93,7 @@ TEST(archive_backup, OldCopiesGoAndNothingElse) {
         unfinished, std::filesystem::file_time_type::clock::now() - std::chrono::hours(30));
     EXPECT_EQ(drop_old_copies(out.path(), "ditta007", 1), 2);
     EXPECT_FALSE(std::filesystem::exists(unfinished));
-    EXPECT_EQ(newest_copy(out.path(), "ditta007"), "2024-01-03-000000");
+    EXPECT_EQ(newest_copy(out.path(), "ditta007"), (date_time{{2024, 1, 3}}));
     EXPECT_TRUE(std::filesystem::exists(out.path() / "ditta007-vecchia"));
     EXPECT_TRUE(std::filesystem::exists(out.path() / "ditta008-2024-01-01-000000"));
 }
@@ -111,7 +113,8 @@ TEST(archive_restore, TheCompanyIsTheCopyOrAsItWasWhateverWriteFails) {
     const copy_outcome checked = checked_copy(made.place, from);
     ASSERT_EQ(checked.fault, "");
     for (const bool crashes : {false, true}) {
-        for (std::size_t n = 0;; ++n) {
+        const test::sampled writes(7);
+        for (std::size_t n = writes.first;; n += writes.step) {
             SCOPED_TRACE(n);
             drive real(company.drive());
             faulty_files to(real);

@@ -44,12 +44,14 @@ rows parsed(const std::string& bytes, char separator) {
 
 /// Where a plain reader finds the columns of a table: its file, the length of a record, and for
 /// each column its offset and kind: a text's width, i a 16-bit number, d a double, c and a
-/// references to customers and articles, t a date.
+/// references to customers and articles, t a date, j a description with where it goes on.
 struct plain_table {
     const char* name;
     const char* extension;
     std::size_t length;
     const char* columns;
+    std::size_t rows_of_a_block = 1;
+    std::size_t keys = 1;  ///< 2: by block and row
 };
 
 constexpr plain_table plain_tables[] = {
@@ -61,6 +63,14 @@ constexpr plain_table plain_tables[] = {
      "0,15 15,40 55,13 68,2 70,3 73,i 75,d 83,d 123,d 139,d 147,d 179,d 195,d 203,4 207,4 211,4 "
      "295,d 325,i"},
     {"movimenti", "mag", 94, "0,t 8,40 48,i 50,12 62,- 70,a 72,c 74,d 82,d 90,i"},
+    {"ordini", "orc", 284,
+     "0,10 10,t 18,c 232,t 240,i 242,1 249,- 282,i 20,40 60,40 100,40 304,40 344,40 384,40 588,40 "
+     "628,40 872,40 912,40 952,40 668,40 0,- 0,- 0,- 0,-",
+     200},
+    {"righe_ordini", "orc", 284, "140,a 142,j257 182,2 184,d 192,d 200,d 243,i 245,i 247,i", 200,
+     2},
+    {"preventivi", "prv", 284, "0,10 10,t 18,c 20,40 60,40 100,40 282,i", 200},
+    {"righe_preventivi", "prv", 284, "140,a 142,j242 182,d 190,d 198,2 200,i 202,i 204,i", 200, 2},
 };
 
 template <class Number>
@@ -95,6 +105,10 @@ std::string plain_cell_at(const std::string& bytes, std::size_t at, const std::s
         const std::string day = bytes.substr(at, 8);
         return day.substr(0, 4) + "-" + day.substr(4, 2) + "-" + day.substr(6, 2);
     }
+    if (kind[0] == 'j') {
+        const auto rest = at - 142 + static_cast<std::size_t>(std::stoi(kind.substr(1)));
+        return plain_text_at(bytes.substr(at, 40) + bytes.substr(rest, 10), 0, 50);
+    }
     if (kind != "i" && kind != "a" && kind != "c") {
         return plain_text_at(bytes, at, static_cast<std::size_t>(std::stoi(kind)));
     }
@@ -126,10 +140,61 @@ void scramble(const demo_folder& company, std::mt19937& dice) {
     std::ofstream(company.file("mag"), std::ios::binary) << movements;
 }
 
+/// How many rows a table has: of lines, those with an article, a figure or words.
+std::size_t plain_count(const std::string& bytes, const plain_table& table) {
+    if (table.keys == 1) return bytes.size() / table.length / table.rows_of_a_block;
+    const std::string columns = table.columns;
+    const auto more = static_cast<std::size_t>(std::stoi(columns.substr(columns.find('j') + 1)));
+    const std::size_t figures = more == 257 ? 184 : 182;
+    std::size_t count = 0;
+    for (std::size_t at = 0; at < bytes.size(); at += table.length) {
+        const bool words =
+            !plain_text_at(bytes.substr(at + 142, 40) + bytes.substr(at + more, 10), 0, 50).empty();
+        count += words || number_at<std::int16_t>(bytes, at + 140) > 0 ||
+                         number_at<double>(bytes, at + figures) != 0 ||
+                         number_at<double>(bytes, at + figures + 8) != 0
+                     ? 1
+                     : 0;
+    }
+    return count;
+}
+
+/// The lines of the documents, from the text files beside their records.
+void expect_documents_with_lines(const demo_folder& company, const std::filesystem::path& plain) {
+    const rows csv = parsed(test::bytes_of(plain / "righe_ddt.csv"), ',');
+    const rows heads = parsed(test::bytes_of(plain / "ddt.csv"), ',');
+    std::size_t row = 1;
+    for (std::size_t document = 1; document < heads.size(); ++document) {
+        const auto file = company.file("bol").parent_path() / ("b" + heads[document][3]);
+        std::ifstream text(file);
+        std::vector<std::string> lines;
+        for (std::string line; std::getline(text, line);) {
+            lines.push_back(plain_text_at(line, 0, line.find('\r')));
+        }
+        EXPECT_EQ(heads[document][7], lines.empty() ? "0" : "1");
+        for (std::size_t at = 10; at + 20 <= lines.size(); at += 10) {
+            if (std::stoi(lines[at]) < 1 && lines[at + 3].empty() &&
+                std::stod(lines[at + 8]) == 0) {
+                continue;
+            }
+            ASSERT_LT(row, csv.size());
+            EXPECT_EQ(csv[row][0], heads[document][0]);
+            EXPECT_EQ(csv[row][1], std::to_string(at / 10));
+            for (const std::size_t words : {2, 3, 4})
+                EXPECT_EQ(csv[row][words + 1], lines[at + words]);
+            for (const std::size_t number : {5, 6, 7, 8, 9}) {
+                EXPECT_EQ(std::stod(csv[row][number + 1]), std::stod(lines[at + number]));
+            }
+            ++row;
+        }
+    }
+    EXPECT_EQ(row, csv.size());
+}
+
 rows of_database(sqlite3* opened, const std::string& table) {
     rows all;
     sqlite3_stmt* query = nullptr;
-    sqlite3_prepare_v2(opened, ("SELECT * FROM " + table + " ORDER BY 1").c_str(), -1, &query,
+    sqlite3_prepare_v2(opened, ("SELECT * FROM " + table + " ORDER BY 1, 2").c_str(), -1, &query,
                        nullptr);
     while (sqlite3_step(query) == SQLITE_ROW) {
         all.emplace_back();
@@ -170,6 +235,7 @@ TEST(archive_export, EveryFormHoldsWhatAPlainReaderFinds) {
         sqlite3* opened = nullptr;
         ASSERT_EQ(sqlite3_open((out.path() / "all.db").c_str(), &opened), SQLITE_OK);
         EXPECT_EQ(of_database(opened, "pragma_foreign_key_check").size(), 0U);
+        expect_documents_with_lines(folder, out.path() / "plain");
         for (const plain_table& table : plain_tables) {
             SCOPED_TRACE(table.name);
             const std::string file = std::string(table.name) + ".csv";
@@ -179,19 +245,27 @@ TEST(archive_export, EveryFormHoldsWhatAPlainReaderFinds) {
             const std::string bytes = test::bytes_of(folder.file(table.extension));
             ASSERT_EQ(csv.size(), stored.size() + 1);
             ASSERT_EQ(csv.size(), in_sheet.size());
+            EXPECT_EQ(csv.size() - 1, plain_count(bytes, table));
             for (std::size_t row = 1; row < csv.size(); ++row) {
                 EXPECT_EQ(stored[row - 1], csv[row]);
                 std::istringstream columns(table.columns);
-                std::size_t cell = 1;
+                std::size_t cell = table.keys;
+                const auto key = [&](std::size_t i) {
+                    return static_cast<std::size_t>(std::stoi(csv[row][i])) - 1;
+                };
+                const std::size_t record =
+                    key(0) * table.rows_of_a_block + (table.keys == 2 ? key(1) : 0);
                 for (std::string column; columns >> column; ++cell) {
                     const auto comma = column.find(',');
                     const std::size_t at =
-                        (row - 1) * table.length + static_cast<std::size_t>(std::stoi(column));
+                        record * table.length + static_cast<std::size_t>(std::stoi(column));
                     const std::string kind = column.substr(comma + 1);
                     if (kind == "-") continue;
                     const std::string found = plain_cell_at(bytes, at, kind, {size + 2, size + 5});
                     ASSERT_EQ(csv[row][cell], found) << column << " of " << row;
-                    if (kind.find_first_not_of("0123456789") != std::string::npos) continue;
+                    if (table.keys == 2 ||
+                        kind.find_first_not_of("0123456789") != std::string::npos)
+                        continue;
                     EXPECT_EQ(in_sheet[row][cell], kept_as_text(found));
                 }
                 EXPECT_EQ(cell, csv[row].size());

@@ -1,36 +1,29 @@
 #pragma once
 
-#include "archive/company_files.h"
-#include "archive/finding.h"
-#include "archive/open_quantities.h"
+#include "archive/survey.h"
 
 namespace vantora::archive {
 
-/// Everything that can be told of an archive from its files alone, in the order of the files.
-findings check_archive(company_files& company);
+/// Everything that can be told of an archive from its files alone, causes before effects.
+findings check_archive(company_files& company, const progress& tell = {});
 
-// One subject each -------------------------------------------------------------------------------
+// One subject each; what follows from a doubt of the survey isn't told
+// -------------------------------
 
-/// Lengths of the record files against whole records and against their counters; counters that
-/// are nonsense or near their end.
-void check_files(company_files& company, findings& into);
 /// Order of the indexes, each record once, the key of its record.
-void check_indexes(company_files& company, findings& into);
-/// The orders, block by block, in one pass that also adds up what they have open.
-void check_orders(company_files& company, open_quantities& open, findings& into);
-/// Stock figures that are no numbers, and ordered quantities that the orders don't account for.
-void check_stock(company_files& company, const open_quantities& open, findings& into);
+void check_indexes(const survey& found, findings& into);
+/// Customers and articles: names, codes, values that mean nothing.
+void check_masters(const survey& found, findings& into);
+/// Quotes, like orders.
+void check_quotes(company_files& company, const survey& found, findings& into);
+/// Stock figures by themselves, against the orders and against the movements.
+void check_stock(const survey& found, findings& into);
 /// Movements and transport documents.
-void check_movements(company_files& company, findings& into);
+void check_movements(company_files& company, const survey& found, findings& into);
+void check_documents(company_files& company, const survey& found, findings& into);
 /// Parameter and table files that fall back to defaults.
 void check_tables(company_files& company, findings& into);
-
-/// So many records of an open file couldn't be read.
-template <class Record>
-void tell_unread(const channel<Record>& file, int records, findings& into) {
-    if (records == 0 || !file.is_open()) return;
-    into.push_back({gravity::error, file.name(), std::to_string(records) + " records can't be read",
-                    "See whether its disk is sound; put the file back from a copy."});
-}
+/// Layouts, drawings and rates with values that can't be read.
+void check_layouts(company_files& company, findings& into);
 
 }  // namespace vantora::archive

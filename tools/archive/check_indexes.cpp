@@ -4,71 +4,93 @@ namespace vantora::archive {
 
 namespace {
 
-/// The keys of the records, from 1, in capitals; empty for a record that can't be read.
-using record_keys = std::vector<std::optional<std::string>>;
+constexpr const char* rebuild = "Rifare l'indice con «repair indexes».";
 
-constexpr const char* rebuild = "Have the suite's archive module build the index anew.";
+/// What stands in one index, entry by entry.
+class index_check {
+ public:
+    index_check(const key_index& index, const survey& found, findings& into)
+        : index_(index),
+          known_(found.known),
+          count_(index.counted(found.known)),
+          into_(into),
+          met_(static_cast<std::size_t>(count_) + 1) {}
 
-/// What a record that isn't there or an entry that isn't there would lead to is told with its file.
-template <class Entry>
-void check_index(const channel<Entry>& index, const record_keys& keys, const char* records,
-                 findings& into) {
-    const int count = static_cast<int>(keys.size()) - 1;
-    std::vector<bool> met(keys.size());
-    std::string before;
-    int entries = 0;
-    const int unread = scan(index, count, [&](std::int64_t position, const Entry& entry) {
-        const auto tell = [&](std::string what) {
-            into.push_back({gravity::error, index.name() + ", entry " + std::to_string(position),
-                            std::move(what), rebuild});
-        };
-        const auto record = [records](int number) {
-            return std::string(records) + " " + std::to_string(number);
-        };
-        ++entries;
-        const std::string key = upper(entry.chiave.trimmed());
-        if (key < before) tell("it isn't in the order of its key");
-        before = key;
-        const std::int16_t number = entry.numero;
-        if (number < 1 || number > count) {
-            return tell("it points to " + record(number) + ", which there isn't");
+    void run() {
+        const int held = static_cast<int>(index_.entries.size());
+        if (held < count_) {
+            into_.push_back({gravity::error, "index-short", index_.name(),
+                             "ha " + std::to_string(held) + " voci, e il contatore dice " +
+                                 std::to_string(count_),
+                             rebuild});
         }
-        const auto place = static_cast<std::size_t>(number);
-        if (met[place]) tell(record(number) + " stands twice in the index");
-        met[place] = true;
-        if (keys[place] && key != *keys[place]) tell("its key isn't that of " + record(number));
-    });
-    tell_unread(index, unread, into);
-    if (entries < count) return;
-    for (std::size_t number = 1; number < keys.size(); ++number) {
-        if (met[number] || !keys[number]) continue;
-        into.push_back({gravity::error, index.name(),
-                        std::string(records) + " " + std::to_string(number) + " isn't in the index",
-                        rebuild});
+        const key_index::entry* before = nullptr;
+        for (int position = 1; position <= std::min(held, count_); ++position) {
+            const auto& one = index_.entries[static_cast<std::size_t>(position) - 1];
+            if (!one.read) continue;
+            look_at(position, one, before);
+            before = &one;
+        }
+        if (held >= count_ && index_.unread == 0) tell_missing();
     }
-}
+
+ private:
+    void look_at(int position, const key_index::entry& one, const key_index::entry* before) {
+        if (before && out_of_order(before->key, one.key)) {
+            tell("index-order", position, one, "non è al suo posto nell'ordine alfabetico",
+                 rebuild);
+        }
+        if (one.record < 1 || one.record > count_) {
+            return tell("index-nowhere", position, one,
+                        "porta al numero " + std::to_string(one.record) + ", che non c'è", rebuild);
+        }
+        const auto place = static_cast<std::size_t>(one.record);
+        if (met_[place]) {
+            tell("index-twice", position, one, index_.record_named(known_, one.record) + " c'è già",
+                 rebuild);
+        }
+        met_[place] = true;
+        const auto key = index_.key_of(known_, one.record);
+        if (!key || compared_key(*key) == compared_key(one.key)) return;
+        // Told of the record itself, whose key is left here alone.
+        if (is_lost_key(*key, one.key)) return;
+        tell("index-other-key", position, one, "in anagrafica è invece «" + words_of(*key) + "»",
+             "Vedere quale dei due è giusto. Se è giusta l'anagrafica: «repair indexes». Se è "
+             "giusto l'indice: correggere l'anagrafica.");
+    }
+
+    void tell(const char* kind, int position, const key_index::entry& one, std::string what,
+              const char* advice) {
+        into_.push_back(
+            {gravity::error, kind,
+             index_.name() + ", voce " + std::to_string(position) + " «" + words_of(one.key) + "»",
+             std::move(what), advice});
+    }
+
+    void tell_missing() {
+        for (int number = 1; number <= count_; ++number) {
+            if (met_[static_cast<std::size_t>(number)] || !index_.key_of(known_, number)) continue;
+            into_.push_back({gravity::error, "index-missing", index_.name(),
+                             index_.record_named(known_, number) + " manca nell'indice", rebuild});
+        }
+    }
+
+    const key_index& index_;
+    const masters& known_;
+    int count_;
+    findings& into_;
+    std::vector<bool> met_;
+};
 
 }  // namespace
 
-void check_indexes(company_files& company, findings& into) {
-    archivi& files = company.records();
-    record_keys names(static_cast<std::size_t>(company.count(contatori::clienti)) + 1);
-    const auto count_of = [](const record_keys& keys) { return static_cast<int>(keys.size()) - 1; };
-    int unread = scan(files.cli, count_of(names), [&](std::int64_t number, const rec_cli& one) {
-        names[static_cast<std::size_t>(number)] = upper(one.intestazione1.trimmed());
-    });
-    tell_unread(files.cli, unread, into);
-    check_index(files.src, names, "customer", into);
-
-    record_keys codes(static_cast<std::size_t>(company.count(contatori::articoli)) + 1);
-    record_keys bar_codes(codes.size());
-    unread = scan(files.art, count_of(codes), [&](std::int64_t number, const rec_art& one) {
-        codes[static_cast<std::size_t>(number)] = upper(one.codice.trimmed());
-        bar_codes[static_cast<std::size_t>(number)] = upper(one.codice_barre.trimmed());
-    });
-    tell_unread(files.art, unread, into);
-    check_index(files.sra, codes, "article", into);
-    check_index(files.srb, bar_codes, "article", into);
+void check_indexes(const survey& found, findings& into) {
+    for (const key_index& index : found.indexes) {
+        const std::string& doubt =
+            index.of_customers ? found.doubt.customers : found.doubt.articles;
+        if (!doubt.empty() || !index.present) continue;
+        index_check(index, found, into).run();
+    }
 }
 
 }  // namespace vantora::archive

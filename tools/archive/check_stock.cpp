@@ -1,57 +1,58 @@
 #include <cmath>
 
 #include "archive/check.h"
+#include "archive/line_check.h"
 #include "text/number_text.h"
 
 namespace vantora::archive {
 
 namespace {
 
-struct stock_figure {
-    const char* name;
-    f64le rec_art::*field;
-};
+void check_committed(int number, const rec_art& one, const survey& found, findings& into) {
+    const double committed = one.impegnato;
+    if (beyond_reason(committed)) return;
+    if (committed < 0) {
+        into.push_back({gravity::warning, "committed-negative", found.known.article_named(number),
+                        "l'impegnato è negativo (" + plain_text(committed) + ")",
+                        "Succede quando si impegna merce con la giacenza sotto zero: contare la "
+                        "merce e mettere a posto la giacenza nell'anagrafica degli articoli."});
+    } else if (found.doubt.orders.empty() && found.doubt.articles.empty() &&
+               !found.open.explains_committed(number, committed)) {
+        into.push_back({gravity::warning, "committed-too-high", found.known.article_named(number),
+                        "l'impegnato (" + plain_text(committed) +
+                            ") è più di quanto gli ordini aperti con impegno possono tenere",
+                        "Merce è rimasta impegnata senza ordine: contarla e mettere a posto "
+                        "giacenza e impegnato nell'anagrafica degli articoli."});
+    }
+}
 
-constexpr stock_figure stock_figures[] = {
-    {"giacenza", &rec_art::giacenza},
-    {"impegnato", &rec_art::impegnato},
-    {"ordinato_clienti", &rec_art::ordinato_clienti},
-    {"scaricato", &rec_art::scaricato},
-    {"valore_scaricato", &rec_art::valore_scaricato},
-    {"prezzo1", &rec_art::prezzo1},
-    {"prezzo2", &rec_art::prezzo2},
-};
-
-std::string article_named(std::int64_t number, std::string_view code) {
-    return "article " + std::to_string(number) + " (" + std::string(code) + ")";
+void check_ordered(const survey& found, findings& into) {
+    if (!found.doubt.orders.empty() || !found.doubt.articles.empty()) {
+        const std::string& why =
+            found.doubt.orders.empty() ? found.doubt.articles : found.doubt.orders;
+        into.push_back({gravity::note, "ordered-not-judged", "articoli",
+                        "le quantità ordinate non si possono confrontare con gli ordini: " + why,
+                        "Ripetere il controllo quando è a posto."});
+        return;
+    }
+    for (const wrong_ordered_quantity& one : found.open.compare(found.known)) {
+        if (beyond_reason(one.stored)) continue;
+        into.push_back({gravity::error, "ordered-quantity", found.known.article_named(one.articolo),
+                        "l'ordinato dai clienti è " + plain_text(one.stored) +
+                            ", e gli ordini aperti fanno " + plain_text(one.open),
+                        "Se gli ordini aperti di questo articolo sono giusti, metterlo a posto con "
+                        "«repair ordered-quantities»."});
+    }
 }
 
 }  // namespace
 
-void check_stock(company_files& company, const open_quantities& open, findings& into) {
-    const channel<rec_art>& articles = company.records().art;
-    scan(articles, company.count(contatori::articoli),
-         [&](std::int64_t number, const rec_art& article) {
-             for (const stock_figure& one : stock_figures) {
-                 if (std::isfinite(article.*(one.field))) continue;
-                 into.push_back({gravity::error,
-                                 article_named(number, to_utf8(article.codice.trimmed())),
-                                 std::string(one.name) + " is no number",
-                                 "Set it right in the suite's article module."});
-             }
-         });
-    if (!open.complete()) {
-        into.push_back({gravity::note, articles.name(),
-                        "what the orders have open couldn't be compared, as not all can be read",
-                        "Check again once the orders are whole."});
+void check_stock(const survey& found, findings& into) {
+    for (int number = 1; number <= found.known.articles(); ++number) {
+        const rec_art* one = found.known.article(number);
+        if (one) check_committed(number, *one, found, into);
     }
-    for (const wrong_ordered_quantity& one : open.compare(articles)) {
-        if (!std::isfinite(one.stored)) continue;
-        into.push_back({gravity::error, article_named(one.articolo, one.codice),
-                        "ordinato_clienti is " + plain_text(one.stored) +
-                            ", the open orders add up to " + plain_text(one.open),
-                        "Run \"repair ordered-quantities\"."});
-    }
+    check_ordered(found, into);
 }
 
 }  // namespace vantora::archive

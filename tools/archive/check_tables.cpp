@@ -17,16 +17,6 @@ constexpr int lines_of_pdf_settings = 80;
 constexpr int lines_of_suite_table = 750;
 constexpr int lines_of_report_table = 5 + 36 + 6 + 5;
 
-/// Lines of a text file; empty if it can't be read.
-std::optional<int> lines_of(drive& files, const std::string& path) {
-    auto content = files.read_whole(path);
-    if (!content) return {};
-    text_reader reader(std::move(*content));
-    int lines = 0;
-    for (std::string line; reader.line(line);) ++lines;
-    return lines;
-}
-
 struct text_table {
     const char* extension;
     bool general;  ///< of the folder that all companies share
@@ -35,71 +25,92 @@ struct text_table {
 };
 
 constexpr text_table text_tables[] = {
-    {"int", false, lines_of_heading, "the missing lines of the company's heading print empty"},
-    {"lyo", false, lines_of_layout, "orders print blank"},
-    {"lyb", false, lines_of_layout, "transport documents print blank"},
-    {"pdf", false, lines_of_pdf_settings, "PDF files go to the root of the drive"},
-    {"tab", false, lines_of_suite_table, "rates, payment terms and carriers are missing"},
-    {"tbl", true, lines_of_report_table, "reports print in the plain style"},
+    {"int", false, lines_of_heading, "le righe che mancano dell'intestazione si stampano vuote"},
+    {"lyo", false, lines_of_layout, "gli ordini si stampano in bianco"},
+    {"lyb", false, lines_of_layout, "i documenti di trasporto si stampano in bianco"},
+    {"pdf", false, lines_of_pdf_settings, "i PDF vanno nella radice del disco"},
+    {"tab", false, lines_of_suite_table, "mancano aliquote, pagamenti e vettori"},
+    {"tbl", true, lines_of_report_table, "le stampe hanno l'aspetto semplice"},
 };
+
+constexpr const char* from_a_copy = "Rimettere il file da una copia, o riscriverlo.";
+
+/// The text of a file; empty, and told, if none can be read.
+std::optional<std::string> text_of(company_files& company, const std::string& path,
+                                   const std::string& name, const char* fallback, findings& into) {
+    std::string obstacle = obstacle_at(company, path);
+    auto content = obstacle.empty() ? company.files().read_whole(path) : std::nullopt;
+    if (content) return content;
+    if (obstacle.empty()) obstacle = "non si può leggere";
+    into.push_back(
+        {gravity::warning, "table-missing", name, obstacle + ": " + fallback, from_a_copy});
+    return {};
+}
 
 void check_text_table(const text_table& table, company_files& company, findings& into) {
     const std::string name = std::string("vantora.") + table.extension;
-    const auto lines = lines_of(
-        company.files(), table.general ? file_generale(table.extension)
-                                       : file_azienda(company.numero_azienda(), table.extension));
-    const char* advice = "Put the file back from a copy, or write it anew with the suite.";
-    if (!lines) {
-        into.push_back({gravity::warning, name,
-                        std::string("the file isn't there: ") + table.fallback, advice});
-    } else if (*lines < table.lines) {
-        into.push_back({gravity::warning, name,
-                        "it ends after line " + std::to_string(*lines) + " of " +
-                            std::to_string(table.lines) + ": " + table.fallback,
-                        advice});
-    }
+    auto content = text_of(company,
+                           table.general ? file_generale(table.extension)
+                                         : file_azienda(company.numero_azienda(), table.extension),
+                           name, table.fallback, into);
+    if (!content) return;
+    text_reader reader(std::move(*content));
+    int lines = 0;
+    for (std::string line; reader.line(line);) ++lines;
+    if (lines >= table.lines) return;
+    into.push_back({gravity::warning, "table-short", name,
+                    "finisce alla riga " + std::to_string(lines) + " di " +
+                        std::to_string(table.lines) + ": " + table.fallback,
+                    from_a_copy});
 }
 
 void check_currency(company_files& company, findings& into) {
-    const auto content = company.files().read_whole(file_generale("eur"));
-    text_reader reader(content.value_or(""));
+    constexpr int needed = 5;
+    constexpr const char* fallback = "gli importi sono in euro con due decimali";
+    auto content = text_of(company, file_generale("eur"), "vantora.eur", fallback, into);
+    if (!content) return;
+    text_reader reader(std::move(*content));
     int items = 0;
-    std::string item;
-    while (items < 5 && reader.item(item)) ++items;
-    if (items == 5) return;
-    into.push_back({gravity::warning, "vantora.eur",
-                    content ? "it has " + std::to_string(items) +
-                                  " of 5 values: amounts count in euro with two decimals"
-                            : "the file isn't there: amounts count in euro with two decimals",
-                    "Put the file back from a copy."});
+    for (std::string item; items < needed && reader.item(item); ++items) {
+        const bool number = items == 0 || items == 1 || items == needed - 1;
+        if (!number || whole_number_text(item)) continue;
+        into.push_back({gravity::warning, "currency-value", "vantora.eur",
+                        "il valore " + std::to_string(items + 1) + " («" + words_of(item) +
+                            "») non è un numero",
+                        from_a_copy});
+    }
+    if (items == needed) return;
+    into.push_back({gravity::warning, "table-short", "vantora.eur",
+                    "ha " + std::to_string(items) + " valori di 5: " + fallback, from_a_copy});
 }
 
 void check_general(company_files& company, findings& into) {
-    const auto content = company.files().read_whole(file_azienda(company.numero_azienda(), "gnr"));
-    if (!content) {
-        into.push_back({gravity::warning, "vantora.gnr",
-                        "the company's parameters aren't there or can't be read",
-                        "The next start makes them anew with their defaults."});
-        return;
-    }
+    const std::string name = "vantora.gnr";
+    const auto content = text_of(company, file_azienda(company.numero_azienda(), "gnr"), name,
+                                 "il prossimo avvio rifà i parametri dell'azienda con i valori "
+                                 "normali",
+                                 into);
+    if (!content) return;
     rec_gnr gnr;
     std::memcpy(&gnr, content->data(), std::min(content->size(), sizeof gnr));
     if (content->size() < sizeof gnr) {
-        into.push_back({gravity::error, "vantora.gnr",
-                        "it is " + std::to_string(content->size()) + " bytes long instead of " +
-                            std::to_string(sizeof gnr) + ": what is missing gets its default",
-                        "Put the file back from a copy."});
+        into.push_back({gravity::error, "parameters-short", name,
+                        "è lungo " + std::to_string(content->size()) + " byte invece di " +
+                            std::to_string(sizeof gnr) +
+                            ": quello che manca prende il valore "
+                            "normale",
+                        "Rimettere il file da una copia."});
         return;
     }
     if (gnr.formato_gnr.full() != "9") {
-        into.push_back({gravity::warning, "vantora.gnr", "it has the form of an older version",
-                        "The next start sets the look of the lists to its defaults."});
+        into.push_back({gravity::warning, "parameters-old", name,
+                        "ha la forma di una versione vecchia",
+                        "Il prossimo avvio rimette l'aspetto normale degli elenchi."});
     }
-    const double code = number_at_head(gnr.codice_iva_base.full());
-    if (!is_vat_code(code)) {
-        into.push_back({gravity::warning, "vantora.gnr",
-                        "the VAT code for lines without one isn't between 01 and 24",
-                        "The next start sets it to 01."});
+    if (!is_vat_code(number_at_head(gnr.codice_iva_base.full()))) {
+        into.push_back({gravity::warning, "parameters-vat-code", name,
+                        "il codice IVA per le righe senza non è tra 01 e 24",
+                        "Il prossimo avvio mette 01."});
     }
 }
 

@@ -1,10 +1,10 @@
 #include <chrono>
-#include <ctime>
 #include <iostream>
 
-#include "archive/backup.h"
 #include "archive/commands.h"
-#include "archive/copying.h"
+#include "archive/progress_line.h"
+#include "archive/words.h"
+#include "backup/backup.h"
 #include "store/suite_paths.h"
 #include "text/number_text.h"
 
@@ -14,20 +14,18 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// "-2024-12-20-193000"
 std::string moment() {
-    const std::time_t now = std::time(nullptr);
-    char text[32];
-    std::tm local{};
-    const std::size_t size =
-        std::strftime(text, sizeof text, "-%Y-%m-%d-%H%M%S", ::localtime_r(&now, &local));
-    return {text, size};
+    return end_of_copy(now_here());
 }
 
-/// "ditta007"
-std::string stem_of(int numero_azienda) {
-    const std::string padded = "00" + std::to_string(numero_azienda);
-    return "ditta" + padded.substr(padded.size() - 3);
+/// Shows how far it is where somebody looks.
+copy_progress shown_by(progress_line& line, const char* what) {
+    return [&line, what](std::int64_t done, std::int64_t all) { line.show(what, done, all); };
+}
+
+int tell_failed(const char* what, const copy_outcome& outcome) {
+    std::cerr << what << without_controls(outcome.fault) << ".\n";
+    return exit_code::unreadable;
 }
 
 std::string megabytes(std::int64_t bytes) {
@@ -47,17 +45,19 @@ int run_backup(const which_company& which, const backup_request& request) {
     std::error_code failed;
     fs::create_directories(request.folder, failed);
     drive to(request.folder);
-    const std::string stem = stem_of(which.number());
-    const copy_outcome outcome = make_copy(from, locks, which.number(), to, stem + moment());
-    if (!outcome.fault.empty()) {
-        std::cerr << "Nessuna copia: " << outcome.fault << ".\n";
-        return exit_code::unreadable;
+    const std::string stem = stem_of_copies(which.number());
+    copy_outcome outcome;
+    {
+        progress_line line(request.quiet ? nullptr : watched_errors());
+        outcome =
+            make_copy(from, locks, which.number(), to, stem + moment(), shown_by(line, "Copia"));
     }
+    if (!outcome.fault.empty()) return tell_failed("Nessuna copia: ", outcome);
     const int dropped = request.keep > 0 ? drop_old_copies(request.folder, stem, request.keep) : 0;
     if (request.quiet) return exit_code::done;
     const std::chrono::duration<double> took = std::chrono::steady_clock::now() - begun;
     std::cout << outcome.files.size() << " file, " << megabytes(outcome.bytes()) << " in "
-              << outcome.place.string() << ", riletti e uguali, "
+              << words_of_path(outcome.place) << ", riletti e uguali, "
               << masked(took.count(), "###,##0.#0") << " secondi\n";
     if (dropped > 0) std::cout << "Copie più vecchie tolte: " << dropped << "\n";
     return exit_code::done;
@@ -69,8 +69,9 @@ bool tell_differences(const copy_outcome& copy, file_port& now, int numero_azien
     constexpr int told_max = 20;
     int differing = 0;
     const auto tell = [&](const std::string& path, const char* what) {
-        if (++differing <= told_max) out << "  " << path << ": " << what << '\n';
+        if (++differing <= told_max) out << "  " << words_of_path(path) << ": " << what << '\n';
     };
+    copy_pace unseen;
     std::vector<std::string> there;
     const fs::path folder = now.locate(cartella_azienda(numero_azienda));
     if (fs::is_directory(folder)) {
@@ -80,7 +81,7 @@ bool tell_differences(const copy_outcome& copy, file_port& now, int numero_azien
     }
     for (const copied_file& one : copy.files) {
         const auto found =
-            now.exists(drive_path(one.path)) ? read_over(now, one.path) : std::nullopt;
+            now.exists(drive_path(one.path)) ? read_over(now, one.path, unseen) : std::nullopt;
         if (!found) {
             tell(one.path, "oggi manca");
         } else if (found->size != one.size) {
@@ -98,6 +99,8 @@ bool tell_differences(const copy_outcome& copy, file_port& now, int numero_azien
     return differing > 0;
 }
 
+constexpr const char* unchanged = "Non è stato cambiato nulla: ";
+
 struct restore_request {
     std::string copy;
     bool yes = false;
@@ -105,11 +108,12 @@ struct restore_request {
 
 int run_restore(const which_company& which, const restore_request& request) {
     drive from(request.copy, drive::access::reading_only);
-    const copy_outcome copy = checked_copy(request.copy, from);
-    if (!copy.fault.empty()) {
-        std::cerr << "Non è stato cambiato nulla: " << copy.fault << ".\n";
-        return exit_code::unreadable;
+    copy_outcome copy;
+    {
+        progress_line line(watched_errors());
+        copy = checked_copy(request.copy, from, shown_by(line, "Si rilegge la copia"));
     }
+    if (!copy.fault.empty()) return tell_failed(unchanged, copy);
     drive now(which.drive, drive::access::reading_only);
     std::cout << "La copia è intera. Rispetto all'archivio di oggi:\n";
     if (!tell_differences(copy, now, which.number(), std::cout)) {
@@ -123,14 +127,16 @@ int run_restore(const which_company& which, const restore_request& request) {
         return exit_code::refused;
     }
     drive to(which.drive);
-    const std::string former = "prima-" + stem_of(which.number()) + moment();
-    const copy_outcome outcome = put_back(copy, from, which.number(), to, former);
-    if (!outcome.fault.empty()) {
-        std::cerr << "Non è stato cambiato nulla: " << outcome.fault << ".\n";
-        return exit_code::unreadable;
+    const std::string former = "prima-" + stem_of_copies(which.number()) + moment();
+    copy_outcome outcome;
+    {
+        progress_line line(watched_errors());
+        outcome = put_back(copy, from, which.number(), to, former, shown_by(line, "Si rimette"));
     }
+    if (!outcome.fault.empty()) return tell_failed(unchanged, outcome);
     std::cout << "La ditta è quella della copia.\n";
-    if (!outcome.place.empty()) std::cout << "Quella di prima è " << outcome.place.string() << "\n";
+    if (!outcome.place.empty())
+        std::cout << "Quella di prima è " << words_of_path(outcome.place) << "\n";
     return exit_code::done;
 }
 

@@ -2,20 +2,50 @@
 
 #include "archive/commands.h"
 #include "archive/repair.h"
+#include "store/day_book.h"
 
 namespace vantora::archive {
+
+namespace {
+
+struct named_repair {
+    const char* name;
+    const char* words;
+    int (*run)(const repair_request&);
+};
+
+constexpr named_repair repairs[] = {
+    {"ordered-quantities", "l'ordinato degli articoli, dagli ordini ancora aperti",
+     repair_ordered_quantities},
+    {"doubled-orders", "gli ordini doppi dopo una compattazione interrotta", repair_doubled_orders},
+    {"indexes", "gli indici dei nomi, dei codici e dei codici a barre", repair_indexes},
+    {"counters", "i contatori che sono sbagliati di certo", repair_counters},
+};
+
+}  // namespace
 
 command repair_command(CLI::App& program) {
     CLI::App* line = program.add_subcommand("repair", "corregge quello che check ha trovato");
     line->require_subcommand(1);
     const auto yes = std::make_shared<bool>(false);
-    CLI::App* quantities = line->add_subcommand(
-        "ordered-quantities", "l'ordinato degli articoli, dagli ordini ancora aperti");
-    quantities->add_flag("--yes", *yes, "senza chiedere");
-    return {line, [yes](const which_company& which) {
+    for (const named_repair& one : repairs) {
+        line->add_subcommand(one.name, one.words)->add_flag("--yes", *yes, "senza chiedere");
+    }
+    return {line, [line, yes](const which_company& which) {
                 if (!opened(which)) return exit_code::unreadable;
-                return repair_ordered_quantities(
-                    which.drive, which.number(), [yes] { return *yes || asked_user(); }, std::cout);
+                drive files(which.drive);
+                const auto confirmed = [yes](bool certain) {
+                    return (*yes && certain) || asked_user();
+                };
+                for (const named_repair& one : repairs) {
+                    if (!line->got_subcommand(one.name)) continue;
+                    const auto book = [&which](archivi& changed) {
+                        const auto of_person = book_of_person();
+                        if (of_person) of_person->watch(changed, which.number(), now_here);
+                    };
+                    return one.run({files, which.number(), confirmed, std::cout, book});
+                }
+                return exit_code::wrong_options;
             }};
 }
 

@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "archive/company_files.h"
+#include "text/dates.h"
 
 namespace vantora::archive {
 
@@ -41,6 +42,11 @@ command restore_command(CLI::App& program);
 
 /// The company's files, open for reading; says why and returns nothing where there are none.
 std::unique_ptr<company_files> opened(const which_company& one);
+
+date_time now_here();
+
+/// Where somebody sees how far a command is; null if the errors go into a file.
+std::ostream* watched_errors();
 
 /// Asks on the terminal whether to go on.
 bool asked_user();

@@ -1,26 +1,42 @@
 #include "archive/company_files.h"
 
+#include "archive/words.h"
 #include "store/suite_paths.h"
 
 namespace vantora::archive {
 
-company_files::company_files(const std::filesystem::path& root, int numero_azienda)
-    : numero_(numero_azienda), drive_(root, drive::access::reading_only) {
-    apri_archivi(records_, drive_, numero_);
+namespace fs = std::filesystem;
+
+company_files::company_files(file_port& port, int numero_azienda)
+    : numero_(numero_azienda), port_(port) {
+    apri_archivi(records_, port_, numero_);
+}
+
+company_files::company_files(const fs::path& root, int numero_azienda)
+    : numero_(numero_azienda),
+      own_(std::make_unique<drive>(root, drive::access::reading_only)),
+      port_(*own_) {
+    apri_archivi(records_, port_, numero_);
+}
+
+fs::path company_files::folder() const {
+    return port_.locate(cartella_azienda(numero_));
 }
 
 bool company_files::folder_exists() const {
     std::error_code failed;
-    return std::filesystem::is_directory(drive_.locate(cartella_azienda(numero_)), failed);
+    return fs::is_directory(folder(), failed);
 }
 
-std::filesystem::path company_files::path_of(std::string_view extension) const {
-    return drive_.locate(file_azienda(numero_, extension));
+fs::path company_files::path_of(std::string_view extension) const {
+    return port_.locate(file_azienda(numero_, extension));
 }
 
 std::optional<std::int64_t> company_files::length_of(std::string_view extension) const {
     std::error_code failed;
-    const auto size = std::filesystem::file_size(path_of(extension), failed);
+    const fs::path path = path_of(extension);
+    if (!fs::is_regular_file(path, failed)) return {};
+    const auto size = fs::file_size(path, failed);
     if (failed) return {};
     return static_cast<std::int64_t>(size);
 }
@@ -33,6 +49,11 @@ rec_tot company_files::counter(int record) const {
 
 std::int16_t company_files::count(int record) const {
     return std::max<std::int16_t>(0, counter(record).quanti);
+}
+
+std::string company_files::lock_holder() const {
+    const auto tot = records_.tot.shared_file();
+    return without_controls(tot ? tot->locked_by().value_or("") : "");
 }
 
 }  // namespace vantora::archive

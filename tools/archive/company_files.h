@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <filesystem>
+#include <memory>
 #include <optional>
 #include <span>
 #include <vector>
@@ -19,24 +20,30 @@ class company_files {
  public:
     /// `root`: folder that holds the suite's tree.
     company_files(const std::filesystem::path& root, int numero_azienda);
+    /// Through a port that outlives it and creates nothing.
+    company_files(file_port& port, int numero_azienda);
 
     [[nodiscard]] bool folder_exists() const;
     [[nodiscard]] int numero_azienda() const { return numero_; }
-    [[nodiscard]] drive& files() { return drive_; }
+    [[nodiscard]] file_port& files() { return port_; }
     [[nodiscard]] archivi& records() { return records_; }
 
+    [[nodiscard]] std::filesystem::path folder() const;
     /// Where a file of the company lies, by its extension.
     [[nodiscard]] std::filesystem::path path_of(std::string_view extension) const;
-    /// Its length in bytes; empty if it isn't there.
+    /// Its length in bytes; empty if no plain file is there.
     [[nodiscard]] std::optional<std::int64_t> length_of(std::string_view extension) const;
     /// A counters record; zero bytes if it can't be read.
     [[nodiscard]] rec_tot counter(int record) const;
     /// How many records a counter says there are, never below 0.
     [[nodiscard]] std::int16_t count(int record) const;
+    /// Who is writing just now, "anna su cassa2"; empty if nobody is, or it isn't known.
+    [[nodiscard]] std::string lock_holder() const;
 
  private:
     int numero_;
-    drive drive_;
+    std::unique_ptr<drive> own_;
+    file_port& port_;
     archivi records_;
 };
 

@@ -3,7 +3,7 @@
 #include <fstream>
 
 #include "archive/export_tables.h"
-#include "archive/staging.h"
+#include "backup/staging.h"
 
 namespace vantora::archive {
 

@@ -6,7 +6,7 @@
 #include <memory>
 
 #include "archive/export_tables.h"
-#include "archive/staging.h"
+#include "backup/staging.h"
 
 namespace vantora::archive {
 

@@ -3,16 +3,13 @@
 #include <cmath>
 #include <cstdio>
 
+#include "archive/words.h"
 #include "text/dates.h"
 #include "text/number_text.h"
 
 namespace vantora::archive {
 
 namespace {
-
-bool is_control(char one) {
-    return static_cast<unsigned char>(one) < 32 || one == 127;
-}
 
 /// The civil date of a day counted from 30 December 1899.
 date date_of_day(std::int64_t days) {

@@ -6,34 +6,74 @@ namespace vantora::archive {
 
 namespace {
 
-const char* word_of(gravity how_bad) {
-    switch (how_bad) {
-        case gravity::note:
-            return "note";
-        case gravity::warning:
-            return "warning";
-        default:
-            return "error";
-    }
+struct gravity_words {
+    const char* italian;
+    const char* key;
+};
+
+constexpr gravity_words gravities[] = {
+    {"nota", "note"}, {"attenzione", "warning"}, {"errore", "error"}};
+
+const gravity_words& words_for(gravity how_bad) {
+    return gravities[static_cast<std::size_t>(how_bad)];
 }
 
 }  // namespace
 
-std::string in_one_line(const finding& one) {
-    return std::string(word_of(one.how_bad)) + ": " + one.where + ": " + one.what + ". " +
-           one.advice;
+void findings::push_back(finding one) {
+    if (one.how_bad != gravity::note) sound_ = false;
+    auto place = std::ranges::find_if(
+        groups_, [&one](const group& other) { return other.kept.front().kind == one.kind; });
+    if (place == groups_.end()) place = groups_.insert(place, group{});
+    ++place->count;
+    if (place->kept.size() < kept_most) place->kept.push_back(std::move(one));
 }
 
-nlohmann::ordered_json as_json(const finding& one) {
-    return {{"gravity", word_of(one.how_bad)},
-            {"where", one.where},
-            {"what", one.what},
-            {"advice", one.advice}};
+void findings::append(const findings& other) {
+    for (const group& alike : other.groups_) {
+        for (const finding& one : alike.kept) push_back(one);
+        const auto place = std::ranges::find_if(groups_, [&alike](const group& mine) {
+            return mine.kept.front().kind == alike.kept.front().kind;
+        });
+        place->count += alike.more();
+    }
 }
 
-bool is_sound(const findings& all) {
-    return std::ranges::all_of(all,
-                               [](const finding& one) { return one.how_bad == gravity::note; });
+bool findings::has(std::string_view kind) const {
+    return std::ranges::any_of(groups_,
+                               [kind](const group& one) { return one.kept.front().kind == kind; });
+}
+
+std::string findings::in_lines() const {
+    std::string lines;
+    for (const group& alike : groups_) {
+        for (const finding& one : alike.kept) {
+            lines += std::string(words_for(one.how_bad).italian) + ": " + one.where + ": " +
+                     one.what + ". " + one.advice + '\n';
+        }
+        if (alike.more() > 0) {
+            lines += "  ... e altri " + std::to_string(alike.more()) + " casi come questi\n";
+        }
+    }
+    return lines;
+}
+
+nlohmann::ordered_json findings::as_json() const {
+    auto list = nlohmann::ordered_json::array();
+    for (const group& alike : groups_) {
+        for (const finding& one : alike.kept) {
+            list.push_back({{"gravity", words_for(one.how_bad).key},
+                            {"kind", one.kind},
+                            {"where", one.where},
+                            {"what", one.what},
+                            {"advice", one.advice}});
+        }
+        if (alike.more() == 0) continue;
+        list.push_back({{"gravity", words_for(alike.kept.front().how_bad).key},
+                        {"kind", alike.kept.front().kind},
+                        {"more", alike.more()}});
+    }
+    return list;
 }
 
 }  // namespace vantora::archive

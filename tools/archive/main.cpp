@@ -1,3 +1,6 @@
+#include <unistd.h>
+
+#include <ctime>
 #include <iostream>
 
 #include "archive/commands.h"
@@ -20,6 +23,20 @@ std::unique_ptr<company_files> opened(const which_company& one) {
     std::cerr << "Non c'è un archivio leggibile della ditta " << one.number() << " in " << one.drive
               << ".\n";
     return {};
+}
+
+date_time now_here() {
+    const std::time_t now = std::time(nullptr);
+    std::tm local{};
+    ::localtime_r(&now, &local);
+    return {{local.tm_year + 1900, local.tm_mon + 1, local.tm_mday},
+            local.tm_hour,
+            local.tm_min,
+            local.tm_sec};
+}
+
+std::ostream* watched_errors() {
+    return ::isatty(STDERR_FILENO) ? &std::cerr : nullptr;
 }
 
 bool asked_user() {

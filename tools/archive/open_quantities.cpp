@@ -1,7 +1,9 @@
 #include "archive/open_quantities.h"
 
+#include <algorithm>
 #include <cmath>
-#include <cstring>
+
+#include "archive/line_check.h"
 
 namespace vantora::archive {
 
@@ -12,29 +14,18 @@ constexpr double tolerance = 1e-9;
 
 }  // namespace
 
-open_quantities::open_quantities(std::int16_t articles)
+open_quantities::open_quantities(int articles)
     : by_article_(static_cast<std::size_t>(articles) + 1) {}
 
-// The rows without those at the end that repeat an empty one, which have nothing to tell.
-std::span<const rec_orc> open_quantities::without_empty_end(std::span<const rec_orc> order) {
-    const rec_orc& last = order.back();
-    if (last.quantita != 0 || last.evaso != 0 || last.prezzo != 0 || last.articolo != 0) {
-        return order;
-    }
-    std::size_t used = order.size();
-    while (used > 1 && std::memcmp(&order[used - 2], &last, sizeof last) == 0) --used;
-    return order.first(used);
-}
-
-void open_quantities::add(std::span<const rec_orc> order) {
+void open_quantities::add(order_rows order) {
     if (order.front().annullato == 1) return;
     for (const rec_orc& row : order) {
-        const std::int16_t article = row.articolo;
-        if (article < 1 || static_cast<std::size_t>(article) >= by_article_.size()) continue;
+        const int article = row.articolo;
+        if (article < 1 || article > articles()) continue;
         const double quantity = row.quantita;
         const double fulfilled = row.evaso;
-        sum& its = by_article_[static_cast<std::size_t>(article)];
-        if (!std::isfinite(quantity) || !std::isfinite(fulfilled)) {
+        sum& its = at(article);
+        if (beyond_reason(quantity) || beyond_reason(fulfilled)) {
             its.known = false;
             continue;
         }
@@ -43,28 +34,46 @@ void open_quantities::add(std::span<const rec_orc> order) {
         } else {
             (fulfilled > 0 ? its.less : its.more) += std::abs(fulfilled);
         }
+        if (row.impegno.full() != "0") its.committed += std::max(0.0, quantity - fulfilled);
         its.moved += std::abs(quantity) + std::abs(fulfilled);
     }
 }
 
-std::vector<wrong_ordered_quantity> open_quantities::compare(
-    const channel<rec_art>& articles) const {
+bool open_quantities::explains(int article, double ordered) const {
+    const sum& its = at(article);
+    if (!its.known) return true;
+    const double allowed = tolerance * std::max({1.0, its.moved, std::abs(ordered)});
+    return ordered >= its.open - its.less - allowed && ordered <= its.open + its.more + allowed;
+}
+
+bool open_quantities::explains_committed(int article, double committed) const {
+    const sum& its = at(article);
+    return !its.known || committed <= its.committed + tolerance * std::max(1.0, its.moved);
+}
+
+std::vector<wrong_ordered_quantity> open_quantities::compare(const masters& known) const {
     std::vector<wrong_ordered_quantity> wrong;
-    if (!complete_) return wrong;
-    scan(articles, static_cast<int>(by_article_.size()) - 1,
-         [&](std::int64_t number, const rec_art& article) {
-             const sum& its = by_article_[static_cast<std::size_t>(number)];
-             if (!its.known) return;
-             const double stored = article.ordinato_clienti;
-             const double allowed = tolerance * std::max({1.0, its.moved, std::abs(stored)});
-             if (stored >= its.open - its.less - allowed &&
-                 stored <= its.open + its.more + allowed) {
-                 return;
-             }
-             wrong.push_back({static_cast<std::int16_t>(number), to_utf8(article.codice.trimmed()),
-                              stored, its.open});
-         });
+    for (int number = 1; number <= articles(); ++number) {
+        const rec_art* article = known.article(number);
+        if (!article || explains(number, article->ordinato_clienti)) continue;
+        wrong.push_back({number, article->ordinato_clienti, at(number).open});
+    }
     return wrong;
+}
+
+open_quantities open_quantities::plus(const open_quantities& other) const {
+    open_quantities both = *this;
+    for (int number = 1; number <= articles(); ++number) {
+        sum& its = both.at(number);
+        const sum& more = other.at(number);
+        its.open += more.open;
+        its.less += more.less;
+        its.more += more.more;
+        its.moved += more.moved;
+        its.committed += more.committed;
+        its.known = its.known && more.known;
+    }
+    return both;
 }
 
 }  // namespace vantora::archive

@@ -1,28 +1,17 @@
 #pragma once
 
-#include <span>
 #include <string>
 #include <vector>
 
-#include "archive/company_files.h"
+#include "archive/order_blocks.h"
 
 namespace vantora::archive {
 
 /// An article whose `ordinato_clienti` isn't what its open order rows add up to.
 struct wrong_ordered_quantity {
-    std::int16_t articolo = 0;
-    std::string codice;  ///< UTF-8
-    double stored = 0;   ///< what the article says
-    double open = 0;     ///< what the orders have open of it
-
-    /// The same finding; a figure that is no number is the same as itself.
-    bool operator==(const wrong_ordered_quantity& other) const {
-        const auto same = [](double one, double another) {
-            return one == another || (one != one && another != another);
-        };
-        return articolo == other.articolo && codice == other.codice && same(stored, other.stored) &&
-               same(open, other.open);
-    }
+    int articolo = 0;
+    double stored = 0;  ///< what the article says
+    double open = 0;    ///< what the orders have open of it
 };
 
 /// What the orders that aren't deleted have open of each article: quantity less fulfilled. A row
@@ -32,47 +21,45 @@ struct wrong_ordered_quantity {
 class open_quantities {
  public:
     /// For articles 1 to `articles`.
-    explicit open_quantities(std::int16_t articles);
+    explicit open_quantities(int articles);
 
-    /// Adds all orders of a company: see(registrazione, rows) has a look at each on the way, its
-    /// rows without the empty ones at its end. Returns how many couldn't be read.
-    template <class See>
-    int add_orders(company_files& company, See see) {
-        const rec_tot counter = company.counter(contatori::ordini);
-        const int orders = company.count(contatori::ordini);
-        const auto& from = company.records().orc;
-        const int unread = scan_blocks(from, orders, [&](int registrazione, auto order) {
-            const auto used = without_empty_end(order);
-            see(registrazione, used);
-            add(used);
-        });
-        complete_ = unread == 0 && counter.quanti >= 0 &&
-                    from.records_held().value_or(0) >= orders * righe_blocco;
-        return unread;
-    }
+    void add(order_rows order);
 
-    /// Whether all orders of the company were there. Without them no figure can be told right.
-    [[nodiscard]] bool complete() const { return complete_; }
+    /// Whether a figure can be the article's, by more than adding up in another order can make it
+    /// differ; always, for one that a row tells no number of.
+    [[nodiscard]] bool explains(int article, double ordered) const;
+    /// Whether what open orders committed of it can be so much.
+    [[nodiscard]] bool explains_committed(int article, double committed) const;
 
-    /// The articles whose figure differs by more than adding up in another order can make it; none
-    /// of those that a row tells no number of, and none at all if the orders aren't complete.
-    [[nodiscard]] std::vector<wrong_ordered_quantity> compare(
-        const channel<rec_art>& articles) const;
+    /// The articles whose figure isn't explained.
+    [[nodiscard]] std::vector<wrong_ordered_quantity> compare(const masters& known) const;
+
+    /// Whether any row counts in an article, and whether it counts with something open.
+    [[nodiscard]] bool touches(int article) const { return at(article).moved != 0; }
+    [[nodiscard]] double open_of(int article) const { return at(article).open; }
+    [[nodiscard]] int articles() const { return static_cast<int>(by_article_.size()) - 1; }
+
+    /// Both together.
+    [[nodiscard]] open_quantities plus(const open_quantities& other) const;
+    /// No figure of this article is judged any longer.
+    void leave_out(int article) { at(article).known = false; }
 
  private:
-    static std::span<const rec_orc> without_empty_end(std::span<const rec_orc> order);
-    void add(std::span<const rec_orc> order);
-
     struct sum {
         double open = 0;
-        double less = 0;   ///< what fulfilled rows without a quantity may have taken off
-        double more = 0;   ///< or, taken back, added
-        double moved = 0;  ///< of all amounts, whatever their sign: what rounding depends on
+        double less = 0;       ///< what fulfilled rows without a quantity may have taken off
+        double more = 0;       ///< or, taken back, added
+        double moved = 0;      ///< of all amounts, whatever their sign: what rounding depends on
+        double committed = 0;  ///< the most that can be set aside for open rows
         bool known = true;
     };
 
+    [[nodiscard]] const sum& at(int article) const {
+        return by_article_[static_cast<std::size_t>(article)];
+    }
+    sum& at(int article) { return by_article_[static_cast<std::size_t>(article)]; }
+
     std::vector<sum> by_article_;  ///< from 1
-    bool complete_ = false;
 };
 
 }  // namespace vantora::archive

@@ -1,102 +1,167 @@
-#include "archive/repair.h"
-
+#include <algorithm>
 #include <ostream>
+#include <set>
 
-#include "archive/open_quantities.h"
-#include "store/archive_change.h"
+#include "archive/repair_steps.h"
+#include "archive/words.h"
+#include "backup/copying.h"
 #include "store/suite_paths.h"
-#include "text/number_text.h"
 
 namespace vantora::archive {
 
 namespace {
 
-namespace fs = std::filesystem;
+constexpr int done = 0;
+constexpr int refused = 1;
+constexpr int not_possible = 3;
 
-/// A name that no earlier copy has.
-fs::path place_for_copy(const fs::path& of) {
-    for (int number = 1;; ++number) {
-        fs::path place = of;
-        place += ".copy" + std::to_string(number);
-        if (!fs::exists(place)) return place;
+std::string path_of(const repair_request& request, const char* extension) {
+    return file_azienda(request.numero_azienda, extension);
+}
+
+void show(const repair_plan& plan, const repair_request& request) {
+    constexpr std::size_t shown_most = 100;
+    for (std::size_t i = 0; i < std::min(plan.steps.size(), shown_most); ++i) {
+        request.out << plan.steps[i].shown << '\n';
+    }
+    if (plan.steps.size() > shown_most) {
+        request.out << "... e altri " << plan.steps.size() - shown_most << '\n';
     }
 }
 
-bool set_right(archive_change& change, channel<rec_art>& articles,
-               const wrong_ordered_quantity& one) {
-    rec_art article;
-    if (!change.read(articles, one.articolo, article)) return false;
-    article.ordinato_clienti = one.open;
-    return change.write(articles, one.articolo, article);
+/// What stands in the company's folder while a repair writes.
+std::string mark_of(const repair_request& request, const char* name) {
+    return file_azienda(request.numero_azienda, std::string(unfinished_repair) + name);
 }
 
-/// What is wrong; empty if not all orders can be read.
-std::optional<std::vector<wrong_ordered_quantity>> wrong_quantities(company_files& company) {
-    open_quantities open(company.count(contatori::articoli));
-    open.add_orders(company, [](auto...) {});
-    if (!open.complete()) return {};
-    return open.compare(company.records().art);
+void drop_mark(const repair_request& request, const char* name) {
+    std::error_code ignored;
+    std::filesystem::remove(request.files.locate(mark_of(request, name)), ignored);
+}
+
+/// Nothing to write: says why. Empty if there is something.
+std::optional<int> ends_here(const repair_plan& plan, const repair_request& request) {
+    if (!plan.refusal.empty()) {
+        request.out << "Non si può riparare: " << plan.refusal << ". Niente è stato cambiato.\n";
+        return refused;
+    }
+    if (!plan.steps.empty()) return {};
+    request.out << plan.nothing << " Niente è stato cambiato.\n";
+    return done;
+}
+
+int tell_not_begun(archive_change& change, const company_files& company,
+                   const repair_request& request) {
+    if (change.others_at_work()) {
+        request.out << "Un'altra postazione" << in_brackets(company.lock_holder())
+                    << " sta scrivendo nell'archivio: riprovare quando ha finito. Niente è stato "
+                       "cambiato.\n";
+        return refused;
+    }
+    request.out << "Non si può scrivere: " << change.finish().files
+                << ". Niente è stato cambiato.\n";
+    return not_possible;
+}
+
+/// What was shown and is the same still.
+std::vector<repair_step> still_holding(const repair_plan& shown, const repair_plan& now) {
+    std::set<std::string> words;
+    for (const repair_step& one : shown.steps) words.insert(one.shown);
+    std::vector<repair_step> same;
+    for (const repair_step& one : now.steps) {
+        if (words.contains(one.shown)) same.push_back(one);
+    }
+    return same;
+}
+
+/// Each file that the steps write, once; those that are there.
+bool copy_files(const std::vector<repair_step>& steps, const repair_request& request) {
+    std::set<std::string> paths;
+    for (const repair_step& one : steps) {
+        const std::string path = path_of(request, one.extension);
+        if (!request.files.exists(path) || !paths.insert(path).second) continue;
+        std::string why;
+        const std::string copy = copied_beside(request.files, path, why);
+        if (copy.empty()) {
+            request.out << "La copia di " << words_of_path(request.files.locate(path))
+                        << " non si può fare: " << without_controls(why)
+                        << ". Niente è stato cambiato.\n";
+            return false;
+        }
+        request.out << "Il file com'era: " << words_of_path(request.files.locate(copy)) << '\n';
+    }
+    return true;
+}
+
+bool put_mark(const repair_request& request, const char* name) {
+    const std::string text = std::string(name) + "\n";
+    if (put_whole(request.files, mark_of(request, name), std::as_bytes(std::span(text)))) {
+        return true;
+    }
+    request.out << "Nella cartella della ditta non si può scrivere. Niente è stato cambiato.\n";
+    return false;
+}
+
+int write_all(const std::vector<repair_step>& steps, std::size_t shown, const repair_tools& tools,
+              std::ostream& out) {
+    archive_change& change = tools.change;
+    std::size_t written = 0;
+    while (written < steps.size() && steps[written].write(tools)) ++written;
+    if (tools.records.art.writable()) change.flush(tools.records.art);
+    if (tools.records.orc.writable()) change.flush(tools.records.orc);
+    if (tools.records.tot.writable()) change.flush(tools.records.tot);
+    out << "Messi a posto " << written << " di " << shown << ".\n";
+    if (written < steps.size() || change.finish().how != change_outcome::done) {
+        out << "Il disco ha rifiutato una lettura o una scrittura: controllare il disco, poi "
+               "ripetere. Quello che non è scritto è rimasto com'era.\n";
+        return not_possible;
+    }
+    if (written == shown) return done;
+    out << "Il resto intanto è stato cambiato da un'altra postazione: ripetere il controllo.\n";
+    return refused;
 }
 
 }  // namespace
 
-int repair_ordered_quantities(const fs::path& root, int numero_azienda,
-                              const std::function<bool()>& confirmed, std::ostream& out) {
-    company_files company(root, numero_azienda);
-    const auto found = wrong_quantities(company);
-    if (!found) {
-        out << "Not all orders of the company can be read; nothing was changed.\n";
-        return 3;
+int carry_out(const repair_request& request, const char* name, const repair_planner& planner) {
+    existing_files existing(request.files);
+    repair_plan shown;
+    {
+        company_files company(existing, request.numero_azienda);
+        shown = planner(company);
     }
-    const auto& wrong = *found;
-    if (wrong.empty()) {
-        out << "All ordered quantities are right; nothing was changed.\n";
-        return 0;
+    const bool unfinished = request.files.exists(mark_of(request, name));
+    if (unfinished) {
+        request.out << "Questa riparazione era stata interrotta; i file com'erano prima stanno "
+                       "nelle copie accanto. "
+                    << (shown.steps.empty() ? "Di quanto aveva mostrato non manca niente.\n"
+                                            : "Mancano ancora:\n");
     }
-    for (const wrong_ordered_quantity& one : wrong) {
-        out << "article " << one.articolo << " (" << one.codice << "): ordinato_clienti "
-            << plain_text(one.stored) << " becomes " << plain_text(one.open) << '\n';
+    if (const auto end = ends_here(shown, request)) {
+        if (*end == done) drop_mark(request, name);
+        return *end;
     }
-    if (!confirmed()) {
-        out << "Nothing was changed.\n";
-        return 1;
+    show(shown, request);
+    if (!request.confirmed(shown.certain)) {
+        request.out << "Niente è stato cambiato.\n";
+        return refused;
     }
-    const fs::path file = company.path_of("art");
-    const fs::path copy = place_for_copy(file);
-    std::error_code failed;
-    fs::copy_file(file, copy, failed);
-    if (failed) {
-        out << "The copy " << copy.string() << " can't be made: " << failed.message()
-            << ". Nothing was changed.\n";
-        return 3;
+    company_files company(existing, request.numero_azienda);
+    if (request.book) request.book(company.records());
+    archive_change change(company.records());
+    change.recorded_as("riparazione", name);
+    if (!change.may_write()) return tell_not_begun(change, company, request);
+    const repair_plan now = planner(company);
+    if (const auto end = ends_here(now, request)) return *end;
+    const auto steps = still_holding(shown, now);
+    if (!steps.empty() && !(copy_files(steps, request) && put_mark(request, name))) {
+        return not_possible;
     }
-    drive writable(root);
-    archivi files;
-    files.tot =
-        channel<rec_tot>(writable.open_records(file_azienda(numero_azienda, "tot")), "vantora.tot");
-    files.art =
-        channel<rec_art>(writable.open_records(file_azienda(numero_azienda, "art")), "vantora.art");
-    archive_change change(files);
-    change.changes(files.art);
-    // Nobody changes orders from here on; what was shown must still be what is wrong.
-    if (change.may_write() && wrong_quantities(company) != wrong) {
-        out << "Another station changed the archive meanwhile; nothing was changed.\n";
-        return 3;
-    }
-    std::size_t done = 0;
-    for (const wrong_ordered_quantity& one : wrong) {
-        done += change.may_write() && set_right(change, files.art, one) ? 1 : 0;
-    }
-    if (change.may_write()) change.flush(files.art);
-    const change_outcome outcome = change.finish();
-    if (outcome.how == change_outcome::not_awaited) {
-        out << "Another station is at work; nothing was changed.\n";
-    } else if (outcome.how != change_outcome::done) {
-        out << outcome.files << " can't be written.\n";
-    }
-    out << done << " of " << wrong.size() << " articles set right; the file as it was is "
-        << copy.string() << '\n';
-    return done == wrong.size() ? 0 : 3;
+    const int result =
+        write_all(steps, shown.steps.size(),
+                  {request.files, request.numero_azienda, company.records(), change}, request.out);
+    if (result != not_possible) drop_mark(request, name);
+    return result;
 }
 
 }  // namespace vantora::archive

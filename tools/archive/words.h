@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <string>
 #include <string_view>
 
@@ -7,9 +8,35 @@
 
 namespace vantora::archive {
 
-/// What a person reads in a text field: up to its first zero byte, without the blanks at its end.
+/// Whether a terminal may take a byte of the code page for a command.
+constexpr bool is_control(char character) {
+    const auto code = static_cast<unsigned char>(character);
+    return code < 0x20 || code == 0x7F || code == 0x81 || code == 0x8D || code == 0x8F ||
+           code == 0x90 || code == 0x9D;
+}
+
+/// A text of the code page as a terminal may have it (UTF-8): a dot for each control byte.
+inline std::string without_controls(std::string_view text) {
+    std::string clean(text);
+    for (char& one : clean) {
+        if (is_control(one)) one = '\xB7';
+    }
+    return to_utf8(clean);
+}
+
+/// What a person reads in a text field: up to its first zero byte, without the blanks around it.
 inline std::string words_of(std::string_view stored) {
-    return to_utf8(trimmed(stored.substr(0, stored.find('\0'))));
+    return without_controls(trimmed(stored.substr(0, stored.find('\0'))));
+}
+
+/// A path for a message: whatever its bytes are.
+inline std::string words_of_path(const std::filesystem::path& path) {
+    return without_controls(from_utf8(path.string()));
+}
+
+/// " (anna su cassa2)"; nothing for nothing.
+inline std::string in_brackets(const std::string& words) {
+    return words.empty() ? words : " (" + words + ")";
 }
 
 }  // namespace vantora::archive

@@ -1,17 +1,17 @@
-#include "archive/backup.h"
+#include "backup/backup.h"
 
 #include <algorithm>
 #include <chrono>
 #include <sstream>
 
-#include "archive/copying.h"
-#include "archive/staging.h"
+#include "backup/staging.h"
 #include "store/archive_change.h"
 #include "store/archives.h"
 #include "store/suite_paths.h"
+#include "store/suite_table.h"
 #include "text/code_page.h"
 
-namespace vantora::archive {
+namespace vantora {
 
 namespace fs = std::filesystem;
 
@@ -23,6 +23,10 @@ copy_outcome failed(std::string why) {
     copy_outcome outcome;
     outcome.fault = std::move(why);
     return outcome;
+}
+
+std::string words_of(const fs::filesystem_error& problem) {
+    return from_utf8(problem.path1().string() + ": " + problem.code().message());
 }
 
 std::string list_of(const std::vector<copied_file>& files) {
@@ -61,14 +65,19 @@ bool make_folders(file_port& to, const std::string& target) {
 
 /// Copies everything into `into` of the drive `to`. A fault names the file.
 std::string copy_all(file_port& from, const std::vector<listed_file>& listed, file_port& to,
-                     const std::string& into, std::vector<copied_file>& copied) {
+                     const std::string& into, std::vector<copied_file>& copied, copy_pace& pace) {
     copied.clear();
+    pace.done = pace.all = 0;
+    // Each is read again from the copy.
+    for (const listed_file& one : listed) pace.all += 2 * one.size;
     for (const listed_file& one : listed) {
         const std::string target = into + "/" + one.path;
-        if (!make_folders(to, target)) return target + ": la cartella non si può creare";
-        if (to.exists(drive_path(target))) return one.path + ": lo stesso nome due volte";
-        const auto done = copy_over(from, one.path, to, target);
-        if (!done) return one.path + ": non si può leggere o copiare";
+        if (!make_folders(to, target))
+            return from_utf8(target) + ": la cartella non si può creare"_cp;
+        if (to.exists(drive_path(target)))
+            return from_utf8(one.path) + ": lo stesso nome due volte";
+        const auto done = copy_over(from, one.path, to, target, pace);
+        if (!done) return from_utf8(one.path) + ": non si può leggere o copiare"_cp;
         copied.push_back(*done);
     }
     return {};
@@ -76,11 +85,11 @@ std::string copy_all(file_port& from, const std::vector<listed_file>& listed, fi
 
 /// Reads the copies again.
 std::string compare_all(file_port& to, const std::string& folder,
-                        const std::vector<copied_file>& copied) {
+                        const std::vector<copied_file>& copied, copy_pace& pace) {
     for (const copied_file& one : copied) {
-        const auto read = read_over(to, folder + one.path);
+        const auto read = read_over(to, folder + one.path, pace);
         if (!read || read->size != one.size || read->mark != one.mark) {
-            return one.path + ": riletta, la copia non è uguale";
+            return from_utf8(one.path) + ": riletta, la copia non è uguale"_cp;
         }
     }
     return {};
@@ -97,7 +106,7 @@ archivi lock_file(file_port& files, int numero_azienda) {
 /// Copies until the files stayed the same all the while: other programs of the suite don't wait.
 std::string copy_consistently(file_port& from, archivi tot, int numero_azienda, file_port& to,
                               const staging& made, std::vector<copied_file>& copied,
-                              std::string& into) {
+                              std::string& into, copy_pace& pace) {
     constexpr int attempts_max = 3;
     const fs::path root = from.locate("\\");
     const fs::path company = from.locate(cartella_azienda(numero_azienda));
@@ -106,7 +115,7 @@ std::string copy_consistently(file_port& from, archivi tot, int numero_azienda, 
         if (alone.others_at_work()) break;
         const auto before = list_company(root, company);
         into = made.folder().filename().string() + "/" + std::to_string(attempt);
-        std::string fault = copy_all(from, before, to, into, copied);
+        std::string fault = copy_all(from, before, to, into, copied, pace);
         if (!fault.empty()) return fault;
         if (list_company(root, company) == before) return {};
     }
@@ -169,6 +178,18 @@ void drop_unfinished(const fs::path& folder, const std::string& stem) {
 
 }  // namespace
 
+std::string stem_of_copies(int numero_azienda) {
+    const std::string padded = "00" + std::to_string(numero_azienda);
+    return "ditta" + padded.substr(padded.size() - 3);
+}
+
+std::string end_of_copy(const date_time& made) {
+    std::string time;
+    for (const int part : {made.hour, made.minute, made.second}) time += two_digits(part);
+    return "-" + std::to_string(made.day.year) + "-" + two_digits(made.day.month) + "-" +
+           two_digits(made.day.day) + "-" + time;
+}
+
 std::int64_t copy_outcome::bytes() const {
     std::int64_t all = 0;
     for (const copied_file& one : files) all += one.size;
@@ -176,62 +197,66 @@ std::int64_t copy_outcome::bytes() const {
 }
 
 copy_outcome make_copy(file_port& from, file_port& locks, int numero_azienda, file_port& to,
-                       const std::string& name) try {
+                       const std::string& name, const copy_progress& tell) try {
     copy_outcome outcome;
+    copy_pace pace{tell};
     outcome.place = to.locate("\\") / name;
-    if (fs::exists(fs::symlink_status(outcome.place))) return failed(name + " c'è già");
+    if (fs::exists(fs::symlink_status(outcome.place))) return failed(name + " c'è già"_cp);
     const staging made(outcome.place);
-    if (made.folder().empty()) return failed("nella cartella delle copie non si può scrivere");
+    if (made.folder().empty()) return failed("nella cartella delle copie non si può scrivere"_cp);
     std::string into;
     outcome.fault = copy_consistently(from, lock_file(locks, numero_azienda), numero_azienda, to,
-                                      made, outcome.files, into);
+                                      made, outcome.files, into, pace);
     if (!outcome.fault.empty()) return outcome;
-    outcome.fault = compare_all(to, into + "/", outcome.files);
+    outcome.fault = compare_all(to, into + "/", outcome.files, pace);
     if (!outcome.fault.empty()) return outcome;
     const std::string list = list_of(outcome.files);
     const auto file = to.create(drive_path(into + "/" + copy_list));
     if (!file || !file->write(0, std::as_bytes(std::span(list))) || !file->flush()) {
-        return failed("l'elenco della copia non si può scrivere");
+        return failed("l'elenco della copia non si può scrivere"_cp);
     }
     const fs::path finished = made.folder() / fs::path(into).filename();
     if (!swap_in(finished, outcome.place, made.folder() / "former")) {
-        return failed("la copia non si può mettere al suo posto");
+        return failed("la copia non si può mettere al suo posto"_cp);
     }
     return outcome;
 } catch (const fs::filesystem_error& problem) {
-    return failed(problem.path1().string() + ": " + problem.code().message());
+    return failed(words_of(problem));
 }
 
-copy_outcome checked_copy(const fs::path& copy, file_port& files) {
+copy_outcome checked_copy(const fs::path& copy, file_port& files, const copy_progress& tell) {
     copy_outcome outcome;
     outcome.place = copy;
     const auto text = files.read_whole(std::string("\\") + copy_list);
     auto listed = text ? read_list(*text) : std::nullopt;
-    if (!listed) return failed(copy.string() + " non è una copia intera");
+    if (!listed) return failed(from_utf8(copy.string()) + " non è una copia intera"_cp);
     outcome.files = std::move(*listed);
-    outcome.fault = compare_all(files, "", outcome.files);
+    copy_pace pace{tell, outcome.bytes()};
+    outcome.fault = compare_all(files, "", outcome.files, pace);
     return outcome;
 }
 
 copy_outcome put_back(const copy_outcome& copy, file_port& from, int numero_azienda, file_port& to,
-                      const std::string& former) try {
+                      const std::string& former, const copy_progress& tell) try {
     const fs::path place = to.locate(cartella_azienda(numero_azienda));
     fs::create_directories(place.parent_path());
     const staging made(place);
-    if (made.folder().empty()) return failed("accanto alla ditta non si può scrivere");
+    if (made.folder().empty()) return failed("accanto alla ditta non si può scrivere"_cp);
     const std::string into = made.folder().lexically_relative(to.locate("\\")).generic_string();
     bool any = false;
+    copy_pace pace{tell, copy.bytes()};
     for (const copied_file& one : copy.files) {
         const auto target = target_of(one.path, numero_azienda, into);
         if (!target || (*target == one.path && to.exists(drive_path(*target)))) continue;
         any = any || *target != one.path;
-        if (!make_folders(to, *target)) return failed(*target + ": la cartella non si può creare");
-        const auto done = copy_over(from, one.path, to, *target);
+        if (!make_folders(to, *target))
+            return failed(from_utf8(*target) + ": la cartella non si può creare"_cp);
+        const auto done = copy_over(from, one.path, to, *target, pace);
         if (!done || done->mark != one.mark || done->size != one.size) {
-            return failed(one.path + ": non si può copiare");
+            return failed(from_utf8(one.path) + ": non si può copiare"_cp);
         }
     }
-    if (!any) return failed("la copia non è di questa ditta");
+    if (!any) return failed("la copia non è di questa ditta"_cp);
     archivi tot = lock_file(to, numero_azienda);
     const archive_change alone(tot);
     if (alone.others_at_work()) return failed("un'altra postazione lavora nell'archivio");
@@ -239,11 +264,11 @@ copy_outcome put_back(const copy_outcome& copy, file_port& from, int numero_azie
     outcome.files = copy.files;
     if (fs::exists(place)) outcome.place = place.parent_path() / former;
     if (!swap_in(made.folder() / new_company, place, place.parent_path() / former)) {
-        return failed("la ditta non si può sostituire; è rimasta com'era");
+        return failed("la ditta non si può sostituire; è rimasta com'era"_cp);
     }
     return outcome;
 } catch (const fs::filesystem_error& problem) {
-    return failed(problem.path1().string() + ": " + problem.code().message());
+    return failed(words_of(problem));
 }
 
 int drop_old_copies(const fs::path& folder, const std::string& stem, int keep) {
@@ -258,9 +283,12 @@ int drop_old_copies(const fs::path& folder, const std::string& stem, int keep) {
     return dropped;
 }
 
-std::string newest_copy(const fs::path& folder, const std::string& stem) {
+std::optional<date_time> newest_copy(const fs::path& folder, const std::string& stem) {
     const auto names = copies_in(folder, stem);
-    return names.empty() ? std::string() : names.back().substr(stem.size() + 1);
+    if (names.empty()) return {};
+    const std::string made = names.back().substr(stem.size() + 1);
+    return read_clock(made.substr(0, 10) + " " + made.substr(11, 2) + ":" + made.substr(13, 2) +
+                      ":" + made.substr(15));
 }
 
-}  // namespace vantora::archive
+}  // namespace vantora

@@ -1,4 +1,4 @@
-#include "archive/staging.h"
+#include "backup/staging.h"
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -6,7 +6,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-namespace vantora::archive {
+namespace vantora {
 
 namespace fs = std::filesystem;
 
@@ -60,4 +60,4 @@ bool swap_in(const fs::path& made, const fs::path& place, const fs::path& former
     return true;
 }
 
-}  // namespace vantora::archive
+}  // namespace vantora

@@ -1,11 +1,11 @@
-#include "archive/copying.h"
+#include "backup/copying.h"
 
 #include <algorithm>
 #include <array>
 
 #include "text/code_page.h"
 
-namespace vantora::archive {
+namespace vantora {
 
 namespace fs = std::filesystem;
 
@@ -58,6 +58,30 @@ void add_files(const fs::path& root, const fs::path& folder, bool tables_only,
     }
 }
 
+/// The mark of a file's bytes; empty if it can't be read.
+std::optional<copied_file> marked(file& from, const std::string& path, copy_pace& pace) {
+    marker bytes;
+    const bool read = in_stretches(from, [&](std::int64_t, auto stretch) {
+        bytes.add(stretch);
+        pace.add(stretch.size());
+        return true;
+    });
+    if (!read) return {};
+    return bytes.of(path);
+}
+
+/// Copies the bytes of a file and flushes them.
+std::optional<copied_file> copied(file& from, file& to, const std::string& path, copy_pace& pace) {
+    marker bytes;
+    const bool done = in_stretches(from, [&](std::int64_t offset, auto stretch) {
+        bytes.add(stretch);
+        pace.add(stretch.size());
+        return stretch.empty() || to.write(offset, stretch);
+    });
+    if (!done || !to.flush()) return {};
+    return bytes.of(path);
+}
+
 }  // namespace
 
 std::vector<listed_file> list_company(const fs::path& root, const fs::path& company_folder) {
@@ -75,30 +99,42 @@ std::string drive_path(const std::string& listed) {
 }
 
 std::optional<copied_file> copy_over(file_port& from, const std::string& path, file_port& to,
-                                     const std::string& target) {
+                                     const std::string& target, copy_pace& pace) {
     const auto source = from.open_records(drive_path(path));
     const auto made = to.create(drive_path(target));
-    marker bytes;
-    if (!source || !made || !in_stretches(*source, [&](std::int64_t offset, auto stretch) {
-            bytes.add(stretch);
-            return stretch.empty() || made->write(offset, stretch);
-        })) {
-        return {};
-    }
-    if (!made->flush()) return {};
-    return bytes.of(path);
+    if (!source || !made) return {};
+    return copied(*source, *made, path, pace);
 }
 
-std::optional<copied_file> read_over(file_port& from, const std::string& path) {
+std::optional<copied_file> read_over(file_port& from, const std::string& path, copy_pace& pace) {
     const auto source = from.open_records(drive_path(path));
-    marker bytes;
-    if (!source || !in_stretches(*source, [&](std::int64_t, auto stretch) {
-            bytes.add(stretch);
-            return true;
-        })) {
-        return {};
-    }
-    return bytes.of(path);
+    if (!source) return {};
+    return marked(*source, path, pace);
 }
 
-}  // namespace vantora::archive
+std::string copied_beside(file_port& files, const std::string& path, std::string& why) {
+    constexpr int copies_most = 9999;
+    std::string copy;
+    for (int number = 1; copy.empty() || (files.exists(copy) && number <= copies_most); ++number) {
+        copy = path + ".copia" + std::to_string(number);
+    }
+    const auto from = files.open_records(path);
+    const auto length = from ? from->length() : std::nullopt;
+    const auto aside = files.create_aside(copy);
+    if (!length) why = "il file non si può leggere"_cp;
+    if (length && !aside) why = "nella cartella non si può scrivere"_cp;
+    if (!length || !aside) return {};
+    if (!aside->reserve(0, *length)) {
+        why = "sul disco non c'è posto"_cp;
+        return {};
+    }
+    copy_pace unseen;
+    const auto made = copied(*from, *aside, path, unseen);
+    if (!made || made != marked(*aside, path, unseen) || !aside->put_in_place()) {
+        why = "il disco ha rifiutato una lettura o una scrittura";
+        return {};
+    }
+    return copy;
+}
+
+}  // namespace vantora

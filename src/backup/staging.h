@@ -2,7 +2,7 @@
 
 #include <filesystem>
 
-namespace vantora::archive {
+namespace vantora {
 
 /// A new folder beside a target, in which it is made before it takes its place. What is still in it
 /// at the end goes with it.
@@ -29,4 +29,4 @@ bool swap_in(const std::filesystem::path& made, const std::filesystem::path& pla
 /// Waits until the names in a folder have reached the disk.
 void flush_folder(const std::filesystem::path& folder);
 
-}  // namespace vantora::archive
+}  // namespace vantora
