@@ -83,6 +83,15 @@ QStringList facts_of(const vantora::program_options& options,
     return lines;
 }
 
+/// Where the nightly copies of this drive go; empty if nobody set them up.
+std::filesystem::path folder_of_copies(const std::filesystem::path& drive) {
+    const auto settings = vantora::settings_file("notte.conf");
+    std::error_code failed;
+    const bool of_this =
+        std::filesystem::equivalent(vantora::setting_in(settings, "CARTELLA"), drive, failed);
+    return of_this && !failed ? vantora::setting_in(settings, "COPIE") : std::string();
+}
+
 }  // namespace
 
 int main(int count, char** arguments) {
@@ -133,6 +142,7 @@ int main(int count, char** arguments) {
         ui::desktop::script_runner runner(front, commands, script.commands(), std::cout);
         program app(files, desk, pictures);
         app.person = person ? &*person : nullptr;
+        app.book = book_for(options, true);
         front.begin(desk);
         front.served_by(
             [&runner] { return runner.step(); },
@@ -153,6 +163,8 @@ int main(int count, char** arguments) {
     desk.guards().switch_to(true);
     program app(files, desk, pictures);
     app.person = person ? &*person : nullptr;
+    app.book = book_for(options, false);
+    app.copies = folder_of_copies(options.drive);
     front.begin(desk);
     const ui::desktop::outside_end from_outside([&front] { return front.may_end(); },
                                                 [&front] { front.end_by_user(); });

@@ -31,6 +31,13 @@ std::optional<int> program_options::read(int count, char** arguments) {
     return {};
 }
 
+std::optional<day_book> book_for(const program_options& options, bool by_script) {
+    const std::filesystem::path named = options.data;
+    if (named.empty()) return by_script ? std::nullopt : book_of_person();
+    if (is_switched_off(named / "libro.conf")) return {};
+    return day_book(named);
+}
+
 int exit_code(const ui::desk& desk) {
     return desk.ended() && desk.ended()->fatal ? 3 : 0;
 }

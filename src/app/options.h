@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 
+#include "store/day_book.h"
 #include "text/dates.h"
 #include "ui/desk.h"
 
@@ -25,6 +26,10 @@ struct program_options {
     /// Empty if the program is to run, else its exit code: 0 after help, 2 for wrong options.
     std::optional<int> read(int count, char** arguments);
 };
+
+/// The book of what was done, in the named folder of the person or in the system's place for it.
+/// None where it was switched off, and in a run by script without a named folder.
+std::optional<day_book> book_for(const program_options& options, bool by_script);
 
 /// 0 after the program's own end, 3 after a fatal run-time error.
 int exit_code(const ui::desk& desk);

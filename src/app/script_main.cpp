@@ -24,6 +24,7 @@ int main(int count, char** arguments) {
     ui::script::interpreter commands(desk, time, paper, programs);
     ui::pixbuf_decoder pictures;
     program app(files, desk, pictures);
+    app.book = book_for(options, true);
     std::optional<drive> person;
     if (!options.data.empty()) app.person = &person.emplace(options.data);
 

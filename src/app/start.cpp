@@ -68,6 +68,10 @@ void start(program& app, std::string_view argument) {
     };
     watch_stations(app.archives, app.desk);
     app.parameters.numero_azienda = numero_azienda_in(argument);
+    if (app.book) {
+        app.book->watch(app.archives, app.parameters.numero_azienda,
+                        [&app] { return app.desk.clock().now(); });
+    }
     app.mirorc->show();
     offri_bozze(app);
 }

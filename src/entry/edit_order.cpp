@@ -52,8 +52,9 @@ void look_for_other_rows(archive_change& change, const archivi& files,
 /// `renew(change, number, row)` makes the row new and tells whether it moved stock itself.
 template <class Renew>
 change_outcome change_rows(archivi& files, const ordine_esistente& order, bool lines_move_stock,
-                           const Renew& renew) {
+                           const char* called, const Renew& renew) {
     archive_change change(files);
+    change.recorded_as(called, std::string(order.visto.numero.trimmed()));
     rec_tot now;
     change.reads(files.tot, contatori::ordini, now);
     change.writes(files.orc, block_record(order.visto.registrazione, 1), righe_blocco);
@@ -89,7 +90,7 @@ change_outcome change_rows(archivi& files, const ordine_esistente& order, bool l
 
 change_outcome salva_ordine(archivi& files, const ordine_esistente& order,
                             const testata_registrata& head, bool evaso, const righe_ordine& lines) {
-    return change_rows(files, order, lines_with_stock(lines, order.articoli) > 0,
+    return change_rows(files, order, lines_with_stock(lines, order.articoli) > 0, "ordine cambiato",
                        [&](archive_change& change, int number, rec_orc& row) {
                            const riga_ordine& line = lines[number];
                            fill_head(row, head, static_cast<std::size_t>(number));
@@ -102,10 +103,11 @@ change_outcome salva_ordine(archivi& files, const ordine_esistente& order,
 }
 
 change_outcome elimina_ordine(archivi& files, const ordine_esistente& order) {
-    return change_rows(files, order, false, [](archive_change&, int, rec_orc& row) {
-        row.annullato = 1;
-        return false;
-    });
+    return change_rows(files, order, false, "ordine eliminato",
+                       [](archive_change&, int, rec_orc& row) {
+                           row.annullato = 1;
+                           return false;
+                       });
 }
 
 }  // namespace vantora

@@ -76,6 +76,7 @@ bool write_block(archive_change& change, archivi& files, int block, const testat
 change_outcome salva_nuovo_ordine(archivi& files, const testata_registrata& head, double data_reg,
                                   const righe_ordine& lines, std::int16_t articles) {
     archive_change change(files);
+    change.recorded_as("ordine nuovo", head.numero);
     rec_tot counter;
     change.counts(files.tot, contatori::ordini, counter, files.orc);
     const int block = counter.quanti + 1;

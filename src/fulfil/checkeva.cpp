@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <set>
 
 #include "customer/shipping_data.h"
 #include "errors/run_time_errors.h"
@@ -27,6 +28,7 @@ void mirorcr::checkeva() {
 
 change_outcome mirorcr::book() {
     archive_change change(app_.archives, archive_change::faults::end_the_program);
+    change.recorded_as("evasione di ordini", marked_orders());
     look_before_booking(change);
     if (change.may_write() && app_.desk.guards().on() && !changed_rows().empty()) {
         change.give_up(change_outcome::to_be_asked);
@@ -39,6 +41,20 @@ change_outcome mirorcr::book() {
     change.flush(app_.archives.art);
     change.flush(app_.archives.orc);
     return change.finish();
+}
+
+std::string mirorcr::marked_orders() const {
+    std::set<int> leaving;
+    for (int row = 1; row < righe_; ++row) {
+        if (number_in(row, evaso) != 0)
+            leaving.insert(static_cast<int>(number_in(row, numero_ordine)));
+    }
+    std::string numbers;
+    for (const ordine_visto& seen : visti_) {
+        if (!leaving.contains(seen.registrazione)) continue;
+        numbers += (numbers.empty() ? "" : ", ") + std::string(seen.numero.trimmed());
+    }
+    return numbers;
 }
 
 void mirorcr::look_before_booking(archive_change& change) const {

@@ -104,6 +104,7 @@ class mirorcr final : public ui::form {
     void checkeva();
     /// Books what leaves and closes the orders it ends.
     change_outcome book();
+    [[nodiscard]] std::string marked_orders() const;  ///< "12, 13": of which something leaves
     /// What is looked at before the first row is booked.
     void look_before_booking(archive_change& change) const;
     /// Another station's compaction has moved none of the orders listed.

@@ -74,6 +74,7 @@ std::string snapshot_of(const ddt_da_registrare& document, const righe_ordine& l
 change_outcome salva_ddt(archivi& files, file_port& port, int numero_azienda,
                          const ddt_da_registrare& document, const righe_ordine& lines) {
     archive_change change(files);
+    change.recorded_as("documento di trasporto", document.text3[campo_ddt::numero]);
     rec_tot counter;
     change.counts(files.tot, contatori::documenti_trasporto, counter, files.bol);
     const rec_tot before = counter;

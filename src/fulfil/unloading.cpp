@@ -107,6 +107,7 @@ change_outcome scarica_magazzino(archivi& files, const movimento_magazzino& move
     std::array<bool, righe_ordine::massimo + 1> asked{};
     while (true) {
         archive_change change(files, archive_change::faults::end_the_program);
+        change.recorded_as("scarico di magazzino", movement.documento);
         rec_tot counter;
         const int moving = lines_with_stock(lines, articles);
         change.counts(files.tot, contatori::magazzino, counter, files.mag, moving);

@@ -1,10 +1,12 @@
 #pragma once
 
 #include <cstdint>
+#include <filesystem>
 #include <optional>
 #include <string>
 
 #include "store/archives.h"
+#include "store/day_book.h"
 #include "store/parameters.h"
 #include "ui/picture_decoder.h"
 #include "ui/screen.h"
@@ -62,6 +64,9 @@ struct program {
     /// The folder of what belongs to the person and not to the archive: drafts, for one. Null
     /// where nothing of it is read or written.
     file_port* person = nullptr;
+    /// Where copies of the archive are kept; empty: in "\\mirwin\\copie".
+    std::filesystem::path copies;
+    std::optional<day_book> book;  ///< of what was done; none where nobody keeps one
     archivi archives;
     parametri parameters;
 

@@ -67,6 +67,7 @@ change_outcome compatta_archivio(archivi& files, bool elimina_evasi,
                                  const std::function<void(int, int)>& progress,
                                  std::vector<std::string>* unread) {
     archive_change change(files);
+    change.recorded_as("compattazione", elimina_evasi ? "anche gli evasi" : "");
     rec_tot counter;
     if (change.may_write()) {
         change.require(files.tot.read(contatori::ordini, counter), files.tot.name());

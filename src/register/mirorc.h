@@ -76,6 +76,9 @@ class mirorc final : public ui::form {
     void compact();
     /// False, with a message, if it can't begin.
     bool run_compaction(bool elimina_evasi);
+    [[nodiscard]] std::filesystem::path folder_of_copies() const;
+    ui::answer copy_wanted();
+    bool copied();
 
     void lead_to(ui::screen_place& next);
     void lead_to_if_customers(ui::screen_place& next);

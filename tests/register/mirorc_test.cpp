@@ -182,5 +182,29 @@ TEST_F(mirorc, CompactionAsksTwiceAndCanBeCancelled) {
     EXPECT_EQ(replies[3]["value"][0][3], "Ordine eliminato");
 }
 
+TEST_F(mirorc, CompactionOffersACopyFirstWhereTheLastIsOlderThanADay) {
+    fill_behind_a_deleted_one(3);
+    const auto copies = company.drive() / "mirwin" / "copie";
+    const auto compact = [&](const std::string& clock, const std::string& answer) {
+        return run({"guards on", "clock \"" + clock + "\"", "click mirorc.srtt(0)", "answer no",
+                    "answer yes", answer});
+    };
+    const auto before = files_under(company.drive());
+    test::put(copies, "in the way");
+    json replies = compact("2024-05-06 10:20:30", "answer 1");
+    EXPECT_EQ(replies[4]["box"]["choices"].size(), 3U);
+    EXPECT_TRUE(std::string(replies[5]["box"]["text"]).starts_with("Nessuna copia: "));
+    std::filesystem::remove(copies);
+    compact("2024-05-06 10:20:30", "answer 3");
+    EXPECT_EQ(files_under(company.drive()), before);
+    compact("2024-05-06 10:20:30", "answer 1");
+    const auto copied = files_under(copies / "ditta001-2024-05-06-102030");
+    for (const auto& [name, bytes] : before) EXPECT_EQ(copied.at(name), bytes) << name;
+    EXPECT_NE(files_under(company.drive() / "mirwin" / "mirwin"),
+              files_under(copies / "ditta001-2024-05-06-102030" / "mirwin" / "mirwin"));
+    EXPECT_FALSE(compact("2024-05-07 10:20:30", "get mirorc.srt")[4].contains("box"));
+    EXPECT_TRUE(compact("2024-05-07 10:20:31", "answer 3")[4].contains("box"));
+}
+
 }  // namespace
 }  // namespace vantora::test

@@ -42,16 +42,11 @@ QString remark(const documento_di_stampa& document) {
         .arg(document.anomalie);
 }
 
-/// Empty if it was sent, else why not. `odd` gets what the user is to know besides.
-std::optional<QString> send(file_port& files, const pdf_request& request,
-                            const std::filesystem::path& path, const QByteArray& pdf,
-                            QString& odd) {
+/// The settings of the mail, or why nothing can be sent. `odd` gets what the user is to know
+/// besides.
+std::variant<mail_settings, QString> settings_on(file_port& files, QString& odd) {
     const std::string configuration = std::string(cartella_generale) + "mirxpdf.conf";
     const QString place = QString::fromStdString(files.locate(configuration).string());
-    const auto addressees = read_addressees(to_utf8(request.addressee));
-    if (addressees.empty()) {
-        return "indirizzo e-mail non valido: " + to_qt(request.addressee);
-    }
     const auto content = files.read_whole(configuration);
     if (!content && files.exists(configuration)) {
         const QString owner = QFileInfo(place).owner();
@@ -63,14 +58,30 @@ std::optional<QString> send(file_port& files, const pdf_request& request,
         return "configurazione della posta errata in " + place + ", " +
                QString::fromStdString(error->what);
     }
-    const auto& settings = std::get<mail_settings>(read);
-    if (settings.server.empty()) {
+    const auto& read_settings = std::get<mail_settings>(read);
+    if (read_settings.server.empty()) {
         return "la posta elettronica non è configurata: indicare il server in " + place;
     }
-    if (!settings.password.empty() && QFileInfo(place).permission(QFile::ReadOther)) {
+    if (!read_settings.password.empty() && QFileInfo(place).permission(QFile::ReadOther)) {
         odd += " Attenzione: tutti possono leggere la password che sta in " + place + ".";
     }
-    const auto problem = send_pdf(settings, addressees, path.filename().string(), pdf);
+    return read_settings;
+}
+
+/// A PDF, or the notice alone. Empty if it was sent, else why not.
+std::optional<QString> send(file_port& files, const std::string& addressee,
+                            const std::string& file_name, const QByteArray& pdf, QString& odd,
+                            const notice* instead = nullptr) {
+    const auto addressees = read_addressees(to_utf8(addressee));
+    if (addressees.empty()) return "indirizzo e-mail non valido: " + to_qt(addressee);
+    const auto found = settings_on(files, odd);
+    if (const auto* why = std::get_if<QString>(&found)) return *why;
+    auto settings = std::get<mail_settings>(found);
+    if (instead) {
+        settings.oggetto = instead->subject;
+        settings.testo = instead->text;
+    }
+    const auto problem = send_pdf(settings, addressees, file_name, pdf);
     if (!problem) return {};
     return QString::fromStdString("invio tramite " + settings.server +
                                   " non riuscito: " + *problem);
@@ -120,12 +131,20 @@ int carry_out(const pdf_request& request, const std::optional<std::string>& prin
         tell.done(ready, odd, place);
         return all_done;
     }
-    if (const auto problem = send(files, request, path, pdf, odd)) {
+    if (const auto problem = send(files, request.addressee, path.filename().string(), pdf, odd)) {
         tell.not_sent("Il documento non è stato inviato: " + *problem + "." + odd, place);
         return not_sent;
     }
     tell.done(ready + " È stato inviato a " + to_qt(request.addressee) + ".", odd, place);
     return all_done;
+}
+
+int send_notice(const notice& one, file_port& files, const notices& tell) {
+    QString odd;
+    const auto problem = send(files, one.addressee, "", {}, odd, &one);
+    if (!problem) return all_done;
+    tell.failure("L'avviso non è stato inviato: " + *problem + "." + odd);
+    return not_sent;
 }
 
 }  // namespace vantora::mirxpdf

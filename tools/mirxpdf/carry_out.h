@@ -21,4 +21,14 @@ inline constexpr int not_sent = 3;  ///< the PDF is made
 int carry_out(const pdf_request& request, const std::optional<std::string>& print_file,
               file_port& files, const notices& tell);
 
+/// A mail without a document, for what runs at night.
+struct notice {
+    std::string addressee;  ///< in the code page
+    std::string subject;    ///< these in UTF-8
+    std::string text;
+};
+
+/// Sends it through the settings of the documents' mail.
+int send_notice(const notice& one, file_port& files, const notices& tell);
+
 }  // namespace vantora::mirxpdf

@@ -133,6 +133,7 @@ message make_message(CURL* of, const mail_settings& settings, const std::string&
     curl_mime_data(part, text.data(), text.size());
     curl_mime_type(part, "text/plain; charset=utf-8");
     curl_mime_encoder(part, "quoted-printable");
+    if (pdf.isEmpty()) return made;
 
     part = curl_mime_addpart(made.get());
     curl_mime_data(part, pdf.data(), static_cast<std::size_t>(pdf.size()));

@@ -29,7 +29,8 @@ std::vector<mailbox> read_addressees(std::string_view text);
 /// A text as a header line carries it: as it is, or in encoded words if it isn't plain ASCII.
 std::string header_text(std::string_view utf8);
 
-/// Sends the PDF as an attachment by SMTP and waits until the server has taken it. The answer is
+/// Sends subject and text of the settings, with the PDF, if it isn't empty, as an attachment, by
+/// SMTP and waits until the server has taken it. The answer is
 /// why it couldn't be sent, for the user; empty if it was. The server's certificate is checked, and
 /// with `starttls` nothing is told to a server that doesn't offer it.
 /// REQUIRES: `settings` has a server.

@@ -3,6 +3,8 @@
 #include <QDesktopServices>
 #include <QUrl>
 #include <cstdlib>
+#include <iostream>
+#include <iterator>
 
 #include "desktop/look/style.h"
 #include "mirxpdf/carry_out.h"
@@ -17,6 +19,7 @@ using namespace vantora::mirxpdf;
 struct options {
     std::filesystem::path drive;
     bool no_window = false;
+    notice mail;           ///< instead of a document; without an addressee there is none
     std::string argument;  ///< in the code page
 };
 
@@ -31,6 +34,9 @@ std::optional<int> read_options(options& into, int count, char** arguments) {
                     "Cartella che fa da disco della suite; altrimenti quella in cui il programma "
                     "sta come mirwin/mirwin/mirxpdf")
         ->check(CLI::ExistingDirectory);
+    parser.add_option("--avviso", into.mail.addressee,
+                      "Invia a questo indirizzo il testo che legge, invece di un documento");
+    parser.add_option("--oggetto", into.mail.subject, "Oggetto dell'avviso");
     parser.add_flag("--no-window", into.no_window, "Nessuna finestra: i messaggi vanno su stderr");
     parser.set_version_flag("--version", VANTORA_VERSION)->description("Versione");
     // From its first word on, the argument is nobody's option.
@@ -72,14 +78,15 @@ int main(int count, char** arguments) {
     if (given.drive.empty()) {
         given.drive = drive_around(program_file(arguments[0])).value_or("");
     }
-    const auto request = read_request(given.argument);
+    const bool is_notice = !given.mail.addressee.empty();
+    const auto request = is_notice ? std::nullopt : read_request(given.argument);
 
     // The next document overwrites the print file at any moment: it is read before all else.
     drive suite(given.drive);
     std::optional<std::string> print_file;
     if (request && !given.drive.empty()) print_file = suite.read_whole(request->print_file);
 
-    choose_platform(given.no_window);
+    choose_platform(given.no_window || is_notice);
     int toolkit_count = 1;
     QApplication application(toolkit_count, arguments);
     QApplication::setOrganizationName("Vantora");
@@ -93,6 +100,11 @@ int main(int count, char** arguments) {
     if (given.drive.empty()) {
         tell.failure("Il programma non sta in mirwin/mirwin: indicare il disco con --drive.");
         return wrong_arguments;
+    }
+    if (is_notice) {
+        given.mail.addressee = from_utf8(given.mail.addressee);
+        given.mail.text.assign(std::istreambuf_iterator<char>(std::cin), {});
+        return send_notice(given.mail, suite, tell);
     }
     if (!request) {
         tell.failure(
