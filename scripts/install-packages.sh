@@ -21,6 +21,9 @@ if [ "$(id -u)" -ne 0 ]; then
     }
 fi
 echo "Installing:$missing"
-$as_root apt-get update -qq
-DEBIAN_FRONTEND=noninteractive $as_root apt-get install -y -qq --no-install-recommends $missing \
-    >/dev/null
+if ! $as_root apt-get update -qq ||
+    ! DEBIAN_FRONTEND=noninteractive $as_root apt-get install -y -qq --no-install-recommends $missing \
+        >/dev/null; then
+    echo "The packages can't be installed: see above. With the network up, repeat the command." >&2
+    exit 1
+fi

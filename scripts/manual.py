@@ -90,7 +90,7 @@ def main(docs, pictures, out):
     )
     page = with_pictures(page, pictures, icons)
     (out / f"{NAME}.html").write_text(page, encoding="utf-8")
-    weasyprint.HTML(string=page).write_pdf(out / f"{NAME}.pdf", optimize_size=("fonts", "images"))
+    weasyprint.HTML(string=page).write_pdf(out / f"{NAME}.pdf", optimize_size=("fonts", "images"), variant="pdf/ua-1")
 
 
 if __name__ == "__main__":

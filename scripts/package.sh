@@ -1,6 +1,6 @@
 #!/bin/sh
-# Makes the Debian package from the release build and checks it:  scripts/package.sh
-# It ends in build/release/vantora-ordini_*.deb.
+# Makes the Debian packages from the release build and checks it:  scripts/package.sh
+# They end in build/release/: the programs, vantora-ordini_*.deb, and vantora-ordini-manuale_*.deb.
 set -eu
 cd "$(dirname "$0")/.."
 scripts/install-packages.sh packages-manual.txt packages-package.txt
@@ -11,6 +11,6 @@ build=build/release
 desktop-file-validate packaging/*.desktop
 appstreamcli validate --no-net --explain "$build"/packaging/*.metainfo.xml
 
-rm -f "$build"/vantora-ordini_*.deb
+rm -f "$build"/vantora-ordini*.deb
 (cd "$build" && cpack -G DEB >cpack.log) || { cat "$build/cpack.log"; exit 1; }
-lintian --fail-on error,warning --info "$build"/vantora-ordini_*.deb
+lintian --fail-on error,warning --info "$build"/vantora-ordini*.deb
