@@ -186,7 +186,7 @@ void customer_head::search() {
         chosen_ = true;
         found_at(found);
     } else {
-        app_.desk.message("Anagrafica non trovata", "Attenzione", ui::icon::warning);
+        app_.desk.message("Anagrafica non trovata", ui::attention, ui::icon::warning);
         show_customer();
     }
     nome.set_text("");

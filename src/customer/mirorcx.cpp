@@ -36,7 +36,7 @@ void mirorcx::start_fresh() {
 bool mirorcx::date_is_right(std::size_t field, const std::string& complaint) {
     const std::string_view typed = trimmed(Text3[field].text());
     if (typed.size() == 10 && read_date(typed)) return true;
-    app_.desk.message(complaint, "Attenzione", ui::icon::stop);
+    app_.desk.message(complaint, ui::attention, ui::icon::stop);
     Text3[field].set_focus();
     return false;
 }

@@ -19,6 +19,11 @@ struct documento_stampato {
     std::optional<std::string> stampa;  ///< what its print file held, if that was all of it
 };
 
+/// The command line of `mirxpdf`: a document's form or "***", the PDF to make of what the print
+/// file holds, and where it is sent or "***", with further arguments behind a comma.
+std::string comando_mirxpdf(std::string_view layout, std::string_view pdf,
+                            std::string_view addressee);
+
 /// The command line that has `mirxpdf` make the PDF of what the print file holds.
 std::string comando_pdf(const parametri& parameters, const documento_stampato& document);
 

@@ -14,7 +14,7 @@ namespace {
 void tell_of_pictures(program& app, const std::string& what,
                       const std::vector<std::string>& files) {
     if (files.empty()) return;
-    app.desk.message(what + nomi_di_figure(files), "Attenzione", ui::icon::stop);
+    app.desk.message(what + nomi_di_figure(files), ui::attention, ui::icon::stop);
 }
 
 /// A document lacks what stands in files that can't be read: whether to print it all the same.

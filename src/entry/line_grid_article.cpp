@@ -42,7 +42,7 @@ void line_grid::article_enter(int row) {
         return;
     }
     if (lookup_.take_code(code)) return;
-    app_.desk.message("Articolo non esistente", "Attenzione", ui::icon::stop);
+    app_.desk.message("Articolo non esistente", ui::attention, ui::icon::stop);
     artic[row].set_focus();
 }
 

@@ -99,7 +99,7 @@ void line_grid::paste_lines(int row, std::string_view text, const ui::paste_prog
         app_.desk.set_pointer(ui::pointer::normal);
     }
     const std::string told = report.message(lines.size());
-    if (!told.empty()) app_.desk.message(told, "Attenzione", ui::icon::warning);
+    if (!told.empty()) app_.desk.message(told, ui::attention, ui::icon::warning);
 }
 
 /// `at`: the line that it takes; behind it, the next one.

@@ -16,7 +16,7 @@ namespace vantora {
 
 namespace {
 
-constexpr const char* titolo_messaggi = "Attenzione";
+constexpr const char* titolo_messaggi = ui::attention;
 
 /// Of a fulfilment whose goods don't leave: its rows are booked already.
 constexpr const char* che_resta = "\nLe righe restano evase, senza movimento e senza documento.";

@@ -7,7 +7,7 @@ namespace vantora {
 
 namespace {
 
-constexpr const char* titolo_messaggi = "Attenzione";
+constexpr const char* titolo_messaggi = ui::attention;
 
 std::vector<ui::grid_column> register_columns() {
     using enum ui::alignment;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "documents/pdf_handoff.h"
 #include "documents/print_file_writer.h"
 #include "reports/report_engine.h"
 #include "store/suite_paths.h"
@@ -9,8 +10,6 @@
 namespace vantora {
 
 namespace {
-
-constexpr const char* attenzione = "Attenzione";
 
 /// The count of rows starts here: the first page has one row less than the others.
 constexpr int prima_riga = 1;
@@ -70,14 +69,12 @@ std::string pdf_path(const program& app, const descrizione_report& report) {
 }
 
 std::string pdf_command(const program& app, const descrizione_report& report) {
-    std::string command(cartella_generale);
-    command.append("mirxpdf ***,").append(file_di_stampa).append(",");
-    return command.append(pdf_path(app, report)).append(", ***");
+    return comando_mirxpdf("***", pdf_path(app, report), " ***");
 }
 
 /// The PDF is there: the user may look at it.
 void show_pdf(program& app, const std::string& path, std::string told) {
-    ui::message_box box{std::move(told), attenzione, ui::icon::information, ui::buttons::choice};
+    ui::message_box box{std::move(told), ui::attention, ui::icon::information, ui::buttons::choice};
     box.choices = {"Apri", "Chiudi"};
     box.proposed = ui::answer::choice_1;
     if (app.desk.show_box(std::move(box)) == ui::answer::choice_1) app.desk.launcher().open(path);
@@ -93,18 +90,18 @@ void tell_of_pdf(program& app, const descrizione_report& report, const ui::start
         case not_started:
             return app.desk.message(
                 "Non è possibile eseguire il programma di generazione dei files PDF."_cp,
-                attenzione, ui::icon::stop);
+                ui::attention, ui::icon::stop);
         case unwatched:
-            return app.desk.message(made, attenzione, ui::icon::warning);
+            return app.desk.message(made, ui::attention, ui::icon::warning);
         case late:
-            return app.desk.message(file + " è ancora in preparazione "_cp + folder, attenzione,
+            return app.desk.message(file + " è ancora in preparazione "_cp + folder, ui::attention,
                                     ui::icon::warning);
         case well:
             return show_pdf(app, pdf_path(app, report),
                             end.told.empty() ? made : made + "\n\n" + end.told);
         case failed:
             return app.desk.message(end.told.empty() ? file + " non è stato creato."_cp : end.told,
-                                    attenzione, ui::icon::stop);
+                                    ui::attention, ui::icon::stop);
     }
 }
 

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "archive/csv_text.h"
+#include "text/csv.h"
 
 namespace vantora::archive {
 
@@ -12,7 +13,6 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr std::size_t handed_over_at = 1 << 20;
-constexpr std::string_view utf8_mark = "\xEF\xBB\xBF";
 constexpr const char* line_end = "\r\n";
 
 bool is_iso_date(std::string_view text) {
@@ -61,19 +61,6 @@ void csv_folder::begin(const exported_table& table) {
     pending_.append(line_end);
 }
 
-void csv_folder::put_text(std::string_view text) {
-    if (text.find_first_of("\";,\r\n") == std::string_view::npos) {
-        pending_.append(text);
-        return;
-    }
-    pending_.push_back('"');
-    for (const char one : text) {
-        if (one == '"') pending_.push_back('"');
-        pending_.push_back(one);
-    }
-    pending_.push_back('"');
-}
-
 void csv_folder::put(const cell_value& value, content of) {
     if (const auto* whole = std::get_if<std::int64_t>(&value)) {
         pending_.append(std::to_string(*whole));
@@ -82,11 +69,11 @@ void csv_folder::put(const cell_value& value, content of) {
         if (!plain_) std::ranges::replace(digits, '.', ',');
         pending_.append(digits);
     } else if (const auto& text = std::get<std::string>(value); plain_) {
-        put_text(text);
+        add_csv_cell(pending_, text, separator_);
     } else if (of == content::date && is_iso_date(text)) {
-        put_text(italian_date(text));
+        add_csv_cell(pending_, italian_date(text), separator_);
     } else {
-        put_text(kept_as_text(text));
+        add_csv_cell(pending_, kept_as_text(text), separator_);
     }
 }
 

@@ -26,7 +26,6 @@ class csv_folder final : public table_sink {
     bool finish();
 
  private:
-    void put_text(std::string_view text);
     void put(const cell_value& value, content of);
     void hand_over();
 

@@ -5,6 +5,8 @@
 #include <functional>
 #include <map>
 
+#include "text/csv.h"
+
 namespace vantora::mirxpdf {
 
 namespace {
@@ -91,8 +93,7 @@ std::string take_line(mail_settings& into, std::string_view line) {
 }  // namespace
 
 std::variant<mail_settings, settings_error> read_mail_settings(std::string_view content) {
-    constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF";
-    if (content.starts_with(byte_order_mark)) content.remove_prefix(byte_order_mark.size());
+    if (content.starts_with(utf8_mark)) content.remove_prefix(utf8_mark.size());
     if (content.size() > settings_size_max) return settings_error{"il file è troppo lungo"};
     mail_settings read;
     for (int number = 1; !content.empty(); ++number) {

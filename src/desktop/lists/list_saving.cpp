@@ -3,6 +3,7 @@
 #include "desktop/dialogs/file_dialog.h"
 #include "desktop/lists/list_text.h"
 #include "desktop/look/words.h"
+#include "text/csv.h"
 
 namespace vantora::ui::desktop {
 
@@ -25,7 +26,7 @@ std::string tabbed_text(const shown_list& list, const std::set<int>& rows) {
 }
 
 std::string csv_text(const shown_list& list) {
-    std::string text(csv_mark);
+    std::string text(utf8_mark);
     std::vector<std::string_view> heads;
     for (const int column : list.columns()) heads.push_back(list.head(column));
     add_csv_row(text, heads);

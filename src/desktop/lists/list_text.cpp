@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "text/code_page.h"
+#include "text/csv.h"
 
 namespace vantora::ui {
 
@@ -35,11 +36,7 @@ void add_tabbed_row(std::string& text, list_cells row) {
 void add_csv_row(std::string& text, list_cells row) {
     for (std::size_t i = 0; i < row.size(); ++i) {
         if (i > 0) text += ';';
-        const std::string cell = harmless(row[i]);
-        const bool quoted = cell.find_first_of(";\"\r\n\t") != std::string::npos;
-        if (quoted) text += '"';
-        for (const char one : to_utf8(cell)) text.append(one == '"' ? 2 : 1, one);
-        if (quoted) text += '"';
+        add_csv_cell(text, to_utf8(harmless(row[i])), ';');
     }
     text += "\r\n";
 }

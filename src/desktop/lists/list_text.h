@@ -13,8 +13,7 @@ using list_cells = std::span<const std::string_view>;
 void add_tabbed_row(std::string& text, list_cells row);
 
 /// A row of a CSV file as Italian spreadsheets open it: semicolons between, quotes where a cell
-/// needs them, in UTF-8. The file begins with csv_mark, by which they know the encoding.
+/// needs them, in UTF-8. The file begins with `utf8_mark`.
 void add_csv_row(std::string& text, list_cells row);
-inline constexpr std::string_view csv_mark = "\xEF\xBB\xBF";
 
 }  // namespace vantora::ui
