@@ -2,6 +2,7 @@
 
 #include "entry/import_picker.h"
 #include "entry/order_station.h"
+#include "scripted/problems.h"
 
 namespace vantora::test {
 namespace {

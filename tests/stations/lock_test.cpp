@@ -11,7 +11,7 @@
 #include "fulfil/mirorca.h"
 #include "fulfil/mirorcc.h"
 #include "fulfil/mirorcr.h"
-#include "store/company.h"
+#include "store/suite_paths.h"
 
 namespace vantora::test {
 namespace {
@@ -124,13 +124,12 @@ const command commands[] = {
      [](auto&) {},
      [](auto& at) {
          std::ostringstream said;
-         archive::repair_ordered_quantities(
-             at.real.locate(""), 1,
-             [&] {
-                 at.front.at_box();
-                 return true;
-             },
-             said);
+         archive::repair_ordered_quantities({at.real, 1,
+                                             [&](bool) {
+                                                 at.front.at_box();
+                                                 return true;
+                                             },
+                                             said});
      }},
 };
 
