@@ -103,6 +103,13 @@ archivi lock_file(file_port& files, int numero_azienda) {
     return opened;
 }
 
+/// Who holds a copy up, in words.
+std::string at_work(const archivi& tot) {
+    const auto by = tot.tot.shared_file() ? tot.tot.shared_file()->locked_by() : std::nullopt;
+    return "un'altra postazione" + (by && !by->empty() ? " (" + *by + ")" : "") +
+           " sta scrivendo nell'archivio";
+}
+
 /// Copies until the files stayed the same all the while: other programs of the suite don't wait.
 std::string copy_consistently(file_port& from, archivi tot, int numero_azienda, file_port& to,
                               const staging& made, std::vector<copied_file>& copied,
@@ -112,14 +119,14 @@ std::string copy_consistently(file_port& from, archivi tot, int numero_azienda, 
     const fs::path company = from.locate(cartella_azienda(numero_azienda));
     for (int attempt = 1; attempt <= attempts_max; ++attempt) {
         const archive_change alone(tot);
-        if (alone.others_at_work()) break;
+        if (alone.others_at_work()) return at_work(tot);
         const auto before = list_company(root, company);
         into = made.folder().filename().string() + "/" + std::to_string(attempt);
         std::string fault = copy_all(from, before, to, into, copied, pace);
         if (!fault.empty()) return fault;
         if (list_company(root, company) == before) return {};
     }
-    return "l'archivio cambia di continuo: un altro programma o un'altra postazione vi lavora";
+    return "l'archivio cambia di continuo: un altro programma della suite vi lavora";
 }
 
 constexpr const char* new_company = "ditta";
@@ -259,7 +266,7 @@ copy_outcome put_back(const copy_outcome& copy, file_port& from, int numero_azie
     if (!any) return failed("la copia non è di questa ditta"_cp);
     archivi tot = lock_file(to, numero_azienda);
     const archive_change alone(tot);
-    if (alone.others_at_work()) return failed("un'altra postazione lavora nell'archivio");
+    if (alone.others_at_work()) return failed(at_work(tot));
     copy_outcome outcome;
     outcome.files = copy.files;
     if (fs::exists(place)) outcome.place = place.parent_path() / former;

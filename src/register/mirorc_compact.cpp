@@ -55,7 +55,7 @@ ui::answer mirorc::copy_wanted() {
         (last ? "L'ultima copia di questa ditta è del "_cp + date_text(last->day)
               : "Di questa ditta non c'è ancora una copia"_cp) +
             ". Farne una prima di compattare, in " + from_utf8(folder.string()) + "?",
-        {"Copia e compatta", "Compatta senza copia", "Annulla"}, compaction_alone);
+        {"Prima copia", "Senza copia", "Annulla"}, compaction_alone);
 }
 
 /// False: the user was told why there is no copy.

@@ -98,6 +98,23 @@ const damage damages[] = {
     {"an order mixed",
      {"order-mixed"},
      [](auto& c) { wrong("orc", open_row(c) + 150, &rec_orc::numero, "altro")(c); }},
+    {"bytes lost in the middle",
+     {"file-short", "orders-shifted"},
+     [](auto& c) {
+         const std::string bytes = test::bytes_of(c.file("orc"));
+         const auto at = 3 * test::block_bytes + 150;
+         test::put(c.file("orc"), bytes.substr(0, at) + bytes.substr(at + 7));
+     }},
+    {"a quote doubled",
+     {"quote-doubled"},
+     [](auto& c) {
+         std::string bytes = test::bytes_of(c.file("prv"));
+         bytes.replace(test::block_bytes, test::block_bytes, bytes, 0, test::block_bytes);
+         test::put(c.file("prv"), bytes);
+     }},
+    {"a repair interrupted",
+     {"repair-unfinished"},
+     [](auto& c) { test::put(c.file("riparazione-counters"), ""); }},
     {"no such customer", {"order-no-customer"}, wrong_order(&rec_orc::cliente, std::int16_t{999})},
     {"no such article", {"line-no-article"}, wrong_line(&rec_orc::articolo, std::int16_t{999})},
     {"no quantity", {"line-no-number"}, wrong_line(&rec_orc::quantita, std::nan(""))},

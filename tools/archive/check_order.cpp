@@ -62,12 +62,12 @@ void order_check::tell_twin(int registrazione, order_rows used, int of, bool hal
 void order_check::check_rows_agree(order_rows order, const block_facts& facts) {
     if (facts.whole || facts.half_deleted) {
         if (facts.whole) return;
-        ++problems_.mixed;
+        if (problems_.mixed++ == 0) first_mixed_ = registrazione_;
         return tell(gravity::error, "order-half-deleted", "alcune righe sono eliminate e altre no",
                     "Un'eliminazione è stata interrotta: confrontare l'ordine con le carte e con "
                     "le quantità ordinate dei suoi articoli.");
     }
-    ++problems_.mixed;
+    if (problems_.mixed++ == 0) first_mixed_ = registrazione_;
     tell(gravity::error, "order-mixed",
          "dalla riga " + std::to_string(first_foreign_row(order) + 1) +
              " in poi le righe sono di un altro ordine o di un salvataggio precedente",
@@ -129,47 +129,50 @@ void order_check::check_lines(order_rows order) {
     const bool order_open = order.front().evaso_flag != 1;
     for (std::size_t row = 0; row < order.size(); ++row) {
         const rec_orc& line = order[row];
-        const std::string at = row_named(row + 1);
         const auto tell_line = [&](gravity how_bad, const char* kind, std::string what,
                                    const char* advice) {
             if (std::string_view(kind) == no_such_article) ++problems_.no_article;
-            tell(how_bad, kind, at + what, advice);
+            tell(how_bad, kind, row_named(row + 1) + what, advice);
         };
         check_line(line, found_.known.articles(), articles_known, tell_line);
         check_marks(line, row + 1);
-        check_fulfilled(line, at);
+        check_fulfilled(line, row + 1);
         if (!std::isfinite(line.quantita) || !std::isfinite(line.evaso)) continue;
         has_quantity = has_quantity || line.quantita != 0;
         open += line.quantita - line.evaso;
         const rec_art* article = articles_known ? found_.known.article(line.articolo) : nullptr;
         if (order_open && article && article->eliminato != 0 && line.quantita > line.evaso) {
             tell(gravity::note, "line-of-deleted-article",
-                 at + "l'" + found_.known.article_named(line.articolo) + " è eliminato",
+                 row_named(row + 1) + "l'" + found_.known.article_named(line.articolo) +
+                     " è eliminato",
                  "Se non si consegna più, togliere la riga dall'ordine.");
         }
     }
     check_balance(order.front(), open, has_quantity);
 }
 
-void order_check::check_fulfilled(const rec_orc& line, const std::string& at) {
+void order_check::check_fulfilled(const rec_orc& line, std::size_t number) {
     const double quantity = line.quantita;
     const double done = line.evaso;
     if (!std::isfinite(done)) {
-        return tell(gravity::error, "line-no-number", at + "la quantità evasa non è un numero",
+        return tell(gravity::error, "line-no-number",
+                    row_named(number) + "la quantità evasa non è un numero",
                     "Aprire l'ordine e riscrivere la riga.");
     }
     if (quantity == 0 || done == 0 || !std::isfinite(quantity)) return;
     if (beyond_reason(done)) {
-        tell(gravity::error, "line-absurd", at + "la quantità evasa è fuori da ogni misura",
+        tell(gravity::error, "line-absurd",
+             row_named(number) + "la quantità evasa è fuori da ogni misura",
              "Aprire l'ordine e riscrivere l'evaso.");
     } else if ((done < 0) != (quantity < 0)) {
         tell(gravity::note, "line-fulfilled-backwards",
-             at + "l'evaso (" + plain_text(done) + ") ha il segno contrario dell'ordinato (" +
-                 plain_text(quantity) + ")",
+             row_named(number) + "l'evaso (" + plain_text(done) +
+                 ") ha il segno contrario dell'ordinato (" + plain_text(quantity) + ")",
              "Se non è un reso, aprire l'ordine e correggere l'evaso.");
     } else if (std::abs(done) > std::abs(quantity)) {
         tell(gravity::note, "line-fulfilled-beyond",
-             at + "evaso " + plain_text(done) + " di " + plain_text(quantity) + " ordinati",
+             row_named(number) + "evaso " + plain_text(done) + " di " + plain_text(quantity) +
+                 " ordinati",
              "Se non si è consegnato di più, aprire l'ordine e correggere l'evaso.");
     }
 }
@@ -246,7 +249,21 @@ void order_check::tell_changed_twins(const std::vector<block_facts>& facts) {
     }
 }
 
+/// Bytes that came or went in the middle shift all rows behind them.
+bool order_check::told_shifted(findings& into) const {
+    constexpr int few = 3;
+    const int behind = found_.orders_counted - first_mixed_ + 1;
+    if (problems_.mixed <= few || problems_.mixed * 2 < behind) return false;
+    into.push_back({gravity::error, "orders-shifted", "vantora.orc",
+                    "dalla registrazione " + std::to_string(first_mixed_) + " in poi le righe di " +
+                        std::to_string(problems_.mixed) +
+                        " ordini non stanno insieme: nel file mancano o avanzano dei byte",
+                    "Non salvare niente; rimettere vantora.orc da una copia."});
+    return true;
+}
+
 void order_check::tell_all(const std::vector<block_facts>& facts, findings& into) {
+    if (told_shifted(into)) return;
     tell_changed_twins(facts);
     tell_repeated_numbers();
     if (found_.doubt.orders.empty()) tell_last_number();

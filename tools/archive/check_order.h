@@ -40,9 +40,10 @@ class order_check {
     void check_head(const rec_orc& head);
     void check_marks(const rec_orc& row, std::size_t number);
     void check_lines(order_rows order);
-    void check_fulfilled(const rec_orc& line, const std::string& at);
+    void check_fulfilled(const rec_orc& line, std::size_t number);
     void check_balance(const rec_orc& head, double open, bool has_quantity);
     void note_number(const rec_orc& head);
+    [[nodiscard]] bool told_shifted(findings& into) const;
     void tell_repeated_numbers();
     void tell_last_number();
     void tell_changed_twins(const std::vector<block_facts>& facts);
@@ -51,6 +52,7 @@ class order_check {
     int last_number_;
     findings told_;
     block_problems problems_;
+    int first_mixed_ = 0;  ///< block
     int registrazione_ = 0;
     const rec_orc* head_ = nullptr;                     ///< of the order looked at
     std::map<std::string_view, int> last_told_;         ///< by kind: an order is told once of each

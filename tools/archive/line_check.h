@@ -1,6 +1,5 @@
 #pragma once
 
-#include <algorithm>
 #include <cmath>
 
 #include "archive/finding.h"
@@ -12,8 +11,19 @@ namespace vantora::archive {
 /// Whether a text field holds bytes that no keyboard gives: control bytes, or zero bytes with
 /// something behind them.
 inline bool has_controls(std::string_view field) {
-    const std::size_t end = field.find_last_not_of('\0') + 1;
-    return std::ranges::any_of(field.substr(0, end), is_control);
+    constexpr std::string_view blanks = "        ";
+    bool zeros = false;
+    for (std::size_t i = 0; i < field.size(); ++i) {
+        // Most of most fields.
+        while (!zeros && field.substr(i, blanks.size()) == blanks) i += blanks.size();
+        if (i >= field.size()) break;
+        if (field[i] == '\0') {
+            zeros = true;
+        } else if (zeros || is_control(field[i])) {
+            return true;
+        }
+    }
+    return false;
 }
 
 /// Stock and quantities beyond what any shop has, which no mask could show; and what is no number.

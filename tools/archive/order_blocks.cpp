@@ -44,7 +44,12 @@ order_rows without_empty_end(order_rows order) {
     if (last.quantita != 0 || last.evaso != 0 || last.prezzo != 0 || last.articolo != 0) {
         return order;
     }
+    constexpr std::size_t together = 16;
     std::size_t used = order.size();
+    while (used > together + 1 && std::memcmp(&order[used - 1 - together], &order[used - together],
+                                              together * sizeof last) == 0) {
+        used -= together;
+    }
     while (used > 1 && std::memcmp(&order[used - 2], &last, sizeof last) == 0) --used;
     return order.first(used);
 }

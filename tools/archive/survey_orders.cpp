@@ -23,6 +23,8 @@ class orders_survey {
     void read_all(const progress& tell) {
         const int all = std::max(counted_, std::min(into_.orders_held, blocks_read_most));
         facts_.resize(static_cast<std::size_t>(all) + 1);
+        prints_.reserve(facts_.size());
+        saves_.reserve(facts_.size());
         const int unread =
             scan_blocks(company_.records().orc, all, [&](int registrazione, order_rows order) {
                 if (tell && registrazione % 64 == 1) tell("vantora.orc", registrazione, all);
