@@ -1,6 +1,6 @@
 #include "reports/mirston.h"
 
-#include <map>
+#include <algorithm>
 #include <utility>
 
 #include "reports/key_range.h"
@@ -61,21 +61,21 @@ int mirston::last_step(const limiti_ordini&) const {
 // one for each order of the customers listed, in the order of their sheets until the list is full,
 // then one for every 32 articles in question.
 std::vector<int> mirston::orders_to_read(const raccolta& found, const limiti_ordini& orders) {
-    std::map<std::int16_t, std::vector<int>> by_customer;
     primo_ = orders.primo;
     proprietari_.clear();
     ordini_.walk_heads(orders.primo, orders.ultimo);
     for (int order = orders.primo; order <= orders.ultimo; ++order) {
-        const std::int16_t owner = ordini_.first_row(order).cliente;
-        proprietari_.push_back(owner);
-        by_customer[owner].push_back(order);
+        proprietari_.push_back(ordini_.first_row(order).cliente);
         if (!head_done()) return {};
     }
+    const auto sheet_of = [&](int order) {
+        return found.righe.place(proprietari_[static_cast<std::size_t>(order - primo_)]);
+    };
     std::vector<int> all;
-    for (const auto& sheet : found.schede) {
-        const auto its = by_customer.extract(sheet.numero);
-        if (its) all.insert(all.end(), its.mapped().begin(), its.mapped().end());
+    for (int order = orders.primo; order <= orders.ultimo; ++order) {
+        if (sheet_of(order)) all.push_back(order);
     }
+    std::ranges::stable_sort(all, {}, sheet_of);
     cliente_ = 0;
     sue_righe_ = righe_piene_ = 0;
     return all;

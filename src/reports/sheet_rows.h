@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <utility>
 #include <vector>
@@ -31,6 +32,11 @@ class sheet_rows {
         last_place_ = place;
     }
 
+    /// Which of the sheets is that of a number.
+    [[nodiscard]] std::optional<std::int32_t> place(std::int16_t number) const {
+        const std::int32_t its = places_[index(number)];
+        return its == nowhere ? std::nullopt : std::optional(its);
+    }
     /// Whether a row of that number may be listed.
     [[nodiscard]] bool wants(std::int16_t number) const {
         const std::size_t at = index(number);
