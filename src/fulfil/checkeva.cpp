@@ -112,7 +112,7 @@ std::string mirorcr::changed_rows() const {
             continue;
         }
         named += "\nordine " + std::string(now.numero.trimmed()) + ", " +
-                 std::string(elenco.text(row, articolo));
+                 std::string(trimmed(elenco.text(row, articolo)));
     }
     return named;
 }

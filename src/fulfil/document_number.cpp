@@ -66,10 +66,9 @@ dubbio_documento dubbio_su(const archivi& files, std::string_view number, std::s
     if (!given) return doubt;
     customer_names names(files.cli, INT16_MAX);
     doubt.numero = true;
-    doubt.racconto = "Il numero " + std::to_string(wanted) +
-                     " è già stato dato al documento del "_cp +
-                     date_text_of_stored(given->data.full()) + " di " +
-                     std::string(names.of(given->cliente)) + ". ";
+    doubt.racconto = "Il numero " + std::to_string(wanted) + " è già stato dato a "_cp +
+                     std::string(names.of(given->cliente)) + " con il documento del " +
+                     date_text_of_stored(given->data.full()) + ". ";
     return doubt;
 }
 
