@@ -4,6 +4,7 @@
 #include <QSessionManager>
 #include <QSocketNotifier>
 #include <array>
+#include <cerrno>
 #include <csignal>
 
 #include <fcntl.h>
@@ -19,8 +20,10 @@ constexpr int end_signals[] = {SIGTERM, SIGINT, SIGHUP};
 std::array<int, 2> alarm_pipe{-1, -1};
 
 void raise_alarm(int) {
+    const int error = errno;
     const char byte = 0;
     [[maybe_unused]] const auto written = write(alarm_pipe[1], &byte, 1);
+    errno = error;
 }
 
 }  // namespace

@@ -59,7 +59,7 @@ change_outcome change_rows(archivi& files, const ordine_esistente& order, bool l
     change.reads(files.tot, contatori::ordini, now);
     change.writes(files.orc, block_record(order.visto.registrazione, 1), righe_blocco);
     if (lines_move_stock || rows_move_stock(files, order)) change.changes(files.art);
-    const orders_since meanwhile(now, order.contatore);
+    const orders_since meanwhile(now, order.contatore, files.orc);
     look_for_other_rows(change, files, order, meanwhile);
 
     bool recognised = false;

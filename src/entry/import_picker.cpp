@@ -134,7 +134,7 @@ bool import_picker::moved_elsewhere(int row) const {
     const auto there = kind_.look(app_.archives, listed.registrazione);
     rec_tot now;
     return listed.letto && there && app_.archives.tot.read(kind_.contatore, now) &&
-           orders_since(now, contatore_).took_away(listed, *there);
+           orders_since(now, contatore_, app_.archives.orc).took_away(listed, *there);
 }
 
 void import_picker::tell_moved(int row) {

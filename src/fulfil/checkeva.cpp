@@ -61,7 +61,7 @@ void mirorcr::look_before_booking(archive_change& change) const {
     archivi& files = app_.archives;
     rec_tot now;
     change.reads(files.tot, contatori::ordini, now);
-    look_for_orders(change, orders_since(now, ordini_));
+    look_for_orders(change, orders_since(now, ordini_, files.orc));
     bool any = false;
     bool any_leaves = false;
     for (int row = 1; row < righe_; ++row) {

@@ -37,19 +37,23 @@ bool same_order(const ordine_visto& one, const ordine_visto& other);
 /// REQUIRES: no other station compacts now.
 class orders_since {
  public:
-    orders_since(const rec_tot& now, const rec_tot& then);
+    orders_since(const rec_tot& now, const rec_tot& then, const channel<rec_orc>& orders);
 
     /// Whether what is there now, read anew from the block where the order was seen, is another
     /// one, or the block counts no longer. The date of the first save tells orders apart, whatever
     /// became of their heads; without one a changed head is another order's once other stations
-    /// were at work.
+    /// were at work. Two orders can have been saved in the same second: of these, the one seen was
+    /// moved if it stands, head and all, in a block before.
     [[nodiscard]] bool took_away(const ordine_visto& seen, const ordine_visto& there) const;
     [[nodiscard]] bool took_away(const ordine_visto& seen, const rec_orc& row) const {
         return took_away(seen, ordine_visto(seen.registrazione, row));
     }
 
  private:
+    [[nodiscard]] bool stands_before(const ordine_visto& seen) const;
+
     rec_tot now_;
+    const channel<rec_orc>& orders_;
     bool others_at_work_;
 };
 

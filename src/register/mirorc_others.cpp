@@ -41,7 +41,7 @@ bool mirorc::moved_elsewhere(int registrazione, const rec_orc& row) const {
     rec_tot now;
     // A counter that can't be read tells nothing of other stations.
     return listed && app_.archives.tot.read(contatori::ordini, now) &&
-           orders_since(now, listato_).took_away(*listed, row);
+           orders_since(now, listato_, app_.archives.orc).took_away(*listed, row);
 }
 
 int mirorc::row_of(const ordine_visto& order) const {

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <random>
 
 #include "text/code_page.h"
@@ -61,7 +62,8 @@ TEST(list_text, CellsThatASpreadsheetWouldComputeAreCopiedAndSavedAsTexts) {
         {"-2+3", "'-2+3"},    {"+cmd|' /C'!A0", "'+cmd|' /C'!A0"},
         {"-12,50", "-12,50"}, {"+39 055 1", "+39 055 1"},
         {"-----", "-----"},   {"=====", "====="},
-        {"A=1", "A=1"},       {"", ""}};
+        {"A=1", "A=1"},       {"", ""},
+        {" =1+1", "' =1+1"},  {" 5,00", " 5,00"}};
     for (const auto& [cell, kept] : cells) {
         const std::string_view row[] = {cell};
         std::string tabbed;
@@ -70,6 +72,12 @@ TEST(list_text, CellsThatASpreadsheetWouldComputeAreCopiedAndSavedAsTexts) {
         std::string csv;
         add_csv_row(csv, row);
         EXPECT_EQ(csv, std::string(kept) + "\r\n");
+    }
+    // Quotes go where it is pasted, and bytes that can't be shown before.
+    for (const std::string_view cell : {"\"=1+1\"", "\x01=1+1", "\n@A1"}) {
+        std::string tabbed;
+        add_tabbed_row(tabbed, std::array{cell});
+        EXPECT_TRUE(tabbed.starts_with('\'')) << tabbed;
     }
 }
 

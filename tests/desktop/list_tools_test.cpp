@@ -2,9 +2,16 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QTableView>
 #include <QTemporaryDir>
 
+#include <sys/resource.h>
+
+#include "desktop/dialogs/file_dialog.h"
+#include "store/drive.h"
+#include "support/file_bytes.h"
+#include "support/scratch_folder.h"
 #include "ui/controls.h"
 #include "window_stage.h"
 
@@ -64,6 +71,9 @@ TEST_F(list_tools, FindWalksTheMatchesOfTheColumnsThatShow) {
         EXPECT_EQ(screen->clicks, 1) << "taken";
         EXPECT_FALSE(line()->isVisible());
         EXPECT_TRUE(table()->hasFocus());
+        screen->elenco.set_row(3);
+        QTest::keyClick(table(), Qt::Key_F, Qt::ControlModifier);
+        EXPECT_EQ(screen->elenco.row(), 4) << "it begins where the mark stands now";
     }});
 }
 
@@ -106,6 +116,39 @@ TEST_F(list_tools, TheListIsSavedAsCsv) {
     EXPECT_EQ(saved.readAll(),
               "\xEF\xBB\xBFNumero;Nome\r\n1,5;Alfa\r\n2,5;Beta\r\n3,5;Gamma\r\n4,5;Alfabeta\r\n"
               "5,5;\"Delta; \"\"D\"\"\nÈ\"\r\n");
+}
+
+TEST(save_whole, AFullDiskLeavesWhatWasThereAndALinkGivesWayToAWholeFile) {
+    test::application();
+    const vantora::test::scratch_folder folder;
+    const auto other = folder.path() / "altro";
+    const auto link = folder.path() / "elenco.csv";
+    vantora::test::put(other, "d'altri");
+    std::filesystem::create_symlink(other, link);
+    QString told;
+    QTimer look;
+    look.callOnTimeout([&] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (!box) return;
+        told = box->text();
+        box->accept();
+    });
+    look.start(5);
+    const QString name = QString::fromStdString(link.string());
+    take_file_limits_as_errors();
+    rlimit before{};
+    ::getrlimit(RLIMIT_FSIZE, &before);
+    const rlimit little{1000, before.rlim_max};
+    ::setrlimit(RLIMIT_FSIZE, &little);
+    save_whole(name, QByteArray(100'000, 'x'), nullptr);
+    ::setrlimit(RLIMIT_FSIZE, &before);
+    EXPECT_TRUE(told.contains("elenco.csv"));
+    EXPECT_TRUE(std::filesystem::is_symlink(link));
+    save_whole(name, "nuovo", nullptr);
+    EXPECT_FALSE(std::filesystem::is_symlink(link));
+    EXPECT_EQ(vantora::test::bytes_of(link), "nuovo");
+    EXPECT_EQ(vantora::test::bytes_of(other), "d'altri");
+    EXPECT_EQ(vantora::test::files_under(folder.path()).size(), 2U) << "nothing is left behind";
 }
 
 }  // namespace

@@ -93,6 +93,14 @@ TEST_F(order_window, AnOrderIsTypedByTheKeyboardAlone) {
              write("1");
              EXPECT_EQ(totals(), "122,00 148,84 10");
              EXPECT_TRUE(bench.find<QLabel>("listx")->text().startsWith("A200"));
+             // Tab walks the cells of two rows and back, and no line loses its article.
+             QWidget* const here = focused();
+             bench.find("artic(0)")->setFocus();
+             for (int i = 0; i < 15; ++i) press(Qt::Key_Tab);
+             for (int i = 0; i < 15; ++i) press(Qt::Key_Backtab);
+             EXPECT_EQ(focus(), "artic(0)");
+             EXPECT_EQ(text("artic(0)") + text("artic(1)"), "A100A200");
+             here->setFocus();
          },
          [&] {
              // The pick of the VAT code lies over its row, and one arrow picks.

@@ -14,7 +14,7 @@ std::string contents(const small_company& company) {
 // Of four orders the second is deleted. While one is open here, something happens at another
 // station; then the order is saved or deleted here.
 TEST(stations, AnOrderIsNotWrittenOverTheOneThatACompactionPutIntoItsBlock) {
-    enum { compacts = 1, takes_order = 2, changes_head = 4, alike = 8, undated = 16 };
+    enum { compacts = 1, takes_order = 2, changes_head = 4, alike = 8, undated = 16, at_once = 32 };
     const struct {
         int opened;
         int there;
@@ -27,12 +27,16 @@ TEST(stations, AnOrderIsNotWrittenOverTheOneThatACompactionPutIntoItsBlock) {
                  {4, compacts | takes_order, true},
                  {3, takes_order, false},
                  {3, changes_head, false},
+                 {4, changes_head, false},
                  {3, takes_order | changes_head, false},
                  {3, compacts | alike, true},
                  {1, compacts | alike, false},
                  {3, compacts | takes_order | undated, true},
                  {3, takes_order | undated, false},
-                 {4, compacts | undated, true}};
+                 {4, compacts | undated, true},
+                 {3, compacts | at_once, true},
+                 {1, compacts | at_once, false},
+                 {3, changes_head | at_once, false}};
     for (const auto& one : cases) {
         for (const bool deletes : {false, true}) {
             order_company company;
@@ -41,6 +45,7 @@ TEST(stations, AnOrderIsNotWrittenOverTheOneThatACompactionPutIntoItsBlock) {
                 company.change_rows(block, [&](rec_orc& row) {
                     if ((one.there & alike) != 0) row.numero = "12";
                     if ((one.there & undated) != 0) row.data_reg = 0;
+                    if ((one.there & at_once) != 0) row.data_reg = 45000.5;
                 });
             }
             delete_order(company, 2);

@@ -374,6 +374,10 @@ TEST(fulfil_sessions, WhatStandsInTheWayIsNamedAndTheWindowStays) {
     stage.faults.room_lacks = [](auto& path, auto) { return path.ends_with("bol"); };
     stage.confirm({true});
     EXPECT_EQ(stage.desk.active()->name(), "mirorca");
+    stage.faults.room_lacks = nullptr;
+    stage.confirm({true, false, false});
+    EXPECT_EQ(stage.article_now(1).scaricato, 5) << "goods leave once, however often confirmed";
+    EXPECT_EQ(stage.desk.active()->name(), "mirorc");
     const auto way = [](const std::string& rest) {
         return from_utf8("Impossibile leggere o scrivere il file vantora." + rest);
     };

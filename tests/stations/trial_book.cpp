@@ -109,6 +109,7 @@ int trial_book::work(const book_change& change, int writes) {
     const auto release = [&](int article, double quantity, bool committed) {
         move(article, quantity, committed, &book_article::impegnato, &book_article::giacenza, -1);
     };
+    bool deleted = false;
     const std::size_t which = find(change.order[0].numero);
     switch (change.how) {
         case book_change::add: {
@@ -124,11 +125,15 @@ int trial_book::work(const book_change& change, int writes) {
         case book_change::edit:
         case book_change::remove:
             if (which == orders.size()) return -1;
+            deleted = orders[which][0].annullato;
             for (std::size_t i = 0; i < change.order.size(); ++i) {
                 book_row& row = orders[which][i];
                 book_row then = change.order[i];
                 const bool committed = change.order[0].impegno;
-                if (row.quantita != 0) release(row.articolo, row.quantita - row.evaso, committed);
+                // Of rows deleted meanwhile nothing is open any more.
+                if (row.quantita != 0 && !(deleted && row.annullato)) {
+                    release(row.articolo, row.quantita - row.evaso, committed);
+                }
                 if (change.how == book_change::remove) {
                     then = row;
                     then.annullato = true;

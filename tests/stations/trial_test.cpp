@@ -130,11 +130,18 @@ class player {
             const bool prints = text.starts_with("Stampa") || text == "Iniziare la stampa?";
             asked_to_print |= prints;
             const bool yes = !prints && below(3) != 0;
-            if (!prints && !yes) why_not_ = text;
-            if ((*reply)["box"]["buttons"] == "ok") why_not_ = text;
-            program_->send(reply->at("box")["buttons"] == "ok" ? "answer ok"
-                           : yes                               ? "answer yes"
-                                                               : "answer no");
+            // A number given out twice may give way to the next one.
+            const std::string other_number = "Registrarlo con il numero ";
+            if (yes && text.starts_with(other_number)) {
+                change->numero = std::stoi(text.substr(other_number.size()));
+            }
+            const std::string buttons = (*reply)["box"]["buttons"];
+            if (buttons == "ok" || (buttons == "yesno" && !prints && !yes)) why_not_ = text;
+            // Nobody wants a copy before a compaction.
+            program_->send(buttons == "ok"       ? "answer ok"
+                           : buttons == "choice" ? "answer 2"
+                           : yes                 ? "answer yes"
+                                                 : "answer no");
             reply = program_->reply();
         }
         if (!reply) return ended;
@@ -178,10 +185,11 @@ class player {
         const int cliente = 1 + below(2);
         program_->ask("scroll mirorcx.HScroll1 " + std::to_string(cliente));
         const std::string numero = std::to_string(++numbers_);
-        // Each order has its second.
+        // Some orders are taken in the same second.
         char clock[40];
-        std::snprintf(clock, sizeof clock, "clock \"2024-05-06 10:%02d:%02d\"", numbers_ / 60 % 60,
-                      numbers_ % 60);
+        const int second = numbers_ / 3;
+        std::snprintf(clock, sizeof clock, "clock \"2024-05-06 10:%02d:%02d\"", second / 60 % 60,
+                      second % 60);
         program_->ask(clock);
         program_->ask("set mirorcx.Text3(0) \"" + numero + "\"");
         program_->ask("click mirorcx.bottone");
@@ -380,8 +388,8 @@ class trial {
         std::vector<player::outcome> outcomes;
         std::string text;
         for (player* one : active) {
-            const book_change wanted = *one->change;
             const auto from = outcomes.emplace_back(one->settle());
+            const book_change& wanted = *one->change;
             if (from == player::done) changes.push_back(wanted);
             if (from == player::ended) broken = &*one->change;
             text += std::to_string(from) + " " + text_of(wanted);

@@ -60,7 +60,9 @@ bool is_harmless_number(std::string_view text) {
 
 std::string kept_as_text(std::string_view text) {
     if (text.empty()) return {};
-    const bool computed = std::string_view("=+-@'\t").find(text[0]) != std::string_view::npos;
+    // Blanks and line ends in front may be passed over.
+    const auto first = std::min(text.find_first_not_of(" \r\n"), text.size() - 1);
+    const bool computed = std::string_view("=+-@'\t").find(text[first]) != std::string_view::npos;
     if (!computed && (is_harmless_number(text) || !may_be_number(text))) return std::string(text);
     return "'" + std::string(text);
 }

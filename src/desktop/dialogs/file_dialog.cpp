@@ -7,6 +7,7 @@
 #include <QMessageBox>
 #include <QSaveFile>
 #include <QStandardPaths>
+#include <cstdio>
 
 #include "desktop/look/box_look.h"
 #include "desktop/look/words.h"
@@ -18,6 +19,13 @@ namespace {
 QDir documents() {
     const QDir folder(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
     return folder.exists() ? folder : QDir::home();
+}
+
+bool put_in_place(const QString& made, const QString& place) {
+    const QByteArray from = QFile::encodeName(made);
+    if (std::rename(from.constData(), QFile::encodeName(place).constData()) == 0) return true;
+    QFile::remove(made);
+    return false;
 }
 
 QString proposed_file(const QString& called, const QString& ending) {
@@ -72,11 +80,11 @@ QString ask_what_to_open(const QString& title, const file_kind& kind, QWidget* a
 }
 
 void save_whole(const QString& file, const QByteArray& content, QWidget* above) {
-    // A new file takes the place of a link and is never written through it.
-    if (QFileInfo(file).isSymLink()) QFile::remove(file);
-    QSaveFile target(file);
+    // A new file takes the place of a link, once it is whole, and is never written through it.
+    const bool link = QFileInfo(file).isSymLink();
+    QSaveFile target(link ? file + ".nuovo" : file);
     if (target.open(QIODevice::WriteOnly) && target.write(content) == content.size() &&
-        target.commit()) {
+        target.commit() && (!link || put_in_place(target.fileName(), file))) {
         return;
     }
     tell(QString::fromUtf8(words::cannot_write).arg(file, target.errorString()), above);
