@@ -26,7 +26,7 @@ desktop/keys: desktop/dialogs desktop/look
 desktop/controls: desktop/dialogs desktop/keys desktop/look ui ui/paper text
 desktop/lists: desktop/dialogs desktop/keys desktop/look ui ui/paper text
 desktop/printing: desktop/dialogs desktop/look ui ui/paper
-desktop: desktop/controls desktop/keys desktop/lists desktop/look ui ui/paper ui/script text
+desktop: desktop/controls desktop/dialogs desktop/keys desktop/lists desktop/look ui ui/paper ui/script text
 windows: orders desktop desktop/controls desktop/dialogs desktop/keys desktop/look register enquiry customer entry fulfil reports ui ui/paper
 program: store text ui
 customer: program orders store store/records text ui
@@ -36,7 +36,7 @@ register: backup enquiry program orders store text ui
 entry: customer documents program orders store text ui errors
 fulfil: customer entry program orders store store/records text ui errors
 reports: documents program orders store store/records text ui
-app: register enquiry customer entry fulfil reports program store text ui desktop desktop/dialogs desktop/look desktop/printing windows ui/paper ui/pictures ui/script
+app: register enquiry customer entry fulfil reports program store text ui desktop desktop/dialogs desktop/keys desktop/look desktop/printing windows ui/paper ui/pictures ui/script
 tools/archive: backup store text orders store/records
 tools/demo: text store/records store orders
 tools/mirxpdf: documents store text ui/paper ui/pictures desktop/look

@@ -1,8 +1,10 @@
 #include "app/desktop_company_choice.h"
 
 #include <QDialogButtonBox>
+#include <QEventLoop>
 #include <QFileDialog>
 #include <QGridLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -29,6 +31,7 @@ constexpr const char* drive_key = "ditta/disco";
 constexpr const char* company_key = "ditta/numero";
 constexpr const char* demonstration = "001";
 constexpr std::string_view folder_stem = "miraz0.";
+constexpr int folders_looked_at = 300;  ///< in a folder above
 
 /// The number in a company folder's name, whatever its case.
 std::optional<int> company_in(std::string name) {
@@ -50,6 +53,17 @@ QString path_shown(const fs::path& path) {
     return QString::fromStdString(path.string());
 }
 
+QString why_none(const fs::path& named, const drive_found& found) {
+    std::error_code unknown;
+    if (!fs::is_directory(named, unknown)) {
+        return QString::fromUtf8(words::no_such_folder).arg(path_shown(named));
+    }
+    if (found.drives.size() < 2) return words::no_company;
+    QStringList several;
+    for (const fs::path& one : found.drives) several << path_shown(one);
+    return QString::fromUtf8(words::several_drives).arg(several.join(", "));
+}
+
 }  // namespace
 
 std::vector<company_on_drive> companies_on(const fs::path& root) {
@@ -67,6 +81,28 @@ std::vector<company_on_drive> companies_on(const fs::path& root) {
     return found;
 }
 
+drive_found drive_around(const fs::path& named) {
+    std::error_code unknown;
+    fs::path folder = fs::absolute(named, unknown).lexically_normal();
+    if (!fs::is_directory(folder, unknown)) return {};
+    if (!folder.has_filename()) folder = folder.parent_path();  // a slash at its end
+    for (fs::path around = folder;; around = around.parent_path()) {
+        if (!companies_on(around).empty()) return {{around}};
+        if (around == around.parent_path()) break;
+    }
+    drive_found below;
+    int looked_at = 0;
+    for (fs::directory_iterator entry(folder, unknown), end; !unknown && entry != end;
+         entry.increment(unknown)) {
+        std::error_code no_folder;
+        if (!entry->is_directory(no_folder)) continue;
+        if (++looked_at > folders_looked_at) break;
+        if (!companies_on(entry->path()).empty()) below.drives.push_back(entry->path());
+    }
+    std::ranges::sort(below.drives);
+    return below;
+}
+
 QString title_of_company(file_port& files, std::string_view argument) {
     const int company = numero_azienda_in(argument);
     const QString number = QString("ditta %1").arg(company, 3, 10, QChar('0'));
@@ -81,7 +117,12 @@ fs::path company_choice::last_drive() {
 company_choice::company_choice(fs::path drive, const QString& maker)
     : place_(new QLineEdit(this)), companies_(new QListWidget(this)), none_(new QLabel(this)) {
     setWindowTitle("Vantora Ordini");
-    place_->setReadOnly(true);
+    place_->installEventFilter(this);
+    connect(place_, &QLineEdit::textEdited, this, [this] {
+        companies_->clear();
+        open_->setEnabled(false);
+    });
+    connect(place_, &QLineEdit::editingFinished, this, [this] { look_at_typed(); });
     auto* place_label = new QLabel(words::drive_of_suite, this);
     place_label->setBuddy(place_);
     auto* other = new QPushButton(words::other_folder, this);
@@ -90,8 +131,8 @@ company_choice::company_choice(fs::path drive, const QString& maker)
     auto* companies_label = new QLabel(words::company, this);
     companies_label->setBuddy(companies_);
     connect(companies_, &QListWidget::itemActivated, this, [this] { keep_and_accept(); });
-    none_->setText(words::no_company);
     none_->setWordWrap(true);
+    none_->setTextFormat(Qt::PlainText);
 
     auto* choices = new QDialogButtonBox(this);
     open_ = choices->addButton(words::open, QDialogButtonBox::AcceptRole);
@@ -116,18 +157,40 @@ company_choice::company_choice(fs::path drive, const QString& maker)
     show_companies(drive);
 }
 
+bool company_choice::answered() {
+    QEventLoop loop;
+    waits_ = &loop;
+    show();
+    loop.exec();
+    waits_ = nullptr;
+    return result() == Accepted;
+}
+
+void company_choice::done(int how) {
+    if (how == Accepted && waits_) {
+        setResult(how);
+        waits_->quit();
+        return;
+    }
+    QDialog::done(how);
+    if (waits_) waits_->quit();
+}
+
 std::string company_choice::argument() const {
     const int number = companies_->currentItem()->data(Qt::UserRole).toInt();
     const std::string folder = cartella_azienda(number);
     return "ordini" + folder.substr(folder.size() - 3);
 }
 
-void company_choice::show_companies(const fs::path& drive) {
-    drive_ = drive;
-    place_->setText(path_shown(drive));
+void company_choice::show_companies(const fs::path& named) {
+    const drive_found found = drive_around(named);
+    none_->setText(why_none(named, found));
+    drive_ = found.drives.size() == 1 ? found.drives.front() : named;
+    place_->setText(path_shown(drive_));
+    place_->setModified(false);
     companies_->clear();
     const int last = QSettings().value(company_key, -1).toInt();
-    for (const auto& [number, heading] : companies_on(drive)) {
+    for (const auto& [number, heading] : companies_on(drive_)) {
         auto* item = new QListWidgetItem(
             QString("%1   %2").arg(number, 3, 10, QChar('0')).arg(ui::to_qt(heading).simplified()),
             companies_);
@@ -140,6 +203,23 @@ void company_choice::show_companies(const fs::path& drive) {
     open_->setEnabled(any);
     open_->setDefault(any);
     if (any) companies_->setFocus();
+}
+
+/// What the field names is looked at once it is all typed.
+void company_choice::look_at_typed() {
+    if (place_->isModified()) show_companies(place_->text().trimmed().toStdString());
+}
+
+bool company_choice::eventFilter(QObject* watched, QEvent* event) {
+    // Enter behind a path shows its companies; it opens none of them unseen.
+    const bool enter = event->type() == QEvent::KeyPress &&
+                       (static_cast<QKeyEvent*>(event)->key() == Qt::Key_Return ||
+                        static_cast<QKeyEvent*>(event)->key() == Qt::Key_Enter);
+    if (watched != place_ || !enter || !place_->isModified()) {
+        return QDialog::eventFilter(watched, event);
+    }
+    look_at_typed();
+    return true;
 }
 
 void company_choice::choose_folder() {

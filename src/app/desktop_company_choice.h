@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+class QEventLoop;
 class QLabel;
 class QLineEdit;
 class QListWidget;
@@ -24,6 +25,12 @@ struct company_on_drive {
 /// The companies whose folders lie on a drive, by number; none if it isn't one of the suite.
 std::vector<company_on_drive> companies_on(const std::filesystem::path& drive);
 
+/// The drive of the suite that a folder is, lies in, or holds; several if it holds several.
+struct drive_found {
+    std::vector<std::filesystem::path> drives;
+};
+drive_found drive_around(const std::filesystem::path& folder);
+
 /// "Rossi S.r.l. (ditta 007)", as a company calls itself, for title bars; the number alone where it
 /// has no heading.
 QString title_of_company(file_port& files, std::string_view argument);
@@ -36,24 +43,32 @@ class company_choice final : public QDialog {
     /// `drive`: where to look first; `maker`: the program that makes demonstration companies.
     company_choice(std::filesystem::path drive, const QString& maker);
 
+    /// Shows it and waits for the answer; a company that is taken leaves it on the screen. False if
+    /// none is.
+    bool answered();
+
     [[nodiscard]] const std::filesystem::path& drive() const { return drive_; }
-    /// As the menu program would have passed it on. REQUIRES: the dialog was accepted.
+    /// As the menu program would have passed it on. REQUIRES: a company was taken.
     [[nodiscard]] std::string argument() const;
 
     /// The drive of the last choice, the root folder if there was none.
     static std::filesystem::path last_drive();
 
  private:
-    void show_companies(const std::filesystem::path& drive);
+    void show_companies(const std::filesystem::path& named);
+    void look_at_typed();
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void choose_folder();
     void make_demonstration(const QString& maker);
     void keep_and_accept();
+    void done(int how) override;
 
     std::filesystem::path drive_;
     QLineEdit* place_;
     QListWidget* companies_;
     QLabel* none_;
     QPushButton* open_;
+    QEventLoop* waits_ = nullptr;
 };
 
 }  // namespace vantora

@@ -1,8 +1,10 @@
 #include <QApplication>
 #include <QSettings>
 #include <QStandardPaths>
+#include <QTimer>
 #include <cstdlib>
 #include <fstream>
+#include <functional>
 #include <iostream>
 #include <optional>
 
@@ -11,6 +13,7 @@
 #include "app/start.h"
 #include "desktop/desktop_front_end.h"
 #include "desktop/dialogs/about.h"
+#include "desktop/keys/early_keys.h"
 #include "desktop/look/style.h"
 #include "desktop/outside_end.h"
 #include "desktop/printing/system_printer.h"
@@ -45,17 +48,42 @@ struct scripted_run {
     std::istream& commands() { return from_input ? std::cin : script; }
 };
 
-/// Started without the menu program's argument: the user says what it would have said. False if
-/// nothing is to be opened.
-bool choose_company(vantora::program_options& options) {
-    std::filesystem::path drive = options.drive;
-    if (drive == drive.root_path()) drive = vantora::company_choice::last_drive();
-    vantora::company_choice choice(drive, QApplication::applicationDirPath() + "/vantora-demo");
-    if (choice.exec() != QDialog::Accepted) return false;
-    options.drive = choice.drive().string();
-    options.argument = choice.argument();
-    return true;
-}
+/// Started without the menu program's argument: the user says what it would have said. The dialog
+/// keeps what is typed until the first window is there.
+class choice_of_company {
+ public:
+    /// False if nothing is to be opened.
+    bool made(vantora::program_options& options) {
+        std::filesystem::path drive = options.drive;
+        if (drive == drive.root_path()) drive = vantora::company_choice::last_drive();
+        dialog_.emplace(drive, QApplication::applicationDirPath() + "/vantora-demo");
+        if (!dialog_->answered()) return false;
+        options.drive = dialog_->drive().string();
+        options.argument = dialog_->argument();
+        keys_.emplace(*dialog_);
+        return true;
+    }
+    /// As soon as there is a window that the window system has brought forward.
+    void give_keys_to(const std::function<QWidget*()>& front_window) {
+        if (!keys_) return;
+        QObject::connect(&look_, &QTimer::timeout, &look_, [this, front_window] {
+            constexpr int looks_max = 100;  // a window system may bring none forward
+            QWidget* window = front_window();
+            if (!window || (!window->isActiveWindow() && ++looks_ < looks_max)) return;
+            look_.stop();
+            keys_->give_to(*window);
+            keys_.reset();
+            dialog_.reset();
+        });
+        look_.start(20);
+    }
+
+ private:
+    QTimer look_;
+    int looks_ = 0;
+    std::optional<vantora::company_choice> dialog_;
+    std::optional<vantora::ui::desktop::early_keys> keys_;
+};
 
 /// The folder of what belongs to the person; a run by script has none unless it is named.
 std::optional<vantora::drive> folder_of_person(const vantora::program_options& options) {
@@ -122,7 +150,8 @@ int main(int count, char** arguments) {
     }
     ui::dress_application(application);
 
-    if (options.argument.empty() && options.script.empty() && !choose_company(options)) return 0;
+    choice_of_company company;
+    if (options.argument.empty() && options.script.empty() && !company.made(options)) return 0;
 
     drive files(options.drive);
     std::optional<drive> person = folder_of_person(options);
@@ -168,6 +197,7 @@ int main(int count, char** arguments) {
     front.begin(desk);
     const ui::desktop::outside_end from_outside([&front] { return front.may_end(); },
                                                 [&front] { front.end_by_user(); });
+    company.give_keys_to([&front] { return front.front_window(); });
     desk.dispatch([&] { start(app, options.argument); });
     front.run();
     return exit_code(desk);

@@ -18,6 +18,7 @@ constexpr customer_head_kind ordine_esistente{"mirorcm",
 mirorcm::mirorcm(program& app) : customer_head(app, ordine_esistente) {}
 
 void mirorcm::activate() {
+    if (!before_) keep_content();
     if (!take_choice()) place_on_customer();
 }
 
@@ -45,12 +46,33 @@ void mirorcm::go_on() {
     if (!customer_usable()) return;
     app_.schermo_pronto = 0;
     app_.selezione_2 = cliente_corrente_;
+    back_to_lines();
+}
+
+void mirorcm::back_to_lines() {
+    before_.reset();
     hide();
     if (app_.mirorcz.loaded()) app_.mirorcz.use().show();
 }
 
+void mirorcm::keep_content() {
+    contenuto& now = before_.emplace();
+    for (std::size_t i = 0; i < now.text2.size(); ++i) now.text2[i] = Text2[i].text();
+    for (std::size_t i = 0; i < now.text3.size(); ++i) now.text3[i] = Text3[i].text();
+    for (std::size_t i = 0; i < now.combo1.size(); ++i) now.combo1[i] = Combo1[i].chosen();
+}
+
+void mirorcm::give_back() {
+    if (!before_) return;
+    for (std::size_t i = 0; i < before_->text2.size(); ++i) Text2[i].set_text(before_->text2[i]);
+    for (std::size_t i = 0; i < before_->text3.size(); ++i) Text3[i].set_text(before_->text3[i]);
+    for (std::size_t i = 0; i < before_->combo1.size(); ++i) Combo1[i].choose(before_->combo1[i]);
+    back_to_lines();
+}
+
 // The order's lines may still be open behind and need their head, so it is hidden, not dropped.
 void mirorcm::close() {
+    before_.reset();
     hide();
     app_.mirorc.use().show();
 }

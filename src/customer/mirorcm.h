@@ -1,5 +1,9 @@
 #pragma once
 
+#include <array>
+#include <optional>
+#include <string>
+
 #include "customer/customer_head.h"
 
 namespace vantora {
@@ -10,6 +14,9 @@ class mirorcm final : public customer_head {
  public:
     explicit mirorcm(program& app);
 
+    /// The user leaves it for the order's lines, and nothing of the head is changed.
+    void give_back();
+
  protected:
     void activate() override;
     void close() override;
@@ -17,8 +24,18 @@ class mirorcm final : public customer_head {
     void go_on() override;
 
  private:
-    void place_on_customer();
+    /// What the fields hold.
+    struct contenuto {
+        std::array<std::string, 22> text2;
+        std::array<std::string, 6> text3;
+        std::array<int, 3> combo1;
+    };
 
+    void place_on_customer();
+    void keep_content();
+    void back_to_lines();
+
+    std::optional<contenuto> before_;    ///< as the user came from the lines
     bool scorrimento_bloccato_ = false;  ///< while the screen sets the cursor itself
 };
 

@@ -2,11 +2,10 @@
 
 #include <QApplication>
 #include <QEventLoop>
-#include <QKeyEvent>
 #include <QMessageBox>
-#include <QPushButton>
 #include <algorithm>
 
+#include "desktop/dialogs/file_dialog.h"
 #include "desktop/look/box_look.h"
 #include "desktop/look/tip.h"
 #include "desktop/look/words.h"
@@ -162,8 +161,8 @@ void desktop_front_end::act(control& on, const std::function<void()>& action) {
 
 void desktop_front_end::catch_up() {
     form* active = desk_ ? desk_->active() : nullptr;
-    const bool in_the_midst = next_step_ || waits_.size() != 1 || !boxes_.empty() ||
-                              painting_ > 0 || desk_->pointer_shape() == pointer::busy ||
+    const bool in_the_midst = next_step_ || waits_.size() != 1 || !boxes_.none() || painting_ > 0 ||
+                              desk_->pointer_shape() == pointer::busy ||
                               QApplication::mouseButtons() != Qt::NoButton ||
                               QApplication::activePopupWidget();
     if (active && !in_the_midst && !desk_->obstacle(*active)) {
@@ -263,116 +262,25 @@ void desktop_front_end::focus_moved(control* to) {
 }
 
 QWidget* desktop_front_end::front_window() const {
-    if (!boxes_.empty()) return boxes_.back();
+    if (!boxes_.none()) return boxes_.front();
     const auto active = windows_.find(desk_->active());
     return active == windows_.end() ? nullptr : active->second.get();
 }
 
 // Boxes and pointer -------------------------------------------------------------------------------
 
-namespace {
-
-constexpr char answer_property[] = "answer";
-
-struct box_button {
-    QString caption;
-    QMessageBox::ButtonRole role;
-    answer gives;
-};
-
-/// In the order shown; the last one is what Escape gives.
-std::vector<box_button> buttons_of(const message_box& box) {
-    switch (box.buttons) {
-        case buttons::ok:
-            return {{"OK", QMessageBox::AcceptRole, answer::ok}};
-        case buttons::yes_no:
-            return {{QString::fromUtf8("&Sì"), QMessageBox::YesRole, answer::yes},
-                    {"&No", QMessageBox::NoRole, answer::no}};
-        case buttons::choice:
-            break;
-    }
-    std::vector<box_button> all;
-    for (const std::string& caption : box.choices) {
-        all.push_back(
-            {to_qt(caption), QMessageBox::ActionRole, static_cast<answer>(all.size() + 1)});
-    }
-    return all;
-}
-
-}  // namespace
-
-namespace {
-
-/// A bar code that is read while a box is open doesn't answer it by its Enter: the box shows it.
-class read_meanwhile final : public QObject {
- public:
-    explicit read_meanwhile(QMessageBox& box) : QObject(&box), box_(box) {
-        box.installEventFilter(this);
-        for (QAbstractButton* one : box.buttons()) one->installEventFilter(this);
-    }
-
-    bool eventFilter(QObject*, QEvent* event) override {
-        if (event->type() != QEvent::KeyPress) return false;
-        const auto& key = static_cast<QKeyEvent&>(*event);
-        if (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter) {
-            if (!open_) return false;
-            open_ = false;
-            box_.setInformativeText(QString::fromUtf8(words::read_meanwhile).arg(read_.trimmed()));
-            read_ += ' ';
-            return true;
-        }
-        const QString typed = key.text();
-        if (typed.size() != 1 || !typed[0].isDigit()) return false;
-        read_ += typed;
-        open_ = true;
-        return true;
-    }
-
- private:
-    QMessageBox& box_;
-    QString read_;
-    bool open_ = false;  ///< digits came, and no Enter behind them yet
-};
-
-}  // namespace
-
 void desktop_front_end::box_opened(const message_box& box) {
     QWidget* parent = desk_->active() ? window_of(*desk_->active()) : nullptr;
-    auto* shown_box = new QMessageBox(parent);
-    shown_box->setWindowTitle(to_qt(box.title));
-    shown_box->setTextFormat(Qt::PlainText);
-    shown_box->setText(to_qt_lines(box.text));
-    for (const box_button& one : buttons_of(box)) {
-        QPushButton* button = shown_box->addButton(one.caption, one.role);
-        button->setProperty(answer_property, static_cast<int>(one.gives));
-        if (one.gives == box.proposed || box.buttons == buttons::ok) {
-            shown_box->setDefaultButton(button);
-        }
-        shown_box->setEscapeButton(button);  // the last one stays
-    }
-    new read_meanwhile(*shown_box);
-    dress_box(*shown_box, box.icon);
-    shown_box->setWindowModality(Qt::ApplicationModal);
-    QObject::connect(shown_box, &QMessageBox::finished, shown_box, [this, shown_box] {
-        const QAbstractButton* clicked = shown_box->clickedButton();
-        if (!clicked) clicked = shown_box->escapeButton();
-        const auto given = static_cast<answer>(clicked->property(answer_property).toInt());
-        carry_out([&] { desk_->answer_box(given); });
-    });
-    boxes_.push_back(shown_box);
+    boxes_.open(box, parent,
+                [this](answer given) { carry_out([&] { desk_->answer_box(given); }); });
     keys_.screen_came_up();
     show_pointer();
-    shown_box->show();
 }
 
 void desktop_front_end::box_closed() {
-    if (boxes_.empty()) return;
-    QMessageBox* box = boxes_.back();
-    boxes_.pop_back();
+    if (boxes_.none()) return;
+    boxes_.close_front();
     show_pointer();
-    QObject::disconnect(box, &QMessageBox::finished, nullptr, nullptr);
-    box->hide();
-    box->deleteLater();
     if (form* active = desk_->active()) form_activated(*active);
     focus_moved(desk_->focus());
     // The next bar code takes the place of the one that the box complained about.
@@ -387,7 +295,7 @@ void desktop_front_end::pointer_changed(pointer) {
 
 void desktop_front_end::show_pointer() {
     // A box can be answered even if the work that asks isn't over.
-    const bool busy = desk_->pointer_shape() == pointer::busy && boxes_.empty();
+    const bool busy = desk_->pointer_shape() == pointer::busy && boxes_.none();
     if (busy == busy_shown_) return;
     busy_shown_ = busy;
     if (busy) {
@@ -402,6 +310,13 @@ void desktop_front_end::note_shown(const std::string& text) {
     if (!window) return;
     const QWidget* beside = QApplication::focusWidget() ? QApplication::focusWidget() : window;
     show_tip(beside->mapToGlobal(QPoint(0, beside->height())), to_qt(text), window, note_time);
+}
+
+void desktop_front_end::text_offered(const std::string& called, const std::string& text) {
+    const QString file =
+        ask_where_to_save(QString::fromUtf8(words::save_text), to_qt(called),
+                          {QString::fromUtf8(words::text_files), "txt"}, front_window());
+    if (!file.isEmpty()) save_whole(file, to_qt(text).toUtf8(), front_window());
 }
 
 void desktop_front_end::report_fatal(const std::string& message) {

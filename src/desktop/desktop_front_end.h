@@ -10,11 +10,11 @@
 #include "desktop/idle_watch.h"
 #include "desktop/keys/key_guard.h"
 #include "desktop/lists/list_bars.h"
+#include "desktop/message_boxes.h"
 #include "desktop/station_note.h"
 #include "ui/front_end.h"
 
 class QEventLoop;
-class QMessageBox;
 
 namespace vantora::ui {
 class desk;
@@ -74,6 +74,7 @@ class desktop_front_end final : public front_end {
     void progress_ended(control& list) override;
     void station_awaited(const std::optional<std::string>& station) override;
     void note_shown(const std::string& text) override;
+    void text_offered(const std::string& called, const std::string& text) override;
     void report_fatal(const std::string& message) override;
 
  private:
@@ -105,7 +106,7 @@ class desktop_front_end final : public front_end {
     std::map<form*, std::unique_ptr<form_window>> windows_;
     window_place place_;          ///< of the last window
     QElapsedTimer since_called_;  ///< since the program brought a window to the front
-    std::vector<QMessageBox*> boxes_;
+    message_boxes boxes_;
     bool busy_shown_ = false;
     std::vector<wait> waits_;
     int stepping_ = 0;  ///< waits served by steps, inside one another

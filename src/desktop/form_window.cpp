@@ -154,12 +154,15 @@ void form_window::set_tab_order(const std::vector<QWidget*>& stops) {
     for (std::size_t i = 1; i < stops.size(); ++i) setTabOrder(stops[i - 1], stops[i]);
 }
 
-void form_window::begin_in(control& one) {
+void form_window::begin_in(control& one, std::function<void()> more) {
     auto* look = new QTimer(this);
-    connect(look, &QTimer::timeout, this, [this, look, &one] {
+    connect(look, &QTimer::timeout, this, [this, look, &one, more = std::move(more)] {
         if (screen_ && (!screen_->visible() || !one.visible())) return;
         look->deleteLater();
-        act_on(one, [&one] { one.set_focus(); });
+        act_on(one, [&one, &more] {
+            one.set_focus();
+            if (more) more();
+        });
     });
     look->start(10);
 }

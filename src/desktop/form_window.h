@@ -136,8 +136,9 @@ class form_window final : public QWidget {
     /// The way of Tab, where it isn't that of the controls.
     void set_tab_order(const std::vector<QWidget*>& stops);
 
-    /// As soon as the control is there to be worked in, it takes the focus, once.
-    void begin_in(control& one);
+    /// As soon as the control is there to be worked in, it takes the focus and something more is
+    /// done, once.
+    void begin_in(control& one, std::function<void()> more = {});
 
     /// Size of the first showing.
     void set_first_size(const QSize& size) { first_size_ = size; }

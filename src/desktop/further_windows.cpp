@@ -25,7 +25,9 @@ void show_menu(form_window& window, const QWidget& below) {
     for (std::size_t i = 0; i < all.size(); ++i) {
         const QString key =
             QKeySequence(QString::fromStdString(all[i].key)).toString(QKeySequence::NativeText);
-        QAction* entry = menu.addAction(caption_of(all[i]) + "\t" + key, &window,
+        const int waiting = all[i].count ? all[i].count() : 0;
+        const QString behind = waiting > 0 ? QString(" (%1)").arg(waiting) : QString();
+        QAction* entry = menu.addAction(caption_of(all[i]) + behind + "\t" + key, &window,
                                         [&window, i] { window.open_further(i); });
         entry->setEnabled(all[i].can_open());
     }

@@ -1,16 +1,15 @@
 #include "desktop/system_launcher.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDebug>
-#include <QDesktopServices>
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QStringList>
-#include <QUrl>
 #include <memory>
 
+#include "desktop/dialogs/file_showing.h"
 #include "ui/paper/toolkit_values.h"
 
 namespace vantora::ui::desktop {
@@ -79,7 +78,7 @@ started_program system_launcher::run(const std::string& command) {
 }
 
 void system_launcher::open(const std::string& path) {
-    QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(locate_(path))));
+    show_file_or_folder(QString::fromStdString(locate_(path)), QApplication::activeWindow());
 }
 
 }  // namespace vantora::ui::desktop

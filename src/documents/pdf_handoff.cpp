@@ -20,6 +20,24 @@ std::string comando_mirxpdf(std::string_view layout, std::string_view pdf,
     return command.append(",").append(pdf).append(",").append(addressee);
 }
 
+namespace {
+
+void tell_of_no_address(program& app) {
+    if (!app.desk.guards().on()) return;
+    app.desk.message(
+        "Il cliente non ha un indirizzo di posta elettronica: il PDF si genera e non si "
+        "spedisce.",
+        ui::attention, ui::icon::information);
+}
+
+/// Whatever was printed meanwhile, by whatever program, took the print file's place.
+bool has_print_file(const program& app, const documento_stampato& document) {
+    const auto now = app.files.read_whole(file_di_stampa);
+    return document.stampa && now && (now == document.stampa || document.riscrivi());
+}
+
+}  // namespace
+
 std::string comando_pdf(const parametri& parameters, const documento_stampato& document) {
     const nomi_documento names = nomi_di(document.tipo);
     std::string pdf(trimmed(parameters.parametri_valuta[valuta_slot::cartella_pdf]));
@@ -37,8 +55,8 @@ void offri_pdf(program& app, const documento_stampato& document) {
     constexpr const char* domanda =
         "Generare il file PDF ed eventualmente inviarlo tramite posta elettronica?";
     if (!app.desk.ask(domanda, ui::attention)) return;
-    // Whatever was printed meanwhile, by whatever program, took the print file's place.
-    const bool own = document.stampa && app.files.read_whole(file_di_stampa) == document.stampa;
+    if (document.invia && trimmed(document.email).empty()) tell_of_no_address(app);
+    const bool own = has_print_file(app, document);
     const bool started = own && app.desk.launcher().start(comando_pdf(app.parameters, document));
     app.desk.set_pointer(ui::pointer::normal);
     if (started) return;

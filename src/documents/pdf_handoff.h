@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -17,6 +18,8 @@ struct documento_stampato {
     std::string_view email;  ///< address of the customer
     const tabelle_documento& tabelle;
     std::optional<std::string> stampa;  ///< what its print file held, if that was all of it
+    /// Writes the print file anew and gives what it holds now, if that is all of it.
+    std::function<std::optional<std::string>()> riscrivi;
 };
 
 /// The command line of `mirxpdf`: a document's form or "***", the PDF to make of what the print
@@ -28,8 +31,9 @@ std::string comando_mirxpdf(std::string_view layout, std::string_view pdf,
 std::string comando_pdf(const parametri& parameters, const documento_stampato& document);
 
 /// Asks whether to make the PDF of the document just printed, and to send it; on yes starts
-/// `mirxpdf` and goes on. Says so if that can't be started, or must not be because the print file
-/// isn't the document's, or no longer is.
+/// `mirxpdf` and goes on. A print file that another print has taken the place of is written anew.
+/// Says so if `mirxpdf` can't be started, or must not be because there is no print file of the
+/// document.
 void offri_pdf(program& app, const documento_stampato& document);
 
 }  // namespace vantora

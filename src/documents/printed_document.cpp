@@ -5,6 +5,8 @@
 #include "documents/background.h"
 #include "documents/document_composer.h"
 #include "documents/pdf_handoff.h"
+#include "documents/print_file.h"
+#include "documents/unprinted_paper.h"
 #include "text/code_page.h"
 
 namespace vantora {
@@ -49,7 +51,15 @@ esito_stampa componi_documento(program& app, const documento_da_stampare& docume
     tell_of_pictures(app,
                      "Il documento è stampato senza tutti i testi troppo lunghi dello sfondo: "_cp,
                      shortened);
+    if (paper.last_job_unwanted()) return esito_stampa::non_voluta;
     return whole ? esito_stampa::completa : esito_stampa::senza_file;
+}
+
+std::optional<std::string> scrivi_file_di_stampa(program& app,
+                                                 const documento_da_stampare& document) {
+    unprinted_paper paper(app.desk.printer());
+    if (componi_documento(app, document, paper) != esito_stampa::completa) return {};
+    return app.files.read_whole(file_di_stampa);
 }
 
 esito_stampa stampa_documento(program& app, const documento_da_stampare& document) {
@@ -66,13 +76,15 @@ void offri_copie(program& app, const documento_da_stampare& document, bool invia
     do {
         const esito_stampa now = stampa_documento(app, document);
         if (now == esito_stampa::rifiutata) continue;
+        if (now == esito_stampa::non_voluta) break;
         printed = true;
         file.reset();
         if (now == esito_stampa::completa) file = app.files.read_whole(file_di_stampa);
     } while (app.desk.ask("Stampa altra copia?", nomi_di(document.tipo).titolo_stampa));
     if (!printed) return;
     offri_pdf(app, {document.tipo, document.testata.text3[campo_ordine::numero], invia,
-                    document.cliente.email.full(), document.tabelle, std::move(file)});
+                    document.cliente.email.full(), document.tabelle, std::move(file),
+                    [&] { return scrivi_file_di_stampa(app, document); }});
 }
 
 }  // namespace vantora

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
 
 #include "documents/document_tables.h"
@@ -38,6 +39,7 @@ struct documento_da_stampare {
 enum class esito_stampa {
     rifiutata,   ///< the user didn't want it: nothing was done
     completa,    ///< on paper, and its print file holds all of it
+    non_voluta,  ///< the user saw its pages and didn't want them on paper
     senza_file,  ///< on paper, but there is no print file that a PDF could be made from
 };
 
@@ -45,6 +47,11 @@ enum class esito_stampa {
 /// out even if it had no page; a printer or a file that fails is passed over.
 esito_stampa componi_documento(program& app, const documento_da_stampare& document,
                                ui::printer& paper);
+
+/// The same into the print file alone, which then holds what is returned; nothing if it isn't all
+/// of the document.
+std::optional<std::string> scrivi_file_di_stampa(program& app,
+                                                 const documento_da_stampare& document);
 
 /// Asks whether to begin; on yes puts the document on the printer and into the print file, page by
 /// page, by the company's layout. It is out even if it had no page; a printer or a file that fails

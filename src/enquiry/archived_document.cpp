@@ -4,8 +4,6 @@
 #include "customer/shipping_data.h"
 #include "documents/ddt_snapshot_reader.h"
 #include "documents/pdf_handoff.h"
-#include "documents/print_file.h"
-#include "documents/unprinted_paper.h"
 #include "orders/stored_lines.h"
 #include "orders/totals.h"
 #include "store/records/order_block.h"
@@ -143,14 +141,10 @@ void ristampa(program& app, documento_archiviato& document, uscita_ristampa wher
         componi_documento(app, printed, app.desk.printer());
         return;
     }
-    unprinted_paper paper(app.desk.printer());
-    std::optional<std::string> file;
-    if (componi_documento(app, printed, paper) == esito_stampa::completa) {
-        file = app.files.read_whole(file_di_stampa);
-    }
+    const auto write = [&] { return scrivi_file_di_stampa(app, printed); };
     offri_pdf(app, {document.tipo, document.testata.text3[campo_ordine::numero],
                     wants_mail(app, document.cliente), document.cliente.email.full(), *tables,
-                    std::move(file)});
+                    write(), write});
 }
 
 }  // namespace vantora

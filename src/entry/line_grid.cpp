@@ -200,6 +200,7 @@ void line_grid::limit_hands(int row) {
     um[row].accepts = input_rule::text(decltype(rec_orc::um)::width);
     for (ui::text_box* cell : {&quantita[row], &evaso[row], &prezzo[row]}) {
         cell->accepts = input_rule::number();
+        cell->accepts.plain = true;
     }
     for (ui::text_box* cell : {&sc1[row], &sc2[row]}) cell->accepts = input_rule::small_number();
 }
@@ -256,8 +257,8 @@ void line_grid::wire_cell_focus(int row) {
     };
     artic[row].on_edited = [this, row] { lookup_.follow_cell(artic[row].text()); };
     artic[row].on_key_press = [this, row](ui::key_event& key) { article_key(row, key); };
-    artic[row].on_paste_lines = [this, row](std::string_view text, const auto& goes_on) {
-        paste_lines(row, text, goes_on);
+    artic[row].on_paste_lines = [this, row](const ui::pasted_text& pasted, const auto& goes_on) {
+        paste_lines(row, pasted, goes_on);
     };
 
     ds[row].on_focus = [this, row] { description_gains_focus(row); };

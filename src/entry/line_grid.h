@@ -180,7 +180,7 @@ class line_grid : public ui::form {
     // Pasting -------------------------------------------------------------------------------------
 
     class paste_report;
-    void paste_lines(int row, std::string_view text, const ui::paste_progress& goes_on);
+    void paste_lines(int row, const ui::pasted_text& pasted, const ui::paste_progress& goes_on);
     void paste_line(const pasted_line& line, int& at, paste_report& report);
     bool make_room(int at, int lines);
     /// The row of a line, scrolled into sight if need be.

@@ -33,11 +33,29 @@ void press_enter(ui::control& cell) {
 class line_grid::paste_report {
  public:
     void refuse(const pasted_line& line, std::string_view why) {
-        if (refused_++ < told_whole) text_ += told(line) + " - " + std::string(why);
+        const std::string one = told(line) + " - " + std::string(why);
+        if (refused_++ < told_whole) text_ += one;
+        all_ += one.substr(1) + "\n";
     }
     void doubt(const pasted_line& line) {
         if (!line.doubtful.empty() && doubtful_++ < told_whole) doubts_ += told(line);
     }
+    /// Tells what wasn't inserted and what is doubtful, if anything is. `lines`: how many there
+    /// were.
+    void tell(ui::desk& on, std::size_t lines) const {
+        ui::message_box box{message(lines), ui::attention, ui::icon::warning};
+        if (box.text.empty()) return;
+        if (refused_ > 0 && on.guards().on()) {
+            box.buttons = ui::buttons::choice;
+            box.choices = {"Salva l'elenco", "Chiudi"};
+            box.proposed = ui::answer::choice_2;
+        }
+        if (on.show_box(std::move(box)) == ui::answer::choice_1) {
+            on.offer_to_save("Righe non inserite", all_);
+        }
+    }
+
+ private:
     [[nodiscard]] std::string message(std::size_t lines) const {
         std::string all;
         if (refused_ > 0) {
@@ -51,8 +69,6 @@ class line_grid::paste_report {
         }
         return all;
     }
-
- private:
     static std::string told(const pasted_line& line) {
         std::string source = line.source.substr(0, 60);
         std::ranges::replace(source, '\t', ' ');
@@ -66,18 +82,20 @@ class line_grid::paste_report {
     std::size_t refused_ = 0;
     std::size_t doubtful_ = 0;
     std::string text_;
+    std::string all_;  ///< what was refused, whole
     std::string doubts_;
 };
 
-void line_grid::paste_lines(int row, std::string_view text, const ui::paste_progress& goes_on) {
+void line_grid::paste_lines(int row, const ui::pasted_text& pasted,
+                            const ui::paste_progress& goes_on) {
     if (at_work() || row < 0 || row >= rows) return;
-    if (too_much_to_paste(text)) {
+    if (too_much_to_paste(pasted.text)) {
         return app_.desk.message(
             "Sono troppe righe: se ne inseriscono al massimo 20.000, 4 MB in "
             "tutto. Nessuna è stata inserita."_cp,
             ui::attention, ui::icon::warning);
     }
-    const auto lines = read_pasted_lines(text);
+    const auto lines = read_pasted_lines(pasted.text, pasted.from_file);
     if (lines.empty()) return;
     paste_report report;
     {
@@ -98,8 +116,7 @@ void line_grid::paste_lines(int row, std::string_view text, const ui::paste_prog
         if (at <= righe_ordine::massimo) artic[row_showing(at)].set_focus();
         app_.desk.set_pointer(ui::pointer::normal);
     }
-    const std::string told = report.message(lines.size());
-    if (!told.empty()) app_.desk.message(told, ui::attention, ui::icon::warning);
+    report.tell(app_.desk, lines.size());
 }
 
 /// `at`: the line that it takes; behind it, the next one.

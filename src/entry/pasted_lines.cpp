@@ -141,11 +141,10 @@ bool too_much_to_paste(std::string_view text) {
     return text.size() > pasted_bytes_max || static_cast<std::size_t>(ends) > pasted_lines_max;
 }
 
-std::vector<pasted_line> read_pasted_lines(std::string_view text) {
+std::vector<pasted_line> read_pasted_lines(std::string_view text, bool from_file) {
     const auto has = [text](char one) { return text.find(one) != std::string_view::npos; };
-    const char separator = has('\t') ? '\t' : has(';') ? ';' : ' ';
     std::vector<pasted_line> lines;
-    std::vector<fields> columns;
+    std::vector<std::string_view> wholes;
     for (int number = 1; !text.empty(); ++number) {
         const std::size_t end = std::min(text.find_first_of("\r\n"), text.size());
         const std::string_view whole = text.substr(0, end);
@@ -155,6 +154,15 @@ std::vector<pasted_line> read_pasted_lines(std::string_view text) {
         pasted_line& line = lines.emplace_back();
         line.number = number;
         line.source = stripped(whole);
+        wholes.push_back(whole);
+    }
+    // Where blanks part a line, its commas are those of decimals.
+    const bool commas = from_file && has(',') && std::ranges::all_of(lines, [](const auto& one) {
+                            return aligned(one.source).size() == 1;
+                        });
+    const char separator = has('\t') ? '\t' : has(';') ? ';' : commas ? ',' : ' ';
+    std::vector<fields> columns;
+    for (const std::string_view whole : wholes) {
         columns.push_back(separator == ' ' ? aligned(stripped(whole))
                                            : separated(whole, separator));
     }

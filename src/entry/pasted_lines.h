@@ -33,8 +33,9 @@ bool too_much_to_paste(std::string_view text);
 
 /// Reads lines whose columns are code; code, quantity; code, quantity, price; code, quantity,
 /// discounts ("10" or "10+5"), price; or code, quantity, two discounts, price. Between them stand
-/// tabs, else semicolons, else blanks. Decimal marks are Italian or points, the same in all lines:
-/// where a number has a decimal comma, "1.234" is a thousand and more. Blank lines are left out.
-std::vector<pasted_line> read_pasted_lines(std::string_view text);
+/// tabs, else semicolons, in a file else commas, else blanks. Decimal marks are Italian or points,
+/// the same in all lines: where a number has a decimal comma, "1.234" is a thousand and more. Blank
+/// lines are left out.
+std::vector<pasted_line> read_pasted_lines(std::string_view text, bool from_file = false);
 
 }  // namespace vantora

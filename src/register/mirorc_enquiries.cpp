@@ -1,4 +1,5 @@
 #include "enquiry/archived_document.h"
+#include "enquiry/bozze.h"
 #include "register/mirorc.h"
 #include "text/int16.h"
 #include "text/number_text.h"
@@ -16,7 +17,8 @@ void mirorc::offer_enquiries() {
     offer({"documenti", "&Documenti di trasporto", "Ctrl+T", at_rest, lead(app_.documenti)});
     offer({"quadro", "&Quadro degli ordini", "Ctrl+B", at_rest, lead(app_.quadro)});
     offer({"bozze", "&Bozze", "Ctrl+Shift+B",
-           [this] { return !compacting_ && app_.person != nullptr; }, lead(app_.bozze)});
+           [this] { return !compacting_ && app_.person != nullptr; }, lead(app_.bozze),
+           [this] { return app_.person ? numero_bozze(app_) : 0; }});
     offer({"ristampa", "Ristam&pa l'ordine", "Ctrl+P",
            [this] { return !compacting_ && elenco.row() > 0; }, [this] { print_again(); }});
 }

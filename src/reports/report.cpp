@@ -27,15 +27,18 @@ foglio_report sheet_of(const descrizione_report& report) {
     return sheet;
 }
 
-void print_rows(program& app, const descrizione_report& report, const ui::grid& elenco, int righe,
+/// False: the user stopped it.
+bool print_rows(program& app, const descrizione_report& report, const ui::grid& elenco, int righe,
                 report_output& out, uscita_report uscita) {
     report_engine engine(app.parameters, app.desk.clock(), out, uscita, sheet_of(report));
     std::vector<std::string_view> cells(report.colonne.size());
     for (int row = 1; row < righe; ++row) {
         elenco.texts(row, cells);
         engine.print_row(cells);
+        if (!out.paper().goes_on(double(row) / righe)) return false;
     }
     engine.end_report();
+    return out.paper().goes_on(1);
 }
 
 void print_on_paper(program& app, const descrizione_report& report, const ui::grid& elenco,
@@ -43,19 +46,23 @@ void print_on_paper(program& app, const descrizione_report& report, const ui::gr
     ui::printer& paper = app.desk.printer();
     paper.set_job_name(report.titolo);
     report_on_printer out(paper);
-    print_rows(app, report, elenco, righe, out, uscita_report::stampante);
+    if (!print_rows(app, report, elenco, righe, out, uscita_report::stampante)) {
+        return paper.drop_job();
+    }
     paper.end_job();
 }
 
-/// True if the print file holds the whole report.
-bool print_into_file(program& app, const descrizione_report& report, const ui::grid& elenco,
-                     int righe) {
+enum class file_di_report { intero, incompleto, interrotto };
+
+file_di_report print_into_file(program& app, const descrizione_report& report,
+                               const ui::grid& elenco, int righe) {
     ui::printer& paper = app.desk.printer();
     const bool upright = paper.orientation() == ui::printer::upright;
     print_file_writer file(app.files, upright ? marca_verticale : marca_orizzontale);
     report_in_print_file out(paper, file);
-    print_rows(app, report, elenco, righe, out, uscita_report::pdf);
-    return file.finish();
+    using enum file_di_report;
+    if (!print_rows(app, report, elenco, righe, out, uscita_report::pdf)) return interrotto;
+    return file.finish() ? intero : incompleto;
 }
 
 std::string_view pdf_folder(const program& app) {
@@ -121,10 +128,10 @@ void stampa_report(program& app, const descrizione_report& report, const ui::gri
     }
     // A file that isn't whole is never handed over: the PDF would lack pages without a word.
     ui::started_program end;
-    if (print_into_file(app, report, elenco, righe)) {
-        end = app.desk.launcher().run(pdf_command(app, report));
-    }
+    const file_di_report file = print_into_file(app, report, elenco, righe);
+    if (file == file_di_report::intero) end = app.desk.launcher().run(pdf_command(app, report));
     app.desk.set_pointer(ui::pointer::normal);
+    if (file == file_di_report::interrotto) return;
     tell_of_pdf(app, report, end);
 }
 

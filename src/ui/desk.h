@@ -53,6 +53,10 @@ class desk {
     void end_progress(control& list) { front_.progress_ended(list); }
     /// Tells in passing what needs no answer.
     void note(const std::string& text) { front_.note_shown(text); }
+    /// Lets the user save a text in a file of their own; `called` is the name proposed.
+    void offer_to_save(const std::string& called, const std::string& text) {
+        front_.text_offered(called, text);
+    }
     /// Shows which station holds this one up, until called with none. No events run.
     void show_station_awaited(const std::optional<std::string>& station);
 

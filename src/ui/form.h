@@ -20,6 +20,7 @@ struct further_window {
     std::string key;      ///< as keyboards call it: "Ctrl+B"
     std::function<bool()> can_open;
     std::function<void()> open;
+    std::function<int()> count = {};  ///< what waits there, told behind the caption
 };
 
 /// A screen: a struct whose members are its controls and whose member functions are its events.

@@ -46,6 +46,8 @@ class front_end {
     virtual void progress_ended(control& /*list*/) {}
     /// Something to know that needs no answer.
     virtual void note_shown(const std::string& /*text*/) {}
+    /// The user is asked where to save a text that they want to keep.
+    virtual void text_offered(const std::string& /*called*/, const std::string& /*text*/) {}
     /// Another station holds this one up: which one, "anna su cassa2" or empty if that isn't known.
     /// Called again and again meanwhile, with none at the end.
     /// Nothing that the user does may be served, windows may be painted.

@@ -19,6 +19,7 @@ struct input_rule {
     int longest = 32767;    ///< characters
     double largest = 1e15;  ///< of a number, by its absolute value
     char alone = 0;         ///< a sign that may stand instead of a number; 0: none
+    bool plain = false;     ///< a number that the screen itself writes with a point for decimals
     bool whole = false;     ///< a number is rounded to the nearest whole one, ties to even
 
     /// A text of at most `longest` characters.

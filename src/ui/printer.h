@@ -57,6 +57,16 @@ class printer {
     /// The pages of the next job are shown before they are printed, where the front end can.
     virtual void preview_next_job() {}
 
+    /// Of something long, be it drawn here or only measured, so much is composed; 1 at its end.
+    /// False: the user stops it.
+    virtual bool goes_on(double /*done*/) { return true; }
+    /// Nothing of the job at hand is printed.
+    virtual void drop_job() {}
+
+    /// Whether the user saw the pages of the last job, or part of them, and didn't want them
+    /// printed.
+    [[nodiscard]] virtual bool last_job_unwanted() const { return false; }
+
     /// Shows the system's printer dialog in set-up mode and takes its choice over. False if the
     /// user left it without a choice.
     virtual bool choose_settings() = 0;

@@ -29,6 +29,12 @@ class text_control : public control {
 /// Told before each line of a paste, how many are done of how many; false breaks it off.
 using paste_progress = std::function<bool(int done, int of)>;
 
+/// What is pasted, from the clipboard or from a file.
+struct pasted_text {
+    std::string_view text;
+    bool from_file = false;
+};
+
 /// Whether a text is lines from a spreadsheet and not a text for one field: it has several lines
 /// or columns behind tabs.
 bool holds_pasted_lines(std::string_view text);
@@ -46,7 +52,7 @@ class text_box : public text_control {
     /// again as before. A field without it takes the code as typed.
     std::function<void(const std::string& code)> on_scan;
     /// Lines from a spreadsheet are pasted here; a field without it takes them as a text.
-    std::function<void(std::string_view text, const paste_progress& goes_on)> on_paste_lines;
+    std::function<void(const pasted_text& pasted, const paste_progress& goes_on)> on_paste_lines;
 
     /// A character joins the end of the text, backspace takes the last one off.
     void take_effect(int code, std::optional<char> character) override;

@@ -1,16 +1,20 @@
 #include "windows/customer_layout.h"
 
+#include <QApplication>
 #include <QLineEdit>
 #include <QScrollBar>
 
 #include "orders/head_fields.h"
+#include "windows/growing_part.h"
 #include "windows/layout_pieces.h"
 
 namespace vantora::ui::desktop {
 
 namespace {
 
-constexpr int widest = 1320;  ///< dots; wider screens leave room at both sides
+constexpr QSize head_as_designed(1340, 640);
+constexpr int widest = 1320;      ///< dots, as designed; wider screens leave room at both sides
+constexpr int tallest_step = 26;  ///< of the fields, in tenths of a text's height
 
 constexpr const char* hint =
     "Per cercare un cliente utilizzare il cursore a lato oppure inserire nel campo sottostante il "
@@ -67,8 +71,13 @@ QGridLayout* add_frame(form_window& window, QGroupBox* box, std::span<const fram
     // Fields that have no caption of their own are called by the one before, and their number.
     QString called;
     int since_caption = 0;
+    // All at one step, be they lists or texts.
+    const int height = window.widget_of(rows.front().fields.front().shown).sizeHint().height();
+    int at = 0;
     for (const frame_row& row : rows) {
-        const int at = fields->rowCount();
+        ++at;
+        fields->setRowMinimumHeight(at, height);
+        fields->setRowStretch(at, 1);
         auto* line = new QHBoxLayout;
         line->setSpacing(5);
         bool stretches = false;
@@ -88,7 +97,10 @@ QGridLayout* add_frame(form_window& window, QGroupBox* box, std::span<const fram
         }
         if (!stretches) line->addStretch(1);
         QWidget& first = window.widget_of(row.fields.front().shown);
-        fields->addWidget(caption_of(&first, row.caption, box), at, 0);
+        const int lines = QString(row.caption).contains('\n') ? 2 : 1;  // it stands beside two rows
+        if (*row.caption != '\0') {
+            fields->addWidget(caption_of(&first, row.caption, box), at, 0, lines, 1);
+        }
         fields->addLayout(line, at, 1);
     }
     return fields;
@@ -96,8 +108,7 @@ QGridLayout* add_frame(form_window& window, QGroupBox* box, std::span<const fram
 
 QGroupBox* frame(form_window& window, const char* title, std::span<const frame_row> rows) {
     auto* box = new QGroupBox(QString::fromUtf8(title), &window);
-    QGridLayout* fields = add_frame(window, box, rows);
-    fields->setRowStretch(fields->rowCount(), 1);
+    add_frame(window, box, rows);
     return box;
 }
 
@@ -108,7 +119,6 @@ QGroupBox* registered_office(form_window& window, customer_head& head) {
     set_look(deleted, "role", "warning");
     deleted->setWordWrap(true);
     fields->addWidget(deleted, fields->rowCount(), 0, 1, 2);
-    fields->setRowStretch(fields->rowCount(), 1);
     return box;
 }
 
@@ -147,14 +157,15 @@ QFrame* search_bar(form_window& window, customer_head& head) {
     return bar;
 }
 
-/// Leaves as the title bar does.
-QToolButton* leaving_button(form_window& window, const char* what) {
+QToolButton* leaving_button(form_window& window, const customer_window& look) {
     auto* button = new QToolButton(&window);
     button->setObjectName("annulla");
     button->setText("&Annulla");
-    button->setToolTip(QString::fromUtf8(what));
+    button->setToolTip(QString::fromUtf8(look.leaving));
     set_look(button, "look", "leave");
-    QObject::connect(button, &QToolButton::clicked, &window, &QWidget::close);
+    QObject::connect(button, &QToolButton::clicked, &window, [&window, leave = look.leave] {
+        leave ? leave() : static_cast<void>(window.close());
+    });
     add_shortcut(*button, "Esc");
     return button;
 }
@@ -168,10 +179,11 @@ void lay_out_customer(form_window& window, customer_head& head, const customer_w
     all->addWidget(search_bar(window, head));
 
     auto* middle = new QWidget(&window);
-    middle->setMaximumWidth(widest);
     auto* column = new QVBoxLayout(middle);
     column->setContentsMargins(12, 8, 12, 8);
-    auto* frames = new QGridLayout;
+    auto* offices = new QWidget(middle);
+    auto* frames = new QGridLayout(offices);
+    frames->setContentsMargins(0, 0, 0, 0);
     frames->setSpacing(8);
     frames->addWidget(registered_office(window, head), 0, 0);
     frames->addWidget(frame(window, look.frame, look.own), 1, 0);
@@ -180,21 +192,29 @@ void lay_out_customer(form_window& window, customer_head& head, const customer_w
         0, 1, 2, 1);
     frames->setColumnStretch(0, 1);
     frames->setColumnStretch(1, 1);
-    frames->setRowStretch(1, 1);
-    column->addLayout(frames);
+    frames->setRowStretch(0, static_cast<int>(registered_office_rows(head).size()));
+    frames->setRowStretch(1, static_cast<int>(look.own.size()));
+    column->addWidget(offices, 1);
 
     auto* foot = new QHBoxLayout;
     foot->addWidget(help_button(window));
     foot->addStretch(1);
-    if (look.leaving) foot->addWidget(leaving_button(window, look.leaving));
+    foot->addWidget(leaving_button(window, look));
     QToolButton* go_on = window.dress(head.bottone, look.go_on, Qt::ToolButtonTextOnly);
     set_look(go_on, "look", "main");
     foot->addWidget(go_on);
     column->addLayout(foot);
-    column->addStretch(1);
+    column->addStretch(0);
     auto* around = new QHBoxLayout;
     around->addWidget(middle);
     all->addLayout(around, 1);
+    const std::size_t steps = registered_office_rows(head).size() + look.own.size() + 2;
+    new growing_part(window, *middle, head_as_designed, [middle, offices, steps] {
+        const int text = middle->fontMetrics().height();
+        const int as_laid_out = QFontMetrics(QApplication::font()).height();
+        middle->setMaximumWidth(widest * text / as_laid_out);
+        offices->setMaximumHeight(static_cast<int>(steps) * text * tallest_step / 10);
+    });
 
     window.setMinimumSize(980, 0);
     window.set_first_size(QSize(1180, 560));

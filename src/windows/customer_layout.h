@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <span>
 #include <vector>
 
@@ -25,10 +26,12 @@ struct frame_row {
 };
 
 struct customer_window {
-    const char* frame;              ///< title of the frame with the document's own fields
-    std::vector<frame_row> own;     ///< its rows
-    command_look go_on;             ///< the button that goes on
-    const char* leaving = nullptr;  ///< what a button that leaves does; null for none
+    const char* frame;           ///< title of the frame with the document's own fields
+    std::vector<frame_row> own;  ///< its rows
+    command_look go_on;          ///< the button that goes on
+    const char* leaving;         ///< what the button that leaves does
+    /// Leaves; without it, the window is closed as by its title bar.
+    std::function<void()> leave = {};
 };
 
 void lay_out_customer(form_window& window, customer_head& head, const customer_window& look);

@@ -21,9 +21,27 @@ QLabel* caption_of(QWidget* field, const char* utf8, QWidget* parent) {
     return label;
 }
 
+namespace {
+
+constexpr const char* characters_property = "characters";
+constexpr const char* margins_property = "margins";
+
+}  // namespace
+
 QWidget* sized(QWidget* field, int characters, int margins) {
+    field->setProperty(characters_property, characters);
+    field->setProperty(margins_property, margins);
     field->setFixedWidth(field->fontMetrics().horizontalAdvance('0') * characters + margins);
     return field;
+}
+
+void fit_to_characters(QWidget& field) {
+    const int characters = field.property(characters_property).toInt();
+    if (characters == 0) return;
+    const bool fixed = field.minimumWidth() == field.maximumWidth();
+    field.setMaximumWidth(field.fontMetrics().horizontalAdvance('0') * characters +
+                          field.property(margins_property).toInt());
+    if (fixed) field.setMinimumWidth(field.maximumWidth());
 }
 
 QWidget* dress_calendar(QWidget* picker) {

@@ -28,6 +28,9 @@ QString spoken(const char* utf8);
 /// A text box made so wide that about `characters` fit; the margins are its frame's and some air.
 QWidget* sized(QWidget* field, int characters, int margins = 24);
 
+/// The same again after the size of its texts changed; nothing for a widget that was never sized.
+void fit_to_characters(QWidget& field);
+
 /// A date picker that stands beside its date and shows its calendar alone.
 QWidget* dress_calendar(QWidget* picker);
 

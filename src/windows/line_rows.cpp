@@ -44,7 +44,7 @@ line_rows::line_rows(form_window& window, line_grid& screen)
     for (QLabel*& label : numbers_) {
         label = new QLabel(&window);
         label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        label->setFixedWidth(label->fontMetrics().horizontalAdvance("000") + 8);
+        sized(label, 3, 8);
         label->setContentsMargins(0, 0, 5, 0);
         set_look(label, "role", "number");
     }
@@ -93,8 +93,10 @@ void line_rows::mark(int row) {
         for (const auto& column : cells_) {
             QWidget* cell = column[static_cast<std::size_t>(changed)];
             set_look(cell, "cell", changed == row ? "current" : "true");
+            const QFont grown = cell->font();  // the style sheet takes it back
             cell->style()->unpolish(cell);
             cell->style()->polish(cell);
+            cell->setFont(grown);
         }
     }
     current_ = row;

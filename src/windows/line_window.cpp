@@ -11,6 +11,7 @@
 #include "desktop/keys/manual.h"
 #include "desktop/look/words.h"
 #include "windows/article_entries.h"
+#include "windows/growing_part.h"
 #include "windows/line_rows.h"
 
 namespace vantora::ui::desktop {
@@ -18,7 +19,8 @@ namespace vantora::ui::desktop {
 namespace {
 
 constexpr int rows = line_rows::count;
-constexpr int tallest_row = 48;         ///< dots
+constexpr QSize lines_as_designed(1360, 720);
+constexpr int tallest_row = 4;          ///< lines of text
 constexpr int cell_margins = 16;        ///< dots, with the cursor's; the description needs the rest
 constexpr int widest_description = 80;  ///< characters
 constexpr int least_description = 225;  ///< dots
@@ -80,6 +82,27 @@ void add_column(form_window& window, text_box (&column_cells)[line_grid::rows], 
     if (one.characters == 0) cells->setColumnStretch(at, 1);
 }
 
+/// The cells of the lines, in rows of one height.
+class line_table final : public QWidget {
+ public:
+    line_table(QWidget* parent) : QWidget(parent), cells_(new QGridLayout(this)) {
+        cells_->setContentsMargins(0, 0, 0, 0);
+        cells_->setSpacing(1);
+    }
+    [[nodiscard]] QGridLayout* cells() const { return cells_; }
+
+ protected:
+    /// What twelve rows can't share stays below them.
+    void resizeEvent(QResizeEvent* event) override {
+        QWidget::resizeEvent(event);
+        const int heads = cells_->itemAtPosition(0, 1)->sizeHint().height();
+        cells_->setContentsMargins(0, 0, 0, std::max(height() - heads - rows, 0) % rows);
+    }
+
+ private:
+    QGridLayout* cells_;
+};
+
 /// The lines move under the cells by pages; the cell keeps the focus.
 void add_paging(form_window& window, line_grid& screen, line_rows& lines) {
     for (const int step : {-rows, rows}) {
@@ -106,7 +129,7 @@ void add_line_keys(form_window& window, line_grid& screen, line_rows& lines) {
                              {QString::fromUtf8(words::csv_files), "csv"}, &window);
         if (chosen.isEmpty()) return;
         if (const auto text = lines_of_file(chosen, &window)) {
-            window.act_on(cell(), [&] { paste_lines(cell(), *text, &window); });
+            window.act_on(cell(), [&] { paste_lines(cell(), {*text, true}, &window); });
         }
     });
     // In the cells the keys reach the fields first, which do the same.
@@ -124,11 +147,8 @@ void add_line_keys(form_window& window, line_grid& screen, line_rows& lines) {
 QGroupBox* line_frame(form_window& window, line_grid& screen) {
     auto* box = new QGroupBox("Dettaglio documento", &window);
     auto* lines = new line_rows(window, screen);
-    auto* table = new QWidget(box);
-    table->setMaximumHeight(rows * tallest_row);
-    auto* cells = new QGridLayout(table);
-    cells->setContentsMargins(0, 0, 0, 0);
-    cells->setSpacing(1);
+    auto* table = new line_table(box);
+    QGridLayout* cells = table->cells();
     for (int row = 0; row < rows; ++row) {
         cells->addWidget(lines->number(row), row + 1, 0);
         cells->setRowStretch(row + 1, 1);
@@ -148,8 +168,11 @@ QGroupBox* line_frame(form_window& window, line_grid& screen) {
     cells->addWidget(bar, 1, cells->columnCount(), rows, 1);
     add_paging(window, screen, *lines);
     add_line_keys(window, screen, *lines);
-    table->setMaximumWidth(cells->totalMaximumSize().width());
-    box->setMaximumWidth(table->maximumWidth() + 2 * frame_margin);
+    new growing_part(window, *table, lines_as_designed, [box, table, cells] {
+        table->setMaximumHeight(rows * tallest_row * table->fontMetrics().height());
+        table->setMaximumWidth(cells->totalMaximumSize().width());
+        box->setMaximumWidth(table->maximumWidth() + 2 * frame_margin);
+    });
 
     QShortcut* vat = add_key(window, "F4", words::vat_of_line);
     QObject::connect(vat, &QShortcut::activated, &window, [&window, &screen, lines] {
@@ -174,6 +197,7 @@ QGroupBox* line_frame(form_window& window, line_grid& screen) {
     set_look(hint, "role", "faint");
     auto* all = new QVBoxLayout(box);
     all->setContentsMargins(0, 0, 0, 0);
+    all->addStretch(0);
     all->addWidget(table, 1);
     all->addWidget(hint);
     all->addStretch(0);

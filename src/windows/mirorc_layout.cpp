@@ -64,6 +64,14 @@ QGroupBox* views(form_window& window, mirorc& screen) {
     return box;
 }
 
+/// The list begins with the oldest order, whichever part of it is in sight.
+void mark_newest(grid& orders) {
+    if (orders.row() > 0) return;
+    int row = orders.rows() - 1;
+    while (row > 0 && orders.text(row, mirorc::registr).empty()) --row;
+    orders.set_row(row);
+}
+
 QGroupBox* compaction(form_window& window, mirorc& screen) {
     auto* box = new QGroupBox("Archivio", &window);
     QLabel* text = window.widget(screen.srtt[0]);
@@ -104,7 +112,10 @@ void lay_out(form_window& window, mirorc& screen) {
     body->addLayout(grid_with_sort_buttons(window, screen.elenco, screen.srx), 1);
     grid_view* orders = window.widget(screen.elenco);
     orders->search_in(mirorc::ordine);
-    if (window.by_person()) orders->keep_mark();
+    if (window.by_person()) {
+        orders->keep_mark();
+        window.begin_in(screen.elenco, [&screen] { mark_newest(screen.elenco); });
+    }
     orders->show_notices_in(mirorc::evasione);
 
     QWidget* progress = window.widget(screen.srt);

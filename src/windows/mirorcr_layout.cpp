@@ -1,5 +1,6 @@
 #include "fulfil/mirorcr.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QShortcut>
@@ -44,6 +45,35 @@ class editor_escape final : public QObject {
         if (static_cast<QKeyEvent&>(*event).key() != Qt::Key_Escape) return false;
         event->accept();
         if (pressed) window_.act_on(screen_.quantita, [this] { screen_.leave_editor(); });
+        return true;
+    }
+
+ private:
+    form_window& window_;
+    mirorcr& screen_;
+};
+
+/// A digit in the list opens the editor of its row and is the first one of the quantity.
+class digit_opens final : public QObject {
+ public:
+    digit_opens(form_window& window, mirorcr& screen, grid_view& list)
+        : QObject(&list), window_(window), screen_(screen) {
+        list.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() != QEvent::KeyPress) return false;
+        const auto& key = static_cast<QKeyEvent&>(*event);
+        const QString typed = key.text();
+        const bool plain = (key.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+        if (!plain || typed.size() != 1 || !typed[0].isDigit() || screen_.elenco.row() < 1) {
+            return false;
+        }
+        window_.act_on(screen_.elenco,
+                       [this] { screen_.elenco.click_cell(screen_.elenco.row(), mirorcr::evaso); });
+        if (screen_.quantita.has_focus()) {
+            QApplication::sendEvent(window_.widget(screen_.quantita), event);
+        }
         return true;
     }
 
@@ -121,7 +151,10 @@ void lay_out(form_window& window, mirorcr& screen) {
     set_look(quantity, "look", "over");
     view->keep_over(quantity, mirorcr::evaso);
     new editor_escape(window, screen, *quantity);
-    if (window.by_person()) view->begin_at_first();
+    if (window.by_person()) {
+        view->begin_at_first();
+        new digit_opens(window, screen, *view);
+    }
     add_grid_keys(window, screen);
 
     body->addWidget(view, 1);

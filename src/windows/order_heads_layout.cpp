@@ -35,10 +35,13 @@ void lay_out(form_window& window, mirorcx& screen) {
 }
 
 void lay_out(form_window& window, mirorcm& screen) {
-    lay_out_customer(window, screen,
-                     {"Riferimenti dell'ordine",
-                      order_head_rows(screen),
-                      {"avanti", "C&onferma", "Torna alle righe dell'ordine", "F12"}});
+    lay_out_customer(
+        window, screen,
+        {"Riferimenti dell'ordine",
+         order_head_rows(screen),
+         {"avanti", "C&onferma", "Torna alle righe dell'ordine", "F12"},
+         "Torna alle righe senza cambiare nulla",
+         [&window, &screen] { window.act_on(screen.bottone, [&screen] { screen.give_back(); }); }});
 }
 
 }  // namespace vantora::ui::desktop

@@ -53,7 +53,9 @@ QWidget* report_bar(form_window& window, report_screen& screen) {
     QHBoxLayout* row = command_row(window, 6);
     for (const auto& [which, look] : report_commands) {
         if (which == report_screen::uscita) row->addStretch(1);
-        add_command(row, window.dress(screen.bottone[which], look), 28);
+        QToolButton* command = window.dress(screen.bottone[which], look);
+        if (which == report_screen::uscita) add_shortcut(*command, "Ctrl+Q");
+        add_command(row, command, 28);
     }
     return row->parentWidget();
 }
@@ -114,6 +116,7 @@ void add_filter(form_window& window, report_screen& screen, const filter_look& l
         calendar->setAccessibleName(spoken(look.caption));
         line->addWidget(calendar);
     }
+    if (look.stretch == 0) line->addStretch(1);
     column->addLayout(line);
     row->addLayout(column, look.stretch);
 }

@@ -135,6 +135,11 @@ TEST_F(mirorcx_screen, ThePickedCustomerIsTakenWhereAPersonPicks) {
         }
         EXPECT_EQ(right == 3, guarded);
     }
+    // Nor does an empty search take whoever stands in the middle.
+    const std::string shown = head.Text2[0].text();
+    head.nome.set_text(" ");
+    head.b_cerca.click();
+    EXPECT_TRUE(head.Text2[0].text() == shown && head.Text2[0].has_focus());
 }
 
 TEST_F(mirorcx_screen, ItsPickListIsModalAndSorts) {
@@ -204,6 +209,23 @@ TEST_F(mirorcm_screen, StandsOnTheOrdersCustomerAndMovesTheOrderToALivingOne) {
         app.mirorcm->hide();
         open(customer);
         EXPECT_EQ(app.mirorcm->HScroll1.value(), position) << "found before the bad spot only";
+    }
+}
+
+TEST_F(mirorcm_screen, LeftForTheLinesItIsAsItWas) {
+    mirorcm& head = *app.mirorcm;
+    head.Text3[0].set_text("12");
+    head.Combo1[customer_head::porto].choose(1);
+    for (int round = 0; round < 2; ++round) {
+        open(1);
+        head.Text3[0].set_text("99");
+        head.Combo1[customer_head::porto].choose(0);
+        head.HScroll1.drag(5);
+        head.give_back();
+        EXPECT_EQ(head.Text3[0].text(), "12");
+        EXPECT_EQ(head.Combo1[customer_head::porto].chosen(), 1);
+        EXPECT_EQ(app.selezione_2, 1) << "the order stays with its customer";
+        EXPECT_FALSE(head.visible());
     }
 }
 

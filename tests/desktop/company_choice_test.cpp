@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QLineEdit>
 #include <QListWidget>
 #include <QProcess>
 #include <fstream>
@@ -34,6 +35,25 @@ TEST(company_choice, OpensTheCompanyTakenAndNothingWhereThereIsNone) {
         EXPECT_EQ(choice.result(), QDialog::Accepted);
         EXPECT_EQ(choice.argument(), "ordini112");
         EXPECT_EQ(company_choice::last_drive(), folder.path());
+    }
+
+    // A folder inside the suite's tree is understood, and one that holds a single drive.
+    EXPECT_TRUE(drive_around(general / "MIRAZ0.007").drives == std::vector{folder.path()});
+    const test::scratch_folder above;
+    std::filesystem::copy(folder.path(), above.path() / "disco",
+                          std::filesystem::copy_options::recursive);
+    for (const bool second : {false, true}) {
+        if (second) create_directories(above.path() / "copia/mirwin/mirwin/miraz0.003");
+        company_choice typed("/no/such/folder", "no such program");
+        typed.show();
+        auto* place = typed.findChild<QLineEdit*>();
+        place->setFocus();
+        place->selectAll();
+        QTest::keyClicks(place, QString::fromStdString(above.path().string()));
+        QTest::keyClick(place, Qt::Key_Return);
+        EXPECT_EQ(typed.result(), 0) << "it shows what it found first";
+        EXPECT_EQ(typed.findChild<QListWidget*>()->count(), second ? 0 : 2);
+        EXPECT_TRUE(second || typed.drive() == above.path() / "disco");
     }
 
     company_choice nothing(folder.path() / "elsewhere", "no such program");

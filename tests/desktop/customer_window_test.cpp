@@ -2,12 +2,20 @@
 #include <QDateEdit>
 
 #include "customer/mirdata.h"
+#include "customer/mirorcx.h"
 #include "program_window.h"
 
 namespace vantora::ui::desktop {
 namespace {
 
 using customer_window = test::program_window;
+
+/// REQUIRES: the picker's calendar is open.
+void click_day(const QDateEdit& picker, int number) {
+    auto* days = picker.calendarWidget()->findChild<QTableView*>();
+    const QModelIndex day = days->model()->match(days->model()->index(2, 1), 0, number).at(0);
+    QTest::mouseClick(days->viewport(), Qt::LeftButton, {}, days->visualRect(day).center());
+}
 
 TEST_F(customer_window, TheDateDialogLeavesWhenItsCalendarCloses) {
     app.data_proposta = "03/04/2025";
@@ -22,10 +30,8 @@ TEST_F(customer_window, TheDateDialogLeavesWhenItsCalendarCloses) {
     };
     run({open,
          [&] {
-             auto* days = open_calendar()->findChild<QTableView*>();
-             const QModelIndex day = days->model()->match(days->model()->index(2, 1), 0, 15).at(0);
-             QTest::mouseClick(days->viewport(), Qt::LeftButton, {},
-                               days->visualRect(day).center());
+             open_calendar();
+             click_day(*bench.find<QDateEdit>("nuovadata"), 15);
          },
          [&] {
              EXPECT_FALSE(app.mirdata.loaded());
@@ -37,6 +43,27 @@ TEST_F(customer_window, TheDateDialogLeavesWhenItsCalendarCloses) {
              EXPECT_FALSE(app.mirdata.loaded());
              EXPECT_EQ(app.data_scelta, "03/04/2025");
          }});
+}
+
+TEST_F(customer_window, TodayChosenInACalendarIsWrittenOverWhatIsNoDay) {
+    bench.time.stop_at({{2025, 4, 15}, 10, 0, 0});
+    company.customers({vantora::test::customer_named("Zeta")});
+    std::vector<std::function<void()>> steps{
+        [&] { QTest::keyClick(table(), Qt::Key_N, Qt::ControlModifier); }};
+    for (const char* wrong : {"boh", ""}) {
+        steps.emplace_back([this, wrong] {
+            ASSERT_EQ(front(), "mirorcx");
+            app.mirorcx->Text3[1].set_text(wrong);
+            auto* picker = bench.find<QDateEdit>("text5(0)");
+            QTest::mousePress(picker, Qt::LeftButton, {}, QPoint(picker->width() / 2, 10));
+            ASSERT_TRUE(picker->calendarWidget()->isVisible());
+            click_day(*picker, 15);
+            EXPECT_EQ(text("Text3(1)"), "15/04/2025") << wrong;
+            picker->calendarWidget()->window()->close();
+            bench.front.front_window()->activateWindow();
+        });
+    }
+    run(steps);
 }
 
 }  // namespace

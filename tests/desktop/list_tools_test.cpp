@@ -106,6 +106,12 @@ TEST_F(list_tools, TheListIsSavedAsCsv) {
             auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
             ASSERT_TRUE(dialog);
             dialog->selectFile(file);
+            QTimer::singleShot(50, [&] {
+                auto* told = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+                ASSERT_TRUE(told);
+                EXPECT_EQ(told->text(), "Salvato in " + file);
+                QTest::keyClick(told, Qt::Key_Escape);
+            });
             QMetaObject::invokeMethod(dialog, "accept");
         });
         QTest::keyClick(table(), Qt::Key_E, Qt::ControlModifier | Qt::ShiftModifier);

@@ -2,6 +2,7 @@
 
 #include <QDialog>
 #include <QPrintPreviewWidget>
+#include <QProgressDialog>
 
 #include "desktop/printing/system_printer.h"
 #include "desktop/system_launcher.h"
@@ -153,6 +154,32 @@ TEST_F(printing, EachJobAsksForItsFileAndADroppedOneLeavesNothing) {
     EXPECT_GT(wide.width(), wide.height());
 }
 
+TEST_F(printing, ALongJobThatIsStoppedLeavesNothing) {
+    vantora::test::put(folder.path() / "c'era.pdf", "di prima");
+    system_printer paper([&](const QString&) { return file("c'era.pdf"); }, {});
+    const auto stop = [] {
+        for (QWidget* open : QApplication::topLevelWidgets()) {
+            if (auto* shown = qobject_cast<QProgressDialog*>(open)) shown->cancel();
+        }
+    };
+    for (const bool while_drawing : {false, true}) {
+        bool goes_on = true;
+        for (int line = 0; line < 40 && goes_on; ++line) {
+            paper.text(20, 20, "riga", {}, 0);
+            paper.new_page();
+            if (!while_drawing && line == 20) stop();
+            goes_on = paper.goes_on(line / 40.0);
+        }
+        EXPECT_EQ(goes_on, while_drawing);
+        if (while_drawing) stop();
+        goes_on ? paper.end_job() : paper.drop_job();
+        EXPECT_EQ(vantora::test::bytes_of(folder.path() / "c'era.pdf"), "di prima");
+    }
+    paper.text(20, 20, "ultima", {}, 0);
+    paper.end_job();
+    EXPECT_TRUE(printed("c'era.pdf").has_pages(1));
+}
+
 TEST_F(printing, AJobThatIsSeenFirstIsPrintedAsAnyOther) {
     QStringList asked;
     system_printer paper(
@@ -181,6 +208,7 @@ TEST_F(printing, AJobThatIsSeenFirstIsPrintedAsAnyOther) {
         paper.set_orientation(printer::upright);
         paper.end_job();
         EXPECT_EQ(asked.size(), print ? 1 : 0);
+        EXPECT_EQ(paper.last_job_unwanted(), !print);
     }
     EXPECT_EQ(shown_pages, 2);
     EXPECT_EQ(paper.orientation(), printer::upright);

@@ -59,7 +59,7 @@ class line_history_session : public testing::TestWithParam<unsigned> {
             case 3:
                 return on.riordina.click();
             case 4:
-                return on.artic[row].on_paste_lines("A100;2\nB200;3;7,5", {});
+                return on.artic[row].on_paste_lines({"A100;2\nB200;3;7,5"}, {});
             case 5:
                 on.VScroll1.drag(1 + static_cast<int>(below(20)));
                 return;

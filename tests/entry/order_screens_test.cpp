@@ -121,6 +121,29 @@ TEST(order_screens, WhateverRefusesIsTold) {
     }
 }
 
+TEST(mirorcs, APersonIsAskedAboutAnOrderWithoutLinesOrCustomerAndGetsTheArticleInTheCell) {
+    edited_company company;
+    order_station at(company);
+    at.desk.guards().switch_to(true);
+    const auto orders = company.counter_now(contatori::ordini).quanti;
+    at.desk.dispatch([&] {
+        at.app.mirorc->bottone[2].click();
+        at.app.mirorcx->bottone.click();
+        at.app.mirorcs->comando[1].click();
+        EXPECT_EQ(at.front.told.back(), "L'ordine non ha righe. Salvarlo lo stesso?");
+        ui::text_box& code = at.app.mirorcs->artic[0];
+        code.set_focus();
+        for (const char one : {'A', '2'}) code.press_key(ui::key::of(one), one);
+        code.set_text("A1");
+        code.on_edited();
+        code.press_key(ui::key::enter, '\r');
+        EXPECT_EQ(code.text(), "A1");
+        at.app.mirorcs->comando[1].click();
+    });
+    EXPECT_NE(at.front.told.back().find("cliente"), std::string::npos);
+    EXPECT_EQ(company.counter_now(contatori::ordini).quanti, orders);
+}
+
 TEST(mirorcz, NewLinesOfAMovedOrderAreThoseOfItsNewCustomer) {
     edited_company company;
     rec_cli moved_to = customer_named("VERDI SRL");

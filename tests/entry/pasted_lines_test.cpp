@@ -36,6 +36,10 @@ TEST(PastedLines, ColumnsSeparatorsAndNumbersOfSpreadsheetsAreRead) {
                  {";3\nA;dieci\nA;1;2;3;4;5\nA;1;40000;2\nA;1,2,3\nA;1;1+2;3;4",
                   {"1|||||!code", "2|A||||!number", "3|||||!columns", "4|A|1|||2!number",
                    "5|A||||!number", "6|A|1|1|2|4!number"}}};
+    const auto commas = read_pasted_lines("\"A, b\",2,3.5\nB,3", true);
+    EXPECT_EQ(told(commas.at(0)) + told(commas.at(1)), "1|A, b|2|||3.52|B|3|||");
+    EXPECT_EQ(told(read_pasted_lines("AB 1,5\nC  2,5", true).at(0)), "1|AB|1.5|||");
+    EXPECT_EQ(told(read_pasted_lines("M6,5\nM6,8").at(0)), "1|M6,5||||") << "a code's own comma";
     for (const auto& one : cases) {
         const auto read = read_pasted_lines(one.text);
         ASSERT_EQ(read.size(), one.lines.size()) << one.text;

@@ -226,6 +226,13 @@ TEST(mirorca, ClosingWritesNothingAndBoxesStayTickedUntilThen) {
     EXPECT_EQ(stage.faults.writes, writes);
     EXPECT_EQ(stage.desk.active()->name(), "mirorc");
     EXPECT_FALSE(stage.app.mirorca.loaded());
+
+    document_stage guarded;
+    guarded.desk.guards().switch_to(true);
+    guarded.front.decide = [] { return false; };
+    guarded.desk.dispatch([&] { guarded.desk.close(guarded.screen()); });
+    EXPECT_TRUE(guarded.front.told.back().ends_with("senza movimento e senza documento."));
+    EXPECT_TRUE(guarded.screen().visible());
 }
 
 }  // namespace

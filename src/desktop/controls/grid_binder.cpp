@@ -181,13 +181,16 @@ class grid_binder final : public binder {
 
     /// Where the view wants it, the mark goes with its entry, and to a newer entry than there was.
     void keep_mark() {
-        if (!view_->keeps_mark() || !model_.visible() || model_.rows() == 1) return;
+        // What stood there before the view was told to is no newer entry later.
+        if (!view_->keeps_mark() && newest_ > 0) return;
+        if (!model_.visible() || model_.rows() == 1) return;
         const int filled = cells_->last_filled();
         const int newest = row_of_newest(filled);
         if (newest == 0) return;
         const double number = number_of(newest);
         int row = newest_ > 0 && number > newest_ ? newest : 1;
         newest_ = number;
+        if (!view_->keeps_mark()) return;
         while (row != newest && row <= filled && model_.text(row, 0) != marked_) ++row;
         if (row > filled) return;
         marked_ = model_.text(row, 0);

@@ -39,16 +39,19 @@ std::optional<std::string> lines_of_file(const QString& file, QWidget* above) {
         tell(QString::fromUtf8(words::cannot_read).arg(file, why), above);
         return {};
     }
-    return decoded(source.readAll());
+    std::string text = decoded(source.readAll());
+    if (text.find_first_not_of(" \t\r\n") != std::string::npos) return text;
+    tell(QString::fromUtf8(words::empty_file).arg(file), above);
+    return {};
 }
 
-void paste_lines(text_box& field, const std::string& text, QWidget* above) {
+void paste_lines(text_box& field, const pasted_text& pasted, QWidget* above) {
     QProgressDialog progress(QString::fromUtf8(words::pasting), QString::fromUtf8(words::break_off),
                              0, 1, above);
     progress.setWindowTitle(QString::fromUtf8(words::paste_lines));
     progress.setWindowModality(Qt::ApplicationModal);
     progress.setMinimumDuration(400);
-    field.on_paste_lines(text, [&progress](int done, int of) {
+    field.on_paste_lines(pasted, [&progress](int done, int of) {
         progress.setMaximum(of);
         progress.setValue(done);
         return !progress.wasCanceled();

@@ -19,6 +19,6 @@ std::optional<std::string> lines_of_file(const QString& file, QWidget* above);
 
 /// Pastes lines into a field that takes them; where it takes long, the user sees how far it is and
 /// may break it off.
-void paste_lines(text_box& field, const std::string& text, QWidget* above);
+void paste_lines(text_box& field, const pasted_text& pasted, QWidget* above);
 
 }  // namespace vantora::ui::desktop

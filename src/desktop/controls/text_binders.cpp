@@ -51,7 +51,7 @@ class text_box_binder final : public binder {
         act([&] {
             const std::string_view lines = put_in(before, put);
             if (model_.on_paste_lines && holds_pasted_lines(lines)) {
-                return paste_lines(model_, std::string(lines), edit_->window());
+                return paste_lines(model_, {lines}, edit_->window());
             }
             const auto admitted = model_.accepts.admit(before, kept);
             if (!admitted || kept.size() != static_cast<std::size_t>(text.size())) {
@@ -68,8 +68,9 @@ class text_box_binder final : public binder {
     // A text that comes while the field is worked on is there to be typed over; one that the
     // hand itself typed stays with the cursor in it.
     void show_value(aspect) override {
-        const QString text = to_qt(model_.text());
-        if (edit_->text() == text) return;
+        const QString text = shown();
+        const bool as_typed = behind_cursor_ && edit_->text() == to_qt(model_.text());
+        if (as_typed || edit_->text() == text) return;
         edit_->setText(text);
         mark_wrong(false);
         if (behind_cursor_) {
@@ -79,6 +80,13 @@ class text_box_binder final : public binder {
         } else {
             edit_->setCursorPosition(0);
         }
+    }
+
+    /// Decimals stand behind a comma for the eye, as in totals.
+    [[nodiscard]] QString shown() const {
+        QString text = to_qt(model_.text());
+        const bool plain = by_person() && model_.accepts.plain && text.count('.') == 1;
+        return plain && !text.contains(',') ? text.replace('.', ',') : text;
     }
 
     /// A day or a number is written out when its field is left.
@@ -147,7 +155,7 @@ class text_box_binder final : public binder {
         if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) take_own_comma();
         if (event.matches(QKeySequence::Paste) && model_.on_paste_lines) {
             if (const auto lines = lines_on_clipboard()) {
-                act([&] { paste_lines(model_, *lines, edit_->window()); });
+                act([&] { paste_lines(model_, {*lines}, edit_->window()); });
                 return true;
             }
         }

@@ -9,6 +9,7 @@
 #include <QStandardPaths>
 #include <cstdio>
 
+#include "desktop/dialogs/file_showing.h"
 #include "desktop/look/box_look.h"
 #include "desktop/look/words.h"
 
@@ -79,15 +80,21 @@ QString ask_what_to_open(const QString& title, const file_kind& kind, QWidget* a
     return run_dialog(dialog, kind, words::open);
 }
 
-void save_whole(const QString& file, const QByteArray& content, QWidget* above) {
+QString write_whole(const QString& file, const QByteArray& content) {
     // A new file takes the place of a link, once it is whole, and is never written through it.
     const bool link = QFileInfo(file).isSymLink();
     QSaveFile target(link ? file + ".nuovo" : file);
     if (target.open(QIODevice::WriteOnly) && target.write(content) == content.size() &&
         target.commit() && (!link || put_in_place(target.fileName(), file))) {
-        return;
+        return {};
     }
-    tell(QString::fromUtf8(words::cannot_write).arg(file, target.errorString()), above);
+    return target.errorString();
+}
+
+void save_whole(const QString& file, const QByteArray& content, QWidget* above) {
+    const QString why = write_whole(file, content);
+    if (why.isEmpty()) return tell_saved(file, above);
+    tell(QString::fromUtf8(words::cannot_write).arg(file, why), above);
 }
 
 void tell(const QString& what, QWidget* above) {

@@ -32,8 +32,10 @@ QString ask_where_to_save(const QString& title, const QString& called, const fil
 /// A file to read, chosen by the user; empty for none.
 QString ask_what_to_open(const QString& title, const file_kind& kind, QWidget* above);
 
-/// Gives a file its content in one step, when all of it is on the disk; if that can't be, what
-/// stands there stays, and the user is told why.
+/// Gives a file its content in one step, when all of it is on the disk. If that can't be, what
+/// stands there stays, and why is returned; empty for done.
+QString write_whole(const QString& file, const QByteArray& content);
+/// The same, and the user is told where the file is or why it isn't.
 void save_whole(const QString& file, const QByteArray& content, QWidget* above);
 
 /// A box with a warning.

@@ -28,6 +28,7 @@ class calm_style final : public QProxyStyle {
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* result) const override {
         if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+        if (hint == SH_ComboBox_Popup) return 0;  // a dozen entries, not the whole screen
         return QProxyStyle::styleHint(hint, option, widget, result);
     }
     int pixelMetric(PixelMetric metric, const QStyleOption* option,
@@ -94,7 +95,7 @@ QLineEdit, QComboBox, QDateEdit { min-height: 18px; border: 1px solid #84919d; b
                        background: white; selection-background-color: #2f6ea5; }
 QLineEdit:focus, QComboBox:focus, QDateEdit:focus { border: 1px solid #2f6ea5;
                        background: #f4f9ff; }
-QComboBox { padding: 2px 5px 2px 7px; }
+QComboBox { padding: 3px 5px 3px 7px; }
 QComboBox::drop-down, QDateEdit::drop-down { border: none; width: 22px; }
 QComboBox::down-arrow, QDateEdit::down-arrow { image: url(:/icons/giu.svg); width: 12px;
                        height: 12px; }

@@ -13,6 +13,8 @@ inline constexpr const char* company = "Di&tta";
 inline constexpr const char* no_company =
     "In questa cartella non ci sono ditte della suite. Scelga con Cartella quella che contiene "
     "mirwin, o cominci con una ditta di prova.";
+inline constexpr const char* no_such_folder = "La cartella %1 non esiste.";
+inline constexpr const char* several_drives = "Qui sotto ci sono più dischi della suite: %1";
 inline constexpr const char* trial_company = "Ditta di &prova";
 inline constexpr const char* no_trial_company = "La ditta di prova non si può creare in %1.";
 
@@ -56,6 +58,16 @@ inline constexpr const char* save = "&Salva";
 inline constexpr const char* open = "&Apri";
 inline constexpr const char* cancel = "A&nnulla";
 inline constexpr const char* pdf_files = "Documenti PDF";
+inline constexpr const char* text_files = "File di testo";
+inline constexpr const char* save_text = "Salva l'elenco";
+inline constexpr const char* empty_file = "Il file %1 è vuoto.";
+inline constexpr const char* saved = "Salvato";
+inline constexpr const char* saved_in = "Salvato in %1";
+inline constexpr const char* open_folder = "Apri la &cartella";
+inline constexpr const char* no_viewer =
+    "Su questo computer nessun programma apre il file %1. Si apre la sua cartella.";
+inline constexpr const char* no_folder_viewer =
+    "Su questo computer nessun programma mostra la cartella %1";
 
 // Lines of an order ------------------------------------------------------------------------------
 
@@ -89,6 +101,8 @@ inline constexpr const char* page_before = "Precedente";
 inline constexpr const char* page_after = "Seguente";
 inline constexpr const char* page_of = "Pagina %1 di %2";
 inline constexpr const char* close_preview = "Chiudi";
+inline constexpr const char* no_drawing = "le pagine non si disegnano";
+inline constexpr const char* printing = "Stampa di %1";
 
 // Keys and manual --------------------------------------------------------------------------------
 

@@ -25,20 +25,12 @@ void save_as_pdf(const recorded_pages& pages, const QPrinter& like, const QStrin
     const QString file = ask_where_to_save(QString::fromUtf8(words::save_pdf), called,
                                            {QString::fromUtf8(words::pdf_files), "pdf"}, above);
     if (file.isEmpty()) return;
-    QBuffer pdf;
-    pdf.open(QIODevice::WriteOnly);
-    QPdfWriter paper(&pdf);
-    paper.setResolution(like.resolution());
-    QPageLayout sheet = like.pageLayout();
-    sheet.setMode(QPageLayout::FullPageMode);
-    sheet.setMargins({});
-    paper.setPageLayout(sheet);
-    paper.setTitle(called);
-    paper.setCreator("Vantora Ordini");
-    if (!draw_pages(pages, paper)) {
-        return tell(QString::fromUtf8(words::cannot_write).arg(file, QString()), above);
-    }
-    save_whole(file, pdf.data(), above);
+    const auto pdf = pdf_of(pages, like, called, {});
+    if (!pdf)
+        return tell(
+            QString::fromUtf8(words::cannot_write).arg(file, QString::fromUtf8(words::no_drawing)),
+            above);
+    save_whole(file, *pdf, above);
 }
 
 /// The dialog's bar of commands.
@@ -112,15 +104,34 @@ void fill(preview_bar& bar, QPrintPreviewWidget& view, QDialog& dialog,
 
 }  // namespace
 
-bool draw_pages(const recorded_pages& pages, QPagedPaintDevice& on) {
-    QPainter painter;
-    if (!painter.begin(&on)) return false;
+bool draw_pages(const recorded_pages& pages, QPainter& painter, QPagedPaintDevice& on,
+                const draws_on& goes_on) {
     page_painter page(painter);
     for (std::size_t i = 0; i < pages.count(); ++i) {
+        if (goes_on && !goes_on(static_cast<double>(i) / static_cast<double>(pages.count()))) {
+            return false;
+        }
         if (i > 0) on.newPage();
         pages.draw(i, page);
     }
-    return painter.end();
+    return true;
+}
+
+std::optional<QByteArray> pdf_of(const recorded_pages& pages, const QPrinter& like,
+                                 const QString& called, const draws_on& goes_on) {
+    QBuffer pdf;
+    pdf.open(QIODevice::WriteOnly);
+    QPdfWriter paper(&pdf);
+    paper.setResolution(like.resolution());
+    QPageLayout sheet = like.pageLayout();
+    sheet.setMode(QPageLayout::FullPageMode);
+    sheet.setMargins({});
+    paper.setPageLayout(sheet);
+    paper.setTitle(called);
+    paper.setCreator("Vantora Ordini");
+    QPainter painter;
+    const bool drawn = painter.begin(&paper) && draw_pages(pages, painter, paper, goes_on);
+    return painter.end() && drawn ? std::optional(pdf.data()) : std::nullopt;
 }
 
 bool wants_printed(const recorded_pages& pages, QPrinter& printer, const QString& called,
@@ -133,8 +144,10 @@ bool wants_printed(const recorded_pages& pages, QPrinter& printer, const QString
     dialog.setWindowFlag(Qt::WindowMaximizeButtonHint);
     auto* view = new QPrintPreviewWidget(&printer, &dialog);
     view->setAccessibleName(QString::fromUtf8(words::preview));
-    QObject::connect(view, &QPrintPreviewWidget::paintRequested, &dialog,
-                     [&pages](QPrinter* on) { draw_pages(pages, *on); });
+    QObject::connect(view, &QPrintPreviewWidget::paintRequested, &dialog, [&pages](QPrinter* on) {
+        QPainter painter(on);
+        draw_pages(pages, painter, *on, {});
+    });
     auto* bar = new preview_bar(*view, &dialog);
     fill(*bar, *view, dialog, [&] { save_as_pdf(pages, printer, called, &dialog); });
     QObject::connect(view, &QPrintPreviewWidget::previewChanged, bar, &preview_bar::show_page);

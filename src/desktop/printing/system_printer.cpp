@@ -15,6 +15,7 @@
 #include "desktop/dialogs/file_dialog.h"
 #include "desktop/look/words.h"
 #include "desktop/printing/print_preview.h"
+#include "desktop/printing/print_progress.h"
 #include "ui/paper/toolkit_values.h"
 
 namespace vantora::ui::desktop {
@@ -46,97 +47,87 @@ void tell_by_box(const QString& why) {
 
 }  // namespace
 
-/// A job that is printed; without a painter, one that is dropped.
+/// What is drawn until the job ends. Nothing reaches the printer before, so that a job can be
+/// stopped as long as it is composed.
 struct system_printer::job {
-    std::unique_ptr<QPainter> painter;
-    std::unique_ptr<page_painter> page;
+    recorded_pages pages;
+    int orientation = upright;
+    bool dropped = false;  ///< its user named no file
 };
 
 system_printer::system_printer()
-    : printer_(QPrinter::HighResolution),
+    : printer_(std::make_unique<QPrinter>(QPrinter::HighResolution)),
       ask_(ask_by_dialog),
       tell_(tell_by_box),
       job_name_(words::nameless_job) {
-    printer_.setPageSize(QPageSize(QPageSize::A4));
-    printer_.setFullPage(true);
-    printer_.setDocName("Vantora Ordini");
+    printer_->setPageSize(QPageSize(QPageSize::A4));
+    printer_->setFullPage(true);
+    printer_->setDocName("Vantora Ordini");
     preview_ = QSettings().value(preview_setting).toBool();
 }
 
 system_printer::system_printer(ask_for_file ask, tell_failure tell) : system_printer() {
     ask_ = std::move(ask);
     tell_ = std::move(tell);
-    printer_.setOutputFormat(QPrinter::PdfFormat);
+    printer_->setOutputFormat(QPrinter::PdfFormat);
     preview_ = false;
 }
 
 system_printer::~system_printer() = default;
 
 int system_printer::orientation() const {
-    return printer_.pageLayout().orientation() == QPageLayout::Portrait ? upright : landscape;
+    return printer_->pageLayout().orientation() == QPageLayout::Portrait ? upright : landscape;
 }
 
 void system_printer::set_orientation(int orientation) {
-    printer_.setPageOrientation(orientation == landscape ? QPageLayout::Landscape
-                                                         : QPageLayout::Portrait);
+    printer_->setPageOrientation(orientation == landscape ? QPageLayout::Landscape
+                                                          : QPageLayout::Portrait);
 }
 
 double system_printer::page_width() const {
-    return printer_.pageLayout().fullRect(QPageLayout::Millimeter).width();
+    return printer_->pageLayout().fullRect(QPageLayout::Millimeter).width();
 }
 
 double system_printer::page_height() const {
-    return printer_.pageLayout().fullRect(QPageLayout::Millimeter).height();
+    return printer_->pageLayout().fullRect(QPageLayout::Millimeter).height();
 }
 
 double system_printer::text_width(std::string_view text, const font& in) const {
-    return page_text_width(text, in, printer_);
+    return page_text_width(text, in, *printer_);
 }
 
-void system_printer::begin_job() {
+system_printer::job& system_printer::drawn() {
+    if (job_) return *job_;
+    unwanted_ = false;
     job_ = std::make_unique<job>();
-    const bool to_file = printer_.outputFormat() == QPrinter::PdfFormat ||
-                         QPrinterInfo::availablePrinterNames().isEmpty();
-    if (to_file && printer_.outputFileName().isEmpty()) {
-        const QString file = ask_(job_name_);
-        if (file.isEmpty() || !open_file(file)) return;
-        printer_.setOutputFormat(QPrinter::PdfFormat);
-        printer_.setOutputFileName(file);
-    }
-    printer_.setFullPage(true);
-    auto painter = std::make_unique<QPainter>();
-    if (!painter->begin(&printer_)) {
-        tell_(QString::fromUtf8(words::cannot_print) + printer_.printerName());
-        return;
-    }
-    job_->page = std::make_unique<page_painter>(*painter);
-    job_->painter = std::move(painter);
+    job_->orientation = orientation();
+    job_->dropped = !shows_first() && !choose_target();
+    return *job_;
 }
 
-bool system_printer::open_file(const QString& file) {
-    QFile target(file);
-    if (target.open(QIODevice::ReadWrite)) return true;
-    tell_(QString::fromUtf8(words::cannot_write).arg(file, target.errorString()));
-    return false;
+bool system_printer::prints_into_file() const {
+    return printer_->outputFormat() == QPrinter::PdfFormat ||
+           QPrinterInfo::availablePrinterNames().isEmpty();
 }
 
-page_painter* system_printer::page() {
-    if (!job_) {
-        begin_job();
-    } else if (page_ended_ && job_->page) {
-        printer_.newPage();
+bool system_printer::choose_target() {
+    if (!prints_into_file()) return true;
+    target_ = printer_->outputFileName();
+    if (target_.isEmpty()) target_ = ask_(job_name_);
+    if (target_.isEmpty()) return false;
+    const bool is_new = !QFile::exists(target_);
+    QFile target(target_);
+    if (!target.open(QIODevice::ReadWrite)) {
+        tell_(QString::fromUtf8(words::cannot_write).arg(target_, target.errorString()));
+        return false;
     }
-    page_ended_ = false;
-    return job_->page.get();
+    if (is_new) target.remove();
+    return true;
 }
 
 void system_printer::put(recorded_pages::mark mark) {
-    if (shows_first()) {
-        if (recorded_.count() == 0) recorded_orientation_ = orientation();
-        recorded_.add(std::move(mark));
-    } else if (page_painter* on = page()) {
-        mark(*on);
-    }
+    job& at_hand = drawn();
+    if (!at_hand.dropped) at_hand.pages.add(std::move(mark));
 }
 
 void system_printer::text(double x, double y, std::string_view text, const font& in, colour ink) {
@@ -157,45 +148,79 @@ void system_printer::picture(double x, double y, double side,
 }
 
 void system_printer::new_page() {
-    if (shows_first()) {
-        if (recorded_.count() == 0) recorded_orientation_ = orientation();
-        return recorded_.end_page();
-    }
-    if (page_ended_ || !job_) page();
-    page_ended_ = true;
+    job& at_hand = drawn();
+    if (!at_hand.dropped) at_hand.pages.end_page();
 }
 
-/// What was recorded is shown, and goes the way of any other job if the user wants it.
-void system_printer::print_recorded() {
-    const int now = orientation();
-    set_orientation(recorded_orientation_);
-    printer_.setFullPage(true);
-    recorded_pages pages = std::exchange(recorded_, {});
-    pages.add_to_last(note_mark());
-    if (wants_printed(pages, printer_, job_name_, QApplication::activeWindow())) {
-        begin_job();
-        for (std::size_t i = 0; i < pages.count() && job_->page; ++i) {
-            if (i > 0) printer_.newPage();
-            pages.draw(i, *job_->page);
-        }
-    }
-    set_orientation(now);
+bool system_printer::goes_on(double done) {
+    if (job_ && job_->dropped) return false;
+    if (!progress_) progress_ = std::make_unique<print_progress>(job_name_);
+    // What is drawn here is only half done when it is composed.
+    const bool on = progress_->shows(job_ ? done / 2 : done);
+    if (!on || (done >= 1 && !job_)) progress_.reset();
+    return on;
+}
+
+void system_printer::drop_job() {
+    job_.reset();
+    end_job();
 }
 
 void system_printer::end_job() {
+    const std::unique_ptr<job> ended = std::move(job_);
+    if (ended && !ended->dropped) print(*ended);
     preview_next_ = false;
-    if (recorded_.count() > 0) {
-        print_recorded();
-    } else if (!job_) {
-        return;
-    } else if (job_->page) {
-        note_mark()(*job_->page);
-    }
-    job_.reset();
+    progress_.reset();
     job_name_ = words::nameless_job;
-    page_ended_ = false;
     // The next document must not take this one's place.
-    if (printer_.outputFormat() == QPrinter::PdfFormat) printer_.setOutputFileName(QString());
+    if (printer_->outputFormat() == QPrinter::PdfFormat) printer_->setOutputFileName(QString());
+}
+
+void system_printer::print(job& ended) {
+    const int now = orientation();
+    set_orientation(ended.orientation);
+    printer_->setFullPage(true);
+    ended.pages.add_to_last(note_mark());
+    if (shows_first()) {
+        progress_.reset();
+        unwanted_ = !wants_printed(ended.pages, *printer_, job_name_, QApplication::activeWindow());
+    }
+    const bool chosen = !shows_first() || (!unwanted_ && choose_target());
+    if (chosen) prints_into_file() ? print_into_file(ended.pages) : print_on_paper(ended.pages);
+    set_orientation(now);
+}
+
+draws_on system_printer::shown_drawing() {
+    return [this](double done) {
+        if (!progress_) progress_ = std::make_unique<print_progress>(job_name_);
+        unwanted_ = !progress_->shows((1 + done) / 2);
+        return !unwanted_;
+    };
+}
+
+void system_printer::print_into_file(const recorded_pages& pages) {
+    const auto pdf = pdf_of(pages, *printer_, job_name_, shown_drawing());
+    if (unwanted_) return;
+    const QString why = pdf ? write_whole(target_, *pdf) : QString::fromUtf8(words::no_drawing);
+    if (!why.isEmpty()) tell_(QString::fromUtf8(words::cannot_write).arg(target_, why));
+}
+
+void system_printer::print_on_paper(const recorded_pages& pages) {
+    auto painter = std::make_unique<QPainter>();
+    if (!painter->begin(printer_.get())) {
+        return tell_(QString::fromUtf8(words::cannot_print) + printer_->printerName());
+    }
+    if (draw_pages(pages, *painter, *printer_, shown_drawing())) return;
+    // The toolkit hands to the printing system what it holds, however its painter ends: neither
+    // may end.
+    QPrinter* given_up = printer_.release();
+    painter.release();
+    printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    printer_->setPrinterName(given_up->printerName());
+    printer_->setPageLayout(given_up->pageLayout());
+    printer_->setCopyCount(given_up->copyCount());
+    printer_->setDuplex(given_up->duplex());
+    printer_->setColorMode(given_up->colorMode());
 }
 
 recorded_pages::mark system_printer::note_mark() const {
@@ -210,11 +235,11 @@ recorded_pages::mark system_printer::note_mark() const {
 void system_printer::set_job_name(std::string_view name) {
     job_name_ = to_qt(name).replace('/', '-').trimmed();
     if (job_name_.isEmpty()) job_name_ = words::nameless_job;
-    printer_.setDocName(job_name_);
+    printer_->setDocName(job_name_);
 }
 
 bool system_printer::choose_settings() {
-    QPrintDialog dialog(&printer_, QApplication::activeWindow());
+    QPrintDialog dialog(printer_.get(), QApplication::activeWindow());
     dialog.setWindowTitle(words::printer_settings);
     dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize);
     auto* preview = new QCheckBox(QString::fromUtf8(words::preview_first), &dialog);
@@ -230,7 +255,7 @@ bool system_printer::choose_settings() {
     const bool asks = QPrinterInfo::availablePrinterNames().isEmpty();
     if (asks) QTimer::singleShot(0, &dialog, [&dialog] { hide_file(dialog); });
     if (dialog.exec() != QDialog::Accepted) return false;
-    if (asks) printer_.setOutputFileName(QString());
+    if (asks) printer_->setOutputFileName(QString());
     preview_ = preview->isChecked();
     QSettings().setValue(preview_setting, preview_);
     return true;

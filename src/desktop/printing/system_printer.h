@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 
+#include "desktop/printing/print_preview.h"
 #include "ui/paper/recorded_pages.h"
 #include "ui/printer.h"
 
@@ -15,6 +16,8 @@ namespace vantora::ui::desktop {
 using ask_for_file = std::function<QString(const QString& proposed)>;
 /// Tells the user why a job isn't printed.
 using tell_failure = std::function<void(const QString& why)>;
+
+class print_progress;
 
 /// The system's printer. Where there is none, each job asks for a PDF file and goes there; a user
 /// who names none drops the job.
@@ -46,35 +49,41 @@ class system_printer final : public printer {
     void set_job_name(std::string_view name) override;
     void set_note(std::string_view note) override { note_ = note; }
     void preview_next_job() override { preview_next_ = true; }
+    bool goes_on(double done) override;
+    void drop_job() override;
+    [[nodiscard]] bool last_job_unwanted() const override { return unwanted_; }
     bool choose_settings() override;
 
  private:
     struct job;
 
-    [[nodiscard]] bool shows_first() const { return (preview_ || preview_next_) && !job_; }
-    /// Keeps or draws a mark.
+    [[nodiscard]] bool shows_first() const { return preview_ || preview_next_; }
+    /// The job at hand, begun if there is none.
+    job& drawn();
     void put(recorded_pages::mark mark);
-    /// The page to draw on; begins the job or the page if none is open. Null if the job is
-    /// dropped.
-    page_painter* page();
-    void begin_job();
+    [[nodiscard]] bool prints_into_file() const;
+    /// Where the job goes. False, with the user told why, if it goes nowhere.
+    bool choose_target();
     /// The note as a mark under everything else.
     [[nodiscard]] recorded_pages::mark note_mark() const;
-    void print_recorded();
-    /// False, with the user told, if the file can't be written.
-    bool open_file(const QString& file);
+    /// Shows its pages first, where they are to be seen.
+    void print(job& ended);
+    void print_into_file(const recorded_pages& pages);
+    void print_on_paper(const recorded_pages& pages);
+    /// Shows how far the drawing is.
+    draws_on shown_drawing();
 
-    mutable QPrinter printer_;
+    std::unique_ptr<QPrinter> printer_;
     ask_for_file ask_;
     tell_failure tell_;
     QString job_name_;
     std::string note_;
     std::unique_ptr<job> job_;
-    bool page_ended_ = false;  ///< the next mark begins a new page
+    QString target_;  ///< the file that the job goes into
+    std::unique_ptr<print_progress> progress_;
+    bool unwanted_ = false;  ///< the last job, by its user who saw it
     bool preview_ = false;
     bool preview_next_ = false;  ///< of one job
-    recorded_pages recorded_;    ///< of the job at hand, if it is to be seen first
-    int recorded_orientation_ = upright;
 };
 
 }  // namespace vantora::ui::desktop

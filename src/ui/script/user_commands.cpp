@@ -124,7 +124,7 @@ void interpreter::paste(const words& line) {
     if (!field.on_paste_lines || !holds_pasted_lines(text)) return set(line);
     act([&] {
         field.set_focus();
-        if (field.has_focus()) field.on_paste_lines(text, {});
+        if (field.has_focus()) field.on_paste_lines({text}, {});
     });
 }
 

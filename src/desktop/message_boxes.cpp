@@ -1,0 +1,112 @@
+#include "desktop/message_boxes.h"
+
+#include <QKeyEvent>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include "desktop/look/box_look.h"
+#include "desktop/look/words.h"
+#include "ui/paper/toolkit_values.h"
+
+namespace vantora::ui::desktop {
+
+namespace {
+
+constexpr char answer_property[] = "answer";
+
+struct box_button {
+    QString caption;
+    QMessageBox::ButtonRole role;
+    answer gives;
+};
+
+/// In the order shown; the last one is what Escape gives.
+std::vector<box_button> buttons_of(const message_box& box) {
+    switch (box.buttons) {
+        case buttons::ok:
+            return {{"OK", QMessageBox::AcceptRole, answer::ok}};
+        case buttons::yes_no:
+            return {{QString::fromUtf8("&Sì"), QMessageBox::YesRole, answer::yes},
+                    {"&No", QMessageBox::NoRole, answer::no}};
+        case buttons::choice:
+            break;
+    }
+    std::vector<box_button> all;
+    for (const std::string& caption : box.choices) {
+        all.push_back(
+            {to_qt(caption), QMessageBox::ActionRole, static_cast<answer>(all.size() + 1)});
+    }
+    return all;
+}
+
+/// A bar code that is read while a box is open doesn't answer it by its Enter: the box shows it.
+class read_meanwhile final : public QObject {
+ public:
+    explicit read_meanwhile(QMessageBox& box) : QObject(&box), box_(box) {
+        box.installEventFilter(this);
+        for (QAbstractButton* one : box.buttons()) one->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() != QEvent::KeyPress) return false;
+        const auto& key = static_cast<QKeyEvent&>(*event);
+        if (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter) {
+            if (!open_) return false;
+            open_ = false;
+            box_.setInformativeText(QString::fromUtf8(words::read_meanwhile).arg(read_.trimmed()));
+            read_ += ' ';
+            return true;
+        }
+        const QString typed = key.text();
+        if (typed.size() != 1 || !typed[0].isDigit()) return false;
+        read_ += typed;
+        open_ = true;
+        return true;
+    }
+
+ private:
+    QMessageBox& box_;
+    QString read_;
+    bool open_ = false;  ///< digits came, and no Enter behind them yet
+};
+
+}  // namespace
+
+void message_boxes::open(const message_box& box, QWidget* above, std::function<void(answer)> give) {
+    auto* shown = new QMessageBox(above);
+    shown->setWindowTitle(to_qt(box.title));
+    shown->setTextFormat(Qt::PlainText);
+    shown->setText(to_qt_lines(box.text));
+    for (const box_button& one : buttons_of(box)) {
+        QPushButton* button = shown->addButton(one.caption, one.role);
+        button->setProperty(answer_property, static_cast<int>(one.gives));
+        if (one.gives == box.proposed || box.buttons == buttons::ok) {
+            shown->setDefaultButton(button);
+        }
+        shown->setEscapeButton(button);  // the last one stays
+    }
+    new read_meanwhile(*shown);
+    dress_box(*shown, box.icon);
+    shown->setWindowModality(Qt::ApplicationModal);
+    QObject::connect(shown, &QMessageBox::finished, shown, [shown, give = std::move(give)] {
+        const QAbstractButton* clicked = shown->clickedButton();
+        if (!clicked) clicked = shown->escapeButton();
+        give(static_cast<answer>(clicked->property(answer_property).toInt()));
+    });
+    open_.push_back(shown);
+    shown->show();
+}
+
+void message_boxes::close_front() {
+    QMessageBox* box = open_.back();
+    open_.pop_back();
+    QObject::disconnect(box, &QMessageBox::finished, nullptr, nullptr);
+    box->hide();
+    box->deleteLater();
+}
+
+QWidget* message_boxes::front() const {
+    return open_.back();
+}
+
+}  // namespace vantora::ui::desktop
