@@ -2,8 +2,8 @@
 
 #include "customer/customer_fields.h"
 #include "customer/shipping_data.h"
-#include "documents/ddt_snapshot_reader.h"
 #include "documents/pdf_handoff.h"
+#include "orders/ddt_snapshot.h"
 #include "orders/stored_lines.h"
 #include "orders/totals.h"
 #include "store/records/order_block.h"

@@ -1,9 +1,9 @@
 #include "enquiry/documenti.h"
 
-#include "documents/ddt_snapshot_reader.h"
 #include "enquiry/all_records.h"
 #include "enquiry/archived_document.h"
 #include "orders/customer_names.h"
+#include "orders/ddt_snapshot.h"
 #include "store/suite_paths.h"
 #include "text/dates.h"
 #include "text/int16.h"

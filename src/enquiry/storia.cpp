@@ -1,6 +1,7 @@
 #include "enquiry/storia.h"
 
 #include "enquiry/archived_document.h"
+#include "entry/article_list.h"
 #include "orders/order_rows.h"
 #include "store/money.h"
 #include "text/dates.h"
@@ -15,7 +16,7 @@ const tipo_ricerca& tipo_storia() {
     using enum ui::alignment;
     static const tipo_ricerca kind{"storia",
                                    "Storia dell'ordine",
-                                   {{{"", 1400}},
+                                   {{{"Voce", 1400}},
                                     {{"Data", 1000}},
                                     {{"Descrizione", 5000}},
                                     {{"Ordinato", 1000, right}},
@@ -27,10 +28,6 @@ const tipo_ricerca& tipo_storia() {
     return kind;
 }
 
-std::string quantity_text(double quantity) {
-    return quantity == 0 ? "0" : testo_quantita(quantity);
-}
-
 }  // namespace
 
 storia::storia(program& app) : enquiry_screen(app, tipo_storia()) {}
@@ -39,7 +36,8 @@ std::string storia::fill(list_rows& list) {
     const auto story = leggi_storia(app_.archives, app_.selezione_1);
     if (!story) return "L'ordine non si lascia leggere: "_cp + app_.archives.orc.name();
     list_order(list, story->righe);
-    for (const consegna& one : story->consegne) list_delivery(list, one);
+    article_texts articles(app_.archives.art);
+    for (const consegna& one : story->consegne) list_delivery(list, one, articles);
     return quanti_sono(static_cast<int>(story->consegne.size()), "movimento di questi articoli",
                        "movimenti di questi articoli") +
            " al cliente dopo l'ordine";
@@ -55,15 +53,15 @@ void storia::list_order(list_rows& list, const std::vector<rec_orc>& rows) {
         list.write(data, date_text_of_stored(row.data.full()));
         list.write(descrizione, trimmed(text));
         if (row.quantita != 0) {
-            list.write(ordinato, quantity_text(row.quantita));
-            list.write(evaso, quantity_text(row.evaso));
-            list.write(resta, quantity_text(open_quantity(row)));
+            list.write(ordinato, quantita_o_zero(row.quantita));
+            list.write(evaso, quantita_o_zero(row.evaso));
+            list.write(resta, quantita_o_zero(open_quantity(row)));
         }
         list.write(riga, std::to_string(i + 1));
     }
 }
 
-void storia::list_delivery(list_rows& list, const consegna& one) {
+void storia::list_delivery(list_rows& list, const consegna& one, article_texts& articles) {
     if (one.documento > 0) {
         list.next();
         list.write(che_cosa, "DDT " + std::to_string(one.testata.numero));
@@ -74,16 +72,10 @@ void storia::list_delivery(list_rows& list, const consegna& one) {
         list.next();
         list.write(che_cosa, "Movimento");
         list.write(data, date_text_of_stored(movement.data.full()));
-        list.write(descrizione, article_text(movement.articolo));
-        list.write(evaso, quantity_text(movement.quantita));
+        list.write(descrizione, articles.of(movement.articolo));
+        list.write(evaso, quantita_o_zero(movement.quantita));
         list.write(documento, std::to_string(one.documento));
     }
-}
-
-std::string storia::article_text(std::int16_t number) const {
-    rec_art article;
-    if (!app_.archives.art.read(number, article)) return {};
-    return std::string(article.codice.trimmed()) + " " + std::string(article.descrizione.trimmed());
 }
 
 void storia::open_row(int row) {

@@ -2,6 +2,7 @@
 
 #include "enquiry/enquiry_screen.h"
 #include "enquiry/order_story.h"
+#include "orders/article_texts.h"
 
 namespace vantora {
 
@@ -20,8 +21,7 @@ class storia final : public enquiry_screen {
 
  private:
     void list_order(list_rows& list, const std::vector<rec_orc>& rows);
-    void list_delivery(list_rows& list, const consegna& one);
-    [[nodiscard]] std::string article_text(std::int16_t number) const;
+    void list_delivery(list_rows& list, const consegna& one, article_texts& articles);
 };
 
 }  // namespace vantora

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "orders/stock.h"
+#include "store/money.h"
 #include "store/record_runs.h"
 #include "text/code_page.h"
 #include "text/int16.h"
@@ -94,6 +96,18 @@ std::int16_t cerca_descrizione(const channel<rec_art>& articles, std::int16_t co
         if (begins_with(read.descrizione.full(), wanted)) return static_cast<std::int16_t>(number);
     }
     return 0;
+}
+
+std::string quantita_o_zero(double quantity) {
+    return quantity == 0 ? "0" : testo_quantita(quantity);
+}
+
+std::string testo_scorta(const rec_art& article) {
+    const scorta now = scorta_di(article);
+    return std::string(article.codice.trimmed()) + ":  in magazzino " +
+           quantita_o_zero(now.in_magazzino) + "  \xB7  impegnato " +
+           quantita_o_zero(now.impegnato) + "  \xB7  libero " + quantita_o_zero(now.libero) +
+           "  \xB7  ordinato dai clienti " + quantita_o_zero(now.ordinato);
 }
 
 std::string riga_giacenza(const rec_art& article, std::int16_t number) {

@@ -36,6 +36,12 @@ int cerca_voce(const std::vector<std::string>& entries, std::string_view wanted)
 std::int16_t cerca_descrizione(const channel<rec_art>& articles, std::int16_t count,
                                std::string_view text);
 
+/// A quantity for who reads it in a line: 0 is written too.
+std::string quantita_o_zero(double quantity);
+
+/// An article's code and how its stock stands.
+std::string testo_scorta(const rec_art& article);
+
 /// The stock line of an article: 140 characters, and its record number in five digits.
 std::string riga_giacenza(const rec_art& article, std::int16_t number);
 

@@ -1,5 +1,6 @@
 #include "entry/article_lookup.h"
 
+#include "orders/stock.h"
 #include "program/list_progress.h"
 #include "store/key_index.h"
 #include "text/number_text.h"
@@ -154,6 +155,12 @@ void article_lookup::mostra_giacenza(std::int16_t article) {
     rec_art record;
     app_.archives.art.read(article, record);
     listx.set_text(riga_giacenza(record, article));
+}
+
+void article_lookup::mostra_scorta(std::int16_t article) {
+    rec_art record;
+    const bool there = is_article(article, articles()) && app_.archives.art.read(article, record);
+    scorta.set_text(there ? testo_scorta(record) : std::string());
 }
 
 }  // namespace vantora

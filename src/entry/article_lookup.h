@@ -23,6 +23,7 @@ class article_lookup {
 
     ui::sorted_list_box List1;  ///< all live articles
     ui::label listx;            ///< stock of the current article
+    ui::label scorta;           ///< stock of the current line's article, as it is now
     ui::check_box barcode;      ///< codes are bar codes
 
     /// Takes an article that was found, with the code that stands for it on a line.
@@ -56,6 +57,8 @@ class article_lookup {
 
     /// Shows the stock of an article, unless it is the one that shows.
     void mostra_giacenza(std::int16_t article);
+    /// Shows how the stock of a line's article stands now; nothing for a line without one.
+    void mostra_scorta(std::int16_t article);
 
  private:
     void count_articles();

@@ -47,6 +47,7 @@ void line_grid::register_controls() {
     add("Combo1", Combo1);
     add("List1", lookup_.List1);
     add("listx", lookup_.listx);
+    add("scorta", lookup_.scorta);
     add("command3d3", command3d3);
     add("riordina", riordina);
     add("prezz", prezz);
@@ -392,6 +393,11 @@ void line_grid::sort_lines() {
 
 bool line_grid::current_row_shown() const {
     return riga_corrente_ >= 0 && riga_corrente_ < rows;
+}
+
+std::int16_t line_grid::current_article() const {
+    const int line = Combo1.visible() ? riga_corrente_ : line_of(riga_corrente_);
+    return line >= 1 && line <= righe_ordine::massimo ? righe_[line].articolo : std::int16_t{0};
 }
 
 void line_grid::return_to(ui::text_box (&column)[rows]) {

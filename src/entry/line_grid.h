@@ -63,7 +63,7 @@ class line_grid : public ui::form {
     ui::button comando[7];
     ui::picture Picture1;
 
-    /// Holds the controls `List1`, `listx` and `barcode` of this screen.
+    /// Holds the controls `List1`, `listx`, `scorta` and `barcode` of this screen.
     [[nodiscard]] article_lookup& lookup() { return lookup_; }
     [[nodiscard]] const righe_ordine& lines() const { return righe_; }
     [[nodiscard]] const totali_ordine& totals() const { return totali_; }
@@ -148,6 +148,8 @@ class line_grid : public ui::form {
     void sort_lines();
     /// False while `riga_corrente_` holds a line's number that no row has.
     [[nodiscard]] bool current_row_shown() const;
+    /// The article of the line that is worked on.
+    [[nodiscard]] std::int16_t current_article() const;
     /// Gives the focus to the current row's cell of a column.
     void return_to(ui::text_box (&column)[rows]);
     void clear_if_zero(ui::text_box& cell);

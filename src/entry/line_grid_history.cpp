@@ -17,6 +17,7 @@ constexpr ui::text_box (line_grid::*columns[])[line_grid::rows] = {
 
 void line_grid::settled() {
     if (at_work()) return;
+    lookup_.mostra_scorta(current_article());
     if (history_.begun()) return history_.note(content(), cell_in_focus());
     history_.begin(content());
 }

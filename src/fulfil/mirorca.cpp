@@ -29,13 +29,6 @@ constexpr line_grid_kind documento_trasporto{
     .has_scarica = true,
     .tota = {totale_mostrato::pezzi, totale_mostrato::imponibile, totale_mostrato::complessivo}};
 
-/// Weight as the transport data show it; a fraction that vanishes in three decimals leaves its
-/// mark.
-std::string testo_peso(double weight) {
-    const bool whole = weight == integer_part(weight);
-    return masked(weight, whole ? "###,###,##0" : "###,###,##0.###");
-}
-
 std::int16_t whole(std::string_view text) {
     return to_int16(number_at_head(text)).value_or(0);
 }
@@ -190,7 +183,8 @@ bool mirorca::unload_goods() {
     const righe_ordine before = righe_;
     const change_outcome outcome = scarica_magazzino(
         app_.archives, movement, righe_, lookup_.articles(), valuta_,
-        [this](const rec_art& article) { return ask_to_unload(article); }, [this] { paint(); });
+        [this](const auto& line, const auto& article) { return ask_to_unload(line, article); },
+        [this] { paint(); });
     app_.desk.set_pointer(ui::pointer::normal);
     // Lines that were refused stay until the rest of them leaves.
     if (!outcome.stored()) {
@@ -201,7 +195,7 @@ bool mirorca::unload_goods() {
     return unloaded_;
 }
 
-bool mirorca::ask_to_unload(const rec_art& article) {
+bool mirorca::ask_to_unload(const riga_ordine& line, const rec_art& article) {
     app_.desk.set_pointer(ui::pointer::normal);
     std::string question = std::string("La giacenza dell' articolo ")
                                .append(article.codice.trimmed())
@@ -209,6 +203,8 @@ bool mirorca::ask_to_unload(const rec_art& article) {
                                .append(article.descrizione.trimmed())
                                .append(" è insufficiente. Lo si deve scaricare ugualmente?"_cp);
     if (app_.desk.guards().on()) {
+        question +=
+            "\n" + testo_scorta(article) + "  \xB7  da scaricare " + quantita_o_zero(line.quantita);
         question += "\nSe no, la riga resta evasa, senza movimento e senza documento.";
     }
     const bool unload = app_.desk.ask(std::move(question), titolo_messaggi);
@@ -220,13 +216,15 @@ bool mirorca::make_document() {
     const mirorcc& head = *app_.mirorcc;
     ddt_da_registrare document;
     const testata_documento fields = testata_da_stampare(head);
-    document.text2 = fields.text2;
-    document.text3 = fields.text3;
-    document.porto = head.Combo1[0].chosen();
-    document.causale = head.Combo1[1].chosen();
-    document.trasporto = head.Combo1[2].chosen();
-    document.aspetto = head.Combo2.chosen();
-    document.cliente = app_.selezione_1;
+    istantanea_ddt& kept = document.contenuto;
+    kept.text2 = fields.text2;
+    kept.text3 = fields.text3;
+    kept.porto = head.Combo1[0].chosen();
+    kept.causale = head.Combo1[1].chosen();
+    kept.trasporto = head.Combo1[2].chosen();
+    kept.aspetto = head.Combo2.chosen();
+    kept.cliente = app_.selezione_1;
+    kept.righe = righe_;
     document.data_reg = app_.data_sistema;
     document.scaricato = scarica.on();
     const change_outcome outcome = store_document(document);
@@ -242,14 +240,14 @@ change_outcome mirorca::store_document(ddt_da_registrare& document) {
     document.solo_se_chiaro = app_.desk.guards().on();
     while (true) {
         const change_outcome outcome =
-            salva_ddt(app_.archives, app_.files, app_.parameters.numero_azienda, document, righe_);
+            salva_ddt(app_.archives, app_.files, app_.parameters.numero_azienda, document);
         if (outcome.how != change_outcome::to_be_asked || !settle_doubt(document)) return outcome;
     }
 }
 
 bool mirorca::settle_doubt(ddt_da_registrare& document) {
-    std::string& number = document.text3[campo_ddt::numero];
-    std::string& date = document.text3[campo_ddt::data];
+    std::string& number = document.contenuto.text3[campo_ddt::numero];
+    std::string& date = document.contenuto.text3[campo_ddt::data];
     ui::guards& guards = app_.desk.guards();
     const auto doubt = dubbio_su(app_.archives, number, date);
     if (!doubt.any()) return true;

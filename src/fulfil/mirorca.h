@@ -44,7 +44,7 @@ class mirorca final : public line_grid {
     bool may_cancel();
     void confirm();
     bool unload_goods();
-    bool ask_to_unload(const rec_art& article);
+    bool ask_to_unload(const riga_ordine& line, const rec_art& article);
     /// False if the document couldn't be stored: it isn't printed then, and the screen stays.
     bool make_document();
     /// Stores the document; the user is asked first where its number or date is doubtful.

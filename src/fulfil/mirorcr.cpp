@@ -1,5 +1,7 @@
 #include "fulfil/mirorcr.h"
 
+#include "entry/article_list.h"
+#include "orders/stock.h"
 #include "store/money.h"
 #include "text/number_text.h"
 #include "ui/enter_key.h"
@@ -35,6 +37,7 @@ mirorcr::mirorcr(program& app)
     add("bottone", bottone);
     add("Label1", Label1);
     add("segnate", segnate);
+    add("scorta", scorta);
     elenco.empty_note = "Nessun ordine da evadere";
     quantita.set_visible(false);
     quantita.accepts = ui::input_rule::number();
@@ -81,6 +84,24 @@ void mirorcr::activate() {
     app_.archives.tot.read(contatori::ordini, ordini_);
     app_.archives.tot.read(contatori::articoli, articoli_);
     build_list();
+}
+
+void mirorcr::settled() {
+    const auto article_in = [this](int row) -> std::int16_t {
+        return row > 0 && row < righe_ ? viste_[static_cast<std::size_t>(row - 1)].articolo
+                                       : std::int16_t{0};
+    };
+    const std::int16_t article = article_in(elenco.row());
+    rec_art record;
+    if (!is_article(article, articoli_.quanti) || !app_.archives.art.read(article, record)) {
+        return scorta.set_text("");
+    }
+    double leaving = 0;
+    for (int row = 1; row < righe_; ++row) {
+        if (article_in(row) == article) leaving += number_in(row, evaso);
+    }
+    scorta.set_text(testo_scorta(record) + "  \xB7  dopo le righe segnate " +
+                    quantita_o_zero(scorta_di(record).in_magazzino - leaving));
 }
 
 void mirorcr::close() {
@@ -188,8 +209,8 @@ void mirorcr::show_marked() {
         if (leaving != 0 || cell == "*") ++rows;
         pieces += leaving;
     }
-    const std::string shown = pieces == 0 ? "0" : testo_quantita(pieces);
-    segnate.set_text("Righe da evadere: " + std::to_string(rows) + "   Pezzi: " + shown);
+    segnate.set_text("Righe da evadere: " + std::to_string(rows) +
+                     "   Pezzi: " + quantita_o_zero(pieces));
 }
 
 }  // namespace vantora

@@ -58,6 +58,7 @@ class mirorcr final : public ui::form {
     ui::button bottone[2];
     ui::label Label1[3];
     ui::label segnate;  ///< how much is marked to leave
+    ui::label scorta;   ///< stock of the current row's article, and what the marks leave of it
 
     /// The editor goes, its cell stays as it was.
     void leave_editor();
@@ -67,6 +68,7 @@ class mirorcr final : public ui::form {
  protected:
     void load() override;
     void activate() override;
+    void settled() override;
     void close() override;
 
  private:

@@ -21,58 +21,22 @@ float next_progressive(float progressive) {
 rec_bol record_of(const ddt_da_registrare& document, std::int16_t number, float progressive) {
     rec_bol record;
     record.numero = number;
-    record.data = stored_of_date_text(document.text3[campo_ddt::data]);
+    record.data = stored_of_date_text(document.contenuto.text3[campo_ddt::data]);
     record.testo1 = "";
     record.testo2 = "";
     record.progressivo = progressive;
     record.data_reg = document.data_reg;
     record.uno = 1;
     record.vuoto = "";
-    record.cliente = document.cliente;
+    record.cliente = document.contenuto.cliente;
     record.senza_scarico = document.scaricato ? 0 : 1;
     return record;
-}
-
-/// One value a line.
-class snapshot {
- public:
-    void text(std::string_view value) { content_.append(value).append("\r\n"); }
-    void number(double value) { text(plain_text(value)); }
-    [[nodiscard]] const std::string& content() const { return content_; }
-
- private:
-    std::string content_;
-};
-
-void add_line(snapshot& to, const riga_ordine& line) {
-    to.number(line.articolo);
-    to.text(std::string(15, ' '));
-    to.text(line.codice.full());
-    to.text(line.descrizione.full());
-    to.text(line.um.full());
-    to.number(line.sc1);
-    to.number(line.sc2);
-    to.number(line.iva);
-    to.number(line.quantita);
-    to.number(line.prezzo);
-}
-
-std::string snapshot_of(const ddt_da_registrare& document, const righe_ordine& lines) {
-    snapshot all;
-    all.number(document.cliente);
-    for (const std::string& field : document.text3) all.text(field);
-    all.number(document.causale);
-    all.number(document.aspetto);
-    all.text(std::to_string(document.porto) + std::to_string(document.trasporto));
-    for (int number = 1; number <= righe_ordine::massimo; ++number) add_line(all, lines[number]);
-    for (const std::size_t i : campo_cliente::del_documento) all.text(document.text2[i]);
-    return all.content();
 }
 
 }  // namespace
 
 change_outcome salva_ddt(archivi& files, file_port& port, int numero_azienda,
-                         const ddt_da_registrare& document, const righe_ordine& lines) {
+                         const ddt_da_registrare& document) {
     archive_change change(files);
     change.recorded_as("documento di trasporto", document.text3[campo_ddt::numero]);
     rec_tot counter;
@@ -81,13 +45,14 @@ change_outcome salva_ddt(archivi& files, file_port& port, int numero_azienda,
     counter.quanti = add_int16(counter.quanti, 1).value_or(counter.quanti);
     change.writes(files.bol, counter.quanti, 1);
     if (change.may_write() && document.solo_se_chiaro &&
-        dubbio_su(files, document.text3[campo_ddt::numero], document.text3[campo_ddt::data])
+        dubbio_su(files, document.contenuto.text3[campo_ddt::numero],
+                  document.contenuto.text3[campo_ddt::data])
             .any()) {
         change.give_up(change_outcome::to_be_asked);
     }
     if (!change.may_write()) return change.finish();
 
-    const auto number = to_int16(number_at_head(document.text3[campo_ddt::numero]));
+    const auto number = to_int16(number_at_head(document.contenuto.text3[campo_ddt::numero]));
     counter.ultimo_numero = number.value_or(counter.ultimo_numero);
     counter.progressivo = next_progressive(counter.progressivo);
     if (!change.write(files.tot, contatori::documenti_trasporto, counter)) return change.finish();
@@ -103,9 +68,9 @@ change_outcome salva_ddt(archivi& files, file_port& port, int numero_azienda,
     change.flush(files.tot);
     change.flush(files.bol);
 
-    const std::string name = "b" + masked(counter.progressivo, "##########0");
+    const std::string name = nome_istantanea(counter.progressivo);
     const auto file = port.create_instead(cartella_azienda(numero_azienda) + "\\" + name);
-    const std::string content = snapshot_of(document, lines);
+    const std::string content = scrivi_istantanea(document.contenuto);
     change.note(file && file->write(0, std::as_bytes(std::span(content))) && file->flush(), name);
     return change.finish();
 }

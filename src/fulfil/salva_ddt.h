@@ -1,10 +1,6 @@
 #pragma once
 
-#include <array>
-#include <string>
-
-#include "orders/head_fields.h"
-#include "orders/order_lines.h"
+#include "orders/ddt_snapshot.h"
 #include "store/archive_change.h"
 #include "store/file_port.h"
 
@@ -12,14 +8,7 @@ namespace vantora {
 
 /// A transport document as its screens have it, ready to be stored.
 struct ddt_da_registrare {
-    std::array<std::string, campo_cliente::quanti> text2;  ///< the customer
-    std::array<std::string, campo_ddt::quanti>
-        text3;       ///< number, date, parcels, weight, start: day and time
-    int porto = -1;  ///< entries chosen in their lists, -1 for none
-    int causale = -1;
-    int trasporto = -1;
-    int aspetto = -1;
-    std::int16_t cliente = 0;
+    istantanea_ddt contenuto;
     double data_reg = 0;  ///< date number of the last confirmation of this run
     bool scaricato = false;
     bool solo_se_chiaro = false;  ///< number and date without a doubt, or the user is to be asked
@@ -30,6 +19,6 @@ struct ddt_da_registrare {
 /// A counter or record that can't be written ends it, and the counter is as before; a snapshot that
 /// can't be is passed over.
 change_outcome salva_ddt(archivi& files, file_port& port, int numero_azienda,
-                         const ddt_da_registrare& document, const righe_ordine& lines);
+                         const ddt_da_registrare& document);
 
 }  // namespace vantora

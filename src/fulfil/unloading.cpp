@@ -100,10 +100,11 @@ std::string giorno_movimento(std::string_view dd_mm_yyyy) {
     return stored_of_date_text(typed);
 }
 
-change_outcome scarica_magazzino(archivi& files, const movimento_magazzino& movement,
-                                 righe_ordine& lines, std::int16_t articles, const valuta& amounts,
-                                 const std::function<bool(const rec_art&)>& unload_anyway,
-                                 const std::function<void()>& line_dropped) {
+change_outcome scarica_magazzino(
+    archivi& files, const movimento_magazzino& movement, righe_ordine& lines, std::int16_t articles,
+    const valuta& amounts,
+    const std::function<bool(const riga_ordine&, const rec_art&)>& unload_anyway,
+    const std::function<void()>& line_dropped) {
     std::array<bool, righe_ordine::massimo + 1> asked{};
     while (true) {
         archive_change change(files, archive_change::faults::end_the_program);
@@ -130,7 +131,7 @@ change_outcome scarica_magazzino(archivi& files, const movimento_magazzino& move
         change.finish();
         visit_short_lines(files, lines, articles, [&](int line, const rec_art& article) {
             if (std::exchange(asked[static_cast<std::size_t>(line)], true)) return true;
-            if (unload_anyway(article)) return true;
+            if (unload_anyway(lines[line], article)) return true;
             drop_line(lines[line]);
             line_dropped();
             return false;

@@ -30,9 +30,10 @@ std::string giorno_movimento(std::string_view dd_mm_yyyy);
 ///
 /// Has no protection: what can't be read or written ends the program, and the articles and
 /// movements written so far stay, uncounted. `articles`: how many.
-change_outcome scarica_magazzino(archivi& files, const movimento_magazzino& movement,
-                                 righe_ordine& lines, std::int16_t articles, const valuta& amounts,
-                                 const std::function<bool(const rec_art&)>& unload_anyway,
-                                 const std::function<void()>& line_dropped);
+change_outcome scarica_magazzino(
+    archivi& files, const movimento_magazzino& movement, righe_ordine& lines, std::int16_t articles,
+    const valuta& amounts,
+    const std::function<bool(const riga_ordine&, const rec_art&)>& unload_anyway,
+    const std::function<void()>& line_dropped);
 
 }  // namespace vantora

@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include "store/money.h"
+
 namespace vantora {
 
 namespace {
@@ -49,6 +51,11 @@ void restore_stock(rec_art& article, const rec_art& before, const rec_art& after
             add(article.*figure, before.*figure - after.*figure);
         }
     }
+}
+
+scorta scorta_di(const rec_art& article) {
+    return {finite_or_zero(article.giacenza + article.impegnato), finite_or_zero(article.impegnato),
+            finite_or_zero(article.giacenza), finite_or_zero(article.ordinato_clienti)};
 }
 
 int lines_with_stock(const righe_ordine& lines, int articles) {

@@ -25,6 +25,16 @@ void unload_stock(rec_art& article, double quantity, double net_price);
 /// that left them as `after`; what another program changed since then stays changed.
 void restore_stock(rec_art& article, const rec_art& before, const rec_art& after);
 
+/// How an article's stock stands. What is set aside for orders still lies in the warehouse, though
+/// `giacenza` no longer counts it.
+struct scorta {
+    double in_magazzino = 0;
+    double impegnato = 0;
+    double libero = 0;    ///< can be given to whoever asks
+    double ordinato = 0;  ///< by customers, and not delivered yet
+};
+scorta scorta_di(const rec_art& article);
+
 /// Whether a number is that of an article when there are so many; others are free text.
 constexpr bool is_article(int number, int articles) {
     return number >= 1 && number <= articles;

@@ -51,4 +51,9 @@ totali_ordine calcola_totali(const righe_ordine& lines, const tabella_iva& rates
     return sums;
 }
 
+std::string testo_peso(double weight) {
+    const bool whole = weight == integer_part(weight);
+    return masked(weight, whole ? "###,###,##0" : "###,###,##0.###");
+}
+
 }  // namespace vantora

@@ -36,4 +36,7 @@ totali_ordine somma_righe(const righe_ordine& lines, const valuta& currency);
 totali_ordine calcola_totali(const righe_ordine& lines, const tabella_iva& rates,
                              const valuta& currency);
 
+/// Weight as transport data show it; a fraction that vanishes in three decimals leaves its mark.
+std::string testo_peso(double weight);
+
 }  // namespace vantora

@@ -88,6 +88,17 @@ QVBoxLayout* body_under(QWidget* commands, form_window& window) {
     return body;
 }
 
+QFrame* stock_line(form_window& window, const label& stock) {
+    auto* frame = new QFrame(&window);
+    set_look(frame, "role", "stock");
+    text_label* text = window.widget(stock);
+    text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    auto* line = new QHBoxLayout(frame);
+    line->setContentsMargins(8, 1, 8, 1);
+    line->addWidget(text);
+    return frame;
+}
+
 QToolButton* plain_command(form_window& window, const button& command, const command_look& look) {
     QToolButton* made = window.dress(command, look, Qt::ToolButtonTextBesideIcon);
     set_look(made, "look", "plain");

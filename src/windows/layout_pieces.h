@@ -52,6 +52,9 @@ void add_command(QHBoxLayout* row, QToolButton* button, int picture, bool keeps_
 /// The plan of a working window: its commands across the top; what comes below them is returned.
 QVBoxLayout* body_under(QWidget* commands, form_window& window);
 
+/// What there is of an article in stock, below the lines or rows that it stands in.
+QFrame* stock_line(form_window& window, const label& stock);
+
 /// Sets how the style sheet draws a widget.
 void set_look(QWidget* widget, const char* property, const char* value);
 

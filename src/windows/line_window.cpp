@@ -26,7 +26,6 @@ constexpr int widest_description = 80;  ///< characters
 constexpr int least_description = 225;  ///< dots
 constexpr int list_width = 355;         ///< dots, for codes and whole descriptions
 constexpr int frame_margin = 14;        ///< dots, as frames are drawn, with some room to spare
-constexpr int stock_characters = 140;   ///< the record number behind them is not for the eye
 
 struct column {
     text_box (line_grid::*cells)[line_grid::rows];
@@ -227,19 +226,6 @@ QGroupBox* list_frame(form_window& window, line_grid& screen) {
     return box;
 }
 
-QFrame* stock_line(form_window& window, line_grid& screen) {
-    auto* frame = new QFrame(&window);
-    set_look(frame, "role", "stock");
-    text_label* stock = window.widget(screen.lookup().listx);
-    // The record number behind is not for the eye.
-    stock->see_by([](const QString& text) { return text.left(stock_characters).simplified(); });
-    stock->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    auto* line = new QHBoxLayout(frame);
-    line->setContentsMargins(8, 1, 8, 1);
-    line->addWidget(stock);
-    return frame;
-}
-
 /// Which order it is that is worked on.
 QFrame* head_strip(form_window& window, const label& head) {
     auto* strip = new QFrame(&window);
@@ -341,7 +327,9 @@ void lay_out_lines(form_window& window, line_grid& screen,
     // The lines have room for what they hold; the list's descriptions want theirs.
     middle->setSizes({lines->minimumSizeHint().width(), list_width});
     body->addWidget(middle, 1);
-    body->addWidget(stock_line(window, screen));
+    // Who works by scripts has a line of his own, of fewer figures.
+    window.widget(screen.lookup().listx)->hide();
+    body->addWidget(stock_line(window, screen.lookup().scorta));
     body->addLayout(foot_line(window, screen));
     all->addLayout(body, 1);
 

@@ -158,6 +158,7 @@ void lay_out(form_window& window, mirorcr& screen) {
     add_grid_keys(window, screen);
 
     body->addWidget(view, 1);
+    body->addWidget(stock_line(window, screen.scorta));
     auto* foot = new QHBoxLayout;
     foot->setSpacing(24);
     foot->addLayout(help_lines(window, screen), 1);

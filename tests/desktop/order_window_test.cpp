@@ -92,7 +92,7 @@ TEST_F(order_window, AnOrderIsTypedByTheKeyboardAlone) {
              EXPECT_EQ(focus(), "quantita(3)");
              write("1");
              EXPECT_EQ(totals(), "122,00 148,84 10");
-             EXPECT_TRUE(bench.find<QLabel>("listx")->text().startsWith("A200"));
+             EXPECT_TRUE(bench.find<QLabel>("scorta")->text().startsWith("A200:"));
              // Tab walks the cells of two rows and back, and no line loses its article.
              QWidget* const here = focused();
              bench.find("artic(0)")->setFocus();

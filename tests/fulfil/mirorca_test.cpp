@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <fstream>
 
 #include "fulfil/fulfil_stage.h"
@@ -147,6 +148,7 @@ TEST(mirorca, WhatIsStoredElsewhereDuringAQuestionStays) {
         stage.screen().show();
         EXPECT_EQ(stage.screen().ds[1].text(), "a mano") << "nothing else happens meanwhile";
         const bool asked = stage.front.told.back().starts_with("La giacenza");
+        if (asked) EXPECT_TRUE(stage.front.told.back().ends_with("ugualmente?"));
         if (asked) change_stored(stage.files.art, 2, [](rec_art& one) { one.prezzo1 = 7; });
         return asked;
     };
@@ -211,6 +213,18 @@ TEST(mirorca, NoGoodsLeaveWithoutRoomForTheirDocument) {
     EXPECT_EQ(stage.content("art") + stage.content("mag") + stage.content("tot"), before);
     EXPECT_EQ(stage.desk.active()->name(), "mirorca");
     EXPECT_TRUE(stage.front.told.back().starts_with("L'archivio vantora.bol è pieno"_cp));
+}
+
+TEST(mirorca, AWindowsQuestionTellsHowTheStockStands) {
+    document_stage stage;
+    stage.desk.guards().switch_to(true);
+    stage.confirm({false, false});
+    const auto& told = stage.front.told;
+    const auto asked = std::ranges::find_if(
+        told, [](const std::string& text) { return text.starts_with("La giacenza"); });
+    ASSERT_NE(asked, told.end());
+    EXPECT_NE(asked->find("\nA2:  in magazzino 104,00"), std::string::npos) << *asked;
+    EXPECT_NE(asked->find("da scaricare 200,00\n"), std::string::npos) << *asked;
 }
 
 TEST(mirorca, ClosingWritesNothingAndBoxesStayTickedUntilThen) {

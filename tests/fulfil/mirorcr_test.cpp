@@ -74,6 +74,8 @@ TEST(mirorcr, TheEditorTakesQuantitiesAsTheyAreTyped) {
         EXPECT_EQ(stage.desk.focus(), &stage.app.mirorcr->elenco);
     }
     stage.type_quantity(1, "8");
+    EXPECT_TRUE(stage.app.mirorcr->scorta.text().starts_with("A1:  in magazzino 104,00"));
+    EXPECT_TRUE(stage.app.mirorcr->scorta.text().ends_with("dopo le righe segnate 96,00"));
     stage.click(1, mirorcr::evaso);
     EXPECT_EQ(stage.app.mirorcr->quantita.text(), "8,00");
     EXPECT_EQ(stage.desk.focus(), &stage.app.mirorcr->quantita);

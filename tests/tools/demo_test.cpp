@@ -5,10 +5,12 @@
 #include <sys/wait.h>
 
 #include <cstdlib>
+#include <map>
 #include <set>
 
 #include "demo/codes.h"
 #include "demo_folder.h"
+#include "orders/ddt_snapshot.h"
 #include "store/drive.h"
 #include "store/records.h"
 
@@ -39,9 +41,21 @@ TEST(demo_company, OrdersStandInEveryStateAndStockAgreesWithTheMovements) {
 
     const auto articles = records_of<rec_art>(made.file("art"));
     std::vector<double> unloaded(articles.size() + 1);
+    std::map<std::pair<double, int>, double> left;  // by moment and customer
     for (const rec_mag& movement : records_of<rec_mag>(made.file("mag"))) {
         unloaded.at(static_cast<std::size_t>(movement.articolo)) += movement.quantita;
+        left[{movement.data_reg, movement.cliente}] += movement.quantita;
     }
+    for (const rec_bol& document : records_of<rec_bol>(made.file("bol"))) {
+        const std::string name = nome_istantanea(document.progressivo);
+        const auto kept = leggi_istantanea(bytes_of(made.file("bol").replace_filename(name)));
+        ASSERT_TRUE(kept) << name;
+        double& rest = left[{document.data_reg, document.cliente}];
+        for (int line = 1; line <= righe_ordine::massimo; ++line) {
+            if (kept->righe[line].articolo > 0) rest -= kept->righe[line].quantita;
+        }
+    }
+    for (const auto& [which, rest] : left) EXPECT_NEAR(rest, 0, 1e-6) << which.second;
     for (std::size_t number = 1; number <= articles.size(); ++number) {
         const rec_art& one = articles[number - 1];
         EXPECT_NEAR(one.scaricato, unloaded[number], 1e-6) << number;

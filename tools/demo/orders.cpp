@@ -77,51 +77,6 @@ order draw_order(draws& chance, int number, int count, const std::vector<rec_cli
     return one;
 }
 
-/// The warehouse's papers of one delivery, as it goes through the lines of an order.
-class delivery {
- public:
-    delivery(const order& of, deliveries& into)
-        : of_(of), into_(into), number_(static_cast<int>(into.documents.size()) + 1) {}
-
-    void add(const document_line& line, long long quantity) {
-        if (line.articolo < 1) return;
-        rec_mag movement;
-        movement.data = stored_day(of_.delivery_day);
-        movement.documento = "Ordine n. " + std::to_string(of_.number);
-        movement.tipo = std::int16_t{1};
-        movement.movimento = "DDT n. " + std::to_string(number_);
-        movement.data_reg = of_.delivery_day + of_.seconds / 86400.0;
-        movement.articolo = static_cast<std::int16_t>(line.articolo);
-        movement.cliente = static_cast<std::int16_t>(of_.customer);
-        movement.quantita = static_cast<double>(quantity) / 10;
-        movement.prezzo = static_cast<double>(net_price(line)) / 100;
-        movement.segno = std::int16_t{1};
-        into_.movements.push_back(movement);
-        delivered_ = true;
-    }
-
-    void close() {
-        if (!delivered_) return;
-        rec_bol document;
-        document.numero = static_cast<std::int16_t>(number_);
-        document.data = stored_day(of_.delivery_day);
-        document.testo1 = "";
-        document.testo2 = "";
-        document.progressivo = static_cast<float>(number_);
-        document.data_reg = of_.delivery_day + of_.seconds / 86400.0;
-        document.uno = std::int16_t{1};
-        document.vuoto = "";
-        document.cliente = static_cast<std::int16_t>(of_.customer);
-        into_.documents.push_back(document);
-    }
-
- private:
-    const order& of_;
-    deliveries& into_;
-    int number_;
-    bool delivered_ = false;
-};
-
 /// All of a line, half of it in whole units, or nothing of it.
 long long delivered_part(draws& chance, const document_line& line) {
     const int fate = chance.below(3);
@@ -147,36 +102,37 @@ void deliver(document_line& line, long long quantity, bool committed,
     unload_stock(*one, leaving, static_cast<double>(net_price(line)));
 }
 
-void deliver_order(draws& chance, order& one, std::vector<article>& articles, deliveries& into) {
-    delivery papers(one, into);
-    bool keep_open = one.state == order_state::partly_delivered;
+/// Texts leave with the goods above them, and all of them with a whole order.
+void deliver_order(draws& chance, order& one, std::vector<article>& articles, delivery& papers) {
+    const bool whole = one.state == order_state::fulfilled;
+    bool keep_open = !whole;
+    bool left = whole;
     for (document_line& line : one.lines) {
-        if (line.quantita == 0) continue;
+        if (line.quantita == 0) {
+            if (left) papers.add_text(line);
+            continue;
+        }
         long long quantity = line.quantita;
-        if (one.state == order_state::partly_delivered) {
+        if (!whole) {
             quantity = keep_open ? line.quantita / 20 * 10 : delivered_part(chance, line);
             keep_open = false;
         }
+        left = whole || quantity != 0;
         if (quantity == 0) continue;
         deliver(line, quantity, one.committed, articles);
-        papers.add(line, quantity);
+        papers.add(line, quantity, articles);
     }
-    papers.close();
 }
 
-void play_out(draws& chance, order& one, std::vector<article>& articles, deliveries& into) {
+void play_out(const order& one, std::vector<article>& articles) {
     for (const document_line& line : one.lines) {
         rec_art* const its = article_of(line, articles);
         if (its) order_stock(*its, static_cast<double>(line.quantita), one.committed);
     }
+    if (one.state != order_state::deleted) return;
     for (const document_line& line : one.lines) {
         rec_art* const its = article_of(line, articles);
-        if (its && one.state == order_state::deleted) {
-            release_stock(*its, static_cast<double>(line.quantita), one.committed);
-        }
-    }
-    if (one.state == order_state::fulfilled || one.state == order_state::partly_delivered) {
-        deliver_order(chance, one, articles, into);
+        if (its) release_stock(*its, static_cast<double>(line.quantita), one.committed);
     }
 }
 
@@ -231,8 +187,15 @@ deliveries write_orders(folder_writer& into, int count, std::uint64_t seed,
     std::vector<rec_orc> block;
     for (int number = 1; number <= count; ++number) {
         order one = draw_order(chance, number, count, customers, articles);
-        play_out(chance, one, articles, done);
-        fill_block(block, one, customers[static_cast<std::size_t>(one.customer - 1)]);
+        const rec_cli& customer = customers[static_cast<std::size_t>(one.customer - 1)];
+        play_out(one, articles);
+        if (one.state == order_state::fulfilled || one.state == order_state::partly_delivered) {
+            delivery papers(
+                {number, one.customer, customer, one.delivery_day, one.seconds, one.choices}, done);
+            deliver_order(chance, one, articles, papers);
+            papers.close(into);
+        }
+        fill_block(block, one, customer);
         folder_writer::check_written(file.write_block(block_record(number, 1), block),
                                      "vantora.orc");
     }

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "demo/articles.h"
+#include "demo/deliveries.h"
 #include "demo/output.h"
 #include "store/records/rec_bol.h"
 #include "store/records/rec_cli.h"
@@ -11,15 +12,18 @@
 
 namespace vantora::demo {
 
+<<<<<<< HEAD
 /// What the deliveries of the orders left in the warehouse's files.
 struct deliveries {
     std::vector<rec_mag> movements;  ///< the latest ones, `massimo_record` at most
     std::vector<rec_bol> documents;
 };
 
+=======
+>>>>>>> 8387e8b (The article's stock stands below an order's lines and the worklist)
 /// Writes "vantora.orc": `count` orders through two years, the old ones mostly fulfilled, the late
 /// ones mostly open, some deleted. Each order moves the stock of its articles as it was saved,
-/// committed, delivered or deleted.
+/// committed, delivered or deleted; each delivery leaves the text file of its transport document.
 deliveries write_orders(folder_writer& into, int count, std::uint64_t seed,
                         const std::vector<rec_cli>& customers, std::vector<article>& articles);
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QLabel>
-#include <functional>
 
 namespace vantora::ui::desktop {
 
@@ -10,23 +9,10 @@ class text_label final : public QLabel {
  public:
     explicit text_label(QWidget* parent) : QLabel(parent) { setTextFormat(Qt::PlainText); }
 
-    /// What the eye gets of a text.
-    using view = std::function<QString(const QString& text)>;
-    void see_by(view seen) {
-        seen_ = std::move(seen);
-        show_text(text_);
+    void show_text(QString text) {
+        while (text.endsWith(' ')) text.chop(1);
+        setText(text);
     }
-
-    void show_text(const QString& text) {
-        text_ = text;
-        QString shown = seen_ ? seen_(text) : text;
-        while (shown.endsWith(' ')) shown.chop(1);
-        setText(shown);
-    }
-
- private:
-    QString text_;
-    view seen_;
 };
 
 }  // namespace vantora::ui::desktop

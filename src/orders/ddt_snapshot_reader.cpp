@@ -1,6 +1,6 @@
-#include "documents/ddt_snapshot_reader.h"
-
 #include <utility>
+
+#include "orders/ddt_snapshot.h"
 
 #include "store/text_reader.h"
 #include "text/int16.h"
@@ -57,10 +57,6 @@ void read_line(snapshot_reader& from, riga_ordine& line) {
 }
 
 }  // namespace
-
-std::string nome_istantanea(float progressivo) {
-    return "b" + masked(progressivo, "##########0");
-}
 
 std::optional<istantanea_ddt> leggi_istantanea(std::string content) {
     snapshot_reader from(std::move(content));

@@ -21,12 +21,15 @@ struct istantanea_ddt {
     int porto = -1;
     int trasporto = -1;
     righe_ordine righe;
-    std::array<std::string, campo_cliente::quanti>
-        text2;  ///< destination and carrier; other fields are empty
+    /// Of the customer's fields those of the document; the others are empty.
+    std::array<std::string, campo_cliente::quanti> text2;
 };
 
 /// The name of that file, in the company's folder: "b" and the document's running number.
 std::string nome_istantanea(float progressivo);
+
+/// What that file holds.
+std::string scrivi_istantanea(const istantanea_ddt& document);
 
 /// Reads it; empty if it isn't a whole one.
 std::optional<istantanea_ddt> leggi_istantanea(std::string content);
