@@ -5,8 +5,10 @@
 #include <map>
 
 #include "enquiry/order_walk.h"
+#include "orders/article_texts.h"
 #include "orders/customer_names.h"
 #include "orders/order_rows.h"
+#include "orders/stock.h"
 #include "text/number_text.h"
 
 namespace vantora {
@@ -19,16 +21,17 @@ constexpr std::size_t primi = 10;
 
 struct somma {
     double valore = 0;
-    std::vector<std::int16_t> ordini;
+    std::vector<std::int16_t> dietro;  ///< orders or movements, in the order they came
 
-    void add(double value, std::int16_t order) {
+    void add(double value, std::int16_t of) {
         valore += value;
-        if (ordini.empty() || ordini.back() != order) ordini.push_back(order);
+        if (dietro.empty() || dietro.back() != of) dietro.push_back(of);
     }
 };
 
-template <class Key>
-using somme = std::map<Key, somma>;
+using somme = std::map<int, somma>;
+/// By the number of a customer or an article, from 0.
+using somme_numerate = std::vector<somma>;
 
 int week_of(const date& day) {
     // Day 2 of the calendar of date numbers is a Monday.
@@ -64,29 +67,35 @@ std::string week_text(int place) {
     return place == settimane_avanti + 1 ? "Pi\xF9 avanti" : "Senza data";
 }
 
-template <class Key, class Name>
-std::vector<barra> bars_of(const somme<Key>& sums, Name name) {
+template <class Name>
+std::vector<barra> bars_of(const somme& sums, Name name) {
     std::vector<barra> all;
-    for (const auto& [key, sum] : sums) all.push_back({name(key), sum.valore, sum.ordini});
+    for (const auto& [key, sum] : sums) {
+        if (!sum.dietro.empty()) all.push_back({name(key), sum.valore, sum.dietro});
+    }
     return all;
 }
 
 /// The highest of them, highest first.
 template <class Name>
-std::vector<barra> highest(const somme<std::int16_t>& sums, Name name) {
-    std::vector<std::pair<std::int16_t, const somma*>> order;
-    for (const auto& [number, sum] : sums) {
-        if (sum.valore > 0) order.emplace_back(number, &sum);
+std::vector<barra> highest(const somme_numerate& sums, Name name) {
+    std::vector<std::int16_t> order;
+    for (std::size_t number = 0; number < sums.size(); ++number) {
+        if (sums[number].valore > 0) order.push_back(static_cast<std::int16_t>(number));
     }
+    const auto sum_of = [&](std::int16_t number) -> const somma& {
+        return sums[static_cast<std::size_t>(number)];
+    };
     const auto shown = static_cast<std::ptrdiff_t>(std::min(order.size(), primi));
-    std::partial_sort(order.begin(), order.begin() + shown, order.end(),
-                      [](const auto& one, const auto& other) {
-                          return one.second->valore > other.second->valore;
-                      });
+    std::partial_sort(order.begin(), order.begin() + shown, order.end(), [&](auto one, auto other) {
+        const double value = sum_of(one).valore;
+        const double others = sum_of(other).valore;
+        return value != others ? value > others : one < other;
+    });
     order.resize(static_cast<std::size_t>(shown));
     std::vector<barra> all;
-    for (const auto& [number, sum] : order) {
-        all.push_back({name(number), sum->valore, sum->ordini});
+    for (const std::int16_t number : order) {
+        all.push_back({name(number), sum_of(number).valore, sum_of(number).dietro});
     }
     return all;
 }
@@ -98,22 +107,28 @@ class counting {
           currency_(currency),
           today_(today),
           names_(files.cli, static_cast<std::int16_t>(in_uso(files, contatori::clienti))),
-          articles_(in_uso(files, contatori::articoli)) {}
+          texts_(files.art),
+          customers_(static_cast<std::size_t>(in_uso(files, contatori::clienti)) + 1),
+          sold_(static_cast<std::size_t>(in_uso(files, contatori::articoli)) + 1),
+          wanted_(sold_.size()) {}
 
     void add(const ordine_letto& order) {
         const rec_orc& head = order.righe.front();
         const auto ordered_on = stored_day(head.data);
-        const int due = place_of(stored_day(head.data_evasione), today_);
+        somma& due = open_[place_of(stored_day(head.data_evasione), today_)];
+        somma& aged = aged_[age_of(ordered_on)];
+        somma& customer = at(customers_, head.cliente);
         for (const rec_orc& row : order.righe) {
             if (row.quantita == 0) continue;
             const double value = worth(row, row.quantita);
-            if (ordered_on) add_to_month(ordered_, *ordered_on, value, order.registrazione);
-            customers_[head.cliente].add(value, order.registrazione);
-            if (is_article(row.articolo)) sold_[row.articolo].add(value, order.registrazione);
+            customer.add(value, order.registrazione);
+            at(sold_, row.articolo).add(value, order.registrazione);
             if (head.evaso_flag == 1 || !is_open(row)) continue;
             const double left = open_quantity(row);
-            open_[due].add(worth(row, left), order.registrazione);
-            if (is_article(row.articolo)) wanted_[row.articolo].add(left, order.registrazione);
+            const double still = worth(row, left);
+            due.add(still, order.registrazione);
+            aged.add(still, order.registrazione);
+            at(wanted_, row.articolo).add(left, order.registrazione);
         }
     }
 
@@ -121,70 +136,85 @@ class counting {
         quadro_azienda all;
         count_movements();
         all.da_evadere = bars_of(open_, week_text);
-        all.ordinato = bars_of(ordered_, month_text);
+        for (barra& bar : all.da_evadere) {
+            bar.etichetta += " (" + std::to_string(bar.ordini.size()) + ")";
+        }
+        all.aperto = bars_of(
+            aged_, [this](int month) { return month == oldest() ? "Prima" : month_text(month); });
         all.consegnato = bars_of(delivered_, month_text);
-        all.clienti = highest(
-            customers_, [this](std::int16_t number) { return std::string(names_.of(number)); });
-        all.articoli = highest(sold_, [this](std::int16_t number) { return article_text(number); });
+        for (barra& bar : all.consegnato) {
+            bar.movimenti.assign(bar.ordini.rbegin(), bar.ordini.rend());
+            bar.ordini.clear();
+        }
+        all.clienti = highest(customers_, [this](std::int16_t number) {
+            return number == 0 ? "Senza cliente" : std::string(names_.of(number));
+        });
+        // Lines of text are no articles.
+        sold_.front() = wanted_.front() = {};
+        all.articoli = highest(sold_, [this](std::int16_t number) { return texts_.of(number); });
         count_missing(all.mancanti);
         return all;
     }
 
  private:
-    [[nodiscard]] bool is_article(int number) const { return number >= 1 && number <= articles_; }
+    /// Where a number counts; those that stand for nobody count together, at 0.
+    static somma& at(somme_numerate& sums, int number) {
+        const auto place = static_cast<std::size_t>(std::max(number, 0));
+        return sums[place < sums.size() ? place : 0];
+    }
     [[nodiscard]] double worth(const rec_orc& row, double quantity) const {
         return valore_netto(row.prezzo, quantity, row.sc1, row.sc2, currency_);
     }
 
-    void add_to_month(somme<int>& months, const date& day, double value, std::int16_t order) const {
-        const int ago = month_of(today_) - month_of(day);
-        if (ago >= 0 && ago < mesi_indietro) months[month_of(day)].add(value, order);
+    /// All months before those that are told apart.
+    [[nodiscard]] int oldest() const { return month_of(today_) - mesi_indietro; }
+    /// The month of an order, or oldest().
+    [[nodiscard]] int age_of(const std::optional<date>& ordered_on) const {
+        return ordered_on ? std::clamp(month_of(*ordered_on), oldest(), month_of(today_))
+                          : oldest();
     }
 
     void count_movements() {
         for_all(files_.mag, in_uso(files_, contatori::magazzino),
-                [&](int, const rec_mag& movement) {
+                [&](int number, const rec_mag& movement) {
                     const auto day = stored_day(movement.data);
-                    if (day) add_to_month(delivered_, *day, value_of(movement), 0);
+                    const int ago = day ? month_of(today_) - month_of(*day) : -1;
+                    if (ago < 0 || ago >= mesi_indietro) return;
+                    delivered_[month_of(*day)].add(valore_di(movement),
+                                                   static_cast<std::int16_t>(number));
                 });
-        for (auto& [month, sum] : delivered_) sum.ordini.clear();
-    }
-    static double value_of(const rec_mag& movement) {
-        return finite_or_zero(movement.quantita * movement.prezzo);
     }
 
     void count_missing(std::vector<barra>& into) {
-        somme<std::int16_t> missing;
-        for (auto& [number, sum] : wanted_) {
-            rec_art article;
-            if (!files_.art.read(number, article)) continue;
-            const double there = finite_or_zero(article.giacenza + article.impegnato);
-            if (sum.valore > there) missing[number] = {sum.valore - there, sum.ordini};
-        }
-        into = highest(missing, [this](std::int16_t number) { return article_text(number); });
-    }
-
-    [[nodiscard]] std::string article_text(std::int16_t number) const {
-        rec_art article;
-        files_.art.read(number, article);
-        return std::string(article.codice.trimmed()) + " " +
-               std::string(article.descrizione.trimmed());
+        somme_numerate missing(wanted_.size());
+        for_all(files_.art, static_cast<int>(wanted_.size()) - 1,
+                [&](int number, const rec_art& article) {
+                    const somma& wanted = at(wanted_, number);
+                    if (wanted.dietro.empty()) return;
+                    at(missing, number) = {wanted.valore - scorta_di(article).in_magazzino,
+                                           wanted.dietro};
+                });
+        into = highest(missing, [this](std::int16_t number) { return texts_.of(number); });
     }
 
     const archivi& files_;
     const valuta& currency_;
     date today_;
     customer_names names_;
-    int articles_;
-    somme<int> open_;       ///< by place_of
-    somme<int> ordered_;    ///< by month
-    somme<int> delivered_;  ///< by month
-    somme<std::int16_t> customers_;
-    somme<std::int16_t> sold_;
-    somme<std::int16_t> wanted_;  ///< quantities still to be delivered
+    article_texts texts_;
+    somme open_;       ///< by place_of
+    somme aged_;       ///< what is open, by age_of
+    somme delivered_;  ///< by month
+    somme_numerate customers_;
+    somme_numerate sold_;
+    somme_numerate wanted_;  ///< quantities still to be delivered
 };
 
 }  // namespace
+
+double valore_di(const rec_mag& movement) {
+    return finite_or_zero(movement.quantita * movement.prezzo);
+}
 
 quadro_azienda conta_azienda(const archivi& files, const valuta& currency, const date& today,
                              const std::function<bool(int, int)>& goes_on) {

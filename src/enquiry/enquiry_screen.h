@@ -46,8 +46,9 @@ class enquiry_screen : public ui::form {
     void load() override;
     void activate() override;
 
-    /// Fills the list; returns what there is to say of it, in the code page.
-    virtual std::string fill(list_rows& list) = 0;
+    /// Fills the list; returns what there is to say of it, in the code page. Nothing stands in it
+    /// until something was looked for, if that is how a kind begins.
+    virtual std::string fill(list_rows& /*list*/) { return {}; }
     /// What Enter does on a row in use.
     virtual void open_row(int row) = 0;
     /// A command behind the one that leaves, on the marked row.

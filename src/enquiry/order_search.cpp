@@ -12,7 +12,7 @@ namespace {
 constexpr int righe_di_testata = 4;
 
 bool blank(const rec_orc& row) {
-    return row.articolo < 1 && trimmed(row.descrizione.full()).empty();
+    return row.articolo < 1 && is_blank(row.descrizione);
 }
 
 }  // namespace
@@ -37,23 +37,23 @@ std::vector<bool> order_search::matching(const channel<Record>& records, int cou
                                          Texts texts) const {
     std::vector<bool> all(static_cast<std::size_t>(count) + 1);
     for_all(records, count, [&](int number, const Record& one) {
-        all[static_cast<std::size_t>(number)] = holds(texts(one));
+        all[static_cast<std::size_t>(number)] = holds({texts(one)});
     });
     return all;
 }
 
-bool order_search::holds(std::string_view text) const {
+bool order_search::holds(std::initializer_list<std::string_view> parts) const {
     plain_.clear();
-    append_searchable(plain_, text);
+    for (const std::string_view part : parts) append_searchable(plain_, part);
     return plain_.find(wanted_) != std::string::npos;
 }
 
 std::string order_search::in_head(std::span<const rec_orc> block) const {
     const rec_orc& head = block.front();
-    if (holds(head.numero.full())) return std::string(head.numero.trimmed());
+    if (holds({head.numero.full()})) return std::string(head.numero.trimmed());
     for (const rec_orc& row : block.first(righe_di_testata)) {
         for (const auto* one : {&row.testo1, &row.testo2, &row.testo3}) {
-            if (holds(one->full())) return std::string(one->trimmed());
+            if (!is_blank(*one) && holds({one->full()})) return std::string(one->trimmed());
         }
     }
     return {};
@@ -62,10 +62,10 @@ std::string order_search::in_head(std::span<const rec_orc> block) const {
 std::optional<std::string> order_search::in_line(const rec_orc& row) const {
     if (blank(row)) return {};
     const auto article = static_cast<std::size_t>(std::max<int>(row.articolo, 0));
-    const std::string description = description_of(row);
-    const bool found = (article < articles_.size() && articles_[article]) || holds(description);
+    const bool found = (article < articles_.size() && articles_[article]) ||
+                       holds({row.descrizione.full(), row.descrizione2.full()});
     if (!found) return {};
-    return std::string(trimmed(description));
+    return std::string(trimmed(description_of(row)));
 }
 
 void order_search::look_into(const ordine_letto& order,

@@ -33,7 +33,8 @@ class order_search {
  private:
     template <class Record, class Texts>
     std::vector<bool> matching(const channel<Record>& records, int count, Texts texts) const;
-    [[nodiscard]] bool holds(std::string_view text) const;
+    /// Whether a text, in its parts, holds what is wanted.
+    [[nodiscard]] bool holds(std::initializer_list<std::string_view> parts) const;
     void look_into(const ordine_letto& order,
                    const std::function<void(const rec_orc& head, riga_trovata)>& found) const;
     /// What of an order's head rows holds the text; empty if nothing does.

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "enquiry/all_records.h"
+#include "orders/article_texts.h"
 #include "orders/customer_names.h"
 #include "store/records/order_block.h"
 #include "text/int16.h"
@@ -13,17 +14,39 @@ namespace vantora {
 namespace {
 
 const tipo_ricerca& tipo_quadro() {
-    static const tipo_ricerca kind{
-        "quadro",
-        "Quadro degli ordini",
-        {{{"", 3000}}, {{"", 5000}}, {{"Valore", 1500, ui::alignment::right}}, {{"", 0}}},
-        {"&Indietro", "&Stampa"},
-        false};
+    static const tipo_ricerca kind{"quadro",
+                                   "Quadro degli ordini",
+                                   {{{"Grafico", 3000}},
+                                    {{"Voce", 5000}},
+                                    {{"Valore", 1500, ui::alignment::right}},
+                                    {{"", 0}}},
+                                   {"&Indietro", "&Stampa"},
+                                   false};
     return kind;
 }
 
 std::vector<ui::grid_column> order_columns() {
     return {{"Ordine", 1000}, {"Data", 1000}, {"Cliente", 4000}, {"Descrizione", 5000}, {"", 0}};
+}
+
+std::vector<ui::grid_column> movement_columns() {
+    using enum ui::alignment;
+    return {
+        {"Movimento", 1500},          {"Data", 1000},         {"Cliente", 3500}, {"Articolo", 4000},
+        {"Quantit\xE0", 1000, right}, {"Valore", 1200, right}};
+}
+
+/// Some records of a file in this order, read ahead; those that can't be read are passed over.
+template <class Record, class Take>
+void for_each_of(const channel<Record>& from, const std::vector<std::int16_t>& numbers,
+                 int records_apart, Take take) {
+    records_ahead<Record> ahead(from, numbers.size(), [&](std::size_t i) {
+        return record_run{(std::int64_t{numbers[i]} - 1) * records_apart + 1, 1};
+    });
+    Record one;
+    for (const std::int16_t number : numbers) {
+        if (ahead.next(one)) take(number, one);
+    }
 }
 
 double highest_of(const std::vector<barra>& bars) {
@@ -38,7 +61,7 @@ quadro::quadro(program& app) : enquiry_screen(app, tipo_quadro()) {}
 
 std::vector<quadro::gruppo> quadro::groups() const {
     return {{"Da evadere per settimana", figures_.da_evadere, true},
-            {"Ordinato per mese", figures_.ordinato, true},
+            {"Da evadere per mese d'ordine", figures_.aperto, true},
             {"Consegnato per mese", figures_.consegnato, true},
             {"Primi clienti", figures_.clienti, true},
             {"Primi articoli", figures_.articoli, true},
@@ -46,7 +69,9 @@ std::vector<quadro::gruppo> quadro::groups() const {
 }
 
 std::string quadro::fill(list_rows& list) {
-    return behind_ ? fill_orders(list, *behind_) : fill_bars(list);
+    if (!behind_) return fill_bars(list);
+    return behind_->movimenti.empty() ? fill_orders(list, *behind_)
+                                      : fill_movements(list, *behind_);
 }
 
 std::string quadro::fill_bars(list_rows& list) {
@@ -59,10 +84,9 @@ std::string quadro::fill_bars(list_rows& list) {
     bars_.assign(1, nullptr);
     for (const gruppo& one : groups()) {
         const double most = highest_of(one.barre);
-        bool first = true;
         for (const barra& bar : one.barre) {
             list.next();
-            if (std::exchange(first, false)) list.write(sezione, one.titolo);
+            list.write(sezione, one.titolo);
             list.write(voce, bar.etichetta);
             list.write(valore, one.importi ? formato_importo(bar.valore, currency)
                                            : testo_quantita(bar.valore));
@@ -71,35 +95,55 @@ std::string quadro::fill_bars(list_rows& list) {
             bars_.push_back(&bar);
         }
     }
-    return bars_.size() > 1 ? std::string() : "Nessun ordine";
+    return bars_.size() > 1 ? "Invio su una barra: gli ordini o i movimenti che ci stanno dietro"
+                            : "Nessun ordine";
 }
 
 std::string quadro::fill_orders(list_rows& list, const barra& of) {
     customer_names names(app_.archives.cli,
                          static_cast<std::int16_t>(in_uso(app_.archives, contatori::clienti)));
-    for (const std::int16_t block : of.ordini) {
-        rec_orc head;
-        if (list.full() || !app_.archives.orc.read(block_record(block, 1), head)) continue;
+    for_each_of(app_.archives.orc, of.ordini, righe_blocco, [&](int block, const rec_orc& head) {
+        if (list.full()) return;
         list.next();
         list.write(ordine, head.numero.trimmed());
         list.write(data, date_text_of_stored(head.data.full()));
         list.write(cliente, names.of(head.cliente));
         list.write(descrizione, head.testo1.trimmed());
         list.write(registrazione, std::to_string(block));
-    }
+    });
     return of.etichetta + ": " + quanti_sono(list.in_use() - 1, "ordine", "ordini");
+}
+
+std::string quadro::fill_movements(list_rows& list, const barra& of) {
+    const valuta currency(app_.parameters);
+    customer_names names(app_.archives.cli,
+                         static_cast<std::int16_t>(in_uso(app_.archives, contatori::clienti)));
+    article_texts articles(app_.archives.art);
+    for_each_of(app_.archives.mag, of.movimenti, 1, [&](int, const rec_mag& one) {
+        if (list.full()) return;
+        list.next();
+        list.write(movimento, one.movimento.trimmed());
+        list.write(giorno, date_text_of_stored(one.data.full()));
+        list.write(destinatario, names.of(one.cliente));
+        list.write(articolo, articles.of(one.articolo));
+        list.write(quantita, testo_quantita(one.quantita));
+        list.write(importo, formato_importo(valore_di(one), currency));
+    });
+    return of.etichetta + ": " + quanti_sono(list.in_use() - 1, "movimento", "movimenti");
 }
 
 void quadro::open_row(int row) {
     if (behind_) {
+        if (!behind_->movimenti.empty()) return;
         const std::string_view block = elenco.text(row, registrazione);
         app_.ordine_cercato = {to_int16(number_at_head(block)).value_or(0), 1};
         return leave();
     }
     const barra* bar = bars_[static_cast<std::size_t>(row)];
-    if (!bar || bar->ordini.empty()) return;
+    if (!bar || (bar->ordini.empty() && bar->movimenti.empty())) return;
     behind_ = bar;
-    elenco.set_columns(order_columns());
+    at_ = row;
+    elenco.set_columns(bar->movimenti.empty() ? order_columns() : movement_columns());
     build();
 }
 
@@ -108,6 +152,7 @@ void quadro::go_back() {
     behind_ = nullptr;
     show_columns();
     build();
+    elenco.set_row(at_);
 }
 
 void quadro::run_command(int /*command*/, int /*row*/) {

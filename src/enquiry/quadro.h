@@ -5,8 +5,8 @@
 
 namespace vantora {
 
-/// The company at a glance: bars of what is due, ordered, delivered, sold and short. Enter on a bar
-/// lists the orders behind it, Enter on one of them opens it.
+/// The company at a glance: bars of what is due, open, delivered, sold and short. Enter on a bar
+/// lists the orders or movements behind it, Enter on an order opens it.
 class quadro final : public enquiry_screen {
  public:
     explicit quadro(program& app);
@@ -15,6 +15,8 @@ class quadro final : public enquiry_screen {
     enum colonna { sezione, voce, valore, millesimi };
     /// Columns while the orders behind a bar are shown.
     enum colonna_ordini { ordine, data, cliente, descrizione, registrazione };
+    /// Columns while the movements behind it are.
+    enum colonna_movimenti { movimento, giorno, destinatario, articolo, quantita, importo };
 
     /// Whether the list holds bars, not orders.
     [[nodiscard]] bool shows_bars() const { return !behind_; }
@@ -34,12 +36,14 @@ class quadro final : public enquiry_screen {
     [[nodiscard]] std::vector<gruppo> groups() const;
     std::string fill_bars(list_rows& list);
     std::string fill_orders(list_rows& list, const barra& of);
+    std::string fill_movements(list_rows& list, const barra& of);
     void print() const;
 
     quadro_azienda figures_;
     bool counted_ = false;
     std::vector<const barra*> bars_;  ///< by row
-    const barra* behind_ = nullptr;   ///< whose orders are shown
+    const barra* behind_ = nullptr;   ///< whose orders or movements are shown
+    int at_ = 0;                      ///< its row
 };
 
 }  // namespace vantora

@@ -42,11 +42,6 @@ void ricerca::activate() {
     testo.set_focus();
 }
 
-// The list stands still while nothing was looked for.
-std::string ricerca::fill(list_rows& /*list*/) {
-    return {};
-}
-
 void ricerca::add_row(const rec_orc& head, const riga_trovata& at, std::string_view customer) {
     const int row = ++found_;
     if (row >= elenco.rows()) elenco.set_rows(row + righe_insieme);

@@ -17,7 +17,6 @@ class ricerca final : public enquiry_screen {
 
  protected:
     void activate() override;
-    std::string fill(list_rows& list) override;
     void open_row(int row) override;
     void run_command(int command, int row) override;
 

@@ -2,7 +2,9 @@
 
 #include <QToolButton>
 
+#include "enquiry/quadro.h"
 #include "enquiry/ricerca.h"
+#include "windows/bar_charts.h"
 #include "windows/layout_pieces.h"
 #include "windows/layouts.h"
 
@@ -51,6 +53,12 @@ void lay_out(form_window& window, enquiry_screen& screen) {
     all->addWidget(window.widget(screen.elenco), 1);
     all->addWidget(window.widget(screen.esito));
     window.set_tab_order(stops);
+    if (auto* figures = dynamic_cast<quadro*>(&screen)) {
+        new bar_charts(window, *figures);
+        window.setMinimumSize(960, 580);
+        window.set_first_size(QSize(1280, 680));
+        return;
+    }
     window.setMinimumSize(760, 420);
     window.set_first_size(QSize(1040, 600));
 }

@@ -85,7 +85,7 @@ QToolButton[look="sort"]:focus { border-color: #2f6ea5; }
 QToolButton[look="main"] { background: #24527a; color: white; border-color: #24527a;
                            padding: 6px 14px; font-weight: 600; }
 QToolButton[look="main"]:hover { background: #2f6ea5; }
-QToolButton[look="main"]:focus { border: 2px solid #8fc0e8; background: #24527a; }
+QToolButton[look="main"]:focus { border: 2px solid #a5cdef; background: #24527a; }
 QToolButton[look="small"] { padding: 3px 4px; }
 QToolButton[look="help"] { padding: 2px 7px; font-weight: 600; color: #24527a; }
 QFileDialog QToolButton { padding: 3px; }
