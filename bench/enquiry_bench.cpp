@@ -10,7 +10,6 @@
 #include "enquiry/company_figures.h"
 #include "enquiry/order_search.h"
 #include "enquiry/prices_given.h"
-#include "store/company.h"
 #include "support/program_stage.h"
 
 namespace vantora::bench {

@@ -20,9 +20,11 @@ class program_window : public testing::Test {
         bench.run([this] { start(app, "ordini001"); }, std::move(steps));
     }
     std::vector<screen_place*> all_screens() {
-        return {&app.mirorc,  &app.mirorcx, &app.mirorcm, &app.mirsel,  &app.mirdata, &app.mirorcs,
-                &app.mirorcz, &app.mirorcb, &app.mirpref, &app.mirorcc, &app.mirorcr, &app.mirorca,
-                &app.mirstoe, &app.mirstos, &app.mirstov, &app.mirston, &app.mirstoa};
+        return {&app.mirorc,  &app.mirorcx, &app.mirorcm, &app.mirsel,    &app.mirdata,
+                &app.mirorcs, &app.mirorcz, &app.mirorcb, &app.mirpref,   &app.mirorcc,
+                &app.mirorcr, &app.mirorca, &app.mirstoe, &app.mirstos,   &app.mirstov,
+                &app.mirston, &app.mirstoa, &app.bozze,   &app.documenti, &app.ricerca,
+                &app.quadro,  &app.prezzi,  &app.storia};
     }
     std::string front() { return bench.front.front_window()->objectName().toStdString(); }
     QMessageBox* box() { return qobject_cast<QMessageBox*>(bench.front.front_window()); }

@@ -2,8 +2,10 @@
 
 #include <fstream>
 
+#include "register/mirorc.h"
 #include "scripted/order_company.h"
 #include "scripted/scripted_run.h"
+#include "scripted/station.h"
 
 namespace vantora::test {
 namespace {
@@ -18,13 +20,16 @@ struct delivered : order_company {
         text("lyo", layout());
         order(1, 1, {{1, 5}, {0, 0, 0, "fragile"}, {2, 20}});
         counter(contatori::documenti_trasporto, 7, 41);
-        run_script(drive(), {"click mirorc.bottone(8)", "set mirorcc.Text3(2) \"3\"",
-                             "pick mirorcc.Combo1(0) 1", "pick mirorcc.Combo1(2) 2",
-                             "set mirorcc.Text2(8) \"Cantiere\"", "click mirorcc.bottone",
-                             "cell mirorcr.elenco 1 0", "click mirorcr.bottone(1)",
-                             "set mirorca.ds(1) \"fragile, in piedi\"", "answer yes", "answer yes",
-                             "answer no", "answer no", "click mirorca.comando(1)"});
+        const auto replies = run_script(
+            drive(),
+            {"click mirorc.bottone(8)", "set mirorcc.Text3(2) \"3\"", "pick mirorcc.Combo1(0) 1",
+             "pick mirorcc.Combo1(2) 2", "set mirorcc.Text2(8) \"Cantiere\"",
+             "click mirorcc.bottone", "cell mirorcr.elenco 1 0", "click mirorcr.bottone(1)",
+             "set mirorca.ds(1) \"fragile, in piedi\"", "answer yes", "answer yes", "answer no",
+             "answer no", "click mirorca.comando(1)", "prints"});
+        first_print = replies.back()["value"];
     }
+    nlohmann::json first_print;
 
     /// Fields and columns one below the other, the lines between 100 and 250 mm.
     static std::vector<std::string> layout() {
@@ -62,7 +67,7 @@ TEST(documents_again, ATransportDocumentComesOutAsItDidAndNothingElseChanges) {
          "prints", "click documenti.bottone(3)", "answer yes", "launched", "prints"});
     EXPECT_EQ(replies[1]["value"][0],
               (nlohmann::json{"42", "06/05/2024", "ROSSI SPA", "3", "scaricato", "8", "20240506"}));
-    EXPECT_EQ(replies[4]["value"].size(), 1U) << "printed once, without a question";
+    EXPECT_EQ(replies[4]["value"], company.first_print) << "once, without a question";
     EXPECT_EQ(replies[7]["value"].size(), 1U);
     EXPECT_NE(replies[7]["value"][0].get<std::string>().find("bll42.pdf"), std::string::npos);
     EXPECT_TRUE(replies[8]["value"].empty()) << "a PDF takes no paper";
@@ -109,6 +114,25 @@ TEST(documents_again, AnOrderFromTheRegisterIsWhatItsSavePrints) {
     EXPECT_TRUE(replies[5]["value"].empty());
     EXPECT_EQ(company.print_file(), saved);
     EXPECT_EQ(archive_of(company), before);
+}
+
+TEST(documents_again, AnOrderThatCantBeReadWholeIsNotPrinted) {
+    const delivered company;
+    const std::string print_file = company.print_file();
+    station at(company.drive());
+    at.run();
+    at.faults.read_fails = [](const std::string& path, std::int64_t offset, std::size_t size) {
+        constexpr std::int64_t row_7 = 6 * std::int64_t{sizeof(rec_orc)};
+        return path.ends_with("orc") && offset <= row_7 &&
+               row_7 < offset + static_cast<std::int64_t>(size);
+    };
+    at.app.mirorc->elenco.set_row(1);
+    for (const auto& one : at.app.mirorc->further_windows()) {
+        if (one.name == "ristampa") at.desk.dispatch(one.open);
+    }
+    EXPECT_NE(at.front.told.back().find("non si lascia leggere"), std::string::npos);
+    EXPECT_EQ(company.print_file(), print_file);
+    EXPECT_TRUE(at.paper.take_jobs().empty());
 }
 
 }  // namespace
