@@ -1,7 +1,5 @@
 #include "enquiry/enquiry_screen.h"
 
-#include <algorithm>
-
 #include "ui/enter_key.h"
 
 namespace vantora {
@@ -9,18 +7,14 @@ namespace vantora {
 namespace {
 
 constexpr int righe_minime = 20;
-
-int last_shown(const tipo_ricerca& kind) {
-    const auto hidden = [](const colonna_ricerca& one) { return one.shown.width == 0; };
-    return static_cast<int>(std::ranges::find_if(kind.colonne, hidden) - kind.colonne.begin()) - 1;
-}
+constexpr int tutte_le_colonne = 99;
 
 }  // namespace
 
 enquiry_screen::enquiry_screen(program& app, const tipo_ricerca& kind)
     : form(app.desk, kind.name, from_utf8(kind.title)),
       app_(app),
-      lista_(elenco, app, righe_minime, last_shown(kind)),
+      lista_(elenco, app, righe_minime, tutte_le_colonne),
       kind_(kind) {
     add("elenco", elenco);
     for (std::size_t i = 0; i < kind.comandi.size(); ++i) {

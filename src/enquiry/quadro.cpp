@@ -182,8 +182,14 @@ void quadro::print() const {
         paper.new_page();
         y = top;
     };
+    paper.text(left, y, "Quadro degli ordini al " + date_text(app_.desk.clock().now().day), bold,
+               0);
+    go_down(2 * step);
     for (const gruppo& one : groups()) {
         if (one.barre.empty()) continue;
+        // A chart stays on one page.
+        const double tall = step * static_cast<double>(one.barre.size()) + step;
+        if (y + tall > last) go_down(last);
         paper.text(left, y, one.titolo, bold, 0);
         go_down(step + 1);
         const double most = highest_of(one.barre);

@@ -87,11 +87,11 @@ void mirorcr::activate() {
 }
 
 void mirorcr::settled() {
-    const auto article_in = [this](int row) -> std::int16_t {
-        return row > 0 && row < righe_ ? viste_[static_cast<std::size_t>(row - 1)].articolo
-                                       : std::int16_t{0};
+    const auto article_in = [this](int row) -> int {
+        if (row < 1 || row >= righe_) return 0;
+        return viste_[static_cast<std::size_t>(row - 1)].articolo;
     };
-    const std::int16_t article = article_in(elenco.row());
+    const int article = article_in(elenco.row());
     rec_art record;
     if (!is_article(article, articoli_.quanti) || !app_.archives.art.read(article, record)) {
         return scorta.set_text("");

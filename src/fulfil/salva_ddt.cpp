@@ -38,7 +38,7 @@ rec_bol record_of(const ddt_da_registrare& document, std::int16_t number, float 
 change_outcome salva_ddt(archivi& files, file_port& port, int numero_azienda,
                          const ddt_da_registrare& document) {
     archive_change change(files);
-    change.recorded_as("documento di trasporto", document.text3[campo_ddt::numero]);
+    change.recorded_as("documento di trasporto", document.contenuto.text3[campo_ddt::numero]);
     rec_tot counter;
     change.counts(files.tot, contatori::documenti_trasporto, counter, files.bol);
     const rec_tot before = counter;

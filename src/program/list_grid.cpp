@@ -49,7 +49,8 @@ void list_grid::paint_stripes() {
     const ui::colour even = ui::colour_of(parameters.colore_riga_pari).value_or(ui::white);
     const ui::colour odd = ui::colour_of(parameters.colore_riga_dispari).value_or(ui::white);
     for (int row = 1; row < grid_.rows(); ++row) {
-        grid_.set_back_colour(row, 0, last_col_, row % 2 == 0 ? even : odd);
+        grid_.set_back_colour(row, 0, std::min(last_col_, grid_.cols() - 1),
+                              row % 2 == 0 ? even : odd);
     }
 }
 

@@ -55,7 +55,7 @@ class list_rows {
 class list_grid {
  public:
     /// `minimum`: the grid never shows fewer rows, head included. `last_col`: the stripes go from
-    /// column 0 to here. REQUIRES: grid and program outlive the list.
+    /// column 0 to here or the last one. REQUIRES: grid and program outlive the list.
     list_grid(ui::grid& grid, program& app, int minimum, int last_col)
         : grid_(grid), app_(app), minimum_(minimum), last_col_(last_col) {}
 

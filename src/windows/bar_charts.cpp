@@ -114,7 +114,7 @@ void bar_charts::paint_chart(QPainter& painter, const chart& one) const {
         labels = std::max(labels, fontMetrics().horizontalAdvance(text(row, quadro::voce)));
         values = std::max(values, fontMetrics().horizontalAdvance(text(row, quadro::valore)));
     }
-    labels = std::min(labels + 2 * inside, one.place.width() * 2 / 5);
+    labels = std::min(labels + 2 * inside, one.place.width() * 9 / 20);
     for (int row = one.first_row; row < one.first_row + one.rows; ++row) {
         paint_bar(painter, one, row, labels, values);
     }
