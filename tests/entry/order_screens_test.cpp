@@ -218,16 +218,6 @@ TEST(mirorcz, AnOrderIsFoundAgainAsItWasLeft) {
     EXPECT_EQ(problems(company), "");
 }
 
-TEST(mirorcz, APastedLineIsOpenWhateverLeftOfTheOneThatItPushesDown) {
-    edited_company company;
-    order_station at(company);
-    mirorcz& screen = at.open(2);
-    at.desk.dispatch([&] { screen.artic[0].on_paste_lines("A3;1", nullptr); });
-    EXPECT_EQ(screen.lines()[1].codice.trimmed(), "A3");
-    EXPECT_EQ(screen.lines()[1].evaso, 0);
-    EXPECT_EQ(screen.lines()[2].evaso, 2);
-}
-
 /// Whatever an order's block holds, it can be opened, saved and deleted, or the program ends with
 /// one of its own run-time errors. What is written then is held at the stored orders.
 TEST(mirorcz, DamagedOrdersDoNoHarm) {

@@ -155,6 +155,10 @@ TEST(lock, IsHeldAtEveryWriteOfEveryCommandAndAtNoBox) {
             return asked.starts_with("Stampare il documento") || !asked.starts_with("Stampa");
         };
         one.work(at);
+        // A repair's copies and its mark are files of its own.
+        std::erase_if(seen.written, [](const std::string& name) {
+            return name.find(".copia") != name.npos || name.starts_with("riparazione-");
+        });
         EXPECT_EQ(seen.written, one.writes);
         EXPECT_EQ(seen.unlocked, std::set<std::string>());
         EXPECT_GE(boxes, one.boxes);

@@ -12,15 +12,6 @@
 
 namespace vantora::demo {
 
-<<<<<<< HEAD
-/// What the deliveries of the orders left in the warehouse's files.
-struct deliveries {
-    std::vector<rec_mag> movements;  ///< the latest ones, `massimo_record` at most
-    std::vector<rec_bol> documents;
-};
-
-=======
->>>>>>> 8387e8b (The article's stock stands below an order's lines and the worklist)
 /// Writes "vantora.orc": `count` orders through two years, the old ones mostly fulfilled, the late
 /// ones mostly open, some deleted. Each order moves the stock of its articles as it was saved,
 /// committed, delivered or deleted; each delivery leaves the text file of its transport document.
