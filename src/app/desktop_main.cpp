@@ -105,8 +105,9 @@ QStringList facts_of(const vantora::program_options& options,
     QStringList lines{"Disco della suite: " + QString::fromStdString(options.drive),
                       "Ditta: " + QString::number(vantora::numero_azienda_in(options.argument)),
                       "PDF: " + QString::fromStdString(pdf.file.string())};
-    if (!pdf.why_not_suite.empty())
+    if (!pdf.why_not_suite.empty()) {
         lines.back() += " (" + QString::fromStdString(pdf.why_not_suite) + ")";
+    }
     lines << "Impostazioni: " + QSettings().fileName();
     return lines;
 }

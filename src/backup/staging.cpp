@@ -6,6 +6,8 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "store/drive.h"
+
 namespace vantora {
 
 namespace fs = std::filesystem;
@@ -32,13 +34,6 @@ staging::staging(const fs::path& target) {
 staging::~staging() {
     std::error_code ignored;
     if (!folder_.empty()) fs::remove_all(folder_, ignored);
-}
-
-void flush_folder(const fs::path& folder) {
-    const int opened = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (opened < 0) return;
-    ::fsync(opened);
-    ::close(opened);
 }
 
 bool swap_in(const fs::path& made, const fs::path& place, const fs::path& former) {

@@ -26,7 +26,4 @@ class staging {
 bool swap_in(const std::filesystem::path& made, const std::filesystem::path& place,
              const std::filesystem::path& former);
 
-/// Waits until the names in a folder have reached the disk.
-void flush_folder(const std::filesystem::path& folder);
-
 }  // namespace vantora

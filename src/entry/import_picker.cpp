@@ -140,7 +140,7 @@ bool import_picker::moved_elsewhere(int row) const {
 void import_picker::tell_moved(int row) {
     const ordine_visto chosen = visti_[static_cast<std::size_t>(row - 1)];
     app_.desk.message("Un'altra postazione ha cambiato l'archivio: l'elenco viene riletto.",
-                      "Attenzione", ui::icon::warning);
+                      ui::attention, ui::icon::warning);
     build_list();
     const auto again = std::ranges::find_if(
         visti_, [&](const ordine_visto& one) { return same_order(one, chosen); });

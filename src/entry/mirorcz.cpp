@@ -105,7 +105,7 @@ void mirorcz::offer_to_read_again() {
         app_.desk.ask("L'ordine non si può leggere per intero ("_cp + named_rows(lette_.unread()) +
                           "): finché è così non si può salvare, eliminare né stampare. "
                           "Rileggere?"_cp,
-                      "Attenzione", ui::icon::warning)) {
+                      ui::attention, ui::icon::warning)) {
         read_again();
     }
 }

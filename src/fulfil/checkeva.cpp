@@ -46,8 +46,8 @@ change_outcome mirorcr::book() {
 std::string mirorcr::marked_orders() const {
     std::set<int> leaving;
     for (int row = 1; row < righe_; ++row) {
-        if (number_in(row, evaso) != 0)
-            leaving.insert(static_cast<int>(number_in(row, numero_ordine)));
+        if (number_in(row, evaso) == 0) continue;
+        leaving.insert(static_cast<int>(number_in(row, numero_ordine)));
     }
     std::string numbers;
     for (const ordine_visto& seen : visti_) {

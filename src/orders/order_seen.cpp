@@ -2,6 +2,7 @@
 
 #include <cstring>
 
+#include "store/record_runs.h"
 #include "store/records/order_block.h"
 
 namespace vantora {
@@ -36,10 +37,16 @@ bool orders_since::took_away(const ordine_visto& seen, const ordine_visto& there
 }
 
 bool orders_since::stands_before(const ordine_visto& seen) const {
-    for (int block = seen.registrazione - 1; block >= 1; --block) {
-        rec_orc row;
-        if (!orders_.read(block_record(block, 1), row)) continue;
-        const ordine_visto there(block, row);
+    if (seen.registrazione < 2) return false;
+    const auto before = static_cast<std::size_t>(seen.registrazione - 1);
+    // Others wait meanwhile: many heads are on their way at once.
+    records_ahead<rec_orc> heads(orders_, before, [](std::size_t i) {
+        return record_run{block_record(static_cast<std::int64_t>(i) + 1, 1), 1};
+    });
+    rec_orc row;
+    for (std::size_t i = 0; i < before; ++i) {
+        if (!heads.next(row)) continue;
+        const ordine_visto there(static_cast<int>(i) + 1, row);
         if (same_order(seen, there) && same_head(seen, there)) return true;
     }
     return false;

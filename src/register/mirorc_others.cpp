@@ -72,7 +72,7 @@ void mirorc::list_anew() {
 void mirorc::tell_moved() {
     app_.desk.message(
         "Un'altra postazione ha compattato l'archivio: l'elenco degli ordini viene riletto.",
-        "Attenzione", ui::icon::warning);
+        ui::attention, ui::icon::warning);
     list_anew();
 }
 

@@ -3,7 +3,7 @@
 #include <cstdlib>
 #include <fstream>
 
-#include "store/drive.h"
+#include "store/station.h"
 #include "text/code_page.h"
 
 namespace vantora {

@@ -1,7 +1,6 @@
 #include "store/drive.h"
 
 #include <fcntl.h>
-#include <pwd.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/xattr.h>
@@ -13,16 +12,10 @@
 #include <csignal>
 #include <utility>
 
+#include "store/station.h"
 #include "text/code_page.h"
 
 namespace vantora {
-
-std::string this_station() {
-    char host[256] = "";
-    ::gethostname(host, sizeof host - 1);
-    const passwd* user = ::getpwuid(::geteuid());
-    return from_utf8(std::string(user ? user->pw_name : "?") + " su " + host);
-}
 
 namespace {
 
@@ -67,6 +60,8 @@ auto uninterrupted(const Call& call) {
     return result;
 }
 
+}  // namespace
+
 bool flush_folder(const std::filesystem::path& folder) {
     const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (descriptor < 0) return false;
@@ -74,6 +69,8 @@ bool flush_folder(const std::filesystem::path& folder) {
     ::close(descriptor);
     return done;
 }
+
+namespace {
 
 /// Device and number of a plain file; empty if there is none.
 using file_identity = std::optional<std::pair<dev_t, ino_t>>;

@@ -42,7 +42,7 @@ class drive final : public file_port {
     access access_;
 };
 
-/// User and host of this program, "anna su cassa2", in the code page.
-std::string this_station();
+/// Waits until the names in a folder have reached the disk.
+bool flush_folder(const std::filesystem::path& folder);
 
 }  // namespace vantora

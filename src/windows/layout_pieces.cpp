@@ -88,15 +88,20 @@ QVBoxLayout* body_under(QWidget* commands, form_window& window) {
     return body;
 }
 
-QFrame* stock_line(form_window& window, const label& stock) {
-    auto* frame = new QFrame(&window);
-    set_look(frame, "role", "stock");
-    text_label* text = window.widget(stock);
+QFrame* text_strip(form_window& window, const label& shown, const char* role,
+                   const QMargins& around) {
+    auto* strip = new QFrame(&window);
+    set_look(strip, "role", role);
+    text_label* text = window.widget(shown);
     text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    auto* line = new QHBoxLayout(frame);
-    line->setContentsMargins(8, 1, 8, 1);
+    auto* line = new QHBoxLayout(strip);
+    line->setContentsMargins(around);
     line->addWidget(text);
-    return frame;
+    return strip;
+}
+
+QFrame* stock_line(form_window& window, const label& stock) {
+    return text_strip(window, stock, "stock", {8, 1, 8, 1});
 }
 
 QToolButton* plain_command(form_window& window, const button& command, const command_look& look) {

@@ -52,6 +52,10 @@ void add_command(QHBoxLayout* row, QToolButton* button, int picture, bool keeps_
 /// The plan of a working window: its commands across the top; what comes below them is returned.
 QVBoxLayout* body_under(QWidget* commands, form_window& window);
 
+/// One line of text over the whole width, of the look that has the name.
+QFrame* text_strip(form_window& window, const label& shown, const char* role,
+                   const QMargins& around);
+
 /// What there is of an article in stock, below the lines or rows that it stands in.
 QFrame* stock_line(form_window& window, const label& stock);
 

@@ -228,14 +228,7 @@ QGroupBox* list_frame(form_window& window, line_grid& screen) {
 
 /// Which order it is that is worked on.
 QFrame* head_strip(form_window& window, const label& head) {
-    auto* strip = new QFrame(&window);
-    set_look(strip, "role", "head");
-    QLabel* text = window.widget(head);
-    text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    auto* line = new QHBoxLayout(strip);
-    line->setContentsMargins(12, 4, 12, 4);
-    line->addWidget(text);
-    return strip;
+    return text_strip(window, head, "head", {12, 4, 12, 4});
 }
 
 struct choice {

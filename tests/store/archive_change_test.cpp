@@ -4,6 +4,7 @@
 
 #include "store/day_book.h"
 #include "store/drive.h"
+#include "store/station.h"
 #include "store/suite_paths.h"
 #include "support/faulty_files.h"
 #include "support/file_bytes.h"

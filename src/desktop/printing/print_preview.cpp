@@ -26,11 +26,9 @@ void save_as_pdf(const recorded_pages& pages, const QPrinter& like, const QStrin
                                            {QString::fromUtf8(words::pdf_files), "pdf"}, above);
     if (file.isEmpty()) return;
     const auto pdf = pdf_of(pages, like, called, {});
-    if (!pdf)
-        return tell(
-            QString::fromUtf8(words::cannot_write).arg(file, QString::fromUtf8(words::no_drawing)),
-            above);
-    save_whole(file, *pdf, above);
+    if (pdf) return save_whole(file, *pdf, above);
+    tell(QString::fromUtf8(words::cannot_write).arg(file, QString::fromUtf8(words::no_drawing)),
+         above);
 }
 
 /// The dialog's bar of commands.
