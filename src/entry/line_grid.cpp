@@ -322,40 +322,6 @@ void line_grid::go_to_next_row(int row) {
     artic[rows - 1].set_focus();
 }
 
-// VAT pick ------------------------------------------------------------------------------------
-
-void line_grid::open_vat_pick(int row) {
-    Combo1.set_visible(true);
-    combo_attivo_ = false;
-    prima_riga_ = row;
-    const auto typed = to_int16(number_at_head(civ[row].text())).value_or(1);
-    const int code = std::clamp<int>(typed, 1, ultimo_codice_iva);
-    riga_corrente_ = line_of(row);
-    Combo1.choose(code - 1);
-    lookup_.mostra_giacenza(righe_[riga_corrente_].articolo);
-    Combo1.set_focus();
-    combo_attivo_ = true;
-}
-
-void line_grid::take_vat_pick() {
-    if (!combo_attivo_) return;
-    const auto code = static_cast<std::int16_t>(Combo1.chosen() + 1);
-    if (riga_corrente_ >= 1 && riga_corrente_ <= righe_ordine::massimo) {
-        righe_[riga_corrente_].iva = code;
-    }
-    if (prima_riga_ >= 0 && prima_riga_ < rows) {
-        civ[prima_riga_].set_text(two_digits(code));
-        prezzo[prima_riga_].set_focus();
-    }
-    Combo1.set_visible(false);
-    compute_totals();
-}
-
-void line_grid::leave_vat_pick() {
-    if (!app_.desk.guards().on() || !Combo1.visible()) return;
-    if (prima_riga_ >= 0 && prima_riga_ < rows) prezzo[prima_riga_].set_focus();
-}
-
 // Commands ------------------------------------------------------------------------------------
 
 void line_grid::command_clicked(int command) {

@@ -12,6 +12,8 @@
 
 namespace vantora {
 
+class paste_report;
+
 /// What the labels `tota` can show.
 enum class totale_mostrato { imponibile, complessivo, pezzi };
 
@@ -181,7 +183,6 @@ class line_grid : public ui::form {
 
     // Pasting -------------------------------------------------------------------------------------
 
-    class paste_report;
     void paste_lines(int row, const ui::pasted_text& pasted, const ui::paste_progress& goes_on);
     void paste_line(const pasted_line& line, int& at, paste_report& report);
     bool make_room(int at, int lines);

@@ -1,5 +1,10 @@
 #include "register/mirorc.h"
 
+#include "enquiry/archived_document.h"
+#include "enquiry/bozze.h"
+#include "program/change_messages.h"
+#include "register/compattazione.h"
+#include "register/copy_first.h"
 #include "text/int16.h"
 #include "text/number_text.h"
 
@@ -196,6 +201,102 @@ void mirorc::open_order(std::int16_t registrazione) {
     app_.schermo_pronto = 0;
     app_.selezione_2 = riga_.cliente;
     lead_to(app_.mirorcz);
+}
+
+// What can be looked up and printed from here
+// ------------------------------------------------------
+
+void mirorc::offer_enquiries() {
+    const auto at_rest = [this] { return !compacting_; };
+    const auto lead = [this](ui::screen_place& where) {
+        return [this, &where] { look_up(where); };
+    };
+    offer({"ricerca", "Cerca negli o&rdini", "Ctrl+Shift+F", at_rest, lead(app_.ricerca)});
+    offer({"documenti", "&Documenti di trasporto", "Ctrl+T", at_rest, lead(app_.documenti)});
+    offer({"quadro", "&Quadro degli ordini", "Ctrl+B", at_rest, lead(app_.quadro)});
+    offer({"bozze", "&Bozze", "Ctrl+Shift+B",
+           [this] { return !compacting_ && app_.person != nullptr; }, lead(app_.bozze),
+           [this] { return app_.person ? numero_bozze(app_) : 0; }});
+    offer({"ristampa", "Ristam&pa l'ordine", "Ctrl+P",
+           [this] { return !compacting_ && elenco.row() > 0; }, [this] { print_again(); }});
+}
+
+void mirorc::look_up(ui::screen_place& where) {
+    app_.ordine_cercato = {};
+    where.use().show_over();
+    if (app_.ordine_cercato.registrazione > 0) open_order(app_.ordine_cercato.registrazione);
+}
+
+void mirorc::print_again() {
+    const auto block = to_int16(number_at_head(elenco.text(elenco.row(), registr)));
+    if (!block || *block < 1) return;
+    auto order = ordine_archiviato(app_, *block);
+    if (!order.perche.empty()) {
+        app_.desk.message(order.perche, ui::attention, ui::icon::stop);
+        return;
+    }
+    const work printing(*this);
+    const auto wanted = app_.desk.show_box(
+        {"Ristampare l'ordine " + order.testata.text3[campo_ordine::numero] + "?",
+         "Ristampa",
+         ui::icon::question,
+         ui::buttons::choice,
+         ui::answer::choice_1,
+         {"Anteprima", "Stampa", "PDF", "Annulla"}});
+    constexpr uscita_ristampa outputs[] = {uscita_ristampa::anteprima, uscita_ristampa::stampa,
+                                           uscita_ristampa::pdf};
+    if (wanted == ui::answer::choice_4) return;
+    ristampa(app_, order, outputs[static_cast<int>(wanted) - 1]);
+}
+
+// Compaction
+// ---------------------------------------------------------------------------------------
+
+void mirorc::compact() {
+    if (compacting_) return;
+    constexpr const char* titolo = "Compattazione archivio";
+    app_.archives.tot.read(contatori::ordini, contatore_);
+    const bool elimina_evasi = app_.desk.ask("Eliminare anche gli ordini evasi?", titolo,
+                                             ui::icon::question, ui::answer::no);
+    if (!app_.desk.ask("Confermi?", titolo, ui::icon::question, ui::answer::no)) return;
+
+    const copy_first first = copy_wanted(app_);
+    if (first == copy_first::give_up) return;
+
+    compacting_ = true;
+    app_.desk.set_pointer(ui::pointer::busy);
+    for (auto& command : bottone) command.set_visible(false);
+    const bool passed =
+        (first == copy_first::skip || copy_made(app_, srt)) && run_compaction(elimina_evasi);
+    srt.set_visible(false);
+    for (auto& command : bottone) command.set_visible(true);
+    compacting_ = false;
+    if (passed) return build_list();
+    app_.desk.set_pointer(ui::pointer::normal);
+}
+
+bool mirorc::run_compaction(bool elimina_evasi) {
+    std::vector<std::string> unread;
+    const auto outcome = compatta_archivio(
+        app_.archives, elimina_evasi,
+        [this](int registrazione, int of) {
+            if (registrazione == 0) {
+                srt.set_visible(true);
+                srt.set_range(1, of);
+            } else {
+                srt.set_value(registrazione);
+                app_.desk.let_events_run();
+            }
+        },
+        &unread);
+    if (!outcome.begun()) {
+        was_stored(app_.desk, outcome, "l'archivio non è stato compattato");
+    } else if (outcome.how != change_outcome::done) {
+        tell_not_compacted(app_.desk, outcome);
+    } else if (!unread.empty()) {
+        tell_kept(app_.desk, unread);
+    }
+    return outcome.begun();
 }
 
 }  // namespace vantora

@@ -69,16 +69,12 @@ class mirorc final : public ui::form {
     /// Shows a window in which something is looked up, and opens the order found there.
     void look_up(ui::screen_place& where);
     void print_again();
-    /// The first lines of a row's order, what is open of it, what it is worth.
     [[nodiscard]] std::string hint(int row) const;
     /// That a row's order should have left already.
     [[nodiscard]] std::string notice(int row) const;
     void compact();
     /// False, with a message, if it can't begin.
     bool run_compaction(bool elimina_evasi);
-    [[nodiscard]] std::filesystem::path folder_of_copies() const;
-    ui::answer copy_wanted();
-    bool copied();
 
     void lead_to(ui::screen_place& next);
     void lead_to_if_customers(ui::screen_place& next);

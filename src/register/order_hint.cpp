@@ -1,16 +1,13 @@
-#include <algorithm>
+#include "register/order_hint.h"
 
+#include <string>
+
+#include "orders/order_rows.h"
 #include "orders/stored_lines.h"
 #include "orders/totals.h"
-#include "register/mirorc.h"
-#include "text/code_page.h"
-#include "text/dates.h"
-#include "text/int16.h"
 #include "text/number_text.h"
 
 namespace vantora {
-
-// What stands behind a row of the register, for who rests on it: one read of the order's block.
 
 namespace {
 
@@ -56,14 +53,7 @@ std::string amount_text(double value, const valuta& in) {
 
 }  // namespace
 
-std::string mirorc::hint(int row) const {
-    if (compacting_) return {};
-    const auto registrazione = to_int16(number_at_head(elenco.text(row, registr)));
-    if (!registrazione || *registrazione < 1) return {};
-    std::vector<rec_orc> block(righe_blocco);
-    if (!app_.archives.orc.read_block(block_record(*registrazione, 1), block)) return {};
-    if (block.front().annullato == 1 || moved_elsewhere(*registrazione, block.front())) return {};
-    const valuta in(app_.parameters);
+std::string order_hint(std::span<const rec_orc> block, const valuta& in) {
     somme_ordine sums;
     std::string text;
     for (const rec_orc& one : block) {
@@ -83,17 +73,6 @@ std::string mirorc::hint(int row) const {
         text += "Da evadere: " + pieces + " pezzi, " + amount_text(open.imponibile, in);
     }
     return text + "\nValore dell'ordine: " + amount_text(sums.totali(in).imponibile, in);
-}
-
-std::string mirorc::notice(int row) const {
-    const std::string_view day = elenco.text(row, evasione);
-    if (day.size() != 10) return {};  // "EVASO", or no date
-    const auto planned = read_date(day);
-    if (!planned) return {};
-    const double late = date_number({app_.desk.clock().now().day}) - date_number({*planned});
-    if (late < 1) return {};
-    return late == 1 ? std::string("In ritardo di un giorno")
-                     : "In ritardo di " + plain_text(late) + " giorni";
 }
 
 }  // namespace vantora
