@@ -1,5 +1,5 @@
 // How long the archive tool takes over an archive filled to its limits: a check, against reading
-// the company's files bare from end to end, and the exports, against writing their bytes.
+// what it reads bare from end to end, and the exports, against writing their bytes.
 
 #include <cstring>
 #include <fstream>
@@ -48,7 +48,8 @@ int run(int count, int rounds) {
     const test::scratch_folder folder;
     demo::make_company({1, count, count, count}, folder.path());
     archive::company_files company(folder.path(), 1);
-    const auto files = files_in(company.path_of("orc").parent_path());
+    auto files = files_in(company.folder());
+    std::erase_if(files, [](const auto& one) { return one.stem() != "vantora"; });
     std::printf("%d orders, articles and customers\n", count);
 
     std::size_t found = 0;
@@ -72,12 +73,10 @@ int run(int count, int rounds) {
         export_tables(company, into, false, {});
         into.finish();
     };
-    export_csv();
-    export_database();
     const auto spare = folder.path() / "bare";
-    compare("export as CSV (below 10 s)", rounds, export_csv, "writing its bytes",
+    compare("export as CSV (below 10 s)", 1, export_csv, "writing its bytes",
             [&] { write_bare(files_in(csv), spare); });
-    compare("export as SQLite (below 10 s)", rounds, export_database, "writing its bytes",
+    compare("export as SQLite (below 10 s)", 1, export_database, "writing its bytes",
             [&] { write_bare({database}, spare); });
     return 0;
 }
@@ -87,5 +86,5 @@ int run(int count, int rounds) {
 
 int main(int count, char** arguments) {
     const bool quick = count > 1 && std::strcmp(arguments[1], "--quick") == 0;
-    return quick ? vantora::bench::run(60, 1) : vantora::bench::run(32767, 3);
+    return quick ? vantora::bench::run(60, 1) : vantora::bench::run(32767, 7);
 }

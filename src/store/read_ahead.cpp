@@ -99,7 +99,8 @@ class recent_speed {
 
 class read_ahead::readers {
  public:
-    explicit readers(std::shared_ptr<file> from) : from_(std::move(from)) {}
+    readers(std::shared_ptr<file> from, first_look look)
+        : from_(std::move(from)), look_(std::move(look)) {}
     readers(const readers&) = delete;
     readers& operator=(const readers&) = delete;
 
@@ -240,12 +241,16 @@ class read_ahead::readers {
         const auto allowed = slow_read * mine.pieces.size() +
                              std::chrono::nanoseconds(mine.size / bytes_in_a_nanosecond);
         speed_.note(clock::now() - begin > allowed);
+        for (const auto& one : mine.pieces) {
+            if (look_ && one.read) look_(one.place, {mine.bytes.get() + one.at, one.place.bytes});
+        }
         locked.lock();
         mine.done = true;
         if (taken_ < queue_.size() && speed_.is_slow()) add_thread();
     }
 
     const std::shared_ptr<file> from_;
+    const first_look look_;
     recent_speed speed_;
     std::atomic<bool> ending_ = false;
 
@@ -268,8 +273,8 @@ class read_ahead::readers {
     std::vector<std::thread> threads_;
 };
 
-read_ahead::read_ahead(std::shared_ptr<file> from)
-    : readers_(std::make_unique<readers>(std::move(from))) {}
+read_ahead::read_ahead(std::shared_ptr<file> from, first_look look)
+    : readers_(std::make_unique<readers>(std::move(from), std::move(look))) {}
 
 read_ahead::~read_ahead() = default;
 

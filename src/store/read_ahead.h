@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <span>
@@ -27,8 +28,12 @@ class read_ahead {
         std::size_t bytes = 0;
     };
 
+    /// What the thread that read a place does with its bytes while they are warm, in whatever order
+    /// places come, before they are taken. REQUIRES: it throws nothing and lasts as long as this.
+    using first_look = std::function<void(const place&, std::span<const std::byte>)>;
+
     /// `from` null: nothing can be read.
-    explicit read_ahead(std::shared_ptr<file> from);
+    explicit read_ahead(std::shared_ptr<file> from, first_look look = {});
     read_ahead(const read_ahead&) = delete;
     read_ahead& operator=(const read_ahead&) = delete;
     ~read_ahead();

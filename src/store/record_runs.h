@@ -39,11 +39,18 @@ class records_ahead {
  public:
     using plan = std::function<record_run(std::size_t)>;
 
+    /// Takes each run that could be read in one call, by its first record, in the thread that read
+    /// it, as read_ahead::first_look.
+    using first_look = std::function<void(std::int64_t first, std::span<const Record>)>;
+
     /// `from` may be closed meanwhile: what is under way goes on.
     explicit records_ahead(const channel<Record>& from) : records_ahead(from, 0, {}) {}
     /// `planned(i)`: run i of `runs`; asked for by itself, in order, some time before its turn.
-    records_ahead(const channel<Record>& from, std::size_t runs, plan planned)
-        : from_(from), plan_(std::move(planned)), runs_(runs), ahead_(from.shared_file()) {}
+    records_ahead(const channel<Record>& from, std::size_t runs, plan planned, first_look look = {})
+        : from_(from),
+          plan_(std::move(planned)),
+          runs_(runs),
+          ahead_(from.shared_file(), look_at_bytes(std::move(look))) {}
 
     void ask(const record_run& run) {
         ahead_.ask({(run.first - 1) * channel<Record>::record_length, run.count * sizeof(Record)});
@@ -76,12 +83,22 @@ class records_ahead {
         if (taken_ == run_.count && !begin_run()) return {};
         const std::size_t at = std::exchange(taken_, run_.count);
         if (!bytes_) return {};
-        // Records are arrays of bytes, at any address.
-        const auto* first = reinterpret_cast<const Record*>(bytes_->data());
-        return std::span(first, run_.count).subspan(at);
+        return records_in(*bytes_).subspan(at);
     }
 
  private:
+    /// Records are arrays of bytes, at any address.
+    static std::span<const Record> records_in(std::span<const std::byte> bytes) {
+        return {reinterpret_cast<const Record*>(bytes.data()), bytes.size() / sizeof(Record)};
+    }
+
+    static read_ahead::first_look look_at_bytes(first_look look) {
+        if (!look) return {};
+        return [look = std::move(look)](const auto& place, std::span<const std::byte> bytes) {
+            look(place.offset / channel<Record>::record_length + 1, records_in(bytes));
+        };
+    }
+
     bool begin_run() {
         plan_ahead();
         if (asked_.empty()) return false;
@@ -111,12 +128,14 @@ class records_ahead {
 
 /// Records 1 to `count` of a file in runs of `at_once`.
 template <class Record>
-records_ahead<Record> all_records_ahead(const channel<Record>& from, int count, int at_once) {
+records_ahead<Record> all_records_ahead(const channel<Record>& from, int count, int at_once,
+                                        typename records_ahead<Record>::first_look look = {}) {
     const int runs = count > 0 ? (count - 1) / at_once + 1 : 0;
-    return records_ahead<Record>(from, static_cast<std::size_t>(runs), [=](std::size_t run) {
+    const auto planned = [=](std::size_t run) {
         const int before = static_cast<int>(run) * at_once;
         return record_run{before + 1, static_cast<std::size_t>(std::min(at_once, count - before))};
-    });
+    };
+    return records_ahead<Record>(from, static_cast<std::size_t>(runs), planned, std::move(look));
 }
 
 }  // namespace vantora

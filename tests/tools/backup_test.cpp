@@ -36,23 +36,31 @@ std::ptrdiff_t plain_files(const std::map<std::string, std::string>& all) {
     return std::ranges::count_if(all, [](const auto& one) { return one.second != "(folder)"; });
 }
 
+enum fault { ended, refused, unread };
+
+/// At each write, or, with the reads of what was written, at each operation.
+void fail(faulty_files& files, fault how, std::size_t n, bool& failed) {
+    if (how == ended) {
+        files.writes_before_crash = n;
+        return;
+    }
+    files.fail_at(n, n % 2 == 0, failed);
+    if (how == refused) files.read_fails = nullptr;
+}
+
 TEST(archive_backup, ACopyIsWholeOrNotThereWhateverWriteFails) {
     const demo_folder company(tiny);
     copying of(company);
     const auto sources = test::files_under(company.drive());
-    for (const bool crashes : {false, true}) {
-        const test::sampled writes(7);
+    for (const auto how : {ended, refused, unread}) {
+        const test::sampled writes(how == unread ? 7 : 1);
         for (std::size_t n = writes.first;; n += writes.step) {
             SCOPED_TRACE(n);
             const test::scratch_folder out;
             drive real(out.path());
             faulty_files to(real);
             bool failed = false;
-            if (crashes) {
-                to.writes_before_crash = n;
-            } else {
-                to.fail_at(n, n % 2 == 0, failed);
-            }
+            fail(to, how, n, failed);
             copy_outcome outcome;
             try {
                 outcome = of.make(to, "ditta007-2024-01-01-000000");
@@ -112,18 +120,14 @@ TEST(archive_restore, TheCompanyIsTheCopyOrAsItWasWhateverWriteFails) {
     drive from(made.place, drive::access::reading_only);
     const copy_outcome checked = checked_copy(made.place, from);
     ASSERT_EQ(checked.fault, "");
-    for (const bool crashes : {false, true}) {
-        const test::sampled writes(7);
+    for (const auto how : {ended, refused, unread}) {
+        const test::sampled writes(how == unread ? 7 : 1);
         for (std::size_t n = writes.first;; n += writes.step) {
             SCOPED_TRACE(n);
             drive real(company.drive());
             faulty_files to(real);
             bool failed = false;
-            if (crashes) {
-                to.writes_before_crash = n;
-            } else {
-                to.fail_at(n, n % 2 == 0, failed);
-            }
+            fail(to, how, n, failed);
             bool done = false;
             std::filesystem::path former;
             try {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <functional>
 #include <sstream>
 
@@ -45,15 +47,21 @@ inline void copy_block(const demo_folder& company, std::size_t from, std::size_t
     put(company.file("orc"), bytes);
 }
 
-/// The kinds of what is found, worse than a note, in order.
-inline std::vector<std::string> kinds_of(const demo_folder& folder, bool notes_too = false) {
+/// The kinds of what is found, in order; but not that ordered quantities are no more judged. Each
+/// finding says what to do, and one of a line whose it is.
+inline std::string kinds_of(const demo_folder& folder) {
     archive::company_files company(folder.drive(), 7);
     const archive::findings all = archive::check_archive(company);
-    std::vector<std::string> kinds;
+    std::string kinds;
     for (const auto& group : all.groups()) {
-        if (notes_too || group.kept.front().how_bad != archive::gravity::note) {
-            kinds.push_back(group.kept.front().kind);
-        }
+        const archive::finding& first = group.kept.front();
+        EXPECT_FALSE(first.advice.empty() || first.where.empty()) << first.kind;
+        EXPECT_TRUE(!first.kind.starts_with("line-") ||
+                    (first.where.starts_with("ordine ") &&
+                     first.where.find(" (registrazione ") != std::string::npos))
+            << first.where;
+        if (first.kind == "ordered-not-judged") continue;
+        kinds += (kinds.empty() ? "" : " ") + first.kind;
     }
     return kinds;
 }

@@ -336,7 +336,7 @@ TEST(archive_show, TellsAnOrderByItsNumberAndEveryFieldByItsName) {
     EXPECT_NE(said({show_request::kind::quotes, "1"}).find("\n  1: "), std::string::npos);
     const auto fields = nlohmann::json::parse(said({show_request::kind::orders, "5", true, true}));
     ASSERT_EQ(fields.size(), 200U);
-    EXPECT_EQ(fields[0]["quantita"], double{head.quantita});
+    EXPECT_EQ(fields[0]["quantity"], double{head.quantita});
     EXPECT_EQ(fields[0].size(), 26U);
     EXPECT_EQ(said({show_request::kind::articles, "151"}), "none");
     EXPECT_EQ(said({show_request::kind::orders, "nessuno"}), "none");

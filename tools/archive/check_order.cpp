@@ -45,7 +45,7 @@ void order_check::look_at(int registrazione, order_rows used, const block_facts&
     check_marks(*head_, 1);
     if (facts.deleted) return;
     check_head(*head_);
-    check_lines(used);
+    check_lines(used, facts.control_bytes);
     if (facts.in_use) note_number(*head_);
 }
 
@@ -122,9 +122,10 @@ void order_check::check_marks(const rec_orc& row, std::size_t number) {
     }
 }
 
-void order_check::check_lines(order_rows order) {
+void order_check::check_lines(order_rows order, bool controls) {
     double open = 0;
     bool has_quantity = false;
+    bool any_odd = false;
     const bool articles_known = found_.doubt.articles.empty();
     const bool order_open = order.front().evaso_flag != 1;
     for (std::size_t row = 0; row < order.size(); ++row) {
@@ -134,21 +135,24 @@ void order_check::check_lines(order_rows order) {
             if (std::string_view(kind) == no_such_article) ++problems_.no_article;
             tell(how_bad, kind, row_named(row + 1) + what, advice);
         };
-        check_line(line, found_.known.articles(), articles_known, tell_line);
+        check_line(line, found_.known.articles(), articles_known,
+                   controls && has_controls_in_texts(line), tell_line);
         check_marks(line, row + 1);
         check_fulfilled(line, row + 1);
-        if (!std::isfinite(line.quantita) || !std::isfinite(line.evaso)) continue;
+        if (beyond_reason(line.quantita) || beyond_reason(line.evaso)) continue;
+        any_odd = any_odd || is_odd(line.quantita, line.evaso);
         has_quantity = has_quantity || line.quantita != 0;
         open += line.quantita - line.evaso;
-        const rec_art* article = articles_known ? found_.known.article(line.articolo) : nullptr;
-        if (order_open && article && article->eliminato != 0 && line.quantita > line.evaso) {
+        if (!order_open || !articles_known || line.quantita <= line.evaso) continue;
+        const rec_art* article = found_.known.article(line.articolo);
+        if (article && article->eliminato != 0) {
             tell(gravity::note, "line-of-deleted-article",
                  row_named(row + 1) + "l'" + found_.known.article_named(line.articolo) +
                      " è eliminato",
                  "Se non si consegna più, togliere la riga dall'ordine.");
         }
     }
-    check_balance(order.front(), open, has_quantity);
+    if (!any_odd) check_balance(order.front(), open, has_quantity);
 }
 
 void order_check::check_fulfilled(const rec_orc& line, std::size_t number) {

@@ -39,7 +39,7 @@ class order_check {
     void check_rows_agree(order_rows order, const block_facts& facts);
     void check_head(const rec_orc& head);
     void check_marks(const rec_orc& row, std::size_t number);
-    void check_lines(order_rows order);
+    void check_lines(order_rows order, bool controls);
     void check_fulfilled(const rec_orc& line, std::size_t number);
     void check_balance(const rec_orc& head, double open, bool has_quantity);
     void note_number(const rec_orc& head);

@@ -11,13 +11,6 @@ namespace {
 
 using quote_rows = std::span<const rec_prv>;
 
-quote_rows without_empty_end(quote_rows quote) {
-    const rec_prv& last = quote.back();
-    std::size_t used = quote.size();
-    while (used > 1 && std::memcmp(&quote[used - 2], &last, sizeof last) == 0) --used;
-    return quote.first(used);
-}
-
 bool is_live(const rec_prv& head) {
     return head.annullato == 0 && head.cliente >= 1 && is_stored_date(head.data.full());
 }
@@ -88,6 +81,7 @@ void check_quote(int registrazione, quote_rows rows, const survey& found, findin
     const char* last = "";
     for (std::size_t row = 0; row < rows.size(); ++row) {
         check_line(rows[row], found.known.articles(), found.doubt.articles.empty(),
+                   has_controls_in_texts(rows[row]),
                    [&](gravity how_bad, const char* kind, const std::string& what, const char*) {
                        if (std::strcmp(last, kind) == 0) return;
                        last = kind;

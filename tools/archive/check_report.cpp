@@ -4,6 +4,7 @@
 #include <ostream>
 
 #include "archive/check.h"
+#include "archive/lock_trial.h"
 #include "archive/progress_line.h"
 #include "archive/words.h"
 #include "store/suite_paths.h"
@@ -32,20 +33,27 @@ std::vector<fs::file_time_type> times_of(const company_files& company) {
 /// and something was written meanwhile, it is looked at once more.
 findings check_at_rest(const fs::path& root, int number, std::ostream* shown) {
     constexpr int attempts_max = 3;
-    std::string who;
+    std::optional<std::string> holder;
+    const auto at_work = [&](const char* does) {
+        return finding{gravity::note, "at-work", "ditta " + std::to_string(number),
+                       "una postazione" + in_brackets(holder.value_or("")) + does,
+                       "Ripetere il controllo quando nessuno lavora."};
+    };
     for (int attempt = 1;; ++attempt) {
         company_files company(root, number);
-        if (const auto holder = company.lock_holder(); !holder.empty()) who = in_brackets(holder);
+        if (auto who = company.lock_holder()) holder = std::move(who);
         const auto before = times_of(company);
         progress_line line(shown);
         findings all = check_archive(company, [&line](const std::string& file, int done, int of) {
             line.show("Controllo: " + file, done, of);
         });
-        if (all.empty() || times_of(company) == before) return all;
-        if (attempt < attempts_max) continue;
-        all.push_back({gravity::note, "at-work", "ditta " + std::to_string(number),
-                       "mentre si controllava, una postazione" + who + " ha scritto nell'archivio",
-                       "Ripetere il controllo quando nessuno lavora."});
+        const bool rests = all.empty() || times_of(company) == before;
+        if (!rests && attempt < attempts_max) continue;
+        if (!rests) {
+            all.push_back(at_work(" ha scritto nell'archivio mentre si controllava"));
+        } else if (holder) {
+            all.push_back(at_work(" tiene l'archivio: sta scrivendo"));
+        }
         return all;
     }
 }
@@ -76,7 +84,7 @@ void show_company(int number, const findings& all, const check_request& request,
     if (request.quiet && all.sound()) return;
     if (request.all) out << "Ditta " << number << '\n';
     out << all.in_lines();
-    if (all.empty()) out << "L'archivio è in ordine.\n";
+    if (all.sound()) out << "L'archivio è in ordine.\n";
 }
 
 }  // namespace
@@ -86,12 +94,19 @@ int report_check(const fs::path& root, int numero_azienda, const check_request& 
     std::vector<int> numbers = request.all ? companies_of(root) : std::vector{numero_azienda};
     auto list = nlohmann::ordered_json::array();
     int result = numbers.empty() ? unreadable : sound;
+    std::string of_locks;
+    drive writable(root);
     for (const int number : numbers) {
         if (!company_files(root, number).folder_exists()) {
             result = unreadable;
             continue;
         }
-        const findings all = check_at_rest(root, number, request.quiet ? nullptr : progress);
+        findings all = check_at_rest(root, number, request.quiet ? nullptr : progress);
+        if (const finding locks = try_locks(writable, number); locks.kind == locks_work) {
+            of_locks = locks.what + "\n";
+        } else {
+            all.push_back(locks);
+        }
         if (!all.sound()) result = std::max(result, has_findings);
         if (!request.json) {
             show_company(number, all, request, out);
@@ -104,6 +119,7 @@ int report_check(const fs::path& root, int numero_azienda, const check_request& 
     if (request.json && !(request.quiet && result == sound)) {
         out << list.dump(2, ' ', false, nlohmann::json::error_handler_t::replace) << '\n';
     }
+    if (!request.json && !request.quiet) out << of_locks;
     if (result == unreadable) {
         out << (request.all ? "Qui non c'è nessuna ditta.\n"
                             : "Qui non c'è l'archivio della ditta " +

@@ -37,6 +37,14 @@ void check_ordered(const survey& found, findings& into) {
     }
     for (const wrong_ordered_quantity& one : found.open.compare(found.known)) {
         if (beyond_reason(one.stored)) continue;
+        if (one.odd_row) {
+            into.push_back(
+                {gravity::note, "ordered-quantity-odd", found.known.article_named(one.articolo),
+                 "l'ordinato dai clienti è " + plain_text(one.stored) + ", gli ordini fanno " +
+                     plain_text(one.open) + ", e in una sua riga l'evaso è più dell'ordinato",
+                 "Vedere prima se quella riga è giusta."});
+            continue;
+        }
         into.push_back({gravity::error, "ordered-quantity", found.known.article_named(one.articolo),
                         "l'ordinato dai clienti è " + plain_text(one.stored) +
                             ", e gli ordini aperti fanno " + plain_text(one.open),

@@ -5,6 +5,7 @@
 #include "archive/progress_line.h"
 #include "archive/words.h"
 #include "backup/backup.h"
+#include "store/day_book.h"
 #include "store/suite_paths.h"
 #include "text/number_text.h"
 
@@ -127,11 +128,17 @@ int run_restore(const which_company& which, const restore_request& request) {
         return exit_code::refused;
     }
     drive to(which.drive);
+    archivi noted;
+    if (const auto book = book_of_person()) book->watch(noted, which.number(), now_here);
     const std::string former = "prima-" + stem_of_copies(which.number()) + moment();
     copy_outcome outcome;
     {
         progress_line line(watched_errors());
         outcome = put_back(copy, from, which.number(), to, former, shown_by(line, "Si rimette"));
+    }
+    if (noted.book) {
+        noted.book("ripristino", from_utf8(fs::absolute(request.copy).string()),
+                   outcome.fault.empty() ? "fatto" : "non fatto, " + outcome.fault);
     }
     if (!outcome.fault.empty()) return tell_failed(unchanged, outcome);
     std::cout << "La ditta è quella della copia.\n";

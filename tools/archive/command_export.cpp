@@ -5,6 +5,7 @@
 #include "archive/csv_text.h"
 #include "archive/export_csv.h"
 #include "archive/export_sqlite.h"
+#include "archive/progress_line.h"
 #include "text/number_text.h"
 
 namespace vantora::archive {
@@ -66,8 +67,15 @@ int run_export(company_files& company, const export_request& request, Sink sink)
     const auto begun = std::chrono::steady_clock::now();
     gaps missing = gaps_of(company);
     if (!missing.empty() && !request.partial) return refuse(missing);
+    std::optional<progress_line> line(watched_errors());
     const export_outcome outcome =
-        export_tables(company, *sink, request.names == "english", std::move(missing));
+        export_tables(company, *sink, request.names == "english", std::move(missing),
+                      [&line](const std::string& table, std::int64_t rows) {
+                          line->show("Esportazione: " + table + ", " +
+                                         italian(static_cast<double>(rows), false) + " righe",
+                                     0, 0);
+                      });
+    line.reset();
     if (!outcome.missing.empty() && !request.partial) return refuse(outcome.missing);
     if (sink->finish())
         return tell(outcome, request.target, std::chrono::steady_clock::now() - begun);

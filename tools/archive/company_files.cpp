@@ -51,9 +51,10 @@ std::int16_t company_files::count(int record) const {
     return std::max<std::int16_t>(0, counter(record).quanti);
 }
 
-std::string company_files::lock_holder() const {
+std::optional<std::string> company_files::lock_holder() const {
     const auto tot = records_.tot.shared_file();
-    return without_controls(tot ? tot->locked_by().value_or("") : "");
+    const auto holder = tot ? tot->locked_by() : std::nullopt;
+    return holder ? std::optional(without_controls(*holder)) : std::nullopt;
 }
 
 }  // namespace vantora::archive

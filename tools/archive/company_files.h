@@ -37,8 +37,8 @@ class company_files {
     [[nodiscard]] rec_tot counter(int record) const;
     /// How many records a counter says there are, never below 0.
     [[nodiscard]] std::int16_t count(int record) const;
-    /// Who is writing just now, "anna su cassa2"; empty if nobody is, or it isn't known.
-    [[nodiscard]] std::string lock_holder() const;
+    /// Who is writing just now, "anna su cassa2", or an empty text; nothing if nobody is.
+    [[nodiscard]] std::optional<std::string> lock_holder() const;
 
  private:
     int numero_;
@@ -77,12 +77,14 @@ int scan(const channel<Record>& from, int count, Visit visit) {
 }
 
 /// The same with the 200 rows of a block at a time: visit(registrazione, rows). A block is read as
-/// a whole or passed over; returns how many were.
+/// a whole or passed over; returns how many were. `look` sees each before, in whatever order, while
+/// others are visited.
 template <class Row, class Visit>
-int scan_blocks(const channel<Row>& from, int blocks, Visit visit) {
+int scan_blocks(const channel<Row>& from, int blocks, Visit visit,
+                typename records_ahead<Row>::first_look look = {}) {
     constexpr int rows = righe_blocco;
     blocks = (held_of(from, blocks * rows) + rows - 1) / rows;
-    auto ahead = all_records_ahead(from, blocks * rows, rows);
+    auto ahead = all_records_ahead(from, blocks * rows, rows, std::move(look));
     int unread = 0;
     for (int block = 1; block <= blocks; ++block) {
         if (const auto its = ahead.next_run()) {

@@ -76,4 +76,9 @@ std::string digits_of(double number) {
     return {digits, end.ptr};
 }
 
+std::string italian_date(const std::string& iso) {
+    if (iso.size() < 10 || iso[4] != '-' || iso[7] != '-') return iso;
+    return iso.substr(8, 2) + "/" + iso.substr(5, 2) + "/" + iso.substr(0, 4) + iso.substr(10);
+}
+
 }  // namespace vantora::archive

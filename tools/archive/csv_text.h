@@ -11,6 +11,9 @@ namespace vantora::archive {
 /// apostrophe it is the text again.
 std::string kept_as_text(std::string_view utf8);
 
+/// dd/mm/yyyy of yyyy-mm-dd, with the time behind it if there is one; what isn't one as it is.
+std::string italian_date(const std::string& iso);
+
 /// The shortest digits that give the number again, never with an exponent; NaN, Inf, -Inf.
 std::string digits_of(double number);
 

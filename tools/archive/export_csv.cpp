@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "archive/csv_text.h"
+#include "archive/words.h"
 #include "text/csv.h"
 
 namespace vantora::archive {
@@ -14,15 +15,6 @@ namespace {
 
 constexpr std::size_t handed_over_at = 1 << 20;
 constexpr const char* line_end = "\r\n";
-
-bool is_iso_date(std::string_view text) {
-    return text.size() >= 10 && text[4] == '-' && text[7] == '-';
-}
-
-/// dd/mm/yyyy of yyyy-mm-dd, with the time behind it if there is one.
-std::string italian_date(const std::string& iso) {
-    return iso.substr(8, 2) + "/" + iso.substr(5, 2) + "/" + iso.substr(0, 4) + iso.substr(10);
-}
 
 }  // namespace
 
@@ -43,7 +35,8 @@ std::string csv_folder::obstacle(const fs::path& folder) {
     for (fs::directory_iterator each(folder, failed), none; !failed && each != none;
          each.increment(failed)) {
         if (!each->is_regular_file(failed) || each->path().extension() != ".csv") {
-            return "contiene altro che un'esportazione (" + each->path().filename().string() + ")";
+            return "contiene altro che un'esportazione (" + words_of_path(each->path().filename()) +
+                   ")";
         }
     }
     return failed ? "non si può leggere" : "";
@@ -70,10 +63,9 @@ void csv_folder::put(const cell_value& value, content of) {
         pending_.append(digits);
     } else if (const auto& text = std::get<std::string>(value); plain_) {
         add_csv_cell(pending_, text, separator_);
-    } else if (of == content::date && is_iso_date(text)) {
-        add_csv_cell(pending_, italian_date(text), separator_);
     } else {
-        add_csv_cell(pending_, kept_as_text(text), separator_);
+        const std::string day = of == content::date ? italian_date(text) : text;
+        add_csv_cell(pending_, day == text ? kept_as_text(text) : day, separator_);
     }
 }
 

@@ -38,9 +38,10 @@ void export_missing(const gaps& missing, table_writer& into) {
 
 }  // namespace
 
-export_outcome export_tables(company_files& company, table_sink& sink, bool english, gaps missing) {
+export_outcome export_tables(company_files& company, table_sink& sink, bool english, gaps missing,
+                             export_progress tell) {
     const referred to{company.count(contatori::clienti), company.count(contatori::articoli)};
-    table_writer into(sink, english, to);
+    table_writer into(sink, english, to, std::move(tell));
     const naming& names = into.names;
     archivi& files = company.records();
     into.records(names("clienti", "customers"), files.cli, to.customers, missing);

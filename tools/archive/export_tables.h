@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -48,12 +49,16 @@ struct export_outcome {
     std::int64_t lost_references = 0;
 };
 
+/// Where an export is: the table, and all rows so far.
+using export_progress = std::function<void(const std::string& table, std::int64_t rows)>;
+
 /// Hands over everything that the program knows of a company: customers, articles and their long
 /// texts, orders and quotes with their lines, movements, transport documents with their lines, the
 /// suite's tables, counters and parameters. Lines that hold nothing are left out; deleted records
 /// say so in a column. What belongs to other programs stands field by field in a table of its own,
 /// and so do references to records that there aren't, which are empty where they stood. `missing`:
 /// what is known to be missing; if there is anything, a table of it goes along.
-export_outcome export_tables(company_files& company, table_sink& into, bool english, gaps missing);
+export_outcome export_tables(company_files& company, table_sink& into, bool english, gaps missing,
+                             export_progress tell = {});
 
 }  // namespace vantora::archive

@@ -30,8 +30,9 @@ std::string gap_at(company_files& company, const counted_file& file) {
     if (!company.files().open_records(file_azienda(company.numero_azienda(), file.extension))) {
         return "non si può aprire";
     }
-    if (*length % file.record_length != 0) return "è tagliato: l'ultima registrazione non è intera";
-    if (file.counter == 0) return {};
+    const std::string cut =
+        *length % file.record_length == 0 ? "" : "è tagliato: l'ultima registrazione non è intera";
+    if (file.counter == 0) return cut;
     const std::int64_t held = *length / file.record_length / file.per_count;
     const int counted = company.counter(file.counter).quanti;
     if (counted < 0) return "il contatore non ha senso (" + std::to_string(counted) + ")";
@@ -42,7 +43,7 @@ std::string gap_at(company_files& company, const counted_file& file) {
         return "il contatore dice " + std::to_string(counted) + ", il file ne contiene " +
                std::to_string(held);
     }
-    return {};
+    return cut;
 }
 
 /// The tables without which figures and codes of the records can't be understood.

@@ -31,11 +31,23 @@ inline bool beyond_reason(double figure) {
     return !(std::abs(figure) < 1e9);
 }
 
+/// More fulfilled than ordered, or with the other sign: meant, or wrong.
+inline bool is_odd(double ordered, double fulfilled) {
+    return ordered != 0 && (std::abs(fulfilled) > std::abs(ordered) || ordered * fulfilled < 0);
+}
+
+/// Whether a line of an order or a quote has such bytes in its texts.
+template <class Row>
+bool has_controls_in_texts(const Row& line) {
+    return has_controls(line.descrizione.full()) || has_controls(line.descrizione2.full()) ||
+           has_controls(line.um.full());
+}
+
 inline constexpr const char* no_such_article = "line-no-article";
 
 /// What is wrong in one line of an order or a quote, by itself: tell(gravity, kind, what, advice).
 template <class Row, class Tell>
-void check_line(const Row& line, int articles, bool articles_known, Tell tell) {
+void check_line(const Row& line, int articles, bool articles_known, bool controls, Tell tell) {
     if (!std::isfinite(line.quantita) || !std::isfinite(line.prezzo)) {
         tell(gravity::error, "line-no-number", "la quantità o il prezzo non è un numero",
              "Aprire il documento e riscrivere la riga.");
@@ -59,8 +71,7 @@ void check_line(const Row& line, int articles, bool articles_known, Tell tell) {
                  " è oltre il cento per cento",
              "Aprire il documento e riscrivere gli sconti.");
     }
-    if (has_controls(line.descrizione.full()) || has_controls(line.descrizione2.full()) ||
-        has_controls(line.um.full())) {
+    if (controls) {
         tell(gravity::warning, "line-text", "la descrizione contiene caratteri che non si scrivono",
              "Aprire il documento e riscrivere la descrizione.");
     }

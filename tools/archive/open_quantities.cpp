@@ -29,6 +29,7 @@ void open_quantities::add(order_rows order) {
             its.known = false;
             continue;
         }
+        its.odd_row = its.odd_row || is_odd(quantity, fulfilled);
         if (quantity != 0) {
             its.open += quantity - fulfilled;
         } else {
@@ -48,7 +49,8 @@ bool open_quantities::explains(int article, double ordered) const {
 
 bool open_quantities::explains_committed(int article, double committed) const {
     const sum& its = at(article);
-    return !its.known || committed <= its.committed + tolerance * std::max(1.0, its.moved);
+    return !its.known || its.odd_row ||
+           committed <= its.committed + tolerance * std::max(1.0, its.moved);
 }
 
 std::vector<wrong_ordered_quantity> open_quantities::compare(const masters& known) const {
@@ -56,7 +58,7 @@ std::vector<wrong_ordered_quantity> open_quantities::compare(const masters& know
     for (int number = 1; number <= articles(); ++number) {
         const rec_art* article = known.article(number);
         if (!article || explains(number, article->ordinato_clienti)) continue;
-        wrong.push_back({number, article->ordinato_clienti, at(number).open});
+        wrong.push_back({number, article->ordinato_clienti, at(number).open, at(number).odd_row});
     }
     return wrong;
 }
@@ -72,6 +74,7 @@ open_quantities open_quantities::plus(const open_quantities& other) const {
         its.moved += more.moved;
         its.committed += more.committed;
         its.known = its.known && more.known;
+        its.odd_row = its.odd_row || more.odd_row;
     }
     return both;
 }

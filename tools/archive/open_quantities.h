@@ -10,8 +10,9 @@ namespace vantora::archive {
 /// An article whose `ordinato_clienti` isn't what its open order rows add up to.
 struct wrong_ordered_quantity {
     int articolo = 0;
-    double stored = 0;  ///< what the article says
-    double open = 0;    ///< what the orders have open of it
+    double stored = 0;     ///< what the article says
+    double open = 0;       ///< what the orders have open of it
+    bool odd_row = false;  ///< one of its rows has more fulfilled than ordered: that may be wrong
 };
 
 /// What the orders that aren't deleted have open of each article: quantity less fulfilled. A row
@@ -52,6 +53,7 @@ class open_quantities {
         double moved = 0;      ///< of all amounts, whatever their sign: what rounding depends on
         double committed = 0;  ///< the most that can be set aside for open rows
         bool known = true;
+        bool odd_row = false;
     };
 
     [[nodiscard]] const sum& at(int article) const {

@@ -4,6 +4,8 @@
 #include <cmath>
 #include <cstring>
 
+#include "archive/line_check.h"
+
 namespace vantora::archive {
 
 namespace {
@@ -39,21 +41,6 @@ constexpr double latest_day = 2958465;  ///< 31/12/9999
 
 }  // namespace
 
-order_rows without_empty_end(order_rows order) {
-    const rec_orc& last = order.back();
-    if (last.quantita != 0 || last.evaso != 0 || last.prezzo != 0 || last.articolo != 0) {
-        return order;
-    }
-    constexpr std::size_t together = 16;
-    std::size_t used = order.size();
-    while (used > together + 1 && std::memcmp(&order[used - 1 - together], &order[used - together],
-                                              together * sizeof last) == 0) {
-        used -= together;
-    }
-    while (used > 1 && std::memcmp(&order[used - 2], &last, sizeof last) == 0) --used;
-    return order.first(used);
-}
-
 std::size_t first_foreign_row(order_rows order) {
     std::size_t row = 1;
     while (row < order.size() && same_head(order.front(), order[row])) ++row;
@@ -65,14 +52,17 @@ bool is_stored_date(std::string_view yyyymmdd) {
            read_date(date_text_of_stored(yyyymmdd)).has_value();
 }
 
-block_facts facts_of(order_rows used) {
+block_facts facts_of(order_rows order) {
     constexpr std::size_t before_mark = sizeof(rec_orc) - sizeof(i16le);
+    const order_rows used = without_empty_end(order);
     const rec_orc& head = used.front();
     block_facts facts;
+    facts.used = static_cast<std::uint8_t>(used.size());
     facts.empty = used.size() == 1 && is_zero(head);
     if (facts.empty) return facts;
     bool same_mark = true;
     for (const rec_orc& row : used) {
+        facts.control_bytes = facts.control_bytes || has_controls_in_texts(row);
         facts.print = mixed(facts.print, std::as_bytes(std::span(&row, 1)).first(before_mark));
         same_mark = same_mark && row.annullato == head.annullato;
     }

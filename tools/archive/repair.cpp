@@ -53,7 +53,7 @@ std::optional<int> ends_here(const repair_plan& plan, const repair_request& requ
 int tell_not_begun(archive_change& change, const company_files& company,
                    const repair_request& request) {
     if (change.others_at_work()) {
-        request.out << "Un'altra postazione" << in_brackets(company.lock_holder())
+        request.out << "Un'altra postazione" << in_brackets(company.lock_holder().value_or(""))
                     << " sta scrivendo nell'archivio: riprovare quando ha finito. Niente è stato "
                        "cambiato.\n";
         return refused;

@@ -30,12 +30,12 @@ repair_step set_ordered(const wrong_ordered_quantity& one, const masters& known)
 repair_plan plan_ordered(company_files& company) {
     const survey found = survey_company(company);
     repair_plan plan;
-    plan.nothing = "Tutte le quantità ordinate sono giuste.";
+    plan.nothing = "Nessuna quantità ordinata è sbagliata di certo.";
     plan.refusal = found.doubt.articles.empty() ? found.doubt.orders : found.doubt.articles;
     if (found.known.unread_articles() > 0) plan.refusal = "non tutti gli articoli si leggono";
     if (!plan.refusal.empty()) return plan;
     for (const auto& one : found.open.compare(found.known)) {
-        plan.steps.push_back(set_ordered(one, found.known));
+        if (!one.odd_row) plan.steps.push_back(set_ordered(one, found.known));
     }
     return plan;
 }

@@ -3,6 +3,7 @@
 #include <nlohmann/json.hpp>
 #include <ostream>
 
+#include "archive/csv_text.h"
 #include "archive/show_words.h"
 #include "archive/table_writer.h"
 
@@ -23,13 +24,28 @@ ordered_json json_of(const Value& value) {
     }
 }
 
+/// The key of a field; those that only other programs use have names that say so.
+template <class Field>
+std::string key_of(const Field& field) {
+    if (field.english) return field.english;
+    constexpr std::pair<std::string_view, const char*> heads[] = {{"riservato", "reserved"},
+                                                                  {"testo", "text"},
+                                                                  {"descrizione", "description"},
+                                                                  {"vuoto", "blank"},
+                                                                  {"uno", "one"}};
+    for (const auto& [italian, english] : heads) {
+        if (!field.name.starts_with(italian)) continue;
+        return english + std::string(field.name.substr(italian.size()));
+    }
+    return std::string(field.name);
+}
+
 /// Every field by its name; no number at all comes as null.
 template <class Record>
 ordered_json all_fields(std::int64_t number, const Record& one) {
     ordered_json object{{"record", number}};
-    visit_fields(one, [&](const auto& field, const auto& value) {
-        object[std::string(field.name)] = json_of(value);
-    });
+    visit_fields(
+        one, [&](const auto& field, const auto& value) { object[key_of(field)] = json_of(value); });
     return object;
 }
 
@@ -42,7 +58,9 @@ void write_fields(const Record& one, std::ostream& out) {
             const cell_value cell = meant_cell(field, value, {32767, 32767});
             out << "  " << (field.column ? std::string(field.column) : std::string(field.name))
                 << ": ";
-            if (const auto* text = std::get_if<std::string>(&cell)) out << *text << '\n';
+            const auto* text = std::get_if<std::string>(&cell);
+            const bool day = field.means == meaning::date || field.means == meaning::day;
+            if (text) out << (day ? italian_date(*text) : *text) << '\n';
             if (const auto* whole = std::get_if<std::int64_t>(&cell)) out << *whole << '\n';
             if (const auto* number = std::get_if<double>(&cell)) out << figure(*number) << '\n';
         }

@@ -25,15 +25,21 @@ class orders_survey {
         facts_.resize(static_cast<std::size_t>(all) + 1);
         prints_.reserve(facts_.size());
         saves_.reserve(facts_.size());
-        const int unread =
-            scan_blocks(company_.records().orc, all, [&](int registrazione, order_rows order) {
+        const int unread = scan_blocks(
+            company_.records().orc, all,
+            [&](int registrazione, order_rows order) {
                 if (tell && registrazione % 64 == 1) tell("vantora.orc", registrazione, all);
-                const order_rows used = without_empty_end(order);
+                const order_rows used = order.first(facts(registrazione).used);
                 if (registrazione <= counted_) {
                     take_counted(registrazione, used);
                 } else {
                     take_behind(registrazione, used);
                 }
+            },
+            [this](std::int64_t first, order_rows order) {
+                const int registrazione = static_cast<int>(first / righe_blocco) + 1;
+                if (registrazione > into_.orders_held) return;
+                facts(registrazione) = facts_of(order);
             });
         if (tell_unread(company_.records().orc, unread * righe_blocco, into_.all)) {
             doubt("non tutti gli ordini si possono leggere");
@@ -87,7 +93,7 @@ class orders_survey {
 
     void take_counted(int registrazione, order_rows used) {
         if (registrazione > into_.orders_held) return;
-        const block_facts& its = facts(registrazione) = facts_of(used);
+        const block_facts& its = facts(registrazione);
         into_.open.add(used);
         if (const int first = earlier_twin(registrazione, its); first > 0) {
             into_.twins.push_back({registrazione, first});
@@ -111,7 +117,7 @@ class orders_survey {
     }
 
     void take_behind(int registrazione, order_rows used) {
-        const block_facts& its = facts(registrazione) = facts_of(used);
+        const block_facts& its = facts(registrazione);
         // What a compaction left behind it may have been edited since in its new place.
         if (!its.live() || prints_.contains(its.print)) return;
         if (its.saved != 0 && saves_.contains(its.saved)) return;

@@ -9,11 +9,12 @@ namespace vantora::archive {
 /// Puts rows together for a sink and counts them.
 class table_writer {
  public:
-    table_writer(table_sink& into, bool english, const referred& to)
-        : names{english}, to(to), into_(into) {}
+    table_writer(table_sink& into, bool english, const referred& to, export_progress tell)
+        : names{english}, to(to), into_(into), tell_(std::move(tell)) {}
 
     void begin(exported_table table) {
         ++tables_;
+        table_ = table.name;
         into_.begin(table);
     }
     void end() { into_.end(); }
@@ -24,7 +25,7 @@ class table_writer {
         cells_.assign(key);
         fill(cells_);
         into_.row(cells_);
-        ++rows_;
+        if (++rows_ % 1024 == 0 && tell_) tell_(table_, rows_);
     }
     void row(std::initializer_list<cell_value> cells) {
         row(cells, [](auto&) {});
@@ -51,6 +52,8 @@ class table_writer {
 
  private:
     table_sink& into_;
+    export_progress tell_;
+    std::string table_;
     std::vector<cell_value> cells_;
     std::int64_t tables_ = 0;
     std::int64_t rows_ = 0;

@@ -91,9 +91,8 @@ void delivery::write_text_file(folder_writer& folder) {
     place(vettore1, to.vettore1);
     place(vettore2, to.vettore2);
     place(vettore3, to.vettore3);
-    const std::string content = scrivi_istantanea(kept_);
-    folder.write_bytes(nome_istantanea(static_cast<float>(number_)),
-                       std::as_bytes(std::span(content)));
+    folder.write_one_of_many(nome_istantanea(static_cast<float>(number_)),
+                             scrivi_istantanea(kept_));
 }
 
 }  // namespace vantora::demo

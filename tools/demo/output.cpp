@@ -1,5 +1,7 @@
 #include "demo/output.h"
 
+#include <fstream>
+
 #include "text/code_page.h"
 
 namespace vantora::demo {
@@ -15,6 +17,11 @@ void folder_writer::write_lines(std::string_view name, const std::vector<std::st
 
 void folder_writer::write_bytes(std::string_view name, std::span<const std::byte> bytes) {
     check_written(create(name)->write(0, bytes), name);
+}
+
+void folder_writer::write_one_of_many(std::string_view name, std::string_view bytes) {
+    std::ofstream out(files_.locate(folder_) / name, std::ios::binary);
+    check_written(bool(out << bytes << std::flush), name);
 }
 
 void folder_writer::check_written(bool written, std::string_view name) {

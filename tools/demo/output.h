@@ -27,6 +27,9 @@ class folder_writer {
 
     void write_bytes(std::string_view name, std::span<const std::byte> bytes);
 
+    /// One of thousands: no other spelling of its name is looked for.
+    void write_one_of_many(std::string_view name, std::string_view bytes);
+
     template <class Record>
     void write_records(std::string_view name, const std::vector<Record>& records) {
         write_bytes(name, std::as_bytes(std::span(records)));
