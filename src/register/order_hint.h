@@ -4,7 +4,7 @@
 #include <string>
 
 #include "store/money.h"
-#include "store/records/order_block.h"
+#include "store/records.h"
 
 namespace vantora {
 
