@@ -33,7 +33,12 @@ constexpr const char* program_title = "Vantora Ordini";
 }  // namespace
 
 desktop_front_end::desktop_front_end(screen_layouts layouts)
-    : layouts_(std::move(layouts)), idle_([this] { catch_up(); }) {
+    : layouts_(std::move(layouts)),
+      handing_over_([this]() -> form_window* {
+          form* active = desk_->active();
+          return active && boxes_.none() ? window_of(*active) : nullptr;
+      }),
+      idle_([this] { catch_up(); }) {
     since_events_.start();
 }
 
@@ -44,7 +49,8 @@ desktop_front_end::~desktop_front_end() {
 
 void desktop_front_end::begin(desk& on) {
     desk_ = &on;
-    keys_.begin();
+    if (!next_step_) handing_over_.begin();
+    keys_.begin();  // is asked first
     pause_.setSingleShot(true);
     pause_.setInterval(resting_pause);
     QObject::connect(&pause_, &QTimer::timeout, [this] { desk_->rest(); });
@@ -54,6 +60,7 @@ void desktop_front_end::begin(desk& on) {
 
 void desktop_front_end::run() {
     run_until([this] { return next_step_ == nullptr && desk_->ended().has_value(); });
+    handing_over_.hide_all();
 }
 
 bool desktop_front_end::may_end() {
@@ -202,6 +209,7 @@ void desktop_front_end::close_by_user(form& closing) {
 
 void desktop_front_end::come_forward(form& chosen) {
     form* active = desk_->active();
+    if (active == &chosen) handing_over_.came(*window_of(chosen));
     if (!active || active == &chosen || painting_ > 0) return;
     if (since_called_.elapsed() < settling_time) {
         // The window system is still busy with what the program asked: no user's choice.
@@ -217,6 +225,7 @@ void desktop_front_end::come_forward(form& chosen) {
 void desktop_front_end::form_shown(form& which) {
     form_window* window = window_of(which);
     if (!window) return;
+    handing_over_.stay(*window);
     window->show_title(title_end_);
     form_window* before = desk_->active() ? window_of(*desk_->active()) : nullptr;
     if (before && before->isVisible()) place_ = before->place();
@@ -227,7 +236,7 @@ void desktop_front_end::form_hidden(form& which) {
     form_window* window = window_of(which);
     if (!window) return;
     if (window->isVisible()) place_ = window->place();
-    window->hide();
+    next_step_ ? window->hide() : handing_over_.leave(*window);
 }
 
 void desktop_front_end::form_unloaded(form& which) {
@@ -250,7 +259,7 @@ void desktop_front_end::form_activated(form& which) {
     since_called_.start();
     QTimer::singleShot(0, &idle_, [this] { catch_up(); });
     window->raise();
-    if (!window->isActiveWindow()) window->activateWindow();
+    window->activateWindow();  // even if it is: another may have been called that didn't come yet
     // What stands in the field that had the focus is there to be typed over.
     control* worked_on = desk_->focus();
     if (worked_on && &worked_on->owner() == &which) window->select_text(*worked_on);

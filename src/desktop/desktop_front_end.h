@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "desktop/form_window.h"
+#include "desktop/handing_over.h"
 #include "desktop/idle_watch.h"
 #include "desktop/keys/key_guard.h"
 #include "desktop/lists/list_bars.h"
@@ -117,6 +118,7 @@ class desktop_front_end final : public front_end {
     int painting_ = 0;                    ///< what the user does waits
     QPointer<form_window> late_closing_;  ///< closed by the user meanwhile
     bool chosen_by_user_ = false;         ///< a window is being brought to the front by its user
+    handing_over handing_over_;
     key_guard keys_;
     idle_watch idle_;
 };

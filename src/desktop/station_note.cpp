@@ -4,6 +4,7 @@
 #include <QLabel>
 
 #include "desktop/look/words.h"
+#include "ui/paper/toolkit_values.h"
 
 namespace vantora::ui::desktop {
 

@@ -77,6 +77,27 @@ TEST_F(keys, OverviewManualAndReadmeTellTheKeysThatTheWindowsHave) {
     }});
 }
 
+TEST_F(keys, WhatIsTypedWhileTheNextWindowComesIsTypedInThat) {
+    company.customers({vantora::test::customer_named("Rossi")});
+    QWidget* before = nullptr;
+    run({[&] {
+             before = bench.front.front_window();
+             QTest::keyClick(table(), Qt::Key_N, Qt::ControlModifier);
+             EXPECT_TRUE(before->isVisible());
+             QTest::keyClicks(before->focusWidget(), "rossi");
+             QTest::keyClick(before->focusWidget(), Qt::Key_Escape);
+         },
+         [&] {
+             ASSERT_EQ(front(), "mirorc");
+             QTest::keyClick(table(), Qt::Key_N, Qt::ControlModifier);
+             QTest::keyClicks(before->focusWidget(), "rossi");
+         },
+         [&] {
+             EXPECT_FALSE(before->isVisible());
+             EXPECT_EQ(text("nome"), "rossi");
+         }});
+}
+
 TEST_F(keys, F1FindsAnArticleInADescriptionAndElseOpensTheManual) {
     run({[&] {
         const QKeyEvent f1(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier);

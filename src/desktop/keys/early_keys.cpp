@@ -29,11 +29,11 @@ void early_keys::give_to(QWidget& window) {
     QCoreApplication::processEvents();
     qApp->removeEventFilter(this);
     dialog_.hide();
-    for (const auto& key : kept_) press(window, *key);
+    for (const auto& key : kept_) press_key_in(window, *key);
     kept_.clear();
 }
 
-void early_keys::press(QWidget& window, QKeyEvent& key) {
+void press_key_in(QWidget& window, QKeyEvent& key) {
     const QKeySequence pressed(key.keyCombination());
     for (auto* shortcut : window.findChildren<QShortcut*>()) {
         if (shortcut->key() != pressed || !shortcut->isEnabled()) continue;

@@ -9,6 +9,9 @@ class QWidget;
 
 namespace vantora::ui::desktop {
 
+/// As if the key had been pressed in the window.
+void press_key_in(QWidget& window, QKeyEvent& key);
+
 /// Keys that come to a dialog after its answer, while the window that it leads to isn't there yet,
 /// are kept for that window.
 class early_keys final : public QObject {
@@ -22,8 +25,6 @@ class early_keys final : public QObject {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-    static void press(QWidget& window, QKeyEvent& key);
-
     QWidget& dialog_;
     std::vector<std::unique_ptr<QKeyEvent>> kept_;
 };
