@@ -5,6 +5,7 @@
 #include <QMenu>
 #include <QShortcut>
 #include <QToolButton>
+#include <algorithm>
 
 #include "desktop/form_window.h"
 #include "desktop/look/words.h"
@@ -34,10 +35,24 @@ void show_menu(form_window& window, const QWidget& below) {
     menu.exec(below.mapToGlobal(QPoint(0, below.height())));
 }
 
+/// The caption with a letter for Alt that no other command of the window has.
+QString with_free_letter(QString caption, const QWidget& window) {
+    const auto taken = [&window](QChar letter) {
+        const QKeySequence keys(QString("Alt+") + letter);
+        return std::ranges::any_of(window.findChildren<QAbstractButton*>(), [&](const auto* one) {
+            return QKeySequence::mnemonic(one->text()) == keys;
+        });
+    };
+    for (qsizetype i = 0; i < caption.size() && caption[i].isLetter(); ++i) {
+        if (!taken(caption[i])) return caption.insert(i, '&');
+    }
+    return caption;
+}
+
 QToolButton* menu_button(form_window& window) {
     auto* button = new QToolButton(&window);
     button->setObjectName("altro");
-    button->setText(QString::fromUtf8(words::more));
+    button->setText(with_free_letter(QString::fromUtf8(words::more), window));
     button->setToolTip(QString::fromUtf8(words::more_windows));
     button->setFocusPolicy(Qt::NoFocus);
     QObject::connect(button, &QToolButton::clicked, &window,

@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <QMessageBox>
 #include <QPushButton>
+#include <algorithm>
 
 #include "desktop/look/box_look.h"
 #include "desktop/look/words.h"
@@ -20,6 +21,16 @@ struct box_button {
     answer gives;
 };
 
+/// A caption whose first letter that no other has chooses it; `taken` gets that letter.
+QString with_letter(QString caption, QString& taken) {
+    for (qsizetype i = 0; i < caption.size(); ++i) {
+        if (!caption[i].isLetter() || taken.contains(caption[i], Qt::CaseInsensitive)) continue;
+        taken += caption[i];
+        return caption.insert(i, '&');
+    }
+    return caption;
+}
+
 /// In the order shown; the last one is what Escape gives.
 std::vector<box_button> buttons_of(const message_box& box) {
     switch (box.buttons) {
@@ -32,9 +43,10 @@ std::vector<box_button> buttons_of(const message_box& box) {
             break;
     }
     std::vector<box_button> all;
+    QString letters;
     for (const std::string& caption : box.choices) {
-        all.push_back(
-            {to_qt(caption), QMessageBox::ActionRole, static_cast<answer>(all.size() + 1)});
+        all.push_back({with_letter(to_qt(caption), letters), QMessageBox::ActionRole,
+                       static_cast<answer>(all.size() + 1)});
     }
     return all;
 }
@@ -53,7 +65,9 @@ class read_meanwhile final : public QObject {
         if (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter) {
             if (!open_) return false;
             open_ = false;
+            const int width = box_.width();
             box_.setInformativeText(QString::fromUtf8(words::read_meanwhile).arg(read_.trimmed()));
+            box_.setFixedWidth(std::max(box_.width(), width));
             read_ += ' ';
             return true;
         }

@@ -19,7 +19,7 @@ QToolButton* command(form_window& window, const button& one, bool leaves) {
     }
     QToolButton* shown = window.widget(one);
     shown->setToolButtonStyle(Qt::ToolButtonTextOnly);
-    set_look(shown, "look", "plain");
+    set_look(shown, "look", "words");
     return shown;
 }
 

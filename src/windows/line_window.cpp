@@ -36,10 +36,10 @@ struct column {
 
 constexpr column columns[] = {
     {&line_grid::artic, "Articolo", 13, false},  // a bar code
-    {&line_grid::ds, "Descrizione", 0, false},   {&line_grid::um, "U.m.", 3, false},
-    {&line_grid::quantita, "Quantità", 8, true}, {&line_grid::evaso, "Evaso", 7, true},
-    {&line_grid::sc1, "Sconti", 4, true},        {&line_grid::sc2, "", 4, true},
-    {&line_grid::prezzo, "Prezzo", 11, true},    {&line_grid::civ, "Iva", 2, false},
+    {&line_grid::ds, "Descrizione", 0, false},    {&line_grid::um, "U.m.", 3, false},
+    {&line_grid::quantita, "Quantità", 10, true}, {&line_grid::evaso, "Evaso", 10, true},
+    {&line_grid::sc1, "Sconti", 4, true},         {&line_grid::sc2, "", 4, true},
+    {&line_grid::prezzo, "Prezzo", 11, true},     {&line_grid::civ, "Iva", 2, false},
 };
 
 QWidget* command_bar(form_window& window, line_grid& screen,
@@ -282,6 +282,7 @@ QHBoxLayout* foot_line(form_window& window, line_grid& screen) {
         set_look(total, "role", "total");
         total->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         total->setFixedWidth(172);
+        total->setProperty("plain_number", which == totale_mostrato::pezzi);
         auto* column = new QVBoxLayout;
         column->setSpacing(2);
         auto* text = caption(words, &window);

@@ -55,6 +55,20 @@ int collect_nameless(QAccessibleInterface* at, const QStringList& captions, QStr
     return controls;
 }
 
+/// Letters that Alt would give to two at once.
+QStringList doubled_letters(const QWidget& window) {
+    QStringList letters;
+    for (const auto* one : window.findChildren<QAbstractButton*>()) {
+        letters << QKeySequence::mnemonic(one->text()).toString();
+    }
+    for (const auto* one : window.findChildren<QLabel*>()) {
+        if (one->buddy()) letters << QKeySequence::mnemonic(one->text()).toString();
+    }
+    letters.removeAll(QString());
+    for (const QString& once : QSet(letters.begin(), letters.end())) letters.removeOne(once);
+    return letters;
+}
+
 using accessibility = test::program_window;
 
 TEST_F(accessibility, EveryControlOfEveryScreenIsCalledByItsCaption) {
@@ -68,6 +82,7 @@ TEST_F(accessibility, EveryControlOfEveryScreenIsCalledByItsCaption) {
                 auto* heard = QAccessible::queryAccessibleInterface(window);
                 EXPECT_GE(collect_nameless(heard, captions_of(*window), nameless), 1);
                 EXPECT_EQ(nameless.join(", ").toStdString(), "") << screen->name();
+                EXPECT_EQ(doubled_letters(*window).join(", ").toStdString(), "") << screen->name();
             }
         }
     }});

@@ -121,6 +121,13 @@ TEST_F(order_window, AnOrderIsTypedByTheKeyboardAlone) {
                  write(keys);
                  EXPECT_EQ(text("civ(3)"), code);
              }
+             // So does a click outside.
+             press(Qt::Key_F4);
+             QTRY_VERIFY(QApplication::activePopupWidget());
+             QTest::mouseClick(QApplication::activePopupWidget()->windowHandle(), Qt::LeftButton,
+                               {}, QPoint(-40, 60));
+             QTRY_VERIFY(!bench.find("Combo1")->isVisible());
+             EXPECT_EQ(focus() + text("civ(3)"), "prezzo(3)05");
          },
          [&] {
              press(Qt::Key_F7);

@@ -257,6 +257,28 @@ TEST_F(widgets, ARunTimeErrorIsToldInABox) {
     }});
 }
 
+TEST_F(widgets, AChoiceHasALetterForEachCaptionAndShowsThemWhole) {
+    message_box asked{"Copia?", attention, icon::question, buttons::choice};
+    asked.choices = {"Copia prima di compattare", "Compatta senza una copia", "Annulla"};
+    run({[&] { EXPECT_EQ(bench.desk.show_box(asked), answer::choice_3); },
+         [&] {
+             auto* box = qobject_cast<QMessageBox*>(bench.front.front_window());
+             ASSERT_TRUE(box);
+             QStringList letters;
+             for (const auto* one : box->buttons()) {
+                 EXPECT_GE(one->width(), one->sizeHint().width());
+                 letters << QKeySequence::mnemonic(one->text()).toString();
+             }
+             EXPECT_EQ(letters.join(' ').toStdString(), "Alt+C Alt+O Alt+A");
+             const int width = box->width();
+             QTest::keyClicks(box, "8001");
+             QTest::keyClick(box, Qt::Key_Return);
+             EXPECT_TRUE(box->informativeText().endsWith("8001"));
+             EXPECT_GE(box->width(), width);
+             QTest::keyClick(box, Qt::Key_Escape);
+         }});
+}
+
 TEST_F(widgets, WindowsBroughtForwardInHasteComeToRest) {
     trial* other = nullptr;
     run({[&] {

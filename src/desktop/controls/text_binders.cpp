@@ -108,6 +108,7 @@ class text_box_binder final : public binder {
             show_number_hint(*edit_, to_qt(*hint));
         const auto number = written_out_number(model_.text(), model_.accepts);
         if (number) act([&] { model_.set_text(*number); });
+        show_again(aspect::text);
     }
     void mark_wrong(bool wrong) {
         if (edit_->property("wrong").toBool() == wrong) return;

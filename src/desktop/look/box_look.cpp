@@ -1,5 +1,7 @@
 #include "desktop/look/box_look.h"
 
+#include <QAbstractButton>
+#include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
 #include <QMessageBox>
@@ -27,6 +29,22 @@ const char* picture_of(icon sign) {
     return "informazione";
 }
 
+/// The style's least width would let longer captions be cut.
+class whole_captions final : public QObject {
+ public:
+    explicit whole_captions(QMessageBox& box) : QObject(&box), box_(box) {
+        box.installEventFilter(this);
+    }
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() != QEvent::Show) return false;
+        for (QAbstractButton* one : box_.buttons()) one->setMinimumWidth(one->sizeHint().width());
+        return false;
+    }
+
+ private:
+    QMessageBox& box_;
+};
+
 }  // namespace
 
 void dress_box(QMessageBox& box, icon sign) {
@@ -45,6 +63,7 @@ void dress_box(QMessageBox& box, icon sign) {
     }
     // The text takes the room, not the icon.
     rows->setColumnStretch(rows->columnCount() - 1, 1);
+    new whole_captions(box);
     rows->addItem(new QSpacerItem(narrowest, 0), rows->rowCount(), 0, 1, rows->columnCount());
 }
 

@@ -73,8 +73,10 @@ QToolButton:disabled { color: #5a6671; }
 QToolButton[look="plain"] { background: #f6f8fa; border-color: #808d99;
                             padding: 3px 2px 3px 9px; }
 QToolButton[look="plain"]:pressed { padding: 4px 2px 2px 9px; }
-QToolButton[look="plain"]:hover { background: #e3edf6; }
-QToolButton[look="plain"]:focus { border-color: #2f6ea5; }
+QToolButton[look="words"] { background: #f6f8fa; border-color: #808d99; padding: 3px 9px; }
+QToolButton[look="words"]:pressed { padding: 4px 9px 2px 9px; }
+QToolButton[look="plain"]:hover, QToolButton[look="words"]:hover { background: #e3edf6; }
+QToolButton[look="plain"]:focus, QToolButton[look="words"]:focus { border-color: #2f6ea5; }
 QToolButton[look="leave"] { background: #f6f8fa; border-color: #808d99; padding: 6px 14px; }
 QToolButton[look="leave"]:hover { background: #e3edf6; }
 QToolButton[look="leave"]:focus { border: 2px solid #2f6ea5; padding: 5px 13px; }
@@ -116,13 +118,14 @@ QComboBox[look="over"] { min-height: 0; border: 1px solid #2f6ea5; background: #
 QCheckBox, QRadioButton { border: 1px solid transparent; border-radius: 3px; }
 QCheckBox:focus, QRadioButton:focus { background: #dcebf8; border-color: #2f6ea5; }
 QPushButton { border: 1px solid #808d99; border-radius: 5px; background: #f6f8fa;
-              padding: 5px 16px; min-width: 62px; }
+              padding: 5px 16px; min-width: 62px; outline: none; }
 QPushButton:hover { background: #e3edf6; }
 QPushButton:pressed { background: #cfe0ee; }
 QPushButton:disabled { color: #5a6671; }
 QPushButton:default { border-color: #2f6ea5; }
 QPushButton:focus { border: 2px solid #2f6ea5; padding: 4px 15px; }
 QMessageBox QLabel#qt_msgbox_label { padding: 8px 8px 8px 2px; }
+QMessageBox QLabel#qt_msgbox_informativelabel { padding: 0 8px 8px 2px; }
 QMessageBox QLabel#qt_msgboxex_icon_label { padding: 4px 6px 4px 8px; }
 QCalendarWidget QWidget#qt_calendar_navigationbar { background: #e9eef3; }
 QCalendarWidget QToolButton { color: #24527a; font-weight: 600; }

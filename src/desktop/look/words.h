@@ -106,7 +106,7 @@ inline constexpr const char* printing = "Stampa di %1";
 
 // Keys and manual --------------------------------------------------------------------------------
 
-inline constexpr const char* more = "Altr&o ▾";
+inline constexpr const char* more = "Altro ▾";
 inline constexpr const char* more_windows = "Altre finestre che si aprono da qui";
 inline constexpr const char* help = "Aiuto: tasti e manuale";
 inline constexpr const char* show_keys = "Tasti di questa finestra";
