@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstring>
 #include <string>
 
 #include "store/records/rec_orc.h"
@@ -14,11 +15,11 @@ std::string description_of(const Row& row) {
     return std::string(row.descrizione.full()).append(row.descrizione2.full());
 }
 
-/// Whether a field holds nothing but blanks.
+/// Whether a field holds nothing but blanks: one at first, and each character as the one before.
 template <std::size_t N>
 bool is_blank(const text<N>& field) {
-    static const text<N> blanks{""};
-    return field == blanks;
+    const std::string_view all = field.full();
+    return all.front() == ' ' && std::memcmp(all.data(), all.data() + 1, N - 1) == 0;
 }
 
 // In use ------------------------------------------------------------------------------------------

@@ -15,6 +15,7 @@ class key_range {
         : from_(upper(trimmed(from))), to_(upper(trimmed(to))) {}
 
     [[nodiscard]] bool holds(std::string_view key) const {
+        if (from_.empty() && to_.empty()) return true;
         const std::string capital = upper(trimmed(key));
         return capital >= from_ && (to_.empty() || capital <= to_);
     }

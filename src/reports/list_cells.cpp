@@ -1,14 +1,16 @@
 #include "reports/list_cells.h"
 
-#include "text/number_text.h"
-
 namespace vantora {
 
 namespace {
 
 std::string label(const text<15>& codice, std::string_view descrizione) {
-    const std::string whole = std::string(codice.trimmed()).append(" ").append(descrizione);
-    return std::string(trimmed(whole));
+    std::string whole;
+    whole.reserve(codice.width + 1 + descrizione.size());
+    whole.append(codice.trimmed()).append(" ").append(descrizione);
+    whole.erase(whole.find_last_not_of(' ') + 1);
+    whole.erase(0, whole.find_first_not_of(' '));
+    return whole;
 }
 
 }  // namespace

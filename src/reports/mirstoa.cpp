@@ -1,7 +1,6 @@
 #include "reports/mirstoa.h"
 
 #include <algorithm>
-#include <numeric>
 
 #include "orders/customer_names.h"
 #include "reports/key_range.h"
@@ -83,10 +82,10 @@ struct mirstoa::filtri {
     std::string descrizione;
 };
 
-mirstoa::mirstoa(program& app) : sheets_report(app, schede_articoli()) {}
+mirstoa::mirstoa(program& app) : sheet_report(app, schede_articoli()) {}
 
 void mirstoa::load() {
-    sheets_report::load();
+    sheet_report::load();
     std::vector<std::string> categories{"Tutte le categorie"};
     text_reader reader(
         app_.files.read_whole(file_azienda(app_.parameters.numero_azienda, "tb2")).value_or(""));
@@ -99,12 +98,35 @@ int mirstoa::last_step(const limiti_ordini&) const {
     return articoli_.quanti;
 }
 
+/// The sheets, and the rows found for them in the orders.
+struct mirstoa::raccolta {
+    struct foglio {
+        std::int16_t numero;
+        etichetta_articolo titolo;
+    };
+    struct testa {
+        testa_ordine ordine;
+        bool letta;  ///< it could be read
+    };
+
+    std::vector<foglio> schede;  ///< in the order of the index
+    sheet_rows<riga_articolo> righe{righe_report};
+    std::vector<testa> teste;
+};
+
 // One read for 512 entries of the index, one for every 32 articles, one an order, then one for
 // every 32 customers in question.
-std::vector<int> mirstoa::orders_to_read(const raccolta&, const limiti_ordini& orders) {
-    std::vector<int> all(static_cast<std::size_t>(std::max(orders.ultimo - orders.primo + 1, 0)));
-    std::iota(all.begin(), all.end(), orders.primo);
-    return all;
+void mirstoa::fill(list_rows& list, const limiti_ordini& orders) {
+    plan(last_step(orders), orders);
+    raccolta found;
+    if (!choose_sheets(found)) return;
+    ordini_.walk_blocks(orders.primo, orders.ultimo);
+    for (int order = orders.primo; order <= orders.ultimo; ++order) {
+        if (found.righe.complete()) break;
+        take_rows(found, order);
+        if (!order_done()) return;
+    }
+    list_sheets(list, found);
 }
 
 bool mirstoa::choose_sheets(raccolta& found) {
@@ -114,7 +136,10 @@ bool mirstoa::choose_sheets(raccolta& found) {
     percorri_indice<rec_sra>(app_.archives.sra, articoli_.quanti,
                              [&](std::int16_t, const rec_sra& entry) {
                                  const articolo& one = articles.of(entry.numero);
-                                 if (wanted.take(one)) found.expect(entry.numero, one.etichetta);
+                                 if (wanted.take(one)) {
+                                     found.schede.push_back({entry.numero, one.etichetta});
+                                     found.righe.expect(entry.numero);
+                                 }
                                  return going_on = entry_done();
                              });
     return going_on;
@@ -126,7 +151,7 @@ void mirstoa::take_rows(raccolta& found, int order) {
     for (const rec_orc& row : rows) {
         if (!found.righe.wants(row.articolo)) continue;
         if (!has_head) {
-            found.teste.emplace_back(rows.front()).read = ordini_.first_row_read();
+            found.teste.push_back({testa_ordine(rows.front()), ordini_.first_row_read()});
             has_head = true;
         }
         found.righe.add(row.articolo,
@@ -137,11 +162,30 @@ void mirstoa::take_rows(raccolta& found, int order) {
 void mirstoa::list_sheets(list_rows& list, raccolta& found) {
     customer_names names(app_.archives.cli, clienti_.quanti);
     testa_ordine head;
-    list_each(list, found, [&](const riga_articolo& row) {
-        if (found.teste[row.testa].read) head = found.teste[row.testa];
-        list_head(list, head);
-        list.write(cliente, names.of(row.cliente));
-    });
+    found.righe.group();
+    for (const auto& sheet : found.schede) {
+        if (!listing()) return;
+        const auto rows = found.righe.rows_of(sheet.numero);
+        if (rows.empty()) continue;
+        if (list.full()) return list.cut_here();
+        somme sums;
+        for (const riga_articolo& row : rows) {
+            list.next();
+            const raccolta::testa& its = found.teste[row.testa];
+            if (its.letta) head = its.ordine;
+            list_head(list, head);
+            list.write(cliente, names.of(row.cliente));
+            list_quantities(list, row.quantita);
+            if (&row == &rows.front()) {
+                list.write(scheda, sheet.titolo.title());
+                list.write(numero, std::to_string(sheet.numero));
+            }
+            sums.ordinato += row.quantita.ordinato;
+            sums.evaso += row.quantita.evaso;
+        }
+        list_totals(list, sums);
+    }
+    if (found.righe.dropped()) list.cut_here();
 }
 
 }  // namespace vantora

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "reports/sheet_report.h"
+#include "reports/sheet_rows.h"
 
 namespace vantora {
 
@@ -12,7 +13,7 @@ struct riga_articolo {
 };
 
 /// The article sheets: for each article the rows of the orders that hold it.
-class mirstoa final : public sheets_report<etichetta_articolo, riga_articolo> {
+class mirstoa final : public sheet_report {
  public:
     explicit mirstoa(program& app);
 
@@ -22,14 +23,17 @@ class mirstoa final : public sheets_report<etichetta_articolo, riga_articolo> {
  protected:
     void load() override;
     [[nodiscard]] int last_step(const limiti_ordini& orders) const override;
-    bool choose_sheets(raccolta& found) override;
-    std::vector<int> orders_to_read(const raccolta& found, const limiti_ordini& orders) override;
-    void take_rows(raccolta& found, int order) override;
-    void list_sheets(list_rows& list, raccolta& found) override;
+    void fill(list_rows& list, const limiti_ordini& orders) override;
 
  private:
     struct articolo;
     struct filtri;
+    struct raccolta;
+
+    /// The sheets in the order of the index. False if the work ends here.
+    bool choose_sheets(raccolta& found);
+    void take_rows(raccolta& found, int order);
+    void list_sheets(list_rows& list, raccolta& found);
 };
 
 }  // namespace vantora

@@ -11,6 +11,9 @@ namespace vantora {
 
 namespace {
 
+/// Customer numbers that a record can hold.
+constexpr std::size_t numbers = 65536;
+
 constexpr colonna_report colonne_mirston[] = {
     {"Cliente", 27, 0},  {"Ordine", 11, 0},   {"Data", 13, 0},  {"Descrizione", 27, 0},
     {"Articolo", 32, 0}, {"Ordinato", 13, 2}, {"Evaso", 13, 2},
@@ -51,90 +54,120 @@ struct mirston::cliente {
     i16le eliminato;
 };
 
-mirston::mirston(program& app) : sheets_report(app, schede_clienti()) {}
+/// A sheet to come.
+struct mirston::foglio {
+    std::int16_t numero;
+    text<40> nome;
+    bool ripetuto;  ///< the index has its customer a second time
+};
+
+mirston::mirston(program& app) : sheet_report(app, schede_clienti()) {}
 
 int mirston::last_step(const limiti_ordini&) const {
     return clienti_.quanti;
 }
 
 // One read for 512 entries of the index, one for every 32 customers, one for the head of an order,
-// one for each order of the customers listed, in the order of their sheets until the list is full,
-// then one for every 32 articles in question.
-std::vector<int> mirston::orders_to_read(const raccolta& found, const limiti_ordini& orders) {
-    primo_ = orders.primo;
-    proprietari_.clear();
-    ordini_.walk_heads(orders.primo, orders.ultimo);
-    for (int order = orders.primo; order <= orders.ultimo; ++order) {
-        proprietari_.push_back(ordini_.first_row(order).cliente);
-        if (!head_done()) return {};
+// then, while the rows before are listed, one for each order of the customers in question until the
+// list is full, and one for every 32 articles on them.
+void mirston::fill(list_rows& list, const limiti_ordini& orders) {
+    plan(last_step(orders), orders);
+    std::vector<foglio> sheets;
+    if (!choose_sheets(sheets) || !read_heads(orders)) return;
+    std::vector<int> to_read;
+    for (const foglio& one : sheets) {
+        int order = one.ripetuto ? 0 : first_order_of(one.numero);
+        for (; order > 0; order = order_behind(order)) to_read.push_back(order);
     }
-    const auto sheet_of = [&](int order) {
-        return found.righe.place(proprietari_[static_cast<std::size_t>(order - primo_)]);
-    };
-    std::vector<int> all;
-    for (int order = orders.primo; order <= orders.ultimo; ++order) {
-        if (sheet_of(order)) all.push_back(order);
+    ordini_.walk_blocks(std::move(to_read));
+    etichette_articoli articles(app_.archives.art);
+    for (const foglio& one : sheets) {
+        if (list.cut() || !listing()) return;
+        if (one.ripetuto) {
+            list_again(list, one);
+        } else if (!list_sheet(list, one, articles)) {
+            return;
+        }
     }
-    std::ranges::stable_sort(all, {}, sheet_of);
-    cliente_ = 0;
-    sue_righe_ = righe_piene_ = 0;
-    return all;
 }
 
-// One line more than there is room for tells that the list is cut.
-bool mirston::complete(const raccolta&) const {
-    return righe_piene_ + sue_righe_ > righe_report;
-}
-
-bool mirston::choose_sheets(raccolta& found) {
+bool mirston::choose_sheets(std::vector<foglio>& found) {
     const key_range names(t_inizio.text(), t_fine.text());
     record_stretches<rec_cli, cliente> customers(app_.archives.cli);
+    std::vector<bool> known(numbers);
     bool going_on = true;
     percorri_indice<rec_src>(app_.archives.src, clienti_.quanti,
                              [&](std::int16_t, const rec_src& entry) {
                                  const cliente& one = customers.of(entry.numero);
                                  if (one.eliminato == 0 && names.holds(one.nome.full())) {
-                                     found.expect(entry.numero, one.nome);
+                                     const auto number = static_cast<std::uint16_t>(entry.numero);
+                                     found.push_back({entry.numero, one.nome, known[number]});
+                                     known[number] = true;
                                  }
                                  return going_on = entry_done();
                              });
     return going_on;
 }
 
-void mirston::take_rows(raccolta& found, int order) {
-    const auto rows = ordini_.block(order);
-    const std::int16_t owner = proprietari_[static_cast<std::size_t>(order - primo_)];
-    if (owner != std::exchange(cliente_, owner)) {
-        if (sue_righe_ > 0) righe_piene_ += sue_righe_ + righe_di_totale;
-        sue_righe_ = 0;
+bool mirston::read_heads(const limiti_ordini& orders) {
+    std::vector<std::int16_t> owners;
+    ordini_.walk_heads(orders.primo, orders.ultimo);
+    for (int order = orders.primo; order <= orders.ultimo; ++order) {
+        owners.push_back(ordini_.first_row(order).cliente);
+        if (!head_done()) return false;
     }
-    for (const rec_orc& row : rows) {
-        if (!in_use_or_priced(row)) continue;
-        ++sue_righe_;
-        if (!found.righe.wants(owner)) return;
-        const bool first = &row == &rows.front();
-        if (first) found.teste.emplace_back(row);
-        found.righe.add(owner, {first,
-                                found.teste.size() - (first ? 1 : 0),
-                                row.articolo,
-                                row.descrizione,
-                                row.descrizione2,
-                                {row.quantita, row.evaso}});
+    primo_.assign(numbers, 0);
+    seguente_.assign(static_cast<std::size_t>(std::max(orders.ultimo, 0)) + 1, 0);
+    for (int order = orders.ultimo; !owners.empty(); --order, owners.pop_back()) {
+        int& first = primo_[static_cast<std::uint16_t>(owners.back())];
+        seguente_[static_cast<std::size_t>(order)] = std::exchange(first, order);
     }
+    return true;
 }
 
-std::string mirston::article_text(const riga_cliente& row, etichette_articoli& articles) const {
+bool mirston::list_sheet(list_rows& list, const foglio& sheet, etichette_articoli& articles) {
+    bool begun = false;
+    somme sums;
+    for (int order = first_order_of(sheet.numero); order > 0; order = order_behind(order)) {
+        const auto rows = ordini_.block(order);
+        for (const rec_orc& row : rows) {
+            if (!in_use_or_priced(row)) continue;
+            list.next();
+            if (!std::exchange(begun, true)) {
+                list.write(scheda, sheet.nome.trimmed());
+                list.write(numero, std::to_string(sheet.numero));
+            }
+            if (&row == &rows.front()) list_head(list, testa_ordine(row));
+            list.write(articolo, article_text(row, articles));
+            list_quantities(list, {row.quantita, row.evaso});
+            sums.ordinato += row.quantita;
+            sums.evaso += row.evaso;
+        }
+        if (list.cut() || !order_done()) return false;
+    }
+    if (begun) list_totals(list, sums);
+    return true;
+}
+
+/// What was listed of the customer before, up to the next sheet.
+void mirston::list_again(list_rows& list, const foglio& sheet) const {
+    const std::string number = std::to_string(sheet.numero);
+    const int end = list.in_use();
+    int row = 1;
+    while (row < end && elenco.text(row, numero) != number) ++row;
+    if (row == end) return;
+    do {
+        list.next();
+        for (int col = 0; col <= numero; ++col) {
+            const std::string text(elenco.text(row, col));
+            if (!text.empty()) list.write(col, text);
+        }
+    } while (++row < end && elenco.text(row, numero).empty());
+}
+
+std::string mirston::article_text(const rec_orc& row, etichette_articoli& articles) const {
     const bool known = row.articolo >= 1 && row.articolo <= articoli_.quanti;
-    if (known) return articles.of(row.articolo).text();
-    return free_text(row);
-}
-
-void mirston::list_sheets(list_rows& list, raccolta& found) {
-    etichette_articoli articles(app_.archives.art);
-    list_each(list, found, [&](const riga_cliente& row) {
-        if (row.con_testa) list_head(list, found.teste[row.testa]);
-        list.write(articolo, article_text(row, articles));
-    });
+    return known ? articles.of(row.articolo).text() : free_text(row);
 }
 
 }  // namespace vantora

@@ -4,18 +4,8 @@
 
 namespace vantora {
 
-/// A row of an order, as its customer's sheet shows it.
-struct riga_cliente {
-    bool con_testa;     ///< shows the order's head
-    std::size_t testa;  ///< which of `teste`
-    std::int16_t articolo;
-    text<40> descrizione;
-    text<10> descrizione2;
-    somme quantita;
-};
-
 /// The customer sheets: for each customer the rows of their orders.
-class mirston final : public sheets_report<text<40>, riga_cliente> {
+class mirston final : public sheet_report {
  public:
     explicit mirston(program& app);
 
@@ -24,23 +14,33 @@ class mirston final : public sheets_report<text<40>, riga_cliente> {
 
  protected:
     [[nodiscard]] int last_step(const limiti_ordini& orders) const override;
-    bool choose_sheets(raccolta& found) override;
-    std::vector<int> orders_to_read(const raccolta& found, const limiti_ordini& orders) override;
-    [[nodiscard]] bool complete(const raccolta& found) const override;
-    void take_rows(raccolta& found, int order) override;
-    void list_sheets(list_rows& list, raccolta& found) override;
+    void fill(list_rows& list, const limiti_ordini& orders) override;
 
  private:
     struct cliente;
+    struct foglio;
 
-    int primo_ = 1;                          ///< of the orders read
-    std::vector<std::int16_t> proprietari_;  ///< theirs, from that one on
-    std::int16_t cliente_ = 0;               ///< whose orders are being read
-    int sue_righe_ = 0;                      ///< rows found of this customer
-    int righe_piene_ = 0;                    ///< lines of the list that those before take
+    // Both are false if the work ends here.
 
-    [[nodiscard]] std::string article_text(const riga_cliente& row,
-                                           etichette_articoli& articles) const;
+    /// The sheets in the order of the index.
+    bool choose_sheets(std::vector<foglio>& found);
+    /// Whose order each is.
+    bool read_heads(const limiti_ordini& orders);
+
+    [[nodiscard]] int first_order_of(std::int16_t customer) const {
+        return primo_[static_cast<std::uint16_t>(customer)];
+    }
+    /// The same customer's next order; 0 behind the last.
+    [[nodiscard]] int order_behind(int order) const {
+        return seguente_[static_cast<std::size_t>(order)];
+    }
+    /// False if the work ends here.
+    bool list_sheet(list_rows& list, const foglio& sheet, etichette_articoli& articles);
+    void list_again(list_rows& list, const foglio& sheet) const;
+    [[nodiscard]] std::string article_text(const rec_orc& row, etichette_articoli& articles) const;
+
+    std::vector<int> primo_;     ///< order of each customer number, 0: none
+    std::vector<int> seguente_;  ///< of each order, the next one of its customer
 };
 
 }  // namespace vantora

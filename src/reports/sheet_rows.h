@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <optional>
 #include <span>
 #include <utility>
 #include <vector>
@@ -12,7 +11,7 @@ namespace vantora {
 /// Lines that a sheet takes beside its rows: its total and a blank one.
 inline constexpr int righe_di_totale = 2;
 
-/// Gathers the rows of the sheets, which stand by article or customer, while the orders are walked
+/// Gathers the rows of the sheets, which stand by article, while the orders are walked
 /// once, from the first to the last. Keeps no more than may still be listed: a list has only so
 /// many lines, and each row found for an early sheet pushes the last ones out.
 template <class Row>
@@ -22,7 +21,7 @@ class sheet_rows {
     explicit sheet_rows(int lines)
         : lines_(lines), places_(numbers, nowhere), counts_(numbers, 0), prune_at_(2 * margin()) {}
 
-    /// The sheet of article or customer `number` comes next in the list. One that comes a second
+    /// The sheet of article `number` comes next in the list. One that comes a second
     /// time has the same rows.
     void expect(std::int16_t number) {
         auto& place = places_[index(number)];
@@ -32,11 +31,6 @@ class sheet_rows {
         last_place_ = place;
     }
 
-    /// Which of the sheets is that of a number.
-    [[nodiscard]] std::optional<std::int32_t> place(std::int16_t number) const {
-        const std::int32_t its = places_[index(number)];
-        return its == nowhere ? std::nullopt : std::optional(its);
-    }
     /// Whether a row of that number may be listed.
     [[nodiscard]] bool wants(std::int16_t number) const {
         const std::size_t at = index(number);
