@@ -5,6 +5,7 @@
 #include "entry/import_picker.h"
 #include "entry/order_head.h"
 #include "entry/save_order.h"
+#include "program/change_messages.h"
 #include "text/dates.h"
 #include "text/int16.h"
 #include "text/number_text.h"
@@ -17,8 +18,6 @@ constexpr line_grid_kind nuovo_ordine{.name = "mirorcs",
                                       .title = "Gestione ordini clienti",
                                       .documento = tipo_documento::ordine,
                                       .has_impegno = true};
-
-/// Commands of `comando` that only a new order has.
 
 }  // namespace
 
@@ -34,9 +33,15 @@ void mirorcs::open() {
     }
     if (app_.modo_ordine == 99 && app_.selezione_2 > 0) {
         // The quote stays chosen: whenever the screen comes to the front, it is added once more.
-        aggiungi_preventivo(righe_, app_.archives, app_.selezione_2);
-        paint();
+        imported(aggiungi_preventivo(righe_, app_.archives, app_.selezione_2), "Il preventivo");
     }
+}
+
+void mirorcs::imported(const std::vector<int>& unread, const std::string& source) {
+    if (unread.empty()) return paint();
+    app_.desk.message(source + " non si può leggere per intero ("_cp + named_rows(unread) +
+                          "): non viene importato nulla.",
+                      ui::attention, ui::icon::warning);
 }
 
 bool mirorcs::may_save() {
@@ -78,8 +83,7 @@ void mirorcs::import_order() {
     if (gone()) return;
     const std::string& chosen = app_.scelta_ordine;
     if (const auto block = to_int16(number_at_head(chosen)); !chosen.empty() && block) {
-        sostituisci_con_ordine(righe_, app_.archives, *block);
-        paint();
+        imported(sostituisci_con_ordine(righe_, app_.archives, *block), "L'ordine");
     }
     artic[0].set_focus();
 }

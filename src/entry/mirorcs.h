@@ -23,6 +23,8 @@ class mirorcs final : public order_screen {
     void describe(bozza& draft) const override;
 
  private:
+    /// Shows the lines of a source, or tells which of its rows couldn't be read.
+    void imported(const std::vector<int>& unread, const std::string& source);
     void choose_quote();
     void import_order();
     /// The user left the order, and it may stand here anew.

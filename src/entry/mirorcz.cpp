@@ -19,15 +19,6 @@ constexpr line_grid_kind ordine_da_modificare{.name = "mirorcz",
                                               .has_impegno = true,
                                               .has_eva = true};
 
-/// "righe 2, 5, 7 ...": up to three of them.
-std::string named_rows(const std::vector<int>& rows) {
-    std::string text = rows.size() > 1 ? "righe " : "riga ";
-    for (std::size_t i = 0; i < rows.size() && i < 3; ++i) {
-        text += (i > 0 ? ", " : "") + std::to_string(rows[i]);
-    }
-    return rows.size() > 3 ? text + " ..." : text;
-}
-
 /// What else became of an order between two readings, a line each.
 std::string told_between(const stored_rows<rec_orc>& then, const stored_rows<rec_orc>& now) {
     std::string text = now[1].annullato == 1 ? "\nL'ordine è stato eliminato."_cp : "";
@@ -96,10 +87,6 @@ void mirorcz::read_order() {
     eva.set_on(stored[1].evaso_flag == 1);
 }
 
-ordine_esistente mirorcz::order() const {
-    return {visto_, contatore_, lookup_.articles(), impegno.on()};
-}
-
 void mirorcz::offer_to_read_again() {
     if (!lette_.unread().empty() &&
         app_.desk.ask("L'ordine non si può leggere per intero ("_cp + named_rows(lette_.unread()) +
@@ -130,22 +117,29 @@ change_outcome mirorcz::store() {
     testata_registrata saved = testata_da_registrare(head(), chosen_price());
     saved.cliente = app_.selezione_2;
     saved.impegno = impegno.on();
-    ordine_esistente known = order();
+    return change_stored("Salvare lo stesso e perdere quelle modifiche?",
+                         [&](const ordine_esistente& known) {
+                             return salva_ordine(app_.archives, known, saved, eva.on(), righe_);
+                         });
+}
+
+change_outcome mirorcz::change_stored(
+    const char* question, const std::function<change_outcome(const ordine_esistente&)>& change) {
+    ordine_esistente known{visto_, contatore_, lookup_.articles(), impegno.on()};
     stored_rows<rec_orc> awaited = lette_;
     if (app_.desk.guards().on()) known.attese = &awaited;
     while (true) {
-        const change_outcome outcome = salva_ordine(app_.archives, known, saved, eva.on(), righe_);
+        const change_outcome outcome = change(known);
         if (outcome.how != change_outcome::to_be_asked) return outcome;
         awaited = {app_.archives.orc, visto_.registrazione};
-        if (!may_save_over(awaited)) return outcome;
+        if (!may_change(awaited, question)) return outcome;
     }
 }
 
-bool mirorcz::may_save_over(const stored_rows<rec_orc>& now) {
+bool mirorcz::may_change(const stored_rows<rec_orc>& now, const char* question) {
     app_.desk.set_pointer(ui::pointer::normal);
     const bool wanted = app_.desk.guards().confirm(
-        "Un'altra postazione ha cambiato quest'ordine mentre era aperto. Salvare lo stesso e "
-        "perdere quelle modifiche?" +
+        "Un'altra postazione ha cambiato quest'ordine mentre era aperto. " + std::string(question) +
         told_between(lette_, now));
     if (!wanted && now[1].annullato != 1 &&
         app_.desk.guards().confirm(
@@ -182,7 +176,9 @@ void mirorcz::delete_order() {
     }
     const work deleting(*this);
     app_.desk.set_pointer(ui::pointer::busy);
-    const change_outcome outcome = elimina_ordine(app_.archives, order());
+    const change_outcome outcome = change_stored(
+        "Eliminarlo lo stesso?",
+        [&](const ordine_esistente& known) { return elimina_ordine(app_.archives, known); });
     app_.desk.set_pointer(ui::pointer::normal);
     if (!was_stored(app_.desk, outcome)) return;
     forget_draft();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "entry/edit_order.h"
 #include "entry/order_screen.h"
 #include "orders/stored_lines.h"
@@ -31,13 +33,15 @@ class mirorcz final : public order_screen {
     void read_order();
     /// Says which rows couldn't be read, if there are any; the user may have them read once more.
     void offer_to_read_again();
-    /// Whether the user wants to save over what another station made of the order.
-    bool may_save_over(const stored_rows<rec_orc>& now);
+    /// Makes a change of the stored order. Where another station changed it meanwhile the user is
+    /// asked first, in the end by `question`.
+    change_outcome change_stored(
+        const char* question, const std::function<change_outcome(const ordine_esistente&)>& change);
+    bool may_change(const stored_rows<rec_orc>& now, const char* question);
     /// Back from the head: new lines and the PDF are those of the customer that it names now.
     void follow_customer();
     void change_head();
     void delete_order();
-    [[nodiscard]] ordine_esistente order() const;
 
     rec_tot contatore_;                ///< of the orders, before the order was read
     std::int16_t cliente_aperto_ = 0;  ///< whose record `cliente_` is

@@ -10,12 +10,14 @@
 namespace vantora {
 
 rec_orc prenota_riga(archive_change& change, archivi& files, std::int64_t record, double quantity,
-                     std::int16_t articles) {
+                     std::int16_t articles, bool alive) {
     rec_orc row;
     change.read(files.orc, record, row);
     const bool committed = row.impegno.full() != "0";
-    change_article(change, files.art, row.articolo, articles,
-                   [&](rec_art& article) { release_stock(article, quantity, committed); });
+    if (!alive || row.annullato != 1) {
+        change_article(change, files.art, row.articolo, articles,
+                       [&](rec_art& article) { release_stock(article, quantity, committed); });
+    }
     row.evaso = checked(row.evaso + quantity);
     change.write(files.orc, record, row);
     return row;

@@ -164,8 +164,9 @@ void mirorcr::book_marked_rows(archive_change& change) {
             change.read(app_.archives.orc, record, text);
             app_.mirorca->hand_over(++line, text, {});
         } else if (leaving != 0) {
+            const bool alive = viste_[static_cast<std::size_t>(row - 1)].annullato != 1;
             const rec_orc booked =
-                prenota_riga(change, app_.archives, record, leaving, articoli_.quanti);
+                prenota_riga(change, app_.archives, record, leaving, articoli_.quanti, alive);
             app_.mirorca->hand_over(++line, booked, leaving);
             if (aggiorna.on() && !transport_data_taken) {
                 transport_data_taken = true;

@@ -50,6 +50,14 @@ bool was_stored(ui::desk& desk, const change_outcome& outcome, std::string_view 
     return outcome.stored();
 }
 
+std::string named_rows(const std::vector<int>& rows) {
+    std::string text = rows.size() > 1 ? "righe " : "riga ";
+    for (std::size_t i = 0; i < rows.size() && i < 3; ++i) {
+        text += (i > 0 ? ", " : "") + std::to_string(rows[i]);
+    }
+    return rows.size() > 3 ? text + " ..." : text;
+}
+
 void tell_not_compacted(ui::desk& desk, const change_outcome& outcome) {
     desk.message("Compattazione non completata: errore su " + outcome.files +
                      ". Nessun ordine è andato perso, ma alcuni possono comparire due volte."_cp,

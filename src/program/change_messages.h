@@ -18,6 +18,9 @@ namespace vantora {
 bool was_stored(ui::desk& desk, const change_outcome& outcome,
                 std::string_view undone = "nulla è stato salvato");
 
+/// "righe 2, 5, 7 ...": up to three rows of an order, for what is told of them.
+std::string named_rows(const std::vector<int>& rows);
+
 /// A compaction that began stopped short.
 void tell_not_compacted(ui::desk& desk, const change_outcome& outcome);
 

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "customer/mirsel.h"
 #include "entry/import_picker.h"
 #include "entry/order_station.h"
 #include "scripted/problems.h"
@@ -119,6 +120,103 @@ TEST(stations, StaleListsAreReadAnewWithTheMarkOnTheSameOrder) {
     here.desk.dispatch([&] { here.app.mirorcs->comando[5].click(); });
 }
 
+/// What another station moved in its file is not taken for what a list shows there.
+TEST(stations, CustomersArticlesAndQuotesThatMovedAreNotTakenForOthers) {
+    for (const bool guarded : {true, false}) {
+        order_company company;
+        company.counter(contatori::preventivi, 1);
+        order_station at(company);
+        at.desk.guards().switch_to(guarded);
+        const auto pick = [&](const std::function<void()>& choose, const char* told) {
+            at.front.told.clear();
+            at.desk.dispatch(choose);
+            EXPECT_EQ(at.front.told.empty() ? "" : at.front.told.back(), std::string(told));
+        };
+        at.desk.dispatch([&] { at.app.mirorc->bottone[2].click(); });
+        change_stored(company.files.art, 2, [](rec_art& one) { one.codice = "B2"; });
+        const auto pick_customer = [&] {
+            ui::grid& list = at.app.mirsel->elenco;
+            change_stored(company.files.cli, 2, [](rec_cli& one) { one.intestazione1 = "NERI"; });
+            list.click_cell(2, 0);
+            EXPECT_EQ(at.app.mirsel.loaded(), guarded);
+            if (!guarded) return;
+            EXPECT_EQ(list.text(2, 0), "NERI");
+            list.click_cell(1, 0);
+        };
+        bool chosen = false;
+        at.front.meanwhile = [&] {
+            const bool shown = at.app.mirsel.loaded() && !at.app.mirsel->elenco.text(2, 0).empty();
+            if (shown && !std::exchange(chosen, true)) pick_customer();
+        };
+        pick([&] { at.app.mirorcx->b_lista.click(); },
+             guarded ? "I clienti sono stati cambiati altrove: l'elenco viene riletto." : "");
+
+        at.desk.dispatch([&] { at.app.mirorcx->bottone.click(); });
+        mirorcs& order = *at.app.mirorcs;
+        change_stored(company.files.art, 2, [](rec_art& one) { one.codice = "C2"; });
+        pick([&] { order.lookup().List1.pick(2); },
+             guarded ? "Gli articoli sono stati cambiati altrove: l'elenco viene riletto." : "");
+        EXPECT_EQ(order.artic[0].text(), guarded ? "" : "C2");
+        EXPECT_EQ(order.lookup().List1.item(2).substr(0, 2), guarded ? "C2" : "B2");
+
+        rec_prv quote{};
+        quote.numero = "7";
+        quote.cliente = at.app.selezione_1;
+        company.files.prv.write(1, quote);
+        at.desk.dispatch([&] { order.comando[6].click(); });
+        quote.numero = "8";
+        company.files.prv.write(1, quote);
+        company.counter(contatori::preventivi, 1, 8);
+        pick([&] { at.app.mirorcb->elenco.click_cell(1, 0); },
+             "Un'altra postazione ha cambiato l'archivio: l'elenco viene riletto.");
+        EXPECT_EQ(at.app.mirorcb->elenco.text(1, 0), "8");
+    }
+}
+
+/// A row that can't be read would come as the one before it.
+TEST(stations, AnImportOfWhatCantBeReadWholeTakesNothing) {
+    for (const bool quotes : {false, true}) {
+        order_company company;
+        company.order(1, 1, {{1, 5}, {2, 7}});
+        std::vector<rec_prv> quote(righe_blocco);
+        quote[0].cliente = quote[0].articolo = quote[1].articolo = 1;
+        company.files.prv.write_block(1, quote);
+        company.counter(contatori::preventivi, 1);
+        order_station at(company);
+        at.desk.dispatch([&] {
+            at.app.mirorc->bottone[2].click();
+            at.app.mirorcx->bottone.click();
+        });
+        const auto import = [&] {
+            ui::screen_place& picker =
+                quotes ? static_cast<ui::screen_place&>(at.app.mirorcb) : at.app.mirpref;
+            bool chosen = false;
+            const auto choose = [&] {
+                auto& list = static_cast<import_picker&>(picker.use()).elenco;
+                if (!list.text(1, list.cols() - 1).empty()) chosen |= list.click_cell(1, 0);
+            };
+            at.front.meanwhile = [&] {
+                if (!chosen && at.app.mirpref.loaded()) choose();
+            };
+            at.desk.dispatch([&] { at.app.mirorcs->comando[quotes ? 6 : 5].click(); });
+            if (quotes) at.desk.dispatch(choose);
+        };
+        const std::int64_t row_length = quotes ? sizeof(rec_prv) : sizeof(rec_orc);
+        at.faults.read_fails = [&](const std::string& path, std::int64_t from, std::size_t size) {
+            return path.ends_with(quotes ? "prv" : "orc") && from <= row_length &&
+                   row_length < from + static_cast<std::int64_t>(size);
+        };
+        import();
+        EXPECT_EQ(at.front.told.back(),
+                  (quotes ? "Il preventivo"_cp : "L'ordine"_cp) +
+                      " non si può leggere per intero (riga 2): non viene importato nulla."_cp);
+        EXPECT_EQ(at.app.mirorcs->lines()[1].articolo, 0);
+        at.faults.read_fails = nullptr;
+        import();
+        EXPECT_EQ(at.app.mirorcs->lines()[2].articolo, quotes ? 1 : 2);
+    }
+}
+
 TEST(stations, TheRegisterCatchesUpWithTheOthers) {
     order_company company;
     for (const int block : {1, 2, 3, 4}) company.order(block, 1 + block % 2, {{1, 5}});
@@ -214,6 +312,26 @@ TEST(stations, AnOrderEditedMeanwhileIsAskedAbout) {
         at.save_opened();
         EXPECT_EQ(at.active(), wants == user::stays ? "mirorcz" : "mirorc");
         EXPECT_EQ(at.front.told[told].starts_with("Un'altra"), wants == user::stays);
+    }
+}
+
+TEST(stations, WhatIsDeletedAfterAnotherStationChangedItIsAskedAbout) {
+    for (const bool wanted : {false, true}) {
+        order_company company;
+        company.order(1, 1, {{1, 5}, {2, 7}});
+        order_station at(company);
+        at.desk.guards().switch_to(true);
+        at.open(1);
+        company.change_row(1, 2, [](rec_orc& row) { row.evaso = 2; });
+        at.front.decide = [&] {
+            const std::string& asked = at.front.told.back();
+            return asked.starts_with("Un'altra") ? wanted : asked == "Sei proprio sicuro?";
+        };
+        at.delete_opened();
+        EXPECT_TRUE(
+            at.front.told[1].ends_with("Eliminarlo lo stesso?\nEvasione registrata: riga 2, 2,00"));
+        EXPECT_EQ(company.row_now(1, 1).annullato, wanted ? 1 : 0);
+        EXPECT_EQ(company.article_now(2).ordinato_clienti, wanted ? 2 : 7);
     }
 }
 

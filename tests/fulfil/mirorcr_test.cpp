@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "entry/order_station.h"
 #include "fulfil/fulfil_stage.h"
 
 namespace vantora::test {
@@ -176,6 +177,18 @@ TEST(mirorcr, RowsBookedElsewhereMeanwhileAreNamedAndNothingIsBooked) {
         stage.book();
         EXPECT_EQ(stage.row_now(1, 2).evaso, 3);
     }
+}
+
+TEST(mirorcr, AnOrderDeletedMeanwhileIsNotTakenOutOfItsArticlesTwice) {
+    fulfil_stage stage;
+    stage.order(1, 1, {{1, 5}, {2, 7}});
+    stage.run();
+    stage.open_worklist(1);
+    stage.click(1, mirorcr::ordine);
+    delete_order(stage, 1);
+    stage.book();
+    EXPECT_EQ(stage.row_now(1, 2).evaso, 7) << "the last one wins";
+    EXPECT_EQ(stage.article_now(2).ordinato_clienti, 0);
 }
 
 TEST(mirorcr, TheRowBehindTheTwoHundredthEndsTheProgramAndIsBookedOnce) {
