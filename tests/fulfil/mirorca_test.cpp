@@ -114,6 +114,10 @@ TEST(mirorca, DocumentCountersAtTheirLimits) {
                  {std::numeric_limits<float>::quiet_NaN(), 0, "b0"}};
     for (const auto& one : cases) {
         document_stage stage;
+        const auto file = stage.file("x").replace_filename(one.file);
+        const auto others = stage.file("altrui");
+        put(others, "altrui");
+        std::filesystem::create_symlink(others, file);
         rec_tot counter{};
         counter.quanti = 32766;
         counter.ultimo_numero = 41;
@@ -127,6 +131,7 @@ TEST(mirorca, DocumentCountersAtTheirLimits) {
         EXPECT_EQ(counter.ultimo_numero, 41);
         EXPECT_TRUE(counter.progressivo == one.next || one.next == 0) << counter.progressivo;
         EXPECT_EQ(snapshot(stage, one.file).size(), 2020U) << one.progressive;
+        EXPECT_EQ(stage.content("altrui"), "altrui") << "not written through a link";
         EXPECT_EQ(std::filesystem::file_size(stage.file("bol")), 32767U * 97);
     }
 }

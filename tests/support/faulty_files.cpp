@@ -31,6 +31,9 @@ class faulty_file final : public file {
         return !faults_.flush_fails || !faults_.flush_fails(path_);
     }
     [[nodiscard]] std::optional<std::int64_t> length() const override { return real_->length(); }
+    [[nodiscard]] std::optional<std::int64_t> last_write() const override {
+        return real_->last_write();
+    }
     [[nodiscard]] bool writable() const override {
         return real_->writable() && (!faults_.read_only || !faults_.read_only(path_));
     }
@@ -90,6 +93,10 @@ std::optional<std::string> faulty_files::read_whole(std::string_view path) {
 
 std::unique_ptr<file> faulty_files::create(std::string_view path) {
     return refuses_open(path) ? nullptr : opened(path, real_.create(path));
+}
+
+std::unique_ptr<file> faulty_files::create_instead(std::string_view path) {
+    return refuses_open(path) ? nullptr : opened(path, real_.create_instead(path));
 }
 
 std::unique_ptr<file> faulty_files::create_aside(std::string_view path) {

@@ -60,6 +60,7 @@ class faulty_files final : public file_port {
     std::optional<std::string> read_whole(std::string_view path) override;
     bool exists(std::string_view path) override { return real_.exists(path); }
     std::unique_ptr<file> create(std::string_view path) override;
+    std::unique_ptr<file> create_instead(std::string_view path) override;
     std::unique_ptr<file> create_aside(std::string_view path) override;
     bool create_folder(std::string_view path) override { return real_.create_folder(path); }
     [[nodiscard]] std::filesystem::path locate(std::string_view path) const override {

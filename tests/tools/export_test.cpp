@@ -302,6 +302,13 @@ TEST(archive_export, WhatIsMissingIsToldAndAnEarlierTargetStays) {
     EXPECT_NE(csv_folder::obstacle(out.path() / "csv"), "");
     std::filesystem::remove(out.path() / "csv/mio.txt");
     EXPECT_EQ(csv_folder::obstacle(out.path() / "csv"), "");
+    const test::scratch_folder own;
+    test::put(own.path() / "mio.csv", "a;b");
+    EXPECT_NE(csv_folder::obstacle(own.path()), "") << "lists of one's own";
+    EXPECT_NE(sqlite_file::obstacle(own.path() / "mio.csv"), "");
+    std::filesystem::create_symlink(out.path() / "csv", own.path() / "link");
+    EXPECT_NE(csv_folder::obstacle(own.path() / "link"), "");
+    EXPECT_NE(sqlite_file::obstacle(own.path() / "link"), "");
     const auto whole = test::files_under(out.path());
     {
         company_files company(folder.drive(), 7);

@@ -32,14 +32,19 @@ std::string csv_folder::obstacle(const fs::path& folder) {
     std::error_code failed;
     if (!fs::exists(fs::symlink_status(folder, failed))) return {};
     if (!fs::is_directory(fs::symlink_status(folder, failed))) return "non è una cartella";
+    bool empty = true;
+    bool exported = false;  // every export has its counters
     for (fs::directory_iterator each(folder, failed), none; !failed && each != none;
          each.increment(failed)) {
         if (!each->is_regular_file(failed) || each->path().extension() != ".csv") {
             return "contiene altro che un'esportazione (" + words_of_path(each->path().filename()) +
                    ")";
         }
+        empty = false;
+        exported |= each->path().stem() == "contatori" || each->path().stem() == "counters";
     }
-    return failed ? "non si può leggere" : "";
+    if (failed) return "non si può leggere";
+    return empty || exported ? "" : "contiene altro che un'esportazione";
 }
 
 void csv_folder::begin(const exported_table& table) {
