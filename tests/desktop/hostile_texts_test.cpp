@@ -2,35 +2,74 @@
 #include <QComboBox>
 #include <QLabel>
 
+#include <random>
+
 #include "program_window.h"
 #include "register/mirorc.h"
+#include "store/record_fields.h"
 
 namespace vantora::ui::desktop {
 namespace {
 
 constexpr const char* hostile = "<b>x</b><img src='/dev/zero'>&amp;[*]\x01\xAD\x9D";
 
-/// A company whose every text looks like markup.
-class hostile_texts : public test::program_window {
+/// A company whose every text is made of markup, marks that turn the direction of writing, and
+/// control bytes.
+class hostile_texts : public test::program_window, public testing::WithParamInterface<unsigned> {
  protected:
-    hostile_texts() {
-        rec_cli customer = vantora::test::customer_named(hostile);
-        customer.intestazione2 = customer.indirizzo = hostile;
-        customer.email = hostile;
-        customer.note1 = hostile;
-        customer.vettore1 = hostile;
-        company.customers({customer});
-        company.articles({vantora::test::article("<b>A</b>", hostile, 10)});
+    hostile_texts() : random_(GetParam()) {
         company.table_file();
-        rec_orc row;
-        row.numero = "<i>7</i>";
-        row.cliente = 1;
-        row.testo1 = row.descrizione = hostile;
-        row.um = "<u>";
-        row.articolo = 1;
-        row.quantita = 3;
-        for (int i = 1; i <= 3; ++i) company.files.orc.write(block_record(1, i), row);
-        company.counter(contatori::ordini, 1, 7);
+        company.text("tb2", {any_text(), any_text()});
+        company.customers({filled(rec_cli{}), filled(rec_cli{})});
+        company.articles({filled(rec_art{}), filled(rec_art{})});
+        for (const int block : {1, 2}) {
+            for (int row = 1; row <= righe_blocco; ++row) {
+                company.files.orc.write(block_record(block, row), filled(row_of(rec_orc{}, row)));
+                company.files.prv.write(block_record(block, row), filled(row_of(rec_prv{}, row)));
+            }
+        }
+        company.files.mag.write(1, filled(rec_mag{}));
+        company.files.bol.write(1, filled(rec_bol{}));
+        for (const int counter : {contatori::ordini, contatori::preventivi}) {
+            company.counter(counter, 2, 7);
+        }
+        for (const int counter : {contatori::magazzino, contatori::documenti_trasporto}) {
+            company.counter(counter, 1, 7);
+        }
+    }
+    std::string any_text() {
+        constexpr const char* parts[] = {"<b>",
+                                         "</b>",
+                                         "<img src='/dev/zero'>",
+                                         "&amp;",
+                                         "&",
+                                         "[*]",
+                                         "<!--",
+                                         "\x01\x7F",
+                                         "\n",
+                                         "\xAD\x9D",
+                                         "\xE2\x80\xAE",
+                                         "%1",
+                                         "x y ",
+                                         "'",
+                                         "<table><tr><td>"};
+        std::string text;
+        for (auto left = 1 + random_() % 5; left > 0; --left) text += parts[random_() % 15];
+        return text;
+    }
+    template <class Record>
+    Record filled(Record one) {
+        visit_fields(one, [&]<class Field>(const Field&, const auto& value) {
+            if constexpr (requires { value.trimmed(); }) one.*Field::member = any_text();
+        });
+        return one;
+    }
+    template <class Row>
+    static Row row_of(Row one, int number) {
+        one.cliente = 1;
+        one.articolo = static_cast<std::int16_t>(number % 3);
+        one.quantita = number < 9 ? 3 : 0;
+        return one;
     }
     /// The widgets that would take a text for markup.
     static QStringList guessing() {
@@ -54,9 +93,11 @@ class hostile_texts : public test::program_window {
         }
         return found;
     }
+
+    std::mt19937 random_;
 };
 
-TEST_F(hostile_texts, NoTextOfACompanyIsMarkup) {
+TEST_P(hostile_texts, AreMarkupInNoWindow) {
     std::vector<std::function<void()>> steps;
     for (screen_place* place : all_screens()) {
         steps.push_back([this, place] {
@@ -80,6 +121,8 @@ TEST_F(hostile_texts, NoTextOfACompanyIsMarkup) {
     });
     run(steps);
 }
+
+INSTANTIATE_TEST_SUITE_P(companies, hostile_texts, testing::Range(0U, 3U));
 
 }  // namespace
 }  // namespace vantora::ui::desktop

@@ -237,6 +237,63 @@ TEST_F(register_window, WindowsAndDraggedColumnsKeepTheirSizesFromRunToRun) {
     QSettings().remove("windows");
 }
 
+TEST_F(register_window, KeepsItselfFreshWithMarkSortAndPlaceButNotInAGestureOrAScript) {
+    order.annullato = 0;
+    const auto take_order = [&](int number) {
+        order.numero = std::to_string(number);
+        order.cliente = static_cast<std::int16_t>(1 + number % 2);
+        company.files.orc.write(block_record(number, 1), order);
+        company.counter(contatori::ordini, number);
+    };
+    for (int i = 4; i <= 60; ++i) take_order(i);
+    const auto come_back_to_it = [] {
+        emit qApp->applicationStateChanged(Qt::ApplicationActive);
+        QTest::qWait(20);
+    };
+    run({[&] { bench.press_button("srx(3)"); },
+         [&] {
+             ui::grid& list = app.mirorc->elenco;
+             list.set_top_row(36);
+             list.set_row(40);
+             const std::string marked(list.text(40, mirorc::ordine));
+             const std::string top(list.text(list.top_row(), mirorc::ordine));
+             take_order(61);
+             QWidget* window = bench.front.front_window();
+             QTest::mousePress(window, Qt::LeftButton, {}, QPoint(1, 1));
+             come_back_to_it();
+             EXPECT_EQ(list.row(), 40);
+             QTest::mouseRelease(window, Qt::LeftButton, {}, QPoint(1, 1));
+             come_back_to_it();
+             EXPECT_EQ(list.row(), 41) << "an order of Alfa's came before those of Zeta";
+             EXPECT_EQ(list.text(41, mirorc::ordine), marked);
+             EXPECT_EQ(list.text(list.top_row(), mirorc::ordine), top);
+             order.testo1 = "cambiato";
+             company.files.orc.write(block_record(61, 1), order);
+             come_back_to_it();
+             int changed = 0;
+             for (int row = 1; row < list.rows(); ++row) {
+                 changed += list.text(row, mirorc::descrizione) == "cambiato";
+             }
+             EXPECT_EQ(changed, 1);
+         }});
+    test::window_stage later;
+    program again(disk, later.desk, pictures);
+    std::stringstream commands("rows mirorc.elenco\nrows mirorc.elenco\n"), replies;
+    script::interpreter by(later.desk, later.time, later.paper, later.programs);
+    script_runner runner(later.front, by, commands, replies);
+    const auto step = [&, steps = 0]() mutable {
+        if (++steps == 2) take_order(62);
+        if (steps == 2) come_back_to_it();
+        return runner.step();
+    };
+    later.front.served_by(step, {});
+    later.desk.dispatch([&] { start(again, "ordini001"); });
+    later.front.run();
+    runner.write_reply();
+    EXPECT_EQ(QString::fromStdString(replies.str()).count("\"61\""), 4) << replies.str();
+    EXPECT_FALSE(replies.str().find("\"62\"") != std::string::npos);
+}
+
 TEST_F(register_window, AScriptOfManyOrdersLeavesNoWindowsBehind) {
     std::stringstream commands, replies;
     for (int i = 0; i < 12; ++i) commands << "click mirorc.bottone(2)\nclose mirorcx\n";

@@ -109,11 +109,8 @@ class player {
         why_not_.clear();
         program_->send(command_);
     }
-    void stop_for(std::chrono::microseconds time) {
-        program_->signal(SIGSTOP);
-        std::this_thread::sleep_for(time);
-        program_->signal(SIGCONT);
-    }
+    void stop() { program_->signal(SIGSTOP); }
+    void wake() { program_->signal(SIGCONT); }
     /// Its last reply may be under way.
     void end() {
         program_->signal(SIGKILL);
@@ -381,13 +378,16 @@ class trial {
         }
         if (active.empty()) return;
         for (player* one : active) one->begin();
-        disturb(*active[below(active.size())]);
+        player* const stopped =
+            long_sessions() && below(20) == 0 ? stop_one_inside(active) : nullptr;
+        if (!stopped) disturb(*active[below(active.size())]);
 
         std::vector<book_change> changes;
         const book_change* broken = nullptr;
         std::vector<player::outcome> outcomes;
         std::string text;
         for (player* one : active) {
+            if (one == stopped) one->wake();
             const auto from = outcomes.emplace_back(one->settle());
             const book_change& wanted = *one->change;
             if (from == player::done) changes.push_back(wanted);
@@ -409,7 +409,8 @@ class trial {
         }
         for (const auto& [why, times] : told) std::cout << times << " x " << why << '\n';
         std::cout << book_.orders.size() << " orders, " << book_.movements.size() << " movements, "
-                  << book_.documents.size() << " documents; numbers up to " << numbers_ << '\n';
+                  << book_.documents.size() << " documents; numbers up to " << numbers_ << "; "
+                  << stopped_inside_ << " stopped inside\n";
     }
 
  private:
@@ -419,9 +420,29 @@ class trial {
         if (how == 0) return;
         std::this_thread::sleep_for(std::chrono::microseconds(below(8000)));
         if (how == 1) return one.end();
-        // Now and then longer than the others are patient.
-        const std::size_t time = long_sessions() && below(60) == 0 ? 10'200'000 : below(40'000);
-        one.stop_for(std::chrono::microseconds(time));
+        one.stop();
+        std::this_thread::sleep_for(std::chrono::microseconds(below(40'000)));
+        one.wake();
+    }
+    /// Stops a station that has the archive locked, and makes it the last one. It stays so until
+    /// the others are through, be it that they don't want to wait any longer.
+    player* stop_one_inside(std::vector<player*>& active) {
+        const auto locked = [this] { return company_.files.tot.shared_file()->locked_by(); };
+        const auto until = std::chrono::steady_clock::now() + std::chrono::milliseconds(300);
+        while (std::chrono::steady_clock::now() < until) {
+            player* const one = active[below(active.size())];
+            if (!locked()) continue;
+            one->stop();
+            std::this_thread::sleep_for(std::chrono::milliseconds(40));
+            if (locked()) {
+                ++stopped_inside_;
+                std::erase(active, one);
+                active.push_back(one);
+                return one;
+            }
+            one->wake();
+        }
+        return nullptr;
     }
     /// A compaction that was ended leaves orders twice: the later ones go, while nobody works.
     void mend_what_was_broken_off() {
@@ -451,6 +472,7 @@ class trial {
     order_company company_;
     trial_book book_;
     int numbers_ = 100;
+    int stopped_inside_ = 0;
     std::deque<player> players_;
 };
 
