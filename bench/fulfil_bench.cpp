@@ -71,7 +71,7 @@ void booking(archivi& files, int orders, int every, int rounds) {
     }
     const auto book = [&] {
         archive_change change(files);
-        for (const auto record : rows) prenota_riga(change, files, record, 1, articles);
+        for (const auto record : rows) prenota_riga(change, files, record, 1, articles, true);
     };
     const auto copy = [&] {
         rec_orc row;

@@ -96,28 +96,6 @@ TEST(stations, StaleListsAreReadAnewWithTheMarkOnTheSameOrder) {
     EXPECT_EQ(list.text(list.row(), mirorc::ordine), "30");
     EXPECT_EQ(here.open(list.row()).testata.text(), "ROSSI SPA - Ordine 30 del 01/03/2024");
     here.desk.dispatch([&] { here.app.mirorcz->comando[0].click(); });
-
-    // The same where an order to import is picked.
-    delete_order(company, 1);
-    here.desk.dispatch([&] {
-        here.app.mirorc->bottone[2].click();
-        here.app.mirorcx->bottone.click();
-    });
-    bool stayed = false;
-    here.front.decide = [&] { return false; };
-    here.front.meanwhile = [&] {
-        if (stayed || !here.app.mirpref.loaded() || here.app.mirpref->elenco.text(1, 0).empty()) {
-            return;
-        }
-        stayed = true;
-        there.compact();
-        ui::grid& picker = here.app.mirpref->elenco;
-        here.desk.dispatch([&] { picker.click_cell(2, 0); });
-        EXPECT_TRUE(here.front.told.back().starts_with("Un'altra postazione ha cambiato"));
-        EXPECT_EQ(picker.text(picker.row(), 0), "40");
-        here.desk.dispatch([&] { here.app.mirpref->bottone.click(); });
-    };
-    here.desk.dispatch([&] { here.app.mirorcs->comando[5].click(); });
 }
 
 /// What another station moved in its file is not taken for what a list shows there.
@@ -215,30 +193,6 @@ TEST(stations, AnImportOfWhatCantBeReadWholeTakesNothing) {
         import();
         EXPECT_EQ(at.app.mirorcs->lines()[2].articolo, quotes ? 1 : 2);
     }
-}
-
-TEST(stations, TheRegisterCatchesUpWithTheOthers) {
-    order_company company;
-    for (const int block : {1, 2, 3, 4}) company.order(block, 1 + block % 2, {{1, 5}});
-    delete_order(company, 1);
-    order_station here(company);
-    order_station there(company);
-    mirorc& screen = *here.app.mirorc;
-    here.desk.dispatch([&] { screen.srx[mirorc::cliente].click(); });
-    const auto orders = [&] {
-        std::string all;
-        for (int row = 1; row < 6; ++row) {
-            all += std::string(screen.elenco.text(row, mirorc::ordine)) + ",";
-        }
-        return all;
-    };
-    EXPECT_EQ(orders(), ",20,40,30,,") << "the deleted one first, then by customer";
-    screen.elenco.set_row(3);
-    there.compact();
-    there.take_order();
-    here.desk.dispatch([&] { screen.catch_up(); });
-    EXPECT_EQ(orders(), "20,40,41,30,,");
-    EXPECT_EQ(screen.elenco.row(), 2) << "on the same order";
 }
 
 TEST(stations, AnOrderThatCouldNotBeReadWholeIsNeverSavedOver) {

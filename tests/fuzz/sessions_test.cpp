@@ -100,12 +100,13 @@ class other_station {
         lines[1].articolo = 2;
         lines[1].quantita = 3;
         const testata_registrata head{"77", "01/02/2024", "03/02/2024", 1, {}, true};
-        salva_nuovo_ordine(files_, head, 45323, lines, 12);
+        salva_nuovo_ordine(files_, head, 45323 + ++orders_, lines, 12);
     }
 
     drive drive_;
     bool replaces_;
     archivi files_;
+    int orders_ = 0;
     test::scratch_folder outside_;
     std::vector<std::pair<fs::path, std::string>> replaced_;  ///< with what they held
     std::vector<std::pair<fs::path, fs::path>> removed_;      ///< with their places
@@ -281,8 +282,12 @@ void work_restlessly(unsigned seed, company_life life) {
     EXPECT_GE(std::filesystem::file_size(orders), size_before);
     archive::company_files checked(folder.path(), 1);
     const auto findings = archive::check_archive(checked);
-    // No hand saves the same order twice within a second.
-    const bool sound = findings.sound() || findings.has("order-doubled");
+    // What a hand can type is none; only here does one save the same order twice within a second.
+    const bool sound = std::ranges::all_of(findings.groups(), [](const auto& one) {
+        const archive::finding& first = one.kept.front();
+        return first.how_bad != archive::gravity::error || first.kind == "order-doubled" ||
+               first.kind.ends_with("-date");
+    });
     const bool told = at.front.told_of_faults || !last_words.empty();
     EXPECT_TRUE(damaged || sound || (life == company_life::reads_refused && told))
         << findings.in_lines();

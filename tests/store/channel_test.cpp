@@ -3,10 +3,8 @@
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 
-#include "store/archives.h"
 #include "store/drive.h"
 #include "store/records.h"
-#include "store/suite_paths.h"
 #include "support/faulty_files.h"
 #include "support/file_bytes.h"
 #include "support/scratch_folder.h"
@@ -98,28 +96,6 @@ TEST(fields, AreTheBytesOfTheFile) {
     EXPECT_EQ(record.word.full(), "a    ");
     EXPECT_EQ(record.word.trimmed(), "a");
     EXPECT_EQ(text<3>().full(), std::string(3, '\0')) << "a field never stored";
-}
-
-TEST(archives, OpenTheCountersFirstAndCreateWhatIsMissing) {
-    test::scratch_folder folder;
-    std::filesystem::create_directories(folder.path() / "mirwin/mirwin/miraz0.003");
-    drive port(folder.path());
-    archivi files;
-    apri_archivi(files, port, 3);
-    for (const char* kind :
-         {"tot", "cli", "src", "art", "sra", "orc", "srb", "mag", "bol", "prx", "prv"}) {
-        EXPECT_TRUE(std::filesystem::exists(port.locate(file_azienda(3, kind)))) << kind;
-    }
-    rec_art article;
-    article.codice = "VENTI";
-    files.art.write(20, article);
-    blocco_articoli block;
-    files.art_blocchi.read(1, block);
-    EXPECT_EQ(block.articoli[19].codice.trimmed(), "VENTI");
-    chiudi_archivi(files);
-    EXPECT_FALSE(files.art.write(1, article));
-    apri_archivi(files, port, 4);
-    EXPECT_FALSE(files.tot.is_open()) << "there is no such folder";
 }
 
 }  // namespace
