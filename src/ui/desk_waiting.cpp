@@ -33,7 +33,9 @@ void desk::dispatch(const std::function<void()>& action) {
     const depth_guard inside(*this);
     try {
         action();
-        if (active_) active_->settled();
+        // What a focus that moves sets off comes in the midst of what moves it.
+        const bool in_the_midst = depth_ > 1 && boxes_.empty() && modals_.empty() && waiting_ == 0;
+        if (active_ && !in_the_midst) active_->settled();
     } catch (const program_end&) {
         // finish() has done what there is to do
     } catch (const std::exception& error) {

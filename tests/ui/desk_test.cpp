@@ -35,6 +35,7 @@ class noting_form : public form {
 
  protected:
     void load() override { note("load"); }
+    void settled() override { note("settled"); }
     void activate() override {
         note("activate");
         if (when_activated) when_activated();
@@ -80,6 +81,14 @@ TEST_F(desk_test, ShowingLoadsOnceActivatesAndGivesTheFirstControlTheFocus) {
     walk({{[&] { EXPECT_FALSE(a->secondo.set_focus()) << "nobody sees it"; }, "a.load ", ""},
           {[&] { a->show(); }, "a.activate a.+primo ", "a.primo"},
           {[&] { a->show(); }, "", "a.primo"},
+          // Nothing has settled while it still goes on.
+          {[&] {
+               desk.dispatch([&] {
+                   desk.dispatch([&] { a->secondo.set_focus(); });
+                   a->primo.set_focus();
+               });
+           },
+           "a.-primo a.+secondo a.-secondo a.+primo a.settled ", "a.primo"},
           {[&] { b->show(); }, "b.load a.-primo b.activate b.+primo ", "b.primo"},
           {[&] { a->secondo.set_focus(); }, "b.-primo a.activate a.+secondo ", "a.secondo"},
           // A focus given on activation stays.
