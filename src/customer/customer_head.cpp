@@ -92,6 +92,7 @@ bool customer_head::take_picked() {
     app_.archives.tot.read(contatori::clienti, contatore_);
     const std::int16_t position = position_of(app_.cliente_scelto);
     if (position == 0) return false;
+    chosen_ = true;  // even if it stood there already
     found_at(position);
     nome.set_text("");
     nome.set_focus();

@@ -3,6 +3,7 @@
 #include <QAbstractItemView>
 #include <QAccessible>
 #include <QCloseEvent>
+#include <QComboBox>
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QGuiApplication>
@@ -138,6 +139,9 @@ void form_window::name_the_rest() {
         if (model->kind() == control_kind::label || model->kind() == control_kind::picture)
             continue;
         QWidget& control = one->widget();
+        if (auto* box = qobject_cast<QComboBox*>(&control)) {
+            box->view()->setAccessibleName(box->accessibleName());
+        }
         const QAccessibleInterface* heard = QAccessible::queryAccessibleInterface(&control);
         if (!heard || !heard->text(QAccessible::Name).isEmpty()) continue;
         QString name = windowTitle();

@@ -25,6 +25,8 @@ void handing_over::begin() {
 }
 
 void handing_over::leave(form_window& window) {
+    const form_window* front = front_();
+    if (front && front != &window && front->isActiveWindow()) return window.hide();
     leaving_.emplace_back(&window);
     at_last_.start();
 }

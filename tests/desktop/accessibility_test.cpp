@@ -1,5 +1,6 @@
 #include <QAccessible>
 #include <QLabel>
+#include <QRadioButton>
 #include <QRegularExpression>
 #include <random>
 #include <set>
@@ -103,6 +104,9 @@ TEST_F(accessibility, AListTellsRowColumnTextAndWhereItsMarkIs) {
         auto* heard = QAccessible::queryAccessibleInterface(table())->tableInterface();
         ASSERT_TRUE(heard);
         EXPECT_TRUE(heard->isRowSelected(3));
+        for (auto* one : bench.front.front_window()->findChildren<QRadioButton*>()) {
+            EXPECT_EQ(QAccessible::queryAccessibleInterface(one)->role(), QAccessible::RadioButton);
+        }
         for (int row = 1; row <= 5; ++row) {
             for (int col = 0; col < list.cols(); ++col) {
                 auto* cell = heard->cellAt(row - 1, col);

@@ -1,4 +1,5 @@
 #include <QAbstractButton>
+#include <QButtonGroup>
 #include <QCheckBox>
 #include <QRadioButton>
 
@@ -15,7 +16,11 @@ class choice_binder final : public binder {
  public:
     choice_binder(Model& model, QWidget* parent, const user& by)
         : binder(model, new Widget(parent), by), button_(as<Widget>()), model_(model) {
-        button_->setAutoExclusive(false);
+        // Without the group an option would put the others out by itself; those who listen know it
+        // for an option by being exclusive.
+        auto* alone = new QButtonGroup(button_);
+        alone->setExclusive(false);
+        alone->addButton(button_);
         connect(button_, &QAbstractButton::clicked, this, [this] {
             act_click(*button_, [this] { (model_.*Click)(); });
             show_again(aspect::value);
