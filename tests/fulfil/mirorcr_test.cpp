@@ -106,35 +106,6 @@ TEST(mirorcr, TheDestinationOfTheFirstOrderThatLeavesIsTakenIfWanted) {
     }
 }
 
-TEST(mirorcr, OrdersThatACompactionElsewhereMovedAreNotBooked) {
-    for (const bool compacted : {true, false}) {
-        fulfil_stage stage;
-        stage.order(1, 2, {});
-        stage.order(2, 1, {{1, 5}});
-        stage.order(3, 2, {{1, 5}});
-        stage.change_row(1, 1, [](rec_orc& head) { head.annullato = 1; });
-        stage.run();
-        stage.open_worklist(1);
-        stage.click(1, mirorcr::ordine);
-        if (compacted) {
-            station other(stage.drive());
-            other.run();
-            other.front.decide = [&] { return other.front.told.back() == "Confermi?"; };
-            other.desk.dispatch([&] { other.app.mirorc->srtt[0].click(); });
-        } else {
-            stage.counter(contatori::ordini, 4);  // it only took an order
-        }
-        stage.book();
-        EXPECT_EQ(stage.row_now(2, 1).evaso, compacted ? 0 : 5);
-        EXPECT_EQ(stage.article_now(1).ordinato_clienti, compacted ? 10 : 5);
-        EXPECT_EQ(stage.desk.active()->name(), compacted ? "mirorcr" : "mirorca");
-        EXPECT_EQ(stage.row(1)[mirorcr::evaso], "5,00") << "marked in the list read anew too";
-        if (!compacted) continue;
-        stage.book();
-        EXPECT_EQ(stage.row_now(1, 1).evaso, 5);
-    }
-}
-
 TEST(mirorcr, ADiskThatFailsIsNoOtherStation) {
     fulfil_stage stage;
     stage.order(1, 1, {{1, 5}});

@@ -174,13 +174,6 @@ TEST_F(parameters_test, ParametersAreRepairedAndNothingElseIsTouched) {
     EXPECT_EQ(stored().riservato_bd.trimmed(), "di altri");
 }
 
-TEST_F(parameters_test, WithoutAFileToSaveInTheyServeAllTheSame) {
-    std::filesystem::create_directory(own);
-    EXPECT_EQ(load().gnr.formato_gnr.full(), "9");
-    std::filesystem::remove_all(company);
-    EXPECT_EQ(load().gnr.formato_gnr.full(), "9") << "no folder to save in";
-}
-
 TEST_F(parameters_test, HeadingLinesThatAreMissingStayEmpty) {
     put(company / "vantora.int", "Ditta\r\nVia Po 1\r\n");
     parametri loaded = load();
