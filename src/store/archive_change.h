@@ -136,6 +136,9 @@ class archive_change {
     /// Takes the outcome of any other step; returns it.
     bool note(bool done, std::string_view file);
 
+    /// The same of a write that went another way.
+    bool note_write(bool done, std::string_view file) { return wrote(note(done, file)); }
+
     /// Nothing refused so far.
     [[nodiscard]] bool none_refused() const { return outcome_.files.empty(); }
     /// What was written so far doesn't count: nothing is left of it but, perhaps, moved stock.

@@ -135,10 +135,11 @@ TEST(archive_check, FindsEachDamageOnceAndNothingThatFollowsFromItAndWritesNothi
         SCOPED_TRACE(one.name);
         const demo_folder company(tiny);
         one.make(company);
-        const auto before = files_of(company);
+        const bool repairs = ++tried % repaired.step == repaired.first;
+        const auto before = repairs ? files_of(company) : file_bytes();
         EXPECT_EQ(test::kinds_of(company), one.found);
+        if (!repairs) continue;
         EXPECT_EQ(files_of(company), before);
-        if (++tried % repaired.step != repaired.first) continue;
         repair_all(company);
         EXPECT_EQ(spoilt(original, before, files_of(company)), "");
     }

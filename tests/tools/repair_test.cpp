@@ -48,9 +48,12 @@ const repair_case cases[] = {
      }},
 };
 
+int lines_of_book = 0;
+
 int run(const repair_case& one, file_port& files, bool yes, std::string* said = nullptr) {
     std::ostringstream out;
-    const int result = one.run({files, 7, [yes](bool) { return yes; }, out});
+    const auto book = [](archivi& changed) { changed.book = [](auto&&...) { ++lines_of_book; }; };
+    const int result = one.run({files, 7, [yes](bool) { return yes; }, out, book});
     if (said) *said = out.str();
     return result;
 }
@@ -70,7 +73,9 @@ TEST(archive_repair, SetsRightWhatIsWrongAfterAYesAndLeavesACopyOfTheFile) {
         drive files(company.drive());
         EXPECT_EQ(run(one, files, false), 1);
         EXPECT_EQ(test::files_under(company.drive()), damaged);
+        lines_of_book = 0;
         EXPECT_EQ(run(one, files, true), 0);
+        EXPECT_EQ(lines_of_book, 1);
         EXPECT_EQ(copy_of(company, one), file);
         EXPECT_EQ(test::kinds_of(company), "");
         if (one.extension != std::string_view("tot") && one.extension != std::string_view("src")) {

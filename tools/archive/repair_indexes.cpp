@@ -100,8 +100,10 @@ repair_plan plan_indexes(company_files& company) {
         plan.steps.push_back(
             {words_for(index, made), index.extension,
              [extension = index.extension, bytes = bytes_of(made.now)](const repair_tools& tools) {
-                 return put_whole(tools.files, file_azienda(tools.numero_azienda, extension),
-                                  std::as_bytes(std::span(bytes)));
+                 const bool put =
+                     put_whole(tools.files, file_azienda(tools.numero_azienda, extension),
+                               std::as_bytes(std::span(bytes)));
+                 return tools.change.note_write(put, std::string("vantora.") + extension);
              }});
     }
     return plan;

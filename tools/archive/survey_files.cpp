@@ -39,9 +39,11 @@ void survey_file(const record_file& file, company_files& company, survey& into) 
     const std::string name = std::string("vantora.") + file.extension;
     const std::string path = file_azienda(company.numero_azienda(), file.extension);
     if (const std::string obstacle = obstacle_at(company, path); !obstacle.empty()) {
+        const bool lost_index = !file.depends && file.counter > 0 && obstacle == "manca";
         into.all.push_back({gravity::error, "file-missing", name, obstacle,
-                            "Finché è così i programmi lo trovano vuoto. Rimettere il file da una "
-                            "copia."});
+                            std::string("Finché è così i programmi lo trovano vuoto. ") +
+                                (lost_index ? "Rifarlo con «repair indexes»."
+                                            : "Rimettere il file da una copia.")});
         if (file.depends) into.doubt.*file.depends = name + " " + obstacle;
         return;
     }
