@@ -32,12 +32,39 @@ if(VANTORA_FAST_LINKER AND NOT CMAKE_EXE_LINKER_FLAGS MATCHES "-fuse-ld=")
   target_link_options(vantora_rules INTERFACE -fuse-ld=lld)
 endif()
 
+# Headers of the standard library and of Qt that nearly every file reads, kept as the compiler leaves
+# them. Who works on a file reads its own, and is told of one that is missing.
+option(VANTORA_HEADERS_ONCE "Read the large headers once for all libraries: for whole builds" OFF)
+set(standard_headers <algorithm> <array> <chrono> <cmath> <cstdint> <cstring> <filesystem>
+    <functional> <map> <memory> <optional> <span> <string> <string_view> <utility> <vector>)
+set(toolkit_headers <QAbstractItemView> <QApplication> <QBoxLayout> <QDialog> <QKeyEvent> <QLabel>
+    <QLineEdit> <QMenu> <QMessageBox> <QPainter> <QPushButton> <QScrollBar> <QSettings> <QShortcut>
+    <QTimer> <QToolButton>)
+
+# The first library of each kind keeps them, the others take them from there.
+function(vantora_keep_headers name)
+  if(NOT VANTORA_HEADERS_ONCE)
+    return()
+  endif()
+  if(name STREQUAL vantora_text)
+    target_precompile_headers(${name} PRIVATE ${standard_headers})
+  elseif(name STREQUAL vantora_look)
+    target_precompile_headers(${name} PRIVATE ${standard_headers} ${toolkit_headers})
+  elseif(CMAKE_CURRENT_SOURCE_DIR MATCHES "/src/(desktop|windows)")
+    target_precompile_headers(${name} REUSE_FROM vantora_look)
+  elseif(CMAKE_CURRENT_SOURCE_DIR MATCHES
+         "/(customer|demo|documents|enquiry|entry|fulfil|orders|program|register|reports|store|ui)$")
+    target_precompile_headers(${name} REUSE_FROM vantora_text)
+  endif()
+endfunction()
+
 # One library per folder, so that the build system keeps the arrows between the folders:
 # what a folder may include is what it links.
 function(vantora_library name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINKS")
   add_library(${name} STATIC ${arg_SOURCES})
   target_link_libraries(${name} PUBLIC vantora_rules ${arg_LINKS})
+  vantora_keep_headers(${name})
 endfunction()
 
 function(vantora_program name)
@@ -60,6 +87,14 @@ function(vantora_test name)
     target_link_libraries(${name} PRIVATE vantora_rules vantora_read_together)
   endif()
   target_link_libraries(${name} PRIVATE vantora_rules ${arg_LINKS} GTest::gtest_main)
+  if(VANTORA_HEADERS_ONCE AND NOT arg_LINKS MATCHES "Qt6|mirxpdf")
+    target_compile_options(${name} PRIVATE -pthread)
+    if(name STREQUAL store_test)
+      target_precompile_headers(${name} PRIVATE ${standard_headers} <gtest/gtest.h>)
+    else()
+      target_precompile_headers(${name} REUSE_FROM store_test)
+    endif()
+  endif()
   # asked for its tests when they are run: building needs no display
   gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 300
                        PROPERTIES TIMEOUT 900)
