@@ -21,7 +21,7 @@ ui/pictures: ui
 ui/script: ui text
 ui/paper: ui text
 desktop/look: ui
-desktop/dialogs: desktop/look
+desktop/dialogs: desktop/look store text
 desktop/keys: desktop/dialogs desktop/look
 desktop/controls: desktop/dialogs desktop/keys desktop/look ui ui/paper text
 desktop/lists: desktop/dialogs desktop/keys desktop/look ui ui/paper text

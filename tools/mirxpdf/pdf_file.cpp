@@ -1,47 +1,14 @@
 #include "mirxpdf/pdf_file.h"
 
-#include <unistd.h>
-
 #include <cerrno>
 #include <filesystem>
 #include <system_error>
 
+#include "store/why_not_written.h"
 #include "text/code_page.h"
+#include "ui/paper/toolkit_values.h"
 
 namespace vantora::mirxpdf {
-
-namespace {
-
-QString reason_of(int error, const std::filesystem::path& folder) {
-    switch (error) {
-        case EBUSY:
-        case ETXTBSY:
-        case EAGAIN:
-            return "il file è aperto in un altro programma";
-        case ENOSPC:
-        case EDQUOT:
-        case EFBIG:
-            return "il disco è pieno";
-        case EACCES:
-        case EPERM:
-        case EROFS:
-            return ::access(folder.c_str(), W_OK) == 0
-                       ? "il file è protetto o aperto in un altro programma"
-                       : "la cartella non si può scrivere";
-        case EINVAL:
-            return "con quel nome non c'è un file normale";
-        case ENOENT:
-        case ENOTDIR:
-            return "la cartella manca";
-        case EIO:
-            return "errore del disco";
-        default:
-            return "errore del sistema: " +
-                   QString::fromStdString(std::generic_category().message(error));
-    }
-}
-
-}  // namespace
 
 std::optional<QString> save_pdf(const QByteArray& pdf, std::string_view path, file_port& files) {
     const std::filesystem::path place = files.locate(path);
@@ -51,7 +18,7 @@ std::optional<QString> save_pdf(const QByteArray& pdf, std::string_view path, fi
     if (put_whole(files, path, std::as_bytes(std::span(pdf.data(), std::size_t(pdf.size()))))) {
         return {};
     }
-    return reason_of(errno, place.parent_path());
+    return ui::to_qt(why_not_written(errno, place.parent_path()));
 }
 
 }  // namespace vantora::mirxpdf

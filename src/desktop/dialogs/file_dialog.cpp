@@ -7,11 +7,15 @@
 #include <QMessageBox>
 #include <QSaveFile>
 #include <QStandardPaths>
+#include <cerrno>
 #include <cstdio>
+#include <filesystem>
 
 #include "desktop/dialogs/file_showing.h"
 #include "desktop/look/box_look.h"
 #include "desktop/look/words.h"
+#include "store/why_not_written.h"
+#include "text/code_page.h"
 
 namespace vantora::ui::desktop {
 
@@ -84,11 +88,15 @@ QString write_whole(const QString& file, const QByteArray& content) {
     // A new file takes the place of a link, once it is whole, and is never written through it.
     const bool link = QFileInfo(file).isSymLink();
     QSaveFile target(link ? file + ".nuovo" : file);
+    errno = 0;
     if (target.open(QIODevice::WriteOnly) && target.write(content) == content.size() &&
         target.commit() && (!link || put_in_place(target.fileName(), file))) {
         return {};
     }
-    return target.errorString();
+    const int error = errno;
+    if (error == 0) return target.errorString();
+    const std::filesystem::path place(QFile::encodeName(file).toStdString());
+    return QString::fromStdString(to_utf8(why_not_written(error, place.parent_path())));
 }
 
 void save_whole(const QString& file, const QByteArray& content, QWidget* above) {
