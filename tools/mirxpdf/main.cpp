@@ -1,6 +1,7 @@
 #include <CLI/CLI.hpp>
 #include <QApplication>
 #include <QDesktopServices>
+#include <QLoggingCategory>
 #include <QUrl>
 #include <cstdlib>
 #include <iostream>
@@ -87,6 +88,9 @@ int main(int count, char** arguments) {
     if (request && !given.drive.empty()) print_file = suite.read_whole(request->print_file);
 
     choose_platform(given.no_window || is_notice);
+    // Who started this shows what it writes here to a person, for whom the toolkit's remarks are
+    // none.
+    QLoggingCategory::setFilterRules("*.warning=false");
     int toolkit_count = 1;
     QApplication application(toolkit_count, arguments);
     QApplication::setOrganizationName("Vantora");
