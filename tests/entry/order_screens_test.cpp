@@ -171,6 +171,16 @@ TEST(mirorcz, NewLinesOfAMovedOrderAreThoseOfItsNewCustomer) {
     EXPECT_TRUE(at.programs.take_started().at(0).ends_with("orc20.pdf,verdi@example.it"));
 }
 
+TEST(mirorcz, APastedLineHasLeftNothingOfTheOneThatItPushesDown) {
+    edited_company company;
+    company.change_row(2, 200, [](rec_orc& last) { last.um = ""; });
+    order_station at(company);
+    mirorcz& screen = at.open(2);
+    at.desk.dispatch([&] { screen.artic[0].on_paste_lines({"A2;4\n", true}, {}); });
+    EXPECT_EQ(screen.artic[0].text() + " " + screen.evaso[0].text(), "A2 ");
+    EXPECT_EQ(screen.artic[1].text() + " " + screen.evaso[1].text(), "A1 2");
+}
+
 TEST(mirorcz, AnOrderIsFoundAgainAsItWasLeft) {
     edited_company company;
     order_station at(company);
