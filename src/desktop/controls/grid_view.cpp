@@ -65,7 +65,9 @@ class column_heads final : public QHeaderView {
 
  protected:
     void paintSection(QPainter* painter, const QRect& area, int column) const override {
+        painter->save();  // it leaves a clip behind
         QHeaderView::paintSection(painter, area, column);
+        painter->restore();
         if (column != sorted_) return;
         const bool right =
             (model()->headerData(column, orientation(), Qt::TextAlignmentRole).toInt() &
