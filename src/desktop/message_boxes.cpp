@@ -1,5 +1,7 @@
 #include "desktop/message_boxes.h"
 
+#include <QApplication>
+#include <QElapsedTimer>
 #include <QKeyEvent>
 #include <QMessageBox>
 #include <QPushButton>
@@ -52,9 +54,11 @@ std::vector<box_button> buttons_of(const message_box& box) {
 }
 
 /// A bar code that is read while a box is open doesn't answer it by its Enter: the box shows it.
+/// Nor does a letter choose that was typed before the choices could be seen.
 class read_meanwhile final : public QObject {
  public:
-    explicit read_meanwhile(QMessageBox& box) : QObject(&box), box_(box) {
+    read_meanwhile(QMessageBox& box, bool choices) : QObject(&box), box_(box), choices_(choices) {
+        since_.start();
         box.installEventFilter(this);
         for (QAbstractButton* one : box.buttons()) one->installEventFilter(this);
     }
@@ -72,6 +76,10 @@ class read_meanwhile final : public QObject {
             return true;
         }
         const QString typed = key.text();
+        if (choices_ && !typed.isEmpty() && typed[0].isLetter() &&
+            since_.elapsed() < QApplication::doubleClickInterval()) {
+            return true;
+        }
         if (typed.size() != 1 || !typed[0].isDigit()) return false;
         read_ += typed;
         open_ = true;
@@ -80,6 +88,8 @@ class read_meanwhile final : public QObject {
 
  private:
     QMessageBox& box_;
+    bool choices_;
+    QElapsedTimer since_;
     QString read_;
     bool open_ = false;  ///< digits came, and no Enter behind them yet
 };
@@ -99,7 +109,7 @@ void message_boxes::open(const message_box& box, QWidget* above, std::function<v
         }
         shown->setEscapeButton(button);  // the last one stays
     }
-    new read_meanwhile(*shown);
+    new read_meanwhile(*shown, box.buttons == buttons::choice);
     dress_box(*shown, box.icon);
     shown->setWindowModality(Qt::ApplicationModal);
     QObject::connect(shown, &QMessageBox::finished, shown, [shown, give = std::move(give)] {
