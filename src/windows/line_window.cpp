@@ -23,7 +23,7 @@ constexpr QSize lines_as_designed(1360, 720);
 constexpr int tallest_row = 4;          ///< lines of text
 constexpr int cell_margins = 16;        ///< dots, with the cursor's; the description needs the rest
 constexpr int widest_description = 80;  ///< characters
-constexpr int least_description = 225;  ///< dots
+constexpr int least_description = 208;  ///< dots
 constexpr int list_width = 355;         ///< dots, for codes and whole descriptions
 constexpr int frame_margin = 14;        ///< dots, as frames are drawn, with some room to spare
 
@@ -37,7 +37,7 @@ struct column {
 constexpr column columns[] = {
     {&line_grid::artic, "Articolo", 13, false},  // a bar code
     {&line_grid::ds, "Descrizione", 0, false},    {&line_grid::um, "U.m.", 3, false},
-    {&line_grid::quantita, "Quantità", 10, true}, {&line_grid::evaso, "Evaso", 10, true},
+    {&line_grid::quantita, "Quantità", 10, true}, {&line_grid::evaso, "Evaso", 7, true},
     {&line_grid::sc1, "Sconti", 4, true},         {&line_grid::sc2, "", 4, true},
     {&line_grid::prezzo, "Prezzo", 11, true},     {&line_grid::civ, "Iva", 2, false},
 };
@@ -281,7 +281,7 @@ QHBoxLayout* foot_line(form_window& window, line_grid& screen) {
         QLabel* total = window.widget(screen.label_of(which));
         set_look(total, "role", "total");
         total->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        total->setFixedWidth(172);
+        total->setFixedWidth(150);
         total->setProperty("plain_number", which == totale_mostrato::pezzi);
         auto* column = new QVBoxLayout;
         column->setSpacing(2);
