@@ -72,14 +72,6 @@ TEST(demo_company, CodesEndInTheirCheckDigits) {
     EXPECT_EQ(demo::codice_fiscale("RSSMRA85T10A562"), "RSSMRA85T10A562S");
 }
 
-TEST(demo_company, SeedAloneDecidesTheArchives) {
-    auto request = small_company;
-    const auto first = files_under(demo_folder(request).drive());
-    EXPECT_TRUE(first == files_under(demo_folder(request).drive()));
-    request.seed = 6;
-    EXPECT_FALSE(first == files_under(demo_folder(request).drive()));
-}
-
 TEST(demo_company, WhatIsThereStays) {
     for (const char* spelling : {"mirwin/mirwin/miraz0.007", "MIRWIN/Mirwin/MIRAZ0.007"}) {
         const scratch_folder drive;

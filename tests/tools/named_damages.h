@@ -91,12 +91,6 @@ doing quote_line(Field rec_prv::*field, Value value) {
     };
 }
 
-inline doing both(doing one, doing other) {
-    return [=](const demo_folder& c) {
-        one(c);
-        other(c);
-    };
-}
 inline doing missing(const char* extension) {
     return [=](const demo_folder& c) { std::filesystem::remove(c.file(extension)); };
 }
@@ -111,21 +105,12 @@ inline doing cut(const char* extension, int bytes) {
                                      static_cast<std::uintmax_t>(length - bytes));
     };
 }
-inline doing zeroed(const char* extension) {
-    return [=](const demo_folder& c) {
-        std::string bytes = bytes_of(c.file(extension));
-        const auto block =
-            extension == std::string("orc") ? open_block(c) : one_to(bytes.size() / block_bytes);
-        const auto at = static_cast<std::size_t>(block - 1) * block_bytes;
-        bytes.replace(at, block_bytes, block_bytes, '\0');
-        put(c.file(extension), bytes);
-    };
-}
 /// Block 21 is some open order once more, then changed.
-inline doing copied_behind(const std::function<void(rec_orc&)>& by) {
+inline doing copied_behind(const std::function<void(rec_orc&)>& by, int counted = 20) {
     return [=](const demo_folder& c) {
         copy_block(c, static_cast<std::size_t>(open_block(c)), 21);
         whole<rec_orc>(c, "orc", 21, by);
+        count(contatori::ordini, counted)(c);
     };
 }
 /// A line of a text file reads otherwise.
@@ -200,10 +185,7 @@ inline const damage damages[] = {
     {"a deleted order behind it", "", copied_behind([](auto& row) { row.annullato = i1; })},
     {"customers counted too low", "counter-wrong", count(contatori::clienti, 9)},
     {"articles counted too high", "counter-wrong", count(contatori::articoli, 3000)},
-    {"documents counted below 0", "counter-negative", count(contatori::documenti_trasporto, -5)},
-    {"quotes counted below 0", "counter-negative", count(contatori::preventivi, -5)},
     {"quotes counted too low", "quotes-behind", count(contatori::preventivi, 0)},
-    {"quotes counted too high", "file-short", count(contatori::preventivi, 30)},
     {"movements counted too high", "file-short", count(contatori::magazzino, 30000)},
     {"movements behind", "records-behind", cut("mag", -2 * int{sizeof(rec_mag)})},
     {"documents behind", "records-behind", cut("bol", -int{sizeof(rec_bol)})},
@@ -226,11 +208,11 @@ inline const damage damages[] = {
      [](auto& c) { put(c.file("orc").replace_filename("VANTORA.Orc"), ""); }},
     {"a repair interrupted", "repair-unfinished", holds("riparazione-counters", "")},
     // Orders as a whole
-    {"an order doubled", "order-doubled",
-     both(copied_behind([](auto&) {}), count(contatori::ordini, 21))},
+    {"an order doubled", "order-doubled", copied_behind([](auto&) {}, 21)},
     {"an order twice with a difference", "order-twice-changed order-number-twice",
-     both(copied_behind([](auto& row) { row.prezzo = 7; }), count(contatori::ordini, 21))},
-    {"an order lost", "order-lost", zeroed("orc")},
+     copied_behind([](auto& row) { row.prezzo = 7; }, 21)},
+    {"an order lost", "order-lost",
+     [](auto& c) { whole<rec_orc>(c, "orc", open_block(c), [](auto& row) { row = {}; }); }},
     {"an order mixed", "order-mixed", mixed},
     {"an order half deleted", "order-half-deleted", half_deleted},
     {"bytes lost in the middle", "file-short orders-shifted", bytes_lost},
@@ -251,18 +233,17 @@ inline const damage damages[] = {
     {"no price", "line-no-number", line(&rec_orc::prezzo, nan)},
     {"quantity beyond reason", "line-absurd", line(&rec_orc::quantita, 1e300)},
     {"nothing known of what left", "line-no-number", line(&rec_orc::evaso, nan)},
-    {"what left beyond reason", "line-absurd", line(&rec_orc::evaso, 1e12)},
     {"more fulfilled than ordered", "line-fulfilled-beyond ordered-quantity-odd",
      line(&rec_orc::evaso, 5000.0)},
     {"fulfilled below 0", "line-fulfilled-backwards ordered-quantity-odd",
      line(&rec_orc::evaso, -3.0)},
     {"no VAT code", "line-vat-code", line(&rec_orc::iva, i25)},
-    {"VAT code below 0", "line-vat-code", line(&rec_orc::iva, minus)},
     {"discount", "line-discount", line(&rec_orc::sc2, i101)},
     {"a terminal's command", "line-text", line(&rec_orc::descrizione, "\x1B[2J")},
     // Quotes
     {"a quote doubled", "quote-doubled", quote_doubled},
-    {"a quote lost", "quote-lost", zeroed("prv")},
+    {"a quote lost", "quote-lost",
+     [](auto& c) { whole<rec_prv>(c, "prv", 2, [](auto& row) { row = {}; }); }},
     {"a quote mixed", "quote-mixed", quote_line(&rec_prv::numero, "77")},
     {"quote of no customer", "quote-no-customer", quote(&rec_prv::cliente, gone)},
     {"quote of no date", "quote-date", quote(&rec_prv::data, "20240230")},
@@ -278,7 +259,6 @@ inline const damage damages[] = {
     {"committed below 0", "committed-negative", any("art", &rec_art::impegnato, -1.0)},
     {"stock is no number", "figure-no-number", any("art", &rec_art::giacenza, nan)},
     {"stock beyond reason", "figure-absurd", any("art", &rec_art::giacenza, -1e13)},
-    {"price beyond reason", "figure-absurd", any("art", &rec_art::prezzo1, 1e13)},
     {"unloaded without movement", "movement-missing", [](auto& c) { more_unloaded(c, 1); }},
     {"moved without unloading", "movement-too-many", [](auto& c) { more_unloaded(c, -1); }},
     {"VAT code of an article", "article-vat-code", any("art", &rec_art::iva, i25)},
