@@ -88,7 +88,7 @@ int run(int count, int rounds) {
         compare(what, rounds, work, "one reading of all blocks", read_blocks);
     };
     const auto goes_on = [](int, int) { return true; };
-    measure("prices of an article", [&] { cerca_prezzi(files, 17, 4, 500, goes_on); });
+    measure("prices of an article", [&] { find_prices(files, 17, 4, 500, goes_on); });
     for (const char* wanted : {"non c'è", "tubo-17", "barre"}) {
         int found = 0;
         const std::string what = std::string("search for ") + wanted;
@@ -99,7 +99,7 @@ int run(int count, int rounds) {
         });
     }
     const valuta euro;
-    measure("figures of the company", [&] { conta_azienda(files, euro, {2024, 11, 26}, goes_on); });
+    measure("figures of the company", [&] { count_company(files, euro, {2024, 11, 26}, goes_on); });
     return 0;
 }
 

@@ -55,7 +55,7 @@ std::string print_file(int pages) {
 }
 
 qsizetype by_mirxpdf(const std::string& content) {
-    const auto read = leggi_file_di_stampa(content);
+    const auto read = read_print_file(content);
     drive files(".");
     ui::pixbuf_decoder decoder;
     figure_documento pictures(files, decoder);

@@ -38,7 +38,7 @@ class unflushed_file final : public file {
 template <class Record>
 channel<Record> unflushed(file_port& files, std::string_view extension) {
     return channel<Record>(
-        std::make_unique<unflushed_file>(files.open_records(file_azienda(1, extension))));
+        std::make_unique<unflushed_file>(files.open_records(company_path(1, extension))));
 }
 
 righe_ordine full_order(const channel<rec_art>& articles) {

@@ -128,7 +128,7 @@ void write_archive(archivi& files, int count, int lines) {
 
 struct lists_bench {
     channel<rec_orc> orders(std::map<std::int64_t, std::size_t>* looked_at) {
-        auto real = stage.files.open_records(file_azienda(1, "orc"));
+        auto real = stage.files.open_records(company_path(1, "orc"));
         if (!looked_at) return channel<rec_orc>(std::move(real));
         return channel<rec_orc>(std::make_shared<watched_file>(std::move(real), *looked_at));
     }

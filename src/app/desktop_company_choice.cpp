@@ -45,7 +45,7 @@ std::optional<int> company_in(std::string name) {
 
 std::string heading_of(file_port& files, int number) {
     std::string heading;
-    text_reader(files.read_whole(file_azienda(number, "int")).value_or("")).line(heading);
+    text_reader(files.read_whole(company_path(number, "int")).value_or("")).line(heading);
     return heading;
 }
 
@@ -104,7 +104,7 @@ drive_found drive_around(const fs::path& named) {
 }
 
 QString title_of_company(file_port& files, std::string_view argument) {
-    const int company = numero_azienda_in(argument);
+    const int company = company_number_in(argument);
     const QString number = QString("ditta %1").arg(company, 3, 10, QChar('0'));
     const QString heading = ui::to_qt(heading_of(files, company)).simplified();
     return heading.isEmpty() ? number : heading + " (" + number + ")";
@@ -178,7 +178,7 @@ void company_choice::done(int how) {
 
 std::string company_choice::argument() const {
     const int number = companies_->currentItem()->data(Qt::UserRole).toInt();
-    const std::string folder = cartella_azienda(number);
+    const std::string folder = folder_of_company(number);
     return "ordini" + folder.substr(folder.size() - 3);
 }
 

@@ -103,7 +103,7 @@ QStringList facts_of(const vantora::program_options& options,
                      const vantora::ui::desktop::system_launcher& programs) {
     const auto pdf = programs.copy_of(std::string(vantora::cartella_generale) + "mirxpdf");
     QStringList lines{"Disco della suite: " + QString::fromStdString(options.drive),
-                      "Ditta: " + QString::number(vantora::numero_azienda_in(options.argument)),
+                      "Ditta: " + QString::number(vantora::company_number_in(options.argument)),
                       "PDF: " + QString::fromStdString(pdf.file.string())};
     if (!pdf.why_not_suite.empty()) {
         lines.back() += " (" + QString::fromStdString(pdf.why_not_suite) + ")";

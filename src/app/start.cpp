@@ -67,13 +67,13 @@ void start(program& app, std::string_view argument) {
         chiudi_archivi(app.archives);
     };
     watch_stations(app.archives, app.desk);
-    app.parameters.numero_azienda = numero_azienda_in(argument);
+    app.parameters.numero_azienda = company_number_in(argument);
     if (app.book) {
         app.book->watch(app.archives, app.parameters.numero_azienda,
                         [&app] { return app.desk.clock().now(); });
     }
     app.mirorc->show();
-    offri_bozze(app);
+    offer_drafts(app);
 }
 
 }  // namespace vantora

@@ -98,7 +98,7 @@ std::string compare_all(file_port& to, const std::string& folder,
 /// The counters file alone: what the lock lies on.
 archivi lock_file(file_port& files, int numero_azienda) {
     archivi opened;
-    const std::string tot = file_azienda(numero_azienda, "tot");
+    const std::string tot = company_path(numero_azienda, "tot");
     if (files.exists(tot)) opened.tot = channel<rec_tot>(files.open_records(tot), "vantora.tot");
     return opened;
 }
@@ -116,7 +116,7 @@ std::string copy_consistently(file_port& from, archivi tot, int numero_azienda, 
                               std::string& into, copy_pace& pace) {
     constexpr int attempts_max = 3;
     const fs::path root = from.locate("\\");
-    const fs::path company = from.locate(cartella_azienda(numero_azienda));
+    const fs::path company = from.locate(folder_of_company(numero_azienda));
     for (int attempt = 1; attempt <= attempts_max; ++attempt) {
         const archive_change alone(tot);
         if (alone.others_at_work()) return at_work(tot);
@@ -139,7 +139,7 @@ std::optional<std::string> target_of(const std::string& path, int numero_azienda
     const std::size_t end = path.find('/', general);
     if (end == std::string::npos) return path;
     const std::string folder = upper(path.substr(general, end - general));
-    const std::string own = cartella_azienda(numero_azienda);
+    const std::string own = folder_of_company(numero_azienda);
     if (folder != upper(own.substr(own.rfind('\\') + 1))) return {};
     return into + "/" + new_company + path.substr(end);
 }
@@ -245,7 +245,7 @@ copy_outcome checked_copy(const fs::path& copy, file_port& files, const copy_pro
 
 copy_outcome put_back(const copy_outcome& copy, file_port& from, int numero_azienda, file_port& to,
                       const std::string& former, const copy_progress& tell) try {
-    const fs::path place = to.locate(cartella_azienda(numero_azienda));
+    const fs::path place = to.locate(folder_of_company(numero_azienda));
     fs::create_directories(place.parent_path());
     const staging made(place);
     if (made.folder().empty()) return failed("accanto alla ditta non si può scrivere"_cp);

@@ -65,7 +65,7 @@ void customer_head::wire_events() {
 }
 
 void customer_head::load() {
-    const tabella_suite table = leggi_tabella_suite(app_.files, app_.parameters.numero_azienda);
+    const tabella_suite table = read_suite_table(app_.files, app_.parameters.numero_azienda);
     vettori_ = table.vettori;
     std::vector<std::string> names;
     for (const vettore& carrier : vettori_) names.push_back(carrier[0]);
@@ -112,7 +112,7 @@ std::int16_t customer_head::position_of(std::int16_t customer) const {
         if (entry.numero == customer) found = position;
         return found == 0;
     };
-    percorri_indice(app_.archives.src, contatore_.quanti, visit);
+    walk_index(app_.archives.src, contatore_.quanti, visit);
     return found;
 }
 
@@ -182,7 +182,7 @@ void customer_head::search_by_hand() {
 
 void customer_head::search() {
     app_.archives.tot.read(contatori::clienti, contatore_);
-    const std::int16_t found = cerca_nominativo(app_.archives.src, contatore_.quanti, nome.text());
+    const std::int16_t found = find_customer(app_.archives.src, contatore_.quanti, nome.text());
     if (found > 0) {
         chosen_ = true;
         found_at(found);

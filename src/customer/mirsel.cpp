@@ -96,7 +96,7 @@ void mirsel::list_customers(list_rows& list) {
         }
         return !list.full();
     };
-    percorri_indice(app_.archives.src, counter.quanti, visit);
+    walk_index(app_.archives.src, counter.quanti, visit);
 }
 
 void mirsel::list_customer(list_rows& list, const row_content& customer, std::int16_t number) {

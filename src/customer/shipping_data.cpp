@@ -9,7 +9,7 @@ int scelta(const text<40>& testo3, scelta_testata which) {
     return digit >= '0' && digit <= '9' ? digit - '0' : 0;
 }
 
-std::string scelte_registrate(const customer_head& head, int prezzo) {
+std::string stored_choices(const customer_head& head, int prezzo) {
     std::string packed;
     for (const int list :
          {customer_head::porto, customer_head::trasporto, customer_head::pagamento}) {
@@ -18,7 +18,7 @@ std::string scelte_registrate(const customer_head& head, int prezzo) {
     return packed + std::to_string(prezzo);
 }
 
-bool mostra_spedizione(customer_head& head, int number, const rec_orc& row) {
+bool show_shipping(customer_head& head, int number, const rec_orc& row) {
     const auto show = [&head](std::size_t field, const text<40>& stored) {
         head.Text2[field].set_text(stored.trimmed());
     };

@@ -25,11 +25,11 @@ int scelta(const text<40>& testo3, scelta_testata which);
 
 /// The choices of a head for `testo3`. `prezzo`: which of the article's prices is on, 0 or 1; 2 for
 /// none. A list's entry of two digits takes the place of the next one's, which readers live with.
-std::string scelte_registrate(const customer_head& head, int prezzo);
+std::string stored_choices(const customer_head& head, int prezzo);
 
 /// Shows on a head what row `number` of an order's block stores: destination (2), its place, port
 /// and transport (3), carrier (4); other rows hold nothing of the kind. False if a choice isn't in
 /// its list, which then stays as it is.
-bool mostra_spedizione(customer_head& head, int number, const rec_orc& row);
+bool show_shipping(customer_head& head, int number, const rec_orc& row);
 
 }  // namespace vantora

@@ -42,7 +42,7 @@ int last_line_with_description(righe_ordine& lines) {
 
 }  // namespace
 
-paginazione impagina(const forma_documento& shape, const tabelle_documento& tables,
+paginazione paginate(const forma_documento& shape, const tabelle_documento& tables,
                      righe_ordine& lines) {
     const int last_line = last_line_with_description(lines);
     const double height = std::abs(first_three(row_of(tables, shape.riga_alto)) -
@@ -56,9 +56,9 @@ paginazione impagina(const forma_documento& shape, const tabelle_documento& tabl
     return pages;
 }
 
-void componi_pagine(const documento_da_stampare& document, const paginazione& pages,
-                    document_output& out, const std::function<void()>& draw_background) {
-    const forma_documento& shape = forma_di(document.tipo);
+void compose_pages(const documento_da_stampare& document, const paginazione& pages,
+                   document_output& out, const std::function<void()>& draw_background) {
+    const forma_documento& shape = document_form(document.tipo);
     const tabelle_documento& tables = document.tabelle;
     const contenuto_documento content(document);
     const bool has_background = number_at_head(tables.tabella_layout[riga_sfondo].posizione) == 1;

@@ -16,12 +16,12 @@ struct paginazione {
 
 /// Counts the pages up to the last line with a description; none has no page. The descriptions from
 /// the last line up to that one lose what may not go on a document.
-paginazione impagina(const forma_documento& shape, const tabelle_documento& tables,
+paginazione paginate(const forma_documento& shape, const tabelle_documento& tables,
                      righe_ordine& lines);
 
 /// Composes all pages in one pass, each with its background if the layout wants one, the fields
 /// around it and its lines. The frame is the same on every page. Line 200 has no place.
-void componi_pagine(const documento_da_stampare& document, const paginazione& pages,
-                    document_output& out, const std::function<void()>& draw_background);
+void compose_pages(const documento_da_stampare& document, const paginazione& pages,
+                   document_output& out, const std::function<void()>& draw_background);
 
 }  // namespace vantora

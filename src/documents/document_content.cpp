@@ -48,7 +48,7 @@ double gross(const riga_ordine& line, const valuta& currency) {
 }
 
 double net(double gross, const riga_ordine& line, const valuta& currency) {
-    return arrotonda_valuta(importo_scontato(gross, line.sc1, line.sc2, currency), currency);
+    return arrotonda_valuta(discounted_amount(gross, line.sc1, line.sc2, currency), currency);
 }
 
 }  // namespace

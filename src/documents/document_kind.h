@@ -16,7 +16,7 @@ struct nomi_documento {
     const char* titolo_stampa;      ///< over the questions while it is printed
 };
 
-constexpr nomi_documento nomi_di(tipo_documento kind) {
+constexpr nomi_documento names_of_kind(tipo_documento kind) {
     if (kind == tipo_documento::ordine) return {"lyo", "lko", "lxo", "orc", "Stampa ordine"};
     return {"lyb", "lkb", "lxb", "bll", "Stampa documento di trasporto"};
 }

@@ -21,7 +21,7 @@ std::size_t points_of(const ui::bitmap& image) {
 
 }  // namespace
 
-std::string nomi_di_figure(const std::vector<std::string>& files) {
+std::string picture_names(const std::vector<std::string>& files) {
     constexpr std::size_t named_max = 5;
     std::string names;
     for (std::size_t i = 0; i < std::min(files.size(), named_max); ++i) {

@@ -22,7 +22,7 @@ inline constexpr std::size_t punti_per_documento = 8'000'000;    ///< of differe
 inline constexpr std::size_t lettura_per_documento = 2 * punti_per_documento;
 
 /// The first few of the files for a message, their ends.
-std::string nomi_di_figure(const std::vector<std::string>& files);
+std::string picture_names(const std::vector<std::string>& files);
 
 /// The pictures of one document. Each file is read once; one that holds no picture leaves the one
 /// before in its place. What is too large, or too much for a page or a document, is left out and

@@ -85,7 +85,7 @@ constexpr forma_documento forma_trasporto{campi_trasporto, 51, 52, 53, colonne_t
 
 }  // namespace
 
-const forma_documento& forma_di(tipo_documento kind) {
+const forma_documento& document_form(tipo_documento kind) {
     return kind == tipo_documento::ordine ? forma_ordine : forma_trasporto;
 }
 

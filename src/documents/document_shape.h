@@ -60,6 +60,6 @@ struct forma_documento {
     bool pagine_di_una_riga;
 };
 
-const forma_documento& forma_di(tipo_documento kind);
+const forma_documento& document_form(tipo_documento kind);
 
 }  // namespace vantora

@@ -10,7 +10,7 @@ namespace {
 /// A file of the company; one that is missing is empty.
 struct company_file {
     company_file(file_port& files, int numero_azienda, std::string_view extension) {
-        const std::string path = file_azienda(numero_azienda, extension);
+        const std::string path = company_path(numero_azienda, extension);
         auto read = files.read_whole(path);
         unreadable = !read && files.exists(path);
         content = std::move(read).value_or("");
@@ -64,16 +64,16 @@ void carica_documento(tabelle_documento& into, tipo_documento kind, parametri& p
         read_text(heading, into.testi_intestazione[i]);
     }
     content_of("tab");
-    into.iva = leggi_tabella_suite(files, company).iva;
-    if (!read_layout(into.tabella_layout, text_reader(content_of(nomi_di(kind).layout)))) {
+    into.iva = read_suite_table(files, company).iva;
+    if (!read_layout(into.tabella_layout, text_reader(content_of(names_of_kind(kind).layout)))) {
         empty_layout(into.tabella_layout);
     }
     content_of("pdf");
-    carica_pdf(into.pdf, kind, parameters, files);
+    load_pdf_settings(into.pdf, kind, parameters, files);
 }
 
 void carica_disegno(disegno& into, tipo_documento kind, int numero_azienda, file_port& files) {
-    company_file file(files, numero_azienda, nomi_di(kind).disegno);
+    company_file file(files, numero_azienda, names_of_kind(kind).disegno);
     into.illeggibile = file.unreadable;
     text_reader reader(std::move(file.content));
     if (!reader.item(into.elementi)) return;

@@ -13,7 +13,7 @@ constexpr std::size_t colonna_argomento = 3;  ///< of a row of the PDF table
 
 }  // namespace
 
-std::string comando_mirxpdf(std::string_view layout, std::string_view pdf,
+std::string mirxpdf_command(std::string_view layout, std::string_view pdf,
                             std::string_view addressee) {
     std::string command(cartella_generale);
     command.append("mirxpdf ").append(layout).append(",").append(file_di_stampa);
@@ -38,8 +38,8 @@ bool has_print_file(const program& app, const documento_stampato& document) {
 
 }  // namespace
 
-std::string comando_pdf(const parametri& parameters, const documento_stampato& document) {
-    const nomi_documento names = nomi_di(document.tipo);
+std::string command_for_pdf(const parametri& parameters, const documento_stampato& document) {
+    const nomi_documento names = names_of_kind(document.tipo);
     std::string pdf(trimmed(parameters.parametri_valuta[valuta_slot::cartella_pdf]));
     pdf.append("\\").append(names.prefisso_pdf);
     pdf.append(plain_text(number_at_head(document.numero))).append(".pdf");
@@ -47,7 +47,7 @@ std::string comando_pdf(const parametri& parameters, const documento_stampato& d
     const auto& row = document.tabelle.pdf[static_cast<std::size_t>(document.tipo)];
     const std::string_view extra = trimmed(row[colonna_argomento]);
     if (!extra.empty()) addressee.append(",").append(extra);
-    return comando_mirxpdf(file_azienda(parameters.numero_azienda, names.layout_pdf), pdf,
+    return mirxpdf_command(company_path(parameters.numero_azienda, names.layout_pdf), pdf,
                            addressee);
 }
 
@@ -57,7 +57,8 @@ void offri_pdf(program& app, const documento_stampato& document) {
     if (!app.desk.ask(domanda, ui::attention)) return;
     if (document.invia && trimmed(document.email).empty()) tell_of_no_address(app);
     const bool own = has_print_file(app, document);
-    const bool started = own && app.desk.launcher().start(comando_pdf(app.parameters, document));
+    const bool started =
+        own && app.desk.launcher().start(command_for_pdf(app.parameters, document));
     app.desk.set_pointer(ui::pointer::normal);
     if (started) return;
     app.desk.message(

@@ -24,11 +24,11 @@ struct documento_stampato {
 
 /// The command line of `mirxpdf`: a document's form or "***", the PDF to make of what the print
 /// file holds, and where it is sent or "***", with further arguments behind a comma.
-std::string comando_mirxpdf(std::string_view layout, std::string_view pdf,
+std::string mirxpdf_command(std::string_view layout, std::string_view pdf,
                             std::string_view addressee);
 
 /// The command line that has `mirxpdf` make the PDF of what the print file holds.
-std::string comando_pdf(const parametri& parameters, const documento_stampato& document);
+std::string command_for_pdf(const parametri& parameters, const documento_stampato& document);
 
 /// Asks whether to make the PDF of the document just printed, and to send it; on yes starts
 /// `mirxpdf` and goes on. A print file that another print has taken the place of is written anew.

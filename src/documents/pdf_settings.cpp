@@ -6,8 +6,9 @@
 
 namespace vantora {
 
-void carica_pdf(tabella_pdf& into, tipo_documento kind, parametri& parameters, file_port& files) {
-    const std::string path = file_azienda(parameters.numero_azienda, "pdf");
+void load_pdf_settings(tabella_pdf& into, tipo_documento kind, parametri& parameters,
+                       file_port& files) {
+    const std::string path = company_path(parameters.numero_azienda, "pdf");
     text_reader lines(files.read_whole(path).value_or(""));
     for (std::size_t row = 1; row < into.size(); ++row) {
         for (auto& column : into[row]) lines.line(column);

@@ -17,6 +17,7 @@ using tabella_pdf = std::array<voce_pdf, 21>;
 /// Reads "vantora.pdf" of the company and puts the row of `kind` into the PDF slots of
 /// `parametri_valuta`; the folder is "C:" where the file names none. Reports are made as orders
 /// are. What is missing stays as it was.
-void carica_pdf(tabella_pdf& into, tipo_documento kind, parametri& parameters, file_port& files);
+void load_pdf_settings(tabella_pdf& into, tipo_documento kind, parametri& parameters,
+                       file_port& files);
 
 }  // namespace vantora

@@ -126,7 +126,7 @@ class reader {
 
 }  // namespace
 
-std::variant<documento_di_stampa, errore_di_stampa> leggi_file_di_stampa(std::string_view content) {
+std::variant<documento_di_stampa, errore_di_stampa> read_print_file(std::string_view content) {
     reader in(content);
     documento_di_stampa document;
     document.orizzontale = in.mark();

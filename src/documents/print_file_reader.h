@@ -36,6 +36,6 @@ struct documento_di_stampa {
 /// lose a document: a number too large is brought into its range, a record with an unreadable one
 /// or of no kind is passed over. Without its mark, cut off, or with more odd records than others it
 /// is no print file: that gives the first error and no page.
-std::variant<documento_di_stampa, errore_di_stampa> leggi_file_di_stampa(std::string_view content);
+std::variant<documento_di_stampa, errore_di_stampa> read_print_file(std::string_view content);
 
 }  // namespace vantora

@@ -45,13 +45,12 @@ enum class esito_stampa {
 
 /// Puts the document on paper and into the print file, page by page, by the company's layout. It is
 /// out even if it had no page; a printer or a file that fails is passed over.
-esito_stampa componi_documento(program& app, const documento_da_stampare& document,
-                               ui::printer& paper);
+esito_stampa compose_document(program& app, const documento_da_stampare& document,
+                              ui::printer& paper);
 
 /// The same into the print file alone, which then holds what is returned; nothing if it isn't all
 /// of the document.
-std::optional<std::string> scrivi_file_di_stampa(program& app,
-                                                 const documento_da_stampare& document);
+std::optional<std::string> put_print_file(program& app, const documento_da_stampare& document);
 
 /// Asks whether to begin; on yes puts the document on the printer and into the print file, page by
 /// page, by the company's layout. It is out even if it had no page; a printer or a file that fails
@@ -60,6 +59,6 @@ esito_stampa stampa_documento(program& app, const documento_da_stampare& documen
 
 /// Prints as many copies as the user wants, and offers a PDF of what came out. `invia`: the PDF is
 /// to be sent to the customer by e-mail.
-void offri_copie(program& app, const documento_da_stampare& document, bool invia);
+void offer_copies(program& app, const documento_da_stampare& document, bool invia);
 
 }  // namespace vantora

@@ -6,7 +6,7 @@
 namespace vantora {
 
 /// How many records a counter says are in use; none if it can't be read or makes no sense.
-inline int in_uso(const archivi& files, int counter) {
+inline int records_in_use(const archivi& files, int counter) {
     rec_tot record;
     if (!files.tot.read(counter, record) || record.quanti < 0) return 0;
     return record.quanti;

@@ -54,7 +54,7 @@ void fill_order_head(documento_archiviato& document, const program& app,
         {campo_cliente::vettore3, &rows[4].testo3}};
     for (const auto& [field, text] : stored) head.text2[field] = text->trimmed();
     const auto chosen = [&](scelta_testata which) { return scelta(rows[3].testo3, which); };
-    const tabella_suite table = leggi_tabella_suite(app.files, app.parameters.numero_azienda);
+    const tabella_suite table = read_suite_table(app.files, app.parameters.numero_azienda);
     head.combo1 = {entry_of(voci_porto, chosen(scelta_testata::porto)),
                    entry_of(table.pagamenti, chosen(scelta_testata::pagamento)),
                    entry_of(voci_trasporto, chosen(scelta_testata::trasporto))};
@@ -67,7 +67,7 @@ bool wants_mail(const program& app, const rec_cli& customer) {
 
 }  // namespace
 
-documento_archiviato ordine_archiviato(const program& app, std::int16_t registrazione) {
+documento_archiviato archived_order(const program& app, std::int16_t registrazione) {
     documento_archiviato document;
     // A row that can't be read must not come out as the one before it.
     std::vector<rec_orc> whole(righe_blocco);
@@ -85,12 +85,12 @@ documento_archiviato ordine_archiviato(const program& app, std::int16_t registra
     for (int number = 1; number <= righe_ordine::massimo; ++number) {
         lines.read(rows[number], document.righe[number]);
     }
-    const tabella_suite table = leggi_tabella_suite(app.files, app.parameters.numero_azienda);
+    const tabella_suite table = read_suite_table(app.files, app.parameters.numero_azienda);
     document.iva = calcola_totali(document.righe, table.iva, valuta(app.parameters)).iva;
     return document;
 }
 
-documento_archiviato ddt_archiviato(const program& app, std::int16_t number) {
+documento_archiviato archived_transport_document(const program& app, std::int16_t number) {
     documento_archiviato document;
     document.tipo = tipo_documento::documento_trasporto;
     rec_bol record;
@@ -98,14 +98,14 @@ documento_archiviato ddt_archiviato(const program& app, std::int16_t number) {
         document.perche = "Il documento non si lascia leggere: "_cp + app.archives.bol.name();
         return document;
     }
-    const std::string name = nome_istantanea(record.progressivo);
-    const std::string file = cartella_azienda(app.parameters.numero_azienda) + "\\" + name;
+    const std::string name = snapshot_name(record.progressivo);
+    const std::string file = folder_of_company(app.parameters.numero_azienda) + "\\" + name;
     auto content = app.files.read_whole(file);
     if (!content) {
         document.perche = "Manca il file " + name + " con il contenuto del documento";
         return document;
     }
-    auto kept = leggi_istantanea(std::move(*content));
+    auto kept = read_snapshot(std::move(*content));
     if (!kept) {
         document.perche =
             "Il file "_cp + name + ", con il contenuto del documento, è danneggiato"_cp;
@@ -115,7 +115,7 @@ documento_archiviato ddt_archiviato(const program& app, std::int16_t number) {
     testata_documento& head = document.testata;
     head.text3 = kept->text3;
     for (const std::size_t i : campo_cliente::del_documento) head.text2[i] = kept->text2[i];
-    const tabella_suite table = leggi_tabella_suite(app.files, app.parameters.numero_azienda);
+    const tabella_suite table = read_suite_table(app.files, app.parameters.numero_azienda);
     head.combo1 = {entry_of(voci_porto, kept->porto), entry_of(table.causali, kept->causale),
                    entry_of(voci_trasporto, kept->trasporto)};
     head.combo2 = entry_of(table.aspetti, kept->aspetto);
@@ -123,7 +123,7 @@ documento_archiviato ddt_archiviato(const program& app, std::int16_t number) {
     return document;
 }
 
-void ristampa(program& app, documento_archiviato& document, uscita_ristampa where) {
+void reprint(program& app, documento_archiviato& document, uscita_ristampa where) {
     auto tables = std::make_unique<tabelle_documento>();
     auto drawing = std::make_unique<disegno>();
     carica_documento(*tables, document.tipo, app.parameters, app.files);
@@ -138,10 +138,10 @@ void ristampa(program& app, documento_archiviato& document, uscita_ristampa wher
     app.desk.printer().set_job_name((order ? "Ordine " : "DDT ") + std::string(number));
     if (where != uscita_ristampa::pdf) {
         if (where == uscita_ristampa::anteprima) app.desk.printer().preview_next_job();
-        componi_documento(app, printed, app.desk.printer());
+        compose_document(app, printed, app.desk.printer());
         return;
     }
-    const auto write = [&] { return scrivi_file_di_stampa(app, printed); };
+    const auto write = [&] { return put_print_file(app, printed); };
     offri_pdf(app, {document.tipo, document.testata.text3[campo_ordine::numero],
                     wants_mail(app, document.cliente), document.cliente.email.full(), *tables,
                     write(), write});

@@ -18,15 +18,15 @@ struct documento_archiviato {
 };
 
 /// An order from its block: what a save of it prints.
-documento_archiviato ordine_archiviato(const program& app, std::int16_t registrazione);
+documento_archiviato archived_order(const program& app, std::int16_t registrazione);
 
 /// The transport document of record `number` of "vantora.bol", from its text file.
-documento_archiviato ddt_archiviato(const program& app, std::int16_t number);
+documento_archiviato archived_transport_document(const program& app, std::int16_t number);
 
 enum class uscita_ristampa { anteprima, stampa, pdf };
 
 /// Puts the document out again by today's tables and layout. Nothing of the archive changes; the
 /// print file holds it afterwards. The e-mail of a PDF is offered as when the document was made.
-void ristampa(program& app, documento_archiviato& document, uscita_ristampa where);
+void reprint(program& app, documento_archiviato& document, uscita_ristampa where);
 
 }  // namespace vantora

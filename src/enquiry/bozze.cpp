@@ -31,14 +31,14 @@ const tipo_ricerca& tipo_bozze() {
 bozze::bozze(program& app) : enquiry_screen(app, tipo_bozze()) {}
 
 std::string bozze::fill(list_rows& list) {
-    found_ = bozze_in_attesa(app_);
+    found_ = waiting_drafts(app_);
     for (std::size_t i = 0; i < found_.size(); ++i) {
         const bozza& draft = found_[i].draft;
         list.next();
         list.write(cliente, draft.text2[campo_cliente::intestazione1]);
         list.write(ordine, draft.nuova ? "nuovo" : draft.visto.numero.trimmed());
         list.write(riferimento, draft.text3[campo_ordine::riferimento1]);
-        list.write(righe, std::to_string(ultima_riga_usata(draft.contenuto.lines)));
+        list.write(righe, std::to_string(last_used_line(draft.contenuto.lines)));
         if (const auto moment = read_clock(draft.salvata)) {
             list.write(tenuta_il, date_text(moment->day) + " " + time_text(*moment));
         }
@@ -52,7 +52,7 @@ std::string bozze::fill(list_rows& list) {
 void bozze::open_row(int row) {
     const std::string name = found_[place_of(row)].name;
     leave();
-    riprendi_bozza(app_, name);
+    resume_draft(app_, name);
 }
 
 void bozze::run_command(int command, int row) {
@@ -63,7 +63,7 @@ void bozze::run_command(int command, int row) {
 void bozze::give_up(int row) {
     const bozza_trovata& one = found_[place_of(row)];
     const std::string name = one.name;
-    if (!desk().guards().confirm("Abbandonare l'" + nome_bozza(one.draft) + " non salvato?"))
+    if (!desk().guards().confirm("Abbandonare l'" + draft_name(one.draft) + " non salvato?"))
         return;
     auto file = file_bozza::take(*app_.person, name);
     if (file) file->drop();
@@ -74,8 +74,8 @@ std::size_t bozze::place_of(int row) const {
     return static_cast<std::size_t>(number_at_head(elenco.text(row, posizione)));
 }
 
-int numero_bozze(const program& app) {
-    return static_cast<int>(bozze_in_attesa(app).size());
+int count_drafts(const program& app) {
+    return static_cast<int>(waiting_drafts(app).size());
 }
 
 }  // namespace vantora

@@ -25,6 +25,6 @@ class bozze final : public enquiry_screen {
 };
 
 /// How many drafts wait for the person.
-int numero_bozze(const program& app);
+int count_drafts(const program& app);
 
 }  // namespace vantora

@@ -106,10 +106,10 @@ class counting {
         : files_(files),
           currency_(currency),
           today_(today),
-          names_(files.cli, static_cast<std::int16_t>(in_uso(files, contatori::clienti))),
+          names_(files.cli, static_cast<std::int16_t>(records_in_use(files, contatori::clienti))),
           texts_(files.art),
-          customers_(static_cast<std::size_t>(in_uso(files, contatori::clienti)) + 1),
-          sold_(static_cast<std::size_t>(in_uso(files, contatori::articoli)) + 1),
+          customers_(static_cast<std::size_t>(records_in_use(files, contatori::clienti)) + 1),
+          sold_(static_cast<std::size_t>(records_in_use(files, contatori::articoli)) + 1),
           wanted_(sold_.size()) {}
 
     void add(const ordine_letto& order) {
@@ -163,7 +163,7 @@ class counting {
         return sums[place < sums.size() ? place : 0];
     }
     [[nodiscard]] double worth(const rec_orc& row, double quantity) const {
-        return valore_netto(row.prezzo, quantity, row.sc1, row.sc2, currency_);
+        return line_value(row.prezzo, quantity, row.sc1, row.sc2, currency_);
     }
 
     /// All months before those that are told apart.
@@ -175,12 +175,12 @@ class counting {
     }
 
     void count_movements() {
-        for_all(files_.mag, in_uso(files_, contatori::magazzino),
+        for_all(files_.mag, records_in_use(files_, contatori::magazzino),
                 [&](int number, const rec_mag& movement) {
                     const auto day = stored_day(movement.data);
                     const int ago = day ? month_of(today_) - month_of(*day) : -1;
                     if (ago < 0 || ago >= mesi_indietro) return;
-                    delivered_[month_of(*day)].add(valore_di(movement),
+                    delivered_[month_of(*day)].add(movement_value(movement),
                                                    static_cast<std::int16_t>(number));
                 });
     }
@@ -191,7 +191,7 @@ class counting {
                 [&](int number, const rec_art& article) {
                     const somma& wanted = at(wanted_, number);
                     if (wanted.dietro.empty()) return;
-                    at(missing, number) = {wanted.valore - scorta_di(article).in_magazzino,
+                    at(missing, number) = {wanted.valore - stock_of(article).in_magazzino,
                                            wanted.dietro};
                 });
         into = highest(missing, [this](std::int16_t number) { return texts_.of(number); });
@@ -212,11 +212,11 @@ class counting {
 
 }  // namespace
 
-double valore_di(const rec_mag& movement) {
+double movement_value(const rec_mag& movement) {
     return finite_or_zero(movement.quantita * movement.prezzo);
 }
 
-quadro_azienda conta_azienda(const archivi& files, const valuta& currency, const date& today,
+quadro_azienda count_company(const archivi& files, const valuta& currency, const date& today,
                              const std::function<bool(int, int)>& goes_on) {
     counting all(files, currency, today);
     order_walk orders(files);

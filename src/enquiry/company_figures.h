@@ -30,11 +30,11 @@ struct quadro_azienda {
 };
 
 /// What left the warehouse with a movement, at its price.
-double valore_di(const rec_mag& movement);
+double movement_value(const rec_mag& movement);
 
 /// Counts all orders in one pass over their blocks, and the movements and articles in one each.
 /// `goes_on(passed, of)` is asked behind each order; false ends it with what is counted so far.
-quadro_azienda conta_azienda(const archivi& files, const valuta& currency, const date& today,
+quadro_azienda count_company(const archivi& files, const valuta& currency, const date& today,
                              const std::function<bool(int, int)>& goes_on);
 
 }  // namespace vantora

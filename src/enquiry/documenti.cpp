@@ -35,30 +35,30 @@ documenti::documenti(program& app) : enquiry_screen(app, tipo_documenti()) {}
 
 // One read for every 256 documents and every 32 customers, and one of each document's text file.
 std::string documenti::fill(list_rows& list) {
-    const int count = in_uso(app_.archives, contatori::documenti_trasporto);
+    const int count = records_in_use(app_.archives, contatori::documenti_trasporto);
     std::vector<std::pair<int, rec_bol>> all;
     all.reserve(static_cast<std::size_t>(count));
     for_all(app_.archives.bol, count,
             [&](int number, const rec_bol& one) { all.emplace_back(number, one); });
-    customer_names names(app_.archives.cli,
-                         static_cast<std::int16_t>(in_uso(app_.archives, contatori::clienti)));
+    customer_names names(app_.archives.cli, static_cast<std::int16_t>(
+                                                records_in_use(app_.archives, contatori::clienti)));
     for (std::size_t i = all.size(); i-- > 0 && !list.full();) {
         const auto& [number, one] = all[i];
         list_document(list, one, number, names.of(one.cliente));
         list.come_to(static_cast<int>(all.size() - i), static_cast<int>(all.size()));
     }
-    return quanti_sono(list.in_use() - 1, "documento", "documenti");
+    return how_many(list.in_use() - 1, "documento", "documenti");
 }
 
 void documenti::list_document(list_rows& list, const rec_bol& one, int number,
                               std::string_view name) {
     const std::string file =
-        cartella_azienda(app_.parameters.numero_azienda) + "\\" + nome_istantanea(one.progressivo);
+        folder_of_company(app_.parameters.numero_azienda) + "\\" + snapshot_name(one.progressivo);
     list.next();
     list.write(numero, std::to_string(one.numero));
     list.write(data, date_text_of_stored(one.data.full()));
     list.write(cliente, name);
-    list.write(colli, colli_di(app_.files.read_head(file, byte_fino_ai_colli).value_or("")));
+    list.write(colli, parcels_text(app_.files.read_head(file, byte_fino_ai_colli).value_or("")));
     list.write(movimento, one.senza_scarico == 0 ? "scaricato" : "senza scarico");
     list.write(documento, std::to_string(number));
     list.write(data_stored, one.data.full());
@@ -70,7 +70,7 @@ void documenti::open_row(int row) {
 
 void documenti::run_command(int command, int row) {
     const auto number = to_int16(number_at_head(elenco.text(row, documento))).value_or(0);
-    auto found = ddt_archiviato(app_, number);
+    auto found = archived_transport_document(app_, number);
     if (!found.perche.empty()) {
         app_.desk.message(found.perche, ui::attention, ui::icon::stop);
         return;
@@ -78,7 +78,7 @@ void documenti::run_command(int command, int row) {
     const work printing(*this);
     constexpr uscita_ristampa outputs[] = {uscita_ristampa::anteprima, uscita_ristampa::stampa,
                                            uscita_ristampa::pdf};
-    ristampa(app_, found, outputs[command - anteprima]);
+    reprint(app_, found, outputs[command - anteprima]);
 }
 
 }  // namespace vantora

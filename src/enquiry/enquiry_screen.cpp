@@ -81,7 +81,7 @@ void enquiry_screen::command_clicked(int command) {
     if (in_use(elenco.row())) run_command(command, elenco.row());
 }
 
-std::string quanti_sono(int count, const char* one, const char* many) {
+std::string how_many(int count, const char* one, const char* many) {
     if (count == 0) return from_utf8(std::string("Nessun ") + one);
     return from_utf8(std::to_string(count) + " " + (count == 1 ? one : many));
 }

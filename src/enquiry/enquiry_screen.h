@@ -82,6 +82,6 @@ class enquiry_screen : public ui::form {
 };
 
 /// "12 documenti", or "Nessun documento" where there is none.
-std::string quanti_sono(int count, const char* one, const char* many);
+std::string how_many(int count, const char* one, const char* many);
 
 }  // namespace vantora

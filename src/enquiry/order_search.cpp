@@ -20,16 +20,18 @@ bool blank(const rec_orc& row) {
 order_search::order_search(const archivi& files, std::string_view wanted)
     : files_(files), wanted_(searchable(trimmed(wanted))) {
     if (wanted_.empty()) return;
-    customers_ = matching(files.cli, in_uso(files, contatori::clienti), [](const rec_cli& one) {
-        return std::string(one.intestazione1.full()).append(one.intestazione2.full());
-    });
-    articles_ = matching(files.art, in_uso(files, contatori::articoli), [](const rec_art& one) {
-        return std::string(one.codice.full())
-            .append(" ")
-            .append(one.codice_barre.full())
-            .append(" ")
-            .append(one.descrizione.full());
-    });
+    customers_ =
+        matching(files.cli, records_in_use(files, contatori::clienti), [](const rec_cli& one) {
+            return std::string(one.intestazione1.full()).append(one.intestazione2.full());
+        });
+    articles_ =
+        matching(files.art, records_in_use(files, contatori::articoli), [](const rec_art& one) {
+            return std::string(one.codice.full())
+                .append(" ")
+                .append(one.codice_barre.full())
+                .append(" ")
+                .append(one.descrizione.full());
+        });
 }
 
 template <class Record, class Texts>

@@ -25,7 +25,7 @@ void add_movement(std::vector<consegna>& all, const rec_mag& movement) {
 
 }  // namespace
 
-std::optional<storia_ordine> leggi_storia(const archivi& files, std::int16_t registrazione) {
+std::optional<storia_ordine> read_story(const archivi& files, std::int16_t registrazione) {
     storia_ordine story;
     story.righe.resize(static_cast<std::size_t>(righe_blocco));
     if (!files.orc.read_block(block_record(registrazione, 1), story.righe)) return {};
@@ -34,13 +34,14 @@ std::optional<storia_ordine> leggi_storia(const archivi& files, std::int16_t reg
     for (const rec_orc& row : story.righe) {
         if (row.articolo > 0) articles.insert(row.articolo);
     }
-    for_all(files.mag, in_uso(files, contatori::magazzino), [&](int, const rec_mag& movement) {
-        const bool its_own = movement.cliente == head.cliente &&
-                             movement.data_reg >= head.data_reg &&
-                             articles.contains(movement.articolo);
-        if (its_own) add_movement(story.consegne, movement);
-    });
-    for_all(files.bol, in_uso(files, contatori::documenti_trasporto),
+    for_all(files.mag, records_in_use(files, contatori::magazzino),
+            [&](int, const rec_mag& movement) {
+                const bool its_own = movement.cliente == head.cliente &&
+                                     movement.data_reg >= head.data_reg &&
+                                     articles.contains(movement.articolo);
+                if (its_own) add_movement(story.consegne, movement);
+            });
+    for_all(files.bol, records_in_use(files, contatori::documenti_trasporto),
             [&](int number, const rec_bol& document) {
                 for (consegna& one : story.consegne) {
                     if (one.documento != 0 || !together(document, one.movimenti.front())) continue;

@@ -25,6 +25,6 @@ struct storia_ordine {
 
 /// One read of the block, and one pass over movements and documents. Empty if the block can't be
 /// read.
-std::optional<storia_ordine> leggi_storia(const archivi& files, std::int16_t registrazione);
+std::optional<storia_ordine> read_story(const archivi& files, std::int16_t registrazione);
 
 }  // namespace vantora

@@ -19,7 +19,7 @@ struct ordine_letto {
 class order_walk {
  public:
     explicit order_walk(const archivi& files)
-        : count_(in_uso(files, contatori::ordini)),
+        : count_(records_in_use(files, contatori::ordini)),
           blocks_(files.orc, static_cast<std::size_t>(count_), plan()) {}
 
     /// The next order; empty behind the oldest. Valid until the next call.

@@ -39,13 +39,13 @@ prezzi::prezzi(program& app) : enquiry_screen(app, tipo_prezzi()) {}
 
 std::string prezzi::fill(list_rows& list) {
     const auto [article, customer] = app_.prezzi_di;
-    auto found = cerca_prezzi(app_.archives, article, customer, prezzi_di_ognuno,
-                              [&](int passed, int of) { return goes_on(list, passed, of); });
+    auto found = find_prices(app_.archives, article, customer, prezzi_di_ognuno,
+                             [&](int passed, int of) { return goes_on(list, passed, of); });
     listed_ = std::move(found.del_cliente);
     const std::size_t own = listed_.size();
     listed_.insert(listed_.end(), found.di_altri.begin(), found.di_altri.end());
-    customer_names names(app_.archives.cli,
-                         static_cast<std::int16_t>(in_uso(app_.archives, contatori::clienti)));
+    customer_names names(app_.archives.cli, static_cast<std::int16_t>(
+                                                records_in_use(app_.archives, contatori::clienti)));
     const valuta currency(app_.parameters);
     for (std::size_t i = 0; i < listed_.size(); ++i) {
         const rec_orc& row = listed_[i].riga;
@@ -54,14 +54,13 @@ std::string prezzi::fill(list_rows& list) {
         list.write(cliente, names.of(row.cliente));
         list.write(prezzo, formato_prezzo(finite_or_zero(row.prezzo), currency));
         list.write(sconti, discounts(row));
-        list.write(quantita, testo_quantita(row.quantita));
+        list.write(quantita, quantity_text(row.quantita));
         list.write(ordine, row.numero.trimmed());
         list.write(riga, std::to_string(i));
         list.write(data_stored, row.data.full());
     }
     if (listed_.empty()) return "L'articolo non è in nessun ordine"_cp;
-    return quanti_sono(static_cast<int>(own), "prezzo a questo cliente",
-                       "prezzi a questo cliente") +
+    return how_many(static_cast<int>(own), "prezzo a questo cliente", "prezzi a questo cliente") +
            ", " + std::to_string(listed_.size() - own) + " ad altri";
 }
 

@@ -4,8 +4,8 @@
 
 namespace vantora {
 
-prezzi_articolo cerca_prezzi(const archivi& files, std::int16_t articolo, std::int16_t cliente,
-                             std::size_t most, const std::function<bool(int, int)>& goes_on) {
+prezzi_articolo find_prices(const archivi& files, std::int16_t articolo, std::int16_t cliente,
+                            std::size_t most, const std::function<bool(int, int)>& goes_on) {
     prezzi_articolo all;
     order_walk orders(files);
     while (const auto order = orders.next()) {

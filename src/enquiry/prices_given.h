@@ -22,7 +22,7 @@ struct prezzi_articolo {
 };
 
 /// `goes_on(passed, of)` is asked behind each order; false ends the search with what was found.
-prezzi_articolo cerca_prezzi(const archivi& files, std::int16_t articolo, std::int16_t cliente,
-                             std::size_t most, const std::function<bool(int, int)>& goes_on);
+prezzi_articolo find_prices(const archivi& files, std::int16_t articolo, std::int16_t cliente,
+                            std::size_t most, const std::function<bool(int, int)>& goes_on);
 
 }  // namespace vantora

@@ -77,7 +77,7 @@ std::string quadro::fill(list_rows& list) {
 std::string quadro::fill_bars(list_rows& list) {
     const valuta currency(app_.parameters);
     if (!counted_) {
-        figures_ = conta_azienda(app_.archives, currency, app_.desk.clock().now().day,
+        figures_ = count_company(app_.archives, currency, app_.desk.clock().now().day,
                                  [&](int passed, int of) { return goes_on(list, passed, of); });
         counted_ = true;
     }
@@ -89,7 +89,7 @@ std::string quadro::fill_bars(list_rows& list) {
             list.write(sezione, one.titolo);
             list.write(voce, bar.etichetta);
             list.write(valore, one.importi ? formato_importo(bar.valore, currency)
-                                           : testo_quantita(bar.valore));
+                                           : quantity_text(bar.valore));
             const double share = most > 0 ? std::max(bar.valore, 0.0) / most : 0;
             list.write(millesimi, std::to_string(static_cast<int>(share * 1000)));
             bars_.push_back(&bar);
@@ -100,8 +100,8 @@ std::string quadro::fill_bars(list_rows& list) {
 }
 
 std::string quadro::fill_orders(list_rows& list, const barra& of) {
-    customer_names names(app_.archives.cli,
-                         static_cast<std::int16_t>(in_uso(app_.archives, contatori::clienti)));
+    customer_names names(app_.archives.cli, static_cast<std::int16_t>(
+                                                records_in_use(app_.archives, contatori::clienti)));
     for_each_of(app_.archives.orc, of.ordini, righe_blocco, [&](int block, const rec_orc& head) {
         if (list.full()) return;
         list.next();
@@ -111,13 +111,13 @@ std::string quadro::fill_orders(list_rows& list, const barra& of) {
         list.write(descrizione, head.testo1.trimmed());
         list.write(registrazione, std::to_string(block));
     });
-    return of.etichetta + ": " + quanti_sono(list.in_use() - 1, "ordine", "ordini");
+    return of.etichetta + ": " + how_many(list.in_use() - 1, "ordine", "ordini");
 }
 
 std::string quadro::fill_movements(list_rows& list, const barra& of) {
     const valuta currency(app_.parameters);
-    customer_names names(app_.archives.cli,
-                         static_cast<std::int16_t>(in_uso(app_.archives, contatori::clienti)));
+    customer_names names(app_.archives.cli, static_cast<std::int16_t>(
+                                                records_in_use(app_.archives, contatori::clienti)));
     article_texts articles(app_.archives.art);
     for_each_of(app_.archives.mag, of.movimenti, 1, [&](int, const rec_mag& one) {
         if (list.full()) return;
@@ -126,10 +126,10 @@ std::string quadro::fill_movements(list_rows& list, const barra& of) {
         list.write(giorno, date_text_of_stored(one.data.full()));
         list.write(destinatario, names.of(one.cliente));
         list.write(articolo, articles.of(one.articolo));
-        list.write(quantita, testo_quantita(one.quantita));
-        list.write(importo, formato_importo(valore_di(one), currency));
+        list.write(quantita, quantity_text(one.quantita));
+        list.write(importo, formato_importo(movement_value(one), currency));
     });
-    return of.etichetta + ": " + quanti_sono(list.in_use() - 1, "movimento", "movimenti");
+    return of.etichetta + ": " + how_many(list.in_use() - 1, "movimento", "movimenti");
 }
 
 void quadro::open_row(int row) {
@@ -195,7 +195,7 @@ void quadro::print() const {
         const double most = highest_of(one.barre);
         for (const barra& bar : one.barre) {
             const std::string value =
-                one.importi ? formato_importo(bar.valore, currency) : testo_quantita(bar.valore);
+                one.importi ? formato_importo(bar.valore, currency) : quantity_text(bar.valore);
             paper.text(left, y, std::string_view(bar.etichetta).substr(0, 44), plain, 0);
             const double length = most > 0 ? longest * std::max(bar.valore, 0.0) / most : 0;
             if (length > 0) paper.box(bars, y + 0.5, bars + length, y + 3.5, blue, true);

@@ -58,8 +58,8 @@ void ricerca::search() {
     const int round = ++searches_;
     const order_search all(app_.archives, testo.text());
     if (!all.looks_for_something()) return activate();
-    customer_names names(app_.archives.cli,
-                         static_cast<std::int16_t>(in_uso(app_.archives, contatori::clienti)));
+    customer_names names(app_.archives.cli, static_cast<std::int16_t>(
+                                                records_in_use(app_.archives, contatori::clienti)));
     found_ = 0;
     lista_.finish(1);
     esito.set_text("Cerca ...");
@@ -75,7 +75,7 @@ void ricerca::search() {
         });
     if (!at_end) return;
     finish(found_ + 1, found_ < righe_elencabili
-                           ? quanti_sono(found_, "risultato", "risultati")
+                           ? how_many(found_, "risultato", "risultati")
                            : "Elenco fermato a "_cp + std::to_string(found_) + " righe");
     if (found_ > 0 && testo.has_focus()) elenco.set_focus();
 }

@@ -33,13 +33,13 @@ const tipo_ricerca& tipo_storia() {
 storia::storia(program& app) : enquiry_screen(app, tipo_storia()) {}
 
 std::string storia::fill(list_rows& list) {
-    const auto story = leggi_storia(app_.archives, app_.selezione_1);
+    const auto story = read_story(app_.archives, app_.selezione_1);
     if (!story) return "L'ordine non si lascia leggere: "_cp + app_.archives.orc.name();
     list_order(list, story->righe);
     article_texts articles(app_.archives.art);
     for (const consegna& one : story->consegne) list_delivery(list, one, articles);
-    return quanti_sono(static_cast<int>(story->consegne.size()), "movimento di questi articoli",
-                       "movimenti di questi articoli") +
+    return how_many(static_cast<int>(story->consegne.size()), "movimento di questi articoli",
+                    "movimenti di questi articoli") +
            " al cliente dopo l'ordine";
 }
 
@@ -53,9 +53,9 @@ void storia::list_order(list_rows& list, const std::vector<rec_orc>& rows) {
         list.write(data, date_text_of_stored(row.data.full()));
         list.write(descrizione, trimmed(text));
         if (row.quantita != 0) {
-            list.write(ordinato, quantita_o_zero(row.quantita));
-            list.write(evaso, quantita_o_zero(row.evaso));
-            list.write(resta, quantita_o_zero(open_quantity(row)));
+            list.write(ordinato, quantity_or_zero(row.quantita));
+            list.write(evaso, quantity_or_zero(row.evaso));
+            list.write(resta, quantity_or_zero(open_quantity(row)));
         }
         list.write(riga, std::to_string(i + 1));
     }
@@ -73,7 +73,7 @@ void storia::list_delivery(list_rows& list, const consegna& one, article_texts& 
         list.write(che_cosa, "Movimento");
         list.write(data, date_text_of_stored(movement.data.full()));
         list.write(descrizione, articles.of(movement.articolo));
-        list.write(evaso, quantita_o_zero(movement.quantita));
+        list.write(evaso, quantity_or_zero(movement.quantita));
         list.write(documento, std::to_string(one.documento));
     }
 }
@@ -91,13 +91,13 @@ void storia::open_row(int row) {
                           ui::attention, ui::icon::information);
         return;
     }
-    auto found = ddt_archiviato(app_, number(documento));
+    auto found = archived_transport_document(app_, number(documento));
     if (!found.perche.empty()) {
         app_.desk.message(found.perche, ui::attention, ui::icon::stop);
         return;
     }
     const work showing(*this);
-    ristampa(app_, found, uscita_ristampa::anteprima);
+    reprint(app_, found, uscita_ristampa::anteprima);
 }
 
 void storia::run_command(int /*command*/, int /*row*/) {}

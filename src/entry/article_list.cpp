@@ -43,9 +43,9 @@ bool begins_with(std::string_view text, std::string_view capitals) {
 
 }  // namespace
 
-std::vector<std::string> voci_articoli(const channel<blocco_articoli>& blocks,
-                                       std::int16_t articles, modo_lista mode,
-                                       const std::function<void(int, int)>& progress) {
+std::vector<std::string> article_entries_of(const channel<blocco_articoli>& blocks,
+                                            std::int16_t articles, modo_lista mode,
+                                            const std::function<void(int, int)>& progress) {
     constexpr int at_once = 16;
     std::vector<std::string> entries;
     // The last block may hold records that no 16-bit number reaches.
@@ -67,27 +67,27 @@ std::vector<std::string> voci_articoli(const channel<blocco_articoli>& blocks,
     return entries;
 }
 
-std::int16_t numero_articolo(std::string_view entry) {
+std::int16_t article_number(std::string_view entry) {
     const std::size_t begin = entry.size() < 5 ? 0 : entry.size() - 5;
     return to_int16(number_at_head(entry.substr(begin))).value_or(0);
 }
 
-std::string_view codice_voce(std::string_view entry) {
+std::string_view entry_code(std::string_view entry) {
     return part(entry, 0, sizeof(rec_art::codice));
 }
 
-std::string_view descrizione_voce(std::string_view entry) {
+std::string_view entry_description(std::string_view entry) {
     return part(entry, sizeof(rec_art::codice) + between.size(), sizeof(rec_art::descrizione));
 }
 
-int cerca_voce(const std::vector<std::string>& entries, std::string_view wanted) {
+int find_entry(const std::vector<std::string>& entries, std::string_view wanted) {
     const auto found = std::ranges::find_if(
         entries, [wanted](const std::string& entry) { return begins_with(entry, wanted); });
     return found == entries.end() ? -1 : static_cast<int>(found - entries.begin());
 }
 
-std::int16_t cerca_descrizione(const channel<rec_art>& articles, std::int16_t count,
-                               std::string_view text) {
+std::int16_t find_description(const channel<rec_art>& articles, std::int16_t count,
+                              std::string_view text) {
     constexpr int at_once = 256;
     const std::string wanted = upper(text);
     auto ahead = all_records_ahead(articles, count, at_once);
@@ -98,19 +98,19 @@ std::int16_t cerca_descrizione(const channel<rec_art>& articles, std::int16_t co
     return 0;
 }
 
-std::string quantita_o_zero(double quantity) {
-    return quantity == 0 ? "0" : testo_quantita(quantity);
+std::string quantity_or_zero(double quantity) {
+    return quantity == 0 ? "0" : quantity_text(quantity);
 }
 
-std::string testo_scorta(const rec_art& article) {
-    const scorta now = scorta_di(article);
+std::string stock_text(const rec_art& article) {
+    const scorta now = stock_of(article);
     return std::string(article.codice.trimmed()) + ":  in magazzino " +
-           quantita_o_zero(now.in_magazzino) + "  \xB7  impegnato " +
-           quantita_o_zero(now.impegnato) + "  \xB7  libero " + quantita_o_zero(now.libero) +
-           "  \xB7  ordinato dai clienti " + quantita_o_zero(now.ordinato);
+           quantity_or_zero(now.in_magazzino) + "  \xB7  impegnato " +
+           quantity_or_zero(now.impegnato) + "  \xB7  libero " + quantity_or_zero(now.libero) +
+           "  \xB7  ordinato dai clienti " + quantity_or_zero(now.ordinato);
 }
 
-std::string riga_giacenza(const rec_art& article, std::int16_t number) {
+std::string stock_entry(const rec_art& article, std::int16_t number) {
     const std::string line = padded(article.codice.full(), 15) + " - " +
                              padded(article.descrizione.full(), 80) +
                              " - Giacenza:" + plain_text(article.giacenza) +

@@ -49,8 +49,8 @@ void article_lookup::carica_lista(modo_lista mode) {
     List1.clear();
     {
         list_progress progress(app_.desk, List1);
-        List1.add_all(voci_articoli(app_.archives.art_blocchi, articles(), mode,
-                                    [&](int done, int of) { progress.come_to(done, of); }));
+        List1.add_all(article_entries_of(app_.archives.art_blocchi, articles(), mode,
+                                         [&](int done, int of) { progress.come_to(done, of); }));
     }
     app_.desk.set_pointer(ui::pointer::normal);
     stato_lista_ = mode;
@@ -64,7 +64,7 @@ void article_lookup::search_list(const std::string& wanted) {
     if (!can_search()) return;
     stato_lista_ = lista_ferma;
     lista_trovato_ = 0;
-    const int found = cerca_voce(List1.items(), wanted);
+    const int found = find_entry(List1.items(), wanted);
     if (found >= 0) {
         lista_trovato_ = 1;
         List1.choose(found);
@@ -76,9 +76,9 @@ void article_lookup::take_list_entry() {
     if (stato_lista_ == lista_ferma) return;
     const int state = stato_lista_;
     stato_lista_ = lista_ferma;
-    articolo_corrente_ = numero_articolo(List1.text());
+    articolo_corrente_ = article_number(List1.text());
     const bool read = app_.archives.art.read(articolo_corrente_, articolo_);
-    if (read && state == per_codice && articolo_.codice.trimmed() != codice_voce(List1.text()) &&
+    if (read && state == per_codice && articolo_.codice.trimmed() != entry_code(List1.text()) &&
         app_.desk.guards().refuse("Gli articoli sono stati cambiati altrove: "
                                   "l'elenco viene riletto.")) {
         return reload();
@@ -117,17 +117,17 @@ std::int16_t article_lookup::article_of(std::string_view code) {
     const std::string wanted = upper(trimmed(code));
     if (barcode.on()) return find_bar_code(wanted) ? articolo_corrente_ : 0;
     if (!can_search() || wanted.empty()) return 0;
-    const int found = cerca_voce(List1.items(), wanted);
+    const int found = find_entry(List1.items(), wanted);
     if (found < 0) return 0;
     const std::string& entry = List1.item(found);
     const std::string_view own =
         trimmed(std::string_view(entry).substr(0, decltype(rec_art::codice)::width));
-    return upper(own) == wanted ? numero_articolo(entry) : std::int16_t{0};
+    return upper(own) == wanted ? article_number(entry) : std::int16_t{0};
 }
 
 bool article_lookup::find_bar_code(const std::string& code) {
     count_articles();
-    lista_trovato_ = cerca_codice_barre(app_.archives.srb, articles(), code);
+    lista_trovato_ = look_up_bar_code(app_.archives.srb, articles(), code);
     rec_srb entry;
     if (!app_.archives.srb.read(lista_trovato_, entry)) return false;
     articolo_corrente_ = entry.numero;
@@ -140,7 +140,7 @@ bool article_lookup::take_description(std::string_view text) {
     if (!can_search()) return false;
     lista_trovato_ = 0;
     count_articles();
-    const std::int16_t found = cerca_descrizione(app_.archives.art, articles(), trimmed(text));
+    const std::int16_t found = find_description(app_.archives.art, articles(), trimmed(text));
     lista_trovato_ = found;
     if (found == 0) return true;
     rec_art article;
@@ -151,16 +151,16 @@ bool article_lookup::take_description(std::string_view text) {
 }
 
 void article_lookup::mostra_giacenza(std::int16_t article) {
-    if (article <= 0 || article == numero_articolo(listx.text())) return;
+    if (article <= 0 || article == article_number(listx.text())) return;
     rec_art record;
     app_.archives.art.read(article, record);
-    listx.set_text(riga_giacenza(record, article));
+    listx.set_text(stock_entry(record, article));
 }
 
-void article_lookup::mostra_scorta(std::int16_t article) {
+void article_lookup::tell_stock(std::int16_t article) {
     rec_art record;
     const bool there = is_article(article, articles()) && app_.archives.art.read(article, record);
-    scorta.set_text(there ? testo_scorta(record) : std::string());
+    scorta.set_text(there ? stock_text(record) : std::string());
 }
 
 }  // namespace vantora

@@ -16,7 +16,7 @@ namespace vantora {
 class article_lookup {
  public:
     explicit article_lookup(program& app) : app_(app) {
-        List1.columns = {{"Articolo", codice_voce}, {"Descrizione", descrizione_voce}};
+        List1.columns = {{"Articolo", entry_code}, {"Descrizione", entry_description}};
     }
     article_lookup(const article_lookup&) = delete;
     article_lookup& operator=(const article_lookup&) = delete;
@@ -58,7 +58,7 @@ class article_lookup {
     /// Shows the stock of an article, unless it is the one that shows.
     void mostra_giacenza(std::int16_t article);
     /// Shows how the stock of a line's article stands now; nothing for a line without one.
-    void mostra_scorta(std::int16_t article);
+    void tell_stock(std::int16_t article);
 
  private:
     void count_articles();

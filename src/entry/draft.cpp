@@ -190,7 +190,7 @@ std::optional<std::map<std::string, std::string>> values_of(std::string_view tex
 
 }  // namespace
 
-std::string scrivi_bozza(const bozza& draft) {
+std::string write_draft(const bozza& draft) {
     writer io;
     go_over(io, draft);
     // An emptied cell differs from its line's code too.
@@ -198,7 +198,7 @@ std::string scrivi_bozza(const bozza& draft) {
     return std::string(first_line) + "\n" + io.written() + std::string(last_line) + "\n";
 }
 
-std::optional<bozza> leggi_bozza(std::string_view text) {
+std::optional<bozza> read_draft(std::string_view text) {
     const auto values = values_of(text);
     if (!values) return {};
     bozza draft;
@@ -212,7 +212,7 @@ std::optional<bozza> leggi_bozza(std::string_view text) {
     return draft;
 }
 
-std::uint64_t impronta_di(std::span<const rec_orc> rows) {
+std::uint64_t fingerprint_of(std::span<const rec_orc> rows) {
     std::uint64_t print = 0xcbf29ce484222325;
     for (const std::byte one : std::as_bytes(rows)) {
         print = (print ^ static_cast<std::uint64_t>(one)) * 0x100000001b3;

@@ -29,12 +29,12 @@ struct bozza {
 };
 
 /// A draft as a file of lines, in the code page.
-std::string scrivi_bozza(const bozza& draft);
+std::string write_draft(const bozza& draft);
 
 /// Empty if the text is no whole draft. Numbers are finite, texts have their fields' widths.
-std::optional<bozza> leggi_bozza(std::string_view text);
+std::optional<bozza> read_draft(std::string_view text);
 
 /// Differs for rows that differ.
-std::uint64_t impronta_di(std::span<const rec_orc> rows);
+std::uint64_t fingerprint_of(std::span<const rec_orc> rows);
 
 }  // namespace vantora

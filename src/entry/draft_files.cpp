@@ -81,17 +81,17 @@ void file_bozza::drop() {
     release();
 }
 
-std::optional<bozza> bozza_di(file_port& person, const std::string& name) {
+std::optional<bozza> draft_in(file_port& person, const std::string& name) {
     const auto text = person.read_whole(path_of(name));
-    return text ? leggi_bozza(*text) : std::nullopt;
+    return text ? read_draft(*text) : std::nullopt;
 }
 
-std::vector<bozza_trovata> bozze_in_attesa(const program& app) {
+std::vector<bozza_trovata> waiting_drafts(const program& app) {
     std::vector<bozza_trovata> found;
     if (!app.person) return found;
     for (const std::string& name : names_in(*app.person)) {
-        auto draft = bozza_di(*app.person, name);
-        if (!draft || draft->archivio != archivio_di(app) || is_in_work(*app.person, name)) {
+        auto draft = draft_in(*app.person, name);
+        if (!draft || draft->archivio != archive_name(app) || is_in_work(*app.person, name)) {
             continue;
         }
         found.push_back({name, std::move(*draft)});
@@ -101,8 +101,8 @@ std::vector<bozza_trovata> bozze_in_attesa(const program& app) {
     return found;
 }
 
-std::string archivio_di(const program& app) {
-    const auto company = app.files.locate(cartella_azienda(app.parameters.numero_azienda));
+std::string archive_name(const program& app) {
+    const auto company = app.files.locate(folder_of_company(app.parameters.numero_azienda));
     std::error_code refused;
     const auto whole = fs::weakly_canonical(company, refused);
     return (refused ? company : whole).string();

@@ -40,12 +40,12 @@ struct bozza_trovata {
 
 /// The drafts of this company that no window has in work, the youngest first. None where the
 /// program has no folder of the person.
-std::vector<bozza_trovata> bozze_in_attesa(const program& app);
+std::vector<bozza_trovata> waiting_drafts(const program& app);
 
 /// The text of a draft that lies there; empty if it can't be read.
-std::optional<bozza> bozza_di(file_port& person, const std::string& name);
+std::optional<bozza> draft_in(file_port& person, const std::string& name);
 
 /// How the company's archive is called in drafts.
-std::string archivio_di(const program& app);
+std::string archive_name(const program& app);
 
 }  // namespace vantora

@@ -84,12 +84,12 @@ meanwhile look_at_rows(program& app, int block, const bozza& draft) {
         rows.push_back(stored[number]);
         leaves = leaves || stored[number].evaso != 0;
     }
-    if (impronta_di(rows) == draft.impronta) return meanwhile::same;
+    if (fingerprint_of(rows) == draft.impronta) return meanwhile::same;
     return leaves ? meanwhile::fulfilled : meanwhile::changed;
 }
 
 void take_up_opened(program& app, bozza draft, file_bozza file) {
-    const std::string order = nome_bozza(draft);
+    const std::string order = draft_name(draft);
     const int block = block_of(app, draft);
     if (block == 0) {
         if (!app.desk.guards().confirm("Nell'archivio non c'è più l'"_cp + order +
@@ -125,7 +125,7 @@ void mark_as_seen(program& app, bozza_trovata& found) {
     auto file = file_bozza::take(*app.person, found.name);
     if (!file) return;
     found.draft.tenuta = true;
-    file->keep(*app.person, scrivi_bozza(found.draft));
+    file->keep(*app.person, write_draft(found.draft));
 }
 
 std::string day_and_time(const std::string& moment) {
@@ -135,21 +135,21 @@ std::string day_and_time(const std::string& moment) {
 
 }  // namespace
 
-std::string nome_bozza(const bozza& draft) {
+std::string draft_name(const bozza& draft) {
     const std::string customer = "ordine di " + draft.text2[campo_cliente::intestazione1];
     if (draft.nuova) return customer;
     return "ordine " + std::string(draft.visto.numero.trimmed()) + " di " +
            draft.text2[campo_cliente::intestazione1];
 }
 
-void riprendi_bozza(program& app, const std::string& name) {
+void resume_draft(program& app, const std::string& name) {
     if (!app.person) return;
     if (app.mirorcs.loaded() || app.mirorcz.loaded()) {
         return warn(app, "Un altro ordine è aperto: prima va salvato o lasciato."_cp);
     }
     auto file = file_bozza::take(*app.person, name);
     if (!file) return warn(app, "La bozza è aperta in un'altra finestra."_cp);
-    auto draft = bozza_di(*app.person, name);
+    auto draft = draft_in(*app.person, name);
     if (!draft) return warn(app, "La bozza non si può leggere."_cp);
     if (!draft->nuova) return take_up_opened(app, std::move(*draft), std::move(*file));
     if (seems_saved(app, *draft) &&
@@ -162,20 +162,20 @@ void riprendi_bozza(program& app, const std::string& name) {
     show_new(app, std::move(*draft), std::move(*file));
 }
 
-void offri_bozze(program& app) {
+void offer_drafts(program& app) {
     if (!app.desk.guards().on()) return;
     std::vector<bozza_trovata> lost;
-    for (bozza_trovata& one : bozze_in_attesa(app)) {
+    for (bozza_trovata& one : waiting_drafts(app)) {
         if (!one.draft.tenuta) lost.push_back(std::move(one));
     }
     if (lost.empty()) return;
-    std::string question = "Riprendere l'" + nome_bozza(lost[0].draft) + " non salvato del " +
+    std::string question = "Riprendere l'" + draft_name(lost[0].draft) + " non salvato del " +
                            day_and_time(lost[0].draft.salvata) + "?";
     if (lost.size() > 1) {
         question += "\nAltri " + std::to_string(lost.size() - 1) + " sono fra le bozze.";
     }
     for (bozza_trovata& one : lost) mark_as_seen(app, one);
-    if (app.desk.guards().confirm(question, ui::answer::yes)) riprendi_bozza(app, lost[0].name);
+    if (app.desk.guards().confirm(question, ui::answer::yes)) resume_draft(app, lost[0].name);
 }
 
 }  // namespace vantora

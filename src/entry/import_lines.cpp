@@ -26,7 +26,7 @@ std::vector<int> copy_rows(righe_ordine& lines, int first, const channel<Row>& f
 
 std::vector<int> aggiungi_preventivo(righe_ordine& lines, const archivi& files,
                                      std::int64_t block) {
-    return copy_rows(lines, ultima_riga_usata(lines) + 1, files.prv, files.art, block);
+    return copy_rows(lines, last_used_line(lines) + 1, files.prv, files.art, block);
 }
 
 std::vector<int> sostituisci_con_ordine(righe_ordine& lines, const archivi& files,

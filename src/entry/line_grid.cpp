@@ -84,7 +84,7 @@ void line_grid::wire_controls() {
 void line_grid::load() {
     carica_documento(tabelle_, kind_.documento, app_.parameters, app_.files);
     Combo1.clear();
-    Combo1.add_all(voci_iva(tabelle_.iva));
+    Combo1.add_all(vat_entries(tabelle_.iva));
     carica_disegno(disegno_, kind_.documento, app_.parameters.numero_azienda, app_.files);
     valuta_ = valuta(app_.parameters);
 }

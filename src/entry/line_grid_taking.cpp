@@ -295,7 +295,7 @@ void line_grid::take_scan(int row, const std::string& code) {
 
 void line_grid::settled() {
     if (at_work()) return;
-    lookup_.mostra_scorta(current_article());
+    lookup_.tell_stock(current_article());
     if (history_.begun()) return history_.note(content(), cell_in_focus());
     history_.begin(content());
 }

@@ -54,7 +54,7 @@ bool mirorcs::may_save() {
 
 change_outcome mirorcs::store() {
     app_.data_sistema = date_number(app_.desk.clock().now());
-    testata_registrata saved = testata_da_registrare(head(), chosen_price());
+    testata_registrata saved = head_to_store(head(), chosen_price());
     saved.cliente = app_.selezione_1;
     saved.impegno = impegno.on();
     return salva_nuovo_ordine(app_.archives, saved, app_.data_sistema, righe_, lookup_.articles());

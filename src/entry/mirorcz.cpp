@@ -26,7 +26,7 @@ std::string told_between(const stored_rows<rec_orc>& then, const stored_rows<rec
         const double more = now[number].evaso - then[number].evaso;
         if (more == 0 || !std::isfinite(more)) continue;
         text +=
-            "\nEvasione registrata: riga " + std::to_string(number) + ", " + testo_quantita(more);
+            "\nEvasione registrata: riga " + std::to_string(number) + ", " + quantity_text(more);
     }
     return text;
 }
@@ -73,14 +73,14 @@ void mirorcz::follow_customer() {
 void mirorcz::read_order() {
     const stored_rows<rec_orc>& stored = lette_;
     visto_ = {app_.selezione_1, stored[1]};
-    impronta_ = impronta_di(stored.all());
+    impronta_ = fingerprint_of(stored.all());
     stored_lines lines(app_.archives.art);
     for (int number = 1; number <= righe_ordine::massimo; ++number) {
         riga_ordine& line = righe_[number];
         lines.read(stored[number], line);
         line.evaso = finite_or_zero(stored[number].evaso);
     }
-    mostra_testata(head(), stored);
+    show_stored_head(head(), stored);
     const int price = scelta(stored[3].testo3, scelta_testata::prezzo);
     if (price == 0 || price == 1) prezz[price].set_on(true);
     impegno.set_on(stored[1].impegno.full() == "1");
@@ -114,7 +114,7 @@ bool mirorcz::may_save() {
 }
 
 change_outcome mirorcz::store() {
-    testata_registrata saved = testata_da_registrare(head(), chosen_price());
+    testata_registrata saved = head_to_store(head(), chosen_price());
     saved.cliente = app_.selezione_2;
     saved.impegno = impegno.on();
     return change_stored("Salvare lo stesso e perdere quelle modifiche?",

@@ -22,7 +22,7 @@ std::string moment_text(const date_time& moment) {
 
 void order_screen::settled() {
     line_grid::settled();
-    if (!as_opened_ && !at_work()) as_opened_ = scrivi_bozza(draft_now());
+    if (!as_opened_ && !at_work()) as_opened_ = write_draft(draft_now());
 }
 
 void order_screen::begin_order() {
@@ -35,7 +35,7 @@ void order_screen::begin_order() {
 
 bozza order_screen::draft_now() const {
     bozza draft;
-    draft.archivio = archivio_di(app_);
+    draft.archivio = archive_name(app_);
     describe(draft);
     const customer_head& shown = head();
     for (std::size_t i = 0; i < draft.text2.size(); ++i) draft.text2[i] = shown.Text2[i].text();
@@ -48,22 +48,22 @@ bozza order_screen::draft_now() const {
 }
 
 bool order_screen::changed() const {
-    return as_opened_ && scrivi_bozza(draft_now()) != *as_opened_;
+    return as_opened_ && write_draft(draft_now()) != *as_opened_;
 }
 
 bool order_screen::keep_draft(bool wanted) {
     bozza draft = draft_now();
-    std::string plain = scrivi_bozza(draft);
+    std::string plain = write_draft(draft);
     draft.tenuta = wanted;
     draft.salvata = moment_text(app_.desk.clock().now());
-    if (!draft_file_.keep(*app_.person, scrivi_bozza(draft))) return false;
+    if (!draft_file_.keep(*app_.person, write_draft(draft))) return false;
     kept_ = std::move(plain);
     return true;
 }
 
 void order_screen::rest() {
     if (!app_.desk.guards().on() || !app_.person || at_work() || !as_opened_) return;
-    const std::string now = scrivi_bozza(draft_now());
+    const std::string now = write_draft(draft_now());
     if (now == kept_) return;
     if (now == *as_opened_) {
         kept_ = now;

@@ -6,10 +6,10 @@
 
 namespace vantora {
 
-testata_registrata testata_da_registrare(const customer_head& screen, int prezzo) {
+testata_registrata head_to_store(const customer_head& screen, int prezzo) {
     const auto& fields = screen.Text2;
     const auto& order = screen.Text3;
-    const std::string choices = scelte_registrate(screen, prezzo);
+    const std::string choices = stored_choices(screen, prezzo);
 
     testata_registrata head;
     head.numero = order[campo_ordine::numero].text();
@@ -27,7 +27,7 @@ testata_registrata testata_da_registrare(const customer_head& screen, int prezzo
     return head;
 }
 
-testata_documento testata_da_stampare(const customer_head& screen) {
+testata_documento head_to_print(const customer_head& screen) {
     testata_documento head;
     for (std::size_t i = 0; i < head.text2.size(); ++i) head.text2[i] = screen.Text2[i].text();
     for (std::size_t i = 0; i < head.text3.size(); ++i) head.text3[i] = screen.Text3[i].text();
@@ -35,7 +35,7 @@ testata_documento testata_da_stampare(const customer_head& screen) {
     return head;
 }
 
-void mostra_testata(customer_head& screen, const stored_rows<rec_orc>& rows) {
+void show_stored_head(customer_head& screen, const stored_rows<rec_orc>& rows) {
     auto& order = screen.Text3;
     order[campo_ordine::numero].set_text(rows[1].numero.trimmed());
     order[campo_ordine::data].set_text(date_text_of_stored(rows[1].data.full()));
@@ -43,7 +43,7 @@ void mostra_testata(customer_head& screen, const stored_rows<rec_orc>& rows) {
     order[campo_ordine::riferimento1].set_text(rows[1].testo1.trimmed());
     order[campo_ordine::riferimento2].set_text(rows[1].testo2.trimmed());
     order[campo_ordine::riferimento3].set_text(rows[1].testo3.trimmed());
-    for (const int number : {2, 3, 4}) mostra_spedizione(screen, number, rows[number]);
+    for (const int number : {2, 3, 4}) show_shipping(screen, number, rows[number]);
     const int payment = scelta(rows[3].testo3, scelta_testata::pagamento);
     screen.Combo1[customer_head::pagamento].choose(payment);
 }

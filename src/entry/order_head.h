@@ -11,12 +11,12 @@ class customer_head;
 // The head of an order stands in the controls of the screen that holds it, hidden behind the lines.
 
 /// As it is stored. `prezzo`: which of the article's prices is on, 0 or 1; 2 for none.
-testata_registrata testata_da_registrare(const customer_head& screen, int prezzo);
+testata_registrata head_to_store(const customer_head& screen, int prezzo);
 
 /// As it is printed.
-testata_documento testata_da_stampare(const customer_head& screen);
+testata_documento head_to_print(const customer_head& screen);
 
 /// Shows the whole head of a stored order.
-void mostra_testata(customer_head& screen, const stored_rows<rec_orc>& rows);
+void show_stored_head(customer_head& screen, const stored_rows<rec_orc>& rows);
 
 }  // namespace vantora

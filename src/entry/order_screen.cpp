@@ -64,7 +64,7 @@ void order_screen::run_command(int command) {
 }
 
 bool order_screen::may_save() {
-    return ultima_riga_usata(righe_) > 0 ||
+    return last_used_line(righe_) > 0 ||
            app_.desk.guards().confirm("L'ordine non ha righe. Salvarlo lo stesso?");
 }
 
@@ -85,11 +85,11 @@ void order_screen::offer_to_print() {
     // Printing lets events run, and cleans the lines it prints: it gets those that were saved.
     righe_ordine lines = righe_;
     const totali_ordine totals = totali_;
-    const testata_documento printed = testata_da_stampare(head());
-    offri_stampa(app_, print_title_,
-                 {tipo_documento::ordine, printed, lines, totals.iva, cliente_, valuta_, tabelle_,
-                  disegno_, Picture1},
-                 postael.on());
+    const testata_documento printed = head_to_print(head());
+    offer_print(app_, print_title_,
+                {tipo_documento::ordine, printed, lines, totals.iva, cliente_, valuta_, tabelle_,
+                 disegno_, Picture1},
+                postael.on());
 }
 
 void order_screen::leave() {

@@ -180,7 +180,7 @@ void mirorcr::take_transport_data(archive_change& change, int order) {
     rec_orc row;
     for (const int number : {2, 3, 4}) {
         change.read(app_.archives.orc, block_record(order, number), row);
-        if (!mostra_spedizione(*app_.mirorcc, number, row)) throw subscript_error();
+        if (!show_shipping(*app_.mirorcc, number, row)) throw subscript_error();
     }
 }
 

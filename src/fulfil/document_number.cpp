@@ -48,7 +48,7 @@ bool is_document_number(std::string_view typed) {
 
 }  // namespace
 
-dubbio_documento dubbio_su(const archivi& files, std::string_view number, std::string_view date) {
+dubbio_documento doubt_about(const archivi& files, std::string_view number, std::string_view date) {
     dubbio_documento doubt;
     if (!read_date(trimmed(date))) {
         doubt.data = true;
@@ -72,7 +72,7 @@ dubbio_documento dubbio_su(const archivi& files, std::string_view number, std::s
     return doubt;
 }
 
-std::int16_t numero_libero(const archivi& files, std::string_view date) {
+std::int16_t free_number(const archivi& files, std::string_view date) {
     rec_tot counter;
     files.tot.read(contatori::documenti_trasporto, counter);
     std::set<std::int16_t> given;

@@ -19,9 +19,9 @@ struct dubbio_documento {
 
 /// Looks at number and date as typed, and whether the number was given already in the year of the
 /// date. Reads all documents, many at a time; those that can't be read count for none.
-dubbio_documento dubbio_su(const archivi& files, std::string_view number, std::string_view date);
+dubbio_documento doubt_about(const archivi& files, std::string_view number, std::string_view date);
 
 /// The next number behind the last one drawn that wasn't given in the year of a date, as typed.
-std::int16_t numero_libero(const archivi& files, std::string_view date);
+std::int16_t free_number(const archivi& files, std::string_view date);
 
 }  // namespace vantora

@@ -131,7 +131,7 @@ void mirorca::totals_changed() {
     for (int number = 1; number <= righe_ordine::massimo; ++number) {
         weight += righe_[number].peso * righe_[number].quantita;
     }
-    app_.mirorcc->Text3[campo_ddt::peso].set_text(testo_peso(checked(weight)));
+    app_.mirorcc->Text3[campo_ddt::peso].set_text(weight_text(checked(weight)));
 }
 
 // Commands ----------------------------------------------------------------------------------------
@@ -169,7 +169,7 @@ void mirorca::confirm() {
 }
 
 bool mirorca::unload_goods() {
-    const std::string day = giorno_movimento(Text.text());
+    const std::string day = movement_day(Text.text());
     if (day.empty()) {
         app_.desk.message("La data del movimento non è corretta"_cp, titolo_messaggi,
                           ui::icon::stop);
@@ -204,7 +204,7 @@ bool mirorca::ask_to_unload(const riga_ordine& line, const rec_art& article) {
                                .append(" è insufficiente. Lo si deve scaricare ugualmente?"_cp);
     if (app_.desk.guards().on()) {
         question +=
-            "\n" + testo_scorta(article) + "  \xB7  da scaricare " + quantita_o_zero(line.quantita);
+            "\n" + stock_text(article) + "  \xB7  da scaricare " + quantity_or_zero(line.quantita);
         question += "\nSe no, la riga resta evasa, senza movimento e senza documento.";
     }
     const bool unload = app_.desk.ask(std::move(question), titolo_messaggi);
@@ -215,7 +215,7 @@ bool mirorca::ask_to_unload(const riga_ordine& line, const rec_art& article) {
 bool mirorca::make_document() {
     const mirorcc& head = *app_.mirorcc;
     ddt_da_registrare document;
-    const testata_documento fields = testata_da_stampare(head);
+    const testata_documento fields = head_to_print(head);
     istantanea_ddt& kept = document.contenuto;
     kept.text2 = fields.text2;
     kept.text3 = fields.text3;
@@ -249,7 +249,7 @@ bool mirorca::settle_doubt(ddt_da_registrare& document) {
     std::string& number = document.contenuto.text3[campo_ddt::numero];
     std::string& date = document.contenuto.text3[campo_ddt::data];
     ui::guards& guards = app_.desk.guards();
-    const auto doubt = dubbio_su(app_.archives, number, date);
+    const auto doubt = doubt_about(app_.archives, number, date);
     if (!doubt.any()) return true;
     if (guards.confirm(doubt.racconto + "Registrarlo lo stesso?")) {
         document.solo_se_chiaro = false;
@@ -257,7 +257,7 @@ bool mirorca::settle_doubt(ddt_da_registrare& document) {
     }
     const std::string day = doubt.data ? date_text(app_.desk.clock().now().day) : date;
     const std::string free =
-        doubt.numero ? std::to_string(numero_libero(app_.archives, day)) : number;
+        doubt.numero ? std::to_string(free_number(app_.archives, day)) : number;
     if (!guards.confirm("Registrarlo con il numero " + free + " del " + day + "?",
                         ui::answer::yes)) {
         return false;
@@ -273,14 +273,14 @@ bool mirorca::settle_doubt(ddt_da_registrare& document) {
 void mirorca::print(const mirorcc& head) {
     // Printing lets events run, and cleans the lines it prints: it gets those that were stored.
     righe_ordine lines = righe_;
-    testata_documento printed = testata_da_stampare(head);
+    testata_documento printed = head_to_print(head);
     printed.combo2 = head.Combo2.text();
     app_.desk.printer().set_job_name("DDT " +
                                      std::string(trimmed(printed.text3[campo_ddt::numero])));
-    offri_copie(app_,
-                {tipo_documento::documento_trasporto, printed, lines, totali_.iva, cliente_,
-                 valuta_, tabelle_, disegno_, Picture1},
-                postael.on());
+    offer_copies(app_,
+                 {tipo_documento::documento_trasporto, printed, lines, totali_.iva, cliente_,
+                  valuta_, tabelle_, disegno_, Picture1},
+                 postael.on());
 }
 
 void mirorca::leave() {

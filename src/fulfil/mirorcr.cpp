@@ -121,8 +121,8 @@ void mirorcr::settled() {
     for (int row = 1; row < righe_; ++row) {
         if (article_in(row) == article) leaving += number_in(row, evaso);
     }
-    scorta.set_text(testo_scorta(record) + "  \xB7  dopo le righe segnate " +
-                    quantita_o_zero(scorta_di(record).in_magazzino - leaving));
+    scorta.set_text(stock_text(record) + "  \xB7  dopo le righe segnate " +
+                    quantity_or_zero(stock_of(record).in_magazzino - leaving));
 }
 
 void mirorcr::close() {
@@ -175,7 +175,7 @@ void mirorcr::mark_order(int order) {
 
 std::string mirorcr::whole_mark(int row) const {
     const double open = number_in(row, da_evadere);
-    return open == 0 ? std::string("*") : testo_quantita(open);
+    return open == 0 ? std::string("*") : quantity_text(open);
 }
 
 bool mirorcr::marked_whole(int row) const {
@@ -208,7 +208,7 @@ void mirorcr::take_edited() {
     const std::string& typed = quantita.text();
     const bool text_line = typed.starts_with('*');
     elenco.set_text(elenco.row(), evaso,
-                    text_line ? std::string("*") : testo_quantita(number_at_head(typed)));
+                    text_line ? std::string("*") : quantity_text(number_at_head(typed)));
     if (quantita.has_focus()) elenco.set_focus();
     quantita.set_visible(false);
     show_marked();
@@ -231,7 +231,7 @@ void mirorcr::show_marked() {
         pieces += leaving;
     }
     segnate.set_text("Righe da evadere: " + std::to_string(rows) +
-                     "   Pezzi: " + quantita_o_zero(pieces));
+                     "   Pezzi: " + quantity_or_zero(pieces));
 }
 
 // The list
@@ -304,8 +304,8 @@ void mirorcr::list_row(int order, std::int64_t record, bool first_of_order,
             row, articolo,
             std::string(shown.codice.trimmed()).append(" ").append(shown.descrizione.full()));
     }
-    elenco.set_text(row, ordinato, testo_quantita(riga_.quantita));
-    elenco.set_text(row, da_evadere, testo_quantita(open_quantity(riga_)));
+    elenco.set_text(row, ordinato, quantity_text(riga_.quantita));
+    elenco.set_text(row, da_evadere, quantity_text(open_quantity(riga_)));
     elenco.set_text(row, numero_riga, std::to_string(record));
     elenco.set_text(row, numero_ordine, std::to_string(order));
 }

@@ -45,8 +45,8 @@ change_outcome salva_ddt(archivi& files, file_port& port, int numero_azienda,
     counter.quanti = add_int16(counter.quanti, 1).value_or(counter.quanti);
     change.writes(files.bol, counter.quanti, 1);
     if (change.may_write() && document.solo_se_chiaro &&
-        dubbio_su(files, document.contenuto.text3[campo_ddt::numero],
-                  document.contenuto.text3[campo_ddt::data])
+        doubt_about(files, document.contenuto.text3[campo_ddt::numero],
+                    document.contenuto.text3[campo_ddt::data])
             .any()) {
         change.give_up(change_outcome::to_be_asked);
     }
@@ -68,9 +68,9 @@ change_outcome salva_ddt(archivi& files, file_port& port, int numero_azienda,
     change.flush(files.tot);
     change.flush(files.bol);
 
-    const std::string name = nome_istantanea(counter.progressivo);
-    const auto file = port.create_instead(cartella_azienda(numero_azienda) + "\\" + name);
-    const std::string content = scrivi_istantanea(document.contenuto);
+    const std::string name = snapshot_name(counter.progressivo);
+    const auto file = port.create_instead(folder_of_company(numero_azienda) + "\\" + name);
+    const std::string content = write_snapshot(document.contenuto);
     change.note(file && file->write(0, std::as_bytes(std::span(content))) && file->flush(), name);
     return change.finish();
 }

@@ -94,7 +94,7 @@ void look_for_a_document(archive_change& change, const archivi& files) {
 
 }  // namespace
 
-std::string giorno_movimento(std::string_view dd_mm_yyyy) {
+std::string movement_day(std::string_view dd_mm_yyyy) {
     const std::string_view typed = trimmed(dd_mm_yyyy);
     if (typed.size() != 10 || !read_date(typed)) return {};
     return stored_of_date_text(typed);

@@ -19,7 +19,7 @@ struct movimento_magazzino {
 };
 
 /// The day of a movement as it is stored; empty if the text is no date of ten characters.
-std::string giorno_movimento(std::string_view dd_mm_yyyy);
+std::string movement_day(std::string_view dd_mm_yyyy);
 
 /// Takes the goods of a document out of the warehouse: for each line with a quantity of an article
 /// the article is written, then its movement; behind all of them, with all of it on the disk, the

@@ -26,15 +26,15 @@ struct istantanea_ddt {
 };
 
 /// The name of that file, in the company's folder: "b" and the document's running number.
-std::string nome_istantanea(float progressivo);
+std::string snapshot_name(float progressivo);
 
 /// What that file holds.
-std::string scrivi_istantanea(const istantanea_ddt& document);
+std::string write_snapshot(const istantanea_ddt& document);
 
 /// Reads it; empty if it isn't a whole one.
-std::optional<istantanea_ddt> leggi_istantanea(std::string content);
+std::optional<istantanea_ddt> read_snapshot(std::string content);
 
 /// The parcels alone, from the beginning of the file; empty if they aren't there.
-std::string colli_di(std::string beginning);
+std::string parcels_text(std::string beginning);
 
 }  // namespace vantora

@@ -58,7 +58,7 @@ void read_line(snapshot_reader& from, riga_ordine& line) {
 
 }  // namespace
 
-std::optional<istantanea_ddt> leggi_istantanea(std::string content) {
+std::optional<istantanea_ddt> read_snapshot(std::string content) {
     snapshot_reader from(std::move(content));
     istantanea_ddt all;
     all.cliente = from.int16();
@@ -77,7 +77,7 @@ std::optional<istantanea_ddt> leggi_istantanea(std::string content) {
     return all;
 }
 
-std::string colli_di(std::string beginning) {
+std::string parcels_text(std::string beginning) {
     text_reader lines(std::move(beginning));
     std::string value;
     for (std::size_t i = 0; i <= campo_colli + 1; ++i) {

@@ -31,11 +31,11 @@ void add_line(snapshot& to, const riga_ordine& line) {
 
 }  // namespace
 
-std::string nome_istantanea(float progressivo) {
+std::string snapshot_name(float progressivo) {
     return "b" + masked(progressivo, "##########0");
 }
 
-std::string scrivi_istantanea(const istantanea_ddt& document) {
+std::string write_snapshot(const istantanea_ddt& document) {
     snapshot all;
     all.number(document.cliente);
     for (const std::string& field : document.text3) all.text(field);

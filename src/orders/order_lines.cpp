@@ -10,7 +10,7 @@ bool is_empty(const riga_ordine& line) {
            line.prezzo == 0 && line.sc1 == 0 && line.sc2 == 0 && line.evaso == 0;
 }
 
-int ultima_riga_usata(const righe_ordine& lines) {
+int last_used_line(const righe_ordine& lines) {
     for (int number = righe_ordine::massimo; number >= 1; --number) {
         const riga_ordine& line = lines[number];
         const bool used = !line.descrizione.trimmed().empty() || !line.codice.trimmed().empty() ||

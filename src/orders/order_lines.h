@@ -63,7 +63,7 @@ struct riepilogo_iva {
 bool is_empty(const riga_ordine& line);
 
 /// Number of the last line in use, by code, description or price; 0 if none is.
-int ultima_riga_usata(const righe_ordine& lines);
+int last_used_line(const righe_ordine& lines);
 
 /// Empties a line, all but its fulfilled quantity.
 void clear_line(riga_ordine& line);

@@ -53,7 +53,7 @@ void restore_stock(rec_art& article, const rec_art& before, const rec_art& after
     }
 }
 
-scorta scorta_di(const rec_art& article) {
+scorta stock_of(const rec_art& article) {
     return {finite_or_zero(article.giacenza + article.impegnato), finite_or_zero(article.impegnato),
             finite_or_zero(article.giacenza), finite_or_zero(article.ordinato_clienti)};
 }

@@ -33,7 +33,7 @@ struct scorta {
     double libero = 0;    ///< can be given to whoever asks
     double ordinato = 0;  ///< by customers, and not delivered yet
 };
-scorta scorta_di(const rec_art& article);
+scorta stock_of(const rec_art& article);
 
 /// Whether a number is that of an article when there are so many; others are free text.
 constexpr bool is_article(int number, int articles) {

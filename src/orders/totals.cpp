@@ -12,12 +12,12 @@ namespace {
 double net_amount(const riga_ordine& line, bool by_piece, const valuta& currency) {
     double amount = line.prezzo;
     if (by_piece) amount = arrotonda_valuta(amount * line.quantita, currency);
-    return importo_scontato(amount, line.sc1, line.sc2, currency);
+    return discounted_amount(amount, line.sc1, line.sc2, currency);
 }
 
 }  // namespace
 
-totali_ordine somma_righe(const righe_ordine& lines, const valuta& currency) {
+totali_ordine sum_lines(const righe_ordine& lines, const valuta& currency) {
     totali_ordine sums;
     riepilogo_iva& vat = sums.iva;
     for (int number = 1; number <= righe_ordine::massimo; ++number) {
@@ -40,7 +40,7 @@ totali_ordine somma_righe(const righe_ordine& lines, const valuta& currency) {
 
 totali_ordine calcola_totali(const righe_ordine& lines, const tabella_iva& rates,
                              const valuta& currency) {
-    totali_ordine sums = somma_righe(lines, currency);
+    totali_ordine sums = sum_lines(lines, currency);
     riepilogo_iva& vat = sums.iva;
     for (std::size_t code = 1; code <= ultima_aliquota; ++code) {
         const double rate = number_at_head(rates.aliquota_iva[code]);
@@ -51,7 +51,7 @@ totali_ordine calcola_totali(const righe_ordine& lines, const tabella_iva& rates
     return sums;
 }
 
-std::string testo_peso(double weight) {
+std::string weight_text(double weight) {
     const bool whole = weight == integer_part(weight);
     return masked(weight, whole ? "###,###,##0" : "###,###,##0.###");
 }

@@ -16,7 +16,7 @@ inline constexpr double quantita_a_corpo = -9999;
 /// What one unit of a line costs after both discounts.
 template <class Line>
 double net_price(const Line& line, const valuta& in) {
-    return importo_scontato(line.prezzo, line.sc1, line.sc2, in);
+    return discounted_amount(line.prezzo, line.sc1, line.sc2, in);
 }
 
 /// What an order is worth, by VAT code and in all.
@@ -29,7 +29,7 @@ struct totali_ordine {
 
 /// The net amounts of all 200 lines and the pieces, without VAT. Amounts beyond all numbers make
 /// the sums no numbers.
-totali_ordine somma_righe(const righe_ordine& lines, const valuta& currency);
+totali_ordine sum_lines(const righe_ordine& lines, const valuta& currency);
 
 /// Computes the totals of all 200 lines anew. An amount beyond all numbers is an overflow, which
 /// ends the program.
@@ -37,6 +37,6 @@ totali_ordine calcola_totali(const righe_ordine& lines, const tabella_iva& rates
                              const valuta& currency);
 
 /// Weight as transport data show it; a fraction that vanishes in three decimals leaves its mark.
-std::string testo_peso(double weight);
+std::string weight_text(double weight);
 
 }  // namespace vantora

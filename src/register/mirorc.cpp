@@ -216,7 +216,7 @@ void mirorc::offer_enquiries() {
     offer({"quadro", "&Quadro degli ordini", "Ctrl+B", at_rest, lead(app_.quadro)});
     offer({"bozze", "&Bozze", "Ctrl+Shift+B",
            [this] { return !compacting_ && app_.person != nullptr; }, lead(app_.bozze),
-           [this] { return app_.person ? numero_bozze(app_) : 0; }});
+           [this] { return app_.person ? count_drafts(app_) : 0; }});
     offer({"ristampa", "Ristam&pa l'ordine", "Ctrl+P",
            [this] { return !compacting_ && elenco.row() > 0; }, [this] { print_again(); }});
 }
@@ -230,7 +230,7 @@ void mirorc::look_up(ui::screen_place& where) {
 void mirorc::print_again() {
     const auto block = to_int16(number_at_head(elenco.text(elenco.row(), registr)));
     if (!block || *block < 1) return;
-    auto order = ordine_archiviato(app_, *block);
+    auto order = archived_order(app_, *block);
     if (!order.perche.empty()) {
         app_.desk.message(order.perche, ui::attention, ui::icon::stop);
         return;
@@ -246,7 +246,7 @@ void mirorc::print_again() {
     constexpr uscita_ristampa outputs[] = {uscita_ristampa::anteprima, uscita_ristampa::stampa,
                                            uscita_ristampa::pdf};
     if (wanted == ui::answer::choice_4) return;
-    ristampa(app_, order, outputs[static_cast<int>(wanted) - 1]);
+    reprint(app_, order, outputs[static_cast<int>(wanted) - 1]);
 }
 
 // Compaction

@@ -17,7 +17,7 @@ std::string line_text(const rec_orc& row) {
     const std::string description = filtra_stampa(description_of(row));
     std::string text;
     if (row.quantita != 0) {
-        text = testo_quantita(row.quantita) + " " + std::string(row.um.trimmed()) + "  ";
+        text = quantity_text(row.quantita) + " " + std::string(row.um.trimmed()) + "  ";
     }
     return text.append(trimmed(description));
 }
@@ -35,9 +35,9 @@ class somme_ordine {
     }
 
     [[nodiscard]] int righe() const { return righe_; }
-    [[nodiscard]] totali_ordine totali(const valuta& in) const { return somma_righe(tutte_, in); }
+    [[nodiscard]] totali_ordine totali(const valuta& in) const { return sum_lines(tutte_, in); }
     [[nodiscard]] totali_ordine da_evadere(const valuta& in) const {
-        return somma_righe(da_evadere_, in);
+        return sum_lines(da_evadere_, in);
     }
 
  private:
@@ -69,7 +69,7 @@ std::string order_hint(std::span<const rec_orc> block, const valuta& in) {
         text += "Evaso";
     } else {
         const totali_ordine open = sums.da_evadere(in);
-        const std::string pieces = open.pezzi == 0 ? "0" : testo_quantita(open.pezzi);
+        const std::string pieces = open.pezzi == 0 ? "0" : quantity_text(open.pezzi);
         text += "Da evadere: " + pieces + " pezzi, " + amount_text(open.imponibile, in);
     }
     return text + "\nValore dell'ordine: " + amount_text(sums.totali(in).imponibile, in);

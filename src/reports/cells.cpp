@@ -66,7 +66,7 @@ std::optional<std::size_t> text_ruler::head_within(std::string_view text, const 
     return text.size();
 }
 
-std::string formattata(std::string_view cell, int formato, const valuta& in) {
+std::string formatted(std::string_view cell, int formato, const valuta& in) {
     if (formato < 1 || cell.find('(') != std::string_view::npos || cell.starts_with("---") ||
         cell.starts_with("===")) {
         return std::string(cell);
@@ -78,7 +78,7 @@ std::string formattata(std::string_view cell, int formato, const valuta& in) {
     return formato == 8 && !text.empty() ? "(" + text + ")" : text;
 }
 
-std::string_view accorciato(std::string_view text, const text_ruler::limit& most,
+std::string_view cut_to_fit(std::string_view text, const text_ruler::limit& most,
                             const text_ruler& ruler) {
     if (text.size() < 2) return text;
     const std::string_view whole = trimmed(text);
@@ -102,10 +102,10 @@ preparazione_celle::preparazione_celle(text_ruler ruler, double limit, int forma
       measured_(measured) {}
 
 cella_pronta preparazione_celle::operator()(std::string_view cell) {
-    if (formato_ == 0) return {accorciato(cell, most_, ruler_), 0};
+    if (formato_ == 0) return {cut_to_fit(cell, most_, ruler_), 0};
     if (cell.empty()) return {};
-    text_ = formattata(cell, formato_, currency_);
-    const std::string_view fitted = accorciato(text_, most_, ruler_);
+    text_ = formatted(cell, formato_, currency_);
+    const std::string_view fitted = cut_to_fit(text_, most_, ruler_);
     return {fitted, measured_ ? ruler_.width(fitted) : 0};
 }
 

@@ -52,10 +52,10 @@ class text_ruler {
 
 /// The text of a cell by its format code: 0 leaves a text as it is; 1 to 8 read a number and write
 /// it anew, 0 as nothing. Rules of dashes or equal signs and texts with a bracket pass any format.
-std::string formattata(std::string_view cell, int formato, const valuta& in);
+std::string formatted(std::string_view cell, int formato, const valuta& in);
 
 /// A text without the characters at its right end that must go until it fits or one is left.
-std::string_view accorciato(std::string_view text, const text_ruler::limit& most,
+std::string_view cut_to_fit(std::string_view text, const text_ruler::limit& most,
                             const text_ruler& ruler);
 
 /// A cell that can be placed.

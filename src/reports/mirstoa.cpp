@@ -88,7 +88,7 @@ void mirstoa::load() {
     sheet_report::load();
     std::vector<std::string> categories{"Tutte le categorie"};
     text_reader reader(
-        app_.files.read_whole(file_azienda(app_.parameters.numero_azienda, "tb2")).value_or(""));
+        app_.files.read_whole(company_path(app_.parameters.numero_azienda, "tb2")).value_or(""));
     for (std::string line; reader.line(line);) categories.push_back(line);
     Combo0.add_all(std::move(categories));
     Combo0.choose(0);
@@ -133,15 +133,15 @@ bool mirstoa::choose_sheets(raccolta& found) {
     const filtri wanted(*this);
     record_stretches<rec_art, articolo> articles(app_.archives.art);
     bool going_on = true;
-    percorri_indice<rec_sra>(app_.archives.sra, articoli_.quanti,
-                             [&](std::int16_t, const rec_sra& entry) {
-                                 const articolo& one = articles.of(entry.numero);
-                                 if (wanted.take(one)) {
-                                     found.schede.push_back({entry.numero, one.etichetta});
-                                     found.righe.expect(entry.numero);
-                                 }
-                                 return going_on = entry_done();
-                             });
+    walk_index<rec_sra>(app_.archives.sra, articoli_.quanti,
+                        [&](std::int16_t, const rec_sra& entry) {
+                            const articolo& one = articles.of(entry.numero);
+                            if (wanted.take(one)) {
+                                found.schede.push_back({entry.numero, one.etichetta});
+                                found.righe.expect(entry.numero);
+                            }
+                            return going_on = entry_done();
+                        });
     return going_on;
 }
 

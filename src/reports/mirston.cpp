@@ -96,16 +96,16 @@ bool mirston::choose_sheets(std::vector<foglio>& found) {
     record_stretches<rec_cli, cliente> customers(app_.archives.cli);
     std::vector<bool> known(numbers);
     bool going_on = true;
-    percorri_indice<rec_src>(app_.archives.src, clienti_.quanti,
-                             [&](std::int16_t, const rec_src& entry) {
-                                 const cliente& one = customers.of(entry.numero);
-                                 if (one.eliminato == 0 && names.holds(one.nome.full())) {
-                                     const auto number = static_cast<std::uint16_t>(entry.numero);
-                                     found.push_back({entry.numero, one.nome, known[number]});
-                                     known[number] = true;
-                                 }
-                                 return going_on = entry_done();
-                             });
+    walk_index<rec_src>(app_.archives.src, clienti_.quanti,
+                        [&](std::int16_t, const rec_src& entry) {
+                            const cliente& one = customers.of(entry.numero);
+                            if (one.eliminato == 0 && names.holds(one.nome.full())) {
+                                const auto number = static_cast<std::uint16_t>(entry.numero);
+                                found.push_back({entry.numero, one.nome, known[number]});
+                                known[number] = true;
+                            }
+                            return going_on = entry_done();
+                        });
     return going_on;
 }
 

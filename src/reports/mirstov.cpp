@@ -33,7 +33,7 @@ const tipo_report& valorizzazione() {
 }
 
 double net_value(const rec_orc& row, double quantity, const valuta& in) {
-    return valore_netto(row.prezzo, quantity, row.sc1, row.sc2, in);
+    return line_value(row.prezzo, quantity, row.sc1, row.sc2, in);
 }
 
 }  // namespace

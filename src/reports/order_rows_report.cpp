@@ -44,8 +44,8 @@ void order_rows_report::list_row(list_rows& list, const rec_orc& row,
                                  etichette_articoli& articles) const {
     list.write(places().articolo,
                row.articolo < 1 ? free_text(row) : articles.of(row.articolo).text());
-    list.write(places().ordinato, testo_quantita(row.quantita));
-    list.write(places().evaso, testo_quantita(row.evaso));
+    list.write(places().ordinato, quantity_text(row.quantita));
+    list.write(places().evaso, quantity_text(row.evaso));
 }
 
 }  // namespace vantora

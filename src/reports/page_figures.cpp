@@ -133,12 +133,12 @@ misure_righe righe_in_file(const aspetto_report& look) {
 
 }  // namespace
 
-limiti_pagina limiti_in_file(int orientamento) {
+limiti_pagina page_limits_in_file(int orientamento) {
     const bool upright = orientamento == ui::printer::upright;
     return {5, upright ? 205.0 : 280.0, 5, upright ? 280.0 : 205.0};
 }
 
-limiti_pagina limiti_su_stampante(const voce_stampa& margini, double width, double height) {
+limiti_pagina page_limits_on_printer(const voce_stampa& margini, double width, double height) {
     const auto limit = [](double size, std::int16_t thousandths) {
         return integer_part(size * thousandths / 1000);
     };
@@ -146,19 +146,19 @@ limiti_pagina limiti_su_stampante(const voce_stampa& margini, double width, doub
             limit(height, margini.margine_alto), limit(height, margini.margine_basso)};
 }
 
-const misure_colonne& misure_di_colonne(uscita_report uscita) {
+const misure_colonne& column_measures(uscita_report uscita) {
     return colonne[which(uscita)];
 }
 
-misure_righe misure_di_righe(uscita_report uscita, const aspetto_report& look) {
+misure_righe row_measures(uscita_report uscita, const aspetto_report& look) {
     return uscita == uscita_report::stampante ? righe_su_stampante(look) : righe_in_file(look);
 }
 
-const misure_testata_piana& misure_di_testata_piana(uscita_report uscita) {
+const misure_testata_piana& plain_heading_measures(uscita_report uscita) {
     return testate_piane[which(uscita)];
 }
 
-const misure_testata_grigia& misure_di_testata_grigia(uscita_report uscita) {
+const misure_testata_grigia& grey_heading_measures(uscita_report uscita) {
     return testate_grigie[which(uscita)];
 }
 

@@ -72,9 +72,9 @@ struct misure_testata_grigia {
     double chiusura;                        ///< height of the closing band
 };
 
-limiti_pagina limiti_in_file(int orientamento);
+limiti_pagina page_limits_in_file(int orientamento);
 /// `width` and `height` of the sheet in twips; the margins are thousandths of them.
-limiti_pagina limiti_su_stampante(const voce_stampa& margini, double width, double height);
+limiti_pagina page_limits_on_printer(const voce_stampa& margini, double width, double height);
 
 /// How a report's pages are laid out.
 struct aspetto_report {
@@ -84,9 +84,9 @@ struct aspetto_report {
     double passo = 0;  ///< row pitch of the plain look on the printer, in twips
 };
 
-const misure_colonne& misure_di_colonne(uscita_report uscita);
-misure_righe misure_di_righe(uscita_report uscita, const aspetto_report& look);
-const misure_testata_piana& misure_di_testata_piana(uscita_report uscita);
-const misure_testata_grigia& misure_di_testata_grigia(uscita_report uscita);
+const misure_colonne& column_measures(uscita_report uscita);
+misure_righe row_measures(uscita_report uscita, const aspetto_report& look);
+const misure_testata_piana& plain_heading_measures(uscita_report uscita);
+const misure_testata_grigia& grey_heading_measures(uscita_report uscita);
 
 }  // namespace vantora

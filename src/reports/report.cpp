@@ -76,7 +76,7 @@ std::string pdf_path(const program& app, const descrizione_report& report) {
 }
 
 std::string pdf_command(const program& app, const descrizione_report& report) {
-    return comando_mirxpdf("***", pdf_path(app, report), " ***");
+    return mirxpdf_command("***", pdf_path(app, report), " ***");
 }
 
 /// The PDF is there: the user may look at it.

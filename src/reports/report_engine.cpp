@@ -27,13 +27,13 @@ report_engine::report_engine(const parametri& parameters, const ui::clock& time,
       out_(out),
       uscita_(uscita),
       sheet_(std::move(sheet)),
-      insets_(misure_di_colonne(uscita)) {
+      insets_(column_measures(uscita)) {
     if (columns() > columns_max) sheet_.colonne.resize(columns_max);
     aspect_.grigio = entry(1).stile == 1;
     aspect_.due_linee = sheet_.righe_voce == 2;
     aspect_.orizzontale = out.paper().orientation() != ui::printer::upright;
     aspect_.passo = entry(0).altezza;
-    rows_ = misure_di_righe(uscita, aspect_);
+    rows_ = row_measures(uscita, aspect_);
     set_limits();
     set_columns();
 }
@@ -45,12 +45,12 @@ const voce_stampa& report_engine::entry(std::size_t number) const {
 void report_engine::set_limits() {
     const ui::printer& paper = out_.paper();
     if (uscita_ == uscita_report::pdf) {
-        limits_ = limiti_in_file(paper.orientation());
+        limits_ = page_limits_in_file(paper.orientation());
         return;
     }
     const double units = out_.units_per_millimetre();
     limits_ =
-        limiti_su_stampante(entry(0), paper.page_width() * units, paper.page_height() * units);
+        page_limits_on_printer(entry(0), paper.page_width() * units, paper.page_height() * units);
 }
 
 void report_engine::set_columns() {

@@ -47,14 +47,14 @@ const std::string& report_engine::fitted_title(std::size_t column, std::size_t l
                                                const look& measured) {
     std::string& title = sheet_.colonne[column].titolo_colonna[line];
     const text_ruler ruler(out_.paper(), font_of(measured), out_.units_per_millimetre());
-    title = std::string(accorciato(title, text_ruler::limit(fit_[column]), ruler));
+    title = std::string(cut_to_fit(title, text_ruler::limit(fit_[column]), ruler));
     return title;
 }
 
 // Plain look ----------------------------------------------------------------------------------
 
 double report_engine::frame_bottom() const {
-    const misure_testata_piana& at = misure_di_testata_piana(uscita_);
+    const misure_testata_piana& at = plain_heading_measures(uscita_);
     const double shortest = limits_.alto + at.titoli_a;
     const int kind = entry(0).stile;
     if (kind <= sotto_titoli) return shortest;
@@ -66,7 +66,7 @@ double report_engine::frame_bottom() const {
 }
 
 void report_engine::draw_plain_frame(double bottom) {
-    const misure_testata_piana& at = misure_di_testata_piana(uscita_);
+    const misure_testata_piana& at = plain_heading_measures(uscita_);
     const double ink = entry(5).colore;
     const double from = limits_.alto + at.titoli_da;
     const double to = limits_.alto + at.titoli_a;
@@ -84,7 +84,7 @@ void report_engine::draw_plain_frame(double bottom) {
 }
 
 void report_engine::draw_plain_notes(double bottom) {
-    const misure_testata_piana& at = misure_di_testata_piana(uscita_);
+    const misure_testata_piana& at = plain_heading_measures(uscita_);
     const look small{"Arial", 5, 0, 0, entry(1).colore};
     const double y = bottom + at.nota_y;
     put(limits_.sinistro + at.nota_x, y, nota_piede, small);
@@ -92,7 +92,7 @@ void report_engine::draw_plain_notes(double bottom) {
 }
 
 void report_engine::draw_plain_heading() {
-    const misure_testata_piana& at = misure_di_testata_piana(uscita_);
+    const misure_testata_piana& at = plain_heading_measures(uscita_);
     const double bottom = frame_bottom();
     draw_plain_frame(bottom);
     if (entry(0).stile > sotto_titoli) draw_plain_notes(bottom);
@@ -112,7 +112,7 @@ void report_engine::draw_plain_heading() {
 // Grey look -----------------------------------------------------------------------------------
 
 void report_engine::draw_grey_heading() {
-    const misure_testata_grigia& at = misure_di_testata_grigia(uscita_);
+    const misure_testata_grigia& at = grey_heading_measures(uscita_);
     const double left = limits_.sinistro;
     const double right = limits_.destro;
     const double top = limits_.alto;
@@ -133,7 +133,7 @@ void report_engine::draw_grey_heading() {
 }
 
 void report_engine::draw_grey_titles() {
-    const misure_testata_grigia& at = misure_di_testata_grigia(uscita_);
+    const misure_testata_grigia& at = grey_heading_measures(uscita_);
     const look measured{"Verdana", 8, 0, 0, nero};
     look titles = measured;
     titles.corpo = at.corpo_titoli;

@@ -80,7 +80,7 @@ report_screen::campo report_screen::field(filtro which) {
 void report_screen::load() {
     if (kind_.rilegge_parametri) carica_parametri(app_.parameters, app_.files);
     tabella_pdf settings;
-    carica_pdf(settings, tipo_documento::ordine, app_.parameters, app_.files);
+    load_pdf_settings(settings, tipo_documento::ordine, app_.parameters, app_.files);
     srt.set_visible(false);
     elenco.set_columns(kind_.colonne);
     elenco.set_rows(kind_.righe_minime);

@@ -20,8 +20,8 @@ void sheet_report::list_head(list_rows& list, const testa_ordine& head) {
 }
 
 void sheet_report::list_quantities(list_rows& list, const somme& amounts) {
-    list.write(ordinato, testo_quantita(amounts.ordinato));
-    list.write(evaso, testo_quantita(amounts.evaso));
+    list.write(ordinato, quantity_text(amounts.ordinato));
+    list.write(evaso, quantity_text(amounts.evaso));
 }
 
 void sheet_report::list_totals(list_rows& list, const somme& sums) {

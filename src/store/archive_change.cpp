@@ -12,7 +12,7 @@ archive_change::archive_change(archivi& files, faults then) : files_(files), the
     require(!files.changing, files.tot.name());
     if (!may_write() || !lock()) return;
     changing_ = files.changing = true;
-    segui_archivi(files);
+    follow_archives(files);
 }
 
 /// Takes the lock on the counters file that is in its place.

@@ -8,7 +8,7 @@ namespace {
 
 template <class Record>
 void open(channel<Record>& into, file_port& port, int numero_azienda, const char* extension) {
-    into = channel<Record>(port.open_records(file_azienda(numero_azienda, extension)),
+    into = channel<Record>(port.open_records(company_path(numero_azienda, extension)),
                            std::string("vantora.") + extension);
 }
 
@@ -29,7 +29,7 @@ void apri_archivi(archivi& files, file_port& port, int numero_azienda) {
     open(files.art_blocchi, port, numero_azienda, "art");
 }
 
-void segui_archivi(archivi& files) {
+void follow_archives(archivi& files) {
     const auto follow = [](auto&... all) { (all.follow(), ...); };
     follow(files.tot, files.cli, files.src, files.art, files.sra, files.orc, files.srb, files.mag,
            files.bol, files.prx, files.prv, files.art_blocchi);

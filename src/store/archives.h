@@ -44,7 +44,7 @@ struct archivi {
 void apri_archivi(archivi& files, file_port& port, int numero_azienda);
 
 /// Goes along with files that others stand in the place of by now.
-void segui_archivi(archivi& files);
+void follow_archives(archivi& files);
 
 /// Closes every channel; whatever is tried on them afterwards fails.
 void chiudi_archivi(archivi& files);

@@ -43,19 +43,19 @@ std::int16_t bisect(const channel<Entry>& index, std::int16_t count, std::string
 
 }  // namespace
 
-std::int16_t cerca_nominativo(const channel<rec_src>& index, std::int16_t count,
-                              std::string_view text) {
+std::int16_t find_customer(const channel<rec_src>& index, std::int16_t count,
+                           std::string_view text) {
     return bisect(index, count, text, matching::by_prefix);
 }
 
-std::int16_t cerca_codice_barre(const channel<rec_srb>& index, std::int16_t count,
-                                std::string_view text) {
+std::int16_t look_up_bar_code(const channel<rec_srb>& index, std::int16_t count,
+                              std::string_view text) {
     return bisect(index, count, text, matching::whole);
 }
 
 template <class Entry>
-void percorri_indice(const channel<Entry>& index, std::int16_t count,
-                     const std::function<bool(std::int16_t, const Entry&)>& visit) {
+void walk_index(const channel<Entry>& index, std::int16_t count,
+                const std::function<bool(std::int16_t, const Entry&)>& visit) {
     constexpr int at_once = 512;
     auto entries = all_records_ahead(index, count, at_once);
     Entry entry;
@@ -65,9 +65,9 @@ void percorri_indice(const channel<Entry>& index, std::int16_t count,
     }
 }
 
-template void percorri_indice(const channel<rec_src>&, std::int16_t,
-                              const std::function<bool(std::int16_t, const rec_src&)>&);
-template void percorri_indice(const channel<rec_sra>&, std::int16_t,
-                              const std::function<bool(std::int16_t, const rec_sra&)>&);
+template void walk_index(const channel<rec_src>&, std::int16_t,
+                         const std::function<bool(std::int16_t, const rec_src&)>&);
+template void walk_index(const channel<rec_sra>&, std::int16_t,
+                         const std::function<bool(std::int16_t, const rec_sra&)>&);
 
 }  // namespace vantora

@@ -16,22 +16,22 @@ namespace vantora {
 
 /// Position (from 1) of an entry whose key begins with the text, in capitals and without the
 /// blanks around it; 0 if none. An empty text finds the middle of the index.
-std::int16_t cerca_nominativo(const channel<rec_src>& index, std::int16_t count,
-                              std::string_view text);
+std::int16_t find_customer(const channel<rec_src>& index, std::int16_t count,
+                           std::string_view text);
 
 /// Position (from 1) of an entry whose whole key is the text; 0 if none.
-std::int16_t cerca_codice_barre(const channel<rec_srb>& index, std::int16_t count,
-                                std::string_view text);
+std::int16_t look_up_bar_code(const channel<rec_srb>& index, std::int16_t count,
+                              std::string_view text);
 
 /// Walks entries 1 to `count` in the order of the index, reading many at a time, as long as
 /// `visit(position, entry)` answers true. An entry that can't be read repeats the one before it.
 template <class Entry>
-void percorri_indice(const channel<Entry>& index, std::int16_t count,
-                     const std::function<bool(std::int16_t, const Entry&)>& visit);
+void walk_index(const channel<Entry>& index, std::int16_t count,
+                const std::function<bool(std::int16_t, const Entry&)>& visit);
 
-extern template void percorri_indice(const channel<rec_src>&, std::int16_t,
-                                     const std::function<bool(std::int16_t, const rec_src&)>&);
-extern template void percorri_indice(const channel<rec_sra>&, std::int16_t,
-                                     const std::function<bool(std::int16_t, const rec_sra&)>&);
+extern template void walk_index(const channel<rec_src>&, std::int16_t,
+                                const std::function<bool(std::int16_t, const rec_src&)>&);
+extern template void walk_index(const channel<rec_sra>&, std::int16_t,
+                                const std::function<bool(std::int16_t, const rec_sra&)>&);
 
 }  // namespace vantora

@@ -40,7 +40,7 @@ double percentuale_eccesso(double value, double percent, const valuta& in) {
     return rounded_percentage(value, percent, eccesso, in);
 }
 
-double importo_scontato(double amount, double sc1, double sc2, const valuta& in) {
+double discounted_amount(double amount, double sc1, double sc2, const valuta& in) {
     amount -= percentuale_valuta(amount, sc1, in);
     amount -= percentuale_valuta(amount, sc2, in);
     return amount;
@@ -50,9 +50,9 @@ double finite_or_zero(double value) {
     return std::isfinite(value) ? value : 0;
 }
 
-double valore_netto(double price, double quantity, double sc1, double sc2, const valuta& in) {
+double line_value(double price, double quantity, double sc1, double sc2, const valuta& in) {
     const double gross = arrotonda_valuta(price * quantity, in);
-    return finite_or_zero(arrotonda_valuta(importo_scontato(gross, sc1, sc2, in), in));
+    return finite_or_zero(arrotonda_valuta(discounted_amount(gross, sc1, sc2, in), in));
 }
 
 double testo_a_numero(std::string_view text) {
@@ -80,7 +80,7 @@ std::string formato_prezzo(double value, const valuta& in) {
     return masked(value, by_decimals[static_cast<std::size_t>(in.decimali_prezzo - 2)]);
 }
 
-std::string testo_quantita(double quantity) {
+std::string quantity_text(double quantity) {
     return quantity == 0 ? std::string() : masked(quantity, maschera::quantita);
 }
 

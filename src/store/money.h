@@ -41,14 +41,14 @@ double percentuale_eccesso(double value, double percent, const valuta& in);
 
 /// An amount after the two discounts of a line, in percent: the second is taken on what the first
 /// leaves, each is rounded to the currency's unit.
-double importo_scontato(double amount, double sc1, double sc2, const valuta& in);
+double discounted_amount(double amount, double sc1, double sc2, const valuta& in);
 
 /// A number that a file or a calculation gave; what is no number, or beyond all, counts as 0.
 double finite_or_zero(double value);
 
 /// What a quantity is worth at its price, net of both discounts; 0 where that is beyond all
 /// numbers.
-double valore_netto(double price, double quantity, double sc1, double sc2, const valuta& in);
+double line_value(double price, double quantity, double sc1, double sc2, const valuta& in);
 
 /// The number in an Italian text: points are thousands marks and dropped, the comma is the
 /// decimal mark. Of two points side by side the second stays and ends the number.
@@ -61,7 +61,7 @@ std::string formato_importo(double value, const valuta& in);
 std::string formato_prezzo(double value, const valuta& in);
 
 /// Text of a quantity in a list, with two decimals; empty for 0.
-std::string testo_quantita(double quantity);
+std::string quantity_text(double quantity);
 
 /// Text of a quantity given as text with a decimal point; a whole 0 is empty.
 std::string formato_quantita(std::string_view text);

@@ -53,13 +53,13 @@ class parameter_file {
 
 void load_heading(parametri& into, file_port& files) {
     into.intestazione_ditta = {};
-    parameter_file file(files, file_azienda(into.numero_azienda, "int"));
+    parameter_file file(files, company_path(into.numero_azienda, "int"));
     for (std::size_t slot = 1; slot <= 3; ++slot) file.line(into.intestazione_ditta[slot]);
 }
 
 void load_currency(parametri& into, file_port& files) {
     auto& slots = into.parametri_valuta;
-    parameter_file file(files, file_generale("eur"));
+    parameter_file file(files, general_path("eur"));
     for (std::size_t slot = 1; slot <= 5; ++slot) file.item(slots[slot]);
     if (file.pending()) {
         // Whole texts: GCC 12 warns of literals that are assigned here.
@@ -122,7 +122,7 @@ void load_report_fonts(std::array<voce_stampa, 31>& table, std::int16_t& header_
 void load_report_table(parametri& into, file_port& files) {
     auto& table = into.tabella_stampa;
     table = {};
-    parameter_file file(files, file_generale("tbl"));
+    parameter_file file(files, general_path("tbl"));
     load_report_margins(table[0], file);
 
     file.clear_pending();
@@ -190,9 +190,9 @@ lettura read_gnr(rec_gnr& into, file_port& files, const std::string& path) {
 
 void load_general(parametri& into, file_port& files) {
     rec_gnr& gnr = into.gnr;
-    const auto own = read_gnr(gnr, files, file_azienda(into.numero_azienda, "gnr"));
+    const auto own = read_gnr(gnr, files, company_path(into.numero_azienda, "gnr"));
     const auto shared =
-        own == lettura::manca ? read_gnr(gnr, files, file_generale("gnr")) : lettura::manca;
+        own == lettura::manca ? read_gnr(gnr, files, general_path("gnr")) : lettura::manca;
     // What stands in a file that can't be read belongs to other modules too.
     into.gnr_illeggibile = own == lettura::illeggibile || shared == lettura::illeggibile;
     if (own == lettura::letto || into.gnr_illeggibile) {
@@ -221,7 +221,7 @@ void carica_parametri(parametri& into, file_port& files) {
 
 void salva_parametri(const parametri& values, file_port& files) {
     if (values.gnr_illeggibile) return;
-    const std::string own = file_azienda(values.numero_azienda, "gnr");
+    const std::string own = company_path(values.numero_azienda, "gnr");
     // A company's first one comes whole or not at all: an empty one would hide the general file.
     if (!files.exists(own)) {
         put_whole(files, own, std::as_bytes(std::span(&values.gnr, 1)));

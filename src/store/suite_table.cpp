@@ -63,9 +63,9 @@ constexpr section sections[] = {
 
 }  // namespace
 
-tabella_suite leggi_tabella_suite(file_port& files, int numero_azienda) {
+tabella_suite read_suite_table(file_port& files, int numero_azienda) {
     tabella_suite table;
-    text_reader reader(files.read_whole(file_azienda(numero_azienda, "tab")).value_or(""));
+    text_reader reader(files.read_whole(company_path(numero_azienda, "tab")).value_or(""));
     for (const section& one : sections) {
         for (std::size_t i = 0; i < one.groups; ++i) {
             values group;
@@ -86,7 +86,7 @@ std::string two_digits(int number) {
     return number < 0 ? "-" + digits : digits;
 }
 
-std::vector<std::string> voci_iva(const tabella_iva& iva) {
+std::vector<std::string> vat_entries(const tabella_iva& iva) {
     std::vector<std::string> entries;
     for (std::size_t code = 1; code <= ultima_aliquota; ++code) {
         const std::string number = two_digits(static_cast<int>(code));

@@ -28,12 +28,12 @@ struct tabella_suite {
 
 /// Reads the table file of a company. What a missing or short file doesn't hold is left out of the
 /// lists and empty in the VAT table.
-tabella_suite leggi_tabella_suite(file_port& files, int numero_azienda);
+tabella_suite read_suite_table(file_port& files, int numero_azienda);
 
 /// A code in two digits; what a damaged file holds beyond them shows in full.
 std::string two_digits(int number);
 
 /// The 24 entries of a list of VAT codes: "04 Iva 22%", "14 Non imponibile".
-std::vector<std::string> voci_iva(const tabella_iva& iva);
+std::vector<std::string> vat_entries(const tabella_iva& iva);
 
 }  // namespace vantora

@@ -34,12 +34,12 @@ void article_entries::paint(QPainter* painter, const QStyleOptionViewItem& optio
     painter->setFont(row.font);
     const QFontMetrics& metrics = row.fontMetrics;
     const QRect room = row.rect.adjusted(margin, 0, -margin, 0);
-    const QString code = to_qt(codice_voce(articles_.item(index.row())));
+    const QString code = to_qt(entry_code(articles_.item(index.row())));
     const int column =
         std::max(metrics.horizontalAdvance(wide_code), metrics.horizontalAdvance(code)) + margin;
     painter->drawText(room, Qt::AlignVCenter | Qt::TextSingleLine, code);
     const QRect rest = room.adjusted(column, 0, 0, 0);
-    const QString description = to_qt(descrizione_voce(articles_.item(index.row())));
+    const QString description = to_qt(entry_description(articles_.item(index.row())));
     // Sizes and makers, which tell articles of a kind apart, stand at the end.
     painter->drawText(rest, Qt::AlignVCenter | Qt::TextSingleLine,
                       metrics.elidedText(description, Qt::ElideMiddle, rest.width()));
@@ -52,7 +52,7 @@ QSize article_entries::sizeHint(const QStyleOptionViewItem& option, const QModel
 bool article_entries::helpEvent(QHelpEvent* event, QAbstractItemView* view,
                                 const QStyleOptionViewItem&, const QModelIndex& index) {
     if (event->type() != QEvent::ToolTip || !index.isValid()) return false;
-    show_tip(event->globalPos(), to_qt(descrizione_voce(articles_.item(index.row()))), view);
+    show_tip(event->globalPos(), to_qt(entry_description(articles_.item(index.row()))), view);
     return true;
 }
 

@@ -254,12 +254,12 @@ TEST_F(mirorcm_screen, ShippingDataOfAnOrdersRowsGoOnTheHead) {
         head.Combo1[customer_head::porto].choose(0);
         head.Combo1[customer_head::trasporto].choose(2);
         row.testo3 = testo3;
-        EXPECT_EQ(mostra_spedizione(head, 3, row), in_lists) << testo3;
+        EXPECT_EQ(show_shipping(head, 3, row), in_lists) << testo3;
         EXPECT_EQ(head.Combo1[customer_head::porto].chosen(), porto) << testo3;
         EXPECT_EQ(head.Combo1[customer_head::trasporto].chosen(), trasporto) << testo3;
     }
     row.testo3 = "tre";
-    for (const int number : {1, 2, 4, 5}) EXPECT_TRUE(mostra_spedizione(head, number, row));
+    for (const int number : {1, 2, 4, 5}) EXPECT_TRUE(show_shipping(head, number, row));
     std::string shown;
     for (const int field : {8, 9, 10, 11, 12, 17, 18, 19}) shown += head.Text2[field].text() + " ";
     EXPECT_EQ(shown, "uno due tre uno due uno due tre ");

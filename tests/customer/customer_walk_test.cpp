@@ -48,7 +48,7 @@ struct plain_head {
     }
     /// False if there is none.
     bool search(std::string_view name) {
-        const int found = cerca_nominativo(files.src, static_cast<std::int16_t>(count()), name);
+        const int found = find_customer(files.src, static_cast<std::int16_t>(count()), name);
         if (found > 0) position = found;
         if (found > 0 && reaches(found)) bar = found;
         if (position > 0) show();

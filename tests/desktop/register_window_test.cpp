@@ -153,7 +153,7 @@ TEST_F(register_window, ALongListTellsHowFarItIsAndTheUserWaits) {
 
 TEST_F(register_window, AnotherStationThatIsWaitedForIsSeenAndTheUserWaits) {
     run({[&] {
-             auto other = files.open_records(file_azienda(1, "tot"));
+             auto other = files.open_records(company_path(1, "tot"));
              other->try_lock();
              QTimer::singleShot(0, table(), [&] {
                  auto* note = bench.find<QLabel>("station_note");

@@ -30,7 +30,7 @@ struct document_stage : program_stage<ui::test::prepared_user> {
     /// Limits of the lines, in millimetres from the top.
     void body(const std::string& top, const std::string& bottom,
               tipo_documento kind = tipo_documento::ordine) {
-        const auto first = static_cast<std::size_t>(forma_di(kind).riga_alto);
+        const auto first = static_cast<std::size_t>(document_form(kind).riga_alto);
         tables.tabella_layout[first].posizione = top + "000";
         tables.tabella_layout[first + 1].posizione = bottom + "000";
     }

@@ -35,7 +35,7 @@ std::string read(std::string_view content) {
         const char* names[] = {"no mark", "cut", "no kind", "no number", "too large"};
         return names[static_cast<int>(one.difetto)] + (" in line " + std::to_string(one.riga));
     };
-    const auto found = leggi_file_di_stampa(content);
+    const auto found = read_print_file(content);
     if (const auto* error = std::get_if<errore_di_stampa>(&found)) return fault(*error);
     const auto& document = std::get<documento_di_stampa>(found);
     std::string all = document.orizzontale ? "landscape" : "upright";

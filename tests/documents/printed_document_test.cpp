@@ -35,7 +35,7 @@ std::string fields_of(tipo_documento kind) {
         order.tables.iva.descrizione_iva[code] = "e" + std::to_string(code);
     }
     order.fill_lines(1);
-    for (std::size_t n = 1; n < forma_di(kind).campi.size(); ++n) {
+    for (std::size_t n = 1; n < document_form(kind).campi.size(); ++n) {
         order.tables.tabella_layout[n].posizione = "010020";
     }
     std::string all;
@@ -75,7 +75,8 @@ TEST(printed_document, PagesFollowFromTheHeightOfTheBody) {
             if (lines == 3 && kind == tipo_documento::documento_trasporto) expected = {1, 1, 1};
             document_stage order;
             order.body(top, bottom, kind);
-            const auto descriptions = static_cast<std::size_t>(forma_di(kind).prima_colonna) + 1;
+            const auto descriptions =
+                static_cast<std::size_t>(document_form(kind).prima_colonna) + 1;
             order.tables.tabella_layout[descriptions].posizione = "050000";
             order.fill_lines(lines);
             std::vector<std::size_t> printed;
@@ -112,7 +113,7 @@ TEST(printed_document, LinesShowTheirColumnsFromTheTopOfTheBody) {
           "solo sconto", "", "", "", "-3"}},
     };
     for (const auto& [kind, printed] : cases) {
-        const forma_documento& shape = forma_di(kind);
+        const forma_documento& shape = document_form(kind);
         for (auto& row : order.tables.tabella_layout) row.posizione = "000000";
         order.body("100", "112", kind);
         const auto first = static_cast<std::size_t>(shape.prima_colonna);
@@ -187,7 +188,7 @@ TEST(printed_document, CopiesAreAskedForUnderTheNameOfTheDocumentAndEndInAPdf) {
         for (const char answer : one.answers) {
             order.front.answers.keep(answer == 'y' ? ui::answer::yes : ui::answer::no);
         }
-        offri_copie(order.app, order.document(one.kind), one.mail);
+        offer_copies(order.app, order.document(one.kind), one.mail);
         const std::string over =
             one.kind == ordine ? "Stampa ordine" : "Stampa documento di trasporto";
         strings expected(one.answers.size(), over);
@@ -222,7 +223,7 @@ std::pair<bool, std::string> print_and_hand_over(const Disturb& disturb) {
     disturb(order, faulty);
     using enum ui::answer;
     for (const auto answer : {yes, no, yes, ok}) order.front.answers.keep(answer);
-    offri_copie(app, order.document(), false);
+    offer_copies(app, order.document(), false);
     EXPECT_EQ(order.paper.take_jobs().at(0).pages.size(), 20U);
     const bool started = !order.programs.take_started().empty();
     EXPECT_EQ(order.front.answers.take_answered().size(), started ? 3U : 4U);

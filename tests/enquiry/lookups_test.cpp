@@ -97,12 +97,12 @@ TEST(lookups, PricesAndFiguresAreThoseOfEveryRow) {
             for (int number = 1; number <= righe_blocco; ++number) {
                 const rec_orc row = company.row_now(block, number);
                 if (row.articolo == 2) (row.cliente == 1 ? own : others).push_back(row.prezzo);
-                ordered += valore_netto(row.prezzo, row.quantita, row.sc1, row.sc2, {});
+                ordered += line_value(row.prezzo, row.quantita, row.sc1, row.sc2, {});
                 const double left = std::max(row.quantita - row.evaso, 0.0);
-                open += valore_netto(row.prezzo, left, row.sc1, row.sc2, {});
+                open += line_value(row.prezzo, left, row.sc1, row.sc2, {});
             }
         }
-        const auto prices = cerca_prezzi(company.files, 2, 1, 1000, [](int, int) { return true; });
+        const auto prices = find_prices(company.files, 2, 1, 1000, [](int, int) { return true; });
         const auto prices_of = [](const std::vector<prezzo_praticato>& from) {
             std::vector<double> all;
             for (const auto& one : from) all.push_back(one.riga.prezzo);
@@ -112,7 +112,7 @@ TEST(lookups, PricesAndFiguresAreThoseOfEveryRow) {
         EXPECT_EQ(prices_of(prices.di_altri), others) << seed;
 
         const auto figures =
-            conta_azienda(company.files, {}, {2024, 3, 4}, [](int, int) { return true; });
+            count_company(company.files, {}, {2024, 3, 4}, [](int, int) { return true; });
         const auto sum = [](const std::vector<barra>& bars) {
             double all = 0;
             for (const barra& one : bars) all += one.valore;

@@ -44,9 +44,9 @@ TEST(article_list, ListsLivingArticlesOfWholeBlocksUpToTheOneBehindTheCount) {
                 expected.push_back(mode == per_codice ? code + " - " : name + " - ");
                 expected.back() += (mode == per_codice ? name : code) + wide("", 90) + number;
             }
-            EXPECT_EQ(
-                voci_articoli(company.files.art_blocchi, static_cast<std::int16_t>(count), mode),
-                expected)
+            EXPECT_EQ(article_entries_of(company.files.art_blocchi,
+                                         static_cast<std::int16_t>(count), mode),
+                      expected)
                 << count;
         }
     }
@@ -54,9 +54,9 @@ TEST(article_list, ListsLivingArticlesOfWholeBlocksUpToTheOneBehindTheCount) {
     for (const int number : {32760, 32767, 32768, 32780}) {
         full.files.art.write(number, article("FINE", "", 1));
     }
-    const auto all = voci_articoli(full.files.art_blocchi, 32767, per_codice);
+    const auto all = article_entries_of(full.files.art_blocchi, 32767, per_codice);
     ASSERT_EQ(all.size(), 2U) << "numbers beyond sixteen bits";
-    EXPECT_EQ(numero_articolo(all.back()), 32767);
+    EXPECT_EQ(article_number(all.back()), 32767);
 }
 
 TEST(article_list, ReadsFewTimesAndLeavesOutWhatCantBeRead) {
@@ -66,24 +66,24 @@ TEST(article_list, ReadsFewTimesAndLeavesOutWhatCantBeRead) {
     archivi files;
     apri_archivi(files, port, 1);
     port.reads = 0;
-    EXPECT_EQ(voci_articoli(files.art_blocchi, 3000, per_codice).size(), 3000U - 3000 / 7);
+    EXPECT_EQ(article_entries_of(files.art_blocchi, 3000, per_codice).size(), 3000U - 3000 / 7);
     EXPECT_LE(port.reads, 10U);
     port.reads = 0;
-    EXPECT_EQ(cerca_descrizione(files.art, 3000, "descrizione 2999"), 2999);
+    EXPECT_EQ(find_description(files.art, 3000, "descrizione 2999"), 2999);
     EXPECT_LE(port.reads, 12U);
 
     port.read_fails = [](auto&, std::int64_t offset, auto) { return offset == 0; };
-    const auto rest = voci_articoli(files.art_blocchi, 3000, per_codice);
+    const auto rest = article_entries_of(files.art_blocchi, 3000, per_codice);
     EXPECT_EQ(rest.size(), 3000U - 3000 / 7 - 18) << "a block of twenty";
-    EXPECT_EQ(numero_articolo(rest.back()), 3000);
-    EXPECT_TRUE(voci_articoli(archivi{}.art_blocchi, 3000, per_codice).empty());
+    EXPECT_EQ(article_number(rest.back()), 3000);
+    EXPECT_TRUE(article_entries_of(archivi{}.art_blocchi, 3000, per_codice).empty());
 }
 
 TEST(article_list, SearchesTakeTheFirstThatBeginsWithTheText) {
     const std::vector<std::string> all = {"ab1", "AB", "abc", "\xE0"};
     const std::pair<const char*, int> places[] = {{"AB", 0},    {"ABC", 2},  {"", 0},     {"B", -1},
                                                   {"ABCD", -1}, {"\xC0", 3}, {"AB\b", -1}};
-    for (const auto& [text, place] : places) EXPECT_EQ(cerca_voce(all, text), place) << text;
+    for (const auto& [text, place] : places) EXPECT_EQ(find_entry(all, text), place) << text;
     small_company company;
     auto deleted = article("A", "tubo lungo", 1);
     deleted.eliminato = 1;
@@ -93,7 +93,7 @@ TEST(article_list, SearchesTakeTheFirstThatBeginsWithTheText) {
         {3, "tubo  ", 3},    {1, "tubo", 0}, {3, wide("TUBO", 40), 3}, {3, wide("TUBO", 41), 0},
         {32767, "chiodo", 0}};
     for (const auto& [count, text, number] : descriptions) {
-        EXPECT_EQ(cerca_descrizione(company.files.art, static_cast<std::int16_t>(count), text),
+        EXPECT_EQ(find_description(company.files.art, static_cast<std::int16_t>(count), text),
                   number)
             << text;
     }
@@ -103,14 +103,14 @@ TEST(article_list, TheStockLineCarriesTheNumberBehind140Characters) {
     auto one = article("CODICE", "Descrizione", 1);
     one.giacenza = -2.5;
     one.impegnato = 1000;
-    const std::string line = riga_giacenza(one, 42);
+    const std::string line = stock_entry(one, 42);
     EXPECT_EQ(line.size(), 145U);
     EXPECT_TRUE(line.starts_with("CODICE          - Descrizione "));
     EXPECT_EQ(line.substr(98), " - Giacenza:-2.5 - Impegnato:1000         00042");
-    EXPECT_EQ(numero_articolo(line), 42);
+    EXPECT_EQ(article_number(line), 42);
     one.giacenza = 123456789012345.0;
     one.impegnato = -123456789012345.0;
-    EXPECT_EQ(numero_articolo(riga_giacenza(one, 32767)), 32767);
+    EXPECT_EQ(article_number(stock_entry(one, 32767)), 32767);
 }
 
 }  // namespace

@@ -32,16 +32,16 @@ TEST(draft_text, ComesBackWholeOrNotAtAll) {
             line.iva = static_cast<std::int16_t>(random());
             draft.contenuto.typed_codes[number] = text();
         }
-        const std::string whole = scrivi_bozza(draft);
-        const auto read = leggi_bozza(whole);
+        const std::string whole = write_draft(draft);
+        const auto read = read_draft(whole);
         ASSERT_TRUE(read);
-        EXPECT_EQ(scrivi_bozza(*read), whole);
+        EXPECT_EQ(write_draft(*read), whole);
         EXPECT_EQ(read->text2, draft.text2);
         EXPECT_EQ(read->contenuto.typed_codes, draft.contenuto.typed_codes);
         const std::size_t cut = random() % (whole.size() - 1);
-        EXPECT_FALSE(leggi_bozza(whole.substr(0, cut)));
+        EXPECT_FALSE(read_draft(whole.substr(0, cut)));
     }
-    EXPECT_TRUE(leggi_bozza("Vantora Ordini, bozza 1\nriga9.prezzo=1e999\nriga1.iva=x\nfine\n"));
+    EXPECT_TRUE(read_draft("Vantora Ordini, bozza 1\nriga9.prezzo=1e999\nriga1.iva=x\nfine\n"));
 }
 
 /// A person at a station of a company with one order of two pieces; what ends without a word is
@@ -105,15 +105,15 @@ TEST_F(drafts, AnOrderThatWasCutOffIsSavedAsIfItHadNotBeen) {
         draft_station at(twin, apart);
         at.type(at.begin_order(), "tubo");
         at.save_new();
-        EXPECT_TRUE(bozze_in_attesa(at.app).empty());
+        EXPECT_TRUE(waiting_drafts(at.app).empty());
     }
     const std::string before = archive(company);
     {
         draft_station at(company, person);
         at.type(at.begin_order(), "tubo");
-        EXPECT_TRUE(bozze_in_attesa(at.app).empty()) << "a window has it";
+        EXPECT_TRUE(waiting_drafts(at.app).empty()) << "a window has it";
         draft_station beside(company, person);
-        EXPECT_TRUE(bozze_in_attesa(beside.app).empty() && beside.front.told.empty());
+        EXPECT_TRUE(waiting_drafts(beside.app).empty() && beside.front.told.empty());
     }
     EXPECT_EQ(archive(company), before);
 
@@ -124,7 +124,7 @@ TEST_F(drafts, AnOrderThatWasCutOffIsSavedAsIfItHadNotBeen) {
     ASSERT_EQ(at.active(), "mirorcs");
     at.save_new();
     EXPECT_EQ(archive(company), archive(twin));
-    EXPECT_TRUE(bozze_in_attesa(at.app).empty());
+    EXPECT_TRUE(waiting_drafts(at.app).empty());
 }
 
 TEST_F(drafts, AnOpenedOrderIsGoneOnWithOnlyAsItWasLeft) {
@@ -141,7 +141,7 @@ TEST_F(drafts, AnOpenedOrderIsGoneOnWithOnlyAsItWasLeft) {
         ASSERT_EQ(at.active(), "mirorcz");
         EXPECT_EQ(at.app.mirorcz->ds[3].text(), "nota");
         at.desk.dispatch([&] { at.app.mirorcz->comando[1].click(); });
-        EXPECT_TRUE(bozze_in_attesa(at.app).empty());
+        EXPECT_TRUE(waiting_drafts(at.app).empty());
     }
     leave_cut_off("altra nota");
     {

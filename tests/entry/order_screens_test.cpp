@@ -34,7 +34,7 @@ TEST(mirorcs, ANewOrderTakesItsHeadFromTheCustomersScreenAndIsPrinted) {
         screen.show();
         EXPECT_EQ(screen.quantita[0].text(), "2") << "nothing else happens during a save";
         EXPECT_EQ(at.desk.pointer_shape(), ui::pointer::normal);
-        EXPECT_EQ(testata_da_stampare(*at.app.mirorcx).combo1[1], "Pagamento 2");
+        EXPECT_EQ(head_to_print(*at.app.mirorcx).combo1[1], "Pagamento 2");
         return at.front.told.back() != "Stampa altra copia?";
     };
     at.desk.dispatch([&] {

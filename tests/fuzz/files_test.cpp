@@ -37,7 +37,7 @@ class one_content final : public file_port {
 };
 
 void read_as_print_file(std::string_view content) {
-    const auto read = leggi_file_di_stampa(content);
+    const auto read = read_print_file(content);
     if (const auto* error = std::get_if<errore_di_stampa>(&read)) {
         EXPECT_GE(error->riga, 1U);
         EXPECT_LE(error->riga, content.size() + righe_per_record);
@@ -61,7 +61,7 @@ void read_as_parameters(parametri& parameters, one_content& files) {
     const valuta currency(parameters);
     EXPECT_TRUE(currency.decimali_prezzo >= 2 && currency.decimali_prezzo <= 5);
     formato_prezzo(parameters.tabella_stampa[0].sfondo, currency);
-    EXPECT_LE(leggi_tabella_suite(files, 1).pagamenti.size(), 60U);
+    EXPECT_LE(read_suite_table(files, 1).pagamenti.size(), 60U);
 }
 
 void read_as_picture(std::string_view content) {

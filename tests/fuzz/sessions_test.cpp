@@ -82,7 +82,7 @@ class other_station {
         const archive_change alone(files_);
         if (!alone.may_write()) return;
         constexpr const char* extensions[] = {"tot", "orc", "art", "mag", "bol"};
-        const fs::path place = drive_.locate(file_azienda(1, extensions[by.below(5)]));
+        const fs::path place = drive_.locate(company_path(1, extensions[by.below(5)]));
         const fs::path aside = outside_.path() / std::to_string(replaced_.size());
         if (by.below(3) == 0) {
             fs::rename(place, aside);

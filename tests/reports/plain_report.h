@@ -52,7 +52,7 @@ struct plain_report {
                 if (grigio) scritta.italic = c.di.corsivo_cella[linea] || (!in_file && in.italic);
                 const ui::font& misura = in_file ? in : scritta;
                 std::string cella =
-                    formattata(celle[c.i + linea * foglio.colonne.size()], c.di.formato_cella);
+                    formatted(celle[c.i + linea * foglio.colonne.size()], c.di.formato_cella);
                 adatta(cella, c.spazio, misura);
                 const double scende = linea == 0 ? o(20, 0) : o(220, 3);
                 in_colonna(c, y + (grigio ? scende : 0), cella, misura, scritta,
@@ -166,7 +166,7 @@ struct plain_report {
         }
     }
 
-    std::string formattata(const std::string& cella, int formato) const {
+    std::string formatted(const std::string& cella, int formato) const {
         if (formato < 1 || cella.find('(') != std::string::npos || cella.substr(0, 3) == "---" ||
             cella.substr(0, 3) == "===") {
             return cella;

@@ -33,7 +33,7 @@ struct report_road : testing::Test {
     /// Rows of the list on each page of the print file.
     std::vector<int> rows_in_file() {
         std::vector<int> counts;
-        const auto read = leggi_file_di_stampa(stage.files.read_whole(file_di_stampa).value_or(""));
+        const auto read = read_print_file(stage.files.read_whole(file_di_stampa).value_or(""));
         for (const auto& page : std::get<documento_di_stampa>(read).pagine) {
             counts.push_back(0);
             for (const auto& one : page) counts.back() += one.testo.starts_with("n. ");

@@ -20,7 +20,7 @@ namespace {
 class lookout {
  public:
     explicit lookout(const std::filesystem::path& root)
-        : other_(root), counters_(other_.open_records(file_azienda(1, "tot"))) {
+        : other_(root), counters_(other_.open_records(company_path(1, "tot"))) {
         watching = this;
     }
     lookout(const lookout&) = delete;

@@ -28,7 +28,7 @@ struct two_stations {
         faults.events.clear();
     }
     [[nodiscard]] fs::path path(const char* extension) const {
-        return faults.locate(file_azienda(1, extension));
+        return faults.locate(company_path(1, extension));
     }
     change_outcome change_orders(archivi& of) const {
         archive_change change(of);
@@ -78,7 +78,7 @@ TEST(archive_change, WithoutALockNothingChangesUnlessThereAreNone) {
     at.faults.lock_answers.reset();
 
     drive reading(at.folder.path(), drive::access::reading_only);
-    EXPECT_EQ(reading.open_records(file_azienda(1, "tot"))->try_lock(), lock_answer::refused);
+    EXPECT_EQ(reading.open_records(company_path(1, "tot"))->try_lock(), lock_answer::refused);
 }
 
 TEST(archive_change, GoesAlongWithReplacedFilesAndRefusesRemovedOnes) {

@@ -137,12 +137,12 @@ TEST(company, NumbersAndFolders) {
         {"ordini -5", -5}, {"ordiniabc", 0},      {"ordini 42", 42}, {"ordini1e3", 0},
         {"ordini9e9", 0},  {"ordini2 x9", 2}};
     for (const auto& [argument, number] : arguments) {
-        EXPECT_EQ(numero_azienda_in(argument), number) << argument;
+        EXPECT_EQ(company_number_in(argument), number) << argument;
     }
-    EXPECT_EQ(file_azienda(7, "orc"), "\\mirwin\\mirwin\\miraz0.007\\vantora.orc");
-    EXPECT_EQ(cartella_azienda(123), "\\mirwin\\mirwin\\miraz0.123");
-    EXPECT_EQ(cartella_azienda(-5), "\\mirwin\\mirwin\\miraz0.0-5");
-    EXPECT_EQ(file_generale("eur"), "\\mirwin\\mirwin\\vantora.eur");
+    EXPECT_EQ(company_path(7, "orc"), "\\mirwin\\mirwin\\miraz0.007\\vantora.orc");
+    EXPECT_EQ(folder_of_company(123), "\\mirwin\\mirwin\\miraz0.123");
+    EXPECT_EQ(folder_of_company(-5), "\\mirwin\\mirwin\\miraz0.0-5");
+    EXPECT_EQ(general_path("eur"), "\\mirwin\\mirwin\\vantora.eur");
 }
 
 }  // namespace

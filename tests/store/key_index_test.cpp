@@ -57,8 +57,8 @@ TEST_F(key_index, FindsWhatIsThereInFewReads) {
         for (const char* wanted : {"a", " B ", "ab", "zz", "\xC8", "aaaa", "0"}) {
             for (const bool by_prefix : {true, false}) {
                 counted.reads = 0;
-                const int found = by_prefix ? cerca_nominativo(names, count, wanted)
-                                            : cerca_codice_barre(codes, count, wanted);
+                const int found = by_prefix ? find_customer(names, count, wanted)
+                                            : look_up_bar_code(codes, count, wanted);
                 EXPECT_LE(static_cast<double>(counted.reads), allowed) << count;
                 const auto is_meant = [&](const auto& key) {
                     return matches(key, wanted, by_prefix);
@@ -72,7 +72,7 @@ TEST_F(key_index, FindsWhatIsThereInFewReads) {
             }
         }
     }
-    EXPECT_EQ(cerca_nominativo(channel<rec_src>(), 100, "alfa"), 0) << "a closed channel";
+    EXPECT_EQ(find_customer(channel<rec_src>(), 100, "alfa"), 0) << "a closed channel";
 }
 
 }  // namespace

@@ -43,7 +43,7 @@ tabella_suite read(const std::string& content) {
     const test::scratch_folder folder;
     test::put(folder.path() / "mirwin/mirwin/miraz0.001/vantora.tab", content);
     drive files(folder.path());
-    return leggi_tabella_suite(files, 1);
+    return read_suite_table(files, 1);
 }
 
 TEST(suite_table, EverySectionIsFoundAtItsPlace) {
@@ -91,7 +91,7 @@ TEST(suite_table, VatEntriesReadAsTheListShowsThem) {
     tabella_iva iva;
     iva.aliquota_iva[4] = "22";
     iva.descrizione_iva[2] = "Esente";
-    const auto entries = voci_iva(iva);
+    const auto entries = vat_entries(iva);
     ASSERT_EQ(entries.size(), 24U);
     EXPECT_EQ(entries[0] + entries[3] + entries[13] + entries[23],
               "01 Iva %04 Iva 22%14 Esente24 ");

@@ -157,7 +157,7 @@ TEST(archive_check, TellsTenOfAHundredAlikeAndNoControlByteAndKeepsQuietIfAsked)
         report({.all = true}).second.starts_with("Ditta 7\nL'archivio è in ordine.\nI blocchi "));
     {
         drive other(company.drive());
-        const auto tot = other.open_records(file_azienda(7, "tot"));
+        const auto tot = other.open_records(company_path(7, "tot"));
         ASSERT_EQ(tot->try_lock(), lock_answer::held);
         const std::string said = report({}).second;
         EXPECT_NE(said.find(without_controls(this_station())), std::string::npos) << said;

@@ -21,7 +21,7 @@ template <class Record>
 void change(const demo_folder& company, const char* extension, std::int64_t number,
             const std::function<void(Record&)>& by) {
     drive files(company.drive());
-    channel<Record> records(files.open_records(file_azienda(7, extension)));
+    channel<Record> records(files.open_records(company_path(7, extension)));
     Record record;
     records.read(number, record);
     by(record);

@@ -47,8 +47,8 @@ TEST(demo_company, OrdersStandInEveryStateAndStockAgreesWithTheMovements) {
         left[{movement.data_reg, movement.cliente}] += movement.quantita;
     }
     for (const rec_bol& document : records_of<rec_bol>(made.file("bol"))) {
-        const std::string name = nome_istantanea(document.progressivo);
-        const auto kept = leggi_istantanea(bytes_of(made.file("bol").replace_filename(name)));
+        const std::string name = snapshot_name(document.progressivo);
+        const auto kept = read_snapshot(bytes_of(made.file("bol").replace_filename(name)));
         ASSERT_TRUE(kept) << name;
         double& rest = left[{document.data_reg, document.cliente}];
         for (int line = 1; line <= righe_ordine::massimo; ++line) {
@@ -67,7 +67,7 @@ TEST(demo_company, OrdersStandInEveryStateAndStockAgreesWithTheMovements) {
 
 /// Well-known ones, as other programs check them.
 TEST(demo_company, CodesEndInTheirCheckDigits) {
-    EXPECT_EQ(demo::codice_ean("400638133393"), "4006381333931");
+    EXPECT_EQ(demo::ean_code("400638133393"), "4006381333931");
     EXPECT_EQ(demo::partita_iva("0074311015"), "00743110157");
     EXPECT_EQ(demo::codice_fiscale("RSSMRA85T10A562"), "RSSMRA85T10A562S");
 }

@@ -93,7 +93,7 @@ void check_drawing(company_files& company, const std::string& name, const std::s
 }
 
 void check_rates(company_files& company, findings& into) {
-    const auto table = leggi_tabella_suite(company.files(), company.numero_azienda());
+    const auto table = read_suite_table(company.files(), company.numero_azienda());
     for (std::size_t code = 1; code < table.iva.aliquota_iva.size(); ++code) {
         const std::string& rate = table.iva.aliquota_iva[code];
         const auto number = whole_number_text(trimmed(rate));
@@ -114,7 +114,7 @@ void check_layouts(company_files& company, findings& into) {
     };
     for (const document& one : {document{"lyo", "lko"}, document{"lyb", "lkb"}}) {
         const auto path = [&](const char* extension) {
-            return file_azienda(company.numero_azienda(), extension);
+            return company_path(company.numero_azienda(), extension);
         };
         if (check_layout(company, std::string("vantora.") + one.layout, path(one.layout), into)) {
             check_drawing(company, std::string("vantora.") + one.drawing, path(one.drawing), into);

@@ -50,8 +50,8 @@ std::optional<std::string> text_of(company_files& company, const std::string& pa
 void check_text_table(const text_table& table, company_files& company, findings& into) {
     const std::string name = std::string("vantora.") + table.extension;
     auto content = text_of(company,
-                           table.general ? file_generale(table.extension)
-                                         : file_azienda(company.numero_azienda(), table.extension),
+                           table.general ? general_path(table.extension)
+                                         : company_path(company.numero_azienda(), table.extension),
                            name, table.fallback, into);
     if (!content) return;
     text_reader reader(std::move(*content));
@@ -67,7 +67,7 @@ void check_text_table(const text_table& table, company_files& company, findings&
 void check_currency(company_files& company, findings& into) {
     constexpr int needed = 5;
     constexpr const char* fallback = "gli importi sono in euro con due decimali";
-    auto content = text_of(company, file_generale("eur"), "vantora.eur", fallback, into);
+    auto content = text_of(company, general_path("eur"), "vantora.eur", fallback, into);
     if (!content) return;
     text_reader reader(std::move(*content));
     int items = 0;
@@ -86,7 +86,7 @@ void check_currency(company_files& company, findings& into) {
 
 void check_general(company_files& company, findings& into) {
     const std::string name = "vantora.gnr";
-    const auto content = text_of(company, file_azienda(company.numero_azienda(), "gnr"), name,
+    const auto content = text_of(company, company_path(company.numero_azienda(), "gnr"), name,
                                  "il prossimo avvio rifà i parametri dell'azienda con i valori "
                                  "normali",
                                  into);

@@ -74,7 +74,7 @@ bool tell_differences(const copy_outcome& copy, file_port& now, int numero_azien
     };
     copy_pace unseen;
     std::vector<std::string> there;
-    const fs::path folder = now.locate(cartella_azienda(numero_azienda));
+    const fs::path folder = now.locate(folder_of_company(numero_azienda));
     if (fs::is_directory(folder)) {
         for (const listed_file& one : list_company(now.locate("\\"), folder)) {
             there.push_back(one.path);

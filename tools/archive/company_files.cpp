@@ -20,7 +20,7 @@ company_files::company_files(const fs::path& root, int numero_azienda)
 }
 
 fs::path company_files::folder() const {
-    return port_.locate(cartella_azienda(numero_));
+    return port_.locate(folder_of_company(numero_));
 }
 
 bool company_files::folder_exists() const {
@@ -29,7 +29,7 @@ bool company_files::folder_exists() const {
 }
 
 fs::path company_files::path_of(std::string_view extension) const {
-    return port_.locate(file_azienda(numero_, extension));
+    return port_.locate(company_path(numero_, extension));
 }
 
 std::optional<std::int64_t> company_files::length_of(std::string_view extension) const {

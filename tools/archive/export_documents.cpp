@@ -24,7 +24,7 @@ struct snapshot {
 /// needs it no more once the document is out.
 std::optional<snapshot> snapshot_of(company_files& company, const rec_bol& record, gaps& missing) {
     const std::string name = "b" + masked(double{float{record.progressivo}}, "##########0");
-    const std::string path = cartella_azienda(company.numero_azienda()) + "\\" + name;
+    const std::string path = folder_of_company(company.numero_azienda()) + "\\" + name;
     if (!company.files().exists(path)) return {};
     auto content = company.files().read_whole(path);
     if (!content) {

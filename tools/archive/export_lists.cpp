@@ -106,7 +106,7 @@ void export_parameters(company_files& company, table_writer& into) {
                 2});
     const int number = company.numero_azienda();
     rec_gnr general;
-    const auto bytes = company.files().read_whole(file_azienda(number, "gnr"));
+    const auto bytes = company.files().read_whole(company_path(number, "gnr"));
     if (bytes && bytes->size() >= sizeof general) {
         std::memcpy(&general, bytes->data(), sizeof general);
         visit_fields(general, [&](const auto& field, const auto& value) {
@@ -118,7 +118,7 @@ void export_parameters(company_files& company, table_writer& into) {
     }
     for (const parameter_file& file : parameter_files) {
         const auto path =
-            file.general ? file_generale(file.extension) : file_azienda(number, file.extension);
+            file.general ? general_path(file.extension) : company_path(number, file.extension);
         int line = 0;
         for (const std::string& text : lines_of(company, path)) {
             into.row({std::string("vantora.") + file.extension, std::to_string(++line),
@@ -132,14 +132,14 @@ void export_parameters(company_files& company, table_writer& into) {
 
 void export_lists(company_files& company, table_writer& into, gaps& missing) {
     const naming& names = into.names;
-    const tabella_suite table = leggi_tabella_suite(company.files(), company.numero_azienda());
+    const tabella_suite table = read_suite_table(company.files(), company.numero_azienda());
     export_vat(table.iva, into);
     export_list(names("pagamenti", "payments"), table.pagamenti, 1, into);
     export_list(names("causali", "transport_causes"), table.causali, 1, into);
     export_list(names("aspetti", "goods_aspects"), table.aspetti, 1, into);
     export_carriers(table.vettori, into);
     export_list(names("categorie", "categories"),
-                lines_of(company, file_azienda(company.numero_azienda(), "tb2")), 0, into);
+                lines_of(company, company_path(company.numero_azienda(), "tb2")), 0, into);
     export_counters(company, into, missing);
     export_parameters(company, into);
 }

@@ -27,7 +27,7 @@ constexpr counted_file counted_files[] = {
 std::string gap_at(company_files& company, const counted_file& file) {
     const auto length = company.length_of(file.extension);
     if (!length) return "manca";
-    if (!company.files().open_records(file_azienda(company.numero_azienda(), file.extension))) {
+    if (!company.files().open_records(company_path(company.numero_azienda(), file.extension))) {
         return "non si può aprire";
     }
     const std::string cut =
@@ -60,7 +60,7 @@ gaps gaps_of(company_files& company) {
         }
     }
     for (const char* extension : text_files) {
-        if (company.files().read_whole(file_azienda(company.numero_azienda(), extension))) continue;
+        if (company.files().read_whole(company_path(company.numero_azienda(), extension))) continue;
         all.push_back({std::string("vantora.") + extension, "manca o non si può leggere"});
     }
     return all;

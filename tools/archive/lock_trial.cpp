@@ -111,7 +111,7 @@ finding try_locks(file_port& files, int numero_azienda) {
     struct stat company {};
     struct stat general {};
     const fs::path folder = files.locate(cartella_generale);
-    if (::stat(files.locate(cartella_azienda(numero_azienda)).c_str(), &company) != 0 ||
+    if (::stat(files.locate(folder_of_company(numero_azienda)).c_str(), &company) != 0 ||
         ::stat(folder.c_str(), &general) != 0 || company.st_dev != general.st_dev) {
         return not_tried("la ditta sta su un disco diverso dalla cartella generale");
     }

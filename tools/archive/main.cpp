@@ -10,7 +10,7 @@
 namespace vantora::archive {
 
 int which_company::number() const {
-    return numero_azienda_in(argument);
+    return company_number_in(argument);
 }
 
 std::unique_ptr<company_files> opened(const which_company& one) {

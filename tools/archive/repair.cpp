@@ -16,7 +16,7 @@ constexpr int refused = 1;
 constexpr int not_possible = 3;
 
 std::string path_of(const repair_request& request, const char* extension) {
-    return file_azienda(request.numero_azienda, extension);
+    return company_path(request.numero_azienda, extension);
 }
 
 void show(const repair_plan& plan, const repair_request& request) {
@@ -31,7 +31,7 @@ void show(const repair_plan& plan, const repair_request& request) {
 
 /// What stands in the company's folder while a repair writes.
 std::string mark_of(const repair_request& request, const char* name) {
-    return file_azienda(request.numero_azienda, std::string(unfinished_repair) + name);
+    return company_path(request.numero_azienda, std::string(unfinished_repair) + name);
 }
 
 void drop_mark(const repair_request& request, const char* name) {

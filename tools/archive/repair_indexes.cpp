@@ -101,7 +101,7 @@ repair_plan plan_indexes(company_files& company) {
             {words_for(index, made), index.extension,
              [extension = index.extension, bytes = bytes_of(made.now)](const repair_tools& tools) {
                  const bool put =
-                     put_whole(tools.files, file_azienda(tools.numero_azienda, extension),
+                     put_whole(tools.files, company_path(tools.numero_azienda, extension),
                                std::as_bytes(std::span(bytes)));
                  return tools.change.note_write(put, std::string("vantora.") + extension);
              }});

@@ -107,7 +107,7 @@ std::string figure(double value) {
 
 show_words::show_words(company_files& company)
     : files_(company.records()),
-      vat_(leggi_tabella_suite(company.files(), company.numero_azienda()).iva),
+      vat_(read_suite_table(company.files(), company.numero_azienda()).iva),
       currency_(currency_of(company)) {}
 
 std::string show_words::customer(std::int16_t number) const {

@@ -37,7 +37,7 @@ constexpr std::int64_t counters_needed = contatori::ordini * std::int64_t{sizeof
 
 void survey_file(const record_file& file, company_files& company, survey& into) {
     const std::string name = std::string("vantora.") + file.extension;
-    const std::string path = file_azienda(company.numero_azienda(), file.extension);
+    const std::string path = company_path(company.numero_azienda(), file.extension);
     if (const std::string obstacle = obstacle_at(company, path); !obstacle.empty()) {
         const bool lost_index = !file.depends && file.counter > 0 && obstacle == "manca";
         into.all.push_back({gravity::error, "file-missing", name, obstacle,

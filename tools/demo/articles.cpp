@@ -35,7 +35,7 @@ void set_prices(article& one, draws& chance, const product& kind, int size, int 
 
 void set_bar_code(rec_art& record, draws& chance, int number, int maker) {
     const std::string code = "80" + zero_padded(12345 + 1111 * maker, 5) + zero_padded(number, 5);
-    record.codice_barre = chance.percent(95) ? codice_ean(code) : "";
+    record.codice_barre = chance.percent(95) ? ean_code(code) : "";
 }
 
 void set_suppliers(rec_art& record, draws& chance) {

@@ -50,7 +50,7 @@ std::string three_letters(std::string_view name) {
     return (consonants + vowels + "XXX").substr(0, 3);
 }
 
-std::string codice_ean(std::string_view twelve_digits) {
+std::string ean_code(std::string_view twelve_digits) {
     int sum = 0;
     for (std::size_t i = 0; i < twelve_digits.size(); ++i) {
         sum += digit(twelve_digits[i]) * (i % 2 == 0 ? 1 : 3);

@@ -16,7 +16,7 @@ std::string codice_fiscale(std::string_view fifteen);
 std::string three_letters(std::string_view name);
 
 /// EAN-13 bar code: twelve digits and their check digit. REQUIRES: twelve digits.
-std::string codice_ean(std::string_view twelve_digits);
+std::string ean_code(std::string_view twelve_digits);
 
 /// A number with zeros in front. A longer number loses its first digits.
 std::string zero_padded(long long number, std::size_t width);

@@ -74,7 +74,7 @@ void delivery::write_text_file(folder_writer& folder) {
     kept_.cliente = static_cast<std::int16_t>(of_.customer_number);
     const std::string day = shown_day(of_.day);
     kept_.text3 = {std::to_string(number_), day, std::to_string(1 + lines_ / righe_a_collo),
-                   testo_peso(weight_),     day, time_of(of_.seconds)};
+                   weight_text(weight_),    day, time_of(of_.seconds)};
     kept_.causale = 0;
     kept_.aspetto = number_ % 3;
     kept_.porto = of_.choices[0] - '0';
@@ -91,8 +91,7 @@ void delivery::write_text_file(folder_writer& folder) {
     place(vettore1, to.vettore1);
     place(vettore2, to.vettore2);
     place(vettore3, to.vettore3);
-    folder.write_one_of_many(nome_istantanea(static_cast<float>(number_)),
-                             scrivi_istantanea(kept_));
+    folder.write_one_of_many(snapshot_name(static_cast<float>(number_)), write_snapshot(kept_));
 }
 
 }  // namespace vantora::demo

@@ -95,7 +95,7 @@ void write_tables(folder_writer& into) {
 void write_pages(folder_writer& into, int numero_azienda) {
     const std::string logo = logo_bitmap();
     into.write_bytes("logo.bmp", std::as_bytes(std::span(logo)));
-    const std::string logo_path = cartella_azienda(numero_azienda) + "\\logo.bmp";
+    const std::string logo_path = folder_of_company(numero_azienda) + "\\logo.bmp";
     into.write_lines("vantora.lyo", layout_lines(order_page));
     into.write_lines("vantora.lko", drawing_lines(order_page, logo_path));
     into.write_lines("vantora.lyb", layout_lines(transport_page));
@@ -114,7 +114,7 @@ bool is_there(const drive& suite, std::string_view path) {
 void write_general_files(drive& suite) {
     folder_writer general(suite, "\\mirwin\\mirwin");
     const auto missing = [&](std::string_view extension) {
-        return !is_there(suite, file_generale(extension));
+        return !is_there(suite, general_path(extension));
     };
     if (missing("eur")) general.write_lines("vantora.eur", currency_lines());
     if (missing("tbl")) general.write_lines("vantora.tbl", report_table_lines());
@@ -125,8 +125,8 @@ void write_general_files(drive& suite) {
 class unfinished_company {
  public:
     unfinished_company(drive& suite, int numero_azienda)
-        : final_path_(suite.locate(cartella_azienda(numero_azienda))),
-          folder_(cartella_azienda(numero_azienda) + ".parziale"),
+        : final_path_(suite.locate(folder_of_company(numero_azienda))),
+          folder_(folder_of_company(numero_azienda) + ".parziale"),
           path_(suite.locate(folder_)) {
         std::filesystem::remove_all(path_);
         make_folder(suite, folder_);
@@ -158,7 +158,7 @@ void make_company(const demo_request& request, const std::filesystem::path& driv
         throw demo_error("Servono clienti per fare degli ordini");
     }
     drive suite(drive_root);
-    const std::string company = cartella_azienda(request.numero_azienda);
+    const std::string company = folder_of_company(request.numero_azienda);
     try {
         if (is_there(suite, company)) {
             throw demo_error("L'azienda esiste già: " + suite.locate(company).string());

@@ -96,7 +96,7 @@ int carry_out(const pdf_request& request, const std::optional<std::string>& prin
         tell.failure("Il file di stampa " + source + " non si può leggere.");
         return no_pdf;
     }
-    const auto read = leggi_file_di_stampa(*print_file);
+    const auto read = read_print_file(*print_file);
     if (const auto* error = std::get_if<errore_di_stampa>(&read)) {
         tell.failure("Il PDF non è stato creato: il file di stampa " + source + " " +
                      explained(*error) + ".");
@@ -124,7 +124,7 @@ int carry_out(const pdf_request& request, const std::optional<std::string>& prin
     if (!pictures.left_out().empty()) odd += " Mancano figure troppo grandi.";
     if (!pictures.other_kinds().empty()) {
         odd += " Si leggono solo figure BMP, PNG, JPEG e GIF, non queste: " +
-               to_qt(nomi_di_figure(pictures.other_kinds())) + ".";
+               to_qt(picture_names(pictures.other_kinds())) + ".";
     }
     const QString ready = "Il documento è pronto.";
     if (request.addressee.empty()) {
