@@ -8,7 +8,6 @@
 #include <map>
 #include <set>
 
-#include "demo/codes.h"
 #include "demo_folder.h"
 #include "orders/ddt_snapshot.h"
 #include "store/drive.h"
@@ -66,12 +65,6 @@ TEST(demo_company, OrdersStandInEveryStateAndStockAgreesWithTheMovements) {
 }
 
 /// Well-known ones, as other programs check them.
-TEST(demo_company, CodesEndInTheirCheckDigits) {
-    EXPECT_EQ(demo::ean_code("400638133393"), "4006381333931");
-    EXPECT_EQ(demo::partita_iva("0074311015"), "00743110157");
-    EXPECT_EQ(demo::codice_fiscale("RSSMRA85T10A562"), "RSSMRA85T10A562S");
-}
-
 TEST(demo_company, WhatIsThereStays) {
     for (const char* spelling : {"mirwin/mirwin/miraz0.007", "MIRWIN/Mirwin/MIRAZ0.007"}) {
         const scratch_folder drive;
