@@ -291,17 +291,22 @@ TEST(archive_export, ASpreadsheetNeitherComputesNorTurnsATextAndOneApostropheGoe
 TEST(archive_export, WhatIsMissingIsToldAndAnEarlierTargetStays) {
     const demo_folder folder(test::small_company);
     const test::scratch_folder out;
-    const auto write = [&](const std::filesystem::path& into) {
+    const auto write = [&](const std::filesystem::path& into, bool english = false) {
         company_files company(folder.drive(), 7);
         csv_folder csv(into, true);
-        const auto outcome = export_tables(company, csv, false, gaps_of(company));
+        const auto outcome = export_tables(company, csv, english, gaps_of(company));
         return csv.finish() ? outcome.missing.size() : 99;
     };
     EXPECT_EQ(write(out.path() / "csv"), 0U);
-    std::ofstream(out.path() / "csv/mio.txt") << "mine";
-    EXPECT_NE(csv_folder::obstacle(out.path() / "csv"), "");
-    std::filesystem::remove(out.path() / "csv/mio.txt");
+    for (const char* mine : {"csv/mio.txt", "csv/clienti miei.csv"}) {
+        test::put(out.path() / mine, "mine");
+        EXPECT_NE(csv_folder::obstacle(out.path() / "csv"), "");
+        std::filesystem::remove(out.path() / mine);
+    }
+    write(out.path() / "english", true);
     EXPECT_EQ(csv_folder::obstacle(out.path() / "csv"), "");
+    EXPECT_EQ(csv_folder::obstacle(out.path() / "english"), "");
+    std::filesystem::remove_all(out.path() / "english");
     const test::scratch_folder own;
     test::put(own.path() / "mio.csv", "a;b");
     EXPECT_NE(csv_folder::obstacle(own.path()), "") << "lists of one's own";

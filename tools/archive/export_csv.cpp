@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
+#include <string_view>
 
 #include "archive/csv_text.h"
 #include "archive/words.h"
@@ -15,6 +17,50 @@ namespace {
 
 constexpr std::size_t handed_over_at = 1 << 20;
 constexpr const char* line_end = "\r\n";
+
+/// What an export may hold, in both languages: a list of any other name is somebody's own.
+constexpr std::string_view known_tables[] = {"altri_campi",
+                                             "other_fields",
+                                             "articoli",
+                                             "articles",
+                                             "aspetti",
+                                             "goods_aspects",
+                                             "categorie",
+                                             "categories",
+                                             "causali",
+                                             "transport_causes",
+                                             "clienti",
+                                             "customers",
+                                             "codici_iva",
+                                             "vat_codes",
+                                             "contatori",
+                                             "counters",
+                                             "ddt",
+                                             "transport_documents",
+                                             "mancanze",
+                                             "missing",
+                                             "movimenti",
+                                             "movements",
+                                             "ordini",
+                                             "orders",
+                                             "pagamenti",
+                                             "payments",
+                                             "parametri",
+                                             "parameters",
+                                             "preventivi",
+                                             "quotes",
+                                             "riferimenti_mancanti",
+                                             "missing_references",
+                                             "righe_ddt",
+                                             "transport_document_lines",
+                                             "righe_ordini",
+                                             "order_lines",
+                                             "righe_preventivi",
+                                             "quote_lines",
+                                             "testi_articoli",
+                                             "article_texts",
+                                             "vettori",
+                                             "carriers"};
 
 }  // namespace
 
@@ -36,7 +82,9 @@ std::string csv_folder::obstacle(const fs::path& folder) {
     bool exported = false;  // every export has its counters
     for (fs::directory_iterator each(folder, failed), none; !failed && each != none;
          each.increment(failed)) {
-        if (!each->is_regular_file(failed) || each->path().extension() != ".csv") {
+        if (!each->is_regular_file(failed) || each->path().extension() != ".csv" ||
+            std::ranges::find(known_tables, each->path().stem().string()) ==
+                std::end(known_tables)) {
             return "contiene altro che un'esportazione (" + words_of_path(each->path().filename()) +
                    ")";
         }

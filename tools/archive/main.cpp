@@ -51,9 +51,12 @@ namespace {
 
 /// What is wrong with a command line.
 std::string in_italian(const CLI::Error& problem) {
-    const std::string kind = problem.get_name();
-    if (kind == "RequiredError") return "manca il comando o un suo argomento";
-    if (kind == "ExtrasError") return "c'è qualcosa di troppo o di sconosciuto";
+    if (dynamic_cast<const CLI::RequiredError*>(&problem)) {
+        return "manca il comando o un suo argomento";
+    }
+    if (dynamic_cast<const CLI::ExtrasError*>(&problem)) {
+        return "c'è qualcosa di troppo o di sconosciuto";
+    }
     const std::string told = problem.what();
     return told.substr(0, told.find(':')) + ": valore non ammesso";
 }
