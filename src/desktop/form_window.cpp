@@ -161,7 +161,9 @@ void form_window::set_tab_order(const std::vector<QWidget*>& stops) {
 void form_window::begin_in(control& one, std::function<void()> more) {
     auto* look = new QTimer(this);
     connect(look, &QTimer::timeout, this, [this, look, &one, more = std::move(more)] {
-        if (screen_ && (!screen_->visible() || !one.visible())) return;
+        if (screen_ && (!screen_->visible() || !one.visible() || screen_->desk().open_box())) {
+            return;
+        }
         look->deleteLater();
         act_on(one, [&one, &more] {
             one.set_focus();
