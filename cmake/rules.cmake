@@ -26,6 +26,11 @@ if(CMAKE_UNITY_BUILD)
   target_link_libraries(vantora_rules INTERFACE vantora_read_together)
 endif()
 
+# Code that is gone through once a run, such as the reading of a command line, waits for no optimizer,
+# which takes most of the compiler's time there.
+add_library(vantora_unhurried INTERFACE)
+target_compile_options(vantora_unhurried INTERFACE $<$<CONFIG:RelWithDebInfo>:-O0$<SEMICOLON>-U_FORTIFY_SOURCE>)
+
 # The system's own linker takes seconds for each of some forty programs.
 find_program(VANTORA_FAST_LINKER NAMES ld.lld)
 if(VANTORA_FAST_LINKER AND NOT CMAKE_EXE_LINKER_FLAGS MATCHES "-fuse-ld=")
@@ -79,14 +84,14 @@ function(vantora_test name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINKS")
   add_executable(${name} ${arg_SOURCES})
   target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
-  target_compile_options(${name} PRIVATE $<$<CONFIG:RelWithDebInfo>:-O0$<SEMICOLON>-g0$<SEMICOLON>-U_FORTIFY_SOURCE>
-                                         $<$<BOOL:${VANTORA_SANITIZE}>:-O0>)
+  target_compile_options(${name} PRIVATE $<$<BOOL:${VANTORA_SANITIZE}>:-O0>)
   if(NOT CMAKE_BUILD_TYPE STREQUAL Debug)
     # read together, which takes half the time; who works on one of them doesn't want to wait for all
     set_target_properties(${name} PROPERTIES UNITY_BUILD ON)
     target_link_libraries(${name} PRIVATE vantora_rules vantora_read_together)
   endif()
-  target_link_libraries(${name} PRIVATE vantora_rules ${arg_LINKS} GTest::gtest_main)
+  target_link_libraries(${name} PRIVATE vantora_rules vantora_unhurried ${arg_LINKS}
+                                        GTest::gtest_main)
   if(VANTORA_HEADERS_ONCE AND NOT arg_LINKS MATCHES "Qt6|mirxpdf")
     target_compile_options(${name} PRIVATE -pthread)
     if(name STREQUAL store_test)
