@@ -1,7 +1,6 @@
 // How long the archive tool takes over an archive filled to its limits: a check, against reading
 // what it reads bare from end to end, and the exports, against writing their bytes.
 
-#include <cstring>
 #include <fstream>
 #include <iostream>
 
@@ -85,6 +84,6 @@ int run(int count, int rounds) {
 }  // namespace vantora::bench
 
 int main(int count, char** arguments) {
-    const bool quick = count > 1 && std::strcmp(arguments[1], "--quick") == 0;
-    return quick ? vantora::bench::run(60, 1) : vantora::bench::run(32767, 7);
+    return vantora::bench::is_quick(count, arguments) ? vantora::bench::run(60, 1)
+                                                      : vantora::bench::run(32767, 7);
 }

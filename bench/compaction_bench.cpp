@@ -1,7 +1,6 @@
 // Compaction of an archive in which nearly every block moves, against copying the same bytes
 // within a file by plain block reads and writes.
 
-#include <cstring>
 #include <vector>
 
 #include "bench/measure.h"
@@ -64,6 +63,6 @@ int run(int orders, int rounds) {
 }  // namespace vantora::bench
 
 int main(int count, char** arguments) {
-    const bool quick = count > 1 && std::strcmp(arguments[1], "--quick") == 0;
-    return quick ? vantora::bench::run(20, 3) : vantora::bench::run(4000, 7);
+    return vantora::bench::is_quick(count, arguments) ? vantora::bench::run(20, 3)
+                                                      : vantora::bench::run(4000, 7);
 }

@@ -1,12 +1,11 @@
 // How long the customer screens take over an archive filled to its limits: the build of the pick
 // list, a search, a step of the cursor, each against bare positioned reads of the same records.
 
-#include <cstring>
 #include <memory>
-#include <numeric>
 #include <random>
 #include <string>
 
+#include "bench/full_archive.h"
 #include "bench/measure.h"
 #include "customer/mirorcx.h"
 #include "customer/mirsel.h"
@@ -26,30 +25,6 @@ class hasty_user final : public ui::front_end {
     void let_events_run() override {}
 };
 
-std::string name_of(int rank) {
-    return "CLIENTE " + std::to_string(100000 + rank) + " S.R.L.";
-}
-
-/// Customers whose records lie in another order than their names.
-void write_customers(archivi& files, int customers) {
-    std::vector<std::int16_t> numbers(static_cast<std::size_t>(customers));
-    std::iota(numbers.begin(), numbers.end(), std::int16_t{1});
-    std::ranges::shuffle(numbers, std::mt19937(1));
-    rec_cli customer{};
-    customer.indirizzo = "Via Garibaldi 12";
-    customer.citta = "Perugia";
-    customer.partita_iva = "01234567890";
-    for (int rank = 1; rank <= customers; ++rank) {
-        const std::int16_t number = numbers[static_cast<std::size_t>(rank - 1)];
-        customer.intestazione1 = name_of(rank);
-        files.cli.write(number, customer);
-        files.src.write(rank, {customer.intestazione1, number});
-    }
-    rec_tot counter{};
-    counter.quanti = static_cast<std::int16_t>(customers);
-    files.tot.write(contatori::clienti, counter);
-}
-
 int run(int customers, int rounds) {
     test::program_stage<hasty_user> bench;
     program& app = bench.app;
@@ -58,7 +33,7 @@ int run(int customers, int rounds) {
     bench.provide(app.mirorcx);
     bench.provide(app.mirsel);
     apri_archivi(app.archives, bench.files, 1);
-    write_customers(app.archives, customers);
+    fill_archive(app.archives, {.customers = customers});
     app.mirorcx->show();
     std::printf("%d customers\n", customers);
 
@@ -93,7 +68,7 @@ int run(int customers, int rounds) {
     };
     const auto search_all = [&] {
         ranks([&](int rank) {
-            app.mirorcx->nome.set_text(name_of(rank));
+            app.mirorcx->nome.set_text(customer_name(rank));
             app.mirorcx->b_cerca.click();
         });
     };
@@ -121,6 +96,6 @@ int run(int customers, int rounds) {
 }  // namespace vantora::bench
 
 int main(int count, char** arguments) {
-    const bool quick = count > 1 && std::strcmp(arguments[1], "--quick") == 0;
-    return quick ? vantora::bench::run(200, 3) : vantora::bench::run(32767, 9);
+    return vantora::bench::is_quick(count, arguments) ? vantora::bench::run(200, 3)
+                                                      : vantora::bench::run(32767, 9);
 }

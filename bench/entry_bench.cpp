@@ -3,12 +3,11 @@
 // against the bare work that can't be avoided.
 
 #include <cmath>
-#include <cstring>
 #include <memory>
-#include <random>
 #include <string>
 #include <vector>
 
+#include "bench/full_archive.h"
 #include "bench/measure.h"
 #include "customer/mirorcx.h"
 #include "entry/mirorcs.h"
@@ -16,21 +15,6 @@
 
 namespace vantora::bench {
 namespace {
-
-void write_articles(archivi& files, int count) {
-    std::mt19937 random(1);
-    const char* families[] = {"VIT", "BUL", "TUBO-", "RACC.", "Guarn ", "FL", "10", "A"};
-    std::vector<rec_art> articles(static_cast<std::size_t>(count));
-    for (rec_art& one : articles) {
-        one.codice = families[random() % 8] + std::to_string(random() % 1000000);
-        one.descrizione = "Articolo di magazzino n. " + std::to_string(random() % 100000);
-        one.prezzo1 = static_cast<double>(random() % 100000) / 100;
-    }
-    files.art.write_block(1, articles);
-    rec_tot counter{};
-    counter.quanti = static_cast<std::int16_t>(count);
-    files.tot.write(contatori::articoli, counter);
-}
 
 void list_benches(mirorcs& screen, const program& app, int articles, int rounds) {
     std::vector<rec_art> read(320);
@@ -126,7 +110,7 @@ int run(int articles, int rounds) {
     bench.provide(app.mirorcx);
     bench.provide(app.mirorcs);
     apri_archivi(app.archives, bench.files, 1);
-    write_articles(app.archives, articles);
+    fill_archive(app.archives, {.articles = articles});
     app.mirorcs->show();
     std::printf("%d articles\n", articles);
     list_benches(*app.mirorcs, app, articles, rounds);
@@ -140,6 +124,6 @@ int run(int articles, int rounds) {
 }  // namespace vantora::bench
 
 int main(int count, char** arguments) {
-    const bool quick = count > 1 && std::strcmp(arguments[1], "--quick") == 0;
-    return quick ? vantora::bench::run(300, 3) : vantora::bench::run(32767, 15);
+    return vantora::bench::is_quick(count, arguments) ? vantora::bench::run(300, 3)
+                                                      : vantora::bench::run(32767, 15);
 }

@@ -77,6 +77,5 @@ int main(int count, char** arguments) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(count, arguments);
     vantora::ui::dress_application(application);
-    const bool quick = count > 1 && std::strcmp(arguments[1], "--quick") == 0;
-    return vantora::bench::run(quick ? 300 : 32767);
+    return vantora::bench::run(vantora::bench::is_quick(count, arguments) ? 300 : 32767);
 }

@@ -4,9 +4,15 @@
 #include <chrono>
 #include <cstdio>
 #include <functional>
+#include <string_view>
 #include <vector>
 
 namespace vantora::bench {
+
+/// Whether a bench is only to show that it runs.
+inline bool is_quick(int count, char** arguments) {
+    return count > 1 && std::string_view(arguments[1]) == "--quick";
+}
 
 inline double milliseconds(const std::function<void()>& work) {
     const auto begin = std::chrono::steady_clock::now();

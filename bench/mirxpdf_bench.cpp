@@ -89,7 +89,7 @@ void require(qsizetype size) {
 }  // namespace
 
 int main(int count, char** arguments) {
-    const bool quick = count > 1 && std::string_view(arguments[1]) == "--quick";
+    const bool quick = bench::is_quick(count, arguments);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(count, arguments);
     const int pages = quick ? 2 : 10;

@@ -2,7 +2,6 @@
 // bare reads and writes of the same records; opening such an order; and composing a document of ten
 // pages, against writing the same print file from memory.
 
-#include <cstring>
 #include <span>
 
 #include "bench/measure.h"
@@ -193,6 +192,5 @@ int run(int rounds) {
 }  // namespace vantora::bench
 
 int main(int count, char** arguments) {
-    const bool quick = count > 1 && std::strcmp(arguments[1], "--quick") == 0;
-    return vantora::bench::run(quick ? 3 : 31);
+    return vantora::bench::run(vantora::bench::is_quick(count, arguments) ? 3 : 31);
 }

@@ -3,12 +3,11 @@
 // from another machine, which answers each read after half a millisecond.
 
 #include <cstdlib>
-#include <cstring>
 #include <memory>
-#include <random>
 #include <string>
 
 #include "bench/cold_files.h"
+#include "bench/full_archive.h"
 #include "bench/measure.h"
 #include "register/mirorc.h"
 #include "support/faulty_files.h"
@@ -16,32 +15,6 @@
 
 namespace vantora::bench {
 namespace {
-
-void write_archive(archivi& files, int orders, int customers) {
-    std::mt19937 random(1);
-    rec_cli customer{};
-    for (int i = 1; i <= customers; ++i) {
-        customer.intestazione1 = "CLIENTE " + std::to_string(random() % 100000) + " S.R.L.";
-        files.cli.write(i, customer);
-    }
-    std::vector<rec_orc> block(righe_blocco);
-    for (int i = 1; i <= orders; ++i) {
-        rec_orc& head = block.front();
-        head.numero = std::to_string(i);
-        head.data = "2024" + std::to_string(1001 + random() % 28);
-        head.data_evasione = "20241231";
-        head.cliente = static_cast<std::int16_t>(customers ? random() % customers + 1 : 0);
-        head.testo1 = "Ordine per cantiere n. " + std::to_string(random() % 1000);
-        head.evaso_flag = static_cast<std::int16_t>(random() % 3 == 0);
-        files.orc.write_block(block_record(i, 1), block);
-    }
-    files.orc.flush();
-    rec_tot counter{};
-    counter.quanti = static_cast<std::int16_t>(orders);
-    files.tot.write(contatori::ordini, counter);
-    counter.quanti = static_cast<std::int16_t>(customers);
-    files.tot.write(contatori::clienti, counter);
-}
 
 void sort_benches(ui::grid& list, int rounds) {
     const auto texts_of = [&](int col) {
@@ -78,7 +51,7 @@ int run(int orders, int customers, int rounds) {
     {
         archivi files;
         apri_archivi(files, bench.files, 1);
-        write_archive(files, orders, customers);
+        fill_archive(files, {.orders = orders, .customers = customers});
     }
     app.mirorc->show();
     std::printf("%d orders, %d customers\n", orders, customers);
@@ -116,6 +89,6 @@ int run(int orders, int customers, int rounds) {
 }  // namespace vantora::bench
 
 int main(int count, char** arguments) {
-    const bool quick = count > 1 && std::strcmp(arguments[1], "--quick") == 0;
-    return quick ? vantora::bench::run(300, 100, 3) : vantora::bench::run(32767, 32767, 9);
+    return vantora::bench::is_quick(count, arguments) ? vantora::bench::run(300, 100, 3)
+                                                      : vantora::bench::run(32767, 32767, 9);
 }

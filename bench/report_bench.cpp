@@ -3,7 +3,6 @@
 // left in the system's memory: emptying that one instead would send it to the disk, and the next
 // would wait for it.
 
-#include <cstring>
 #include <fstream>
 #include <iterator>
 #include <span>
@@ -48,6 +47,6 @@ int run(int rows, int rounds) {
 }  // namespace vantora::bench
 
 int main(int count, char** arguments) {
-    const bool quick = count > 1 && std::strcmp(arguments[1], "--quick") == 0;
-    return quick ? vantora::bench::run(300, 3) : vantora::bench::run(32000, 15);
+    return vantora::bench::is_quick(count, arguments) ? vantora::bench::run(300, 3)
+                                                      : vantora::bench::run(32000, 15);
 }

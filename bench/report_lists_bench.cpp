@@ -7,12 +7,12 @@
 
 #include <atomic>
 #include <cstdlib>
-#include <cstring>
 #include <map>
 #include <mutex>
 #include <new>
 
 #include "bench/cold_files.h"
+#include "bench/full_archive.h"
 #include "bench/measure.h"
 #include "reports/mirstoa.h"
 #include "reports/mirstoe.h"
@@ -79,52 +79,6 @@ class watched_file final : public file {
     std::map<std::int64_t, std::size_t>& looked_at_;
     std::mutex noting_;
 };
-
-/// Orders of `lines` lines each, articles and customers, `count` of each.
-void write_archive(archivi& files, int count, int lines) {
-    std::vector<rec_art> articles(static_cast<std::size_t>(count));
-    std::vector<rec_cli> customers(static_cast<std::size_t>(count));
-    std::vector<rec_sra> by_code(static_cast<std::size_t>(count));
-    std::vector<rec_src> by_name(static_cast<std::size_t>(count));
-    for (int i = 0; i < count; ++i) {
-        const auto at = static_cast<std::size_t>(i);
-        articles[at].codice = "TUBO-" + std::to_string(i);
-        articles[at].descrizione = "Tubo zincato saldato n. " + std::to_string(i);
-        customers[at].intestazione1 = "Ferramenta Rossi n. " + std::to_string(i);
-        by_code[at].numero = by_name[at].numero = static_cast<std::int16_t>(i + 1);
-    }
-    files.art.write_block(1, articles);
-    files.cli.write_block(1, customers);
-    files.sra.write_block(1, by_code);
-    files.src.write_block(1, by_name);
-    std::vector<rec_orc> block(righe_blocco);
-    for (rec_orc& row : block) {
-        row.descrizione = "";
-        row.descrizione2 = "";
-    }
-    for (int i = 1; i <= count; ++i) {
-        for (rec_orc& row : block) {
-            row.numero = std::to_string(i);
-            row.data = "20240215";
-            row.data_evasione = "20991231";
-            row.cliente = static_cast<std::int16_t>(i * 7919 % count + 1);
-            row.testo1 = "Ordine per il cantiere";
-        }
-        for (int line = 0; line < lines; ++line) {
-            rec_orc& row = block[static_cast<std::size_t>(line)];
-            row.articolo = static_cast<std::int16_t>((i * lines + line) % count + 1);
-            row.descrizione = "Tubo zincato saldato";
-            row.quantita = 1 + i % 9;
-            row.prezzo = 1.35;
-        }
-        files.orc.write_block(block_record(i, 1), block);
-    }
-    files.orc.flush();
-    rec_tot counter{};
-    counter.quanti = static_cast<std::int16_t>(count);
-    for (const int which : {contatori::articoli, contatori::clienti, contatori::ordini})
-        files.tot.write(which, counter);
-}
 
 struct lists_bench {
     channel<rec_orc> orders(std::map<std::int64_t, std::size_t>* looked_at) {
@@ -195,7 +149,8 @@ int run(int count, int rounds) {
         lists_bench bench{count, rounds};
         program& app = bench.stage.app;
         apri_archivi(app.archives, bench.stage.files, 1);
-        write_archive(app.archives, count, lines);
+        fill_archive(app.archives,
+                     {.orders = count, .lines = lines, .customers = count, .articles = count});
         std::printf("%d orders of %d lines, articles and customers\n", count, lines);
         bench.compare_list(app.mirston, false);
         bench.compare_list(app.mirstoe, false);
@@ -218,6 +173,6 @@ int run(int count, int rounds) {
 }  // namespace vantora::bench
 
 int main(int count, char** arguments) {
-    const bool quick = count > 1 && std::strcmp(arguments[1], "--quick") == 0;
-    return quick ? vantora::bench::run(200, 3) : vantora::bench::run(32767, 7);
+    return vantora::bench::is_quick(count, arguments) ? vantora::bench::run(200, 3)
+                                                      : vantora::bench::run(32767, 7);
 }

@@ -3,7 +3,6 @@
 
 #include <QApplication>
 #include <QString>
-#include <cstring>
 
 #include "bench/measure.h"
 #include "bench/report_list.h"
@@ -44,6 +43,6 @@ int run(int rows, int rounds) {
 int main(int count, char** arguments) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(count, arguments);
-    const bool quick = count > 1 && std::strcmp(arguments[1], "--quick") == 0;
-    return quick ? vantora::bench::run(50, 1) : vantora::bench::run(1000, 5);
+    return vantora::bench::is_quick(count, arguments) ? vantora::bench::run(50, 1)
+                                                      : vantora::bench::run(1000, 5);
 }
