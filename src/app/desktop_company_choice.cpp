@@ -56,12 +56,12 @@ QString path_shown(const fs::path& path) {
 QString why_none(const fs::path& named, const drive_found& found) {
     std::error_code unknown;
     if (!fs::is_directory(named, unknown)) {
-        return QString::fromUtf8(words::no_such_folder).arg(path_shown(named));
+        return QString(words::no_such_folder).arg(path_shown(named));
     }
     if (found.drives.size() < 2) return words::no_company;
     QStringList several;
     for (const fs::path& one : found.drives) several << path_shown(one);
-    return QString::fromUtf8(words::several_drives).arg(several.join(", "));
+    return QString(words::several_drives).arg(several.join(", "));
 }
 
 }  // namespace
@@ -241,7 +241,7 @@ void company_choice::make_demonstration(const QString& maker) {
             !refused && QProcess::execute(maker, {path_shown(trial), demonstration}) == 0;
         unsetCursor();
         if (!made) {
-            none_->setText(QString::fromUtf8(words::no_trial_company).arg(path_shown(trial)));
+            none_->setText(QString(words::no_trial_company).arg(path_shown(trial)));
             none_->show();
             return;
         }

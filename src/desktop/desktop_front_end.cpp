@@ -1,12 +1,11 @@
 #include "desktop/desktop_front_end.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QEventLoop>
-#include <QMessageBox>
 #include <algorithm>
 
 #include "desktop/dialogs/file_dialog.h"
-#include "desktop/look/box_look.h"
 #include "desktop/look/tip.h"
 #include "desktop/look/words.h"
 #include "ui/desk.h"
@@ -322,20 +321,13 @@ void desktop_front_end::note_shown(const std::string& text) {
 }
 
 void desktop_front_end::text_offered(const std::string& called, const std::string& text) {
-    const QString file =
-        ask_where_to_save(QString::fromUtf8(words::save_text), to_qt(called),
-                          {QString::fromUtf8(words::text_files), "txt"}, front_window());
+    const QString file = ask_where_to_save(words::save_text, to_qt(called),
+                                           {words::text_files, "txt"}, front_window());
     if (!file.isEmpty()) save_whole(file, to_qt(text).toUtf8(), front_window());
 }
 
 void desktop_front_end::report_fatal(const std::string& message) {
-    if (next_step_) return;
-    QMessageBox box;
-    box.setWindowTitle(program_title);
-    box.setTextFormat(Qt::PlainText);
-    box.setText(to_qt(message));
-    dress_box(box, icon::stop);
-    box.exec();
+    if (!next_step_) tell(to_qt(message), nullptr, icon::stop, program_title);
 }
 
 }  // namespace vantora::ui::desktop

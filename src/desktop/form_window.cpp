@@ -67,12 +67,12 @@ QToolButton* form_window::dress(const button& command, const command_look& look,
                                 Qt::ToolButtonStyle style) {
     QToolButton* shown = widget(command);
     shown->setIcon(picture_named(look.icon));
-    shown->setText(QString::fromUtf8(look.caption));
+    shown->setText(look.caption);
     shown->setToolButtonStyle(style);
-    shown->setToolTip(QString::fromUtf8(look.tooltip));
+    shown->setToolTip(look.tooltip);
     if (*look.shortcut != '\0') add_shortcut(*shown, look.shortcut);
-    shown->setAccessibleName(QString::fromUtf8(look.caption).remove('&'));
-    shown->setAccessibleDescription(QString::fromUtf8(look.tooltip));
+    shown->setAccessibleName(QString(look.caption).remove('&'));
+    shown->setAccessibleDescription(look.tooltip);
     return shown;
 }
 

@@ -39,47 +39,17 @@ struct window_place {
     bool full_screen = false;
 };
 
-/// What each kind of control is shown by.
-template <class Control>
-struct widget_kind {
-    using type = QWidget;
-};
-template <>
-struct widget_kind<text_box> {
-    using type = QLineEdit;
-};
-template <>
-struct widget_kind<label> {
-    using type = text_label;
-};
-template <>
-struct widget_kind<button> {
-    using type = QToolButton;
-};
-template <>
-struct widget_kind<check_box> {
-    using type = QAbstractButton;
-};
-template <>
-struct widget_kind<option_button> {
-    using type = QAbstractButton;
-};
-template <>
-struct widget_kind<sorted_list_box> {
-    using type = QListView;
-};
-template <>
-struct widget_kind<drop_down> {
-    using type = QComboBox;
-};
-template <>
-struct widget_kind<scroll_bar> {
-    using type = QScrollBar;
-};
-template <>
-struct widget_kind<grid> {
-    using type = grid_view;
-};
+/// What each kind of control is shown by; declared alone, for its type.
+QWidget* widget_for(const control&);
+QLineEdit* widget_for(const text_box&);
+text_label* widget_for(const label&);
+QToolButton* widget_for(const button&);
+QAbstractButton* widget_for(const check_box&);
+QAbstractButton* widget_for(const option_button&);
+QListView* widget_for(const list_box&);
+QComboBox* widget_for(const drop_down&);
+QScrollBar* widget_for(const scroll_bar&);
+grid_view* widget_for(const grid&);
 
 class form_window;
 
@@ -109,7 +79,7 @@ class form_window final : public QWidget {
     /// The widget of a control. REQUIRES: the screen has it.
     template <class Control>
     [[nodiscard]] auto* widget(const Control& of) const {
-        return static_cast<typename widget_kind<Control>::type*>(&widget_of(of));
+        return static_cast<decltype(widget_for(of))>(&widget_of(of));
     }
     [[nodiscard]] QWidget& widget_of(const control& one) const {
         return binders_.at(&one)->widget();

@@ -1,9 +1,7 @@
 #include "desktop/further_windows.h"
 
-#include <QFrame>
-#include <QHBoxLayout>
+#include <QBoxLayout>
 #include <QMenu>
-#include <QShortcut>
 #include <QToolButton>
 #include <algorithm>
 
@@ -19,9 +17,7 @@ QString caption_of(const further_window& one) {
     return QString::fromStdString(to_utf8(one.caption));
 }
 
-/// Made when it is asked for: what can be opened changes.
-void show_menu(form_window& window, const QWidget& below) {
-    QMenu menu(&window);
+void fill_menu(form_window& window, QMenu& menu) {
     const auto& all = window.screen().further_windows();
     for (std::size_t i = 0; i < all.size(); ++i) {
         const QString key =
@@ -32,7 +28,6 @@ void show_menu(form_window& window, const QWidget& below) {
                                         [&window, i] { window.open_further(i); });
         entry->setEnabled(all[i].can_open());
     }
-    menu.exec(below.mapToGlobal(QPoint(0, below.height())));
 }
 
 /// The caption with a letter for Alt that no other command of the window has.
@@ -49,33 +44,21 @@ QString with_free_letter(QString caption, const QWidget& window) {
     return caption;
 }
 
-QToolButton* menu_button(form_window& window) {
-    auto* button = new QToolButton(&window);
-    button->setObjectName("altro");
-    button->setText(with_free_letter(QString::fromUtf8(words::more), window));
-    button->setToolTip(QString::fromUtf8(words::more_windows));
-    button->setFocusPolicy(Qt::NoFocus);
-    QObject::connect(button, &QToolButton::clicked, &window,
-                     [&window, button] { show_menu(window, *button); });
-    return button;
-}
-
 }  // namespace
 
 void add_further_windows(form_window& window) {
     const auto& all = window.screen().further_windows();
     if (all.empty()) return;
     for (std::size_t i = 0; i < all.size(); ++i) {
-        const QByteArray what = caption_of(all[i]).remove('&').toUtf8();
-        QObject::connect(add_key(window, all[i].key.c_str(), what.constData()),
-                         &QShortcut::activated, &window, [&window, i] { window.open_further(i); });
+        add_key(window, QString::fromStdString(all[i].key), caption_of(all[i]).remove('&'),
+                [&window, i] { window.open_further(i); });
     }
-    for (auto* bar : window.findChildren<QFrame*>()) {
-        auto* row = qobject_cast<QHBoxLayout*>(bar->layout());
-        if (!row || bar->property("role").toString() != "bar") continue;
-        row->addWidget(menu_button(window), 0, Qt::AlignTop);
-        return;
-    }
+    QHBoxLayout* row = command_bar_of(window);
+    if (!row) return;
+    row->addWidget(
+        menu_button(window, "altro", with_free_letter(words::more, window), words::more_windows,
+                    [&window](QMenu& menu) { fill_menu(window, menu); }),
+        0, Qt::AlignTop);
 }
 
 }  // namespace vantora::ui::desktop

@@ -39,7 +39,7 @@ std::vector<box_button> buttons_of(const message_box& box) {
         case buttons::ok:
             return {{"OK", QMessageBox::AcceptRole, answer::ok}};
         case buttons::yes_no:
-            return {{QString::fromUtf8("&Sì"), QMessageBox::YesRole, answer::yes},
+            return {{"&Sì", QMessageBox::YesRole, answer::yes},
                     {"&No", QMessageBox::NoRole, answer::no}};
         case buttons::choice:
             break;
@@ -70,7 +70,7 @@ class read_meanwhile final : public QObject {
             if (!open_) return false;
             open_ = false;
             const int width = box_.width();
-            box_.setInformativeText(QString::fromUtf8(words::read_meanwhile).arg(read_.trimmed()));
+            box_.setInformativeText(QString(words::read_meanwhile).arg(read_.trimmed()));
             box_.setFixedWidth(std::max(box_.width(), width));
             read_ += ' ';
             return true;

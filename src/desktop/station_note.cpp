@@ -14,7 +14,7 @@ namespace {
 constexpr qint64 unnoticed = 300;
 
 QLabel* make_line(QWidget& window, const std::string& station) {
-    const QString awaited = QString::fromUtf8(words::other_station);
+    const QString awaited = words::other_station;
     auto* line =
         new QLabel(station.empty() ? awaited + "..." : awaited + ": " + to_qt(station), &window);
     line->setTextFormat(Qt::PlainText);

@@ -2,17 +2,35 @@
 
 #include <QApplication>
 #include <QDebug>
-#include <QElapsedTimer>
-#include <QEventLoop>
-#include <QProcess>
 #include <QRegularExpression>
 #include <QStringList>
-#include <memory>
 
 #include "desktop/dialogs/file_showing.h"
 #include "ui/paper/toolkit_values.h"
 
 namespace vantora::ui::desktop {
+
+namespace {
+
+/// A copy in a folder that many may write grows old and can be replaced: the installed program is
+/// started where the suite's is missing, a link or older. Without an installed one it is the
+/// suite's.
+suite_program choose_copy(const std::filesystem::path& in_suite,
+                          const std::filesystem::path& installed) {
+    namespace fs = std::filesystem;
+    std::error_code failed;
+    if (!fs::is_regular_file(installed, failed)) return {in_suite, {}};
+    const auto kind = fs::symlink_status(in_suite, failed).type();
+    if (kind == fs::file_type::symlink) return {installed, "quello della suite è un collegamento"};
+    if (kind != fs::file_type::regular) return {installed, "nella suite non c'è"};
+    const auto kept = fs::last_write_time(in_suite, failed);
+    if (failed) return {in_suite, {}};
+    const auto newest = fs::last_write_time(installed, failed);
+    if (failed || kept >= newest) return {in_suite, {}};
+    return {installed, "quello della suite è più vecchio"};
+}
+
+}  // namespace
 
 struct system_launcher::program {
     QString file;
@@ -50,7 +68,6 @@ bool system_launcher::start(const std::string& command) {
 started_program system_launcher::run(const std::string& command) {
     using enum started_program::how;
     constexpr qint64 longest = 120'000;  // milliseconds
-    constexpr int between_looks = 50;
     const program wanted = program_of(command);
     auto process = std::make_unique<QProcess>();
     auto quiet = QProcessEnvironment::systemEnvironment();
@@ -58,23 +75,11 @@ started_program system_launcher::run(const std::string& command) {
     process->setProcessEnvironment(quiet);
     process->start(wanted.file, wanted.arguments);
     if (!process->waitForStarted()) return {not_started, {}};
-    QElapsedTimer since;
-    since.start();
-    while (process->state() != QProcess::NotRunning) {
-        if (since.elapsed() > longest) {
-            // It goes on by itself.
-            QProcess* on_its_own = process.release();
-            QObject::connect(on_its_own, &QProcess::finished, on_its_own, &QObject::deleteLater);
-            return {late, {}};
-        }
-        process->waitForFinished(between_looks);
-        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-    }
-    const bool success = process->exitStatus() == QProcess::NormalExit && process->exitCode() == 0;
+    if (!ends_within(process, longest)) return {late, {}};
     QString told = QString::fromUtf8(process->readAllStandardError()).trimmed();
     // Each of its lines begins with its name.
     told.remove(QRegularExpression("^[a-z]+: ", QRegularExpression::MultilineOption));
-    return {success ? well : failed, from_qt(told)};
+    return {ended_well(*process) ? well : failed, from_qt(told)};
 }
 
 void system_launcher::open(const std::string& path) {

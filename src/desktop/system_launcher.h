@@ -5,10 +5,15 @@
 #include <string>
 #include <string_view>
 
-#include "desktop/suite_program.h"
 #include "ui/launcher.h"
 
 namespace vantora::ui::desktop {
+
+/// A program that the suite starts from its general folder, and which of its copies is started.
+struct suite_program {
+    std::filesystem::path file;
+    std::string why_not_suite;  ///< UTF-8; why the copy in the suite isn't; empty if it is
+};
 
 /// Starts programs of the suite, without a shell.
 class system_launcher final : public launcher {

@@ -21,10 +21,10 @@ class article_lookup {
     article_lookup(const article_lookup&) = delete;
     article_lookup& operator=(const article_lookup&) = delete;
 
-    ui::sorted_list_box List1;  ///< all live articles
-    ui::label listx;            ///< stock of the current article
-    ui::label scorta;           ///< stock of the current line's article, as it is now
-    ui::check_box barcode;      ///< codes are bar codes
+    ui::list_box List1;     ///< all live articles
+    ui::label listx;        ///< stock of the current article
+    ui::label scorta;       ///< stock of the current line's article, as it is now
+    ui::check_box barcode;  ///< codes are bar codes
 
     /// Takes an article that was found, with the code that stands for it on a line.
     std::function<void(std::int16_t number, const rec_art& article, std::string_view code)>

@@ -125,7 +125,15 @@ void mirorcr::settled() {
                     quantity_or_zero(stock_of(record).in_magazzino - leaving));
 }
 
+bool mirorcr::may_end() {
+    const int rows = visible() ? marked_rows() : 0;
+    return rows == 0 ||
+           app_.desk.guards().confirm("Righe segnate da evadere: " + std::to_string(rows) +
+                                      ". Uscire senza evaderle?");
+}
+
 void mirorcr::close() {
+    if (!may_end()) return;
     unload();
     app_.mirorc.use().show();
 }
@@ -221,16 +229,18 @@ void mirorcr::leave_editor() {
     quantita.set_visible(false);
 }
 
-void mirorcr::show_marked() {
+int mirorcr::marked_rows() const {
     int rows = 0;
-    double pieces = 0;
     for (int row = 1; row < righe_; ++row) {
-        const std::string_view cell = elenco.text(row, evaso);
-        const double leaving = testo_a_numero(cell);
-        if (leaving != 0 || cell == "*") ++rows;
-        pieces += leaving;
+        if (number_in(row, evaso) != 0 || elenco.text(row, evaso) == "*") ++rows;
     }
-    segnate.set_text("Righe da evadere: " + std::to_string(rows) +
+    return rows;
+}
+
+void mirorcr::show_marked() {
+    double pieces = 0;
+    for (int row = 1; row < righe_; ++row) pieces += number_in(row, evaso);
+    segnate.set_text("Righe da evadere: " + std::to_string(marked_rows()) +
                      "   Pezzi: " + quantity_or_zero(pieces));
 }
 

@@ -64,6 +64,8 @@ class mirorcr final : public ui::form {
     void leave_editor();
     /// The customer whose orders these are.
     [[nodiscard]] std::string subject() const override;
+    /// What is marked and not booked would be lost.
+    bool may_end() override;
 
  protected:
     void load() override;
@@ -98,6 +100,7 @@ class mirorcr final : public ui::form {
     [[nodiscard]] bool marked_whole(int row) const;
     /// What marks all of a row to leave.
     [[nodiscard]] std::string whole_mark(int row) const;
+    [[nodiscard]] int marked_rows() const;
     void show_marked();
     [[nodiscard]] double number_in(int row, int col) const;
 

@@ -33,7 +33,9 @@ bool print_rows(program& app, const descrizione_report& report, const ui::grid& 
     report_engine engine(app.parameters, app.desk.clock(), out, uscita, sheet_of(report));
     std::vector<std::string_view> cells(report.colonne.size());
     for (int row = 1; row < righe; ++row) {
-        elenco.texts(row, cells);
+        for (std::size_t i = 0; i < cells.size(); ++i) {
+            cells[i] = elenco.text(row, static_cast<int>(i));
+        }
         engine.print_row(cells);
         if (!out.paper().goes_on(double(row) / righe)) return false;
     }

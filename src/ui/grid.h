@@ -1,7 +1,5 @@
 #pragma once
 
-#include <cstdint>
-#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -26,8 +24,7 @@ struct grid_column {
     alignment aligned = alignment::left;
 };
 
-/// A table of texts. Row 0 is the head. Cells lie in one arena, so 32,000 rows are filled, sorted
-/// and shown without copying texts about, and rows that nobody writes into cost nothing.
+/// A table of texts. Row 0 is the head. Rows that nobody writes into cost next to nothing.
 class grid : public control {
  public:
     grid() : control(control_kind::grid) {}
@@ -46,15 +43,13 @@ class grid : public control {
     void set_columns(std::vector<grid_column> columns);
     [[nodiscard]] const std::vector<grid_column>& columns() const { return columns_; }
 
-    [[nodiscard]] int rows() const { return rows_; }
+    [[nodiscard]] int rows() const { return static_cast<int>(cells_.size()); }
     [[nodiscard]] int cols() const { return static_cast<int>(columns_.size()); }
     /// Rows that stay are kept, others dropped, new ones empty. Never below 1, the head.
     void set_rows(int rows);
 
-    /// Empty outside the grid. Valid until the next change of any cell.
+    /// Empty outside the grid. Valid until the next change of the cell.
     [[nodiscard]] std::string_view text(int row, int col) const;
-    /// The texts of a row's first columns, as text() gives them.
-    void texts(int row, std::span<std::string_view> into) const;
     /// False, with nothing done, outside the grid.
     bool set_text(int row, int col, std::string_view text);
 
@@ -94,28 +89,16 @@ class grid : public control {
 
  private:
     struct cell {
-        std::uint32_t begin = 0;
-        std::uint32_t size = 0;
-        std::uint32_t room = 0;
+        std::string text;
         colour back = white;
     };
 
     [[nodiscard]] bool holds(int row, int col) const;
     [[nodiscard]] const cell& at(int row, int col) const;
     cell& at(int row, int col);
-    /// Gives the first rows places of their own, so that they can be written.
-    void store_rows(std::size_t wanted);
-    /// Moves the cells into the order in which their rows are shown.
-    void store_as_shown();
-    /// Takes the leftovers out of the arena when they are most of it.
-    void tidy_arena();
 
     std::vector<grid_column> columns_;
-    std::string arena_;                 ///< the texts of all cells, with the leftovers of old ones
-    std::size_t wasted_ = 0;            ///< bytes of leftovers in the arena
-    std::vector<cell> cells_;           ///< by storage row, then column
-    std::vector<std::uint32_t> order_;  ///< shown row to storage row; those behind are blank
-    int rows_ = 0;
+    std::vector<std::vector<cell>> cells_;  ///< by row; a row without any is blank
     int row_ = 0;
     int col_ = 0;
     int top_row_ = 1;

@@ -10,24 +10,22 @@ namespace {
 
 /// One row's place in a sort, read once and compared often.
 struct sort_key {
-    std::uint32_t row = 0;  ///< storage row
+    std::size_t row = 0;
     bool empty = false;
     bool number = false;
     double value = 0;
-    std::uint32_t begin = 0;  ///< of the text in capitals, among the texts of all keys
-    std::uint32_t size = 0;
+    std::string capitals;
 };
 
-bool stands_behind(const sort_key& left, const sort_key& right, const std::string& texts) {
+bool stands_behind(const sort_key& left, const sort_key& right) {
     if (left.empty || right.empty) return right.empty && !left.empty;
     if (left.number && right.number) return left.value > right.value;
-    const std::string_view all = texts;
-    return all.substr(left.begin, left.size) > all.substr(right.begin, right.size);
+    return left.capitals > right.capitals;
 }
 
 /// Merges runs of rising length. Mixed columns of numbers and texts have no order that holds for
 /// all pairs ("2" < "10" < "1a" < "2"), so this must be safe for any outcome of the comparison.
-void merge_sort(std::vector<sort_key>& keys, const std::string& texts) {
+void merge_sort(std::vector<sort_key>& keys) {
     std::vector<sort_key> merged(keys.size());
     for (std::size_t run = 1; run < keys.size(); run *= 2) {
         for (std::size_t begin = 0; begin < keys.size(); begin += 2 * run) {
@@ -37,9 +35,8 @@ void merge_sort(std::vector<sort_key>& keys, const std::string& texts) {
             std::size_t right = middle;
             for (std::size_t to = begin; to < end; ++to) {
                 const bool take_right =
-                    right < end &&
-                    (left == middle || stands_behind(keys[left], keys[right], texts));
-                merged[to] = take_right ? keys[right++] : keys[left++];
+                    right < end && (left == middle || stands_behind(keys[left], keys[right]));
+                merged[to] = std::move(take_right ? keys[right++] : keys[left++]);
             }
         }
         keys.swap(merged);
@@ -50,14 +47,12 @@ void merge_sort(std::vector<sort_key>& keys, const std::string& texts) {
 
 void grid::sort(int col, sort_order by) {
     if (rows() < 3 || !holds(0, col)) return;
-    store_rows(static_cast<std::size_t>(rows()));
-    std::string texts;
     std::vector<sort_key> keys;
-    keys.reserve(order_.size() - 1);
+    keys.reserve(cells_.size() - 1);
     for (int row = 1; row < rows(); ++row) {
         const std::string_view shown = text(row, col);
         sort_key key;
-        key.row = order_[static_cast<std::size_t>(row)];
+        key.row = static_cast<std::size_t>(row);
         key.empty = shown.empty();
         if (by == sort_order::numeric_ascending) {
             key.number = true;
@@ -66,14 +61,16 @@ void grid::sort(int col, sort_order by) {
             const auto number = whole_number_text(shown);
             key.number = number.has_value();
             key.value = number.value_or(0);
-            key.begin = static_cast<std::uint32_t>(texts.size());
-            key.size = static_cast<std::uint32_t>(shown.size());
-            for (const char character : shown) texts.push_back(upper(character));
+            key.capitals = upper(shown);
         }
-        keys.push_back(key);
+        keys.push_back(std::move(key));
     }
-    merge_sort(keys, texts);
-    for (std::size_t i = 0; i < keys.size(); ++i) order_[i + 1] = keys[i].row;
+    merge_sort(keys);
+    std::vector<std::vector<cell>> sorted;
+    sorted.reserve(cells_.size());
+    sorted.push_back(std::move(cells_[0]));
+    for (const sort_key& key : keys) sorted.push_back(std::move(cells_[key.row]));
+    cells_ = std::move(sorted);
     show_change(aspect::content);
 }
 

@@ -22,7 +22,9 @@ std::string_view list_control::text() const {
 void list_control::add_all(std::vector<std::string> items) {
     items_.insert(items_.end(), std::make_move_iterator(items.begin()),
                   std::make_move_iterator(items.end()));
-    if (sorted_) std::stable_sort(items_.begin(), items_.end(), stands_before);
+    if (kind() == control_kind::list_box) {
+        std::stable_sort(items_.begin(), items_.end(), stands_before);
+    }
     show_change(aspect::items);
 }
 

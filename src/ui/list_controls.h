@@ -31,7 +31,7 @@ class list_control : public control {
     /// The chosen entry, empty if there is none.
     [[nodiscard]] std::string_view text() const;
 
-    /// REQUIRES: nothing is chosen in a sorted list.
+    /// REQUIRES: nothing is chosen in a list box.
     void add_all(std::vector<std::string> items);
     /// Takes all entries out; nothing is chosen, and no click fires.
     void clear();
@@ -41,34 +41,26 @@ class list_control : public control {
     /// even if it was chosen before. False, with nothing done, outside the list.
     bool pick(int position);
 
-    /// Entries in the order of the alphabet, without regard to case, equal ones as they came.
-    [[nodiscard]] bool sorted() const { return sorted_; }
-
     /// Arrows pick the neighbour.
     void take_effect(int code, std::optional<char> character) override;
 
  protected:
-    list_control(control_kind kind, bool sorted) : control(kind), sorted_(sorted) {}
+    using control::control;
 
  private:
-    bool sorted_;
     int chosen_ = -1;
     std::vector<std::string> items_;
 };
 
+/// Its entries stand in the order of the alphabet, without regard to case, equal ones as they came.
 class list_box : public list_control {
  public:
-    list_box() : list_control(control_kind::list_box, false) {}
-};
-
-class sorted_list_box : public list_control {
- public:
-    sorted_list_box() : list_control(control_kind::list_box, true) {}
+    list_box() : list_control(control_kind::list_box) {}
 };
 
 class drop_down : public list_control {
  public:
-    drop_down() : list_control(control_kind::drop_down, false) {}
+    drop_down() : list_control(control_kind::drop_down) {}
 };
 
 }  // namespace vantora::ui

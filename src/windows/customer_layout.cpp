@@ -107,7 +107,7 @@ QGridLayout* add_frame(form_window& window, QGroupBox* box, std::span<const fram
 }
 
 QGroupBox* frame(form_window& window, const char* title, std::span<const frame_row> rows) {
-    auto* box = new QGroupBox(QString::fromUtf8(title), &window);
+    auto* box = new QGroupBox(title, &window);
     add_frame(window, box, rows);
     return box;
 }
@@ -132,7 +132,7 @@ QFrame* search_bar(form_window& window, customer_head& head) {
     around->addWidget(middle);
     auto* rows = new QVBoxLayout(middle);
     rows->setContentsMargins(12, 6, 12, 8);
-    auto* explained = new QLabel(QString::fromUtf8(hint), bar);
+    auto* explained = new QLabel(hint, bar);
     explained->setWordWrap(true);
     set_look(explained, "role", "faint");
     rows->addWidget(explained);
@@ -161,7 +161,7 @@ QToolButton* leaving_button(form_window& window, const customer_window& look) {
     auto* button = new QToolButton(&window);
     button->setObjectName("annulla");
     button->setText("&Annulla");
-    button->setToolTip(QString::fromUtf8(look.leaving));
+    button->setToolTip(look.leaving);
     set_look(button, "look", "leave");
     QObject::connect(button, &QToolButton::clicked, &window, [&window, leave = look.leave] {
         leave ? leave() : static_cast<void>(window.close());

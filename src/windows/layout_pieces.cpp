@@ -3,13 +3,13 @@
 namespace vantora::ui::desktop {
 
 QLabel* caption(const char* utf8, QWidget* parent) {
-    auto* label = new QLabel(QString::fromUtf8(utf8).trimmed(), parent);
+    auto* label = new QLabel(QString(utf8).trimmed(), parent);
     label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     return label;
 }
 
 QString spoken(const char* utf8) {
-    return QString::fromUtf8(utf8).remove('&').replace('\n', ' ').trimmed();
+    return QString(utf8).remove('&').replace('\n', ' ').trimmed();
 }
 
 QLabel* caption_of(QWidget* field, const char* utf8, QWidget* parent) {
@@ -125,7 +125,7 @@ QVBoxLayout* grid_with_sort_buttons(form_window& window, const grid& list,
             button->setToolTip(QString());
             set_look(button, "look", "blank");
         } else {
-            button->setToolTip(QString::fromUtf8("Riordina l'elenco su questa colonna"));
+            button->setToolTip("Riordina l'elenco su questa colonna");
         }
         button->setGeometry(0, 1, 60, strip->height() - 3);
         table->keep_above(column_sorted++, button);

@@ -63,7 +63,7 @@ void add_column(form_window& window, text_box (&column_cells)[line_grid::rows], 
     if (*one.head == '\0') {
         cells->addWidget(cells->itemAtPosition(0, at - 1)->widget(), 0, at - 1, 1, 2);
     } else {
-        auto* head = new QLabel(QString::fromUtf8(one.head), &window);
+        auto* head = new QLabel(one.head, &window);
         set_look(head, "role", "faint");
         head->setContentsMargins(5, 0, 5, 0);
         if (one.number) head->setAlignment(Qt::AlignRight);
@@ -106,13 +106,11 @@ class line_table final : public QWidget {
 void add_paging(form_window& window, line_grid& screen, line_rows& lines) {
     for (const int step : {-rows, rows}) {
         QShortcut* keys = add_key(window, step < 0 ? "PgUp" : "PgDown",
-                                  step < 0 ? words::lines_up : words::lines_down);
+                                  step < 0 ? words::lines_up : words::lines_down,
+                                  [&lines, step] { lines.scroll(step); });
         keys->setAutoRepeat(true);
-        QObject::connect(keys, &QShortcut::activated, &window,
-                         [&lines, step] { lines.scroll(step); });
     }
-    window.widget(screen.VScroll1)
-        ->setToolTip(QString::fromUtf8("Righe da 1 a 200 (Pag su, Pag giù)"));
+    window.widget(screen.VScroll1)->setToolTip("Righe da 1 a 200 (Pag su, Pag giù)");
 }
 
 /// Pasting lines and taking back what was done to many at once.
@@ -120,27 +118,22 @@ void add_line_keys(form_window& window, line_grid& screen, line_rows& lines) {
     const auto cell = [&screen, &lines]() -> text_box& {
         return screen.artic[std::max(lines.current(), 0)];
     };
-    new key_help(window, "Ctrl+V", QString::fromUtf8(words::paste_key));
-    QShortcut* file = add_key(window, "Ctrl+Shift+O", words::paste_file);
-    QObject::connect(file, &QShortcut::activated, &lines, [&window, cell] {
+    new key_help(window, "Ctrl+V", words::paste_key);
+    add_key(window, "Ctrl+Shift+O", words::paste_file, [&window, cell] {
         const QString chosen =
-            ask_what_to_open(QString::fromUtf8(words::paste_file),
-                             {QString::fromUtf8(words::csv_files), "csv"}, &window);
+            ask_what_to_open(words::paste_file, {words::csv_files, "csv"}, &window);
         if (chosen.isEmpty()) return;
         if (const auto text = lines_of_file(chosen, &window)) {
             window.act_on(cell(), [&] { paste_lines(cell(), {*text, true}, &window); });
         }
     });
     // In the cells the keys reach the fields first, which do the same.
-    QShortcut* back = add_key(window, "Ctrl+Z", words::change_back);
-    QObject::connect(back, &QShortcut::activated, &lines, [&window, &screen, cell] {
-        window.act_on(cell(), [&screen] { screen.take_back(); });
-    });
-    QShortcut* forth = add_key(window, "Ctrl+Shift+Z", words::change_forth);
+    add_key(window, "Ctrl+Z", words::change_back,
+            [&window, &screen, cell] { window.act_on(cell(), [&screen] { screen.take_back(); }); });
+    QShortcut* forth = add_key(
+        window, "Ctrl+Shift+Z", words::change_forth,
+        [&window, &screen, cell] { window.act_on(cell(), [&screen] { screen.bring_back(); }); });
     forth->setKeys({QKeySequence("Ctrl+Shift+Z"), QKeySequence("Ctrl+Y")});
-    QObject::connect(forth, &QShortcut::activated, &lines, [&window, &screen, cell] {
-        window.act_on(cell(), [&screen] { screen.bring_back(); });
-    });
 }
 
 QGroupBox* line_frame(form_window& window, line_grid& screen) {
@@ -173,8 +166,7 @@ QGroupBox* line_frame(form_window& window, line_grid& screen) {
         box->setMaximumWidth(table->maximumWidth() + 2 * frame_margin);
     });
 
-    QShortcut* vat = add_key(window, "F4", words::vat_of_line);
-    QObject::connect(vat, &QShortcut::activated, &window, [&window, &screen, lines] {
+    add_key(window, "F4", words::vat_of_line, [&window, &screen, lines] {
         if (lines->current() < 0) return;
         text_box& cell = screen.civ[lines->current()];
         window.act_on(cell, [&cell] { cell.set_focus(); });
@@ -187,8 +179,7 @@ QGroupBox* line_frame(form_window& window, line_grid& screen) {
         }
     }
 
-    QShortcut* back = add_key(window, "F2", words::cell_before);
-    QObject::connect(back, &QShortcut::activated, lines, &line_rows::go_back);
+    add_key(window, "F2", words::cell_before, [lines] { lines->go_back(); });
     box->setToolTip("F2: torna alla cella di prima");
 
     auto* hint =
@@ -253,7 +244,7 @@ QGridLayout* choice_table(form_window& window, line_grid& screen) {
     for (const choice& one : choices) {
         if (!window.has(one.shown)) continue;
         auto& button = static_cast<QAbstractButton&>(window.widget_of(one.shown));
-        button.setToolTip(QString::fromUtf8(one.tooltip));
+        button.setToolTip(one.tooltip);
         add_shortcut(button, one.keys);
         table->addWidget(&button, at % 2, at / 2);
         ++at;

@@ -2,7 +2,6 @@
 
 #include <QAbstractButton>
 #include <QProgressBar>
-#include <QShortcut>
 
 #include "desktop/look/words.h"
 #include "windows/layout_pieces.h"
@@ -42,7 +41,7 @@ QWidget* register_bar(form_window& window, mirorc& screen) {
 }
 
 QGroupBox* options(form_window& window, const char* title, std::span<option_button> choices) {
-    auto* box = new QGroupBox(QString::fromUtf8(title), &window);
+    auto* box = new QGroupBox(title, &window);
     auto* column = new QVBoxLayout(box);
     column->setContentsMargins(4, 0, 4, 0);
     column->setSpacing(3);
@@ -81,14 +80,13 @@ QGroupBox* compaction(form_window& window, mirorc& screen) {
     QLabel* link = window.widget(starts);
     set_look(link, "role", "link");
     link->setCursor(Qt::PointingHandCursor);
-    QShortcut* shortcut = add_key(window, "Ctrl+Shift+C", words::compaction);
-    const QString tip = QString::fromUtf8(words::compaction) + " (Ctrl+Shift+C)";
+    const QString tip = QString(words::compaction) + " (Ctrl+Shift+C)";
     link->setToolTip(tip);
     text->setToolTip(tip);
 
     // The two labels take no focus; the keyboard reaches them this way.
-    QObject::connect(shortcut, &QShortcut::activated, link,
-                     [&window, &starts] { window.act_on(starts, [&starts] { starts.click(); }); });
+    add_key(window, "Ctrl+Shift+C", words::compaction,
+            [&window, &starts] { window.act_on(starts, [&starts] { starts.click(); }); });
 
     auto* version = window.widget(screen.xx_versione);
     set_look(version, "role", "faint");

@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QShortcut>
 #include <QStyledItemDelegate>
 
 #include "desktop/look/contrast.h"
@@ -95,8 +94,7 @@ constexpr grid_key grid_keys[] = {{mirorcr::ordine, "F5", words::whole_order_lea
 
 void add_grid_keys(form_window& window, mirorcr& screen) {
     for (const grid_key& one : grid_keys) {
-        QShortcut* keys = add_key(window, one.keys, one.what);
-        QObject::connect(keys, &QShortcut::activated, &window, [&window, &screen, one] {
+        add_key(window, one.keys, one.what, [&window, &screen, one] {
             window.act_on(screen.elenco, [&screen, one] {
                 const int row = screen.elenco.row();
                 if (row > 0) screen.elenco.click_cell(row, one.column);

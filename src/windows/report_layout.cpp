@@ -142,7 +142,7 @@ QLabel* row_count(form_window& window, report_screen& screen) {
     set_look(text, "role", "faint");
     grid_view* list = window.widget(screen.elenco);
     QObject::connect(list->model(), &QAbstractItemModel::modelReset, text, [text, &screen] {
-        text->setText(screen.listed() > 0 ? QString::fromUtf8(words::row_count).arg(screen.listed())
+        text->setText(screen.listed() > 0 ? QString(words::row_count).arg(screen.listed())
                                           : QString());
     });
     return text;
@@ -153,7 +153,7 @@ void lay_out_report(form_window& window, report_screen& screen, const sheet_rang
     body->addLayout(filter_row(window, screen, sheets));
     grid_view* list = window.widget(screen.elenco);
     QToolButton* pdf = window.widget(screen.bottone[report_screen::pdf]);
-    auto* as_pdf = new QAction(QString::fromUtf8(words::list_as_pdf), list);
+    auto* as_pdf = new QAction(words::list_as_pdf, list);
     QObject::connect(as_pdf, &QAction::triggered, pdf, &QToolButton::click);
     list->addAction(as_pdf);
     body->addWidget(list, 1);

@@ -9,6 +9,7 @@
 #include <sys/resource.h>
 
 #include "desktop/dialogs/file_dialog.h"
+#include "desktop/lists/list_saving.h"
 #include "store/drive.h"
 #include "support/file_bytes.h"
 #include "support/scratch_folder.h"
@@ -126,6 +127,21 @@ TEST_F(list_tools, TheListIsSavedAsCsv) {
     EXPECT_EQ(saved.readAll(),
               "\xEF\xBB\xBFNumero;Nome\r\n1,5;Alfa\r\n2,5;Beta\r\n3,5;Gamma\r\n4,5;Alfabeta\r\n"
               "5,5;\"Delta; \"\"D\"\"\nÈ\"\r\n");
+}
+
+TEST(list_saving, CellsThatASpreadsheetWouldComputeAreCopiedAndSavedAsTexts) {
+    const std::pair<const char*, const char*> cells[] = {
+        {"=1+1", "'=1+1"},    {"@SUM(A1)", "'@SUM(A1)"},
+        {"-2+3", "'-2+3"},    {"+cmd|' /C'!A0", "'+cmd|' /C'!A0"},
+        {"-12,50", "-12,50"}, {"+39 055 1", "+39 055 1"},
+        {"-----", "-----"},   {"=====", "====="},
+        {"A=1", "A=1"},       {"", ""},
+        {" =1+1", "' =1+1"},  {" 5,00", " 5,00"}};
+    for (const auto& [cell, kept] : cells) EXPECT_EQ(harmless(cell), kept);
+    // Quotes go where it is pasted, and bytes that can't be shown before.
+    for (const char* cell : {"\"=1+1\"", "\x01=1+1", "\n@A1"}) {
+        EXPECT_TRUE(harmless(cell).starts_with('\'')) << cell;
+    }
 }
 
 TEST(save_whole, AFullDiskLeavesWhatWasThereAndALinkGivesWayToAWholeFile) {

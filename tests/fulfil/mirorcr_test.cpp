@@ -140,6 +140,29 @@ TEST(mirorcr, RowsBookedElsewhereMeanwhileAreNamed) {
     }
 }
 
+TEST(mirorcr, MarkedRowsAreNotLostWithoutAQuestion) {
+    fulfil_stage stage;
+    stage.order(1, 1, {{1, 5}});
+    stage.run();
+    const auto leave = [&] { stage.desk.dispatch([&] { stage.app.mirorcr->bottone[0].click(); }); };
+    for (const bool guarded : {false, true}) {
+        stage.desk.guards().switch_to(guarded);
+        stage.open_worklist(1);
+        leave();
+        EXPECT_FALSE(stage.app.mirorcr.loaded()) << "nothing is marked";
+        stage.open_worklist(1);
+        stage.click(1, mirorcr::da_evadere);
+        leave();
+        EXPECT_EQ(stage.app.mirorcr.loaded(), guarded);
+        EXPECT_EQ(stage.front.told.size(), guarded ? 1U : 0U);
+    }
+    EXPECT_EQ(stage.row(1)[mirorcr::evaso], "5,00");
+    EXPECT_FALSE(stage.desk.may_end());
+    stage.front.decide = [] { return true; };
+    leave();
+    EXPECT_FALSE(stage.app.mirorcr.loaded());
+}
+
 TEST(mirorcr, AnOrderDeletedMeanwhileIsNotTakenOutOfItsArticlesTwice) {
     fulfil_stage stage;
     stage.order(1, 1, {{1, 5}, {2, 7}});

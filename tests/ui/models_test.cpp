@@ -121,7 +121,7 @@ TEST(list, ChoosingByCodeFiresOnlyForAnotherEntry) {
 }
 
 TEST(sorted_list, HoldsItsEntriesInTheOrderOfTheAlphabet) {
-    sorted_list_box list;
+    list_box list;
     list.add_all({"zeta", "Élite"_cp, "eco", "10"});
     list.add_all({"Eco", "cane"});
     EXPECT_EQ(list.items(),

@@ -219,7 +219,7 @@ TEST(script, QueriesTellWhatIsThere) {
     for (json& state : expected) state.update({{"visible", true}, {"enabled", true}});
     EXPECT_EQ(value_of({"controls prova"}), expected);
     const std::pair<const char*, const char*> queries[] = {
-        {"items prova.lista", R"(["b", "a"])"},
+        {"items prova.lista", R"(["a", "b"])"},
         {"rows prova.elenco", R"([["uno", "due"], ["à", ""], ["", ""], ["", ""]])"},
         {"rows prova.elenco 3 99", R"([["", ""]])"},
         {"colors prova.elenco 1 2", "[16777215, 255]"},

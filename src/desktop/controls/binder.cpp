@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QShortcutEvent>
 #include <QTimer>
+#include <map>
 
 #include "desktop/keys/keys.h"
 #include "ui/desk.h"
@@ -19,25 +20,16 @@ struct pressed_key {
 
 /// The key in the system's own codes; code 0 for a key that it doesn't know.
 pressed_key key_of(const QKeyEvent& event) {
-    switch (event.key()) {
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-            return {key::enter, static_cast<char>(key::enter)};
-        case Qt::Key_Backspace:
-            return {key::backspace, static_cast<char>(key::backspace)};
-        case Qt::Key_Delete:
-            return {key::del, {}};
-        case Qt::Key_Tab:
-            return {key::tab, {}};
-        case Qt::Key_F1:
-            return {key::f1, {}};
-        case Qt::Key_Up:
-            return {key::up, {}};
-        case Qt::Key_Down:
-            return {key::down, {}};
-        default:
-            break;
-    }
+    static const std::map<int, pressed_key> named = {
+        {Qt::Key_Return, {key::enter, static_cast<char>(key::enter)}},
+        {Qt::Key_Enter, {key::enter, static_cast<char>(key::enter)}},
+        {Qt::Key_Backspace, {key::backspace, static_cast<char>(key::backspace)}},
+        {Qt::Key_Delete, {key::del, {}}},
+        {Qt::Key_Tab, {key::tab, {}}},
+        {Qt::Key_F1, {key::f1, {}}},
+        {Qt::Key_Up, {key::up, {}}},
+        {Qt::Key_Down, {key::down, {}}}};
+    if (const auto known = named.find(event.key()); known != named.end()) return known->second;
     const bool command = (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0 &&
                          (event.modifiers() & Qt::GroupSwitchModifier) == 0;
     const std::string text = from_qt(event.text());
@@ -50,20 +42,20 @@ pressed_key key_of(const QKeyEvent& event) {
 void binder::act_click(const QAbstractButton& button, const std::function<void()>& click) {
     const bool gives_back = clicked_by_key(button);
     act([&] {
-        control* before = model_.owner().desk().focus();
+        control* before = control_.owner().desk().focus();
         click();
-        if (!gives_back || !before || &before->owner() != &model_.owner()) return;
-        if (model_.has_focus()) before->set_focus();
+        if (!gives_back || !before || &before->owner() != &control_.owner()) return;
+        if (control_.has_focus()) before->set_focus();
         // A command that leads to another screen leaves the work where it was.
-        model_.owner().come_back_to(*before, model_);
+        control_.owner().come_back_to(*before, control_);
     });
 }
 
 binder::binder(control& model, QWidget* made, const user& by)
-    : model_(model), widget_(made), by_(by) {
-    widget_->setObjectName(to_qt(model.address()));
-    widget_->setFocusPolicy(model.focusable() ? Qt::StrongFocus : Qt::NoFocus);
-    widget_->installEventFilter(this);
+    : control_(model), made_(made), by_(by) {
+    made_->setObjectName(to_qt(model.address()));
+    made_->setFocusPolicy(model.focusable() ? Qt::StrongFocus : Qt::NoFocus);
+    made_->installEventFilter(this);
     model.attach(this);
 }
 
@@ -79,7 +71,7 @@ void binder::changed(aspect what) {
     const quiet while_showing(*this);
     if (what == aspect::visibility) {
         // A list is hidden only while it is filled; it would lose the focus and flicker.
-        if (model_.kind() != control_kind::grid) {
+        if (control_.kind() != control_kind::grid) {
             show_visibility();
         } else {
             QTimer::singleShot(0, this, [this] {
@@ -87,17 +79,17 @@ void binder::changed(aspect what) {
             });
         }
     } else if (what == aspect::enabling) {
-        widget_->setEnabled(model_.enabled());
+        made_->setEnabled(control_.enabled());
     } else {
         show_value(what);
     }
 }
 
 void binder::show_visibility() {
-    if (widget_->isHidden() != model_.visible()) return;
-    widget_->setVisible(model_.visible());
+    if (made_->isHidden() != control_.visible()) return;
+    made_->setVisible(control_.visible());
     // It may have been given the focus before it could be seen.
-    if (model_.visible() && model_.has_focus()) widget_->setFocus(Qt::OtherFocusReason);
+    if (control_.visible() && control_.has_focus()) made_->setFocus(Qt::OtherFocusReason);
 }
 
 bool binder::key_pressed(QKeyEvent& event) {
@@ -109,14 +101,14 @@ bool binder::key_pressed(QKeyEvent& event) {
     const bool leave = pressed.code == key::tab || pressed.code == key::f1 || widget_takes(typed);
     bool goes_on = false;
     act([&] {
-        goes_on = model_.offer_key(pressed.code, pressed.character);
-        if (goes_on && !leave) model_.take_effect(pressed.code, pressed.character);
+        goes_on = control_.offer_key(pressed.code, pressed.character);
+        if (goes_on && !leave) control_.take_effect(pressed.code, pressed.character);
     });
     return !(goes_on && leave);
 }
 
 bool binder::wheel_changes_value() const {
-    const auto kind = model_.kind();
+    const auto kind = control_.kind();
     return kind == control_kind::drop_down || kind == control_kind::date_picker ||
            kind == control_kind::scroll_bar;
 }
@@ -127,12 +119,12 @@ bool binder::eventFilter(QObject* watched, QEvent* event) {
     // screen's business.
     const bool by_user = event->type() == QEvent::FocusIn &&
                          static_cast<QFocusEvent*>(event)->reason() != Qt::ActiveWindowFocusReason;
-    if (by_user && !model_.has_focus()) act([this] { model_.set_focus(); });
+    if (by_user && !control_.has_focus()) act([this] { control_.set_focus(); });
     // Who gave the focus on at once mustn't show a cursor.
-    if (by_user && !retired_ && !widget_->hasFocus()) return true;
+    if (by_user && !retired_ && !made_->hasFocus()) return true;
     // The letter with Alt; the toolkit would take the focus first.
     if (event->type() == QEvent::Shortcut && !static_cast<QShortcutEvent*>(event)->isAmbiguous()) {
-        if (auto* button = qobject_cast<QAbstractButton*>(widget_)) {
+        if (auto* button = qobject_cast<QAbstractButton*>(made_)) {
             click_by_key(*button);
             return true;
         }
@@ -145,14 +137,16 @@ bool binder::eventFilter(QObject* watched, QEvent* event) {
         if (key_pressed(static_cast<QKeyEvent&>(*event))) return true;
     }
     // The wheel changes nothing where the focus isn't; what lies around may scroll.
-    if (event->type() == QEvent::Wheel && !widget_->hasFocus() && wheel_changes_value()) {
+    if (event->type() == QEvent::Wheel && !made_->hasFocus() && wheel_changes_value()) {
         event->ignore();
         return true;
     }
     return QObject::eventFilter(watched, event);
 }
 
-std::unique_ptr<binder> make_binder(control& to, QWidget* parent, const user& by) {
+namespace {
+
+std::unique_ptr<binder> bind_by_kind(control& to, QWidget* parent, const user& by) {
     switch (to.kind()) {
         case control_kind::text_box:
         case control_kind::label:
@@ -173,6 +167,14 @@ std::unique_ptr<binder> make_binder(control& to, QWidget* parent, const user& by
             return bind_grid(to, parent, by);
     }
     return nullptr;
+}
+
+}  // namespace
+
+std::unique_ptr<binder> make_binder(control& to, QWidget* parent, const user& by) {
+    auto made = bind_by_kind(to, parent, by);
+    made->show_all();
+    return made;
 }
 
 }  // namespace vantora::ui::desktop

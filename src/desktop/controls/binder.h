@@ -26,7 +26,9 @@ struct user {
 /// visibility, enabling, focus and keys.
 class binder : public QObject, public control_view {
  public:
-    [[nodiscard]] QWidget& widget() { return *widget_; }
+    [[nodiscard]] QWidget& widget() { return *made_; }
+    /// Shows the model's whole state.
+    void show_all();
     /// The model goes; from here on the binder leaves it alone.
     void retire() { retired_ = true; }
     void changed(aspect what) override;
@@ -34,14 +36,6 @@ class binder : public QObject, public control_view {
  protected:
     binder(control& model, QWidget* made, const user& by);
 
-    /// The widget as what the kind made it.
-    template <class Widget>
-    [[nodiscard]] Widget* as() {
-        return static_cast<Widget*>(widget_);
-    }
-
-    /// Shows the model's whole state; to be called by the constructors of the kinds.
-    void show_all();
     /// Shows what is particular to the kind.
     virtual void show_value(aspect what) = 0;
     /// Whether the widget stands on the screen; called whenever that may have changed.
@@ -59,7 +53,7 @@ class binder : public QObject, public control_view {
 
     /// Carries out what the user does; the model may be gone afterwards.
     void act(const std::function<void()>& action) {
-        if (!retired_) by_.act(model_, action);
+        if (!retired_) by_.act(control_, action);
     }
     /// Carries out a click on a button; pressed by a key of its own, it gives the focus back.
     void act_click(const QAbstractButton& button, const std::function<void()>& click);
@@ -86,11 +80,25 @@ class binder : public QObject, public control_view {
  private:
     [[nodiscard]] bool wheel_changes_value() const;
 
-    control& model_;
-    QWidget* widget_;
+    control& control_;
+    QWidget* made_;
     user by_;
     bool showing_ = false;
     bool retired_ = false;
+};
+
+/// A kind of binder, with its model and the widget that shows it.
+template <class Model, class Widget>
+class binder_of : public binder {
+ public:
+    binder_of(Model& model, Widget* made, const user& by)
+        : binder(model, made, by), model_(model), widget_(made) {}
+    binder_of(Model& model, QWidget* parent, const user& by)
+        : binder_of(model, new Widget(parent), by) {}
+
+ protected:
+    Model& model_;
+    Widget* widget_;
 };
 
 /// Makes the binder of a control by its kind; its widget is a child of `parent`.

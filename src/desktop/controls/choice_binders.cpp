@@ -12,35 +12,34 @@ namespace {
 
 /// A check box or an option: the model decides whether it goes on, the widget follows.
 template <class Model, class Widget, void (Model::*Click)()>
-class choice_binder final : public binder {
+class choice_binder final : public binder_of<Model, Widget> {
  public:
     choice_binder(Model& model, QWidget* parent, const user& by)
-        : binder(model, new Widget(parent), by), button_(as<Widget>()), model_(model) {
+        : binder_of<Model, Widget>(model, parent, by) {
         // Without the group an option would put the others out by itself; those who listen know it
         // for an option by being exclusive.
-        auto* alone = new QButtonGroup(button_);
+        auto* alone = new QButtonGroup(widget_);
         alone->setExclusive(false);
-        alone->addButton(button_);
-        connect(button_, &QAbstractButton::clicked, this, [this] {
-            act_click(*button_, [this] { (model_.*Click)(); });
-            show_again(aspect::value);
+        alone->addButton(widget_);
+        this->connect(widget_, &QAbstractButton::clicked, this, [this] {
+            this->act_click(*widget_, [this] { (model_.*Click)(); });
+            this->show_again(aspect::value);
         });
-        show_all();
     }
 
  private:
+    using binder_of<Model, Widget>::model_;
+    using binder_of<Model, Widget>::widget_;
+
     void show_value(aspect what) override {
-        if (what == aspect::text) button_->setText(to_qt(model_.text()));
+        if (what == aspect::text) widget_->setText(to_qt(model_.text()));
         if (what != aspect::value) return;
-        button_->setChecked(model_.on());
+        widget_->setChecked(model_.on());
         // Tab stops once in a group of options, at the one that is on.
         if (model_.kind() == control_kind::option_button) {
-            button_->setFocusPolicy(model_.on() ? Qt::StrongFocus : Qt::ClickFocus);
+            widget_->setFocusPolicy(model_.on() ? Qt::StrongFocus : Qt::ClickFocus);
         }
     }
-
-    QAbstractButton* button_;
-    Model& model_;
 };
 
 }  // namespace

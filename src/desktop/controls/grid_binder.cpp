@@ -111,18 +111,18 @@ class cells_model final : public QAbstractTableModel {
 };
 
 /// The highlighted row and the first one in sight are those of the model, whoever moves them.
-class grid_binder final : public binder {
+class grid_binder final : public binder_of<grid, grid_view> {
  public:
     grid_binder(grid& model, QWidget* parent, const user& by)
-        : binder(model, new grid_view(model, parent), by),
-          view_(as<grid_view>()),
-          model_(model),
-          cells_(new cells_model(model, view_)) {
-        view_->setModel(cells_);
-        connect(view_, &QTableView::clicked, this, [this](const QModelIndex& index) {
+        : binder_of(model, new grid_view(model, parent), by),
+          cells_(new cells_model(model, widget_)) {
+        widget_->setModel(cells_);
+        connect(widget_, &QTableView::clicked, this, [this](const QModelIndex& index) {
+            // A row that only fills the window up has nothing to be taken.
+            if (!cells_->holds_text(index.row() + 1)) return;
             this->act([&] { model_.click_cell(index.row() + 1, index.column()); });
         });
-        connect(view_->selectionModel(), &QItemSelectionModel::currentChanged, this,
+        connect(widget_->selectionModel(), &QItemSelectionModel::currentChanged, this,
                 [this](const QModelIndex& now) {
                     if (!showing() && now.isValid())
                         follow([&] {
@@ -130,15 +130,14 @@ class grid_binder final : public binder {
                             model_.set_col(now.column());
                         });
                 });
-        connect(view_->verticalScrollBar(), &QScrollBar::valueChanged, this, [this](int value) {
+        connect(widget_->verticalScrollBar(), &QScrollBar::valueChanged, this, [this](int value) {
             if (!showing()) follow([&] { model_.set_top_row(value + 1); });
         });
         // A top row set before the view had its size and rows comes true when it has them.
-        connect(view_->verticalScrollBar(), &QScrollBar::rangeChanged, this, [this] {
+        connect(widget_->verticalScrollBar(), &QScrollBar::rangeChanged, this, [this] {
             const quiet while_showing(*this);
             if (model_.visible()) show_top_row();
         });
-        show_all();
     }
 
  private:
@@ -154,21 +153,21 @@ class grid_binder final : public binder {
     }
 
     void show_value(aspect what) override {
-        if (what == aspect::shape && model_.rows() == 1) view_->show_sorted(-1);
+        if (what == aspect::shape && model_.rows() == 1) widget_->show_sorted(-1);
         if (!model_.visible()) {
             stale_ = true;
             return;
         }
         if (what == aspect::shape) {
             cells_->reset();
-            view_->share_width();
+            widget_->share_width();
             keep_mark();
-            if (view_->begins_at_first() && cells_->holds_text(1)) {
+            if (widget_->begins_at_first() && cells_->holds_text(1)) {
                 follow([&] { model_.set_row(1); });
             }
         }
         if (what == aspect::shape || what == aspect::position) show_position();
-        if (what == aspect::content) view_->viewport()->update();
+        if (what == aspect::content) widget_->viewport()->update();
     }
 
     void changed(aspect what) override {
@@ -182,7 +181,7 @@ class grid_binder final : public binder {
     /// Where the view wants it, the mark goes with its entry, and to a newer entry than there was.
     void keep_mark() {
         // What stood there before the view was told to is no newer entry later.
-        if (!view_->keeps_mark() && newest_ > 0) return;
+        if (!widget_->keeps_mark() && newest_ > 0) return;
         if (!model_.visible() || model_.rows() == 1) return;
         const int filled = cells_->last_filled();
         const int newest = row_of_newest(filled);
@@ -190,7 +189,7 @@ class grid_binder final : public binder {
         const double number = number_of(newest);
         int row = newest_ > 0 && number > newest_ ? newest : 1;
         newest_ = number;
-        if (!view_->keeps_mark()) return;
+        if (!widget_->keeps_mark()) return;
         while (row != newest && row <= filled && model_.text(row, 0) != marked_) ++row;
         if (row > filled) return;
         marked_ = model_.text(row, 0);
@@ -210,22 +209,22 @@ class grid_binder final : public binder {
 
     void show_position() {
         const QModelIndex here = cells_->index(model_.row() - 1, model_.col());
-        if (view_->currentIndex() != here) {
+        if (widget_->currentIndex() != here) {
             // A current row set by the program doesn't scroll by itself.
-            view_->setAutoScroll(false);
-            view_->selectionModel()->setCurrentIndex(
+            widget_->setAutoScroll(false);
+            widget_->selectionModel()->setCurrentIndex(
                 here, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
-            view_->setAutoScroll(true);
+            widget_->setAutoScroll(true);
         }
         show_top_row();
-        if (std::exchange(brings_into_sight_, false)) view_->scrollTo(here);
-        view_->place_followers();
+        if (std::exchange(brings_into_sight_, false)) widget_->scrollTo(here);
+        widget_->place_followers();
         // Arrow keys move the mark through the model.
         if (model_.row() > 0) marked_ = model_.text(model_.row(), 0);
     }
 
     void show_top_row() {
-        QScrollBar& bar = *view_->verticalScrollBar();
+        QScrollBar& bar = *widget_->verticalScrollBar();
         bar.setValue(model_.shows_end() ? bar.maximum() : model_.top_row() - 1);
     }
 
@@ -246,23 +245,21 @@ class grid_binder final : public binder {
     }
 
     bool go_to(int row) {
-        if (cells_->holds_text(row)) view_->setCurrentIndex(cells_->index(row - 1, 0));
-        view_->scrollTo(view_->currentIndex());
+        if (cells_->holds_text(row)) widget_->setCurrentIndex(cells_->index(row - 1, 0));
+        widget_->scrollTo(widget_->currentIndex());
         return true;
     }
 
     bool arrow_pressed(QKeyEvent& event) {
         // The first arrow goes to what the eye sees.
-        if (model_.row() == 0) return go_to(view_->verticalScrollBar()->value() + 1);
+        if (model_.row() == 0) return go_to(widget_->verticalScrollBar()->value() + 1);
         const bool down = event.key() == Qt::Key_Down;
         const bool taken =
             (down && !cells_->holds_text(model_.row() + 1)) || binder::key_pressed(event);
-        if (taken) view_->scrollTo(view_->currentIndex());
+        if (taken) widget_->scrollTo(widget_->currentIndex());
         return taken;
     }
 
-    grid_view* view_;
-    grid& model_;
     cells_model* cells_;
     std::string marked_;  ///< column 0 of the row marked last
     double newest_ = 0;   ///< highest number in column 0 when the list last came

@@ -34,21 +34,19 @@ std::optional<std::string> lines_on_clipboard() {
 std::optional<std::string> lines_of_file(const QString& file, QWidget* above) {
     QFile source(file);
     if (!source.open(QIODevice::ReadOnly) || source.size() > file_size_max) {
-        const QString why =
-            source.isOpen() ? QString::fromUtf8(words::too_large) : source.errorString();
-        tell(QString::fromUtf8(words::cannot_read).arg(file, why), above);
+        const QString why = source.isOpen() ? words::too_large : source.errorString();
+        tell(QString(words::cannot_read).arg(file, why), above);
         return {};
     }
     std::string text = decoded(source.readAll());
     if (text.find_first_not_of(" \t\r\n") != std::string::npos) return text;
-    tell(QString::fromUtf8(words::empty_file).arg(file), above);
+    tell(QString(words::empty_file).arg(file), above);
     return {};
 }
 
 void paste_lines(text_box& field, const pasted_text& pasted, QWidget* above) {
-    QProgressDialog progress(QString::fromUtf8(words::pasting), QString::fromUtf8(words::break_off),
-                             0, 1, above);
-    progress.setWindowTitle(QString::fromUtf8(words::paste_lines));
+    QProgressDialog progress(words::pasting, words::break_off, 0, 1, above);
+    progress.setWindowTitle(words::paste_lines);
     progress.setWindowModality(Qt::ApplicationModal);
     progress.setMinimumDuration(400);
     field.on_paste_lines(pasted, [&progress](int done, int of) {

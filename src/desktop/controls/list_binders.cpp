@@ -44,32 +44,28 @@ class entries_model final : public QAbstractListModel {
     int shown_ = 0;
 };
 
-class list_box_binder final : public binder {
+class list_box_binder final : public binder_of<list_control, QListView> {
  public:
     list_box_binder(list_control& model, QWidget* parent, const user& by)
-        : binder(model, new QListView(parent), by),
-          view_(as<QListView>()),
-          model_(model),
-          entries_(new entries_model(model, true, view_)) {
-        view_->setModel(entries_);
-        view_->setUniformItemSizes(true);
-        view_->setEditTriggers(QAbstractItemView::NoEditTriggers);
-        connect(view_->selectionModel(), &QItemSelectionModel::currentChanged, this,
+        : binder_of(model, parent, by), entries_(new entries_model(model, true, widget_)) {
+        widget_->setModel(entries_);
+        widget_->setUniformItemSizes(true);
+        widget_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+        connect(widget_->selectionModel(), &QItemSelectionModel::currentChanged, this,
                 [this](const QModelIndex& now) {
                     // The mouse picks when it lets go.
                     const bool by_mouse = QGuiApplication::mouseButtons() != Qt::NoButton;
                     if (!showing() && !by_mouse && now.isValid()) pick(now.row());
                 });
-        view_->viewport()->installEventFilter(this);
-        show_all();
+        widget_->viewport()->installEventFilter(this);
     }
 
  private:
     void show_value(aspect what) override {
         if (what == aspect::items) entries_->reset();
         const QModelIndex chosen = entries_->index(model_.chosen(), 0);
-        view_->setCurrentIndex(chosen);
-        if (chosen.isValid()) view_->scrollTo(chosen);
+        widget_->setCurrentIndex(chosen);
+        if (chosen.isValid()) widget_->scrollTo(chosen);
     }
     // The entry that is highlighted is the one picked, by whatever key.
     [[nodiscard]] bool widget_takes(bool typed) const override { return typed; }
@@ -78,8 +74,8 @@ class list_box_binder final : public binder {
         if (watched == &widget()) return binder::eventFilter(watched, event);
         if (event->type() == QEvent::MouseButtonRelease) {
             const auto& mouse = static_cast<QMouseEvent&>(*event);
-            const bool on_entry = view_->indexAt(mouse.position().toPoint()).isValid();
-            if (mouse.button() == Qt::LeftButton && on_entry) pick(view_->currentIndex().row());
+            const bool on_entry = widget_->indexAt(mouse.position().toPoint()).isValid();
+            if (mouse.button() == Qt::LeftButton && on_entry) pick(widget_->currentIndex().row());
         }
         return false;
     }
@@ -87,39 +83,31 @@ class list_box_binder final : public binder {
         act([&] { model_.pick(entry); });
     }
 
-    QListView* view_;
-    list_control& model_;
     entries_model* entries_;
 };
 
-class drop_down_binder final : public binder {
+class drop_down_binder final : public binder_of<list_control, QComboBox> {
  public:
     drop_down_binder(list_control& model, QWidget* parent, const user& by)
-        : binder(model, new QComboBox(parent), by),
-          box_(as<QComboBox>()),
-          model_(model),
-          entries_(new entries_model(model, false, box_)) {
-        box_->setModel(entries_);
-        box_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-        box_->setMinimumContentsLength(12);
-        box_->setMaxVisibleItems(12);
-        connect(box_, &QComboBox::activated, this, [this](int position) {
+        : binder_of(model, parent, by), entries_(new entries_model(model, false, widget_)) {
+        widget_->setModel(entries_);
+        widget_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        widget_->setMinimumContentsLength(12);
+        widget_->setMaxVisibleItems(12);
+        connect(widget_, &QComboBox::activated, this, [this](int position) {
             if (showing()) return;
             this->act([&] { model_.pick(position); });
             show_again(aspect::value);
         });
-        show_all();
     }
 
  private:
     void show_value(aspect what) override {
         if (what == aspect::items) entries_->reset();
         entries_->show_up_to(model_.chosen());
-        if (box_->currentIndex() != model_.chosen()) box_->setCurrentIndex(model_.chosen());
+        if (widget_->currentIndex() != model_.chosen()) widget_->setCurrentIndex(model_.chosen());
     }
 
-    QComboBox* box_;
-    list_control& model_;
     entries_model* entries_;
 };
 

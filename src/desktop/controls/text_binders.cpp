@@ -1,14 +1,15 @@
+#include <QAccessible>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QStyle>
+#include <QTimer>
 #include <QToolButton>
 
 #include "desktop/controls/binder.h"
 #include "desktop/controls/line_pasting.h"
-#include "desktop/controls/number_hint.h"
 #include "desktop/controls/text_label.h"
 #include "desktop/keys/scan_watch.h"
 #include "ui/desk.h"
@@ -34,12 +35,33 @@ QString without_strange(QString text) {
     return text;
 }
 
-class text_box_binder final : public binder {
+/// Says for a while, beside a field that is being left, how its number was taken.
+void show_number_hint(QWidget& beside, const QString& text) {
+    constexpr int shown_for = 5000;  // milliseconds
+    constexpr const char* name = "number_hint";
+    QWidget* window = beside.window();
+    delete window->findChild<QLabel*>(name);
+    auto* hint = new QLabel(text, window);
+    hint->setObjectName(name);
+    hint->setTextFormat(Qt::PlainText);
+    hint->setAttribute(Qt::WA_TransparentForMouseEvents);
+    hint->adjustSize();
+    const QPoint under = beside.mapTo(window, QPoint(0, beside.height() + 2));
+    hint->move(std::clamp(under.x(), 0, std::max(0, window->width() - hint->width())),
+               std::min(under.y(), window->height() - hint->height()));
+    hint->raise();
+    hint->show();
+    QTimer::singleShot(shown_for, hint, &QObject::deleteLater);
+    QAccessibleEvent heard(hint, QAccessible::Alert);
+    QAccessible::updateAccessibility(&heard);
+}
+
+class text_box_binder final : public binder_of<text_box, QLineEdit> {
  public:
     text_box_binder(text_box& model, QWidget* parent, const user& by)
-        : binder(model, new QLineEdit(parent), by), edit_(as<QLineEdit>()), model_(model) {
-        connect(edit_, &QLineEdit::textEdited, this, [this](const QString& text) { edited(text); });
-        show_all();
+        : binder_of(model, parent, by) {
+        connect(widget_, &QLineEdit::textEdited, this,
+                [this](const QString& text) { edited(text); });
     }
 
  private:
@@ -47,11 +69,11 @@ class text_box_binder final : public binder {
         const std::string before = model_.text();
         const std::string put = from_qt(without_strange(text));
         const std::string kept = with_first_cell(before, put);
-        behind_cursor_ = text.size() - edit_->cursorPosition();
+        behind_cursor_ = text.size() - widget_->cursorPosition();
         act([&] {
             const std::string_view lines = put_in(before, put);
             if (model_.on_paste_lines && holds_pasted_lines(lines)) {
-                return paste_lines(model_, {lines}, edit_->window());
+                return paste_lines(model_, {lines}, widget_->window());
             }
             const auto admitted = model_.accepts.admit(before, kept);
             if (!admitted || kept.size() != static_cast<std::size_t>(text.size())) {
@@ -69,23 +91,23 @@ class text_box_binder final : public binder {
     // hand itself typed stays with the cursor in it.
     void show_value(aspect) override {
         const QString text = shown();
-        const bool as_typed = behind_cursor_ && edit_->text() == to_qt(model_.text());
-        if (as_typed || edit_->text() == text) return;
-        edit_->setText(text);
+        const bool as_typed = behind_cursor_ && widget_->text() == to_qt(model_.text());
+        if (as_typed || widget_->text() == text) return;
+        widget_->setText(text);
         mark_wrong(false);
         if (behind_cursor_) {
-            edit_->setCursorPosition(static_cast<int>(text.size() - *behind_cursor_));
-        } else if (edit_->hasFocus()) {
-            edit_->selectAll();
+            widget_->setCursorPosition(static_cast<int>(text.size() - *behind_cursor_));
+        } else if (widget_->hasFocus()) {
+            widget_->selectAll();
         } else {
-            edit_->setCursorPosition(0);
+            widget_->setCursorPosition(0);
         }
     }
 
     /// Decimals stand behind a comma for the eye, as in totals.
     [[nodiscard]] QString shown() const {
         QString text = to_qt(model_.text());
-        const bool plain = by_person() && model_.accepts.plain && text.count('.') == 1;
+        const bool plain = model_.accepts.plain && text.count('.') == 1;
         return plain && !text.contains(',') ? text.replace('.', ',') : text;
     }
 
@@ -105,23 +127,23 @@ class text_box_binder final : public binder {
     /// Whoever types a point for the thousands is told what was taken.
     void write_out_number() {
         if (const auto hint = doubtful_number(model_.text()))
-            show_number_hint(*edit_, to_qt(*hint));
+            show_number_hint(*widget_, to_qt(*hint));
         const auto number = written_out_number(model_.text(), model_.accepts);
         if (number) act([&] { model_.set_text(*number); });
         show_again(aspect::text);
     }
     void mark_wrong(bool wrong) {
-        if (edit_->property("wrong").toBool() == wrong) return;
-        edit_->setProperty("wrong", wrong);
-        edit_->style()->unpolish(edit_);
-        edit_->style()->polish(edit_);
+        if (widget_->property("wrong").toBool() == wrong) return;
+        widget_->setProperty("wrong", wrong);
+        widget_->style()->unpolish(widget_);
+        widget_->style()->polish(widget_);
     }
 
     [[nodiscard]] bool widget_takes(bool) const override { return true; }
 
     bool eventFilter(QObject* watched, QEvent* event) override {
         const bool took = binder::eventFilter(watched, event);
-        if (event->type() == QEvent::FocusIn) found_ = edit_->text();
+        if (event->type() == QEvent::FocusIn) found_ = widget_->text();
         return took;
     }
 
@@ -156,94 +178,75 @@ class text_box_binder final : public binder {
         if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) take_own_comma();
         if (event.matches(QKeySequence::Paste) && model_.on_paste_lines) {
             if (const auto lines = lines_on_clipboard()) {
-                act([&] { paste_lines(model_, {*lines}, edit_->window()); });
+                act([&] { paste_lines(model_, {*lines}, widget_->window()); });
                 return true;
             }
         }
         if (goes_along_changes(event)) return true;
-        if (event.matches(QKeySequence::Undo) && !edit_->isUndoAvailable()) {
+        if (event.matches(QKeySequence::Undo) && !widget_->isUndoAvailable()) {
             edited(found_);
             return true;
         }
         return binder::key_pressed(event);
     }
 
-    QLineEdit* edit_;
-    text_box& model_;
     scan_watch scan_;
     QString found_;                           ///< what stood in the field when the hand came to it
     std::optional<qsizetype> behind_cursor_;  ///< while the hand's own change is shown
 };
 
-class label_binder final : public binder {
+class label_binder final : public binder_of<label, text_label> {
  public:
-    label_binder(label& model, QWidget* parent, const user& by)
-        : binder(model, new text_label(parent), by), label_(as<text_label>()), model_(model) {
-        show_all();
-    }
+    using binder_of::binder_of;
 
  private:
-    void show_value(aspect) override { label_->show_text(to_qt(model_.text())); }
+    void show_value(aspect) override { widget_->show_text(to_qt(model_.text())); }
     bool eventFilter(QObject* watched, QEvent* event) override {
         if (event->type() == QEvent::MouseButtonRelease && model_.on_click) {
             const auto& mouse = static_cast<const QMouseEvent&>(*event);
-            const bool here = label_->rect().contains(mouse.position().toPoint());
+            const bool here = widget_->rect().contains(mouse.position().toPoint());
             if (mouse.button() == Qt::LeftButton && here) act([this] { model_.click(); });
         }
         return binder::eventFilter(watched, event);
     }
-
-    text_label* label_;
-    label& model_;
 };
 
-class button_binder final : public binder {
+class button_binder final : public binder_of<button, QToolButton> {
  public:
-    button_binder(button& model, QWidget* parent, const user& by)
-        : binder(model, new QToolButton(parent), by), button_(as<QToolButton>()), model_(model) {
-        button_->setToolButtonStyle(Qt::ToolButtonTextOnly);
-        connect(button_, &QToolButton::clicked, this,
-                [this] { act_click(*button_, [this] { model_.click(); }); });
-        show_all();
+    button_binder(button& model, QWidget* parent, const user& by) : binder_of(model, parent, by) {
+        widget_->setToolButtonStyle(Qt::ToolButtonTextOnly);
+        connect(widget_, &QToolButton::clicked, this,
+                [this] { act_click(*widget_, [this] { model_.click(); }); });
     }
 
  private:
     // A command without a caption of its own is captioned by the screen's layout.
     void show_value(aspect what) override {
-        if (what == aspect::text && !model_.text().empty()) button_->setText(to_qt(model_.text()));
+        if (what == aspect::text && !model_.text().empty()) widget_->setText(to_qt(model_.text()));
     }
-
-    QToolButton* button_;
-    button& model_;
 };
 
 /// A picture lies in the middle of its window, in front of everything, while there is one to see.
-class picture_binder final : public binder {
+class picture_binder final : public binder_of<picture, QLabel> {
  public:
-    picture_binder(picture& model, QWidget* parent, const user& by)
-        : binder(model, new QLabel(parent), by), label_(as<QLabel>()), model_(model) {
-        show_all();
-    }
+    using binder_of::binder_of;
 
  private:
     void show_value(aspect what) override {
         if (what != aspect::content) return;
         const auto& image = model_.shown();
-        label_->setPixmap(image ? QPixmap::fromImage(image_of(*image)) : QPixmap());
+        widget_->setPixmap(image ? QPixmap::fromImage(image_of(*image)) : QPixmap());
         show_visibility();
     }
     void show_visibility() override {
-        const bool seen = model_.visible() && !label_->pixmap().isNull();
+        const bool seen = model_.visible() && !widget_->pixmap().isNull();
         if (seen) {
-            label_->adjustSize();
-            label_->move(label_->parentWidget()->rect().center() - label_->rect().center());
-            label_->raise();
+            widget_->adjustSize();
+            widget_->move(widget_->parentWidget()->rect().center() - widget_->rect().center());
+            widget_->raise();
         }
-        label_->setVisible(seen);
+        widget_->setVisible(seen);
     }
-
-    QLabel* label_;
-    picture& model_;
 };
 
 }  // namespace

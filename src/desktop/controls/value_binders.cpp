@@ -12,18 +12,15 @@ namespace vantora::ui::desktop {
 
 namespace {
 
-class scroll_bar_binder final : public binder {
+class scroll_bar_binder final : public binder_of<scroll_bar, QScrollBar> {
  public:
     scroll_bar_binder(scroll_bar& model, QWidget* parent, const user& by)
-        : binder(model, new QScrollBar(Qt::Horizontal, parent), by),
-          bar_(as<QScrollBar>()),
-          model_(model) {
-        connect(bar_, &QScrollBar::valueChanged, this, [this](int value) {
+        : binder_of(model, new QScrollBar(Qt::Horizontal, parent), by) {
+        connect(widget_, &QScrollBar::valueChanged, this, [this](int value) {
             if (showing()) return;
             this->act([&] { model_.drag(value); });
             show_again(aspect::value);
         });
-        show_all();
     }
 
  private:
@@ -31,57 +28,48 @@ class scroll_bar_binder final : public binder {
     bool key_pressed(QKeyEvent& event) override {
         if (binder::key_pressed(event)) return true;
         if (event.key() != Qt::Key_Right && event.key() != Qt::Key_Left) return false;
-        bar_->triggerAction(event.key() == Qt::Key_Right ? QScrollBar::SliderSingleStepAdd
-                                                         : QScrollBar::SliderSingleStepSub);
+        widget_->triggerAction(event.key() == Qt::Key_Right ? QScrollBar::SliderSingleStepAdd
+                                                            : QScrollBar::SliderSingleStepSub);
         return true;
     }
 
     void show_value(aspect) override {
         const quiet while_showing(*this);
-        bar_->setRange(std::min(model_.minimum(), model_.maximum()),
-                       std::max(model_.minimum(), model_.maximum()));
-        bar_->setPageStep(std::max(1, (bar_->maximum() - bar_->minimum()) / 20));
-        bar_->setValue(model_.value());
+        widget_->setRange(std::min(model_.minimum(), model_.maximum()),
+                          std::max(model_.minimum(), model_.maximum()));
+        widget_->setPageStep(std::max(1, (widget_->maximum() - widget_->minimum()) / 20));
+        widget_->setValue(model_.value());
     }
-
-    QScrollBar* bar_;
-    scroll_bar& model_;
 };
 
-class progress_binder final : public binder {
+class progress_binder final : public binder_of<progress_bar, QProgressBar> {
  public:
-    progress_binder(progress_bar& model, QWidget* parent, const user& by)
-        : binder(model, new QProgressBar(parent), by), bar_(as<QProgressBar>()), model_(model) {
-        show_all();
-    }
+    using binder_of::binder_of;
 
  private:
     void show_value(aspect) override {
-        bar_->setRange(model_.minimum(), model_.maximum());
-        bar_->setValue(model_.value());
+        widget_->setRange(model_.minimum(), model_.maximum());
+        widget_->setValue(model_.value());
     }
-
-    QProgressBar* bar_;
-    progress_bar& model_;
 };
 
-class date_binder final : public binder {
+class date_binder final : public binder_of<date_picker, QDateEdit> {
  public:
     date_binder(date_picker& model, QWidget* parent, const user& by)
-        : binder(model, new QDateEdit(parent), by), edit_(as<QDateEdit>()), model_(model) {
-        edit_->setCalendarPopup(true);
-        edit_->setDisplayFormat("dd/MM/yyyy");
-        edit_->setMinimumWidth(edit_->fontMetrics().horizontalAdvance("00/00/0000") + 52);
-        edit_->setDateRange(QDate(100, 1, 1), QDate(9999, 12, 31));
+        : binder_of(model, parent, by) {
+        widget_->setCalendarPopup(true);
+        widget_->setDisplayFormat("dd/MM/yyyy");
+        widget_->setMinimumWidth(widget_->fontMetrics().horizontalAdvance("00/00/0000") + 52);
+        widget_->setDateRange(QDate(100, 1, 1), QDate(9999, 12, 31));
         const QLocale italian(QLocale::Italian, QLocale::Italy);
-        edit_->setLocale(italian);
-        edit_->calendarWidget()->setLocale(italian);
-        edit_->calendarWidget()->setFirstDayOfWeek(Qt::Monday);
-        edit_->calendarWidget()->setMinimumSize(330, 240);
-        QPalette greyed = edit_->calendarWidget()->palette();
+        widget_->setLocale(italian);
+        widget_->calendarWidget()->setLocale(italian);
+        widget_->calendarWidget()->setFirstDayOfWeek(Qt::Monday);
+        widget_->calendarWidget()->setMinimumSize(330, 240);
+        QPalette greyed = widget_->calendarWidget()->palette();
         greyed.setColor(QPalette::Disabled, QPalette::Text, QColor("#6a7783"));
-        edit_->calendarWidget()->setPalette(greyed);
-        connect(edit_, &QDateEdit::dateChanged, this, [this](QDate day) {
+        widget_->calendarWidget()->setPalette(greyed);
+        connect(widget_, &QDateEdit::dateChanged, this, [this](QDate day) {
             if (showing()) return;
             this->act([&] {
                 model_.set_focus();
@@ -89,11 +77,10 @@ class date_binder final : public binder {
             });
         });
         for (const auto chosen : {&QCalendarWidget::clicked, &QCalendarWidget::activated}) {
-            connect(edit_->calendarWidget(), chosen, this,
+            connect(widget_->calendarWidget(), chosen, this,
                     [this] { this->act([&] { model_.confirm(); }); });
         }
-        edit_->calendarWidget()->installEventFilter(this);
-        show_all();
+        widget_->calendarWidget()->installEventFilter(this);
     }
 
  private:
@@ -107,7 +94,7 @@ class date_binder final : public binder {
 
     void show_value(aspect) override {
         const date& day = model_.value();
-        edit_->setDate(QDate(day.year, day.month, day.day));
+        widget_->setDate(QDate(day.year, day.month, day.day));
     }
 
     void mark_today() {
@@ -115,14 +102,11 @@ class date_binder final : public binder {
         today.setFontWeight(QFont::Bold);
         today.setFontUnderline(true);
         today.setBackground(QColor("#dcebf8"));
-        edit_->calendarWidget()->setDateTextFormat({}, {});
-        edit_->calendarWidget()->setDateTextFormat(QDate::currentDate(), today);
+        widget_->calendarWidget()->setDateTextFormat({}, {});
+        widget_->calendarWidget()->setDateTextFormat(QDate::currentDate(), today);
     }
 
     [[nodiscard]] bool widget_takes(bool) const override { return true; }
-
-    QDateEdit* edit_;
-    date_picker& model_;
 };
 
 }  // namespace

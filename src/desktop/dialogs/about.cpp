@@ -31,8 +31,8 @@ void show_about(QWidget& window) {
     if (const auto* known = qApp->findChild<QObject*>(of_program)) {
         lines << QString() << static_cast<const program_facts*>(known)->facts();
     }
-    QMessageBox box(QMessageBox::Information, QString::fromUtf8(words::about), lines.join("\n"),
-                    QMessageBox::Ok, &window);
+    QMessageBox box(QMessageBox::Information, words::about, lines.join("\n"), QMessageBox::Ok,
+                    &window);
     box.setTextFormat(Qt::PlainText);
     box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     box.exec();

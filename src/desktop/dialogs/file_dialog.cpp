@@ -12,7 +12,6 @@
 #include <filesystem>
 
 #include "desktop/dialogs/file_showing.h"
-#include "desktop/look/box_look.h"
 #include "desktop/look/words.h"
 #include "store/why_not_written.h"
 #include "text/code_page.h"
@@ -49,11 +48,11 @@ QString run_dialog(QFileDialog& dialog, const file_kind& kind, const char* accep
     dialog.setViewMode(QFileDialog::List);
     dialog.setNameFilter(QString("%1 (*.%2)").arg(kind.name, kind.ending));
     dialog.setDefaultSuffix(kind.ending);
-    dialog.setLabelText(QFileDialog::LookIn, QString::fromUtf8(words::look_in));
-    dialog.setLabelText(QFileDialog::FileName, QString::fromUtf8(words::file_name));
-    dialog.setLabelText(QFileDialog::FileType, QString::fromUtf8(words::file_type));
-    dialog.setLabelText(QFileDialog::Accept, QString::fromUtf8(accept));
-    dialog.setLabelText(QFileDialog::Reject, QString::fromUtf8(words::cancel));
+    dialog.setLabelText(QFileDialog::LookIn, words::look_in);
+    dialog.setLabelText(QFileDialog::FileName, words::file_name);
+    dialog.setLabelText(QFileDialog::FileType, words::file_type);
+    dialog.setLabelText(QFileDialog::Accept, accept);
+    dialog.setLabelText(QFileDialog::Reject, words::cancel);
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 
@@ -102,16 +101,16 @@ QString write_whole(const QString& file, const QByteArray& content) {
 void save_whole(const QString& file, const QByteArray& content, QWidget* above) {
     const QString why = write_whole(file, content);
     if (why.isEmpty()) return tell_saved(file, above);
-    tell(QString::fromUtf8(words::cannot_write).arg(file, why), above);
+    tell(QString(words::cannot_write).arg(file, why), above);
 }
 
-void tell(const QString& what, QWidget* above) {
+void tell(const QString& what, QWidget* above, icon sign, const QString& title) {
     const plain_pointer shown_meanwhile;
     QMessageBox box(above);
-    box.setWindowTitle(QString::fromUtf8(words::attention));
+    box.setWindowTitle(title);
     box.setTextFormat(Qt::PlainText);
     box.setText(what);
-    dress_box(box, icon::warning);
+    dress_box(box, sign);
     box.exec();
 }
 

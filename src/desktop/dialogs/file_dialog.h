@@ -3,6 +3,8 @@
 #include <QByteArray>
 #include <QString>
 
+#include "desktop/look/box_look.h"
+
 class QWidget;
 
 namespace vantora::ui::desktop {
@@ -38,7 +40,8 @@ QString write_whole(const QString& file, const QByteArray& content);
 /// The same, and the user is told where the file is or why it isn't.
 void save_whole(const QString& file, const QByteArray& content, QWidget* above);
 
-/// A box with a warning.
-void tell(const QString& what, QWidget* above);
+/// A box that tells something.
+void tell(const QString& what, QWidget* above, icon sign = icon::warning,
+          const QString& title = attention);
 
 }  // namespace vantora::ui::desktop

@@ -1,10 +1,17 @@
 #pragma once
 
+#include <QProcess>
 #include <QString>
+#include <memory>
 
 class QWidget;
 
 namespace vantora::ui::desktop {
+
+/// Waits, with windows painted meanwhile, for a started program to end. False if it takes longer
+/// than so many milliseconds: it goes on by itself, and is gone from here.
+bool ends_within(std::unique_ptr<QProcess>& program, qint64 longest);
+bool ended_well(const QProcess& program);
 
 /// Shows a file or folder in the program that the user has for it. False if none takes it.
 bool show_file(const QString& file);

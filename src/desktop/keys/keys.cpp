@@ -44,10 +44,12 @@ QString key_help::native_keys() const {
     return named.join(", ");
 }
 
-QShortcut* add_key(QWidget& owner, const char* keys, const char* what) {
+QShortcut* add_key(QWidget& owner, const QString& keys, const QString& what,
+                   const std::function<void()>& action) {
     auto* shortcut = new QShortcut(QKeySequence(keys), &owner);
     shortcut->setAutoRepeat(false);
-    new key_help(owner, keys, QString::fromUtf8(what));
+    QObject::connect(shortcut, &QShortcut::activated, &owner, action);
+    new key_help(owner, keys, what);
     return shortcut;
 }
 
@@ -62,11 +64,11 @@ bool clicked_by_key(const QAbstractButton& button) {
     return button.property(by_key).toBool();
 }
 
-void add_shortcut(QAbstractButton& button, const char* keys) {
+void add_shortcut(QAbstractButton& button, const QString& keys) {
     const QString what = button.toolTip().isEmpty() ? button.text().remove('&') : button.toolTip();
-    QShortcut* shortcut = add_key(button, keys, what.toUtf8().constData());
-    QObject::connect(shortcut, &QShortcut::activated, &button, [&button] { click_by_key(button); });
-    const QString named = QString("(%1)").arg(shortcut->key().toString(QKeySequence::NativeText));
+    add_key(button, keys, what, [&button] { click_by_key(button); });
+    const QString named =
+        QString("(%1)").arg(QKeySequence(keys).toString(QKeySequence::NativeText));
     button.setToolTip((button.toolTip() + " " + named).trimmed());
 }
 
@@ -119,15 +121,14 @@ QWidget* key_table(const std::vector<const key_help*>& keys, QWidget* parent) {
 void show_keys(QWidget& window) {
     QDialog dialog(&window);
     dialog.setObjectName("tasti");
-    dialog.setWindowTitle(QString::fromUtf8(words::keys_of_window).arg(window.windowTitle()));
+    dialog.setWindowTitle(QString(words::keys_of_window).arg(window.windowTitle()));
     auto* area = new QScrollArea(&dialog);
     area->setFrameShape(QFrame::NoFrame);
     area->setWidgetResizable(true);
     QWidget* table = key_table(keys_of(window), area);
     area->setWidget(table);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, &dialog);
-    auto* manual =
-        buttons->addButton(QString::fromUtf8(words::open_manual), QDialogButtonBox::HelpRole);
+    auto* manual = buttons->addButton(words::open_manual, QDialogButtonBox::HelpRole);
     QObject::connect(manual, &QPushButton::clicked, &dialog, [&dialog] { open_manual(&dialog); });
     QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
     auto* all = new QVBoxLayout(&dialog);
@@ -139,46 +140,51 @@ void show_keys(QWidget& window) {
     dialog.exec();
 }
 
-namespace {
+// The bar of commands -----------------------------------------------------------------------------
 
-/// Made when it is asked for: a menu is a window, and screens come and go.
-void show_help_menu(QWidget& window, const QWidget& below) {
-    QMenu menu(&window);
-    const QString tab = "\t";
-    menu.addAction(QString::fromUtf8(words::show_keys) + tab +
-                       QKeySequence("Ctrl+?").toString(QKeySequence::NativeText),
-                   &window, [&window] { show_keys(window); });
-    menu.addAction(QString::fromUtf8(words::open_manual) + tab + "F1", &window,
-                   [&window] { open_manual(&window); });
-    menu.addAction(QString::fromUtf8(words::about), &window, [&window] { show_about(window); });
-    menu.exec(below.mapToGlobal(QPoint(0, below.height())));
+QHBoxLayout* command_bar_of(const QWidget& window) {
+    for (const auto* bar : window.findChildren<QFrame*>()) {
+        auto* row = qobject_cast<QHBoxLayout*>(bar->layout());
+        if (row && bar->property("role").toString() == "bar") return row;
+    }
+    return nullptr;
 }
 
-}  // namespace
+QToolButton* menu_button(QWidget& window, const char* name, const QString& caption,
+                         const char* tooltip, const std::function<void(QMenu&)>& fill) {
+    auto* button = new QToolButton(&window);
+    button->setObjectName(name);
+    button->setText(caption);
+    button->setToolTip(tooltip);
+    button->setFocusPolicy(Qt::NoFocus);
+    QObject::connect(button, &QToolButton::clicked, &window, [&window, button, fill] {
+        QMenu menu(&window);
+        fill(menu);
+        menu.exec(button->mapToGlobal(QPoint(0, button->height())));
+    });
+    return button;
+}
 
 QToolButton* help_button(QWidget& window) {
-    auto* button = new QToolButton(&window);
-    button->setObjectName("aiuto");
-    button->setText("?");
-    button->setToolTip(QString::fromUtf8(words::help));
-    button->setAccessibleName(QString::fromUtf8(words::help));
-    button->setFocusPolicy(Qt::NoFocus);
+    QToolButton* button = menu_button(window, "aiuto", "?", words::help, [&window](QMenu& menu) {
+        menu.addAction(QString(words::show_keys) + "\t" +
+                           QKeySequence("Ctrl+?").toString(QKeySequence::NativeText),
+                       &window, [&window] { show_keys(window); });
+        menu.addAction(QString(words::open_manual) + "\tF1", &window,
+                       [&window] { open_manual(&window); });
+        menu.addAction(words::about, &window, [&window] { show_about(window); });
+    });
+    button->setAccessibleName(words::help);
     button->setProperty("look", "help");
-    QObject::connect(button, &QToolButton::clicked, &window,
-                     [&window, button] { show_help_menu(window, *button); });
     return button;
 }
 
 void add_help(QWidget& window) {
-    QObject::connect(add_key(window, "Ctrl+?", words::show_keys), &QShortcut::activated, &window,
-                     [&window] { show_keys(window); });
-    new key_help(window, "F1", QString::fromUtf8(words::manual_key));
+    add_key(window, "Ctrl+?", words::show_keys, [&window] { show_keys(window); });
+    new key_help(window, "F1", words::manual_key);
     if (window.findChild<QToolButton*>("aiuto")) return;
-    for (auto* bar : window.findChildren<QFrame*>()) {
-        auto* row = qobject_cast<QHBoxLayout*>(bar->layout());
-        if (!row || bar->property("role").toString() != "bar") continue;
+    if (QHBoxLayout* row = command_bar_of(window)) {
         row->addWidget(help_button(window), 0, Qt::AlignTop);
-        return;
     }
 }
 

@@ -2,10 +2,12 @@
 
 #include <QObject>
 #include <QString>
+#include <functional>
 #include <vector>
 
 class QAbstractButton;
-class QKeySequence;
+class QHBoxLayout;
+class QMenu;
 class QShortcut;
 class QToolButton;
 class QWidget;
@@ -28,9 +30,10 @@ class key_help final : public QObject {
     QString what_;
 };
 
-/// A key of a window or of a widget in it, told by the overview; `what` in UTF-8. It doesn't repeat
-/// while it is held.
-QShortcut* add_key(QWidget& owner, const char* keys, const char* what);
+/// A key of a window or of a widget in it, told by the overview. It doesn't repeat while it is
+/// held.
+QShortcut* add_key(QWidget& owner, const QString& keys, const QString& what,
+                   const std::function<void()>& action);
 
 /// Presses a button as its keys do: where the screen doesn't move the focus, it stays.
 void click_by_key(QAbstractButton& button);
@@ -39,13 +42,20 @@ bool clicked_by_key(const QAbstractButton& button);
 
 /// Further keys for a button, told by its tooltip and by the overview; pressed by them it leaves
 /// the focus where it is.
-void add_shortcut(QAbstractButton& button, const char* keys);
+void add_shortcut(QAbstractButton& button, const QString& keys);
 
 /// The lines of the overview that hold for what is there to be worked in.
 std::vector<const key_help*> keys_of(const QWidget& window);
 
 /// Shows the overview and waits until it is closed.
 void show_keys(QWidget& window);
+
+/// Where a window's commands stand; null if it has no bar for them.
+QHBoxLayout* command_bar_of(const QWidget& window);
+
+/// A button with a menu, which is made when it is asked for: what it holds changes.
+QToolButton* menu_button(QWidget& window, const char* name, const QString& caption,
+                         const char* tooltip, const std::function<void(QMenu&)>& fill);
 
 /// A small button whose menu leads to keys and manual.
 QToolButton* help_button(QWidget& window);

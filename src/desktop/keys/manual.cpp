@@ -4,10 +4,9 @@
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
-#include <QMessageBox>
 #include <QUrl>
 
-#include "desktop/look/box_look.h"
+#include "desktop/dialogs/file_dialog.h"
 #include "desktop/look/words.h"
 
 namespace vantora::ui::desktop {
@@ -43,13 +42,8 @@ bool asks_for_manual(const QKeyEvent& key, const QWidget* focused) {
 void open_manual(QWidget* above) {
     const QString file = manual_file(QCoreApplication::applicationDirPath());
     if (!file.isEmpty() && QDesktopServices::openUrl(QUrl::fromLocalFile(file))) return;
-    QMessageBox box(above);
-    box.setWindowTitle(words::manual);
-    box.setTextFormat(Qt::PlainText);
-    box.setText(file.isEmpty() ? QString::fromUtf8(words::no_manual)
-                               : QString::fromUtf8(words::manual_stays_shut).arg(file));
-    dress_box(box, icon::information);
-    box.exec();
+    tell(file.isEmpty() ? words::no_manual : QString(words::manual_stays_shut).arg(file), above,
+         icon::information, words::manual);
 }
 
 }  // namespace vantora::ui::desktop

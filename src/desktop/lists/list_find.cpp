@@ -21,8 +21,8 @@ namespace {
 QToolButton* small_button(QWidget* parent, const char* icon, const char* what) {
     auto* button = new QToolButton(parent);
     if (*icon) button->setIcon(picture_named(icon));
-    button->setToolTip(QString::fromUtf8(what));
-    button->setAccessibleName(QString::fromUtf8(what));
+    button->setToolTip(what);
+    button->setAccessibleName(what);
     button->setFocusPolicy(Qt::NoFocus);
     button->setProperty("look", "small");
     return button;
@@ -38,8 +38,8 @@ list_find::list_find(const shown_list& list, list_overlay& overlay, QWidget* par
       count_(new QLabel(this)) {
     setObjectName(list.view().objectName() + "_trova");
     text_->setObjectName(list.view().objectName() + "_testo_da_trovare");
-    text_->setAccessibleName(QString::fromUtf8(words::find_in_list));
-    text_->setToolTip(QString::fromUtf8(words::find_take));
+    text_->setAccessibleName(words::find_in_list);
+    text_->setToolTip(words::find_take);
     text_->setMaximumWidth(320);
     text_->installEventFilter(this);
     connect(text_, &QLineEdit::textChanged, this, [this] { typed(); });
@@ -48,14 +48,14 @@ list_find::list_find(const shown_list& list, list_overlay& overlay, QWidget* par
     auto* line = new QHBoxLayout(this);
     line->setContentsMargins(0, 3, 0, 0);
     line->setSpacing(4);
-    auto* caption = new QLabel(QString::fromUtf8(words::find_caption), this);
+    auto* caption = new QLabel(words::find_caption, this);
     caption->setBuddy(text_);
     line->addWidget(caption);
     line->addWidget(text_, 3);
     auto* previous = small_button(this, "su", words::find_previous);
     auto* next = small_button(this, "giu", words::find_next);
     auto* close = small_button(this, "", words::find_close);
-    close->setText(QString::fromUtf8("×"));
+    close->setText("×");
     connect(previous, &QToolButton::clicked, this, [this] { walk(-1); });
     connect(next, &QToolButton::clicked, this, [this] { walk(1); });
     connect(close, &QToolButton::clicked, this, [this] { leave(); });
@@ -99,15 +99,21 @@ void list_find::take() {
 void list_find::search() {
     if (searched_ != list_.revision()) {
         searched_ = list_.revision();
-        texts_.clear();
+        texts_.assign(static_cast<std::size_t>(list_.rows()), {});
         const std::vector<int> columns = list_.columns();
         for (int row = 0; row < list_.rows(); ++row) {
-            for (const int column : columns) texts_.add_cell(list_.text(row, column));
-            texts_.end_row();
+            std::string& text = texts_[static_cast<std::size_t>(row)];
+            for (const int column : columns) {
+                append_searchable(text, list_.text(row, column));
+                text += '\0';
+            }
         }
     }
     wanted_ = searchable(from_qt(text_->text()));
-    found_ = texts_.rows_with(wanted_);
+    found_.clear();
+    for (std::size_t row = 0; row < texts_.size() && !wanted_.empty(); ++row) {
+        if (texts_[row].find(wanted_) != std::string::npos) found_.push_back(static_cast<int>(row));
+    }
 }
 
 void list_find::typed() {
@@ -145,10 +151,10 @@ void list_find::stand_on(std::size_t match) {
 
 void list_find::show_count() {
     QString text;
-    if (!wanted_.empty() && found_.empty()) text = QString::fromUtf8(words::find_none);
+    if (!wanted_.empty() && found_.empty()) text = words::find_none;
     if (!found_.empty()) {
         const auto match = std::ranges::lower_bound(found_, at_) - found_.begin();
-        text = QString::fromUtf8(words::find_one_of).arg(match + 1).arg(found_.size());
+        text = QString(words::find_one_of).arg(match + 1).arg(found_.size());
     }
     count_->setText(text);
     overlay_.show_found(wanted_, at_);

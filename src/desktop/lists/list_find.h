@@ -6,11 +6,9 @@
 #include <vector>
 
 #include "desktop/lists/list_overlay.h"
-#include "desktop/lists/list_search.h"
 
 class QLabel;
 class QLineEdit;
-class QToolButton;
 
 namespace vantora::ui::desktop {
 
@@ -43,7 +41,7 @@ class list_find final : public QWidget {
     list_overlay& overlay_;
     QLineEdit* text_;
     QLabel* count_;
-    list_search texts_;
+    std::vector<std::string> texts_;              ///< of the rows, searchable()
     std::uint64_t searched_ = ~std::uint64_t{0};  ///< the list's revision in `texts_`
     std::vector<int> found_;
     std::string wanted_;

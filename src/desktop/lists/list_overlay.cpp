@@ -4,7 +4,6 @@
 #include <QEvent>
 #include <QPainter>
 
-#include "desktop/lists/list_search.h"
 #include "text/searchable.h"
 
 namespace vantora::ui::desktop {

@@ -10,13 +10,15 @@ class QWidget;
 
 namespace vantora::ui::desktop {
 
-/// The rows as text for spreadsheets, in UTF-8.
+/// A cell as spreadsheets may have it: what they would take for a formula gets an apostrophe in
+/// front; numbers stay numbers. They may pass over blanks and control characters, and take quotes
+/// off what is pasted.
+std::string harmless(std::string_view cell);
+
+/// The rows as spreadsheets paste them: cells behind tabs, in UTF-8.
 std::string tabbed_text(const shown_list& list, const std::set<int>& rows);
 
-/// The whole list with its heads as a CSV file.
-std::string csv_text(const shown_list& list);
-
-/// Asks for a file, proposing a name, and saves the list there; a box tells if that fails.
+/// Asks for a file, proposing a name, and saves the list there as CSV; a box tells if that fails.
 void save_list(const shown_list& list, const QString& called, QWidget* above);
 
 }  // namespace vantora::ui::desktop

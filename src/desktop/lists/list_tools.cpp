@@ -45,17 +45,15 @@ class list_tools final : public QObject {
         view.setContextMenuPolicy(Qt::CustomContextMenu);
         connect(&view, &QWidget::customContextMenuRequested, this,
                 [this](const QPoint& place) { show_menu(place); });
-        QShortcut* find = add_key(window, "Ctrl+F", words::find_in_list);
-        find->setObjectName(view.objectName() + "_trova");
-        QShortcut* save = add_key(window, "Ctrl+Shift+E", words::save_list);
-        new key_help(window, "Ctrl+C", QString::fromUtf8(words::copy_rows));
-        new key_help(window, "Shift+Up Shift+Down Ctrl+A", QString::fromUtf8(words::mark_rows));
-        connect(find, &QShortcut::activated, find_, [this] {
+        QShortcut* find = add_key(window, "Ctrl+F", words::find_in_list, [this] {
             if (list_.view().isVisible()) find_->open();
         });
-        connect(save, &QShortcut::activated, find_, [this] {
+        find->setObjectName(view.objectName() + "_trova");
+        add_key(window, "Ctrl+Shift+E", words::save_list, [this] {
             if (list_.view().isVisible()) save_all();
         });
+        new key_help(window, "Ctrl+C", words::copy_rows);
+        new key_help(window, "Shift+Up Shift+Down Ctrl+A", words::mark_rows);
     }
 
     bool eventFilter(QObject* watched, QEvent* event) override {
@@ -80,7 +78,7 @@ class list_tools final : public QObject {
     void show_menu(const QPoint& place) {
         QMenu menu(&list_.view());
         const auto add = [&](const char* what, const char* keys, auto action) {
-            QAction* one = menu.addAction(QString::fromUtf8(what), this, action);
+            QAction* one = menu.addAction(what, this, action);
             one->setShortcut(QKeySequence(keys));
             return one;
         };

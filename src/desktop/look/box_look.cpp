@@ -15,19 +15,8 @@ namespace {
 constexpr int narrowest = 330;
 constexpr QSize picture_size(40, 40);
 
-const char* picture_of(icon sign) {
-    switch (sign) {
-        case icon::stop:
-            return "fermo";
-        case icon::warning:
-            return "avviso";
-        case icon::question:
-            return "domanda";
-        case icon::information:
-            break;
-    }
-    return "informazione";
-}
+// In the order of the enumeration.
+constexpr const char* pictures[] = {"fermo", "avviso", "domanda", "informazione"};
 
 /// The style's least width would let longer captions be cut.
 class whole_captions final : public QObject {
@@ -50,7 +39,8 @@ class whole_captions final : public QObject {
 void dress_box(QMessageBox& box, icon sign) {
     box.setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                        Qt::WindowCloseButtonHint);
-    box.setIconPixmap(picture_named(picture_of(sign)).pixmap(picture_size, box.devicePixelRatio()));
+    const QIcon picture = picture_named(pictures[static_cast<std::size_t>(sign)]);
+    box.setIconPixmap(picture.pixmap(picture_size, box.devicePixelRatio()));
     auto* rows = static_cast<QGridLayout*>(box.layout());
     // Icon and text stand on one line.
     for (const char* name : {"qt_msgbox_label", "qt_msgboxex_icon_label"}) {

@@ -49,7 +49,6 @@ inline constexpr const char* list_coming = "Lettura dell'archivio";
 
 // Files ------------------------------------------------------------------------------------------
 
-inline constexpr const char* attention = "Attenzione";
 inline constexpr const char* cannot_write = "Il file %1 non si può scrivere: %2";
 inline constexpr const char* look_in = "Cerca in:";
 inline constexpr const char* file_name = "Nome del file:";

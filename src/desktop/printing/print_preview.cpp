@@ -22,13 +22,12 @@ namespace {
 
 void save_as_pdf(const recorded_pages& pages, const QPrinter& like, const QString& called,
                  QWidget* above) {
-    const QString file = ask_where_to_save(QString::fromUtf8(words::save_pdf), called,
-                                           {QString::fromUtf8(words::pdf_files), "pdf"}, above);
+    const QString file =
+        ask_where_to_save(words::save_pdf, called, {words::pdf_files, "pdf"}, above);
     if (file.isEmpty()) return;
     const auto pdf = pdf_of(pages, like, called, {});
     if (pdf) return save_whole(file, *pdf, above);
-    tell(QString::fromUtf8(words::cannot_write).arg(file, QString::fromUtf8(words::no_drawing)),
-         above);
+    tell(QString(words::cannot_write).arg(file, words::no_drawing), above);
 }
 
 /// The dialog's bar of commands.
@@ -43,7 +42,7 @@ class preview_bar final : public QFrame {
 
     QToolButton* add(const char* what, const char* keys, const std::function<void()>& action) {
         auto* button = new QToolButton(this);
-        const QString text = QString::fromUtf8(what);
+        const QString text = what;
         button->setText(text);
         button->setToolTip(text + " (" + QKeySequence(keys).toString(QKeySequence::NativeText) +
                            ")");
@@ -67,8 +66,7 @@ class preview_bar final : public QFrame {
     void add_stretch() { row_->addStretch(1); }
 
     void show_page() {
-        page_->setText(
-            QString::fromUtf8(words::page_of).arg(view_.currentPage()).arg(view_.pageCount()));
+        page_->setText(QString(words::page_of).arg(view_.currentPage()).arg(view_.pageCount()));
         before_->setEnabled(view_.currentPage() > 1);
         after_->setEnabled(view_.currentPage() < view_.pageCount());
     }
@@ -137,11 +135,10 @@ bool wants_printed(const recorded_pages& pages, QPrinter& printer, const QString
     const plain_pointer shown_meanwhile;
     QDialog dialog(above);
     dialog.setObjectName("anteprima");
-    dialog.setWindowTitle(
-        QString::fromUtf8(words::preview_of).arg(called).replace("[*]", "[*][*]"));
+    dialog.setWindowTitle(QString(words::preview_of).arg(called).replace("[*]", "[*][*]"));
     dialog.setWindowFlag(Qt::WindowMaximizeButtonHint);
     auto* view = new QPrintPreviewWidget(&printer, &dialog);
-    view->setAccessibleName(QString::fromUtf8(words::preview));
+    view->setAccessibleName(words::preview);
     QObject::connect(view, &QPrintPreviewWidget::paintRequested, &dialog, [&pages](QPrinter* on) {
         QPainter painter(on);
         draw_pages(pages, painter, *on, {});

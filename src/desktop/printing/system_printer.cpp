@@ -4,18 +4,20 @@
 #include <QBoxLayout>
 #include <QCheckBox>
 #include <QDialogButtonBox>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinterInfo>
+#include <QProgressDialog>
 #include <QPushButton>
 #include <QSettings>
 #include <QTimer>
+#include <algorithm>
 
 #include "desktop/dialogs/file_dialog.h"
 #include "desktop/look/words.h"
 #include "desktop/printing/print_preview.h"
-#include "desktop/printing/print_progress.h"
 #include "ui/paper/toolkit_values.h"
 
 namespace vantora::ui::desktop {
@@ -25,8 +27,7 @@ namespace {
 constexpr const char* preview_setting = "printing/preview";
 
 QString ask_by_dialog(const QString& called) {
-    return ask_where_to_save(QString::fromUtf8(words::no_printer), called,
-                             {QString::fromUtf8(words::pdf_files), "pdf"},
+    return ask_where_to_save(words::no_printer, called, {words::pdf_files, "pdf"},
                              QApplication::activeWindow());
 }
 
@@ -53,6 +54,39 @@ struct system_printer::job {
     recorded_pages pages;
     int orientation = upright;
     bool dropped = false;  ///< its user named no file
+};
+
+/// How far a long print is, with a button that stops it. It comes up when it takes its time.
+class system_printer::progress {
+ public:
+    explicit progress(const QString& called)
+        : dialog_(QString(words::printing).arg(called), words::break_off, 0, steps,
+                  QApplication::activeWindow()) {
+        dialog_.setObjectName("avanzamento");
+        dialog_.setWindowTitle(words::print);
+        dialog_.setWindowModality(Qt::ApplicationModal);
+        dialog_.setMinimumDuration(longest_unshown);
+        dialog_.setAutoReset(false);
+        dialog_.setAutoClose(false);
+        dialog_.setValue(0);
+        since_shown_.start();
+    }
+    /// So much is done, of 0 to 1. False: the user stops it.
+    bool shows(double done) {
+        if (dialog_.wasCanceled()) return false;
+        if (since_shown_.elapsed() < between_steps) return true;
+        dialog_.setValue(std::clamp(static_cast<int>(done * steps), 0, steps));
+        since_shown_.restart();
+        return !dialog_.wasCanceled();
+    }
+
+ private:
+    static constexpr int steps = 1000;
+    static constexpr qint64 between_steps = 40;  ///< milliseconds
+    static constexpr int longest_unshown = 500;  ///< milliseconds
+
+    QProgressDialog dialog_;
+    QElapsedTimer since_shown_;
 };
 
 system_printer::system_printer()
@@ -118,7 +152,7 @@ bool system_printer::choose_target() {
     const bool is_new = !QFile::exists(target_);
     QFile target(target_);
     if (!target.open(QIODevice::ReadWrite)) {
-        tell_(QString::fromUtf8(words::cannot_write).arg(target_, target.errorString()));
+        tell_(QString(words::cannot_write).arg(target_, target.errorString()));
         return false;
     }
     if (is_new) target.remove();
@@ -154,7 +188,7 @@ void system_printer::new_page() {
 
 bool system_printer::goes_on(double done) {
     if (job_ && job_->dropped) return false;
-    if (!progress_) progress_ = std::make_unique<print_progress>(job_name_);
+    if (!progress_) progress_ = std::make_unique<progress>(job_name_);
     // What is drawn here is only half done when it is composed.
     const bool on = progress_->shows(job_ ? done / 2 : done);
     if (!on || (done >= 1 && !job_)) progress_.reset();
@@ -192,7 +226,7 @@ void system_printer::print(job& ended) {
 
 draws_on system_printer::shown_drawing() {
     return [this](double done) {
-        if (!progress_) progress_ = std::make_unique<print_progress>(job_name_);
+        if (!progress_) progress_ = std::make_unique<progress>(job_name_);
         unwanted_ = !progress_->shows((1 + done) / 2);
         return !unwanted_;
     };
@@ -201,14 +235,14 @@ draws_on system_printer::shown_drawing() {
 void system_printer::print_into_file(const recorded_pages& pages) {
     const auto pdf = pdf_of(pages, *printer_, job_name_, shown_drawing());
     if (unwanted_) return;
-    const QString why = pdf ? write_whole(target_, *pdf) : QString::fromUtf8(words::no_drawing);
-    if (!why.isEmpty()) tell_(QString::fromUtf8(words::cannot_write).arg(target_, why));
+    const QString why = pdf ? write_whole(target_, *pdf) : words::no_drawing;
+    if (!why.isEmpty()) tell_(QString(words::cannot_write).arg(target_, why));
 }
 
 void system_printer::print_on_paper(const recorded_pages& pages) {
     auto painter = std::make_unique<QPainter>();
     if (!painter->begin(printer_.get())) {
-        return tell_(QString::fromUtf8(words::cannot_print) + printer_->printerName());
+        return tell_(words::cannot_print + printer_->printerName());
     }
     if (draw_pages(pages, *painter, *printer_, shown_drawing())) return;
     // The toolkit hands to the printing system what it holds, however its painter ends: neither
@@ -242,7 +276,7 @@ bool system_printer::choose_settings() {
     QPrintDialog dialog(printer_.get(), QApplication::activeWindow());
     dialog.setWindowTitle(words::printer_settings);
     dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize);
-    auto* preview = new QCheckBox(QString::fromUtf8(words::preview_first), &dialog);
+    auto* preview = new QCheckBox(words::preview_first, &dialog);
     preview->setChecked(preview_);
     if (auto* column = qobject_cast<QBoxLayout*>(dialog.layout())) {
         column->insertWidget(column->count() - 1, preview);

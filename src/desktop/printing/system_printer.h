@@ -17,8 +17,6 @@ using ask_for_file = std::function<QString(const QString& proposed)>;
 /// Tells the user why a job isn't printed.
 using tell_failure = std::function<void(const QString& why)>;
 
-class print_progress;
-
 /// The system's printer. Where there is none, each job asks for a PDF file and goes there; a user
 /// who names none drops the job.
 class system_printer final : public printer {
@@ -56,6 +54,7 @@ class system_printer final : public printer {
 
  private:
     struct job;
+    class progress;
 
     [[nodiscard]] bool shows_first() const { return preview_ || preview_next_; }
     /// The job at hand, begun if there is none.
@@ -80,7 +79,7 @@ class system_printer final : public printer {
     std::string note_;
     std::unique_ptr<job> job_;
     QString target_;  ///< the file that the job goes into
-    std::unique_ptr<print_progress> progress_;
+    std::unique_ptr<progress> progress_;
     bool unwanted_ = false;  ///< the last job, by its user who saw it
     bool preview_ = false;
     bool preview_next_ = false;  ///< of one job

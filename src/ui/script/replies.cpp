@@ -9,48 +9,16 @@ namespace vantora::ui::script {
 
 namespace {
 
-const char* kind_name(control_kind kind) {
-    switch (kind) {
-        case control_kind::text_box:
-            return "textbox";
-        case control_kind::label:
-            return "label";
-        case control_kind::button:
-            return "button";
-        case control_kind::picture:
-            return "picture";
-        case control_kind::check_box:
-            return "checkbox";
-        case control_kind::option_button:
-            return "option";
-        case control_kind::list_box:
-            return "list";
-        case control_kind::drop_down:
-            return "dropdown";
-        case control_kind::scroll_bar:
-            return "scrollbar";
-        case control_kind::progress_bar:
-            return "progressbar";
-        case control_kind::date_picker:
-            return "datepicker";
-        case control_kind::grid:
-            return "grid";
-    }
-    return "";
-}
+// Each in the order of its enumeration.
+constexpr const char* kind_names[] = {"textbox",   "label",       "button",     "picture",
+                                      "checkbox",  "option",      "list",       "dropdown",
+                                      "scrollbar", "progressbar", "datepicker", "grid"};
+constexpr const char* icon_names[] = {"stop", "warning", "question", "information"};
+constexpr const char* buttons_names[] = {"ok", "yesno", "choice"};
 
-const char* icon_name(icon sign) {
-    switch (sign) {
-        case icon::stop:
-            return "stop";
-        case icon::warning:
-            return "warning";
-        case icon::question:
-            return "question";
-        case icon::information:
-            return "information";
-    }
-    return "";
+template <std::size_t N>
+const char* name_in(const char* const (&names)[N], auto one) {
+    return names[static_cast<std::size_t>(one)];
 }
 
 json answer_json(answer given) {
@@ -66,23 +34,11 @@ json answer_json(answer given) {
     }
 }
 
-const char* buttons_name(buttons which) {
-    switch (which) {
-        case buttons::ok:
-            return "ok";
-        case buttons::yes_no:
-            return "yesno";
-        case buttons::choice:
-            return "choice";
-    }
-    return "";
-}
-
 json box_json(const message_box& box) {
     json whole = {{"text", to_utf8(box.text)},
                   {"title", to_utf8(box.title)},
-                  {"icon", icon_name(box.icon)},
-                  {"buttons", buttons_name(box.buttons)}};
+                  {"icon", name_in(icon_names, box.icon)},
+                  {"buttons", name_in(buttons_names, box.buttons)}};
     for (const std::string& one : box.choices) whole["choices"].push_back(to_utf8(one));
     return whole;
 }
@@ -115,8 +71,9 @@ void describe_text(const control& one, json& state) {
 }  // namespace
 
 json state_of(const control& one) {
-    json state = {
-        {"kind", kind_name(one.kind())}, {"visible", one.visible()}, {"enabled", one.enabled()}};
+    json state = {{"kind", name_in(kind_names, one.kind())},
+                  {"visible", one.visible()},
+                  {"enabled", one.enabled()}};
     switch (one.kind()) {
         case control_kind::text_box:
         case control_kind::label:
