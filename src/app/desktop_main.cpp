@@ -17,11 +17,11 @@
 #include "desktop/look/style.h"
 #include "desktop/outside_end.h"
 #include "desktop/printing/system_printer.h"
-#include "desktop/script_runner.h"
 #include "desktop/system_launcher.h"
 #include "store/drive.h"
 #include "store/suite_paths.h"
 #include "ui/pictures/pixbuf_decoder.h"
+#include "ui/script/script_front_end.h"
 #include "windows/layouts.h"
 
 namespace {
@@ -169,7 +169,8 @@ int main(int count, char** arguments) {
         }
         ui::desk desk(front, time, script.paper, script.programs);
         ui::script::interpreter commands(desk, time, script.paper, script.programs);
-        ui::desktop::script_runner runner(front, commands, script.commands(), std::cout);
+        commands.shoot = [&front](const auto& file) { return front.save_picture(file); };
+        ui::script::script_runner runner(commands, script.commands(), std::cout);
         program app(files, desk, pictures);
         app.person = person ? &*person : nullptr;
         app.book = book_for(options, true);

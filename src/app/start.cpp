@@ -30,38 +30,18 @@ namespace vantora {
 
 namespace {
 
-template <class Form>
-void provide(ui::screen<Form>& place, program& app) {
-    place.made_by(app.desk, [&app] { return std::make_unique<Form>(app); });
+template <class... Forms>
+void provide(program& app, ui::screen<Forms>&... places) {
+    (places.made_by(app.desk, [&app] { return std::make_unique<Forms>(app); }), ...);
 }
 
 }  // namespace
 
 void start(program& app, std::string_view argument) {
-    provide(app.mirorc, app);
-    provide(app.mirorcx, app);
-    provide(app.mirorcm, app);
-    provide(app.mirsel, app);
-    provide(app.mirdata, app);
-    provide(app.mirorcs, app);
-    provide(app.mirstoe, app);
-    provide(app.mirstos, app);
-    provide(app.mirstov, app);
-    provide(app.mirston, app);
-    provide(app.mirstoa, app);
-    provide(app.mirorcb, app);
-    provide(app.mirpref, app);
-    provide(app.mirorcz, app);
-    provide(app.mirorcc, app);
-    provide(app.mirorcr, app);
-    provide(app.mirorca, app);
-    provide(app.bozze, app);
-    provide(app.documenti, app);
-    provide(app.prezzi, app);
-    provide(app.quadro, app);
-    provide(app.ricerca, app);
-    provide(app.storia, app);
-
+    provide(app, app.mirorc, app.mirorcx, app.mirorcm, app.mirsel, app.mirdata, app.mirorcs,
+            app.mirorcz, app.mirorcb, app.mirpref, app.mirorcc, app.mirorcr, app.mirorca,
+            app.mirstoe, app.mirstos, app.mirstov, app.mirston, app.mirstoa, app.bozze,
+            app.documenti, app.prezzi, app.quadro, app.ricerca, app.storia);
     app.desk.at_end = [&app] {
         for (ui::form* one : app.desk.forms()) one->rest();
         chiudi_archivi(app.archives);

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QEventLoop>
+#include <QPainter>
 #include <algorithm>
 
 #include "desktop/dialogs/file_dialog.h"
@@ -275,6 +276,21 @@ QWidget* desktop_front_end::front_window() const {
     return active == windows_.end() ? nullptr : active->second.get();
 }
 
+bool desktop_front_end::save_picture(const std::filesystem::path& file) const {
+    QCoreApplication::processEvents();
+    QWidget* front = front_window();
+    if (!front) return false;
+    QPixmap picture = front->grab();
+    if (QWidget* behind = front->parentWidget()) {
+        // A message box is shown where it stands in front of its window.
+        QPixmap whole = behind->window()->grab();
+        const QSizeF room = whole.deviceIndependentSize() - picture.deviceIndependentSize();
+        QPainter(&whole).drawPixmap(QPointF(room.width() / 2, room.height() / 2), picture);
+        picture = whole;
+    }
+    return picture.save(QString::fromStdString(file.string()));
+}
+
 // Boxes and pointer -------------------------------------------------------------------------------
 
 void desktop_front_end::box_opened(const message_box& box) {
@@ -282,13 +298,13 @@ void desktop_front_end::box_opened(const message_box& box) {
     boxes_.open(box, parent,
                 [this](answer given) { carry_out([&] { desk_->answer_box(given); }); });
     keys_.screen_came_up();
-    show_pointer();
+    pointer_changed();
 }
 
 void desktop_front_end::box_closed() {
     if (boxes_.none()) return;
     boxes_.close_front();
-    show_pointer();
+    pointer_changed();
     if (form* active = desk_->active()) form_activated(*active);
     focus_moved(desk_->focus());
     // The next bar code takes the place of the one that the box complained about.
@@ -297,20 +313,13 @@ void desktop_front_end::box_closed() {
     }
 }
 
-void desktop_front_end::pointer_changed(pointer) {
-    show_pointer();
-}
-
-void desktop_front_end::show_pointer() {
+void desktop_front_end::pointer_changed() {
     // A box can be answered even if the work that asks isn't over.
     const bool busy = desk_->pointer_shape() == pointer::busy && boxes_.none();
     if (busy == busy_shown_) return;
     busy_shown_ = busy;
-    if (busy) {
-        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    } else {
-        QGuiApplication::restoreOverrideCursor();
-    }
+    busy ? QGuiApplication::setOverrideCursor(Qt::WaitCursor)
+         : QGuiApplication::restoreOverrideCursor();
 }
 
 void desktop_front_end::note_shown(const std::string& text) {

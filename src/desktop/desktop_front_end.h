@@ -2,6 +2,7 @@
 
 #include <QElapsedTimer>
 #include <QTimer>
+#include <filesystem>
 #include <map>
 #include <memory>
 #include <vector>
@@ -54,7 +55,9 @@ class desktop_front_end final : public front_end {
     /// Ends the program from outside, as when the user logs off.
     void end_by_user();
 
-    /// The window in front, for a picture of it; null if there is none.
+    /// Saves a picture of the window in front.
+    bool save_picture(const std::filesystem::path& file) const;
+    /// The window in front; null if there is none.
     [[nodiscard]] QWidget* front_window() const;
 
     void run_until(const std::function<bool()>& done) override;
@@ -70,7 +73,7 @@ class desktop_front_end final : public front_end {
     void focus_moved(control* to) override;
     void box_opened(const message_box& box) override;
     void box_closed() override;
-    void pointer_changed(pointer shape) override;
+    void pointer_changed() override;
     void progress_changed(control& list, double done) override;
     void progress_ended(control& list) override;
     void station_awaited(const std::optional<std::string>& station) override;
@@ -97,7 +100,6 @@ class desktop_front_end final : public front_end {
     void close_by_user(form& closing);
     /// The user brings a window to the front.
     void come_forward(form& chosen);
-    void show_pointer();
 
     screen_layouts layouts_;
     QString title_end_;

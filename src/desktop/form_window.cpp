@@ -11,7 +11,6 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QSettings>
-#include <QShortcut>
 #include <QSplitter>
 #include <QTimer>
 #include <QToolButton>

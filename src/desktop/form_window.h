@@ -110,8 +110,11 @@ class form_window final : public QWidget {
     /// done, once.
     void begin_in(control& one, std::function<void()> more = {});
 
-    /// Size of the first showing.
-    void set_first_size(const QSize& size) { first_size_ = size; }
+    /// The least size, and that of the first showing.
+    void set_sizes(const QSize& least, const QSize& first) {
+        setMinimumSize(least);
+        first_size_ = first;
+    }
     /// Shows the window in the place of another one, or in the middle of the screen if there was
     /// none yet.
     void appear(const window_place& place);

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QEvent>
 #include <chrono>
+#include <set>
 
 namespace vantora::ui::desktop {
 
@@ -27,16 +28,9 @@ idle_watch::idle_watch(std::function<void()> idle) : idle_(std::move(idle)) {
 }
 
 bool idle_watch::eventFilter(QObject*, QEvent* event) {
-    switch (event->type()) {
-        case QEvent::KeyPress:
-        case QEvent::MouseButtonPress:
-        case QEvent::MouseButtonRelease:
-        case QEvent::Wheel:
-            since_touched_.restart();
-            break;
-        default:
-            break;
-    }
+    static const std::set touches{QEvent::KeyPress, QEvent::MouseButtonPress,
+                                  QEvent::MouseButtonRelease, QEvent::Wheel};
+    if (touches.contains(event->type())) since_touched_.restart();
     return false;
 }
 

@@ -5,7 +5,7 @@
 #include <QRegularExpression>
 #include <QStringList>
 
-#include "desktop/dialogs/file_showing.h"
+#include "desktop/dialogs/file_dialog.h"
 #include "ui/paper/toolkit_values.h"
 
 namespace vantora::ui::desktop {

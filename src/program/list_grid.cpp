@@ -9,16 +9,14 @@ void list_grid::build(const filling& fill) {
     app_.desk.set_pointer(ui::pointer::busy);
     grid_.set_visible(false);
     empty();
-    fill_rows(fill);
+    {
+        list_rows rows(app_.desk, grid_);
+        fill(rows);
+        finish(rows.in_use());
+    }
     grid_.set_visible(true);
     if (had_focus) grid_.set_focus();
     app_.desk.set_pointer(ui::pointer::normal);
-}
-
-void list_grid::fill_rows(const filling& fill) {
-    list_rows rows(app_.desk, grid_);
-    fill(rows);
-    finish(rows.in_use());
 }
 
 void list_grid::sort(int col, ui::sort_order by) {

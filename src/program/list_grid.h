@@ -80,8 +80,6 @@ class list_grid {
     void paint_stripes();
 
  private:
-    void fill_rows(const filling& fill);
-
     ui::grid& grid_;
     program& app_;
     int minimum_;

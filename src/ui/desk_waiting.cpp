@@ -103,7 +103,7 @@ void desk::show_station_awaited(const std::optional<std::string>& station) {
 void desk::set_pointer(pointer shape) {
     if (pointer_ == shape) return;
     pointer_ = shape;
-    front_.pointer_changed(shape);
+    front_.pointer_changed();
 }
 
 answer desk::show_box(message_box box) {

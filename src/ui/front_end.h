@@ -38,7 +38,7 @@ class front_end {
     virtual void focus_moved(control*) {}
     virtual void box_opened(const message_box&) {}
     virtual void box_closed() {}
-    virtual void pointer_changed(pointer) {}
+    virtual void pointer_changed() {}
     /// A list is being filled, and so much of it is there, of 0 to 1. Nothing that the user does
     /// may be served, windows may be painted.
     virtual void progress_changed(control& /*list*/, double /*done*/) {}

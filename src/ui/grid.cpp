@@ -6,6 +6,7 @@ namespace vantora::ui {
 
 void grid::set_columns(std::vector<grid_column> columns) {
     columns_ = std::move(columns);
+    arena_.clear();
     cells_.assign(1, {});
     row_ = col_ = 0;
     top_row_ = 1;
@@ -17,6 +18,15 @@ void grid::set_columns(std::vector<grid_column> columns) {
 
 void grid::set_rows(int wanted) {
     cells_.resize(static_cast<std::size_t>(std::max(wanted, 1)));
+    if (rows() == 1) {  // a list that comes anew takes the room of the old one
+        std::string heads;
+        for (cell& one : cells_[0]) {
+            heads.append(arena_, one.begin, one.size);
+            one.room = one.size;
+            one.begin = static_cast<std::uint32_t>(heads.size()) - one.size;
+        }
+        arena_.assign(heads);
+    }
     row_ = std::min(row_, rows() - 1);
     if (rows() == 1) shows_end_ = false;
     top_row_ = std::clamp(top_row_, 1, std::max(1, rows() - 1));
@@ -40,12 +50,22 @@ grid::cell& grid::at(int row, int col) {
 }
 
 std::string_view grid::text(int row, int col) const {
-    return holds(row, col) ? std::string_view(at(row, col).text) : std::string_view();
+    if (!holds(row, col)) return {};
+    const cell& one = at(row, col);
+    return std::string_view(arena_).substr(one.begin, one.size);
 }
 
 bool grid::set_text(int row, int col, std::string_view text) {
     if (!holds(row, col)) return false;
-    at(row, col).text = text;
+    cell& one = at(row, col);
+    one.size = static_cast<std::uint32_t>(text.size());
+    if (one.size > one.room) {
+        one.begin = static_cast<std::uint32_t>(arena_.size());
+        one.room = one.size;
+        arena_.append(text);
+    } else {
+        std::ranges::copy(text, arena_.begin() + one.begin);
+    }
     show_change(aspect::content);
     return true;
 }

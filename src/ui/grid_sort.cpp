@@ -14,18 +14,19 @@ struct sort_key {
     bool empty = false;
     bool number = false;
     double value = 0;
-    std::string capitals;
+    std::uint32_t begin = 0;  ///< of the text in capitals, among the texts of all keys
+    std::uint32_t size = 0;
 };
 
-bool stands_behind(const sort_key& left, const sort_key& right) {
+bool stands_behind(const sort_key& left, const sort_key& right, std::string_view texts) {
     if (left.empty || right.empty) return right.empty && !left.empty;
     if (left.number && right.number) return left.value > right.value;
-    return left.capitals > right.capitals;
+    return texts.substr(left.begin, left.size) > texts.substr(right.begin, right.size);
 }
 
 /// Merges runs of rising length. Mixed columns of numbers and texts have no order that holds for
 /// all pairs ("2" < "10" < "1a" < "2"), so this must be safe for any outcome of the comparison.
-void merge_sort(std::vector<sort_key>& keys) {
+void merge_sort(std::vector<sort_key>& keys, std::string_view texts) {
     std::vector<sort_key> merged(keys.size());
     for (std::size_t run = 1; run < keys.size(); run *= 2) {
         for (std::size_t begin = 0; begin < keys.size(); begin += 2 * run) {
@@ -35,8 +36,9 @@ void merge_sort(std::vector<sort_key>& keys) {
             std::size_t right = middle;
             for (std::size_t to = begin; to < end; ++to) {
                 const bool take_right =
-                    right < end && (left == middle || stands_behind(keys[left], keys[right]));
-                merged[to] = std::move(take_right ? keys[right++] : keys[left++]);
+                    right < end &&
+                    (left == middle || stands_behind(keys[left], keys[right], texts));
+                merged[to] = take_right ? keys[right++] : keys[left++];
             }
         }
         keys.swap(merged);
@@ -47,6 +49,7 @@ void merge_sort(std::vector<sort_key>& keys) {
 
 void grid::sort(int col, sort_order by) {
     if (rows() < 3 || !holds(0, col)) return;
+    std::string texts;
     std::vector<sort_key> keys;
     keys.reserve(cells_.size() - 1);
     for (int row = 1; row < rows(); ++row) {
@@ -61,11 +64,13 @@ void grid::sort(int col, sort_order by) {
             const auto number = whole_number_text(shown);
             key.number = number.has_value();
             key.value = number.value_or(0);
-            key.capitals = upper(shown);
+            key.begin = static_cast<std::uint32_t>(texts.size());
+            key.size = static_cast<std::uint32_t>(shown.size());
+            texts += upper(shown);
         }
-        keys.push_back(std::move(key));
+        keys.push_back(key);
     }
-    merge_sort(keys);
+    merge_sort(keys, texts);
     std::vector<std::vector<cell>> sorted;
     sorted.reserve(cells_.size());
     sorted.push_back(std::move(cells_[0]));

@@ -13,7 +13,6 @@ namespace vantora::ui {
 namespace {
 
 constexpr std::ptrdiff_t digits_max = 15;
-constexpr double int16_max = 32767;
 
 /// "1.234.567": groups of three behind the first one.
 bool grouped_by_points(std::string_view whole) {
@@ -90,31 +89,6 @@ std::string with_first_cell(std::string_view before, std::string_view now) {
     const std::size_t first = std::min(put.find_first_not_of(between), put.size());
     const std::string_view cell = put.substr(first, put.find_first_of(between, first) - first);
     return std::string(now.substr(0, begin)).append(cell).append(now.substr(begin + put.size()));
-}
-
-input_rule input_rule::text(std::size_t longest) {
-    input_rule rule;
-    rule.longest = static_cast<int>(longest);
-    return rule;
-}
-
-input_rule input_rule::number() {
-    input_rule rule;
-    rule.holds = content::number;
-    return rule;
-}
-
-input_rule input_rule::small_number() {
-    input_rule rule = number();
-    rule.largest = int16_max;
-    rule.whole = true;
-    return rule;
-}
-
-input_rule input_rule::day() {
-    input_rule rule = text(10);
-    rule.holds = content::day;
-    return rule;
 }
 
 std::optional<std::string> input_rule::admit(std::string_view before, std::string_view now) const {

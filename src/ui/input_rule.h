@@ -22,13 +22,15 @@ struct input_rule {
     bool plain = false;     ///< a number that the screen itself writes with a point for decimals
     bool whole = false;     ///< a number is rounded to the nearest whole one, ties to even
 
-    /// A text of at most `longest` characters.
-    static input_rule text(std::size_t longest);
+    /// A text of at most so many characters.
+    static input_rule text(std::size_t most) { return {.longest = static_cast<int>(most)}; }
     /// A number of at most 15 digits.
-    static input_rule number();
+    static input_rule number() { return {.holds = content::number}; }
     /// A number that still fits a 16-bit integer.
-    static input_rule small_number();
-    static input_rule day();
+    static input_rule small_number() {
+        return {.holds = content::number, .largest = 32767, .whole = true};
+    }
+    static input_rule day() { return {.holds = content::day, .longest = 10}; }
 
     /// What becomes of a field in which `before` stood and the hand made `now` of it: `now` itself,
     /// or cleaned of what can't stand there. Empty if the change is refused.

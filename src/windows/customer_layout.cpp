@@ -1,16 +1,44 @@
-#include "windows/customer_layout.h"
-
 #include <QApplication>
 #include <QLineEdit>
 #include <QScrollBar>
+#include <functional>
+#include <span>
 
-#include "orders/head_fields.h"
+#include "customer/mirorcm.h"
+#include "customer/mirorcx.h"
+#include "fulfil/mirorcc.h"
 #include "windows/growing_part.h"
 #include "windows/layout_pieces.h"
+#include "windows/layouts.h"
 
 namespace vantora::ui::desktop {
 
+// The window of a screen that shows a customer and holds the head of a document: what differs from
+// screen to screen is the frame with the document's own fields, and the way on.
+
 namespace {
+
+/// A field of a frame.
+struct frame_field {
+    const control& shown;
+    int characters = 0;        ///< how many shall fit; 0: it takes what is left
+    const char* caption = "";  ///< of a field that isn't the first of its row
+};
+
+/// A row of a frame: a caption and the fields behind it.
+struct frame_row {
+    const char* caption;
+    std::vector<frame_field> fields;
+};
+
+struct customer_window {
+    const char* frame;           ///< title of the frame with the document's own fields
+    std::vector<frame_row> own;  ///< its rows
+    command_look go_on;          ///< the button that goes on
+    const char* leaving;         ///< what the button that leaves does
+    /// Leaves; without it, the window is closed as by its title bar.
+    std::function<void()> leave = {};
+};
 
 constexpr QSize head_as_designed(1340, 640);
 constexpr int widest = 1320;      ///< dots, as designed; wider screens leave room at both sides
@@ -78,8 +106,7 @@ QGridLayout* add_frame(form_window& window, QGroupBox* box, std::span<const fram
         ++at;
         fields->setRowMinimumHeight(at, height);
         fields->setRowStretch(at, 1);
-        auto* line = new QHBoxLayout;
-        line->setSpacing(5);
+        auto* line = arranged<QHBoxLayout>(5);
         bool stretches = false;
         for (const frame_field& field : row.fields) {
             QWidget* one = field_of(window, field);
@@ -125,20 +152,17 @@ QGroupBox* registered_office(form_window& window, customer_head& head) {
 QFrame* search_bar(form_window& window, customer_head& head) {
     auto* bar = new QFrame(&window);
     set_look(bar, "role", "bar");
-    auto* around = new QHBoxLayout(bar);
-    around->setContentsMargins(0, 0, 0, 0);
+    auto* around = arranged<QHBoxLayout>(bar, {0, 0, 0, 0});
     auto* middle = new QWidget(bar);
     middle->setMaximumWidth(widest);
     around->addWidget(middle);
-    auto* rows = new QVBoxLayout(middle);
-    rows->setContentsMargins(12, 6, 12, 8);
+    auto* rows = arranged<QVBoxLayout>(middle, {12, 6, 12, 8});
     auto* explained = new QLabel(hint, bar);
     explained->setWordWrap(true);
     set_look(explained, "role", "faint");
     rows->addWidget(explained);
 
-    auto* line = new QHBoxLayout;
-    line->setSpacing(8);
+    auto* line = arranged<QHBoxLayout>(8);
     QLineEdit* name = window.widget(head.nome);
     line->addWidget(caption_of(name, "Nome/Ragione sociale cliente da cercare:", bar));
     line->addWidget(name, 2);
@@ -170,21 +194,14 @@ QToolButton* leaving_button(form_window& window, const customer_window& look) {
     return button;
 }
 
-}  // namespace
-
 void lay_out_customer(form_window& window, customer_head& head, const customer_window& look) {
-    auto* all = new QVBoxLayout(&window);
-    all->setContentsMargins(0, 0, 0, 0);
-    all->setSpacing(0);
+    auto* all = arranged<QVBoxLayout>(&window, {0, 0, 0, 0}, 0);
     all->addWidget(search_bar(window, head));
 
     auto* middle = new QWidget(&window);
-    auto* column = new QVBoxLayout(middle);
-    column->setContentsMargins(12, 8, 12, 8);
+    auto* column = arranged<QVBoxLayout>(middle, {12, 8, 12, 8});
     auto* offices = new QWidget(middle);
-    auto* frames = new QGridLayout(offices);
-    frames->setContentsMargins(0, 0, 0, 0);
-    frames->setSpacing(8);
+    auto* frames = arranged<QGridLayout>(offices, {0, 0, 0, 0}, 8);
     frames->addWidget(registered_office(window, head), 0, 0);
     frames->addWidget(frame(window, look.frame, look.own), 1, 0);
     frames->addWidget(
@@ -216,8 +233,72 @@ void lay_out_customer(form_window& window, customer_head& head, const customer_w
         offices->setMaximumHeight(static_cast<int>(steps) * text * tallest_step / 10);
     });
 
-    window.setMinimumSize(980, 0);
-    window.set_first_size(QSize(1180, 560));
+    window.set_sizes({980, 0}, {1180, 560});
+}
+
+std::vector<frame_row> order_head_rows(const customer_head& head) {
+    return {
+        {"Numero attribuito all'ordine", {{head.Text3[campo_ordine::numero], 12}}},
+        {"Data di emissione",
+         {{head.Text3[campo_ordine::data], 10},
+          {head.text5[0]},
+          {head.Text3[campo_ordine::data_evasione], 10, "Data evasione"},
+          {head.text5[1]}}},
+        {"Riferimenti ordine", {{head.Text3[campo_ordine::riferimento1]}}},
+        {"", {{head.Text3[campo_ordine::riferimento2]}}},
+        {"", {{head.Text3[campo_ordine::riferimento3]}}},
+        {"Porto", {{head.Combo1[customer_head::porto]}}},
+        {"Pagamento", {{head.Combo1[customer_head::pagamento]}}},
+        {"Trasporto", {{head.Combo1[customer_head::trasporto]}}},
+    };
+}
+
+}  // namespace
+
+void lay_out(form_window& window, mirorcx& screen) {
+    lay_out_customer(window, screen,
+                     {"Riferimenti dell'ordine",
+                      order_head_rows(screen),
+                      {"avanti", "&Prosegui", "Passa alle righe dell'ordine", "F12"},
+                      "Torna al registro senza ordine"});
+}
+
+void lay_out(form_window& window, mirorcm& screen) {
+    lay_out_customer(
+        window, screen,
+        {"Riferimenti dell'ordine",
+         order_head_rows(screen),
+         {"avanti", "C&onferma", "Torna alle righe dell'ordine", "F12"},
+         "Torna alle righe senza cambiare nulla",
+         [&window, &screen] { window.act_on(screen.bottone, [&screen] { screen.give_back(); }); }});
+}
+
+void lay_out(form_window& window, mirorcc& head) {
+    lay_out_customer(
+        window, head,
+        {"Dati del trasporto",
+         {{"Numero DDT",
+           {{head.Text3[campo_ddt::numero], 10},
+            {head.Text3[campo_ddt::data], 10, "Data"},
+            {head.text5[0]}}},
+          {"Causale trasporto", {{head.Combo1[mirorcc::causale]}}},
+          {"Aspetto dei beni", {{head.Combo2}}},
+          {"Numero colli",
+           {{head.Text3[campo_ddt::colli], 10}, {head.Text3[campo_ddt::peso], 12, "Peso"}}},
+          {"Porto",
+           {{head.Combo1[customer_head::porto]},
+            {head.Combo1[customer_head::trasporto], 0, "Trasporto"}}},
+          {"Inizio trasporto",
+           {{head.Text3[campo_ddt::inizio], 10},
+            {head.text5[1]},
+            {head.Text3[campo_ddt::ora], 6, "Ora"}}}},
+         {"avanti", "&Prosegui", "Passa alle righe da evadere", "F12"},
+         "Torna al registro senza evadere"});
+    if (!window.by_person() || !head.weighs_by_itself()) return;
+    QLineEdit* weight = window.widget(head.Text3[campo_ddt::peso]);
+    weight->setReadOnly(true);
+    weight->setPlaceholderText("automatico");
+    weight->setToolTip("Il peso si calcola dagli articoli");
 }
 
 }  // namespace vantora::ui::desktop

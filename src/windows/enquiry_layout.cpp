@@ -28,11 +28,8 @@ QToolButton* command(form_window& window, const button& one, bool leaves) {
 /// What is looked for, if anything is, and the commands stand above the list; what the list holds
 /// is told below it.
 void lay_out(form_window& window, enquiry_screen& screen) {
-    auto* all = new QVBoxLayout(&window);
-    all->setContentsMargins(12, 10, 12, 12);
-    all->setSpacing(8);
-    auto* line = new QHBoxLayout;
-    line->setSpacing(10);
+    auto* all = arranged<QVBoxLayout>(&window, {12, 10, 12, 12}, 8);
+    auto* line = arranged<QHBoxLayout>(10);
     std::vector<QWidget*> stops;
     if (auto* search = dynamic_cast<ricerca*>(&screen)) {
         QWidget* field = window.widget(search->testo);
@@ -55,12 +52,10 @@ void lay_out(form_window& window, enquiry_screen& screen) {
     window.set_tab_order(stops);
     if (auto* figures = dynamic_cast<quadro*>(&screen)) {
         new bar_charts(window, *figures);
-        window.setMinimumSize(960, 580);
-        window.set_first_size(QSize(1280, 680));
+        window.set_sizes({960, 580}, {1280, 680});
         return;
     }
-    window.setMinimumSize(760, 420);
-    window.set_first_size(QSize(1040, 600));
+    window.set_sizes({760, 420}, {1040, 600});
 }
 
 }  // namespace vantora::ui::desktop

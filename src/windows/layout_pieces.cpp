@@ -58,10 +58,7 @@ void set_look(QWidget* widget, const char* property, const char* value) {
 QHBoxLayout* command_row(form_window& window, int air) {
     auto* bar = new QFrame(&window);
     set_look(bar, "role", "bar");
-    auto* row = new QHBoxLayout(bar);
-    row->setContentsMargins(8, air, 8, air);
-    row->setSpacing(2);
-    return row;
+    return arranged<QHBoxLayout>(bar, {8, air, 8, air}, 2);
 }
 
 void add_command(QHBoxLayout* row, QToolButton* button, int picture, bool keeps_place) {
@@ -77,13 +74,9 @@ void add_command(QHBoxLayout* row, QToolButton* button, int picture, bool keeps_
 }
 
 QVBoxLayout* body_under(QWidget* commands, form_window& window) {
-    auto* all = new QVBoxLayout(&window);
-    all->setContentsMargins(0, 0, 0, 0);
-    all->setSpacing(0);
+    auto* all = arranged<QVBoxLayout>(&window, {0, 0, 0, 0}, 0);
     all->addWidget(commands);
-    auto* body = new QVBoxLayout;
-    body->setContentsMargins(10, 8, 10, 10);
-    body->setSpacing(8);
+    auto* body = arranged<QVBoxLayout>(nullptr, {10, 8, 10, 10}, 8);
     all->addLayout(body, 1);
     return body;
 }
@@ -94,8 +87,7 @@ QFrame* text_strip(form_window& window, const label& shown, const char* role,
     set_look(strip, "role", role);
     text_label* text = window.widget(shown);
     text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    auto* line = new QHBoxLayout(strip);
-    line->setContentsMargins(around);
+    auto* line = arranged<QHBoxLayout>(strip, around);
     line->addWidget(text);
     return strip;
 }
@@ -130,8 +122,7 @@ QVBoxLayout* grid_with_sort_buttons(form_window& window, const grid& list,
         button->setGeometry(0, 1, 60, strip->height() - 3);
         table->keep_above(column_sorted++, button);
     }
-    auto* column = new QVBoxLayout;
-    column->setSpacing(1);
+    auto* column = arranged<QVBoxLayout>(1);
     column->addWidget(strip);
     column->addWidget(table, 1);
     return column;

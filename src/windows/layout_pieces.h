@@ -16,6 +16,22 @@ namespace vantora::ui::desktop {
 
 // What several screens' layouts are put together from.
 
+/// A layout of a widget, with so many dots around what it holds, and between.
+template <class Layout>
+Layout* arranged(QWidget* parent, const QMargins& around, int between = -1) {
+    auto* made = new Layout(parent);
+    made->setContentsMargins(around);
+    made->setSpacing(between);
+    return made;
+}
+/// One that goes into another.
+template <class Layout>
+Layout* arranged(int between) {
+    auto* made = new Layout;
+    made->setSpacing(between);
+    return made;
+}
+
 /// A fixed text in front of a field.
 QLabel* caption(const char* utf8, QWidget* parent);
 

@@ -185,8 +185,7 @@ QGroupBox* line_frame(form_window& window, line_grid& screen) {
     auto* hint =
         new QLabel("Per cercare un articolo tramite la descrizione, inserirla e premere F1)", box);
     set_look(hint, "role", "faint");
-    auto* all = new QVBoxLayout(box);
-    all->setContentsMargins(0, 0, 0, 0);
+    auto* all = arranged<QVBoxLayout>(box, {0, 0, 0, 0});
     all->addStretch(0);
     all->addWidget(table, 1);
     all->addWidget(hint);
@@ -196,8 +195,7 @@ QGroupBox* line_frame(form_window& window, line_grid& screen) {
 
 QGroupBox* list_frame(form_window& window, line_grid& screen) {
     auto* box = new QGroupBox("Lista articoli memorizzati in magazzino", &window);
-    auto* column = new QVBoxLayout(box);
-    column->setContentsMargins(0, 0, 0, 0);
+    auto* column = arranged<QVBoxLayout>(box, {0, 0, 0, 0});
     list_control& articles = screen.lookup().List1;
     QListView* list = window.widget(screen.lookup().List1);
     list->setFocusPolicy(Qt::ClickFocus);
@@ -215,11 +213,6 @@ QGroupBox* list_frame(form_window& window, line_grid& screen) {
     line->addStretch(1);
     column->addLayout(line);
     return box;
-}
-
-/// Which order it is that is worked on.
-QFrame* head_strip(form_window& window, const label& head) {
-    return text_strip(window, head, "head", {12, 4, 12, 4});
 }
 
 struct choice {
@@ -262,8 +255,7 @@ constexpr total_look totals[] = {{totale_mostrato::imponibile, "Totale imponibil
                                  {totale_mostrato::pezzi, "Numero pezzi"}};
 
 QHBoxLayout* foot_line(form_window& window, line_grid& screen) {
-    auto* foot = new QHBoxLayout;
-    foot->setSpacing(12);
+    auto* foot = arranged<QHBoxLayout>(12);
     QGridLayout* options = choice_table(window, screen);
     foot->addLayout(options);
     foot->setAlignment(options, Qt::AlignVCenter);
@@ -274,8 +266,7 @@ QHBoxLayout* foot_line(form_window& window, line_grid& screen) {
         total->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         total->setFixedWidth(150);
         total->setProperty("plain_number", which == totale_mostrato::pezzi);
-        auto* column = new QVBoxLayout;
-        column->setSpacing(2);
+        auto* column = arranged<QVBoxLayout>(2);
         auto* text = caption(words, &window);
         set_look(text, "role", "faint");
         column->addWidget(text);
@@ -289,15 +280,11 @@ QHBoxLayout* foot_line(form_window& window, line_grid& screen) {
 
 void lay_out_lines(form_window& window, line_grid& screen,
                    const std::vector<line_command>& commands, const line_window_parts& parts) {
-    auto* all = new QVBoxLayout(&window);
-    all->setContentsMargins(0, 0, 0, 0);
-    all->setSpacing(0);
+    auto* all = arranged<QVBoxLayout>(&window, {0, 0, 0, 0}, 0);
     all->addWidget(command_bar(window, screen, commands));
-    if (parts.head) all->addWidget(head_strip(window, *parts.head));
+    if (parts.head) all->addWidget(text_strip(window, *parts.head, "head", {12, 4, 12, 4}));
 
-    auto* body = new QVBoxLayout;
-    body->setContentsMargins(10, 8, 10, 8);
-    body->setSpacing(8);
+    auto* body = arranged<QVBoxLayout>(nullptr, {10, 8, 10, 8}, 8);
     if (parts.above) body->addWidget(parts.above);
     // Lines and list share the room as the user wants.
     auto* middle = new QSplitter(Qt::Horizontal, &window);
@@ -318,8 +305,7 @@ void lay_out_lines(form_window& window, line_grid& screen,
     body->addLayout(foot_line(window, screen));
     all->addLayout(body, 1);
 
-    window.setMinimumSize(1040, 560);
-    window.set_first_size(QSize(1340, 690));
+    window.set_sizes({1040, 560}, {1340, 690});
 }
 
 }  // namespace vantora::ui::desktop

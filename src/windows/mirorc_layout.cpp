@@ -1,7 +1,6 @@
 #include "register/mirorc.h"
 
 #include <QAbstractButton>
-#include <QProgressBar>
 
 #include "desktop/look/words.h"
 #include "windows/layout_pieces.h"
@@ -42,9 +41,7 @@ QWidget* register_bar(form_window& window, mirorc& screen) {
 
 QGroupBox* options(form_window& window, const char* title, std::span<option_button> choices) {
     auto* box = new QGroupBox(title, &window);
-    auto* column = new QVBoxLayout(box);
-    column->setContentsMargins(4, 0, 4, 0);
-    column->setSpacing(3);
+    auto* column = arranged<QVBoxLayout>(box, {4, 0, 4, 0}, 3);
     for (const option_button& one : choices) column->addWidget(window.widget(one));
     column->addStretch(1);
     return box;
@@ -90,9 +87,7 @@ QGroupBox* compaction(form_window& window, mirorc& screen) {
 
     auto* version = window.widget(screen.xx_versione);
     set_look(version, "role", "faint");
-    auto* column = new QVBoxLayout(box);
-    column->setContentsMargins(4, 0, 4, 0);
-    column->setSpacing(3);
+    auto* column = arranged<QVBoxLayout>(box, {4, 0, 4, 0}, 3);
     column->addWidget(text);
     auto* line = new QHBoxLayout;
     line->addWidget(link);
@@ -120,8 +115,7 @@ void lay_out(form_window& window, mirorc& screen) {
     progress->setFixedHeight(progress->fontMetrics().height() + 8);
     body->addWidget(progress);
 
-    auto* foot = new QHBoxLayout;
-    foot->setSpacing(10);
+    auto* foot = arranged<QHBoxLayout>(10);
     foot->addWidget(views(window, screen));
     foot->addWidget(options(window, "Ordine di lettura", screen.visua));
     foot->addWidget(compaction(window, screen), 1);
@@ -136,8 +130,7 @@ void lay_out(form_window& window, mirorc& screen) {
     for (const option_button& one : screen.visua) stops.push_back(window.widget(one));
     window.set_tab_order(stops);
 
-    window.setMinimumSize(960, 520);
-    window.set_first_size(QSize(1280, 690));
+    window.set_sizes({960, 520}, {1280, 690});
 }
 
 }  // namespace vantora::ui::desktop

@@ -30,39 +30,29 @@ class leaving_rows final : public QStyledItemDelegate {
     }
 };
 
-/// Escape leaves the editor of a quantity, and its cell as it was.
-class editor_escape final : public QObject {
+/// What the keys do to the editor of a quantity: Escape leaves it, and its cell as it was; a digit
+/// in the list opens that of its row and is the first one of the quantity.
+class editor_keys final : public QObject {
  public:
-    editor_escape(form_window& window, mirorcr& screen, QWidget& editor)
-        : QObject(&editor), window_(window), screen_(screen) {
-        editor.installEventFilter(this);
+    editor_keys(form_window& window, mirorcr& screen)
+        : QObject(&window), window_(window), screen_(screen) {
+        window.widget(screen.quantita)->installEventFilter(this);
+        if (window.by_person()) window.widget(screen.elenco)->installEventFilter(this);
     }
 
-    bool eventFilter(QObject*, QEvent* event) override {
+    bool eventFilter(QObject* watched, QEvent* event) override {
         const bool pressed = event->type() == QEvent::KeyPress;
         if (!pressed && event->type() != QEvent::ShortcutOverride) return false;
-        if (static_cast<QKeyEvent&>(*event).key() != Qt::Key_Escape) return false;
-        event->accept();
+        auto& key = static_cast<QKeyEvent&>(*event);
+        if (watched != window_.widget(screen_.quantita)) return pressed && opened_by(key);
+        if (key.key() != Qt::Key_Escape) return false;
+        key.accept();
         if (pressed) window_.act_on(screen_.quantita, [this] { screen_.leave_editor(); });
         return true;
     }
 
  private:
-    form_window& window_;
-    mirorcr& screen_;
-};
-
-/// A digit in the list opens the editor of its row and is the first one of the quantity.
-class digit_opens final : public QObject {
- public:
-    digit_opens(form_window& window, mirorcr& screen, grid_view& list)
-        : QObject(&list), window_(window), screen_(screen) {
-        list.installEventFilter(this);
-    }
-
-    bool eventFilter(QObject*, QEvent* event) override {
-        if (event->type() != QEvent::KeyPress) return false;
-        const auto& key = static_cast<QKeyEvent&>(*event);
+    bool opened_by(QKeyEvent& key) {
         const QString typed = key.text();
         const bool plain = (key.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
         if (!plain || typed.size() != 1 || !typed[0].isDigit() || screen_.elenco.row() < 1) {
@@ -71,12 +61,11 @@ class digit_opens final : public QObject {
         window_.act_on(screen_.elenco,
                        [this] { screen_.elenco.click_cell(screen_.elenco.row(), mirorcr::evaso); });
         if (screen_.quantita.has_focus()) {
-            QApplication::sendEvent(window_.widget(screen_.quantita), event);
+            QApplication::sendEvent(window_.widget(screen_.quantita), &key);
         }
         return true;
     }
 
- private:
     form_window& window_;
     mirorcr& screen_;
 };
@@ -122,8 +111,7 @@ QWidget* worklist_bar(form_window& window, mirorcr& screen) {
 }
 
 QVBoxLayout* help_lines(form_window& window, mirorcr& screen) {
-    auto* lines = new QVBoxLayout;
-    lines->setSpacing(2);
+    auto* lines = arranged<QVBoxLayout>(2);
     for (std::size_t i = 0; i < std::size(screen.Label1); ++i) {
         auto* line = new QHBoxLayout;
         auto* keys = new QLabel(grid_keys[i].keys, &window);
@@ -148,25 +136,20 @@ void lay_out(form_window& window, mirorcr& screen) {
     quantity->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     set_look(quantity, "look", "over");
     view->keep_over(quantity, mirorcr::evaso);
-    new editor_escape(window, screen, *quantity);
-    if (window.by_person()) {
-        view->begin_at_first();
-        new digit_opens(window, screen, *view);
-    }
+    new editor_keys(window, screen);
+    if (window.by_person()) view->begin_at_first();
     add_grid_keys(window, screen);
 
     body->addWidget(view, 1);
     body->addWidget(stock_line(window, screen.scorta));
-    auto* foot = new QHBoxLayout;
-    foot->setSpacing(24);
+    auto* foot = arranged<QHBoxLayout>(24);
     foot->addLayout(help_lines(window, screen), 1);
     QLabel* marked = window.widget(screen.segnate);
     set_look(marked, "role", "total");
     foot->addWidget(marked, 0, Qt::AlignBottom);
     body->addLayout(foot);
 
-    window.setMinimumSize(900, 480);
-    window.set_first_size(QSize(1280, 690));
+    window.set_sizes({900, 480}, {1280, 690});
 }
 
 }  // namespace vantora::ui::desktop

@@ -1,5 +1,8 @@
+#include <QCheckBox>
+
 #include "entry/mirorcs.h"
 #include "entry/mirorcz.h"
+#include "fulfil/mirorca.h"
 #include "windows/layouts.h"
 #include "windows/line_window.h"
 
@@ -25,6 +28,28 @@ void lay_out_order(form_window& window, order_screen& screen, const line_command
         {.head = &screen.testata});
 }
 
+QFrame* movement_bar(form_window& window, mirorca& screen) {
+    auto* bar = new QFrame(&window);
+    auto* line = arranged<QHBoxLayout>(bar, {0, 0, 0, 0}, 8);
+    QAbstractButton* unload = window.widget(screen.scarica);
+    unload->setToolTip("I beni escono dalla giacenza con un movimento di magazzino");
+    add_shortcut(*unload, "Alt+G");
+    line->addWidget(unload);
+    line->addSpacing(18);
+    QWidget* document = window.widget(screen.text1[0]);
+    QWidget* movement = window.widget(screen.text1[1]);
+    QWidget* day = window.widget(screen.Text);
+    line->addWidget(caption_of(movement, "Movimento", bar));
+    line->addWidget(sized(movement, 14));
+    line->addWidget(caption_of(day, "Data", bar));
+    line->addWidget(day);
+    line->addWidget(caption_of(document, "Documento", bar));
+    sized(document, 60)->setMinimumWidth(0);
+    line->addWidget(document, 1);
+    line->addStretch(0);
+    return bar;
+}
+
 }  // namespace
 
 void lay_out(form_window& window, mirorcs& screen) {
@@ -45,6 +70,22 @@ void lay_out(form_window& window, mirorcz& screen) {
          {"clienti", "C&liente", "Cliente e riferimenti dell'ordine", "F6"}},
         {mirorcz::elimina, {"elimina", "Elimi&na ordine", "Elimina l'ordine", "Ctrl+Del"}},
         "Lascia l'ordine senza salvare le modifiche");
+}
+
+void lay_out(form_window& window, mirorca& screen) {
+    lay_out_lines(
+        window, screen,
+        {
+            {conferma,
+             {"salva", "&Conferma", "Scarica il magazzino ed emette il documento", "F12"}},
+            {inserisci_riga,
+             {"inserisci", "&Inserisci riga", "Inserisce una riga vuota sopra la corrente", "F7"}},
+            {cancella_riga, {"cancella", "Cance&lla riga", "Toglie la riga corrente", "Shift+F7"}},
+            {stampante, {"stampante", "S&tampante", "Imposta la stampante", "Ctrl+P"}},
+            {uscita, {"uscita", "&Annulla", "Lascia senza movimento e senza documento", "Ctrl+Q"}},
+        },
+        {.head = &screen.testata, .above = movement_bar(window, screen)});
+    add_shortcut(*window.widget(screen.comando[uscita]), "Esc");
 }
 
 }  // namespace vantora::ui::desktop

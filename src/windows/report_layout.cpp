@@ -1,5 +1,4 @@
 #include <QAction>
-#include <QProgressBar>
 #include <algorithm>
 #include <vector>
 
@@ -105,11 +104,9 @@ void add_filter(form_window& window, report_screen& screen, const filter_look& l
     auto* above = caption_of(field, look.caption, &window);
     above->setAlignment(Qt::AlignLeft);
     set_look(above, "role", "faint");
-    auto* column = new QVBoxLayout;
-    column->setSpacing(2);
+    auto* column = arranged<QVBoxLayout>(2);
     column->addWidget(above);
-    auto* line = new QHBoxLayout;
-    line->setSpacing(3);
+    auto* line = arranged<QHBoxLayout>(3);
     line->addWidget(field);
     if (const date_picker* picker = screen.calendar(look.which)) {
         QWidget* calendar = dress_calendar(window.widget(*picker));
@@ -122,8 +119,7 @@ void add_filter(form_window& window, report_screen& screen, const filter_look& l
 }
 
 QHBoxLayout* filter_row(form_window& window, report_screen& screen, const sheet_range& sheets) {
-    auto* row = new QHBoxLayout;
-    row->setSpacing(10);
+    auto* row = arranged<QHBoxLayout>(10);
     for (const filtro which : screen.filters()) {
         const auto is_it = [which](const filter_look& one) { return one.which == which; };
         const auto sheet = std::ranges::find_if(sheets, is_it);
@@ -163,8 +159,7 @@ void lay_out_report(form_window& window, report_screen& screen, const sheet_rang
     set_look(cut, "role", "warning");
     body->addWidget(cut);
     order_tabs(window, screen);
-    window.setMinimumSize(960, 520);
-    window.set_first_size(QSize(1280, 690));
+    window.set_sizes({960, 520}, {1280, 690});
 }
 
 }  // namespace

@@ -63,20 +63,6 @@ TEST_F(printing, TextsLinesAndPagesStandWhereTheyWerePut) {
     }
 }
 
-TEST_F(printing, AProgramIsStartedWithItsArgument) {
-    const auto program = folder.path() / "mirxpdf";
-    const auto told = folder.path() / "told";
-    vantora::test::put(program, "#!/bin/sh\nprintf %s \"$*\" >" + told.string());
-    permissions(program, std::filesystem::perms::owner_all);
-    system_launcher programs([&](std::string_view path) {
-        return path == "c:\\mirxpdf" ? program.string() : "/no/such/program";
-    });
-    EXPECT_TRUE(programs.start("c:\\mirxpdf ***,c:\\a b.rto"));
-    EXPECT_FALSE(programs.start("c:\\another"));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return vantora::test::bytes_of(told).size() > 13; }));
-    EXPECT_EQ(vantora::test::bytes_of(told), "***,c:\\a b.rto");
-}
-
 TEST_F(printing, TheInstalledProgramTakesThePlaceOfOneInTheSuiteThatIsMissingALinkOrOlder) {
     namespace fs = std::filesystem;
     const fs::path in_suite = folder.path() / "suite" / "mirxpdf";

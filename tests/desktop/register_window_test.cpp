@@ -6,11 +6,11 @@
 #include <sstream>
 
 #include "desktop/outside_end.h"
-#include "desktop/script_runner.h"
 #include "program_window.h"
 #include "register/mirorc.h"
 #include "store/archive_change.h"
 #include "store/suite_paths.h"
+#include "ui/script/script_front_end.h"
 
 namespace vantora::ui::desktop {
 namespace {
@@ -286,7 +286,7 @@ TEST_F(register_window, KeepsItselfFreshWithMarkSortAndPlaceButNotInAGestureOrAS
     program again(disk, later.desk, pictures);
     std::stringstream commands("rows mirorc.elenco\nrows mirorc.elenco\n"), replies;
     script::interpreter by(later.desk, later.time, later.paper, later.programs);
-    script_runner runner(later.front, by, commands, replies);
+    script::script_runner runner(by, commands, replies);
     const auto step = [&, steps = 0]() mutable {
         if (++steps == 2) take_order(62);
         if (steps == 2) come_back_to_it();
@@ -304,7 +304,7 @@ TEST_F(register_window, AScriptOfManyOrdersLeavesNoWindowsBehind) {
     std::stringstream commands, replies;
     for (int i = 0; i < 12; ++i) commands << "click mirorc.bottone(2)\nclose mirorcx\n";
     script::interpreter by(bench.desk, bench.time, bench.paper, bench.programs);
-    script_runner runner(bench.front, by, commands, replies);
+    script::script_runner runner(by, commands, replies);
     bench.front.served_by([&] { return runner.step(); }, {});
     bench.desk.dispatch([&] { start(app, "ordini001"); });
     bench.front.run();

@@ -1,27 +1,10 @@
 #include <gtest/gtest.h>
 
-#include <chrono>
-#include <cstdlib>
-#include <ctime>
-
 #include "text/code_page.h"
-#include "ui/clock.h"
 #include "ui/controls.h"
 
 namespace vantora::ui {
 namespace {
-
-TEST(text_box, ItsEventsSwallowKeys) {
-    text_box box;
-    box.on_key_down = [](key_event& pressed) {
-        if (pressed.code == 'B') pressed.swallow();
-    };
-    box.on_key_press = [](key_event& pressed) {
-        if (pressed.code == 'x') pressed.swallow();
-    };
-    for (const char typed : {'a', 'x', 'b'}) box.press_key(upper(typed), typed);
-    EXPECT_EQ(box.text(), "a");
-}
 
 TEST(input_rule, OfCellsPutIntoOneTheFirstCounts) {
     EXPECT_EQ(with_first_cell("9", "9125\t136\n7"), "9125");
@@ -84,19 +67,6 @@ TEST(input_rule, AHandTypesOnlyWhatAFieldHolds) {
         EXPECT_EQ(doubtful_number(typed).value_or(""), hint) << typed;
     }
     EXPECT_FALSE(written_out_number("*", starred) || written_out_number("1,00", number));
-}
-
-TEST(local_clock, TellsTheTimeOfThePlace) {
-    ::setenv("TZ", "PROVA-9", 1);
-    constexpr std::time_t ahead = 9 * 3600;
-    const std::time_t before = std::time(nullptr) + ahead;
-    const date_time now = local_clock().now();
-    const std::chrono::sys_days day = std::chrono::year(now.day.year) / now.day.month / now.day.day;
-    const std::time_t told =
-        std::chrono::system_clock::to_time_t(day) + now.hour * 3600 + now.minute * 60 + now.second;
-    EXPECT_GE(told, before);
-    EXPECT_LE(told, std::time(nullptr) + ahead);
-    ::unsetenv("TZ");
 }
 
 TEST(key, SignsHaveNoNamedKeysCode) {

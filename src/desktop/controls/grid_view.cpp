@@ -1,7 +1,6 @@
 #include "desktop/controls/grid_view.h"
 
 #include <QAbstractButton>
-#include <QApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QPainter>

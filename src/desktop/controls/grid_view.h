@@ -2,7 +2,6 @@
 
 #include <QElapsedTimer>
 #include <QTableView>
-#include <string>
 #include <vector>
 
 #include "ui/grid.h"

@@ -9,28 +9,18 @@ namespace vantora::ui::desktop {
 
 namespace {
 
-constexpr const char* of_program = "facts";
-
-class program_facts final : public QObject {
- public:
-    explicit program_facts(std::function<QStringList()> facts)
-        : QObject(qApp), facts(std::move(facts)) {
-        setObjectName(of_program);
-    }
-    std::function<QStringList()> facts;
-};
+constexpr const char* facts_of_program = "facts";
 
 }  // namespace
 
-void set_facts(std::function<QStringList()> facts) {
-    new program_facts(std::move(facts));
+void set_facts(const std::function<QStringList()>& facts) {
+    qApp->setProperty(facts_of_program, QVariant::fromValue(facts));
 }
 
 void show_about(QWidget& window) {
     QStringList lines{QString("Vantora Ordini %1").arg(QApplication::applicationVersion())};
-    if (const auto* known = qApp->findChild<QObject*>(of_program)) {
-        lines << QString() << static_cast<const program_facts*>(known)->facts();
-    }
+    const auto facts = qApp->property(facts_of_program).value<std::function<QStringList()>>();
+    if (facts) lines << QString() << facts();
     QMessageBox box(QMessageBox::Information, words::about, lines.join("\n"), QMessageBox::Ok,
                     &window);
     box.setTextFormat(Qt::PlainText);

@@ -4,9 +4,8 @@
 
 namespace vantora::ui {
 
-/// What a text needs to be read by weak eyes too, and a line or handle to be seen.
+/// What a text needs to be read by weak eyes too.
 constexpr double text_contrast_min = 4.5;
-constexpr double line_contrast_min = 3.0;
 
 /// How much two colours differ in brightness, 1 to 21, as web pages are measured.
 double contrast(const QColor& one, const QColor& other);

@@ -10,7 +10,6 @@
 #include <QPrintPreviewWidget>
 #include <QPrinter>
 #include <QScreen>
-#include <QShortcut>
 #include <QToolButton>
 
 #include "desktop/dialogs/file_dialog.h"
@@ -31,71 +30,54 @@ void save_as_pdf(const recorded_pages& pages, const QPrinter& like, const QStrin
 }
 
 /// The dialog's bar of commands.
-class preview_bar final : public QFrame {
- public:
-    preview_bar(QPrintPreviewWidget& view, QWidget* parent)
-        : QFrame(parent), view_(view), row_(new QHBoxLayout(this)), page_(new QLabel(this)) {
-        setProperty("role", "bar");
-        row_->setContentsMargins(8, 5, 8, 5);
-        row_->setSpacing(2);
-    }
-
-    QToolButton* add(const char* what, const char* keys, const std::function<void()>& action) {
-        auto* button = new QToolButton(this);
-        const QString text = what;
-        button->setText(text);
-        button->setToolTip(text + " (" + QKeySequence(keys).toString(QKeySequence::NativeText) +
-                           ")");
-        button->setAccessibleName(text);
+QFrame* preview_bar(QPrintPreviewWidget& view, QDialog& dialog, const std::function<void()>& save) {
+    auto* bar = new QFrame(&dialog);
+    bar->setProperty("role", "bar");
+    auto* row = new QHBoxLayout(bar);
+    row->setContentsMargins(8, 5, 8, 5);
+    row->setSpacing(2);
+    const auto add = [&](const char* what, const char* keys, const std::function<void()>& action) {
+        auto* button = new QToolButton(bar);
+        const QString named = QKeySequence(keys).toString(QKeySequence::NativeText);
+        button->setText(what);
+        button->setToolTip(QString("%1 (%2)").arg(what, named));
+        button->setAccessibleName(what);
         button->setShortcut(QKeySequence(keys));
-        connect(button, &QToolButton::clicked, this, action);
-        row_->addWidget(button);
+        if (action) QObject::connect(button, &QToolButton::clicked, bar, action);
+        row->addWidget(button);
         return button;
-    }
-    void add_turns(const std::function<void(int by)>& turn) {
-        before_ = add(words::page_before, "PgUp", [turn] { turn(-1); });
-        add_page_number();
-        after_ = add(words::page_after, "PgDown", [turn] { turn(1); });
-    }
-    void add_space() { row_->addSpacing(14); }
-    void add_page_number() {
-        page_->setMinimumWidth(page_->fontMetrics().horizontalAdvance("Pagina 000 di 000"));
-        page_->setAlignment(Qt::AlignCenter);
-        row_->addWidget(page_);
-    }
-    void add_stretch() { row_->addStretch(1); }
-
-    void show_page() {
-        page_->setText(QString(words::page_of).arg(view_.currentPage()).arg(view_.pageCount()));
-        before_->setEnabled(view_.currentPage() > 1);
-        after_->setEnabled(view_.currentPage() < view_.pageCount());
-    }
-
- private:
-    QPrintPreviewWidget& view_;
-    QHBoxLayout* row_;
-    QLabel* page_;
-    QToolButton* before_ = nullptr;
-    QToolButton* after_ = nullptr;
-};
-
-void fill(preview_bar& bar, QPrintPreviewWidget& view, QDialog& dialog,
-          const std::function<void()>& save) {
-    const auto turn = [&view, &bar](int by) {
-        view.setCurrentPage(view.currentPage() + by);
-        bar.show_page();
     };
-    bar.add(words::print, "Ctrl+P", [&dialog] { dialog.accept(); });
-    bar.add(words::save_pdf, "Ctrl+S", save);
-    bar.add_space();
-    bar.add(words::zoom_in, "Ctrl++", [&view] { view.zoomIn(); });
-    bar.add(words::zoom_out, "Ctrl+-", [&view] { view.zoomOut(); });
-    bar.add(words::fit_width, "Ctrl+1", [&view] { view.fitToWidth(); });
-    bar.add(words::fit_page, "Ctrl+0", [&view] { view.fitInView(); });
-    bar.add_space();
-    bar.add_turns(turn);
-    bar.add_stretch();
-    bar.add(words::close_preview, "Esc", [&dialog] { dialog.reject(); });
+    constexpr int gap = 14;
+    add(words::print, "Ctrl+P", [&dialog] { dialog.accept(); });
+    add(words::save_pdf, "Ctrl+S", save);
+    row->addSpacing(gap);
+    add(words::zoom_in, "Ctrl++", [&view] { view.zoomIn(); });
+    add(words::zoom_out, "Ctrl+-", [&view] { view.zoomOut(); });
+    add(words::fit_width, "Ctrl+1", [&view] { view.fitToWidth(); });
+    add(words::fit_page, "Ctrl+0", [&view] { view.fitInView(); });
+    row->addSpacing(gap);
+    QToolButton* before = add(words::page_before, "PgUp", {});
+    auto* page = new QLabel(bar);
+    page->setMinimumWidth(page->fontMetrics().horizontalAdvance("Pagina 000 di 000"));
+    page->setAlignment(Qt::AlignCenter);
+    row->addWidget(page);
+    QToolButton* after = add(words::page_after, "PgDown", {});
+    row->addStretch(1);
+    add(words::close_preview, "Esc", [&dialog] { dialog.reject(); });
+
+    const auto show_page = [&view, before, page, after] {
+        page->setText(QString(words::page_of).arg(view.currentPage()).arg(view.pageCount()));
+        before->setEnabled(view.currentPage() > 1);
+        after->setEnabled(view.currentPage() < view.pageCount());
+    };
+    const auto turn = [&view, show_page](int by) {
+        view.setCurrentPage(view.currentPage() + by);
+        show_page();
+    };
+    QObject::connect(before, &QToolButton::clicked, bar, [turn] { turn(-1); });
+    QObject::connect(after, &QToolButton::clicked, bar, [turn] { turn(1); });
+    QObject::connect(&view, &QPrintPreviewWidget::previewChanged, bar, show_page);
+    return bar;
 }
 
 }  // namespace
@@ -143,9 +125,7 @@ bool wants_printed(const recorded_pages& pages, QPrinter& printer, const QString
         QPainter painter(on);
         draw_pages(pages, painter, *on, {});
     });
-    auto* bar = new preview_bar(*view, &dialog);
-    fill(*bar, *view, dialog, [&] { save_as_pdf(pages, printer, called, &dialog); });
-    QObject::connect(view, &QPrintPreviewWidget::previewChanged, bar, &preview_bar::show_page);
+    QFrame* bar = preview_bar(*view, dialog, [&] { save_as_pdf(pages, printer, called, &dialog); });
     auto* all = new QVBoxLayout(&dialog);
     all->setContentsMargins(0, 0, 0, 0);
     all->setSpacing(0);

@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <utility>
 #include <variant>
 #include <vector>
 
@@ -60,7 +61,7 @@ class recording_printer final : public printer {
     void set_up(std::optional<int> orientation, std::optional<int> copies);
 
     /// The jobs since the last call; one that isn't ended yet stays.
-    std::vector<print_job> take_jobs();
+    std::vector<print_job> take_jobs() { return std::exchange(jobs_, {}); }
 
     [[nodiscard]] int orientation() const override { return orientation_; }
     void set_orientation(int orientation) override { orientation_ = orientation; }
@@ -70,14 +71,25 @@ class recording_printer final : public printer {
     }
     [[nodiscard]] double text_width(std::string_view text, const font& in) const override;
 
-    void text(double x, double y, std::string_view text, const font& in, colour ink) override;
-    void line(double x1, double y1, double x2, double y2, colour ink) override;
-    void box(double x1, double y1, double x2, double y2, colour ink, bool filled) override;
+    void text(double x, double y, std::string_view text, const font& in, colour ink) override {
+        put(printed_text{x, y, std::string(text), in, ink});
+    }
+    void line(double x1, double y1, double x2, double y2, colour ink) override {
+        put(printed_line{x1, y1, x2, y2, ink});
+    }
+    void box(double x1, double y1, double x2, double y2, colour ink, bool filled) override {
+        put(printed_box{x1, y1, x2, y2, ink, filled});
+    }
     void picture(double x, double y, double side,
-                 const std::shared_ptr<const bitmap>& image) override;
+                 const std::shared_ptr<const bitmap>& image) override {
+        put(printed_picture{x, y, image->width * side, image->height * side});
+    }
     void new_page() override;
     void end_job() override;
-    bool choose_settings() override;
+    bool choose_settings() override {
+        orientation_ = chosen_orientation_;
+        return true;
+    }
 
  private:
     void begin_page();
@@ -97,9 +109,12 @@ class recording_launcher final : public launcher {
     /// Whether programs can be started from now on.
     void allow(bool can_start) { can_start_ = can_start; }
     /// The command lines started since the last call, in the code page.
-    std::vector<std::string> take_started();
+    std::vector<std::string> take_started() { return std::exchange(started_, {}); }
 
-    bool start(const std::string& command) override;
+    bool start(const std::string& command) override {
+        if (can_start_) started_.push_back(command);
+        return can_start_;
+    }
 
  private:
     bool can_start_ = true;

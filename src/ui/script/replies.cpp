@@ -50,22 +50,10 @@ void describe_bar(const Bar& bar, json& state) {
     state["value"] = bar.value();
 }
 
-void describe_list(const list_control& list, json& state) {
-    state["index"] = list.chosen();
-    state["count"] = list.count();
-    state["text"] = to_utf8(list.text());
-}
-
-void describe_grid(const grid& table, json& state) {
-    state["rows"] = table.rows();
-    state["cols"] = table.cols();
-    state["row"] = table.row();
-    state["col"] = table.col();
-    state["toprow"] = table.top_row();
-}
-
-void describe_text(const control& one, json& state) {
-    state["text"] = to_utf8(static_cast<const text_control&>(one).text());
+/// The control as what it may be; null if it is something else.
+template <class Control>
+const Control* as(const control& one) {
+    return dynamic_cast<const Control*>(&one);
 }
 
 }  // namespace
@@ -74,44 +62,25 @@ json state_of(const control& one) {
     json state = {{"kind", name_in(kind_names, one.kind())},
                   {"visible", one.visible()},
                   {"enabled", one.enabled()}};
-    switch (one.kind()) {
-        case control_kind::text_box:
-        case control_kind::label:
-        case control_kind::button:
-            describe_text(one, state);
-            break;
-        case control_kind::check_box:
-            describe_text(one, state);
-            state["on"] = static_cast<const check_box&>(one).on();
-            break;
-        case control_kind::option_button:
-            describe_text(one, state);
-            state["on"] = static_cast<const option_button&>(one).on();
-            break;
-        case control_kind::list_box:
-        case control_kind::drop_down:
-            describe_list(static_cast<const list_control&>(one), state);
-            break;
-        case control_kind::scroll_bar:
-            describe_bar(static_cast<const scroll_bar&>(one), state);
-            break;
-        case control_kind::progress_bar:
-            describe_bar(static_cast<const progress_bar&>(one), state);
-            break;
-        case control_kind::date_picker:
-            state["text"] = static_cast<const date_picker&>(one).text();
-            break;
-        case control_kind::grid:
-            describe_grid(static_cast<const grid&>(one), state);
-            break;
-        case control_kind::picture:
-            break;
+    if (const auto* text = as<text_control>(one)) state["text"] = to_utf8(text->text());
+    if (const auto* box = as<check_box>(one)) state["on"] = box->on();
+    if (const auto* option = as<option_button>(one)) state["on"] = option->on();
+    if (const auto* bar = as<scroll_bar>(one)) describe_bar(*bar, state);
+    if (const auto* bar = as<progress_bar>(one)) describe_bar(*bar, state);
+    if (const auto* day = as<date_picker>(one)) state["text"] = day->text();
+    if (const auto* list = as<list_control>(one)) {
+        state["index"] = list->chosen();
+        state["count"] = list->count();
+        state["text"] = to_utf8(list->text());
+    }
+    if (const auto* table = as<grid>(one)) {
+        state["rows"] = table->rows();
+        state["cols"] = table->cols();
+        state["row"] = table->row();
+        state["col"] = table->col();
+        state["toprow"] = table->top_row();
     }
     return state;
-}
-
-bool is_list(const control& one) {
-    return one.kind() == control_kind::list_box || one.kind() == control_kind::drop_down;
 }
 
 json items_of(const list_control& list) {

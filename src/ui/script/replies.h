@@ -20,7 +20,6 @@ using json = nlohmann::ordered_json;
 /// State of a control, by its kind.
 json state_of(const control& one);
 
-[[nodiscard]] bool is_list(const control& one);
 /// The entries of a list, in the order shown.
 json items_of(const list_control& list);
 

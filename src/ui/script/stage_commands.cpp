@@ -105,16 +105,16 @@ void interpreter::get(const words& line) {
 void interpreter::items(const words& line) {
     const control* one = find_control(line[1]);
     if (!one) return;
-    if (!is_list(*one)) return refuse("the control is no list");
-    reply_->value = items_of(static_cast<const list_control&>(*one));
+    const auto* list = dynamic_cast<const list_control*>(one);
+    if (!list) return refuse("the control is no list");
+    reply_->value = items_of(*list);
 }
 
 const grid* interpreter::find_grid(const word& text) {
     const control* one = find_control(text);
-    if (!one) return nullptr;
-    if (one->kind() == control_kind::grid) return static_cast<const grid*>(one);
-    refuse("the control is no grid");
-    return nullptr;
+    const auto* table = dynamic_cast<const grid*>(one);
+    if (one && !table) refuse("the control is no grid");
+    return table;
 }
 
 std::optional<row_range> interpreter::read_range(const words& line) {

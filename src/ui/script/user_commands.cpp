@@ -131,25 +131,23 @@ void interpreter::paste(const words& line) {
 void interpreter::pick(const words& line) {
     control* one = touchable(line[1]);
     if (!one) return;
-    if (one->kind() != control_kind::list_box && one->kind() != control_kind::drop_down) {
-        return refuse("the control is no list");
-    }
-    auto& list = *static_cast<list_control*>(one);
+    auto* list = dynamic_cast<list_control*>(one);
+    if (!list) return refuse("the control is no list");
     const auto position = read_int(line[2].text);
-    if (!position || *position < 0 || *position >= list.count()) {
+    if (!position || *position < 0 || *position >= list->count()) {
         return refuse("the list has no such entry");
     }
-    act([&] { list.pick(*position); });
+    act([&] { list->pick(*position); });
 }
 
 void interpreter::scroll(const words& line) {
     control* one = touchable(line[1]);
     if (!one) return;
-    if (one->kind() != control_kind::scroll_bar) return refuse("the control is no scroll bar");
-    auto& bar = *static_cast<scroll_bar*>(one);
+    auto* bar = dynamic_cast<scroll_bar*>(one);
+    if (!bar) return refuse("the control is no scroll bar");
     const auto value = read_int(line[2].text);
-    if (!value || !bar.reaches(*value)) return refuse("the bar doesn't reach there");
-    act([&] { bar.drag(*value); });
+    if (!value || !bar->reaches(*value)) return refuse("the bar doesn't reach there");
+    act([&] { bar->drag(*value); });
 }
 
 void interpreter::date(const words& line) {
