@@ -55,19 +55,6 @@ void disegna_immagine(program& app, ui::printer& paper, const elemento_disegno& 
     app.desk.let_events_run();
 }
 
-void draw_picture(program& app, document_output& out, const elemento_disegno& one,
-                  figure_documento& pictures, ui::picture& figure) {
-    disegna_immagine(app, out.paper(), one, pictures, figure);
-    record_di_stampa record;
-    record.tipo = tipo_record::figura;
-    record.x1 = one.valori[colonna::sinistra];
-    record.y1 = one.valori[colonna::alto];
-    record.x2 = one.valori[colonna::destra];
-    record.y2 = one.valori[colonna::basso];
-    record.testo = one.testi[0];
-    out.file().write(record);
-}
-
 void pull_into_page(elemento_disegno& one) {
     auto& values = one.valori;
     values[colonna::sinistra] = std::max(values[colonna::sinistra], 0.0);
@@ -76,7 +63,7 @@ void pull_into_page(elemento_disegno& one) {
     values[colonna::basso] = std::min(values[colonna::basso], altezza_pagina);
 }
 
-/// The record of a line or a box; both have their line 10.
+/// The record of what lies between two corners; a line or a box has its mark in line 10.
 record_di_stampa shape_record(tipo_record kind, const elemento_disegno& one, double mark) {
     record_di_stampa record;
     record.tipo = kind;
@@ -87,6 +74,14 @@ record_di_stampa shape_record(tipo_record kind, const elemento_disegno& one, dou
     record.colore = one.valori[colonna::colore];
     record.grassetto = mark;
     return record;
+}
+
+void draw_picture(program& app, document_output& out, const elemento_disegno& one,
+                  figure_documento& pictures, ui::picture& figure) {
+    disegna_immagine(app, out.paper(), one, pictures, figure);
+    record_di_stampa record = shape_record(tipo_record::figura, one, 0);
+    record.testo = one.testi[0];
+    out.file().write(record);
 }
 
 void draw_box(document_output& out, const elemento_disegno& one, bool filled) {
