@@ -8,7 +8,7 @@
 #include "bench/measure.h"
 #include "enquiry/company_figures.h"
 #include "enquiry/order_search.h"
-#include "enquiry/prices_given.h"
+#include "enquiry/prezzi.h"
 #include "support/program_stage.h"
 
 namespace vantora::bench {

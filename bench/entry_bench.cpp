@@ -22,8 +22,8 @@ void list_benches(mirorcs& screen, const program& app, int articles, int rounds)
         for (int first = 1; first <= articles; first += 320)
             app.archives.art.read_block(first, read);
     };
-    const std::vector<std::string> in_file_order = article_entries_of(
-        app.archives.art_blocchi, static_cast<std::int16_t>(articles), per_codice);
+    const std::vector<std::string> in_file_order =
+        article_entries_of(app.archives.art_blocchi, static_cast<std::int16_t>(articles));
     compare(
         "load of the list", rounds, [&] { screen.command3d3.click(); },
         "bare reads, copies and std::stable_sort",

@@ -5,6 +5,7 @@
 #include "customer/shipping_data.h"
 #include "program/pick_list.h"
 #include "store/key_index.h"
+#include "text/int16.h"
 #include "ui/day_field.h"
 #include "ui/enter_key.h"
 
@@ -126,6 +127,35 @@ void customer_head::start_at_first_customer() {
     nome.set_focus();
 }
 
+void customer_head::begin_document(int counter) {
+    app_.archives.tot.read(counter, contatore_);
+    for (auto& field : Text3) field.set_text("");
+    // Both kinds of documents have their number there.
+    const auto next = add_int16(contatore_.ultimo_numero, 1);
+    if (next) Text3[campo_ordine::numero].set_text(std::to_string(*next));
+    const std::string today = date_text(app_.desk.clock().now().day);
+    for (const std::size_t date : kind_.date_fields) Text3[date].set_text(today);
+}
+
+void customer_head::close() {
+    unload();
+    app_.mirorc.use().show();
+}
+
+contenuto_testata customer_head::content() const {
+    contenuto_testata now;
+    for (std::size_t i = 0; i < now.text2.size(); ++i) now.text2[i] = Text2[i].text();
+    for (std::size_t i = 0; i < now.text3.size(); ++i) now.text3[i] = Text3[i].text();
+    for (std::size_t i = 0; i < now.combo1.size(); ++i) now.combo1[i] = Combo1[i].chosen();
+    return now;
+}
+
+void customer_head::show_content(const contenuto_testata& content) {
+    for (std::size_t i = 0; i < content.text2.size(); ++i) Text2[i].set_text(content.text2[i]);
+    for (std::size_t i = 0; i < content.text3.size(); ++i) Text3[i].set_text(content.text3[i]);
+    for (std::size_t i = 0; i < content.combo1.size(); ++i) Combo1[i].choose(content.combo1[i]);
+}
+
 void customer_head::fill_lists(const tabella_suite& table) {
     Combo1[pagamento].add_all(table.pagamenti);
 }
@@ -202,8 +232,8 @@ void customer_head::found_at(std::int16_t position) {
 
 void customer_head::open_pick_list() {
     app_.selezione_cliente = kind_.caller;
-    app_.mirsel->selnome.set_text(kind_.trims_name ? trimmed(nome.text())
-                                                   : std::string_view(nome.text()));
+    app_.mirsel->selnome.set_text(kind_.of_order ? std::string_view(nome.text())
+                                                 : trimmed(nome.text()));
     picking_ = true;
     app_.mirsel->show_modal();
     picking_ = false;

@@ -15,7 +15,6 @@ struct customer_head_kind {
     const char* title;
     int caller;                  ///< how the pick list knows it, in `selezione_cliente`
     std::size_t date_fields[2];  ///< which of `Text3` stand beside the two date pickers
-    bool trims_name = false;     ///< before it goes to the pick list
     bool of_order = true;        ///< number and references go into an order's rows
 };
 
@@ -45,8 +44,12 @@ class customer_head : public ui::form {
     /// Whether somebody chose the customer shown, who otherwise is just the first one.
     [[nodiscard]] bool customer_chosen() const { return chosen_; }
 
+    [[nodiscard]] contenuto_testata content() const;
+    void show_content(const contenuto_testata& content);
+
  protected:
     void load() override;
+    void close() override;
     /// Back from the pick list with a choice: looks it up. True if that was so.
     bool take_choice();
     /// Back from the pick list without one, and what was typed is to stay.
@@ -55,16 +58,16 @@ class customer_head : public ui::form {
     /// Fills the lists that differ from screen to screen: the payment terms, where a screen has no
     /// others.
     virtual void fill_lists(const tabella_suite& table);
-    /// The user goes on to the next screen.
     virtual void go_on() = 0;
 
+    /// Proposes the number behind the last one that a counter gave, and today for both dates; all
+    /// else that a document adds is empty.
+    void begin_document(int counter);
     /// Puts the cursor on the first customer, with `HScroll1` over all of them.
     void start_at_first_customer();
-    /// The cursor moved.
     virtual void scrolled();
     /// The search ended at a position of the name index.
     virtual void found_at(std::int16_t position);
-    /// Shows the customer at `posizione_cliente_`.
     virtual void show_customer();
     /// Reads the customer at `posizione_cliente_`; what can't be read stays as it was.
     void read_customer();

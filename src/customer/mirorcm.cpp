@@ -18,7 +18,7 @@ constexpr customer_head_kind ordine_esistente{"mirorcm",
 mirorcm::mirorcm(program& app) : customer_head(app, ordine_esistente) {}
 
 void mirorcm::activate() {
-    if (!before_) keep_content();
+    if (!before_) before_ = content();
     if (!take_choice()) place_on_customer();
 }
 
@@ -55,18 +55,9 @@ void mirorcm::back_to_lines() {
     if (app_.mirorcz.loaded()) app_.mirorcz.use().show();
 }
 
-void mirorcm::keep_content() {
-    contenuto& now = before_.emplace();
-    for (std::size_t i = 0; i < now.text2.size(); ++i) now.text2[i] = Text2[i].text();
-    for (std::size_t i = 0; i < now.text3.size(); ++i) now.text3[i] = Text3[i].text();
-    for (std::size_t i = 0; i < now.combo1.size(); ++i) now.combo1[i] = Combo1[i].chosen();
-}
-
 void mirorcm::give_back() {
     if (!before_) return;
-    for (std::size_t i = 0; i < before_->text2.size(); ++i) Text2[i].set_text(before_->text2[i]);
-    for (std::size_t i = 0; i < before_->text3.size(); ++i) Text3[i].set_text(before_->text3[i]);
-    for (std::size_t i = 0; i < before_->combo1.size(); ++i) Combo1[i].choose(before_->combo1[i]);
+    show_content(*before_);
     back_to_lines();
 }
 

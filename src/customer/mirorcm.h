@@ -1,8 +1,6 @@
 #pragma once
 
-#include <array>
 #include <optional>
-#include <string>
 
 #include "customer/customer_head.h"
 
@@ -24,19 +22,11 @@ class mirorcm final : public customer_head {
     void go_on() override;
 
  private:
-    /// What the fields hold.
-    struct contenuto {
-        std::array<std::string, 22> text2;
-        std::array<std::string, 6> text3;
-        std::array<int, 3> combo1;
-    };
-
     void place_on_customer();
-    void keep_content();
     void back_to_lines();
 
-    std::optional<contenuto> before_;    ///< as the user came from the lines
-    bool scorrimento_bloccato_ = false;  ///< while the screen sets the cursor itself
+    std::optional<contenuto_testata> before_;  ///< as the user came from the lines
+    bool scorrimento_bloccato_ = false;        ///< while the screen sets the cursor itself
 };
 
 }  // namespace vantora

@@ -1,7 +1,6 @@
 #include "customer/mirorcx.h"
 
 #include "program/pick_list.h"
-#include "text/int16.h"
 
 namespace vantora {
 
@@ -18,18 +17,9 @@ mirorcx::mirorcx(program& app) : customer_head(app, nuovo_ordine) {}
 
 void mirorcx::activate() {
     take_choice();
-    if (app_.schermo_pronto == 0) start_fresh();
-}
-
-void mirorcx::start_fresh() {
+    if (app_.schermo_pronto != 0) return;
     app_.schermo_pronto = 1;
-    app_.archives.tot.read(contatori::ordini, contatore_);
-    for (auto& field : Text3) field.set_text("");
-    const auto next = add_int16(contatore_.ultimo_numero, 1);
-    if (next) Text3[campo_ordine::numero].set_text(std::to_string(*next));
-    const std::string today = date_text(app_.desk.clock().now().day);
-    Text3[campo_ordine::data].set_text(today);
-    Text3[campo_ordine::data_evasione].set_text(today);
+    begin_document(contatori::ordini);
     start_at_first_customer();
 }
 
@@ -51,11 +41,6 @@ void mirorcx::go_on() {
     if (!app_.mirorcs.exists()) return;
     hide();
     app_.mirorcs.use().show();
-}
-
-void mirorcx::close() {
-    unload();
-    app_.mirorc.use().show();
 }
 
 }  // namespace vantora

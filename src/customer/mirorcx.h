@@ -12,11 +12,9 @@ class mirorcx final : public customer_head {
 
  protected:
     void activate() override;
-    void close() override;
     void go_on() override;
 
  private:
-    void start_fresh();
     bool date_is_right(std::size_t field, const std::string& complaint);
 };
 

@@ -13,11 +13,6 @@ namespace {
 
 constexpr int righe_minime = 26;
 
-std::vector<ui::grid_column> customer_columns() {
-    return {{"Nominativo", 3700},  {"", 3000}, {"Indirizzo", 3000}, {"Città"_cp, 3000},
-            {"Partita iva", 1800}, {"", 0}};
-}
-
 }  // namespace
 
 /// What the list shows and tests of a customer.
@@ -65,7 +60,12 @@ mirsel::mirsel(program& app)
 }
 
 void mirsel::load() {
-    elenco.set_columns(customer_columns());
+    elenco.set_columns({{"Nominativo", 3700},
+                        {"", 3000},
+                        {"Indirizzo", 3000},
+                        {"Città"_cp, 3000},
+                        {"Partita iva", 1800},
+                        {"", 0}});
 }
 
 void mirsel::activate() {

@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "orders/head_fields.h"
 #include "store/fields.h"
 #include "store/records/rec_orc.h"
 
@@ -11,6 +12,22 @@ namespace vantora {
 class customer_head;
 
 // The shipping data of an order: rows 2 to 4 of its block store them, a customer head shows them.
+
+/// Where an order's block stores what the fields of a head say of it.
+struct campo_spedizione {
+    std::size_t field;  ///< as campo_cliente
+    int row;
+    text<40> rec_orc::*stored;
+};
+inline constexpr campo_spedizione campi_spedizione[] = {
+    {campo_cliente::amm_intestazione1, 2, &rec_orc::testo1},
+    {campo_cliente::amm_intestazione2, 2, &rec_orc::testo2},
+    {campo_cliente::amm_indirizzo, 2, &rec_orc::testo3},
+    {campo_cliente::amm_cap, 3, &rec_orc::testo1},
+    {campo_cliente::amm_citta, 3, &rec_orc::testo2},
+    {campo_cliente::vettore1, 4, &rec_orc::testo1},
+    {campo_cliente::vettore2, 4, &rec_orc::testo2},
+    {campo_cliente::vettore3, 4, &rec_orc::testo3}};
 
 /// The choices that `testo3` of row 3 packs into one character each, in their order.
 enum class scelta_testata { porto, trasporto, pagamento, prezzo };

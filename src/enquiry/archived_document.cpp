@@ -43,16 +43,9 @@ void fill_order_head(documento_archiviato& document, const program& app,
                   std::string(rows[1].testo1.trimmed()),
                   std::string(rows[1].testo2.trimmed()),
                   std::string(rows[1].testo3.trimmed())};
-    const std::pair<std::size_t, const text<40>*> stored[] = {
-        {campo_cliente::amm_intestazione1, &rows[2].testo1},
-        {campo_cliente::amm_intestazione2, &rows[2].testo2},
-        {campo_cliente::amm_indirizzo, &rows[2].testo3},
-        {campo_cliente::amm_cap, &rows[3].testo1},
-        {campo_cliente::amm_citta, &rows[3].testo2},
-        {campo_cliente::vettore1, &rows[4].testo1},
-        {campo_cliente::vettore2, &rows[4].testo2},
-        {campo_cliente::vettore3, &rows[4].testo3}};
-    for (const auto& [field, text] : stored) head.text2[field] = text->trimmed();
+    for (const auto& [field, row, stored] : campi_spedizione) {
+        head.text2[field] = (rows[row].*stored).trimmed();
+    }
     const auto chosen = [&](scelta_testata which) { return scelta(rows[3].testo3, which); };
     const tabella_suite table = read_suite_table(app.files, app.parameters.numero_azienda);
     head.combo1 = {entry_of(voci_porto, chosen(scelta_testata::porto)),
@@ -123,6 +116,12 @@ documento_archiviato archived_transport_document(const program& app, std::int16_
     return document;
 }
 
+bool can_be_printed(ui::desk& desk, const documento_archiviato& document) {
+    if (document.perche.empty()) return true;
+    desk.message(document.perche, ui::attention, ui::icon::stop);
+    return false;
+}
+
 void reprint(program& app, documento_archiviato& document, uscita_ristampa where) {
     auto tables = std::make_unique<tabelle_documento>();
     auto drawing = std::make_unique<disegno>();
@@ -136,8 +135,8 @@ void reprint(program& app, documento_archiviato& document, uscita_ristampa where
     const std::string_view number = trimmed(document.testata.text3[campo_ordine::numero]);
     const bool order = document.tipo == tipo_documento::ordine;
     app.desk.printer().set_job_name((order ? "Ordine " : "DDT ") + std::string(number));
+    if (where == uscita_ristampa::anteprima) app.desk.printer().preview_next_job();
     if (where != uscita_ristampa::pdf) {
-        if (where == uscita_ristampa::anteprima) app.desk.printer().preview_next_job();
         compose_document(app, printed, app.desk.printer());
         return;
     }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <memory>
 #include <string>
 
 #include "documents/printed_document.h"
@@ -22,6 +21,9 @@ documento_archiviato archived_order(const program& app, std::int16_t registrazio
 
 /// The transport document of record `number` of "vantora.bol", from its text file.
 documento_archiviato archived_transport_document(const program& app, std::int16_t number);
+
+/// False, with a message, if it can't be printed.
+bool can_be_printed(ui::desk& desk, const documento_archiviato& document);
 
 enum class uscita_ristampa { anteprima, stampa, pdf };
 

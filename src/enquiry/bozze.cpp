@@ -1,7 +1,6 @@
 #include "enquiry/bozze.h"
 
 #include "entry/draft_taking.h"
-#include "entry/import_lines.h"
 #include "text/dates.h"
 #include "text/number_text.h"
 
@@ -11,42 +10,36 @@ namespace {
 
 enum comando { indietro, riprendi, abbandona };
 
-const tipo_ricerca& tipo_bozze() {
-    using enum ui::alignment;
-    static const tipo_ricerca kind{"bozze",
-                                   "Bozze",
-                                   {{{"Cliente", 4000, left}},
-                                    {{"Ordine", 1200, left}},
-                                    {{"Riferimento", 3000, left}},
-                                    {{"Righe", 800, right}},
-                                    {{"Non salvato del", 1900, left}},
-                                    {{"", 0, left}}},
-                                   {"&Indietro", "&Riprendi", "&Abbandona"},
-                                   false};
-    return kind;
-}
-
 }  // namespace
 
-bozze::bozze(program& app) : enquiry_screen(app, tipo_bozze()) {}
+bozze::bozze(program& app)
+    : enquiry_screen(app, {"bozze",
+                           "Bozze",
+                           {{"Cliente", 4000},
+                            {"Ordine", 1200},
+                            {"Riferimento", 3000},
+                            {"Righe", 800, ui::alignment::right},
+                            {"Non salvato del", 1900},
+                            {"", 0}},
+                           {"&Indietro", "&Riprendi", "&Abbandona"},
+                           false}) {}
 
 std::string bozze::fill(list_rows& list) {
     found_ = waiting_drafts(app_);
     for (std::size_t i = 0; i < found_.size(); ++i) {
         const bozza& draft = found_[i].draft;
         list.next();
-        list.write(cliente, draft.text2[campo_cliente::intestazione1]);
+        list.write(cliente, draft.testata.text2[campo_cliente::intestazione1]);
         list.write(ordine, draft.nuova ? "nuovo" : draft.visto.numero.trimmed());
-        list.write(riferimento, draft.text3[campo_ordine::riferimento1]);
+        list.write(riferimento, draft.testata.text3[campo_ordine::riferimento1]);
         list.write(righe, std::to_string(last_used_line(draft.contenuto.lines)));
         if (const auto moment = read_clock(draft.salvata)) {
             list.write(tenuta_il, date_text(moment->day) + " " + time_text(*moment));
         }
         list.write(posizione, std::to_string(i));
     }
-    const std::string said = std::to_string(found_.size());
     if (found_.empty()) return "Nessuna bozza";
-    return found_.size() == 1 ? "1 bozza" : said + " bozze";
+    return how_many(static_cast<int>(found_.size()), "bozza", "bozze");
 }
 
 void bozze::open_row(int row) {
@@ -61,12 +54,13 @@ void bozze::run_command(int command, int row) {
 }
 
 void bozze::give_up(int row) {
-    const bozza_trovata& one = found_[place_of(row)];
-    const std::string name = one.name;
+    const bozza_trovata one = found_[place_of(row)];
     if (!desk().guards().confirm("Abbandonare l'" + draft_name(one.draft) + " non salvato?"))
         return;
-    auto file = file_bozza::take(*app_.person, name);
-    if (file) file->drop();
+    auto file = file_bozza::take(*app_.person, one.name);
+    const auto there = draft_in(*app_.person, one.name);
+    // Another window may have kept another order under this name since.
+    if (file && there && there->salvata == one.draft.salvata) file->drop();
     build();
 }
 

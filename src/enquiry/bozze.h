@@ -24,7 +24,6 @@ class bozze final : public enquiry_screen {
     std::vector<bozza_trovata> found_;
 };
 
-/// How many drafts wait for the person.
 int count_drafts(const program& app);
 
 }  // namespace vantora

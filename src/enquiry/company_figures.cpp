@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 #include <map>
 
 #include "enquiry/order_walk.h"
@@ -79,23 +80,17 @@ std::vector<barra> bars_of(const somme& sums, Name name) {
 /// The highest of them, highest first.
 template <class Name>
 std::vector<barra> highest(const somme_numerate& sums, Name name) {
-    std::vector<std::int16_t> order;
+    std::vector<std::size_t> order;
     for (std::size_t number = 0; number < sums.size(); ++number) {
-        if (sums[number].valore > 0) order.push_back(static_cast<std::int16_t>(number));
+        if (sums[number].valore > 0) order.push_back(number);
     }
-    const auto sum_of = [&](std::int16_t number) -> const somma& {
-        return sums[static_cast<std::size_t>(number)];
-    };
-    const auto shown = static_cast<std::ptrdiff_t>(std::min(order.size(), primi));
-    std::partial_sort(order.begin(), order.begin() + shown, order.end(), [&](auto one, auto other) {
-        const double value = sum_of(one).valore;
-        const double others = sum_of(other).valore;
-        return value != others ? value > others : one < other;
-    });
-    order.resize(static_cast<std::size_t>(shown));
+    std::ranges::stable_sort(order, std::greater(),
+                             [&](auto number) { return sums[number].valore; });
+    order.resize(std::min(order.size(), primi));
     std::vector<barra> all;
-    for (const std::int16_t number : order) {
-        all.push_back({name(number), sum_of(number).valore, sum_of(number).dietro});
+    for (const std::size_t number : order) {
+        all.push_back(
+            {name(static_cast<std::int16_t>(number)), sums[number].valore, sums[number].dietro});
     }
     return all;
 }
@@ -106,7 +101,7 @@ class counting {
         : files_(files),
           currency_(currency),
           today_(today),
-          names_(files.cli, static_cast<std::int16_t>(records_in_use(files, contatori::clienti))),
+          names_(files),
           texts_(files.art),
           customers_(static_cast<std::size_t>(records_in_use(files, contatori::clienti)) + 1),
           sold_(static_cast<std::size_t>(records_in_use(files, contatori::articoli)) + 1),

@@ -11,7 +11,6 @@
 
 namespace vantora {
 
-/// One bar of the company's figures.
 struct barra {
     std::string etichetta;
     double valore = 0;                         ///< amounts, or quantities of the articles short

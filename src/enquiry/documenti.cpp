@@ -6,8 +6,6 @@
 #include "orders/ddt_snapshot.h"
 #include "store/suite_paths.h"
 #include "text/dates.h"
-#include "text/int16.h"
-#include "text/number_text.h"
 
 namespace vantora {
 
@@ -15,23 +13,21 @@ namespace {
 
 constexpr std::size_t byte_fino_ai_colli = 256;
 
-const tipo_ricerca& tipo_documenti() {
-    static const tipo_ricerca kind{"documenti",
-                                   "Documenti di trasporto",
-                                   {{{"Numero", 900, ui::alignment::right}},
-                                    {{"Data", 1100}, documenti::data_stored},
-                                    {{"Cliente", 5000}},
-                                    {{"Colli", 900, ui::alignment::right}},
-                                    {{"Movimento", 1200}},
-                                    {{"", 0}},
-                                    {{"", 0}}},
-                                   {"&Indietro", "&Anteprima", "&Stampa", "&PDF"}};
-    return kind;
-}
-
 }  // namespace
 
-documenti::documenti(program& app) : enquiry_screen(app, tipo_documenti()) {}
+documenti::documenti(program& app)
+    : enquiry_screen(app, {.name = "documenti",
+                           .title = "Documenti di trasporto",
+                           .colonne = {{"Numero", 900, ui::alignment::right},
+                                       {"Data", 1100},
+                                       {"Cliente", 5000},
+                                       {"Colli", 900, ui::alignment::right},
+                                       {"Movimento", 1200},
+                                       {"", 0},
+                                       {"", 0}},
+                           .comandi = {"&Indietro", "&Anteprima", "&Stampa", "&PDF"},
+                           .giorno = data,
+                           .giorno_stored = data_stored}) {}
 
 // One read for every 256 documents and every 32 customers, and one of each document's text file.
 std::string documenti::fill(list_rows& list) {
@@ -40,8 +36,7 @@ std::string documenti::fill(list_rows& list) {
     all.reserve(static_cast<std::size_t>(count));
     for_all(app_.archives.bol, count,
             [&](int number, const rec_bol& one) { all.emplace_back(number, one); });
-    customer_names names(app_.archives.cli, static_cast<std::int16_t>(
-                                                records_in_use(app_.archives, contatori::clienti)));
+    customer_names names(app_.archives);
     for (std::size_t i = all.size(); i-- > 0 && !list.full();) {
         const auto& [number, one] = all[i];
         list_document(list, one, number, names.of(one.cliente));
@@ -69,16 +64,10 @@ void documenti::open_row(int row) {
 }
 
 void documenti::run_command(int command, int row) {
-    const auto number = to_int16(number_at_head(elenco.text(row, documento))).value_or(0);
-    auto found = archived_transport_document(app_, number);
-    if (!found.perche.empty()) {
-        app_.desk.message(found.perche, ui::attention, ui::icon::stop);
-        return;
-    }
+    auto found = archived_transport_document(app_, number_in(row, documento));
+    if (!can_be_printed(app_.desk, found)) return;
     const work printing(*this);
-    constexpr uscita_ristampa outputs[] = {uscita_ristampa::anteprima, uscita_ristampa::stampa,
-                                           uscita_ristampa::pdf};
-    reprint(app_, found, outputs[command - anteprima]);
+    reprint(app_, found, static_cast<uscita_ristampa>(command - anteprima));
 }
 
 }  // namespace vantora

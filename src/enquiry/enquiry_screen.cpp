@@ -1,5 +1,7 @@
 #include "enquiry/enquiry_screen.h"
 
+#include "text/int16.h"
+#include "text/number_text.h"
 #include "ui/enter_key.h"
 
 namespace vantora {
@@ -11,16 +13,15 @@ constexpr int tutte_le_colonne = 99;
 
 }  // namespace
 
-enquiry_screen::enquiry_screen(program& app, const tipo_ricerca& kind)
-    : form(app.desk, kind.name, from_utf8(kind.title)),
+enquiry_screen::enquiry_screen(program& app, tipo_ricerca kind)
+    : form(app.desk, kind.name, kind.title),
       app_(app),
       lista_(elenco, app, righe_minime, tutte_le_colonne),
-      kind_(kind) {
+      kind_(std::move(kind)) {
     add("elenco", elenco);
-    for (std::size_t i = 0; i < kind.comandi.size(); ++i) {
-        const int command = static_cast<int>(i);
+    for (int command = 0; command < commands(); ++command) {
         add_element("bottone", command, bottone[command]);
-        bottone[command].set_text(from_utf8(kind.comandi[i]));
+        bottone[command].set_text(kind_.comandi[static_cast<std::size_t>(command)]);
         bottone[command].on_click = [this, command] { command_clicked(command); };
     }
     add("esito", esito);
@@ -33,12 +34,6 @@ enquiry_screen::enquiry_screen(program& app, const tipo_ricerca& kind)
 void enquiry_screen::load() {
     show_columns();
     elenco.set_rows(righe_minime);
-}
-
-void enquiry_screen::show_columns() {
-    std::vector<ui::grid_column> columns;
-    for (const colonna_ricerca& one : kind_.colonne) columns.push_back(one.shown);
-    elenco.set_columns(std::move(columns));
 }
 
 void enquiry_screen::activate() {
@@ -70,10 +65,9 @@ bool enquiry_screen::goes_on(list_rows& list, int passed, int of) {
 void enquiry_screen::clicked() {
     if (!elenco.head_clicked() || !kind_.si_riordina) return;
     const int column = elenco.mouse_column();
-    const int by_day = kind_.colonne[static_cast<std::size_t>(column)].sorts_by;
-    const auto order =
-        by_day < 0 ? ui::sort_order::generic_ascending : ui::sort_order::numeric_ascending;
-    lista_.sort(by_day < 0 ? column : by_day, order);
+    using enum ui::sort_order;
+    if (column == kind_.giorno) return lista_.sort(kind_.giorno_stored, numeric_ascending);
+    lista_.sort(column, generic_ascending);
 }
 
 void enquiry_screen::command_clicked(int command) {
@@ -81,9 +75,13 @@ void enquiry_screen::command_clicked(int command) {
     if (in_use(elenco.row())) run_command(command, elenco.row());
 }
 
+std::int16_t enquiry_screen::number_in(int row, int column) const {
+    return to_int16(number_at_head(elenco.text(row, column))).value_or(0);
+}
+
 std::string how_many(int count, const char* one, const char* many) {
-    if (count == 0) return from_utf8(std::string("Nessun ") + one);
-    return from_utf8(std::to_string(count) + " " + (count == 1 ? one : many));
+    if (count == 0) return std::string("Nessun ") + one;
+    return std::to_string(count) + " " + (count == 1 ? one : many);
 }
 
 }  // namespace vantora

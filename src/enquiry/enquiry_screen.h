@@ -8,21 +8,16 @@
 
 namespace vantora {
 
-/// A column of an enquiry.
-struct colonna_ricerca {
-    ui::grid_column shown;
-    /// The column that a click on the head sorts by, where that isn't this one: a day's stored
-    /// form. It sorts by numbers.
-    int sorts_by = -1;
-};
-
 /// In what the enquiries differ outside their lists.
 struct tipo_ricerca {
     const char* name;
-    const char* title;  ///< UTF-8
-    std::vector<colonna_ricerca> colonne;
-    std::vector<const char*> comandi;  ///< captions of `bottone`, the first one leaves; UTF-8
+    const char* title;
+    std::vector<ui::grid_column> colonne;
+    std::vector<const char*> comandi;  ///< captions of `bottone`, the first one leaves
     bool si_riordina = true;           ///< a click on a head sorts
+    /// The column of the days, and the one that holds their stored form, by which they sort.
+    int giorno = -1;
+    int giorno_stored = -1;
 };
 
 /// A list that somebody looks something up in, in front of the screen that it was opened from. It
@@ -32,8 +27,7 @@ class enquiry_screen : public ui::form {
  public:
     static constexpr int comandi_massimi = 4;
 
-    /// `kind` outlives the screen.
-    enquiry_screen(program& app, const tipo_ricerca& kind);
+    enquiry_screen(program& app, tipo_ricerca kind);
 
     ui::grid elenco;
     ui::button bottone[comandi_massimi];
@@ -52,22 +46,19 @@ class enquiry_screen : public ui::form {
     /// What Enter does on a row in use.
     virtual void open_row(int row) = 0;
     /// A command behind the one that leaves, on the marked row.
-    virtual void run_command(int command, int row) = 0;
-
-    /// The command that leaves.
+    virtual void run_command(int /*command*/, int row) { open_row(row); }
     virtual void go_back() { leave(); }
 
-    /// Sets the columns of the kind.
-    void show_columns();
-    /// Fills the list anew.
+    void show_columns() { elenco.set_columns(kind_.colonne); }
     void build();
     /// The list has so many rows in use, head included: says so and marks the first one.
     void finish(int in_use, std::string_view said);
     /// For a pass over many orders: shows how far it is, and lets the user leave meanwhile. False
     /// if they did.
     bool goes_on(list_rows& list, int passed, int of);
-    /// Leaves; what the screen held is gone.
     void leave() { unload(); }
+    /// What a cell holds as a number; 0 if it is none of 16 bits.
+    [[nodiscard]] std::int16_t number_in(int row, int column) const;
 
     program& app_;
     list_grid lista_;
@@ -77,7 +68,7 @@ class enquiry_screen : public ui::form {
     void command_clicked(int command);
     [[nodiscard]] bool in_use(int row) const { return row > 0 && row < lista_.in_use(); }
 
-    const tipo_ricerca& kind_;
+    tipo_ricerca kind_;
     bool built_ = false;
 };
 

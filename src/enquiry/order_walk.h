@@ -20,7 +20,10 @@ class order_walk {
  public:
     explicit order_walk(const archivi& files)
         : count_(records_in_use(files, contatori::ordini)),
-          blocks_(files.orc, static_cast<std::size_t>(count_), plan()) {}
+          blocks_(files.orc, static_cast<std::size_t>(count_), [count = count_](std::size_t i) {
+              return record_run{block_record(count - static_cast<std::int64_t>(i), 1),
+                                righe_blocco};
+          }) {}
 
     /// The next order; empty behind the oldest. Valid until the next call.
     std::optional<ordine_letto> next() {
@@ -36,12 +39,6 @@ class order_walk {
     [[nodiscard]] int passed() const { return passed_; }
 
  private:
-    records_ahead<rec_orc>::plan plan() const {
-        return [count = count_](std::size_t i) {
-            return record_run{block_record(count - static_cast<std::int64_t>(i), 1), righe_blocco};
-        };
-    }
-
     int count_;
     int passed_ = 0;
     records_ahead<rec_orc> blocks_;

@@ -1,6 +1,6 @@
 #include "enquiry/prezzi.h"
 
-#include "enquiry/all_records.h"
+#include "enquiry/order_walk.h"
 #include "orders/customer_names.h"
 #include "store/money.h"
 #include "text/dates.h"
@@ -12,22 +12,6 @@ namespace {
 
 constexpr std::size_t prezzi_di_ognuno = 500;  ///< of the customer, and of the others
 
-const tipo_ricerca& tipo_prezzi() {
-    using enum ui::alignment;
-    static const tipo_ricerca kind{"prezzi",
-                                   "Prezzi praticati",
-                                   {{{"Data", 1000}, prezzi::data_stored},
-                                    {{"Cliente", 4000}},
-                                    {{"Prezzo", 1200, right}},
-                                    {{"Sconti", 900, right}},
-                                    {{"Quantit\xE0", 1000, right}},
-                                    {{"Ordine", 900}},
-                                    {{"", 0}},
-                                    {{"", 0}}},
-                                   {"&Indietro", "&Prendi prezzo e sconti"}};
-    return kind;
-}
-
 std::string discounts(const rec_orc& row) {
     if (row.sc2 != 0) return std::to_string(row.sc1) + "+" + std::to_string(row.sc2);
     return row.sc1 != 0 ? std::to_string(row.sc1) : std::string();
@@ -35,7 +19,35 @@ std::string discounts(const rec_orc& row) {
 
 }  // namespace
 
-prezzi::prezzi(program& app) : enquiry_screen(app, tipo_prezzi()) {}
+prezzi_articolo find_prices(const archivi& files, std::int16_t articolo, std::int16_t cliente,
+                            std::size_t most, const std::function<bool(int, int)>& goes_on) {
+    prezzi_articolo all;
+    order_walk orders(files);
+    while (const auto order = orders.next()) {
+        const bool own = order->righe.front().cliente == cliente;
+        auto& kept = own ? all.del_cliente : all.di_altri;
+        for (const rec_orc& row : order->righe) {
+            if (row.articolo == articolo && kept.size() < most) kept.push_back(row);
+        }
+        if (!goes_on(orders.passed(), orders.count())) break;
+    }
+    return all;
+}
+
+prezzi::prezzi(program& app)
+    : enquiry_screen(app, {.name = "prezzi",
+                           .title = "Prezzi praticati",
+                           .colonne = {{"Data", 1000},
+                                       {"Cliente", 4000},
+                                       {"Prezzo", 1200, ui::alignment::right},
+                                       {"Sconti", 900, ui::alignment::right},
+                                       {"Quantit\xE0", 1000, ui::alignment::right},
+                                       {"Ordine", 900},
+                                       {"", 0},
+                                       {"", 0}},
+                           .comandi = {"&Indietro", "&Prendi prezzo e sconti"},
+                           .giorno = data,
+                           .giorno_stored = data_stored}) {}
 
 std::string prezzi::fill(list_rows& list) {
     const auto [article, customer] = app_.prezzi_di;
@@ -44,11 +56,10 @@ std::string prezzi::fill(list_rows& list) {
     listed_ = std::move(found.del_cliente);
     const std::size_t own = listed_.size();
     listed_.insert(listed_.end(), found.di_altri.begin(), found.di_altri.end());
-    customer_names names(app_.archives.cli, static_cast<std::int16_t>(
-                                                records_in_use(app_.archives, contatori::clienti)));
+    customer_names names(app_.archives);
     const valuta currency(app_.parameters);
     for (std::size_t i = 0; i < listed_.size(); ++i) {
-        const rec_orc& row = listed_[i].riga;
+        const rec_orc& row = listed_[i];
         list.next();
         list.write(data, date_text_of_stored(row.data.full()));
         list.write(cliente, names.of(row.cliente));
@@ -66,13 +77,9 @@ std::string prezzi::fill(list_rows& list) {
 
 void prezzi::open_row(int row) {
     const auto place = static_cast<std::size_t>(number_at_head(elenco.text(row, riga)));
-    const rec_orc& chosen = listed_[place].riga;
+    const rec_orc& chosen = listed_[place];
     app_.prezzo_scelto = prezzo_e_sconti{finite_or_zero(chosen.prezzo), chosen.sc1, chosen.sc2};
     leave();
-}
-
-void prezzi::run_command(int /*command*/, int row) {
-    open_row(row);
 }
 
 }  // namespace vantora

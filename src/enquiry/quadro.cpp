@@ -2,28 +2,15 @@
 
 #include <algorithm>
 
-#include "enquiry/all_records.h"
 #include "orders/article_texts.h"
 #include "orders/customer_names.h"
+#include "store/record_runs.h"
 #include "store/records/order_block.h"
-#include "text/int16.h"
 #include "text/number_text.h"
 
 namespace vantora {
 
 namespace {
-
-const tipo_ricerca& tipo_quadro() {
-    static const tipo_ricerca kind{"quadro",
-                                   "Quadro degli ordini",
-                                   {{{"Grafico", 3000}},
-                                    {{"Voce", 5000}},
-                                    {{"Valore", 1500, ui::alignment::right}},
-                                    {{"", 0}}},
-                                   {"&Indietro", "&Stampa"},
-                                   false};
-    return kind;
-}
 
 std::vector<ui::grid_column> order_columns() {
     return {{"Ordine", 1000}, {"Data", 1000}, {"Cliente", 4000}, {"Descrizione", 5000}, {"", 0}};
@@ -57,7 +44,14 @@ double highest_of(const std::vector<barra>& bars) {
 
 }  // namespace
 
-quadro::quadro(program& app) : enquiry_screen(app, tipo_quadro()) {}
+quadro::quadro(program& app)
+    : enquiry_screen(
+          app,
+          {"quadro",
+           "Quadro degli ordini",
+           {{"Grafico", 3000}, {"Voce", 5000}, {"Valore", 1500, ui::alignment::right}, {"", 0}},
+           {"&Indietro", "&Stampa"},
+           false}) {}
 
 std::vector<quadro::gruppo> quadro::groups() const {
     return {{"Da evadere per settimana", figures_.da_evadere, true},
@@ -100,8 +94,7 @@ std::string quadro::fill_bars(list_rows& list) {
 }
 
 std::string quadro::fill_orders(list_rows& list, const barra& of) {
-    customer_names names(app_.archives.cli, static_cast<std::int16_t>(
-                                                records_in_use(app_.archives, contatori::clienti)));
+    customer_names names(app_.archives);
     for_each_of(app_.archives.orc, of.ordini, righe_blocco, [&](int block, const rec_orc& head) {
         if (list.full()) return;
         list.next();
@@ -116,8 +109,7 @@ std::string quadro::fill_orders(list_rows& list, const barra& of) {
 
 std::string quadro::fill_movements(list_rows& list, const barra& of) {
     const valuta currency(app_.parameters);
-    customer_names names(app_.archives.cli, static_cast<std::int16_t>(
-                                                records_in_use(app_.archives, contatori::clienti)));
+    customer_names names(app_.archives);
     article_texts articles(app_.archives.art);
     for_each_of(app_.archives.mag, of.movimenti, 1, [&](int, const rec_mag& one) {
         if (list.full()) return;
@@ -135,8 +127,7 @@ std::string quadro::fill_movements(list_rows& list, const barra& of) {
 void quadro::open_row(int row) {
     if (behind_) {
         if (!behind_->movimenti.empty()) return;
-        const std::string_view block = elenco.text(row, registrazione);
-        app_.ordine_cercato = {to_int16(number_at_head(block)).value_or(0), 1};
+        app_.ordine_cercato = {number_in(row, registrazione), 1};
         return leave();
     }
     const barra* bar = bars_[static_cast<std::size_t>(row)];

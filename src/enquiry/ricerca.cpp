@@ -1,11 +1,8 @@
 #include "enquiry/ricerca.h"
 
-#include "enquiry/all_records.h"
 #include "enquiry/order_search.h"
 #include "orders/customer_names.h"
 #include "text/dates.h"
-#include "text/int16.h"
-#include "text/number_text.h"
 #include "ui/enter_key.h"
 
 namespace vantora {
@@ -15,23 +12,21 @@ namespace {
 constexpr int righe_insieme = 500;    ///< that the list grows by
 constexpr int blocchi_insieme = 256;  ///< between two looks at what the user does
 
-const tipo_ricerca& tipo_cerca() {
-    static const tipo_ricerca kind{"ricerca",
-                                   "Cerca negli ordini",
-                                   {{{"Ordine", 1000}},
-                                    {{"Data", 1000}, ricerca::data_stored},
-                                    {{"Cliente", 4000}},
-                                    {{"Riga", 600, ui::alignment::right}},
-                                    {{"Trovato in", 5000}},
-                                    {{"", 0}},
-                                    {{"", 0}}},
-                                   {"&Indietro", "&Apri l'ordine"}};
-    return kind;
-}
-
 }  // namespace
 
-ricerca::ricerca(program& app) : enquiry_screen(app, tipo_cerca()) {
+ricerca::ricerca(program& app)
+    : enquiry_screen(app, {.name = "ricerca",
+                           .title = "Cerca negli ordini",
+                           .colonne = {{"Ordine", 1000},
+                                       {"Data", 1000},
+                                       {"Cliente", 4000},
+                                       {"Riga", 600, ui::alignment::right},
+                                       {"Trovato in", 5000},
+                                       {"", 0},
+                                       {"", 0}},
+                           .comandi = {"&Indietro", "&Apri l'ordine"},
+                           .giorno = data,
+                           .giorno_stored = data_stored}) {
     add("testo", testo);
     testo.accepts = ui::input_rule::text(decltype(rec_orc::testo1)::width);
     ui::on_enter(testo, [this] { search(); });
@@ -58,8 +53,7 @@ void ricerca::search() {
     const int round = ++searches_;
     const order_search all(app_.archives, testo.text());
     if (!all.looks_for_something()) return activate();
-    customer_names names(app_.archives.cli, static_cast<std::int16_t>(
-                                                records_in_use(app_.archives, contatori::clienti)));
+    customer_names names(app_.archives);
     found_ = 0;
     lista_.finish(1);
     esito.set_text("Cerca ...");
@@ -81,15 +75,8 @@ void ricerca::search() {
 }
 
 void ricerca::open_row(int row) {
-    const auto number = [&](int column) {
-        return to_int16(number_at_head(elenco.text(row, column))).value_or(0);
-    };
-    app_.ordine_cercato = {number(registrazione), number(riga)};
+    app_.ordine_cercato = {number_in(row, registrazione), number_in(row, riga)};
     leave();
-}
-
-void ricerca::run_command(int /*command*/, int row) {
-    open_row(row);
 }
 
 }  // namespace vantora

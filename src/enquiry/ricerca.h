@@ -18,7 +18,6 @@ class ricerca final : public enquiry_screen {
  protected:
     void activate() override;
     void open_row(int row) override;
-    void run_command(int command, int row) override;
 
  private:
     void search();

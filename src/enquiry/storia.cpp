@@ -1,49 +1,71 @@
 #include "enquiry/storia.h"
 
+#include <algorithm>
+#include <set>
+
+#include "enquiry/all_records.h"
 #include "enquiry/archived_document.h"
 #include "entry/article_list.h"
+#include "orders/article_texts.h"
 #include "orders/order_rows.h"
-#include "store/money.h"
+#include "store/records/order_block.h"
 #include "text/dates.h"
-#include "text/int16.h"
-#include "text/number_text.h"
 
 namespace vantora {
 
 namespace {
 
-const tipo_ricerca& tipo_storia() {
-    using enum ui::alignment;
-    static const tipo_ricerca kind{"storia",
-                                   "Storia dell'ordine",
-                                   {{{"Voce", 1400}},
-                                    {{"Data", 1000}},
-                                    {{"Descrizione", 5000}},
-                                    {{"Ordinato", 1000, right}},
-                                    {{"Evaso", 1000, right}},
-                                    {{"Da evadere", 1000, right}},
-                                    {{"", 0}},
-                                    {{"", 0}}},
-                                   {"&Indietro"}};
-    return kind;
+/// A transport document that goods of an order may have left with, and its movements.
+struct consegna {
+    std::int16_t documento = 0;  ///< record of "vantora.bol"; 0: movements without a document
+    rec_bol testata;
+    std::vector<rec_mag> movimenti;
+};
+
+/// Goods and document of one confirmation carry the same moment and customer.
+bool together(const rec_bol& document, const rec_mag& movement) {
+    return document.data_reg == movement.data_reg && document.cliente == movement.cliente;
 }
 
-}  // namespace
-
-storia::storia(program& app) : enquiry_screen(app, tipo_storia()) {}
-
-std::string storia::fill(list_rows& list) {
-    const auto story = read_story(app_.archives, app_.selezione_1);
-    if (!story) return "L'ordine non si lascia leggere: "_cp + app_.archives.orc.name();
-    list_order(list, story->righe);
-    article_texts articles(app_.archives.art);
-    for (const consegna& one : story->consegne) list_delivery(list, one, articles);
-    return how_many(static_cast<int>(story->consegne.size()), "movimento di questi articoli",
-                    "movimenti di questi articoli") +
-           " al cliente dopo l'ordine";
+void add_movement(std::vector<consegna>& all, const rec_mag& movement) {
+    auto place = std::ranges::find_if(all, [&](const consegna& one) {
+        return one.movimenti.front().data_reg == movement.data_reg;
+    });
+    if (place == all.end()) place = all.insert(all.end(), consegna{});
+    place->movimenti.push_back(movement);
 }
 
-void storia::list_order(list_rows& list, const std::vector<rec_orc>& rows) {
+/// What became of an order. No record says which order a movement was for: those count that its
+/// customer had of its articles since it was first saved, each with the document that was made in
+/// the same confirmation. One pass over movements and documents.
+std::vector<consegna> deliveries_of(const archivi& files, const std::vector<rec_orc>& order) {
+    const rec_orc& head = order.front();
+    std::set<std::int16_t> articles;
+    for (const rec_orc& row : order) {
+        if (row.articolo > 0) articles.insert(row.articolo);
+    }
+    std::vector<consegna> all;
+    for_all(files.mag, records_in_use(files, contatori::magazzino),
+            [&](int, const rec_mag& movement) {
+                const bool its_own = movement.cliente == head.cliente &&
+                                     movement.data_reg >= head.data_reg &&
+                                     articles.contains(movement.articolo);
+                if (its_own) add_movement(all, movement);
+            });
+    for_all(files.bol, records_in_use(files, contatori::documenti_trasporto),
+            [&](int number, const rec_bol& document) {
+                for (consegna& one : all) {
+                    if (one.documento != 0 || !together(document, one.movimenti.front())) continue;
+                    one.documento = static_cast<std::int16_t>(number);
+                    one.testata = document;
+                    return;
+                }
+            });
+    return all;
+}
+
+void list_order(list_rows& list, const std::vector<rec_orc>& rows) {
+    using enum storia::colonna;
     for (std::size_t i = 0; i < rows.size(); ++i) {
         const rec_orc& row = rows[i];
         const std::string text = description_of(row);
@@ -61,7 +83,8 @@ void storia::list_order(list_rows& list, const std::vector<rec_orc>& rows) {
     }
 }
 
-void storia::list_delivery(list_rows& list, const consegna& one, article_texts& articles) {
+void list_delivery(list_rows& list, const consegna& one, article_texts& articles) {
+    using enum storia::colonna;
     if (one.documento > 0) {
         list.next();
         list.write(che_cosa, "DDT " + std::to_string(one.testata.numero));
@@ -78,28 +101,49 @@ void storia::list_delivery(list_rows& list, const consegna& one, article_texts& 
     }
 }
 
+}  // namespace
+
+storia::storia(program& app)
+    : enquiry_screen(app, {"storia",
+                           "Storia dell'ordine",
+                           {{"Voce", 1400},
+                            {"Data", 1000},
+                            {"Descrizione", 5000},
+                            {"Ordinato", 1000, ui::alignment::right},
+                            {"Evaso", 1000, ui::alignment::right},
+                            {"Da evadere", 1000, ui::alignment::right},
+                            {"", 0},
+                            {"", 0}},
+                           {"&Indietro"}}) {}
+
+std::string storia::fill(list_rows& list) {
+    std::vector<rec_orc> rows(righe_blocco);
+    if (!app_.archives.orc.read_block(block_record(app_.selezione_1, 1), rows)) {
+        return "L'ordine non si lascia leggere: " + app_.archives.orc.name();
+    }
+    const auto deliveries = deliveries_of(app_.archives, rows);
+    list_order(list, rows);
+    article_texts articles(app_.archives.art);
+    for (const consegna& one : deliveries) list_delivery(list, one, articles);
+    return how_many(static_cast<int>(deliveries.size()), "movimento di questi articoli",
+                    "movimenti di questi articoli") +
+           " al cliente dopo l'ordine";
+}
+
 void storia::open_row(int row) {
-    const auto number = [&](int column) {
-        return to_int16(number_at_head(elenco.text(row, column))).value_or(0);
-    };
-    if (const std::int16_t line = number(riga); line > 0) {
+    if (const std::int16_t line = number_in(row, riga); line > 0) {
         app_.ordine_cercato = {app_.selezione_1, line};
         return leave();
     }
-    if (number(documento) == 0) {
+    if (number_in(row, documento) == 0) {
         app_.desk.message("Per questo movimento non c'è un documento di trasporto"_cp,
                           ui::attention, ui::icon::information);
         return;
     }
-    auto found = archived_transport_document(app_, number(documento));
-    if (!found.perche.empty()) {
-        app_.desk.message(found.perche, ui::attention, ui::icon::stop);
-        return;
-    }
+    auto found = archived_transport_document(app_, number_in(row, documento));
+    if (!can_be_printed(app_.desk, found)) return;
     const work showing(*this);
     reprint(app_, found, uscita_ristampa::anteprima);
 }
-
-void storia::run_command(int /*command*/, int /*row*/) {}
 
 }  // namespace vantora

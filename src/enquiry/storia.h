@@ -1,8 +1,6 @@
 #pragma once
 
 #include "enquiry/enquiry_screen.h"
-#include "enquiry/order_story.h"
-#include "orders/article_texts.h"
 
 namespace vantora {
 
@@ -17,11 +15,6 @@ class storia final : public enquiry_screen {
  protected:
     std::string fill(list_rows& list) override;
     void open_row(int row) override;
-    void run_command(int command, int row) override;
-
- private:
-    void list_order(list_rows& list, const std::vector<rec_orc>& rows);
-    void list_delivery(list_rows& list, const consegna& one, article_texts& articles);
 };
 
 }  // namespace vantora

@@ -21,14 +21,11 @@ std::string padded(std::string_view text, std::size_t width) {
     return result;
 }
 
-std::string entry_of(const rec_art& article, std::int64_t number, modo_lista mode) {
-    const std::string_view code = article.codice.full();
-    const std::string_view description = article.descrizione.full();
+std::string entry_of(const rec_art& article, int number) {
     std::string entry;
     entry.reserve(160);
-    entry.append(mode == per_codice ? code : description).append(between);
-    entry.append(mode == per_codice ? description : code).append(90, ' ');
-    return entry.append(std::to_string(number));
+    entry.append(article.codice.full()).append(between).append(article.descrizione.full());
+    return entry.append(90, ' ').append(std::to_string(number));
 }
 
 std::string_view part(std::string_view entry, std::size_t begin, std::size_t width) {
@@ -44,7 +41,7 @@ bool begins_with(std::string_view text, std::string_view capitals) {
 }  // namespace
 
 std::vector<std::string> article_entries_of(const channel<blocco_articoli>& blocks,
-                                            std::int16_t articles, modo_lista mode,
+                                            std::int16_t articles,
                                             const std::function<void(int, int)>& progress) {
     constexpr int at_once = 16;
     std::vector<std::string> entries;
@@ -61,7 +58,7 @@ std::vector<std::string> article_entries_of(const channel<blocco_articoli>& bloc
             const auto deleted = static_cast<std::uint16_t>(article.eliminato) & 0xFF;
             if (++number > last_number) break;
             if (deleted != 0 || filtra_stampa(article.codice.full()).empty()) continue;
-            entries.push_back(entry_of(article, number, mode));
+            entries.push_back(entry_of(article, number));
         }
     }
     return entries;

@@ -9,22 +9,18 @@
 
 namespace vantora {
 
-/// With what the entries of the article list begin.
-enum modo_lista { per_codice = 0, per_descrizione = 1 };
-
 /// The entries of the list of all live articles, in the order of the file: code and description in
 /// their full widths, then the record number as the last characters. The file is read many blocks
 /// of twenty at a time, `progress` is told how far; the last block may reach behind the count. A
 /// block that can't be read is left out.
 std::vector<std::string> article_entries_of(
-    const channel<blocco_articoli>& blocks, std::int16_t articles, modo_lista mode,
+    const channel<blocco_articoli>& blocks, std::int16_t articles,
     const std::function<void(int done, int of)>& progress = [](int, int) {});
 
 /// The record number that an entry ends with, in its last five characters.
 std::int16_t article_number(std::string_view entry);
 
-/// The code and the description of an entry that begins with the code, without the blanks around
-/// them.
+/// Its code and description, without the blanks around them.
 std::string_view entry_code(std::string_view entry);
 std::string_view entry_description(std::string_view entry);
 

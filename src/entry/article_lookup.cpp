@@ -7,7 +7,7 @@
 
 namespace vantora {
 
-// While code moves the list's selection, and while a line takes an article, `stato_lista_` keeps
+// While code moves the list's selection, and while a line takes an article, `lista_pronta_` keeps
 // the list's own click from counting.
 
 void article_lookup::count_articles() {
@@ -18,13 +18,13 @@ void article_lookup::count_articles() {
 
 void article_lookup::open() {
     count_articles();
-    stato_lista_ = lista_ferma;
+    lista_pronta_ = false;
     barcode.set_on(app_.parameters.gnr.usa_barcode != 0);
     if (articles() >= 1 && !barcode.on()) attiva_lista(true);
 }
 
 void article_lookup::reload() {
-    stato_lista_ = lista_ferma;
+    lista_pronta_ = false;
     attiva_lista(true);
 }
 
@@ -32,7 +32,7 @@ void article_lookup::barcode_switched() {
     count_articles();
     if (barcode.on()) {
         attiva_lista(false);
-    } else if (stato_lista_ >= 0 || articles() >= 1) {
+    } else if (lista_pronta_ || articles() >= 1) {
         attiva_lista(true);
     }
 }
@@ -40,51 +40,46 @@ void article_lookup::barcode_switched() {
 void article_lookup::attiva_lista(bool on) {
     count_articles();
     List1.set_enabled(on);
-    if (on && stato_lista_ == lista_ferma) carica_lista(per_codice);
+    if (on && !lista_pronta_) carica_lista();
 }
 
-void article_lookup::carica_lista(modo_lista mode) {
+void article_lookup::carica_lista() {
     app_.desk.set_pointer(ui::pointer::busy);
     count_articles();
     List1.clear();
     {
         list_progress progress(app_.desk, List1);
-        List1.add_all(article_entries_of(app_.archives.art_blocchi, articles(), mode,
+        List1.add_all(article_entries_of(app_.archives.art_blocchi, articles(),
                                          [&](int done, int of) { progress.come_to(done, of); }));
     }
     app_.desk.set_pointer(ui::pointer::normal);
-    stato_lista_ = mode;
-}
-
-bool article_lookup::can_search() const {
-    return List1.enabled() && stato_lista_ == per_codice;
+    lista_pronta_ = true;
 }
 
 void article_lookup::search_list(const std::string& wanted) {
     if (!can_search()) return;
-    stato_lista_ = lista_ferma;
+    lista_pronta_ = false;
     lista_trovato_ = 0;
     const int found = find_entry(List1.items(), wanted);
     if (found >= 0) {
         lista_trovato_ = 1;
         List1.choose(found);
     }
-    stato_lista_ = per_codice;
+    lista_pronta_ = true;
 }
 
 void article_lookup::take_list_entry() {
-    if (stato_lista_ == lista_ferma) return;
-    const int state = stato_lista_;
-    stato_lista_ = lista_ferma;
+    if (!lista_pronta_) return;
+    lista_pronta_ = false;
     articolo_corrente_ = article_number(List1.text());
     const bool read = app_.archives.art.read(articolo_corrente_, articolo_);
-    if (read && state == per_codice && articolo_.codice.trimmed() != entry_code(List1.text()) &&
+    if (read && articolo_.codice.trimmed() != entry_code(List1.text()) &&
         app_.desk.guards().refuse("Gli articoli sono stati cambiati altrove: "
                                   "l'elenco viene riletto.")) {
         return reload();
     }
     if (read) report(articolo_.codice.trimmed());
-    stato_lista_ = state;
+    lista_pronta_ = true;
 }
 
 void article_lookup::report(std::string_view code) {
@@ -120,9 +115,7 @@ std::int16_t article_lookup::article_of(std::string_view code) {
     const int found = find_entry(List1.items(), wanted);
     if (found < 0) return 0;
     const std::string& entry = List1.item(found);
-    const std::string_view own =
-        trimmed(std::string_view(entry).substr(0, decltype(rec_art::codice)::width));
-    return upper(own) == wanted ? article_number(entry) : std::int16_t{0};
+    return upper(entry_code(entry)) == wanted ? article_number(entry) : std::int16_t{0};
 }
 
 bool article_lookup::find_bar_code(const std::string& code) {

@@ -35,9 +35,7 @@ class article_lookup {
 
     /// A screen begins: bar codes as the company has it, else the list, read anew.
     void open();
-    /// Reads the list of articles anew.
     void reload();
-    /// The user switched bar codes on or off.
     void barcode_switched();
 
     /// A code cell takes the focus: the list goes to what stands in it.
@@ -49,7 +47,6 @@ class article_lookup {
     /// The article that a code typed and confirmed takes, if the code is its own and not only the
     /// beginning of it; 0 if none.
     std::int16_t article_of(std::string_view code);
-    /// The user clicks the list.
     void take_list_entry();
     /// Takes the first article whose description begins so; none: nothing happens. False if the
     /// list isn't there to search.
@@ -63,18 +60,16 @@ class article_lookup {
  private:
     void count_articles();
     void attiva_lista(bool on);
-    void carica_lista(modo_lista mode);
-    [[nodiscard]] bool can_search() const;
+    void carica_lista();
+    [[nodiscard]] bool can_search() const { return List1.enabled() && lista_pronta_; }
     void search_list(const std::string& wanted);
     bool find_bar_code(const std::string& code);
     void report(std::string_view code);
 
-    static constexpr int lista_ferma = -1;
-
     program& app_;
-    rec_tot contatore_;              ///< of the articles
-    int stato_lista_ = lista_ferma;  ///< -1: list not loaded or busy; else a modo_lista
-    int lista_trovato_ = 0;          ///< outcome of the last search
+    rec_tot contatore_;          ///< of the articles
+    bool lista_pronta_ = false;  ///< loaded, and its clicks are the user's
+    int lista_trovato_ = 0;      ///< outcome of the last search
     std::int16_t articolo_corrente_ = 0;
     rec_art articolo_;
 };

@@ -22,12 +22,12 @@ constexpr std::pair<char, char> escapes[] = {{'\\', '\\'}, {'\n', 'n'}, {'\r', '
 std::string escaped(std::string_view text) {
     std::string all;
     for (const char one : text) {
-        char code = 0;
-        for (const auto& [plain, letter] : escapes) {
-            if (one == plain) code = letter;
+        const auto* code = std::ranges::find(escapes, one, &std::pair<char, char>::first);
+        if (code == std::end(escapes)) {
+            all += one;
+        } else {
+            all.append("\\") += code->second;
         }
-        if (code != 0) all += '\\';
-        all += code != 0 ? code : one;
     }
     return all;
 }
@@ -37,20 +37,13 @@ std::string unescaped(std::string_view text) {
     for (std::size_t i = 0; i < text.size(); ++i) {
         char one = text[i];
         if (one == '\\' && i + 1 < text.size()) {
-            ++i;
-            for (const auto& [plain, letter] : escapes) {
-                if (text[i] == letter) one = plain;
-            }
+            one = text[++i];
+            const auto* code = std::ranges::find(escapes, one, &std::pair<char, char>::second);
+            if (code != std::end(escapes)) one = code->first;
         }
         all += one;
     }
     return all;
-}
-
-template <class Number>
-std::string number_text(Number value) {
-    char digits[32];
-    return {digits, std::to_chars(digits, digits + sizeof digits, value).ptr};
 }
 
 class writer {
@@ -68,15 +61,15 @@ class writer {
     void operator()(const std::string& name, const little_endian<Number, Bits>& value) {
         (*this)(name, static_cast<Number>(value));
     }
+    void operator()(const std::string& name, bool value) {
+        if (value) (*this)(name, std::string("1"));
+    }
     template <class Number>
     requires std::is_arithmetic_v<Number>
     void operator()(const std::string& name, Number value) {
         if (value == Number{}) return;
-        if constexpr (std::is_same_v<Number, bool>) {
-            (*this)(name, std::string("1"));
-        } else {
-            (*this)(name, number_text(value));
-        }
+        char digits[32];
+        (*this)(name, {digits, std::to_chars(digits, digits + sizeof digits, value).ptr});
     }
     [[nodiscard]] const std::string& written() const { return written_; }
 
@@ -88,36 +81,28 @@ class reader {
  public:
     explicit reader(std::map<std::string, std::string> values) : values_(std::move(values)) {}
 
-    void operator()(const std::string& name, std::string& value) const { value = of(name); }
-    template <std::size_t N>
-    void operator()(const std::string& name, text<N>& value) const {
-        value = of(name);
-    }
+    template <class Text>
+    requires std::is_assignable_v<Text&, std::string>
+    void operator()(const std::string& name, Text& value) { value = values_[name]; }
     template <class Number, class Bits>
-    void operator()(const std::string& name, little_endian<Number, Bits>& value) const {
+    void operator()(const std::string& name, little_endian<Number, Bits>& value) {
         Number number{};
         (*this)(name, number);
         value = number;
     }
-    void operator()(const std::string& name, bool& value) const { value = of(name) == "1"; }
+    void operator()(const std::string& name, bool& value) { value = values_[name] == "1"; }
     template <class Number>
     requires std::is_arithmetic_v<Number>
-    void operator()(const std::string& name, Number& value) const {
-        const std::string digits = of(name);
-        Number read{};
+    void operator()(const std::string& name, Number& value) {
+        const std::string& digits = values_[name];
         const char* end = digits.data() + digits.size();
+        Number read{};
         const auto [stop, fault] = std::from_chars(digits.data(), end, read);
-        value = fault == std::errc() && stop == end && std::isfinite(static_cast<double>(read))
-                    ? read
-                    : Number{};
+        const bool whole = fault == std::errc() && stop == end;
+        value = whole && std::isfinite(static_cast<double>(read)) ? read : Number{};
     }
 
  private:
-    [[nodiscard]] std::string of(const std::string& name) const {
-        const auto found = values_.find(name);
-        return found == values_.end() ? std::string() : found->second;
-    }
-
     std::map<std::string, std::string> values_;
 };
 
@@ -139,7 +124,6 @@ void go_over_line(Io& io, const std::string& name, Line& line) {
 /// Writes or reads all of a draft but the codes that aren't taken yet.
 template <class Io, class Draft>
 void go_over(Io& io, Draft& draft) {
-    const auto numbered = [](const char* name, std::size_t i) { return name + std::to_string(i); };
     io("archivio", draft.archivio);
     io("salvata", draft.salvata);
     io("tenuta", draft.tenuta);
@@ -151,15 +135,14 @@ void go_over(Io& io, Draft& draft) {
     io("data_reg", draft.visto.data_reg);
     io("impronta", draft.impronta);
     io("cliente", draft.cliente);
-    for (std::size_t i = 0; i < draft.text2.size(); ++i) io(numbered("text2.", i), draft.text2[i]);
-    for (std::size_t i = 0; i < draft.text3.size(); ++i) io(numbered("text3.", i), draft.text3[i]);
-    for (std::size_t i = 0; i < draft.combo1.size(); ++i) {
-        io(numbered("combo1.", i), draft.combo1[i]);
-    }
+    const auto go_over_all = [&io](const std::string& name, auto& values) {
+        for (std::size_t i = 0; i < values.size(); ++i) io(name + std::to_string(i), values[i]);
+    };
+    go_over_all("text2.", draft.testata.text2);
+    go_over_all("text3.", draft.testata.text3);
+    go_over_all("combo1.", draft.testata.combo1);
     auto& content = draft.contenuto;
-    for (std::size_t i = 0; i < content.choices.size(); ++i) {
-        io(numbered("scelta.", i), content.choices[i]);
-    }
+    go_over_all("scelta.", content.choices);
     for (int number = 1; number <= righe_ordine::massimo; ++number) {
         go_over_line(io, "riga" + std::to_string(number) + ".", content.lines[number]);
     }

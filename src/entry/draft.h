@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <optional>
 #include <span>
@@ -22,9 +21,7 @@ struct bozza {
     ordine_visto visto;          ///< the opened order as it stood then
     std::uint64_t impronta = 0;  ///< and the print of its rows
     std::int16_t cliente = 0;
-    std::array<std::string, campo_cliente::quanti> text2;  ///< the head's controls
-    std::array<std::string, campo_ordine::quanti> text3;
-    std::array<int, 3> combo1{};
+    contenuto_testata testata;
     order_content contenuto;
 };
 

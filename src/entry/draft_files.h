@@ -20,7 +20,6 @@ class file_bozza {
     /// Gives the draft its content, in one step; at the first time in a file of its own. False if
     /// the system refused: what was kept before stays.
     bool keep(file_port& person, const std::string& content);
-    /// The draft is gone.
     void drop();
     /// Lets go of it; what was kept stays.
     void release() { *this = file_bozza(); }

@@ -39,7 +39,7 @@ bool seems_saved(program& app, const bozza& draft) {
     const double since = date_number(*kept);
     return find_order(app, [&](const rec_orc& head) {
                return head.data_reg >= since && head.cliente == draft.cliente &&
-                      head.numero.trimmed() == draft.text3[campo_ordine::numero];
+                      head.numero.trimmed() == draft.testata.text3[campo_ordine::numero];
            }) > 0;
 }
 
@@ -78,13 +78,9 @@ enum class meanwhile { same, changed, fulfilled };
 
 meanwhile look_at_rows(program& app, int block, const bozza& draft) {
     const stored_rows<rec_orc> stored(app.archives.orc, block);
-    std::vector<rec_orc> rows;
-    bool leaves = false;
-    for (int number = 1; number <= righe_ordine::massimo; ++number) {
-        rows.push_back(stored[number]);
-        leaves = leaves || stored[number].evaso != 0;
-    }
-    if (fingerprint_of(rows) == draft.impronta) return meanwhile::same;
+    if (fingerprint_of(stored.all()) == draft.impronta) return meanwhile::same;
+    const bool leaves =
+        std::ranges::any_of(stored.all(), [](const rec_orc& row) { return row.evaso != 0; });
     return leaves ? meanwhile::fulfilled : meanwhile::changed;
 }
 
@@ -136,10 +132,9 @@ std::string day_and_time(const std::string& moment) {
 }  // namespace
 
 std::string draft_name(const bozza& draft) {
-    const std::string customer = "ordine di " + draft.text2[campo_cliente::intestazione1];
-    if (draft.nuova) return customer;
-    return "ordine " + std::string(draft.visto.numero.trimmed()) + " di " +
-           draft.text2[campo_cliente::intestazione1];
+    std::string name = "ordine ";
+    if (!draft.nuova) name.append(draft.visto.numero.trimmed()).append(" ");
+    return name + "di " + draft.testata.text2[campo_cliente::intestazione1];
 }
 
 void resume_draft(program& app, const std::string& name) {
@@ -154,8 +149,8 @@ void resume_draft(program& app, const std::string& name) {
     if (!draft->nuova) return take_up_opened(app, std::move(*draft), std::move(*file));
     if (seems_saved(app, *draft) &&
         !app.desk.guards().confirm("Dopo la bozza è stato registrato un ordine "_cp +
-                                   draft->text3[campo_ordine::numero] + " di " +
-                                   draft->text2[campo_cliente::intestazione1] +
+                                   draft->testata.text3[campo_ordine::numero] + " di " +
+                                   draft->testata.text2[campo_cliente::intestazione1] +
                                    ": può essere questo. Riprenderla lo stesso?"_cp)) {
         return;
     }

@@ -16,8 +16,8 @@ constexpr int righe_minime = 28;
 
 /// Walks the head rows of all blocks, one read each. A block counts as deleted by any mark.
 template <class Row>
-void list_heads(const channel<Row>& rows, std::int16_t blocks, import_picker& picker,
-                list_rows& list, const std::function<bool(const Row&)>& wanted,
+void list_heads(const channel<Row>& rows, int blocks, import_picker& picker, list_rows& list,
+                const std::function<bool(const Row&)>& wanted,
                 const std::function<void(const Row&)>& list_more) {
     block_reader<Row> heads(rows);
     heads.walk_heads(1, blocks);
@@ -60,60 +60,20 @@ void list_orders(program& app, import_picker& picker, list_rows& list) {
         [&](const rec_orc& head) { list.write(3, names.as_read(head.cliente)); });
 }
 
-const import_picker_kind& preventivi() {
-    static const import_picker_kind kind{
-        "mirorcb",
-        "Seleziona preventivo da importare",
-        "Clic sulla griglia per selezionare il preventivo da importare oppure clic sul bottone "
-        "'indietro' per non importare alcun preventivo",
-        "Nessun preventivo",
-        {{"Preventivo", 1200}, {"Data", 1200}, {"Descrizione", 6000}, {"", 0}},
-        list_quotes,
-        contatori::preventivi,
-        [](const archivi& files, int block) { return look_into(files.prv, block); }};
-    return kind;
-}
-
-const import_picker_kind& ordini() {
-    static const import_picker_kind kind{
-        "mirpref",
-        "Seleziona ordine da importare",
-        "Clic sulla griglia per selezionare l'ordine da importare oppure clic sul bottone "
-        "'indietro' per non importare alcun ordine",
-        "Nessun ordine",
-        {{"Ordine", 1200},
-         {"Data", 1200},
-         {"Descrizione ordine", 5000},
-         {"Cliente", 5000},
-         {"", 0}},
-        list_orders,
-        contatori::ordini,
-        [](const archivi& files, int block) { return look_into(files.orc, block); }};
-    return kind;
-}
-
 }  // namespace
 
-import_picker::import_picker(program& app, const import_picker_kind& kind)
+import_picker::import_picker(program& app, import_picker_kind kind)
     : form(app.desk, kind.name, kind.title),
       app_(app),
-      kind_(kind),
-      lista_(elenco, app, righe_minime, static_cast<int>(kind.columns.size()) - 2) {
+      kind_(std::move(kind)),
+      lista_(elenco, app, righe_minime, static_cast<int>(kind_.columns.size()) - 2) {
     add("elenco", elenco);
     add("Label1", Label1);
     add("bottone", bottone);
-    Label1.set_text(kind.hint);
-    elenco.empty_note = kind.empty;
+    Label1.set_text(kind_.hint);
+    elenco.empty_note = kind_.empty;
     elenco.on_click = [this] { choose(elenco.row()); };
     bottone.on_click = [this] { leave(""); };
-}
-
-void import_picker::load() {
-    elenco.set_columns(kind_.columns);
-}
-
-void import_picker::activate() {
-    build_list();
 }
 
 void import_picker::build_list() {
@@ -149,7 +109,18 @@ void import_picker::tell_moved(int row) {
 
 // Quotes ------------------------------------------------------------------------------------------
 
-mirorcb::mirorcb(program& app) : import_picker(app, preventivi()) {}
+mirorcb::mirorcb(program& app)
+    : import_picker(
+          app,
+          {"mirorcb",
+           "Seleziona preventivo da importare",
+           "Clic sulla griglia per selezionare il preventivo da importare oppure clic sul bottone "
+           "'indietro' per non importare alcun preventivo",
+           "Nessun preventivo",
+           {{"Preventivo", 1200}, {"Data", 1200}, {"Descrizione", 6000}, {"", 0}},
+           list_quotes,
+           contatori::preventivi,
+           [](const archivi& files, int block) { return look_into(files.prv, block); }}) {}
 
 void mirorcb::leave(const std::string& block) {
     app_.modo_ordine = 99;
@@ -165,7 +136,21 @@ void mirorcb::close() {
 
 // Orders ------------------------------------------------------------------------------------------
 
-mirpref::mirpref(program& app) : import_picker(app, ordini()) {}
+mirpref::mirpref(program& app)
+    : import_picker(
+          app, {"mirpref",
+                "Seleziona ordine da importare",
+                "Clic sulla griglia per selezionare l'ordine da importare oppure clic sul bottone "
+                "'indietro' per non importare alcun ordine",
+                "Nessun ordine",
+                {{"Ordine", 1200},
+                 {"Data", 1200},
+                 {"Descrizione ordine", 5000},
+                 {"Cliente", 5000},
+                 {"", 0}},
+                list_orders,
+                contatori::ordini,
+                [](const archivi& files, int block) { return look_into(files.orc, block); }}) {}
 
 // Dropping the picker brings the order to the front, so what its activation does comes before the
 // chosen lines do.

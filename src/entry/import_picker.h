@@ -28,8 +28,7 @@ struct import_picker_kind {
 /// A list of quotes or orders whose lines a new order can take over.
 class import_picker : public ui::form {
  public:
-    /// `kind` outlives the screen.
-    import_picker(program& app, const import_picker_kind& kind);
+    import_picker(program& app, import_picker_kind kind);
 
     ui::label Label1;
     ui::grid elenco;
@@ -41,8 +40,8 @@ class import_picker : public ui::form {
     void note(const ordine_visto& listed, bool read) { visti_.emplace_back(listed).letto = read; }
 
  protected:
-    void load() override;
-    void activate() override;
+    void load() override { elenco.set_columns(kind_.columns); }
+    void activate() override { build_list(); }
 
     /// The user chose the block with this number, or none.
     virtual void leave(const std::string& block) = 0;
@@ -56,7 +55,7 @@ class import_picker : public ui::form {
     [[nodiscard]] bool moved_elsewhere(int row) const;
     void tell_moved(int row);
 
-    const import_picker_kind& kind_;
+    import_picker_kind kind_;
     list_grid lista_;
     rec_tot contatore_;                ///< as the list was read
     std::vector<ordine_visto> visti_;  ///< from row 1 on

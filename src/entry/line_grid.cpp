@@ -225,21 +225,11 @@ void line_grid::price_changed(int row) {
 void line_grid::compute_totals() {
     if (painting_) return;
     totali_ = calcola_totali(righe_, tabelle_.iva, valuta_);
-    for (int i = 0; i < 3; ++i) {
-        std::string shows;
-        switch (kind_.tota[i]) {
-            case totale_mostrato::imponibile:
-                shows = formato_importo(totali_.imponibile, valuta_);
-                break;
-            case totale_mostrato::complessivo:
-                shows = formato_importo(totali_.totale, valuta_);
-                break;
-            case totale_mostrato::pezzi:
-                shows = plain_text(totali_.pezzi);
-                break;
-        }
-        tota[i].set_text(shows + " ");
-    }
+    // In the order of totale_mostrato.
+    const std::string texts[] = {formato_importo(totali_.imponibile, valuta_),
+                                 formato_importo(totali_.totale, valuta_),
+                                 plain_text(totali_.pezzi)};
+    for (int i = 0; i < 3; ++i) tota[i].set_text(texts[static_cast<int>(kind_.tota[i])] + " ");
     totals_changed();
 }
 
@@ -333,14 +323,11 @@ void line_grid::command_clicked(int command) {
         case cancella_riga:
             return shift_lines(&righe_ordine::remove);
         case stampante:
-            return printer_setup();
+            app_.desk.printer().choose_settings();
+            return;
         default:
             return run_command(command);
     }
-}
-
-void line_grid::printer_setup() {
-    app_.desk.printer().choose_settings();
 }
 
 void line_grid::shift_lines(void (righe_ordine::*shift)(int)) {

@@ -69,7 +69,6 @@ class line_grid : public ui::form {
     [[nodiscard]] article_lookup& lookup() { return lookup_; }
     [[nodiscard]] const righe_ordine& lines() const { return righe_; }
     [[nodiscard]] const totali_ordine& totals() const { return totali_; }
-    /// The label that shows a total.
     [[nodiscard]] const ui::label& label_of(totale_mostrato which) const {
         return tota[std::ranges::find(kind_.tota, which) - kind_.tota];
     }
@@ -88,9 +87,6 @@ class line_grid : public ui::form {
     /// A command of `comando` that isn't one of `comando_comune` on lines and printer. It never
     /// comes while the screen saves or prints.
     virtual void run_command(int command) = 0;
-    /// The user sets the printer up.
-    virtual void printer_setup();
-    /// The totals were computed anew.
     virtual void totals_changed() {}
 
     /// Empties the screen for the document of a customer and makes the article lookup ready.
@@ -105,7 +101,6 @@ class line_grid : public ui::form {
     /// Scrolls a line into sight and gives it the focus; for a number that is none, nothing.
     void go_to_line(int number);
 
-    /// What the user can change here, as it stands.
     [[nodiscard]] order_content content() const;
     void show_content(const order_content& content);
     /// Another order comes, or none.
@@ -150,9 +145,7 @@ class line_grid : public ui::form {
     void sort_lines();
     /// False while `riga_corrente_` holds a line's number that no row has.
     [[nodiscard]] bool current_row_shown() const;
-    /// The article of the line that is worked on.
     [[nodiscard]] std::int16_t current_article() const;
-    /// Gives the focus to the current row's cell of a column.
     void return_to(ui::text_box (&column)[rows]);
     void clear_if_zero(ui::text_box& cell);
 
@@ -167,7 +160,6 @@ class line_grid : public ui::form {
 
     void article_key(int row, ui::key_event& key);
     void article_enter(int row);
-    /// Fills the current row's line.
     void take_article(std::int16_t number, const rec_art& article, std::string_view code);
     /// The texts that an article's line has below it.
     [[nodiscard]] std::vector<std::string> long_text_of(std::int16_t article) const;
@@ -197,7 +189,8 @@ class line_grid : public ui::form {
 
     [[nodiscard]] ui::text_box& cell_at(line_column column, int row);
     [[nodiscard]] ui::text_box& cell_to_return_to(const line_place& place, int row);
-    [[nodiscard]] cell_in_work cell_in_focus() const;
+    /// Where a control stands among the lines; line 0 if it is none of their cells.
+    [[nodiscard]] cell_in_work cell_of(const ui::control* one) const;
     bool go_along(std::optional<line_place> (line_history::*step)());
 
     line_history history_;

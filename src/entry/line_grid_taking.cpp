@@ -2,7 +2,6 @@
 
 #include "entry/line_grid.h"
 #include "entry/paste_report.h"
-#include "orders/stored_lines.h"
 #include "store/vat_codes.h"
 #include "text/int16.h"
 #include "text/number_text.h"
@@ -37,8 +36,7 @@ void press_enter(ui::control& cell) {
 
 }  // namespace
 
-// Articles
-// -----------------------------------------------------------------------------------------
+// Articles ----------------------------------------------------------------------------------------
 
 void line_grid::wire_lookup() {
     lookup_.on_found = [this](std::int16_t number, const rec_art& article, std::string_view code) {
@@ -125,8 +123,7 @@ void line_grid::unfold_long_text(const std::vector<std::string>& texts, int line
     }
 }
 
-// VAT pick
-// -----------------------------------------------------------------------------------------
+// VAT pick ----------------------------------------------------------------------------------------
 
 void line_grid::open_vat_pick(int row) {
     Combo1.set_visible(true);
@@ -160,8 +157,7 @@ void line_grid::leave_vat_pick() {
     if (prima_riga_ >= 0 && prima_riga_ < rows) prezzo[prima_riga_].set_focus();
 }
 
-// Prices given before
-// ------------------------------------------------------------------------------
+// Prices given before -----------------------------------------------------------------------------
 
 void line_grid::offer_prices() {
     offer({"prezzi", "Pre&zzi praticati", "F8",
@@ -181,8 +177,7 @@ void line_grid::look_prices_up(int row) {
     prezzo[row].set_focus();
 }
 
-// Pasting
-// ------------------------------------------------------------------------------------------
+// Pasting -----------------------------------------------------------------------------------------
 
 // Lines that come from a spreadsheet are typed by the program: each goes through the events that a
 // hand would have set off, so what holds for typing holds for them. What stands in the order
@@ -205,9 +200,9 @@ void line_grid::paste_lines(int row, const ui::pasted_text& pasted,
         app_.desk.set_pointer(ui::pointer::busy);
         int at = line_of(row);
         bool broken_off = false;
-        for (std::size_t i = 0; i < lines.size(); ++i) {
-            broken_off = broken_off ||
-                         (goes_on && !goes_on(static_cast<int>(i), static_cast<int>(lines.size())));
+        const int count = static_cast<int>(lines.size());
+        for (int i = 0; i < count; ++i) {
+            broken_off = broken_off || (goes_on && !goes_on(i, count));
             if (broken_off) {
                 report.refuse(lines[i], "interrotto");
             } else {
@@ -290,13 +285,12 @@ void line_grid::take_scan(int row, const std::string& code) {
     press_enter(artic[free]);
 }
 
-// Back and forth
-// -----------------------------------------------------------------------------------
+// Back and forth ----------------------------------------------------------------------------------
 
 void line_grid::settled() {
     if (at_work()) return;
     lookup_.tell_stock(current_article());
-    if (history_.begun()) return history_.note(content(), cell_in_focus());
+    if (history_.begun()) return history_.note(content(), cell_of(app_.desk.focus()));
     history_.begin(content());
 }
 
@@ -335,12 +329,11 @@ ui::text_box& line_grid::cell_at(line_column column, int row) {
     return (this->*columns[static_cast<std::size_t>(column)])[row];
 }
 
-cell_in_work line_grid::cell_in_focus() const {
-    const ui::control* focus = app_.desk.focus();
-    for (std::size_t column = 0; focus && column < std::size(columns); ++column) {
+cell_in_work line_grid::cell_of(const ui::control* one) const {
+    for (std::size_t column = 0; column < std::size(columns); ++column) {
         for (int row = 0; row < rows; ++row) {
             const ui::text_box& cell = (this->*columns[column])[row];
-            if (&cell == focus) {
+            if (&cell == one) {
                 return {{line_of(row), static_cast<line_column>(column)}, cell.text()};
             }
         }
@@ -349,9 +342,7 @@ cell_in_work line_grid::cell_in_focus() const {
 }
 
 bool line_grid::keeps_changes_of(const ui::control& one) const {
-    return std::ranges::any_of(columns, [&](const auto column) {
-        return std::ranges::any_of(this->*column, [&](const auto& cell) { return &cell == &one; });
-    });
+    return cell_of(&one).at.line != 0;
 }
 
 ui::text_box& line_grid::cell_to_return_to(const line_place& place, int row) {
@@ -378,7 +369,7 @@ bool line_grid::go_along(std::optional<line_place> (line_history::*step)()) {
         show_content(shown);  // a discount comes up with the customer's own
         lookup_.follow_cell(artic[row].text());
     }
-    history_.stand_at(content(), cell_in_focus());
+    history_.stand_at(content(), cell_of(app_.desk.focus()));
     return true;
 }
 

@@ -122,21 +122,18 @@ line_place line_history::place_of(const step& one) {
     const riga_ordine& was = first.before.line;
     const riga_ordine& is = first.after.line;
     using enum line_column;
-    line_place place{first.number, price};
-    const auto look = [&](bool changed, line_column column) {
-        if (changed && column < place.column) place.column = column;
-    };
-    look(was.prezzo != is.prezzo, price);
-    look(was.sc2 != is.sc2, sc2);
-    look(was.sc1 != is.sc1, sc1);
-    look(was.evaso != is.evaso, fulfilled);
-    look(was.quantita != is.quantita, quantity);
-    look(was.um.trimmed() != is.um.trimmed(), unit);
-    look(was.descrizione.trimmed() != is.descrizione.trimmed(), description);
-    look(was.codice.trimmed() != is.codice.trimmed() ||
-             first.before.typed_code != first.after.typed_code || was.articolo != is.articolo,
-         code);
-    return place;
+    const std::pair<line_column, bool> changed[] = {
+        {code, was.codice.trimmed() != is.codice.trimmed() || was.articolo != is.articolo ||
+                   first.before.typed_code != first.after.typed_code},
+        {description, was.descrizione.trimmed() != is.descrizione.trimmed()},
+        {unit, was.um.trimmed() != is.um.trimmed()},
+        {quantity, was.quantita != is.quantita},
+        {fulfilled, was.evaso != is.evaso},
+        {sc1, was.sc1 != is.sc1},
+        {sc2, was.sc2 != is.sc2},
+        {price, true}};
+    const auto* place = std::ranges::find(changed, true, &std::pair<line_column, bool>::second);
+    return {first.number, place->first};
 }
 
 std::optional<line_place> line_history::back() {

@@ -26,10 +26,8 @@ class mirorcz final : public order_screen {
     void describe(bozza& draft) const override;
 
  private:
-    /// Fills the whole screen from the archive.
     void load_order();
     void read_again();
-    /// Fills lines and head from the order's block.
     void read_order();
     /// Says which rows couldn't be read, if there are any; the user may have them read once more.
     void offer_to_read_again();

@@ -37,12 +37,7 @@ bozza order_screen::draft_now() const {
     bozza draft;
     draft.archivio = archive_name(app_);
     describe(draft);
-    const customer_head& shown = head();
-    for (std::size_t i = 0; i < draft.text2.size(); ++i) draft.text2[i] = shown.Text2[i].text();
-    for (std::size_t i = 0; i < draft.text3.size(); ++i) draft.text3[i] = shown.Text3[i].text();
-    for (std::size_t i = 0; i < draft.combo1.size(); ++i) {
-        draft.combo1[i] = shown.Combo1[i].chosen();
-    }
+    draft.testata = head().content();
     draft.contenuto = content();
     return draft;
 }
@@ -70,9 +65,7 @@ void order_screen::rest() {
         return draft_file_.drop();
     }
     const bool failed = !keep_draft(false);
-    if (failed && !keeping_failed_) {
-        app_.desk.note(not_kept());
-    }
+    if (failed && !keeping_failed_) app_.desk.note(not_kept());
     keeping_failed_ = failed;
 }
 
@@ -122,12 +115,7 @@ void order_screen::take_up(bozza draft, file_bozza file) {
 
 void order_screen::show_draft() {
     const bozza draft = *std::exchange(taken_up_, {});
-    customer_head& shown = head();
-    for (std::size_t i = 0; i < draft.text2.size(); ++i) shown.Text2[i].set_text(draft.text2[i]);
-    for (std::size_t i = 0; i < draft.text3.size(); ++i) shown.Text3[i].set_text(draft.text3[i]);
-    for (std::size_t i = 0; i < draft.combo1.size(); ++i) {
-        shown.Combo1[i].choose(draft.combo1[i]);
-    }
+    head().show_content(draft.testata);
     show_content(draft.contenuto);
     as_opened_ = "";  // nothing of it is saved
 }

@@ -1,9 +1,7 @@
 #include "entry/order_screen.h"
 
 #include "customer/customer_head.h"
-#include "entry/import_lines.h"
 #include "entry/order_head.h"
-#include "entry/order_printing.h"
 #include "program/change_messages.h"
 #include "text/number_text.h"
 
@@ -48,10 +46,8 @@ void order_screen::take_price_list() {
 }
 
 int order_screen::chosen_price() const {
-    for (const int price : {0, 1}) {
-        if (prezz[price].on()) return price;
-    }
-    return 2;
+    if (prezz[0].on()) return 0;
+    return prezz[1].on() ? 1 : 2;
 }
 
 void order_screen::run_command(int command) {
@@ -86,10 +82,13 @@ void order_screen::offer_to_print() {
     righe_ordine lines = righe_;
     const totali_ordine totals = totali_;
     const testata_documento printed = head_to_print(head());
-    offer_print(app_, print_title_,
-                {tipo_documento::ordine, printed, lines, totals.iva, cliente_, valuta_, tabelle_,
-                 disegno_, Picture1},
-                postael.on());
+    const std::string number(trimmed(printed.text3[campo_ordine::numero]));
+    if (!app_.desk.ask("Stampare l'ordine?", print_title_)) return;
+    app_.desk.printer().set_job_name("Ordine " + number);
+    offer_copies(app_,
+                 {tipo_documento::ordine, printed, lines, totals.iva, cliente_, valuta_, tabelle_,
+                  disegno_, Picture1},
+                 postael.on());
 }
 
 void order_screen::leave() {

@@ -32,15 +32,11 @@ class order_screen : public line_grid {
     /// Leaves and saves; other commands are the screen's own.
     void run_command(int command) override;
 
-    /// The screen becomes active.
     virtual void open() = 0;
-    /// Whether the order is to be saved as it stands.
     virtual bool may_save();
     /// Stores the order. If that doesn't begin, the screen stays.
     virtual change_outcome store() = 0;
-    /// A command that leaves and saving don't cover.
     virtual void run_own_command(int command) = 0;
-    /// Tells of which order the draft is.
     virtual void describe(bozza& draft) const = 0;
     /// Another order takes the screen; a draft of the one before stays.
     void begin_order();
@@ -53,7 +49,6 @@ class order_screen : public line_grid {
     void open_order(std::int16_t customer);
     /// New lines take the price that the customer has.
     void take_price_list();
-    /// The title line follows the head.
     void show_head();
     /// Which of the article's prices is on, 0 or 1; 2 for none.
     [[nodiscard]] int chosen_price() const;

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "text/code_page.h"
 #include "ui/input_rule.h"
 
 namespace vantora {

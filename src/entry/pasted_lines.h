@@ -28,7 +28,6 @@ struct pasted_line {
 inline constexpr std::size_t pasted_lines_max = 20'000;
 inline constexpr std::size_t pasted_bytes_max = 4'000'000;
 
-/// Whether a text is more than that.
 bool too_much_to_paste(std::string_view text);
 
 /// Reads lines whose columns are code; code, quantity; code, quantity, price; code, quantity,

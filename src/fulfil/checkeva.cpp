@@ -8,7 +8,6 @@
 #include "fulfil/mirorcc.h"
 #include "fulfil/mirorcr.h"
 #include "program/change_messages.h"
-#include "store/money.h"
 #include "store/records/order_block.h"
 
 namespace vantora {

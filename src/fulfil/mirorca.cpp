@@ -16,8 +16,6 @@ namespace vantora {
 
 namespace {
 
-constexpr const char* titolo_messaggi = ui::attention;
-
 /// Of a fulfilment whose goods don't leave: its rows are booked already.
 constexpr const char* che_resta = "\nLe righe restano evase, senza movimento e senza documento.";
 
@@ -143,10 +141,10 @@ void mirorca::run_command(int command) {
 
 bool mirorca::may_cancel() {
     const char* question = "Confermi l'annullamento del movimento di magazzino?";
-    if (!app_.desk.guards().on()) return app_.desk.ask(question, titolo_messaggi);
+    if (!app_.desk.guards().on()) return app_.desk.ask(question, ui::attention);
     const char* stays =
         unloaded_ ? "\nIl movimento di magazzino resta fatto, senza documento." : che_resta;
-    return app_.desk.ask(std::string(question).append(stays), titolo_messaggi, ui::icon::question,
+    return app_.desk.ask(std::string(question).append(stays), ui::attention, ui::icon::question,
                          ui::answer::no);
 }
 
@@ -171,8 +169,7 @@ void mirorca::confirm() {
 bool mirorca::unload_goods() {
     const std::string day = movement_day(Text.text());
     if (day.empty()) {
-        app_.desk.message("La data del movimento non è corretta"_cp, titolo_messaggi,
-                          ui::icon::stop);
+        app_.desk.message("La data del movimento non è corretta"_cp, ui::attention, ui::icon::stop);
         Text.set_focus();
         return false;
     }
@@ -207,7 +204,7 @@ bool mirorca::ask_to_unload(const riga_ordine& line, const rec_art& article) {
             "\n" + stock_text(article) + "  \xB7  da scaricare " + quantity_or_zero(line.quantita);
         question += "\nSe no, la riga resta evasa, senza movimento e senza documento.";
     }
-    const bool unload = app_.desk.ask(std::move(question), titolo_messaggi);
+    const bool unload = app_.desk.ask(std::move(question), ui::attention);
     app_.desk.set_pointer(ui::pointer::busy);
     return unload;
 }

@@ -24,7 +24,6 @@ class mirorca final : public line_grid {
     ui::date_picker Text;   ///< day of the movement
     ui::label testata;      ///< which document it is: customer, number, date
 
-    /// Empties `elenco`.
     void empty_hand_over();
     /// Hands an order row over as line `line`, from 0; without a quantity it is a line of text.
     /// A document has 200 lines: any further one is a subscript error, which ends the program.

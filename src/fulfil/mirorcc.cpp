@@ -1,18 +1,16 @@
 #include "fulfil/mirorcc.h"
 
 #include "program/pick_list.h"
-#include "text/int16.h"
 
 namespace vantora {
 
 namespace {
 
-constexpr customer_head_kind dati_trasporto{"mirorcc",
-                                            "Evasione ordini",
-                                            elenco_clienti::da_mirorcc,
-                                            {campo_ddt::data, campo_ddt::inizio},
-                                            true,
-                                            false};
+constexpr customer_head_kind dati_trasporto{.name = "mirorcc",
+                                            .title = "Evasione ordini",
+                                            .caller = elenco_clienti::da_mirorcc,
+                                            .date_fields = {campo_ddt::data, campo_ddt::inizio},
+                                            .of_order = false};
 
 }  // namespace
 
@@ -35,22 +33,11 @@ void mirorcc::fill_lists(const tabella_suite& table) {
 void mirorcc::activate() {
     if (take_choice()) return;
     if (left_list_without_choice()) return void(nome.set_focus());
-    propose_transport();
-    start_at_first_customer();
-}
-
-void mirorcc::propose_transport() {
-    app_.archives.tot.read(contatori::documenti_trasporto, contatore_);
-    for (auto& field : Text3) field.set_text("");
-    if (const auto next = add_int16(contatore_.ultimo_numero, 1)) {
-        Text3[campo_ddt::numero].set_text(std::to_string(*next));
-    }
-    const date_time now = app_.desk.clock().now();
-    Text3[campo_ddt::data].set_text(date_text(now.day));
-    Text3[campo_ddt::inizio].set_text(date_text(now.day));
-    Text3[campo_ddt::ora].set_text(time_text(now));
+    begin_document(contatori::documenti_trasporto);
+    Text3[campo_ddt::ora].set_text(time_text(app_.desk.clock().now()));
     Combo1[1].choose(0);
     Combo2.choose(0);
+    start_at_first_customer();
 }
 
 void mirorcc::show_customer() {
@@ -84,11 +71,6 @@ void mirorcc::go_on() {
     app_.selezione_1 = cliente_corrente_;
     hide();
     app_.mirorcr.use().show();
-}
-
-void mirorcc::close() {
-    unload();
-    app_.mirorc.use().show();
 }
 
 }  // namespace vantora

@@ -22,14 +22,10 @@ class mirorcc final : public customer_head {
  protected:
     void load() override;
     void activate() override;
-    void close() override;
     void fill_lists(const tabella_suite& table) override;
     void show_customer() override;
     void found_at(std::int16_t position) override;
     void go_on() override;
-
- private:
-    void propose_transport();
 };
 
 }  // namespace vantora

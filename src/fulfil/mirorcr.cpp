@@ -1,14 +1,14 @@
 #include "fulfil/mirorcr.h"
 
-#include <charconv>
+#include <algorithm>
 
 #include "entry/article_list.h"
+#include "orders/article_texts.h"
 #include "orders/order_rows.h"
 #include "orders/stock.h"
 #include "program/list_progress.h"
 #include "store/block_reader.h"
 #include "store/money.h"
-#include "store/record_stretches.h"
 #include "text/dates.h"
 #include "text/number_text.h"
 #include "ui/enter_key.h"
@@ -19,34 +19,7 @@ namespace {
 
 constexpr int righe_minime = 28;
 
-std::vector<ui::grid_column> worklist_columns() {
-    using enum ui::alignment;
-    return {{"Ordine", 900, left},
-            {"Data", 1050, left},
-            {"Descrizione ordine", 3000, left},
-            {"Articolo", 4900, left},
-            {"Ordinato", 1100, right},
-            {"Da evadere", 1100, right},
-            {"Evaso", 1100, right},
-            {"", 0, left},
-            {"", 0, left}};
-}
-
-/// What the list shows of an article.
-struct voce_articolo {
-    voce_articolo() = default;
-    explicit voce_articolo(const rec_art& article)
-        : codice(article.codice), descrizione(article.descrizione) {}
-
-    text<15> codice;
-    text<40> descrizione;
-};
-
 }  // namespace
-
-class mirorcr::articles_shown : public record_stretches<rec_art, voce_articolo> {
-    using record_stretches::record_stretches;
-};
 
 mirorcr::mirorcr(program& app)
     : form(app.desk, "mirorcr", "Evasione ordini"),
@@ -88,7 +61,7 @@ void mirorcr::wire_events() {
     elenco.on_key_down = [this](ui::key_event& key) {
         if (key.code != ui::key::del || !app_.desk.guards().on()) return;
         key.swallow();
-        unmark_row(elenco.row());
+        if (number_in(elenco.row(), numero_riga) != 0) elenco.set_text(elenco.row(), evaso, "");
         show_marked();
     };
     bottone[uscita].on_click = [this] { close(); };
@@ -97,12 +70,18 @@ void mirorcr::wire_events() {
 
 void mirorcr::load() {
     carica_parametri(app_.parameters, app_.files);
-    elenco.set_columns(worklist_columns());
+    elenco.set_columns({{"Ordine", 900},
+                        {"Data", 1050},
+                        {"Descrizione ordine", 3000},
+                        {"Articolo", 4900},
+                        {"Ordinato", 1100, ui::alignment::right},
+                        {"Da evadere", 1100, ui::alignment::right},
+                        {"Evaso", 1100, ui::alignment::right},
+                        {"", 0},
+                        {"", 0}});
 }
 
 void mirorcr::activate() {
-    app_.archives.tot.read(contatori::clienti, clienti_);
-    app_.archives.tot.read(contatori::ordini, ordini_);
     app_.archives.tot.read(contatori::articoli, articoli_);
     build_list();
 }
@@ -151,12 +130,7 @@ void mirorcr::cell_clicked() {
         case ordine:
             return mark_order(static_cast<int>(number_in(row, numero_ordine)));
         case da_evadere:
-            if (app_.desk.guards().on() && marked_whole(row)) {
-                unmark_row(row);
-            } else {
-                mark_row(row);
-            }
-            return show_marked();
+            return mark_rows({row});
         case evaso:
             return open_editor();
         default:
@@ -166,36 +140,24 @@ void mirorcr::cell_clicked() {
 
 void mirorcr::mark_order(int order) {
     if (order <= 0) return;
-    bool all = app_.desk.guards().on();
+    std::vector<int> its;
     for (int row = 1; row < righe_; ++row) {
-        if (number_in(row, numero_ordine) == order) all = all && marked_whole(row);
+        if (number_in(row, numero_ordine) == order) its.push_back(row);
     }
-    for (int row = 1; row < righe_; ++row) {
-        if (number_in(row, numero_ordine) != order) continue;
-        if (all) {
-            unmark_row(row);
-        } else {
-            mark_row(row);
-        }
-    }
+    mark_rows(its);
+}
+
+void mirorcr::mark_rows(const std::vector<int>& rows) {
+    const bool off = app_.desk.guards().on() && std::ranges::all_of(rows, [this](int row) {
+                         return elenco.text(row, evaso) == whole_mark(row);
+                     });
+    for (const int row : rows) elenco.set_text(row, evaso, off ? std::string() : whole_mark(row));
     show_marked();
 }
 
 std::string mirorcr::whole_mark(int row) const {
     const double open = number_in(row, da_evadere);
     return open == 0 ? std::string("*") : quantity_text(open);
-}
-
-bool mirorcr::marked_whole(int row) const {
-    return elenco.text(row, evaso) == whole_mark(row);
-}
-
-void mirorcr::mark_row(int row) {
-    elenco.set_text(row, evaso, whole_mark(row));
-}
-
-void mirorcr::unmark_row(int row) {
-    if (number_in(row, numero_riga) != 0) elenco.set_text(row, evaso, "");
 }
 
 void mirorcr::open_editor() {
@@ -244,8 +206,7 @@ void mirorcr::show_marked() {
                      "   Pezzi: " + quantity_or_zero(pieces));
 }
 
-// The list
-// -----------------------------------------------------------------------------------------
+// The list ----------------------------------------------------------------------------------------
 
 // One read for the head of each order, one for each open order of the customer, and one for each
 // stretch of the articles on them.
@@ -258,7 +219,6 @@ void mirorcr::build_list() {
     visti_.clear();
     viste_.clear();
     app_.archives.tot.read(contatori::ordini, ordini_);
-    app_.archives.tot.read(contatori::clienti, clienti_);
     list_orders(ordini_.quanti);
     lista_.finish(righe_);
     elenco.set_visible(true);
@@ -267,7 +227,7 @@ void mirorcr::build_list() {
 }
 
 void mirorcr::list_orders(std::int16_t orders) {
-    articles_shown articles(app_.archives.art);
+    article_texts articles(app_.archives.art);
     list_progress progress(app_.desk, elenco);
     block_reader<rec_orc> reader(app_.archives.orc, riga_);
     reader.walk_heads(1, orders, [this](const rec_orc& head) { return is_listed(head); });
@@ -286,7 +246,7 @@ bool mirorcr::is_listed(const rec_orc& head) const {
     return head.cliente == app_.selezione_1 && is_open_order(head);
 }
 
-void mirorcr::list_rows_of(int order, std::span<const rec_orc> rows, articles_shown& articles) {
+void mirorcr::list_rows_of(int order, std::span<const rec_orc> rows, article_texts& articles) {
     const int listed_before = righe_;
     std::int64_t record = block_record(order, 1);
     for (const rec_orc& row : rows) {
@@ -297,7 +257,7 @@ void mirorcr::list_rows_of(int order, std::span<const rec_orc> rows, articles_sh
 }
 
 void mirorcr::list_row(int order, std::int64_t record, bool first_of_order,
-                       articles_shown& articles) {
+                       article_texts& articles) {
     if (righe_ >= elenco.rows()) elenco.set_rows(2 * righe_);
     const int row = righe_++;
     viste_.emplace_back(riga_);
@@ -306,14 +266,8 @@ void mirorcr::list_row(int order, std::int64_t record, bool first_of_order,
         elenco.set_text(row, data, date_text_of_stored(riga_.data.full()));
         elenco.set_text(row, descrizione, riga_.testo1.trimmed());
     }
-    if (riga_.articolo < 1) {
-        elenco.set_text(row, articolo, description_of(riga_));
-    } else {
-        const voce_articolo& shown = articles.of(riga_.articolo);
-        elenco.set_text(
-            row, articolo,
-            std::string(shown.codice.trimmed()).append(" ").append(shown.descrizione.full()));
-    }
+    elenco.set_text(row, articolo,
+                    riga_.articolo < 1 ? description_of(riga_) : articles.padded(riga_.articolo));
     elenco.set_text(row, ordinato, quantity_text(riga_.quantita));
     elenco.set_text(row, da_evadere, quantity_text(open_quantity(riga_)));
     elenco.set_text(row, numero_riga, std::to_string(record));

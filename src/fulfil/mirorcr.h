@@ -10,6 +10,8 @@
 
 namespace vantora {
 
+class article_texts;
+
 /// What the list showed of an order's row, as far as a booking rests on it.
 struct riga_vista {
     explicit riga_vista(const rec_orc& row)
@@ -78,12 +80,10 @@ class mirorcr final : public ui::form {
 
     // The list ----------------------------------------------------------------------------------
 
-    class articles_shown;
-
     void build_list();
     void list_orders(std::int16_t orders);
-    void list_rows_of(int order, std::span<const rec_orc> rows, articles_shown& articles);
-    void list_row(int order, std::int64_t record, bool first_of_order, articles_shown& articles);
+    void list_rows_of(int order, std::span<const rec_orc> rows, article_texts& articles);
+    void list_row(int order, std::int64_t record, bool first_of_order, article_texts& articles);
     /// Whether an order is one of the customer's that can be fulfilled.
     [[nodiscard]] bool is_listed(const rec_orc& head) const;
 
@@ -91,13 +91,11 @@ class mirorcr final : public ui::form {
 
     void cell_clicked();
     void mark_order(int order);
-    void mark_row(int row);
+    /// All of the rows leaves; a window takes their marks back by the click that set them.
+    void mark_rows(const std::vector<int>& rows);
     void open_editor();
     /// What the editor holds goes into its cell.
     void take_edited();
-    void unmark_row(int row);
-    /// A window takes the mark of a row back by the key that set it.
-    [[nodiscard]] bool marked_whole(int row) const;
     /// What marks all of a row to leave.
     [[nodiscard]] std::string whole_mark(int row) const;
     [[nodiscard]] int marked_rows() const;
@@ -126,7 +124,6 @@ class mirorcr final : public ui::form {
 
     program& app_;
     bool editing_ = false;
-    rec_tot clienti_;
     rec_tot ordini_;
     rec_tot articoli_;
     rec_orc riga_;  ///< the row read last; what can't be read stays as it was

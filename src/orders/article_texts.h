@@ -19,6 +19,11 @@ class article_texts {
         const text_of& one = texts_.of(number);
         return std::string(one.codice.trimmed()).append(" ").append(one.descrizione.trimmed());
     }
+    /// The same with the blanks behind the description; any record's for a number below 1.
+    std::string padded(std::int16_t number) {
+        const text_of& one = texts_.of(number);
+        return std::string(one.codice.trimmed()).append(" ").append(one.descrizione.full());
+    }
 
  private:
     struct text_of {

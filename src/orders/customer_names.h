@@ -2,14 +2,20 @@
 
 #include <string_view>
 
+#include "store/archives.h"
 #include "store/record_stretches.h"
-#include "store/records/rec_cli.h"
 
 namespace vantora {
 
 /// The customers' names for one build of a list.
 class customer_names {
  public:
+    /// None are in use where their counter can't be read.
+    explicit customer_names(const archivi& files) : names_(files.cli) {
+        rec_tot counter;
+        files.tot.read(contatori::clienti, counter);
+        count_ = counter.quanti;
+    }
     /// `count`: customers in use, from the counters file.
     customer_names(const channel<rec_cli>& customers, std::int16_t count)
         : names_(customers), count_(count) {}
@@ -37,7 +43,7 @@ class customer_names {
     };
 
     record_stretches<rec_cli, name> names_;
-    std::int16_t count_;
+    std::int16_t count_ = 0;
 };
 
 }  // namespace vantora

@@ -28,7 +28,6 @@ struct istantanea_ddt {
 /// The name of that file, in the company's folder: "b" and the document's running number.
 std::string snapshot_name(float progressivo);
 
-/// What that file holds.
 std::string write_snapshot(const istantanea_ddt& document);
 
 /// Reads it; empty if it isn't a whole one.

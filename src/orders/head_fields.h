@@ -1,6 +1,8 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
+#include <string>
 
 namespace vantora {
 
@@ -61,5 +63,12 @@ enum : std::size_t {
 namespace campo_ddt {
 enum : std::size_t { numero, data, colli, peso, inizio, ora, quanti };
 }  // namespace campo_ddt
+
+/// What the fields of a screen that holds a head contain.
+struct contenuto_testata {
+    std::array<std::string, campo_cliente::quanti> text2;
+    std::array<std::string, campo_ordine::quanti> text3;
+    std::array<int, 3> combo1{};  ///< the entries chosen
+};
 
 }  // namespace vantora

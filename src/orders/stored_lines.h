@@ -32,7 +32,6 @@ class stored_rows {
     [[nodiscard]] std::span<const Row> all() const { return rows_; }
     /// Numbers of the rows that couldn't be read.
     [[nodiscard]] const std::vector<int>& unread() const { return unread_; }
-    /// Whether every byte is the same.
     [[nodiscard]] bool same_as(const stored_rows& other) const {
         return std::memcmp(rows_.data(), other.rows_.data(), all().size_bytes()) == 0;
     }

@@ -5,6 +5,7 @@
 
 #include "orders/order_lines.h"
 #include "store/records/rec_orc.h"
+#include "text/dates.h"
 
 namespace vantora {
 
@@ -23,7 +24,18 @@ struct testata_registrata {
 
 /// Puts the head on row `number` of its order; the texts go on the first four rows only. All other
 /// fields of the row stay as they are.
-void fill_head(rec_orc& row, const testata_registrata& head, std::size_t number);
+inline void fill_head(rec_orc& row, const testata_registrata& head, std::size_t number) {
+    row.numero = head.numero;
+    row.data = stored_of_date_text(head.data);
+    row.data_evasione = stored_of_date_text(head.data_evasione);
+    row.cliente = head.cliente;
+    row.impegno = head.impegno ? "1" : "0";
+    if (number > head.testi.size()) return;
+    const auto& texts = head.testi[number - 1];
+    row.testo1 = texts[0];
+    row.testo2 = texts[1];
+    row.testo3 = texts[2];
+}
 
 /// Puts a line on its row, of an order or a quote. All other fields stay, the fulfilled quantity
 /// included.

@@ -10,25 +10,6 @@
 
 namespace vantora {
 
-namespace {
-
-constexpr const char* titolo_messaggi = ui::attention;
-
-std::vector<ui::grid_column> register_columns() {
-    using enum ui::alignment;
-    return {{"Registr.", 1000, right},
-            {"Ordine", 1000, left},
-            {"Data", 1000, left},
-            {"Cliente", 5050, left},
-            {"Descrizione ordine", 5050, left},
-            {"Evasione", 1250, left},
-            {"", 0, left},
-            {"", 0, left},
-            {"", 0, left}};
-}
-
-}  // namespace
-
 mirorc::mirorc(program& app)
     : form(app.desk, "mirorc", "Gestione ordini clienti"),
       app_(app),
@@ -76,7 +57,15 @@ void mirorc::load() {
     restore_view();
     apri_archivi(app_.archives, app_.files, app_.parameters.numero_azienda);
     srt.set_visible(false);
-    elenco.set_columns(register_columns());
+    elenco.set_columns({{"Registr.", 1000, ui::alignment::right},
+                        {"Ordine", 1000},
+                        {"Data", 1000},
+                        {"Cliente", 5050},
+                        {"Descrizione ordine", 5050},
+                        {"Evasione", 1250},
+                        {"", 0},
+                        {"", 0},
+                        {"", 0}});
     build_list();
     const std::pair<int, const ui::screen_place*> ways[] = {
         {nuovo_ordine, &app_.mirorcx},   {elenco_ordini, &app_.mirstoe},
@@ -166,23 +155,27 @@ void mirorc::lead_to(ui::screen_place& next) {
 void mirorc::lead_to_if_customers(ui::screen_place& next) {
     app_.archives.tot.read(contatori::clienti, contatore_);
     if (contatore_.quanti < 1) {
-        app_.desk.message("Nessun cliente memorizzato", titolo_messaggi, ui::icon::stop);
+        app_.desk.message("Nessun cliente memorizzato", ui::attention, ui::icon::stop);
         return;
     }
     lead_to(next);
 }
 
+std::int16_t mirorc::order_in(int row) const {
+    return to_int16(number_at_head(elenco.text(row, registr))).value_or(0);
+}
+
 void mirorc::open_order() {
     if (compacting_) return;
     elenco.set_col(registr);
-    const auto registrazione = to_int16(number_at_head(elenco.text(elenco.row(), registr)));
-    if (!registrazione || *registrazione < 1) return;
+    const std::int16_t registrazione = order_in(elenco.row());
+    if (registrazione < 1) return;
     rec_orc row;
-    if (app_.archives.orc.read(block_record(*registrazione, 1), row) &&
-        moved_elsewhere(*registrazione, row)) {
+    if (app_.archives.orc.read(block_record(registrazione, 1), row) &&
+        moved_elsewhere(registrazione, row)) {
         return tell_moved();
     }
-    open_order(*registrazione);
+    open_order(registrazione);
 }
 
 void mirorc::open_order(std::int16_t registrazione) {
@@ -191,11 +184,11 @@ void mirorc::open_order(std::int16_t registrazione) {
     if (!app_.archives.orc.read(block_record(registrazione, 1), riga_)) {
         app_.desk.message(
             "L'ordine non si può leggere: errore su "_cp + app_.archives.orc.name() + ".",
-            titolo_messaggi, ui::icon::stop);
+            ui::attention, ui::icon::stop);
         return;
     }
     if (riga_.annullato == 1) {
-        app_.desk.message("Ordine annullato", titolo_messaggi, ui::icon::stop);
+        app_.desk.message("Ordine annullato", ui::attention, ui::icon::stop);
         return;
     }
     app_.schermo_pronto = 0;
@@ -203,8 +196,7 @@ void mirorc::open_order(std::int16_t registrazione) {
     lead_to(app_.mirorcz);
 }
 
-// What can be looked up and printed from here
-// ------------------------------------------------------
+// What can be looked up and printed from here -----------------------------------------------------
 
 void mirorc::offer_enquiries() {
     const auto at_rest = [this] { return !compacting_; };
@@ -228,13 +220,10 @@ void mirorc::look_up(ui::screen_place& where) {
 }
 
 void mirorc::print_again() {
-    const auto block = to_int16(number_at_head(elenco.text(elenco.row(), registr)));
-    if (!block || *block < 1) return;
-    auto order = archived_order(app_, *block);
-    if (!order.perche.empty()) {
-        app_.desk.message(order.perche, ui::attention, ui::icon::stop);
-        return;
-    }
+    const std::int16_t registrazione = order_in(elenco.row());
+    if (registrazione < 1) return;
+    auto order = archived_order(app_, registrazione);
+    if (!can_be_printed(app_.desk, order)) return;
     const work printing(*this);
     const auto wanted = app_.desk.show_box(
         {"Ristampare l'ordine " + order.testata.text3[campo_ordine::numero] + "?",
@@ -243,14 +232,12 @@ void mirorc::print_again() {
          ui::buttons::choice,
          ui::answer::choice_1,
          {"Anteprima", "Stampa", "PDF", "Annulla"}});
-    constexpr uscita_ristampa outputs[] = {uscita_ristampa::anteprima, uscita_ristampa::stampa,
-                                           uscita_ristampa::pdf};
-    if (wanted == ui::answer::choice_4) return;
-    reprint(app_, order, outputs[static_cast<int>(wanted) - 1]);
+    if (wanted == ui::answer::choice_1) return reprint(app_, order, uscita_ristampa::anteprima);
+    if (wanted == ui::answer::choice_2) return reprint(app_, order, uscita_ristampa::stampa);
+    if (wanted == ui::answer::choice_3) reprint(app_, order, uscita_ristampa::pdf);
 }
 
-// Compaction
-// ---------------------------------------------------------------------------------------
+// Compaction --------------------------------------------------------------------------------------
 
 void mirorc::compact() {
     if (compacting_) return;

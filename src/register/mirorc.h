@@ -62,6 +62,8 @@ class mirorc final : public ui::form {
     void change_view();
     void sort_by(int button);
     void run_command(int button);
+    /// The order that a row shows; 0 if none.
+    [[nodiscard]] std::int16_t order_in(int row) const;
     void open_order();
     /// Opens an order at its row, if it is none that was deleted.
     void open_order(std::int16_t registrazione);

@@ -1,12 +1,10 @@
 #include <algorithm>
-#include <charconv>
 #include <cstring>
 
 #include "register/mirorc.h"
 #include "register/order_hint.h"
 #include "store/block_reader.h"
 #include "text/dates.h"
-#include "text/int16.h"
 #include "text/number_text.h"
 
 namespace vantora {
@@ -64,37 +62,26 @@ void mirorc::list_orders(list_rows& list) {
 
 void mirorc::list_order(list_rows& list, int registrazione, customer_names& names) {
     list.next();
-    char digits[8];
-    const auto end = std::to_chars(digits, digits + sizeof digits, registrazione).ptr;
-    const std::string_view number(digits, static_cast<std::size_t>(end - digits));
-    if (riga_.annullato == 1) {
-        list.write(registr, number);
-        list.write(cliente, "Ordine eliminato");
-        return;
-    }
+    list.write(registr, std::to_string(registrazione));
+    if (riga_.annullato == 1) return list.write(cliente, "Ordine eliminato");
     list.write(data_stored, riga_.data.full());
-    list.write(registr, number);
     list.write(ordine, riga_.numero.trimmed());
     list.write(data, date_text_of_stored(riga_.data.full()));
     list.write(cliente, names.of(riga_.cliente));
     list.write(descrizione, riga_.testo1.trimmed());
-    if (riga_.evaso_flag == 1) {
-        list.write(evasione, "EVASO");
-    } else {
-        list.write(evasione, date_text_of_stored(riga_.data_evasione.full()));
-    }
+    list.write(evasione,
+               riga_.evaso_flag == 1 ? "EVASO" : date_text_of_stored(riga_.data_evasione.full()));
 }
 
-// Of one row
-// ---------------------------------------------------------------------------------------
+// Of one row --------------------------------------------------------------------------------------
 
 std::string mirorc::hint(int row) const {
     if (compacting_) return {};
-    const auto registrazione = to_int16(number_at_head(elenco.text(row, registr)));
-    if (!registrazione || *registrazione < 1) return {};
+    const int registrazione = order_in(row);
+    if (registrazione < 1) return {};
     std::vector<rec_orc> block(righe_blocco);
-    if (!app_.archives.orc.read_block(block_record(*registrazione, 1), block)) return {};
-    if (block.front().annullato == 1 || moved_elsewhere(*registrazione, block.front())) return {};
+    if (!app_.archives.orc.read_block(block_record(registrazione, 1), block)) return {};
+    if (block.front().annullato == 1 || moved_elsewhere(registrazione, block.front())) return {};
     return order_hint(block, valuta(app_.parameters));
 }
 
@@ -109,8 +96,7 @@ std::string mirorc::notice(int row) const {
                      : "In ritardo di " + plain_text(late) + " giorni";
 }
 
-// Other stations
-// -----------------------------------------------------------------------------------
+// Other stations ----------------------------------------------------------------------------------
 
 // What other stations did to the archive since the list was read: orders that a compaction moved
 // are not opened at their old places, and the list is brought up to date.
@@ -137,8 +123,7 @@ const ordine_visto* mirorc::seen(int registrazione) const {
 }
 
 std::optional<ordine_visto> mirorc::seen_in(int row) const {
-    const auto registrazione = to_int16(number_at_head(elenco.text(row, registr)));
-    const ordine_visto* one = registrazione ? seen(*registrazione) : nullptr;
+    const ordine_visto* one = seen(order_in(row));
     return one ? std::optional(*one) : std::nullopt;
 }
 

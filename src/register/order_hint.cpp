@@ -22,30 +22,6 @@ std::string line_text(const rec_orc& row) {
     return text.append(trimmed(description));
 }
 
-/// An order's figures over its rows: all of it as its own screen counts it, and what is open.
-class somme_ordine {
- public:
-    void add(const rec_orc& row) {
-        riga_ordine line;
-        take_row(row, line);
-        tutte_[++righe_] = line;
-        if (!is_open(row)) return;
-        line.quantita = finite_or_zero(open_quantity(row));
-        da_evadere_[righe_] = line;
-    }
-
-    [[nodiscard]] int righe() const { return righe_; }
-    [[nodiscard]] totali_ordine totali(const valuta& in) const { return sum_lines(tutte_, in); }
-    [[nodiscard]] totali_ordine da_evadere(const valuta& in) const {
-        return sum_lines(da_evadere_, in);
-    }
-
- private:
-    int righe_ = 0;
-    righe_ordine tutte_;
-    righe_ordine da_evadere_;
-};
-
 std::string amount_text(double value, const valuta& in) {
     value = finite_or_zero(value);
     return value == 0 ? "0,00" : formato_importo(value, in);
@@ -54,25 +30,29 @@ std::string amount_text(double value, const valuta& in) {
 }  // namespace
 
 std::string order_hint(std::span<const rec_orc> block, const valuta& in) {
-    somme_ordine sums;
+    righe_ordine all;
+    righe_ordine open;
+    int rows = 0;
     std::string text;
     for (const rec_orc& one : block) {
         const std::string line = line_text(one);
         if (line.empty() && one.prezzo == 0) continue;
-        sums.add(one);
-        if (sums.righe() <= righe_raccontate) text += line + "\n";
+        take_row(one, all[++rows]);
+        if (is_open(one)) {
+            open[rows] = all[rows];
+            open[rows].quantita = finite_or_zero(open_quantity(one));
+        }
+        if (rows <= righe_raccontate) text += line + "\n";
     }
-    if (sums.righe() > righe_raccontate) {
-        text += "... in tutto " + std::to_string(sums.righe()) + " righe\n";
-    }
+    if (rows > righe_raccontate) text += "... in tutto " + std::to_string(rows) + " righe\n";
     if (block.front().evaso_flag == 1) {
         text += "Evaso";
     } else {
-        const totali_ordine open = sums.da_evadere(in);
-        const std::string pieces = open.pezzi == 0 ? "0" : quantity_text(open.pezzi);
-        text += "Da evadere: " + pieces + " pezzi, " + amount_text(open.imponibile, in);
+        const totali_ordine left = sum_lines(open, in);
+        const std::string pieces = left.pezzi == 0 ? "0" : quantity_text(left.pezzi);
+        text += "Da evadere: " + pieces + " pezzi, " + amount_text(left.imponibile, in);
     }
-    return text + "\nValore dell'ordine: " + amount_text(sums.totali(in).imponibile, in);
+    return text + "\nValore dell'ordine: " + amount_text(sum_lines(all, in).imponibile, in);
 }
 
 }  // namespace vantora

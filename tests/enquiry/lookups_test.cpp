@@ -5,7 +5,7 @@
 
 #include "enquiry/company_figures.h"
 #include "enquiry/order_search.h"
-#include "enquiry/prices_given.h"
+#include "enquiry/prezzi.h"
 #include "scripted/order_company.h"
 #include "scripted/scripted_run.h"
 #include "text/searchable.h"
@@ -103,9 +103,9 @@ TEST(lookups, PricesAndFiguresAreThoseOfEveryRow) {
             }
         }
         const auto prices = find_prices(company.files, 2, 1, 1000, [](int, int) { return true; });
-        const auto prices_of = [](const std::vector<prezzo_praticato>& from) {
+        const auto prices_of = [](const std::vector<rec_orc>& from) {
             std::vector<double> all;
-            for (const auto& one : from) all.push_back(one.riga.prezzo);
+            for (const auto& one : from) all.push_back(one.prezzo);
             return all;
         };
         EXPECT_EQ(prices_of(prices.del_cliente), own) << seed;

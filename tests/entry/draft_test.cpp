@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <random>
 
+#include "enquiry/bozze.h"
 #include "entry/draft_files.h"
 #include "entry/draft_taking.h"
 #include "entry/order_station.h"
@@ -22,8 +23,8 @@ TEST(draft_text, ComesBackWholeOrNotAtAll) {
         draft.nuova = random() % 2 == 0;
         draft.visto.data_reg = 45418.43;
         draft.impronta = random() * 0x100000001ULL;
-        draft.combo1 = {-1, 3, 0};
-        for (std::string& one : draft.text2) one = text();
+        draft.testata.combo1 = {-1, 3, 0};
+        for (std::string& one : draft.testata.text2) one = text();
         for (int number = 1; number <= righe_ordine::massimo;
              number += 1 + static_cast<int>(random() % 60)) {
             riga_ordine& line = draft.contenuto.lines[number];
@@ -36,7 +37,7 @@ TEST(draft_text, ComesBackWholeOrNotAtAll) {
         const auto read = read_draft(whole);
         ASSERT_TRUE(read);
         EXPECT_EQ(write_draft(*read), whole);
-        EXPECT_EQ(read->text2, draft.text2);
+        EXPECT_EQ(read->testata.text2, draft.testata.text2);
         EXPECT_EQ(read->contenuto.typed_codes, draft.contenuto.typed_codes);
         const std::size_t cut = random() % (whole.size() - 1);
         EXPECT_FALSE(read_draft(whole.substr(0, cut)));
@@ -153,6 +154,28 @@ TEST_F(drafts, AnOpenedOrderIsGoneOnWithOnlyAsItWasLeft) {
     draft_station at(company, person);
     ASSERT_EQ(at.front.told.size(), 2U);
     EXPECT_NE(at.front.told[1].find("cambiato dopo la bozza"), std::string::npos);
+}
+
+TEST_F(drafts, GivingOneUpTakesNoOtherThatHasItsNameByNow) {
+    std::filesystem::create_directory(home.path() / "bozze");
+    order_station at(company, false);
+    at.app.person = &person;
+    at.run();
+    bozza draft;
+    draft.archivio = archive_name(at.app);
+    const auto keep = [&](const char* when) {
+        draft.salvata = when;
+        EXPECT_TRUE(file_bozza::take(person, "ordine1")->keep(person, write_draft(draft)));
+    };
+    keep("2024-05-06 10:00:00");
+    at.desk.guards().switch_to(true);
+    at.front.decide = [&] { return keep("2024-05-06 11:00:00"), true; };
+    at.front.meanwhile = [&] {
+        if (at.app.bozze.loaded()) at.app.bozze->bottone[at.front.told.empty() ? 2 : 0].click();
+    };
+    at.desk.dispatch([&] { at.app.bozze.use().show_over(); });
+    // Another window kept it while the question stood.
+    EXPECT_EQ(draft_in(person, "ordine1").value().salvata, "2024-05-06 11:00:00");
 }
 
 }  // namespace

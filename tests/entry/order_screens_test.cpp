@@ -1,17 +1,11 @@
 #include <gtest/gtest.h>
 
-#include <cmath>
-#include <limits>
-#include <random>
-
 #include "entry/order_head.h"
 #include "entry/order_station.h"
 #include "scripted/problems.h"
 
 namespace vantora::test {
 namespace {
-
-constexpr std::size_t block_bytes = 200 * sizeof(rec_orc);
 
 /// Three orders, of which the second one is worked on.
 struct edited_company : order_company {
@@ -226,44 +220,6 @@ TEST(mirorcz, AnOrderIsFoundAgainAsItWasLeft) {
     EXPECT_EQ(company.article_now(1).ordinato_clienti, 6);
     EXPECT_EQ(company.counter_now(contatori::ordini).ultimo_numero, 30);
     EXPECT_EQ(problems(company), "");
-}
-
-/// Whatever an order's block holds, it can be opened, saved and deleted, or the program ends with
-/// one of its own run-time errors. What is written then is held at the stored orders.
-TEST(mirorcz, DamagedOrdersDoNoHarm) {
-    constexpr double infinity = std::numeric_limits<double>::infinity();
-    constexpr double odd[] = {std::nan(""), infinity, -infinity, 1e300, 0, 5};
-    std::mt19937 random(5);
-    const auto damage = [&](rec_orc& row) {
-        for (auto& byte : std::as_writable_bytes(std::span(&row, 1))) {
-            if (random() % 4 == 0) byte = std::byte(random());
-        }
-        for (f64le* one : {&row.quantita, &row.evaso, &row.prezzo}) *one = odd[random() % 6];
-        row.articolo = static_cast<std::int16_t>(random() % 2 == 0 ? random() : random() % 5);
-        row.annullato = 0;
-    };
-    for (unsigned round = 0; round < 24; ++round) {
-        SCOPED_TRACE(round);
-        const bool deletes = round % 2 == 0;
-        edited_company company;
-        change_stored(company.files.art, 3, [](rec_art& one) { one.eliminato = 1; });
-        for (std::size_t number = 1; number <= righe_blocco;
-             number += 1 + random() % (1 + 9 * round)) {
-            company.change_row(2, static_cast<int>(number), damage);
-        }
-        if (round > 20) std::filesystem::resize_file(company.file("orc"), block_bytes * 5 / 4);
-        order_station at(company);
-        const mirorcz& screen = at.open(2);
-        if (!at.desk.ended()) {
-            EXPECT_EQ(at.active(), "mirorcz");
-            EXPECT_LE(screen.artic[0].text().size(), 15U);
-            deletes ? at.delete_opened() : at.save_opened();
-            EXPECT_TRUE(at.desk.ended() || company.row_now(2, 200).annullato == deletes);
-        }
-        if (at.desk.ended()) {
-            EXPECT_EQ(at.desk.ended()->message, "Errore di run-time '6': Overflow");
-        }
-    }
 }
 
 }  // namespace

@@ -1,6 +1,6 @@
-#include <utility>
-
 #include "orders/ddt_snapshot.h"
+
+#include <utility>
 
 #include "store/text_reader.h"
 #include "text/int16.h"
@@ -9,6 +9,27 @@
 namespace vantora {
 
 namespace {
+
+/// Adds values, one a line.
+void add(std::string& to, std::string_view value) {
+    to.append(value).append("\r\n");
+}
+void add(std::string& to, double value) {
+    add(to, plain_text(value));
+}
+
+void add_line(std::string& to, const riga_ordine& line) {
+    add(to, line.articolo);
+    add(to, std::string(15, ' '));
+    add(to, line.codice.full());
+    add(to, line.descrizione.full());
+    add(to, line.um.full());
+    add(to, line.sc1);
+    add(to, line.sc2);
+    add(to, line.iva);
+    add(to, line.quantita);
+    add(to, line.prezzo);
+}
 
 constexpr std::size_t campo_colli = 2;
 
@@ -57,6 +78,24 @@ void read_line(snapshot_reader& from, riga_ordine& line) {
 }
 
 }  // namespace
+
+std::string snapshot_name(float progressivo) {
+    return "b" + masked(progressivo, "##########0");
+}
+
+std::string write_snapshot(const istantanea_ddt& document) {
+    std::string all;
+    add(all, document.cliente);
+    for (const std::string& field : document.text3) add(all, field);
+    add(all, document.causale);
+    add(all, document.aspetto);
+    add(all, std::to_string(document.porto) + std::to_string(document.trasporto));
+    for (int number = 1; number <= righe_ordine::massimo; ++number) {
+        add_line(all, document.righe[number]);
+    }
+    for (const std::size_t i : campo_cliente::del_documento) add(all, document.text2[i]);
+    return all;
+}
 
 std::optional<istantanea_ddt> read_snapshot(std::string content) {
     snapshot_reader from(std::move(content));
