@@ -53,8 +53,8 @@ void line_grid::register_controls() {
     add("prezz", prezz);
     add("barcode", lookup_.barcode);
     add("postael", postael);
-    if (kind_.has_impegno) add("impegno", impegno);
-    if (kind_.has_eva) add("eva", eva);
+    if (!kind_.has_scarica) add("impegno", impegno);
+    if (kind_.has_evaso) add("eva", eva);
     if (kind_.has_scarica) add("scarica", scarica);
     add("tota", tota);
     for (int i = 0; i < kind_.commands; ++i) add_element("comando", i, comando[i]);

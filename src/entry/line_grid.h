@@ -23,10 +23,8 @@ struct line_grid_kind {
     const char* title;
     tipo_documento documento;
     int commands = 7;          ///< elements of `comando` in use
-    bool has_evaso = false;    ///< a column with the fulfilled quantity, behind the quantity
-    bool has_impegno = false;  ///< check boxes
-    bool has_eva = false;
-    bool has_scarica = false;
+    bool has_evaso = false;    ///< a column with the fulfilled quantity, and the check box `eva`
+    bool has_scarica = false;  ///< this check box, otherwise `impegno`
     totale_mostrato tota[3] = {totale_mostrato::imponibile, totale_mostrato::complessivo,
                                totale_mostrato::pezzi};
 };

@@ -38,22 +38,30 @@ bool line_history::same(const shown_line& one, const shown_line& other) {
     return same_line(one.line, other.line) && one.typed_code == other.typed_code;
 }
 
-void line_history::show(order_content& content, int number, const shown_line& line) {
-    content.lines[number] = line.line;
-    content.typed_codes.erase(number);
-    if (line.typed_code) content.typed_codes[number] = *line.typed_code;
-}
-
 line_history::step line_history::difference(const order_content& before,
                                             const order_content& after) {
-    step found{{}, before.choices, after.choices};
+    step found{{}, before.choices};
     const bool codes = before.typed_codes != after.typed_codes;
     for (int number = 1; number <= righe_ordine::massimo; ++number) {
         if (!codes && same_line(before.lines[number], after.lines[number])) continue;
-        changed_line line{number, line_of(before, number), line_of(after, number)};
-        if (!same(line.before, line.after)) found.lines.push_back(std::move(line));
+        shown_line line = line_of(before, number);
+        if (!same(line, line_of(after, number))) found.lines.emplace_back(number, std::move(line));
     }
     return found;
+}
+
+line_place line_history::exchange(step& one, order_content& content) {
+    line_place first;
+    for (auto& [number, line] : one.lines) {
+        shown_line there = line_of(content, number);
+        if (first.line == 0) first = place_of(number, there, line);
+        content.lines[number] = line.line;
+        content.typed_codes.erase(number);
+        if (line.typed_code) content.typed_codes[number] = *line.typed_code;
+        line = std::move(there);
+    }
+    std::swap(one.choices, content.choices);
+    return first;
 }
 
 line_history::growth line_history::growth_of(const std::string& before, const std::string& after) {
@@ -70,9 +78,8 @@ line_history::growth line_history::growth_of(const std::string& before, const st
 
 bool line_history::joins_last(const step& one, growth kind, int line) const {
     return kind != growth::none && kind == open_ && taken_back_.empty() && !done_.empty() &&
-           one.choices_before == one.choices_after && one.lines.size() == 1 &&
-           one.lines[0].number == line && done_.back().lines.size() == 1 &&
-           done_.back().lines[0].number == line;
+           one.lines.size() == 1 && one.lines[0].first == line && done_.back().lines.size() == 1 &&
+           done_.back().lines[0].first == line;
 }
 
 void line_history::note(const order_content& now, const cell_in_work& focus) {
@@ -82,10 +89,9 @@ void line_history::note(const order_content& now, const cell_in_work& focus) {
         stays && focus.at.line > 0 ? growth_of(focus_.text, focus.text) : growth::none;
     if (!stays) open_ = growth::none;
     focus_ = focus;
-    if (one.lines.empty() && one.choices_before == one.choices_after) return;
-    if (joins_last(one, kind, focus.at.line)) {
-        done_.back().lines[0].after = one.lines[0].after;
-    } else {
+    const bool chose = now.choices != now_.choices;
+    if (one.lines.empty() && !chose) return;
+    if (chose || !joins_last(one, kind, focus.at.line)) {
         keep_taken_back();
         push(std::move(one));
     }
@@ -108,23 +114,19 @@ void line_history::keep_taken_back() {
     if (taken_back_.empty()) return;
     order_content there = now_;
     for (; !taken_back_.empty(); taken_back_.pop_back()) {
-        step& one = taken_back_.back();
-        for (const changed_line& line : one.lines) show(there, line.number, line.after);
-        there.choices = one.choices_after;
-        push(std::move(one));
+        exchange(taken_back_.back(), there);
+        push(std::move(taken_back_.back()));
     }
     push(difference(there, now_));
 }
 
-line_place line_history::place_of(const step& one) {
-    if (one.lines.empty()) return {};
-    const changed_line& first = one.lines.front();
-    const riga_ordine& was = first.before.line;
-    const riga_ordine& is = first.after.line;
+line_place line_history::place_of(int number, const shown_line& one, const shown_line& other) {
+    const riga_ordine& was = one.line;
+    const riga_ordine& is = other.line;
     using enum line_column;
     const std::pair<line_column, bool> changed[] = {
         {code, was.codice.trimmed() != is.codice.trimmed() || was.articolo != is.articolo ||
-                   first.before.typed_code != first.after.typed_code},
+                   one.typed_code != other.typed_code},
         {description, was.descrizione.trimmed() != is.descrizione.trimmed()},
         {unit, was.um.trimmed() != is.um.trimmed()},
         {quantity, was.quantita != is.quantita},
@@ -133,26 +135,20 @@ line_place line_history::place_of(const step& one) {
         {sc2, was.sc2 != is.sc2},
         {price, true}};
     const auto* place = std::ranges::find(changed, true, &std::pair<line_column, bool>::second);
-    return {first.number, place->first};
+    return {number, place->first};
 }
 
 std::optional<line_place> line_history::back() {
     if (done_.empty()) return {};
     taken_back_.push_back(std::move(done_.back()));
     done_.pop_back();
-    const step& one = taken_back_.back();
-    for (const changed_line& line : one.lines) show(now_, line.number, line.before);
-    now_.choices = one.choices_before;
-    return place_of(one);
+    return exchange(taken_back_.back(), now_);
 }
 
 std::optional<line_place> line_history::forth() {
     if (taken_back_.empty()) return {};
-    step& one = taken_back_.back();
-    for (const changed_line& line : one.lines) show(now_, line.number, line.after);
-    now_.choices = one.choices_after;
-    const line_place place = place_of(one);
-    push(std::move(one));
+    const line_place place = exchange(taken_back_.back(), now_);
+    push(std::move(taken_back_.back()));
     taken_back_.pop_back();
     return place;
 }

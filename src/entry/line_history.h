@@ -64,24 +64,21 @@ class line_history {
         riga_ordine line;
         std::optional<std::string> typed_code;
     };
-    struct changed_line {
-        int number;
-        shown_line before;
-        shown_line after;
-    };
+    /// What stood on some lines, and the choices, on the other side of a change.
     struct step {
-        std::vector<changed_line> lines;
-        std::array<bool, 6> choices_before{};
-        std::array<bool, 6> choices_after{};
+        std::vector<std::pair<int, shown_line>> lines;
+        std::array<bool, 6> choices{};
     };
     enum class growth { none, more, less };
 
     static shown_line line_of(const order_content& content, int number);
     static bool same(const shown_line& one, const shown_line& other);
-    static void show(order_content& content, int number, const shown_line& line);
+    /// What `before` has otherwise than `after`.
     static step difference(const order_content& before, const order_content& after);
+    /// Step and content change places; gives the place of the first difference.
+    static line_place exchange(step& one, order_content& content);
     static growth growth_of(const std::string& before, const std::string& after);
-    static line_place place_of(const step& one);
+    static line_place place_of(int number, const shown_line& one, const shown_line& other);
     bool joins_last(const step& one, growth kind, int line) const;
     void push(step one);
     /// What was taken back becomes steps behind, and one that takes it all back again.

@@ -1,10 +1,10 @@
 #include "entry/mirorcs.h"
 
 #include "customer/mirorcx.h"
-#include "entry/import_lines.h"
 #include "entry/import_picker.h"
 #include "entry/order_head.h"
 #include "entry/save_order.h"
+#include "orders/stored_lines.h"
 #include "program/change_messages.h"
 #include "text/dates.h"
 #include "text/int16.h"
@@ -14,10 +14,8 @@ namespace vantora {
 
 namespace {
 
-constexpr line_grid_kind nuovo_ordine{.name = "mirorcs",
-                                      .title = "Gestione ordini clienti",
-                                      .documento = tipo_documento::ordine,
-                                      .has_impegno = true};
+constexpr line_grid_kind nuovo_ordine{
+    .name = "mirorcs", .title = "Gestione ordini clienti", .documento = tipo_documento::ordine};
 
 }  // namespace
 
@@ -33,7 +31,9 @@ void mirorcs::open() {
     }
     if (app_.modo_ordine == 99 && app_.selezione_2 > 0) {
         // The quote stays chosen: whenever the screen comes to the front, it is added once more.
-        imported(aggiungi_preventivo(righe_, app_.archives, app_.selezione_2), "Il preventivo");
+        imported(import_rows(righe_, last_used_line(righe_) + 1, app_.archives.prv,
+                             app_.archives.art, app_.selezione_2),
+                 "Il preventivo");
     }
 }
 
@@ -83,7 +83,7 @@ void mirorcs::import_order() {
     if (gone()) return;
     const std::string& chosen = app_.scelta_ordine;
     if (const auto block = to_int16(number_at_head(chosen)); !chosen.empty() && block) {
-        imported(sostituisci_con_ordine(righe_, app_.archives, *block), "L'ordine");
+        imported(import_rows(righe_, 1, app_.archives.orc, app_.archives.art, *block), "L'ordine");
     }
     artic[0].set_focus();
 }

@@ -15,9 +15,7 @@ namespace {
 constexpr line_grid_kind ordine_da_modificare{.name = "mirorcz",
                                               .title = "Modifica ordine clienti",
                                               .documento = tipo_documento::ordine,
-                                              .has_evaso = true,
-                                              .has_impegno = true,
-                                              .has_eva = true};
+                                              .has_evaso = true};
 
 /// What else became of an order between two readings, a line each.
 std::string told_between(const stored_rows<rec_orc>& then, const stored_rows<rec_orc>& now) {

@@ -60,7 +60,15 @@ void mirorcr::look_before_booking(archive_change& change) const {
     archivi& files = app_.archives;
     rec_tot now;
     change.reads(files.tot, contatori::ordini, now);
-    look_for_orders(change, orders_since(now, ordini_, files.orc));
+    const orders_since meanwhile(now, ordini_, files.orc);
+    // Another station's compaction has moved none of the orders listed.
+    for (const ordine_visto& seen : visti_) {
+        if (!change.may_write()) break;
+        rec_orc row;
+        const bool read = files.orc.read(block_record(seen.registrazione, 1), row);
+        change.require(seen.letto && read, files.orc.name());
+        if (meanwhile.took_away(seen, row)) change.give_up(change_outcome::order_moved);
+    }
     bool any = false;
     bool any_leaves = false;
     for (int row = 1; row < righe_; ++row) {
@@ -68,20 +76,8 @@ void mirorcr::look_before_booking(archive_change& change) const {
         any = true;
         any_leaves |= number_in(row, evaso) != 0;
     }
-    if (any) change.changes(app_.archives.orc);
-    if (any_leaves) change.changes(app_.archives.art);
-}
-
-void mirorcr::look_for_orders(archive_change& change, const orders_since& meanwhile) const {
-    for (const ordine_visto& seen : visti_) {
-        if (!change.may_write()) return;
-        rec_orc row;
-        const bool read = app_.archives.orc.read(block_record(seen.registrazione, 1), row);
-        change.require(seen.letto && read, app_.archives.orc.name());
-        if (meanwhile.took_away(seen, row)) {
-            change.give_up(change_outcome::order_moved);
-        }
-    }
+    if (any) change.changes(files.orc);
+    if (any_leaves) change.changes(files.art);
 }
 
 void mirorcr::stay(const change_outcome& outcome) {

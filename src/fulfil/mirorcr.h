@@ -110,8 +110,6 @@ class mirorcr final : public ui::form {
     [[nodiscard]] std::string marked_orders() const;  ///< "12, 13": of which something leaves
     /// What is looked at before the first row is booked.
     void look_before_booking(archive_change& change) const;
-    /// Another station's compaction has moved none of the orders listed.
-    void look_for_orders(archive_change& change, const orders_since& meanwhile) const;
     /// Nothing was booked; a list that isn't right any more is built anew.
     void stay(const change_outcome& outcome);
     /// The marked rows that other stations changed, each in words.

@@ -81,4 +81,22 @@ class stored_lines {
     rec_art article_;
 };
 
+/// Puts the rows of an order or a quote into the lines of a new order from `first` on, as far as
+/// there are lines: prices and discounts as they were, not those of today; a line without a price
+/// has no VAT code. Where rows can't be read, nothing is taken over: their numbers are returned,
+/// none if all is well. One read for the rows, and one for each article.
+template <class Row>
+std::vector<int> import_rows(righe_ordine& lines, int first, const channel<Row>& from,
+                             const channel<rec_art>& articles, std::int64_t registrazione) {
+    const stored_rows<Row> rows(from, registrazione);
+    if (!rows.unread().empty()) return rows.unread();
+    stored_lines into(articles);
+    for (int number = first; number <= righe_ordine::massimo; ++number) {
+        riga_ordine& line = lines[number];
+        into.read(rows[number - first + 1], line);
+        if (line.prezzo == 0) line.iva = 0;
+    }
+    return {};
+}
+
 }  // namespace vantora

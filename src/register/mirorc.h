@@ -87,8 +87,6 @@ class mirorc final : public ui::form {
 
     // Other stations ----------------------------------------------------------------------------
 
-    /// Notes which order the list shows at a place.
-    void remember(int registrazione, const rec_orc& row, bool read);
     /// An order that only its head tells from others may have got another one here.
     void see_again(int registrazione);
     /// The order as it was listed; null if it wasn't, or couldn't be read.

@@ -1,8 +1,10 @@
 #include <algorithm>
 #include <cstring>
 
+#include "orders/order_rows.h"
+#include "orders/stored_lines.h"
+#include "orders/totals.h"
 #include "register/mirorc.h"
-#include "register/order_hint.h"
 #include "store/block_reader.h"
 #include "text/dates.h"
 #include "text/number_text.h"
@@ -13,6 +15,50 @@ namespace {
 
 /// Rows that the window shows; the view of the latest orders leaves so many at the bottom.
 constexpr int righe_in_vista = 22;
+
+constexpr int righe_raccontate = 6;
+
+std::string line_text(const rec_orc& row) {
+    const std::string description = filtra_stampa(description_of(row));
+    std::string text;
+    if (row.quantita != 0) {
+        text = quantity_text(row.quantita) + " " + std::string(row.um.trimmed()) + "  ";
+    }
+    return text.append(trimmed(description));
+}
+
+std::string amount_text(double value, const valuta& in) {
+    value = finite_or_zero(value);
+    return value == 0 ? "0,00" : formato_importo(value, in);
+}
+
+/// What stands behind a row of the register, for who rests on it: the first lines of the order,
+/// what is open of it, what it is worth. `block`: all its rows.
+std::string order_hint(std::span<const rec_orc> block, const valuta& in) {
+    righe_ordine all;
+    righe_ordine open;
+    int rows = 0;
+    std::string text;
+    for (const rec_orc& one : block) {
+        const std::string line = line_text(one);
+        if (line.empty() && one.prezzo == 0) continue;
+        take_row(one, all[++rows]);
+        if (is_open(one)) {
+            open[rows] = all[rows];
+            open[rows].quantita = finite_or_zero(open_quantity(one));
+        }
+        if (rows <= righe_raccontate) text += line + "\n";
+    }
+    if (rows > righe_raccontate) text += "... in tutto " + std::to_string(rows) + " righe\n";
+    if (block.front().evaso_flag == 1) {
+        text += "Evaso";
+    } else {
+        const totali_ordine left = sum_lines(open, in);
+        const std::string pieces = left.pezzi == 0 ? "0" : quantity_text(left.pezzi);
+        text += "Da evadere: " + pieces + " pezzi, " + amount_text(left.imponibile, in);
+    }
+    return text + "\nValore dell'ordine: " + amount_text(sum_lines(all, in).imponibile, in);
+}
 
 }  // namespace
 
@@ -50,7 +96,7 @@ void mirorc::list_orders(list_rows& list) {
     int registrazione = first;
     for (; registrazione <= last && !list.full(); ++registrazione) {
         riga_ = orders.first_row(registrazione);
-        remember(registrazione, riga_, orders.first_row_read());
+        visti_.emplace_back(registrazione, riga_).letto = orders.first_row_read();
         list_order(list, registrazione, names);
         list.come_to(registrazione - first + 1, last - first + 1);
     }
@@ -100,10 +146,6 @@ std::string mirorc::notice(int row) const {
 
 // What other stations did to the archive since the list was read: orders that a compaction moved
 // are not opened at their old places, and the list is brought up to date.
-
-void mirorc::remember(int registrazione, const rec_orc& row, bool read) {
-    visti_.emplace_back(registrazione, row).letto = read;
-}
 
 void mirorc::see_again(int registrazione) {
     const ordine_visto* listed = seen(registrazione);

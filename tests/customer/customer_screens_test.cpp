@@ -104,16 +104,6 @@ TEST_F(mirorcx_screen, GoesOnOnlyWithTwoWholeDates) {
     EXPECT_EQ(bare.app.selezione_1, 2);
 }
 
-TEST_F(mirorcx_screen, ADayChosenInACalendarIsWritten) {
-    for (const char* wrong : {"boh", "", "6/5/2024"}) {
-        head.Text3[1].set_text(wrong);
-        head.text5[0].close_up();
-        EXPECT_EQ(head.Text3[1].text(), wrong) << "nothing was chosen";
-        head.text5[0].choose({2024, 5, 6});
-        EXPECT_EQ(head.Text3[1].text(), "06/05/2024") << "today, as it stood there";
-    }
-}
-
 TEST_F(mirorcx_screen, ThePickedCustomerIsTakenWhereAPersonPicks) {
     company.customers({customer_named("ROSSI"), customer_named("ROSSI"),
                        customer_named("ROSSI MARIO"), customer_named("ZETA")});

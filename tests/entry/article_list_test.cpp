@@ -74,26 +74,6 @@ TEST(article_list, ReadsFewTimesAndLeavesOutWhatCantBeRead) {
     EXPECT_TRUE(article_entries_of(archivi{}.art_blocchi, 3000).empty());
 }
 
-TEST(article_list, SearchesTakeTheFirstThatBeginsWithTheText) {
-    const std::vector<std::string> all = {"ab1", "AB", "abc", "\xE0"};
-    const std::pair<const char*, int> places[] = {{"AB", 0},    {"ABC", 2},  {"", 0},     {"B", -1},
-                                                  {"ABCD", -1}, {"\xC0", 3}, {"AB\b", -1}};
-    for (const auto& [text, place] : places) EXPECT_EQ(find_entry(all, text), place) << text;
-    small_company company;
-    auto deleted = article("A", "tubo lungo", 1);
-    deleted.eliminato = 1;
-    company.articles({article("B", "Vite", 1), deleted, article("C", "TUBO", 1)});
-    const std::tuple<int, std::string, int> descriptions[] = {
-        {3, "", 1},          {3, "v", 1},    {3, "Tubo", 2},           {3, "tubo ", 2},
-        {3, "tubo  ", 3},    {1, "tubo", 0}, {3, wide("TUBO", 40), 3}, {3, wide("TUBO", 41), 0},
-        {32767, "chiodo", 0}};
-    for (const auto& [count, text, number] : descriptions) {
-        EXPECT_EQ(find_description(company.files.art, static_cast<std::int16_t>(count), text),
-                  number)
-            << text;
-    }
-}
-
 TEST(article_list, TheStockLineCarriesTheNumberBehind140Characters) {
     auto one = article("CODICE", "Descrizione", 1);
     one.giacenza = -2.5;

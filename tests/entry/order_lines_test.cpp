@@ -6,7 +6,7 @@
 #include <random>
 #include <vector>
 
-#include "entry/import_lines.h"
+#include "orders/stored_lines.h"
 #include "scripted/small_company.h"
 
 namespace vantora::test {
@@ -144,11 +144,12 @@ TEST(righe_ordine, SessionsLeaveLinesWhereStepsByHandLeaveThem) {
                     for (auto& one : plain) one = emptied(one);
                     break;
                 case 4:
-                    sostituisci_con_ordine(lines, company.files, block);
+                    import_rows(lines, 1, company.files.orc, company.files.art, block);
                     import_plainly(plain, 0, company.files.orc, company.files.art, block);
                     break;
                 default:
-                    aggiungi_preventivo(lines, company.files, block);
+                    import_rows(lines, last_used_line(lines) + 1, company.files.prv,
+                                company.files.art, block);
                     import_plainly(plain, lines_used(plain), company.files.prv, company.files.art,
                                    block);
             }

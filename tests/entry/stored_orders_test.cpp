@@ -8,7 +8,6 @@
 #include <random>
 
 #include "entry/edit_order.h"
-#include "entry/order_station.h"
 #include "entry/save_order.h"
 #include "scripted/small_company.h"
 #include "store/drive.h"
@@ -344,35 +343,6 @@ TEST(stored_orders, WhatStandsInTheWayIsNamedAndNothingIsWritten) {
         EXPECT_FALSE(outcome.stored());
         EXPECT_EQ(outcome.files, std::string("vantora.") + one.file);
         EXPECT_TRUE(stage.faults.events.empty());
-    }
-}
-
-/// A price counts once at quantity 0 and -9999, in the register as on the order's own screen.
-TEST(stored_orders, TheRegisterSaysOfAnOrderWhatItsOwnScreenSays) {
-    std::mt19937 random(24);
-    const auto one_of = [&random](const auto& all) { return all[random() % std::size(all)]; };
-    constexpr double quantities[] = {0, -9999, 1, 3, 2.5, -2};
-    constexpr double prices[] = {0, 5.555, 10, 0.333, 1234.5};
-    constexpr std::int16_t codes[] = {0, 1, 4, 13, 24, 99};
-    order_company company;
-    for (int block = 1; block <= 20; ++block) {
-        company.order(block, 1, {});
-        for (int number = 1; number <= 8; ++number) {
-            company.change_row(block, number, [&](rec_orc& row) {
-                row.quantita = one_of(quantities);
-                row.prezzo = one_of(prices);
-                row.iva = one_of(codes);
-                row.sc1 = static_cast<std::int16_t>(random() % 40);
-                row.sc2 = static_cast<std::int16_t>(random() % 3 * 5);
-            });
-        }
-    }
-    order_station at(company);
-    for (int block = 1; block <= 20; ++block) {
-        const std::string hint = at.app.mirorc->elenco.hint_of(block);
-        const std::string_view net = trimmed(at.open(block).tota[0].text());
-        EXPECT_EQ(hint.substr(hint.rfind(' ') + 1), net.empty() ? "0,00" : net) << hint;
-        at.desk.dispatch([&] { at.app.mirorcz->comando[0].click(); });
     }
 }
 

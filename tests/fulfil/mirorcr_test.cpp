@@ -106,23 +106,6 @@ TEST(mirorcr, TheDestinationOfTheFirstOrderThatLeavesIsTakenIfWanted) {
     }
 }
 
-TEST(mirorcr, ADiskThatFailsIsNoOtherStation) {
-    fulfil_stage stage;
-    stage.order(1, 1, {{1, 5}});
-    stage.run();
-    stage.open_worklist(1);
-    stage.click(1, mirorcr::ordine);
-    stage.faults.read_fails = [](const std::string& path, auto, auto) {
-        return path.ends_with("orc");
-    };
-    stage.book();
-    EXPECT_EQ(stage.front.told.back(),
-              "Impossibile leggere o scrivere il file vantora.orc: nulla è stato salvato."_cp);
-    stage.faults.read_fails = nullptr;
-    stage.book();
-    EXPECT_EQ(stage.row_now(1, 1).evaso, 5);
-}
-
 TEST(mirorcr, RowsBookedElsewhereMeanwhileAreNamed) {
     for (const bool guarded : {true, false}) {
         fulfil_stage stage;

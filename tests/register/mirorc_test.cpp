@@ -173,15 +173,6 @@ TEST_F(mirorc, OpensOnlyLivingOrdersAndNothingWithoutCustomers) {
     EXPECT_EQ(run({"close mirorc"})[0]["ended"], "exit");
 }
 
-TEST_F(mirorc, CompactionAsksTwiceAndCanBeCancelled) {
-    fill_behind_a_deleted_one(1);
-    const json replies =
-        run({"click mirorc.srtt(0)", "answer yes", "answer no", "rows mirorc.elenco 1"});
-    EXPECT_EQ(replies[0]["box"]["text"], "Eliminare anche gli ordini evasi?");
-    EXPECT_EQ(replies[1]["box"]["text"], "Confermi?");
-    EXPECT_EQ(replies[3]["value"][0][3], "Ordine eliminato");
-}
-
 TEST_F(mirorc, CompactionOffersACopyFirstWhereTheLastIsOlderThanADay) {
     fill_behind_a_deleted_one(3);
     const auto copies = company.drive() / "mirwin" / "copie";
