@@ -18,6 +18,10 @@ fs::path folder_of(const fs::path& place) {
     return place.has_parent_path() ? place.parent_path() : fs::path(".");
 }
 
+bool exchanged(const fs::path& one, const fs::path& other) {
+    return ::renameat2(AT_FDCWD, one.c_str(), AT_FDCWD, other.c_str(), RENAME_EXCHANGE) == 0;
+}
+
 bool rename_to(const fs::path& from, const fs::path& to) {
     std::error_code failed;
     fs::rename(from, to, failed);
@@ -40,10 +44,11 @@ bool swap_in(const fs::path& made, const fs::path& place, const fs::path& former
     std::error_code ignored;
     if (!fs::exists(fs::symlink_status(place, ignored))) {
         if (!rename_to(made, place)) return false;
-    } else if (::renameat2(AT_FDCWD, made.c_str(), AT_FDCWD, place.c_str(), RENAME_EXCHANGE) == 0) {
-        // What stood there is found under its new name or, at the worst, where the new one was
-        // made.
-        rename_to(made, former);
+    } else if (exchanged(made, place)) {
+        if (!rename_to(made, former)) {
+            exchanged(made, place);
+            return false;
+        }
     } else {
         if (!rename_to(place, former)) return false;
         if (!rename_to(made, place)) {

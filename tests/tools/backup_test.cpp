@@ -1,6 +1,11 @@
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <chrono>
 #include <map>
 
@@ -9,6 +14,35 @@
 #include "store/drive.h"
 #include "support/faulty_files.h"
 #include "support/sampled.h"
+
+/// Steps that change something until the program is killed; below 0: it goes on.
+static int steps_left = -1;
+static bool knows_exchange = true;
+
+static constexpr int killed = 100;
+
+static void take_step() {
+    if (steps_left >= 0 && steps_left-- == 0) ::_exit(killed);
+}
+
+// In place of the system's own, for all of the test.
+extern "C" {
+ssize_t pwrite(int to, const void* bytes, size_t size, off_t offset) {
+    take_step();
+    return ::syscall(SYS_pwrite64, to, bytes, size, offset);
+}
+int rename(const char* from, const char* to) noexcept {
+    take_step();
+    return ::renameat(AT_FDCWD, from, AT_FDCWD, to);
+}
+int renameat2(int from_folder, const char* from, int to_folder, const char* to,
+              unsigned int how) noexcept {
+    take_step();
+    errno = EINVAL;
+    if (!knows_exchange) return -1;
+    return static_cast<int>(::syscall(SYS_renameat2, from_folder, from, to_folder, to, how));
+}
+}
 
 namespace vantora::archive {
 namespace {
@@ -120,7 +154,7 @@ TEST(archive_restore, TheCompanyIsTheCopyOrAsItWasWhateverWriteFails) {
     drive from(made.place, drive::access::reading_only);
     const copy_outcome checked = checked_copy(made.place, from);
     ASSERT_EQ(checked.fault, "");
-    for (const auto how : {ended, refused, unread}) {
+    for (const auto how : {refused, unread}) {
         const test::sampled writes(how == unread ? 7 : 1);
         for (std::size_t n = writes.first;; n += writes.step) {
             SCOPED_TRACE(n);
@@ -128,22 +162,15 @@ TEST(archive_restore, TheCompanyIsTheCopyOrAsItWasWhateverWriteFails) {
             faulty_files to(real);
             bool failed = false;
             fail(to, how, n, failed);
-            bool done = false;
-            std::filesystem::path former;
-            try {
-                const copy_outcome outcome = put_back(checked, from, 7, to, "prima");
-                done = outcome.fault.empty();
-                former = outcome.place;
-            } catch (const test::crash&) {
-                failed = true;
-            }
+            const copy_outcome outcome = put_back(checked, from, 7, to, "prima");
+            const bool done = outcome.fault.empty();
             ASSERT_TRUE(done || failed);
             const auto place = company.drive() / "mirwin/mirwin/miraz0.007";
             if (done) {
                 auto now = test::files_under(company.drive());
                 for (const auto& [name, bytes] : copied) EXPECT_EQ(now[name], bytes) << name;
                 std::filesystem::remove_all(place);
-                std::filesystem::rename(former, place);
+                std::filesystem::rename(outcome.place, place);
             }
             std::filesystem::remove(company.drive() / "mirwin/mirwin/vantora.tbl");
             EXPECT_EQ(test::files_under(company.drive()), before) << "what stood there is kept";
@@ -152,6 +179,89 @@ TEST(archive_restore, TheCompanyIsTheCopyOrAsItWasWhateverWriteFails) {
     }
     std::ofstream(made.place / "mirwin/mirwin/miraz0.007/vantora.art", std::ios::app) << "x";
     EXPECT_NE(checked_copy(made.place, from).fault, "") << "a copy that was changed";
+}
+
+/// Puts a copy back in a process that is killed after so many steps; returns how many it had left.
+int put_back_with(int steps, const copy_outcome& copy, file_port& from,
+                  const demo_folder& company) {
+    const pid_t child = ::fork();
+    if (child == 0) {
+        drive to(company.drive());
+        steps_left = steps;
+        const bool done = put_back(copy, from, 7, to, "prima").fault.empty();
+        ::_exit(done ? steps_left : 99);
+    }
+    int state = 0;
+    ::waitpid(child, &state, 0);
+    EXPECT_TRUE(WIFEXITED(state) && WEXITSTATUS(state) != 99);
+    return WEXITSTATUS(state) == killed ? 0 : WEXITSTATUS(state);
+}
+
+TEST(archive_restore, KilledAtAnyWriteOrRenamingItLeavesBothAndTheNextOneGoesThrough) {
+    const demo_folder original(tiny);
+    const test::scratch_folder out;
+    drive copies(out.path());
+    const copy_outcome made = copying(original).make(copies, "copia");
+    drive from(made.place, drive::access::reading_only);
+    const copy_outcome checked = checked_copy(made.place, from);
+    const auto company_of = [](const demo_folder& of) { return of.file("orc").parent_path(); };
+    const auto copied = test::files_under(company_of(original));
+    const demo_folder changed(original);
+    std::ofstream(changed.file("orc"), std::ios::binary | std::ios::app) << "more";
+    const auto former = test::files_under(company_of(changed));
+    for (const bool exchanging : {true, false}) {
+        knows_exchange = exchanging;
+        // All of putting in place, some of the writes before it.
+        constexpr int enough = 90;
+        const int all = enough - put_back_with(enough, checked, from, demo_folder(changed));
+        const test::sampled writes(5);
+        for (int steps = all; steps >= 0;
+             steps -= steps > all - 4 ? 1 : static_cast<int>(writes.step)) {
+            SCOPED_TRACE(steps);
+            const bool ended = steps == all;
+            const demo_folder company(changed);
+            put_back_with(steps, checked, from, company);
+            std::size_t kept = 0;
+            for (const auto& one : std::filesystem::recursive_directory_iterator(company.drive())) {
+                kept += one.is_directory() && test::files_under(one.path()) == former ? 1U : 0U;
+            }
+            EXPECT_EQ(kept, 1U);
+            if (std::filesystem::exists(company_of(company))) {
+                const auto now = test::files_under(company_of(company));
+                EXPECT_TRUE(now == copied || (now == former && !ended));
+            } else {
+                EXPECT_FALSE(exchanging || ended) << "only where it takes two steps";
+            }
+            drive to(company.drive());
+            EXPECT_EQ(put_back(checked, from, 7, to, "dopo").fault, "");
+            EXPECT_EQ(test::files_under(company_of(company)), copied);
+        }
+    }
+    knows_exchange = true;
+}
+
+TEST(archive_restore, TheProgramTakesDownWhatItPutBackAndWhatItCouldNot) {
+    const demo_folder company(tiny);
+    const test::scratch_folder out;
+    drive copies(out.path());
+    const copy_outcome made = copying(company).make(copies, "copia");
+    std::ofstream(company.file("orc"), std::ios::binary | std::ios::app) << "more";
+    const auto restore = [&](const char* number) {
+        const std::string command =
+            "env -u XDG_STATE_HOME -u XDG_CONFIG_HOME HOME=" + out.path().string() +
+            " " ARCHIVE_PROGRAM " --drive " + company.drive().string() + " ordini" + number +
+            " restore --yes " + made.place.string() + " >" + (out.path() / "said").string() +
+            " 2>&1";
+        return WEXITSTATUS(std::system(command.c_str()));
+    };
+    EXPECT_EQ(restore("008"), 3);
+    EXPECT_EQ(restore("007"), 0);
+    const std::string book = test::bytes_of(out.path() / ".local/state/vantora-ordini/libro.txt");
+    const std::string which = "\tripristino\t" + made.place.string() + "\t";
+    EXPECT_NE(book.find("ditta 8" + which + "non fatto, la copia non è di questa ditta\n"),
+              std::string::npos)
+        << book;
+    EXPECT_NE(book.find("ditta 7" + which + "fatto\n"), std::string::npos) << book;
 }
 
 }  // namespace
