@@ -20,12 +20,21 @@ void text_reader::skip_line_end() {
     if (!at_end() && ends_line(content_[position_]) && content_[position_] != first) ++position_;
 }
 
-bool text_reader::line(std::string& into) {
+bool text_reader::line(std::string_view& into) {
     if (at_end()) return false;
-    const std::size_t begin = position_;
-    while (!at_end() && !ends_line(content_[position_])) ++position_;
-    into = content_.substr(begin, position_ - begin);
+    const std::string_view left = std::string_view(content_).substr(position_);
+    std::size_t length = 0;
+    while (length < left.size() && !ends_line(left[length])) ++length;
+    into = left.substr(0, length);
+    position_ += length;
     skip_line_end();
+    return true;
+}
+
+bool text_reader::line(std::string& into) {
+    std::string_view found;
+    if (!line(found)) return false;
+    into = found;
     return true;
 }
 

@@ -17,6 +17,8 @@ class text_reader {
 
     /// The text up to a carriage return, a line feed or both together, which are dropped.
     bool line(std::string& into);
+    /// The same without a copy: valid as long as this lies where it is.
+    bool line(std::string_view& into);
 
     /// One item: leading blanks are skipped; a text in double quotes loses them, and all up to the
     /// next comma or line end is dropped; otherwise the text up to the next comma or line end,

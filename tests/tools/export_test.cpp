@@ -326,6 +326,7 @@ TEST(archive_export, WhatIsMissingIsToldAndAnEarlierTargetStays) {
     std::string zeros(20 * sizeof(rec_tot), '\0');
     EXPECT_EQ(write(out.path() / "csv"), 2U);
     EXPECT_EQ(parsed(test::bytes_of(out.path() / "csv/mancanze.csv"), ',').size(), 3U);
+    EXPECT_EQ(csv_folder::obstacle(out.path() / "csv"), "") << "an incomplete one is one, too";
     std::ofstream(folder.file("tot"), std::ios::binary) << zeros;
     company_files emptied(folder.drive(), 7);
     EXPECT_GE(gaps_of(emptied).size(), 6U) << "counters of 0 over full files";

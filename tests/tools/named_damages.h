@@ -114,14 +114,15 @@ inline doing copied_behind(const std::function<void(rec_orc&)>& by, int counted 
     };
 }
 /// A line of a text file reads otherwise.
+inline void rewrite(const std::filesystem::path& file, int number, const char* text) {
+    std::string bytes = bytes_of(file);
+    std::size_t at = 0;
+    for (int line = 1; line < number; ++line) at = bytes.find("\r\n", at) + 2;
+    bytes.replace(at, bytes.find("\r\n", at) - at, text);
+    put(file, bytes);
+}
 inline doing says(const char* extension, int number, const char* text) {
-    return [=](const demo_folder& c) {
-        std::string bytes = bytes_of(c.file(extension));
-        std::size_t at = 0;
-        for (int line = 1; line < number; ++line) at = bytes.find("\r\n", at) + 2;
-        bytes.replace(at, bytes.find("\r\n", at) - at, text);
-        put(c.file(extension), bytes);
-    };
+    return [=](const demo_folder& c) { rewrite(c.file(extension), number, text); };
 }
 
 inline void save_unfinished(const demo_folder& c) {
@@ -284,6 +285,8 @@ inline const damage damages[] = {
      [](auto& c) { put(c.file("orc").replace_filename("b30000"), ""); }},
     {"a b file lost", "document-text-missing",
      [](auto& c) { std::filesystem::remove(c.file("orc").replace_filename("b2")); }},
+    {"article of a b file", "document-no-article",
+     [](auto& c) { rewrite(c.file("orc").replace_filename("b3"), 11, "999"); }},
     // Tables
     {"layout too short", "table-short", [](auto& c) { cut("lyo", 1000)(c); }},
     {"layout that says nothing", "layout-value", says("lyb", 7, "qui")},

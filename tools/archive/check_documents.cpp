@@ -3,6 +3,7 @@
 #include <set>
 
 #include "archive/check.h"
+#include "archive/document_text.h"
 #include "text/int16.h"
 #include "text/number_text.h"
 
@@ -49,13 +50,10 @@ class given_numbers {
 };
 
 /// The numbers of the text files that documents leave in the company's folder.
-std::set<std::int64_t> text_files_in(const std::filesystem::path& folder) {
+std::set<std::int64_t> text_files_in(const std::vector<std::string>& folder) {
     constexpr std::size_t digits_most = 10;
     std::set<std::int64_t> numbers;
-    std::error_code failed;
-    for (std::filesystem::directory_iterator entry(folder, failed), end; !failed && entry != end;
-         entry.increment(failed)) {
-        const std::string name = entry->path().filename().string();
+    for (const std::string& name : folder) {
         if (name.size() < 2 || name.size() > digits_most + 1 ||
             (name[0] != 'b' && name[0] != 'B') ||
             name.find_first_not_of("0123456789", 1) != std::string::npos) {
@@ -89,6 +87,22 @@ class missing_texts {
     bool any_ = false;
 };
 
+/// The articles in the lines of a document; those of the newest alone, as tens of thousands of text
+/// files take longer than all else.
+void check_lines(document_text& text, const rec_bol& one, const survey& found, findings& into) {
+    gaps told_otherwise;
+    if (!found.doubt.articles.empty() || !text.read(one, told_otherwise)) return;
+    for (std::size_t row = 1; row <= righe_blocco; ++row) {
+        const double article = text.number(document_text::line_of(row));
+        if (article <= found.known.articles()) continue;
+        into.push_back({gravity::warning, "document-no-article", document_of(one, found.known),
+                        "riga " + std::to_string(row) +
+                            " del suo file b: non c'è l'articolo numero " + plain_text(article),
+                        "Confrontare con la sua carta; il registro dei documenti lo mostra così."});
+        return;
+    }
+}
+
 void check_running_number(company_files& company, const std::set<std::int64_t>& texts,
                           findings& into) {
     constexpr float restarts_at = 1e9F;
@@ -107,32 +121,34 @@ void check_running_number(company_files& company, const std::set<std::int64_t>& 
 }  // namespace
 
 void check_documents(company_files& company, const survey& found, findings& into) {
+    constexpr int newest = 500;
     const auto& from = company.records().bol;
+    const int counted = company.count(contatori::documenti_trasporto);
     const masters& known = found.known;
+    document_text text(company);
     given_numbers numbers;
-    const auto texts = text_files_in(company.folder());
+    const auto texts = text_files_in(found.names);
     missing_texts missing(texts);
-    const int unread = scan(
-        from, company.count(contatori::documenti_trasporto), [&](std::int64_t, const rec_bol& one) {
-            const auto tell = [&](gravity how_bad, const char* kind, std::string what) {
-                into.push_back({how_bad, kind, document_of(one, known), std::move(what),
-                                "Confrontare con la sua carta; il registro dei documenti lo mostra "
-                                "così."});
-            };
-            if (found.doubt.customers.empty() &&
-                (one.cliente < 1 || one.cliente > known.customers())) {
-                tell(gravity::error, "document-no-customer",
-                     "non c'è il cliente numero " + std::to_string(one.cliente));
-            }
-            if (!is_stored_date(one.data.full())) {
-                tell(gravity::error, "document-date", "la data non è una data");
-            }
-            if (one.numero < 1) {
-                tell(gravity::warning, "document-number", "il numero non è un numero di documento");
-            }
-            numbers.add(one, known, into);
-            missing.look_for(one, known, into);
-        });
+    const int unread = scan(from, counted, [&](std::int64_t number, const rec_bol& one) {
+        const auto tell = [&](gravity how_bad, const char* kind, std::string what) {
+            into.push_back({how_bad, kind, document_of(one, known), std::move(what),
+                            "Confrontare con la sua carta; il registro dei documenti lo mostra "
+                            "così."});
+        };
+        if (found.doubt.customers.empty() && (one.cliente < 1 || one.cliente > known.customers())) {
+            tell(gravity::error, "document-no-customer",
+                 "non c'è il cliente numero " + std::to_string(one.cliente));
+        }
+        if (!is_stored_date(one.data.full())) {
+            tell(gravity::error, "document-date", "la data non è una data");
+        }
+        if (one.numero < 1) {
+            tell(gravity::warning, "document-number", "il numero non è un numero di documento");
+        }
+        numbers.add(one, known, into);
+        missing.look_for(one, known, into);
+        if (number > counted - newest) check_lines(text, one, found, into);
+    });
     if (tell_unread(from, unread, into) || !found.doubt.documents.empty()) return;
     numbers.tell_last(company.counter(contatori::documenti_trasporto).ultimo_numero, into);
     check_running_number(company, texts, into);

@@ -51,7 +51,7 @@ class index_check {
         }
         met_[place] = true;
         const auto key = index_.key_of(known_, one.record);
-        if (!key || compared_key(*key) == compared_key(one.key)) return;
+        if (!key || same_key(*key, one.key)) return;
         // Told of the record itself, whose key is left here alone.
         if (is_lost_key(*key, one.key)) return;
         tell("index-other-key", position, one, "in anagrafica è invece «" + words_of(*key) + "»",

@@ -195,7 +195,13 @@ void order_check::check_balance(const rec_orc& head, double open, bool has_quant
 
 void order_check::note_number(const rec_orc& head) {
     const std::string year = year_of(head);
-    numbers_.emplace_back(year + '/' + std::string(head.numero.trimmed()), registrazione_);
+    const auto [first, is_new] =
+        numbers_.emplace(year + '/' + std::string(head.numero.trimmed()), registrazione_);
+    if (!is_new) {
+        std::string& list = repeated_[first->first];
+        if (list.empty()) list = std::to_string(first->second);
+        list += ", " + std::to_string(registrazione_);
+    }
     latest_year_ = year;
     if (const auto number = to_int16(number_at_head(head.numero.full())).value_or(0)) {
         int& highest = highest_[year];
@@ -204,23 +210,12 @@ void order_check::note_number(const rec_orc& head) {
 }
 
 void order_check::tell_repeated_numbers() {
-    std::ranges::sort(numbers_);
-    for (auto first = numbers_.begin(); first != numbers_.end();) {
-        const auto end = std::find_if(first, numbers_.end(), [first](const auto& other) {
-            return other.first != first->first;
-        });
-        if (end - first > 1) {
-            std::string list;
-            for (auto one = first; one != end; ++one) {
-                list += (list.empty() ? "" : ", ") + std::to_string(one->second);
-            }
-            told_.push_back({gravity::note, "order-number-twice",
-                             "ordine " + words_of(std::string_view(first->first).substr(5)) +
-                                 " del " + words_of(std::string_view(first->first).substr(0, 4)),
-                             "lo stesso numero hanno le registrazioni " + list,
-                             "Se non è voluto, cambiarlo in tutti meno uno."});
-        }
-        first = end;
+    for (const auto& [number, list] : repeated_) {
+        told_.push_back({gravity::note, "order-number-twice",
+                         "ordine " + words_of(std::string_view(number).substr(5)) + " del " +
+                             words_of(std::string_view(number).substr(0, 4)),
+                         "lo stesso numero hanno le registrazioni " + list,
+                         "Se non è voluto, cambiarlo in tutti meno uno."});
     }
 }
 
@@ -236,7 +231,7 @@ void order_check::tell_last_number() {
 
 // The moment of a save goes through edits and compactions: who has another's is the same order.
 void order_check::tell_changed_twins(const std::vector<block_facts>& facts) {
-    std::map<std::uint64_t, std::size_t> first;
+    std::unordered_map<std::uint64_t, std::size_t> first;
     for (std::size_t block = 1; block < facts.size(); ++block) {
         const block_facts& its = facts[block];
         if (static_cast<int>(block) > found_.orders_counted) break;

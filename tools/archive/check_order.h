@@ -2,7 +2,7 @@
 
 #include <map>
 #include <string>
-#include <utility>
+#include <unordered_map>
 #include <vector>
 
 #include "archive/survey.h"
@@ -54,10 +54,11 @@ class order_check {
     block_problems problems_;
     int first_mixed_ = 0;  ///< block
     int registrazione_ = 0;
-    const rec_orc* head_ = nullptr;                     ///< of the order looked at
-    std::map<std::string_view, int> last_told_;         ///< by kind: an order is told once of each
-    std::vector<std::pair<std::string, int>> numbers_;  ///< "2024/12" and its block
-    std::map<std::string, int> highest_;                ///< number given in a year
+    const rec_orc* head_ = nullptr;                 ///< of the order looked at
+    std::map<std::string_view, int> last_told_;     ///< by kind: an order is told once of each
+    std::unordered_map<std::string, int> numbers_;  ///< "2024/12" and its first block
+    std::map<std::string, std::string> repeated_;   ///< and all blocks, where there are more
+    std::map<std::string, int> highest_;            ///< number given in a year
     std::string latest_year_;
 };
 

@@ -51,6 +51,16 @@ std::int16_t company_files::count(int record) const {
     return std::max<std::int16_t>(0, counter(record).quanti);
 }
 
+std::vector<std::string> names_in(const fs::path& folder) {
+    std::vector<std::string> names;
+    std::error_code failed;
+    for (fs::directory_iterator entry(folder, failed), end; !failed && entry != end;
+         entry.increment(failed)) {
+        names.push_back(entry->path().filename().string());
+    }
+    return names;
+}
+
 std::optional<std::string> company_files::lock_holder() const {
     const auto tot = records_.tot.shared_file();
     const auto holder = tot ? tot->locked_by() : std::nullopt;

@@ -47,6 +47,9 @@ class company_files {
     archivi records_;
 };
 
+/// The names of all that lies in a folder, as it tells them.
+std::vector<std::string> names_in(const std::filesystem::path& folder);
+
 /// Up to where a file is read that should have `count` records: what lies behind its end is no
 /// finding of its own. A record that is cut off counts.
 template <class Record>

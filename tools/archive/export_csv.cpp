@@ -2,8 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <iterator>
-#include <string_view>
 
 #include "archive/csv_text.h"
 #include "archive/words.h"
@@ -18,49 +16,10 @@ namespace {
 constexpr std::size_t handed_over_at = 1 << 20;
 constexpr const char* line_end = "\r\n";
 
-/// What an export may hold, in both languages: a list of any other name is somebody's own.
-constexpr std::string_view known_tables[] = {"altri_campi",
-                                             "other_fields",
-                                             "articoli",
-                                             "articles",
-                                             "aspetti",
-                                             "goods_aspects",
-                                             "categorie",
-                                             "categories",
-                                             "causali",
-                                             "transport_causes",
-                                             "clienti",
-                                             "customers",
-                                             "codici_iva",
-                                             "vat_codes",
-                                             "contatori",
-                                             "counters",
-                                             "ddt",
-                                             "transport_documents",
-                                             "mancanze",
-                                             "missing",
-                                             "movimenti",
-                                             "movements",
-                                             "ordini",
-                                             "orders",
-                                             "pagamenti",
-                                             "payments",
-                                             "parametri",
-                                             "parameters",
-                                             "preventivi",
-                                             "quotes",
-                                             "riferimenti_mancanti",
-                                             "missing_references",
-                                             "righe_ddt",
-                                             "transport_document_lines",
-                                             "righe_ordini",
-                                             "order_lines",
-                                             "righe_preventivi",
-                                             "quote_lines",
-                                             "testi_articoli",
-                                             "article_texts",
-                                             "vettori",
-                                             "carriers"};
+/// A list of any other name is somebody's own.
+bool is_name(const table_names& both, const std::string& name) {
+    return name == both.shop || name == both.program;
+}
 
 }  // namespace
 
@@ -82,14 +41,15 @@ std::string csv_folder::obstacle(const fs::path& folder) {
     bool exported = false;  // every export has its counters
     for (fs::directory_iterator each(folder, failed), none; !failed && each != none;
          each.increment(failed)) {
+        const std::string name = each->path().stem().string();
         if (!each->is_regular_file(failed) || each->path().extension() != ".csv" ||
-            std::ranges::find(known_tables, each->path().stem().string()) ==
-                std::end(known_tables)) {
+            std::ranges::none_of(names_of_tables,
+                                 [&](const auto& both) { return is_name(both, name); })) {
             return "contiene altro che un'esportazione (" + words_of_path(each->path().filename()) +
                    ")";
         }
         empty = false;
-        exported |= each->path().stem() == "contatori" || each->path().stem() == "counters";
+        exported |= is_name(names_of_tables[static_cast<std::size_t>(table_id::counters)], name);
     }
     if (failed) return "non si può leggere";
     return empty || exported ? "" : "contiene altro che un'esportazione";

@@ -1,50 +1,9 @@
+#include "archive/document_text.h"
 #include "archive/table_writer.h"
-#include "store/suite_paths.h"
-#include "store/text_reader.h"
-#include "text/number_text.h"
 
 namespace vantora::archive {
 
 namespace {
-
-/// A transport document as the text file beside its record tells it.
-struct snapshot {
-    static constexpr std::size_t head_lines = 10;
-    static constexpr std::size_t values_of_row = 10;
-    static constexpr std::size_t tail_lines = 10;
-    static constexpr std::size_t lines = head_lines + righe_blocco * values_of_row + tail_lines;
-
-    std::vector<std::string> values;  ///< one a line
-
-    [[nodiscard]] std::string text(std::size_t line) const { return cell_text(values[line]); }
-    [[nodiscard]] double number(std::size_t line) const { return number_at_head(values[line]); }
-};
-
-/// The file of a record, or what is wrong with it. That it isn't there is nothing wrong: the suite
-/// needs it no more once the document is out.
-std::optional<snapshot> snapshot_of(company_files& company, const rec_bol& record, gaps& missing) {
-    const std::string name = "b" + masked(double{float{record.progressivo}}, "##########0");
-    const std::string path = folder_of_company(company.numero_azienda()) + "\\" + name;
-    if (!company.files().exists(path)) return {};
-    auto content = company.files().read_whole(path);
-    if (!content) {
-        missing.push_back({name, "non si può leggere"});
-        return {};
-    }
-    snapshot read;
-    text_reader reader(std::move(*content));
-    for (std::string line; reader.line(line);) read.values.push_back(std::move(line));
-    if (read.values.size() < snapshot::lines) {
-        missing.push_back({name, "è tagliato"});
-        return {};
-    }
-    if (read.number(0) != record.cliente || read.number(1) != record.numero) {
-        missing.push_back(
-            {name, "è di un altro documento, non del " + std::to_string(record.numero)});
-        return {};
-    }
-    return read;
-}
 
 struct named_line {
     const char* column;
@@ -53,7 +12,7 @@ struct named_line {
     bool counted = false;  ///< a place in a list, from 0
 };
 
-constexpr std::size_t tail = snapshot::lines - snapshot::tail_lines;
+constexpr std::size_t tail = document_text::lines - document_text::tail_lines;
 constexpr named_line head_lines[] = {
     {"numero_scritto", "number_typed", 1},
     {"data_scritta", "date_typed", 2},
@@ -78,30 +37,31 @@ constexpr named_line head_lines[] = {
 
 void export_document_heads(company_files& company, table_writer& into, gaps& missing) {
     const naming& names = into.names;
-    exported_table table{names("ddt", "transport_documents"), {{"id", content::whole}}};
-    add_columns<rec_bol>(table.columns, names);
-    table.columns.push_back({names("con_righe", "with_lines"), content::whole});
+    std::vector<table_column> columns{{"id", content::whole}};
+    add_columns<rec_bol>(columns, names);
+    columns.push_back({names("con_righe", "with_lines"), content::whole});
     for (const named_line& one : head_lines) {
-        table.columns.push_back(
+        columns.push_back(
             {names(one.column, one.english), one.counted ? content::whole : content::words});
     }
-    into.begin(std::move(table));
+    into.begin(table_id::documents, std::move(columns));
     const auto& documents = company.records().bol;
+    document_text content(company);
     const int unread =
         scan(documents, company.count(contatori::documenti_trasporto),
              [&](std::int64_t number, const rec_bol& one) {
-                 const auto content = snapshot_of(company, one, missing);
+                 const bool known = content.read(one, missing);
                  into.row({number}, [&](auto& cells) {
                      add_cells(cells, one, into.to);
-                     cells.emplace_back(std::int64_t{content ? 1 : 0});
+                     cells.emplace_back(std::int64_t{known ? 1 : 0});
                      for (const named_line& place : head_lines) {
-                         if (!content) {
+                         if (!known) {
                              cells.emplace_back(std::string());
                          } else if (place.counted) {
                              cells.emplace_back(
-                                 static_cast<std::int64_t>(content->number(place.line)) + 1);
+                                 static_cast<std::int64_t>(content.number(place.line)) + 1);
                          } else {
-                             cells.emplace_back(content->text(place.line));
+                             cells.emplace_back(content.text(place.line));
                          }
                      }
                  });
@@ -110,7 +70,7 @@ void export_document_heads(company_files& company, table_writer& into, gaps& mis
     into.end();
 }
 
-void add_line(std::vector<cell_value>& cells, const snapshot& of, std::size_t at,
+void add_line(std::vector<cell_value>& cells, const document_text& of, std::size_t at,
               const referred& to) {
     const double article = of.number(at);
     if (article >= 1 && article <= to.articles) {
@@ -124,31 +84,29 @@ void add_line(std::vector<cell_value>& cells, const snapshot& of, std::size_t at
 
 void export_document_lines(company_files& company, table_writer& into) {
     const naming& names = into.names;
-    into.begin({names("righe_ddt", "transport_document_lines"),
-                {{names("ddt", "document"), content::whole, names("ddt", "transport_documents")},
-                 {names("riga", "line"), content::whole},
-                 {names("articolo", "article"), content::whole, names("articoli", "articles")},
-                 {names("codice", "code"), content::words},
-                 {names("descrizione", "description"), content::words},
-                 {names("unita_misura", "unit"), content::words},
-                 {names("sconto1", "discount1"), content::number},
-                 {names("sconto2", "discount2"), content::number},
-                 {names("codice_iva", "vat_code"), content::number},
-                 {names("quantita", "quantity"), content::number},
-                 {names("prezzo", "price"), content::number}},
-                2});
+    into.begin(table_id::document_lines,
+               {{names("ddt", "document"), content::whole, names(table_id::documents)},
+                {names("riga", "line"), content::whole},
+                {names("articolo", "article"), content::whole, names(table_id::articles)},
+                {names("codice", "code"), content::words},
+                {names("descrizione", "description"), content::words},
+                {names("unita_misura", "unit"), content::words},
+                {names("sconto1", "discount1"), content::number},
+                {names("sconto2", "discount2"), content::number},
+                {names("codice_iva", "vat_code"), content::number},
+                {names("quantita", "quantity"), content::number},
+                {names("prezzo", "price"), content::number}},
+               2);
     gaps told_already;
+    document_text content(company);
     scan(company.records().bol, company.count(contatori::documenti_trasporto),
          [&](std::int64_t number, const rec_bol& one) {
-             const auto content = snapshot_of(company, one, told_already);
-             for (std::size_t row = 0; content && row < righe_blocco; ++row) {
-                 const std::size_t at = snapshot::head_lines + row * snapshot::values_of_row;
-                 if (content->number(at) < 1 && content->text(at + 3).empty() &&
-                     content->number(at + 8) == 0 && content->number(at + 9) == 0) {
-                     continue;
-                 }
-                 into.row({number, static_cast<std::int64_t>(row) + 1},
-                          [&](auto& cells) { add_line(cells, *content, at, into.to); });
+             if (!content.read(one, told_already)) return;
+             for (std::size_t row = 1; row <= righe_blocco; ++row) {
+                 const std::size_t at = document_text::line_of(row);
+                 if (!content.has_row(at)) continue;
+                 into.row({number, static_cast<std::int64_t>(row)},
+                          [&](auto& cells) { add_line(cells, content, at, into.to); });
              }
          });
     into.end();

@@ -32,10 +32,11 @@ void every_record(company_files& company, const referred& to, Visit visit) {
     all(files.tot, static_cast<int>(files.tot.records_held().value_or(0)));
 }
 
-std::vector<table_column> place_columns(const naming& names) {
+std::vector<table_column> place_columns(const naming& names, content of_value) {
     return {{"file", content::words},
             {names("registrazione", "record"), content::whole},
-            {names("campo", "field"), content::words}};
+            {names("campo", "field"), content::words},
+            {names("valore", "value"), of_value}};
 }
 
 /// Fields that stand in the columns of orders and quotes as parts of something else; the texts of
@@ -63,9 +64,7 @@ std::int64_t export_leftovers(company_files& company, table_writer& into) {
     };
     const naming& names = into.names;
     std::vector<lost_reference> lost;
-    exported_table others{names("altri_campi", "other_fields"), place_columns(names), 3};
-    others.columns.push_back({names("valore", "value"), content::words});
-    into.begin(std::move(others));
+    into.begin(table_id::other_fields, place_columns(names, content::words), 3);
     every_record(
         company, into.to,
         [&](const std::string& file, std::int64_t number, const auto& one, bool head, bool line) {
@@ -81,10 +80,7 @@ std::int64_t export_leftovers(company_files& company, table_writer& into) {
         });
     into.end();
 
-    exported_table references{names("riferimenti_mancanti", "missing_references"),
-                              place_columns(names), 3};
-    references.columns.push_back({names("valore", "value"), content::whole});
-    into.begin(std::move(references));
+    into.begin(table_id::missing_references, place_columns(names, content::whole), 3);
     for (const lost_reference& one : lost) {
         into.row({one.file, one.record, std::string(one.field), one.value});
     }

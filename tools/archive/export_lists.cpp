@@ -15,21 +15,19 @@ std::vector<std::string> lines_of(company_files& company, const std::string& pat
     return lines;
 }
 
-void export_list(const char* name, const std::vector<std::string>& entries, std::int64_t first,
+void export_list(table_id which, const std::vector<std::string>& entries, std::int64_t first,
                  table_writer& into) {
-    into.begin(
-        {name,
-         {{"id", content::whole}, {into.names("descrizione", "description"), content::words}}});
+    into.begin(which, {{"id", content::whole},
+                       {into.names("descrizione", "description"), content::words}});
     for (const std::string& one : entries) into.row({first++, cell_text(one)});
     into.end();
 }
 
 void export_vat(const tabella_iva& vat, table_writer& into) {
     const naming& names = into.names;
-    into.begin({names("codici_iva", "vat_codes"),
-                {{"id", content::whole},
-                 {names("aliquota", "rate"), content::words},
-                 {names("descrizione", "description"), content::words}}});
+    into.begin(table_id::vat_codes, {{"id", content::whole},
+                                     {names("aliquota", "rate"), content::words},
+                                     {names("descrizione", "description"), content::words}});
     for (std::size_t code = 1; code <= 24; ++code) {
         into.row({static_cast<std::int64_t>(code),
                   code <= 12 ? cell_text(vat.aliquota_iva[code]) : std::string(),
@@ -40,11 +38,10 @@ void export_vat(const tabella_iva& vat, table_writer& into) {
 
 void export_carriers(const std::vector<vettore>& carriers, table_writer& into) {
     const naming& names = into.names;
-    into.begin({names("vettori", "carriers"),
-                {{"id", content::whole},
-                 {names("riga1", "line1"), content::words},
-                 {names("riga2", "line2"), content::words},
-                 {names("riga3", "line3"), content::words}}});
+    into.begin(table_id::carriers, {{"id", content::whole},
+                                    {names("riga1", "line1"), content::words},
+                                    {names("riga2", "line2"), content::words},
+                                    {names("riga3", "line3"), content::words}});
     std::int64_t number = 0;
     for (const vettore& one : carriers) {
         into.row({++number, cell_text(one[0]), cell_text(one[1]), cell_text(one[2])});
@@ -56,17 +53,17 @@ void export_carriers(const std::vector<vettore>& carriers, table_writer& into) {
 const char* counted_by(std::int64_t record, const naming& names) {
     switch (record) {
         case contatori::clienti:
-            return names("clienti", "customers");
+            return names(table_id::customers);
         case contatori::articoli:
-            return names("articoli", "articles");
+            return names(table_id::articles);
         case contatori::magazzino:
-            return names("movimenti", "movements");
+            return names(table_id::movements);
         case contatori::documenti_trasporto:
-            return names("ddt", "transport_documents");
+            return names(table_id::documents);
         case contatori::ordini:
-            return names("ordini", "orders");
+            return names(table_id::orders);
         case contatori::preventivi:
-            return names("preventivi", "quotes");
+            return names(table_id::quotes);
         default:
             return "";
     }
@@ -74,10 +71,10 @@ const char* counted_by(std::int64_t record, const naming& names) {
 
 void export_counters(company_files& company, table_writer& into, gaps& missing) {
     const naming& names = into.names;
-    exported_table table{names("contatori", "counters"),
-                         {{"id", content::whole}, {names("che_cosa", "what"), content::words}}};
-    add_columns<rec_tot>(table.columns, names);
-    into.begin(std::move(table));
+    std::vector<table_column> columns{{"id", content::whole},
+                                      {names("che_cosa", "what"), content::words}};
+    add_columns<rec_tot>(columns, names);
+    into.begin(table_id::counters, std::move(columns));
     const auto& counters = company.records().tot;
     const int unread = scan(counters, static_cast<int>(counters.records_held().value_or(0)),
                             [&](std::int64_t number, const rec_tot& one) {
@@ -99,11 +96,11 @@ constexpr parameter_file parameter_files[] = {
 /// The parameters of the company, field by field, and of its text files line by line.
 void export_parameters(company_files& company, table_writer& into) {
     const naming& names = into.names;
-    into.begin({names("parametri", "parameters"),
-                {{"file", content::words},
-                 {names("voce", "entry"), content::words},
-                 {names("valore", "value"), content::words}},
-                2});
+    into.begin(table_id::parameters,
+               {{"file", content::words},
+                {names("voce", "entry"), content::words},
+                {names("valore", "value"), content::words}},
+               2);
     const int number = company.numero_azienda();
     rec_gnr general;
     const auto bytes = company.files().read_whole(company_path(number, "gnr"));
@@ -131,14 +128,13 @@ void export_parameters(company_files& company, table_writer& into) {
 }  // namespace
 
 void export_lists(company_files& company, table_writer& into, gaps& missing) {
-    const naming& names = into.names;
     const tabella_suite table = read_suite_table(company.files(), company.numero_azienda());
     export_vat(table.iva, into);
-    export_list(names("pagamenti", "payments"), table.pagamenti, 1, into);
-    export_list(names("causali", "transport_causes"), table.causali, 1, into);
-    export_list(names("aspetti", "goods_aspects"), table.aspetti, 1, into);
+    export_list(table_id::payments, table.pagamenti, 1, into);
+    export_list(table_id::transport_causes, table.causali, 1, into);
+    export_list(table_id::goods_aspects, table.aspetti, 1, into);
     export_carriers(table.vettori, into);
-    export_list(names("categorie", "categories"),
+    export_list(table_id::categories,
                 lines_of(company, company_path(company.numero_azienda(), "tb2")), 0, into);
     export_counters(company, into, missing);
     export_parameters(company, into);

@@ -54,16 +54,16 @@ void add_choices(std::vector<cell_value>& into, const std::string& packed) {
 
 void export_order_heads(company_files& company, table_writer& into, gaps& missing) {
     const naming& names = into.names;
-    exported_table table{names("ordini", "orders"), {{"id", content::whole}}};
-    add_columns<rec_orc>(table.columns, names, of_head);
+    std::vector<table_column> columns{{"id", content::whole}};
+    add_columns<rec_orc>(columns, names, of_head);
     for (const head_text& one : head_texts) {
-        table.columns.push_back({names(one.column, one.english), content::words});
+        columns.push_back({names(one.column, one.english), content::words});
     }
-    table.columns.push_back({names("porto", "port"), content::words});
-    table.columns.push_back({names("trasporto", "transport"), content::words});
-    table.columns.push_back({names("pagamento", "payment"), content::whole});
-    table.columns.push_back({names("listino", "price_list"), content::whole});
-    into.begin(std::move(table));
+    columns.push_back({names("porto", "port"), content::words});
+    columns.push_back({names("trasporto", "transport"), content::words});
+    columns.push_back({names("pagamento", "payment"), content::whole});
+    columns.push_back({names("listino", "price_list"), content::whole});
+    into.begin(table_id::orders, std::move(columns));
     const auto& orders = company.records().orc;
     const int unread =
         scan_blocks(orders, company.count(contatori::ordini), [&](int block, rows order) {
@@ -81,17 +81,15 @@ void export_order_heads(company_files& company, table_writer& into, gaps& missin
 
 /// The lines of the blocks, keyed by block and row.
 template <class Row>
-void export_lines(const char* name, const char* of, const channel<Row>& from, int blocks,
-                  table_writer& into) {
+void export_lines(const channel<Row>& from, int blocks, table_writer& into) {
     const naming& names = into.names;
-    const bool orders = std::is_same_v<Row, rec_orc>;
-    exported_table table{name,
-                         {{orders ? names("ordine", "order_id") : names("preventivo", "quote_id"),
-                           content::whole, of},
-                          {names("riga", "line"), content::whole}},
-                         2};
-    add_columns<Row>(table.columns, names);
-    into.begin(std::move(table));
+    constexpr bool orders = std::is_same_v<Row, rec_orc>;
+    std::vector<table_column> columns{
+        {orders ? names("ordine", "order_id") : names("preventivo", "quote_id"), content::whole,
+         names(orders ? table_id::orders : table_id::quotes)},
+        {names("riga", "line"), content::whole}};
+    add_columns<Row>(columns, names);
+    into.begin(orders ? table_id::order_lines : table_id::quote_lines, std::move(columns), 2);
     scan_blocks(from, blocks, [&](int block, std::span<const Row> rows) {
         std::int64_t line = 0;
         for (const Row& row : rows) {
@@ -112,9 +110,9 @@ void export_lines(const char* name, const char* of, const channel<Row>& from, in
 
 void export_quote_heads(company_files& company, table_writer& into, gaps& missing) {
     const naming& names = into.names;
-    exported_table table{names("preventivi", "quotes"), {{"id", content::whole}}};
-    add_columns<rec_prv>(table.columns, names, of_head);
-    into.begin(std::move(table));
+    std::vector<table_column> columns{{"id", content::whole}};
+    add_columns<rec_prv>(columns, names, of_head);
+    into.begin(table_id::quotes, std::move(columns));
     const auto& quotes = company.records().prv;
     const int count = company.count(contatori::preventivi);
     const int unread = scan_blocks(quotes, count, [&](int block, std::span<const rec_prv> quote) {
@@ -128,14 +126,11 @@ void export_quote_heads(company_files& company, table_writer& into, gaps& missin
 }  // namespace
 
 void export_orders(company_files& company, table_writer& into, gaps& missing) {
-    const naming& names = into.names;
     archivi& files = company.records();
     export_order_heads(company, into, missing);
-    export_lines(names("righe_ordini", "order_lines"), names("ordini", "orders"), files.orc,
-                 company.count(contatori::ordini), into);
+    export_lines(files.orc, company.count(contatori::ordini), into);
     export_quote_heads(company, into, missing);
-    export_lines(names("righe_preventivi", "quote_lines"), names("preventivi", "quotes"), files.prv,
-                 company.count(contatori::preventivi), into);
+    export_lines(files.prv, company.count(contatori::preventivi), into);
 }
 
 }  // namespace vantora::archive

@@ -8,11 +8,11 @@ namespace {
 
 void export_long_texts(company_files& company, table_writer& into) {
     const naming& names = into.names;
-    into.begin({names("testi_articoli", "article_texts"),
-                {{names("articolo", "article"), content::whole, names("articoli", "articles")},
-                 {names("riga", "line"), content::whole},
-                 {names("testo", "text"), content::words}},
-                2});
+    into.begin(table_id::article_texts,
+               {{names("articolo", "article"), content::whole, names(table_id::articles)},
+                {names("riga", "line"), content::whole},
+                {names("testo", "text"), content::words}},
+               2);
     scan(company.records().prx, into.to.articles, [&](std::int64_t number, const rec_prx& one) {
         if (one.marca_testo != rec_prx::ha_testo) return;
         std::int64_t line = 0;
@@ -26,11 +26,9 @@ void export_long_texts(company_files& company, table_writer& into) {
 }
 
 void export_missing(const gaps& missing, table_writer& into) {
-    const naming& names = into.names;
-    into.begin({names("mancanze", "missing"),
-                {{"id", content::whole},
-                 {"file", content::words},
-                 {names("che_cosa", "what"), content::words}}});
+    into.begin(table_id::missing, {{"id", content::whole},
+                                   {"file", content::words},
+                                   {into.names("che_cosa", "what"), content::words}});
     std::int64_t number = 0;
     for (const gap& one : missing) into.row({++number, one.file, one.what});
     into.end();
@@ -42,14 +40,12 @@ export_outcome export_tables(company_files& company, table_sink& sink, bool engl
                              export_progress tell) {
     const referred to{company.count(contatori::clienti), company.count(contatori::articoli)};
     table_writer into(sink, english, to, std::move(tell));
-    const naming& names = into.names;
     archivi& files = company.records();
-    into.records(names("clienti", "customers"), files.cli, to.customers, missing);
-    into.records(names("articoli", "articles"), files.art, to.articles, missing);
+    into.records(table_id::customers, files.cli, to.customers, missing);
+    into.records(table_id::articles, files.art, to.articles, missing);
     export_long_texts(company, into);
     export_orders(company, into, missing);
-    into.records(names("movimenti", "movements"), files.mag, company.count(contatori::magazzino),
-                 missing);
+    into.records(table_id::movements, files.mag, company.count(contatori::magazzino), missing);
     export_documents(company, into, missing);
     export_lists(company, into, missing);
     export_outcome outcome;

@@ -12,6 +12,61 @@
 
 namespace vantora::archive {
 
+/// The tables that an export may hold.
+enum class table_id {
+    customers,
+    articles,
+    article_texts,
+    orders,
+    order_lines,
+    quotes,
+    quote_lines,
+    movements,
+    documents,
+    document_lines,
+    vat_codes,
+    payments,
+    transport_causes,
+    goods_aspects,
+    carriers,
+    categories,
+    counters,
+    parameters,
+    other_fields,
+    missing_references,
+    missing,
+};
+
+/// What each is called: by a shop, and for programs.
+struct table_names {
+    const char* shop;
+    const char* program;
+};
+
+inline constexpr table_names names_of_tables[] = {
+    {"clienti", "customers"},
+    {"articoli", "articles"},
+    {"testi_articoli", "article_texts"},
+    {"ordini", "orders"},
+    {"righe_ordini", "order_lines"},
+    {"preventivi", "quotes"},
+    {"righe_preventivi", "quote_lines"},
+    {"movimenti", "movements"},
+    {"ddt", "transport_documents"},
+    {"righe_ddt", "transport_document_lines"},
+    {"codici_iva", "vat_codes"},
+    {"pagamenti", "payments"},
+    {"causali", "transport_causes"},
+    {"aspetti", "goods_aspects"},
+    {"vettori", "carriers"},
+    {"categorie", "categories"},
+    {"contatori", "counters"},
+    {"parametri", "parameters"},
+    {"altri_campi", "other_fields"},
+    {"riferimenti_mancanti", "missing_references"},
+    {"mancanze", "missing"},
+};
+
 /// What a column of an exported table holds.
 enum class content { whole, number, words, date };
 

@@ -30,10 +30,7 @@ date date_of_day(std::int64_t days) {
 }  // namespace
 
 std::string cell_text(std::string_view stored) {
-    constexpr std::string_view padding(" \0", 2);
-    const std::size_t first = stored.find_first_not_of(padding);
-    if (first == std::string_view::npos) return {};
-    std::string kept(stored.substr(first, stored.find_last_not_of(padding) - first + 1));
+    const std::string_view kept = without_padding(stored);
     if (std::ranges::none_of(kept, is_control)) return to_utf8(kept);
     std::string shown;
     for (const char one : kept) shown += is_control(one) ? "\xEF\xBF\xBD" : to_utf8({&one, 1});

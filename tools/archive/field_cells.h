@@ -8,14 +8,26 @@ namespace vantora::archive {
 
 // Columns and cells of the records, by the tables of their fields.
 
-/// The columns' names: a shop's, or English ones for programs.
+/// The names: a shop's, or English ones for programs.
 struct naming {
     bool english = false;
 
     [[nodiscard]] const char* operator()(const char* shop, const char* program) const {
         return english ? program : shop;
     }
+    [[nodiscard]] const char* operator()(table_id which) const {
+        const table_names& both = names_of_tables[static_cast<std::size_t>(which)];
+        return english ? both.program : both.shop;
+    }
 };
+
+/// A text without what pads it.
+inline std::string_view without_padding(std::string_view stored) {
+    const auto pads = [](char one) { return one == ' ' || one == '\0'; };
+    while (!stored.empty() && pads(stored.back())) stored.remove_suffix(1);
+    while (!stored.empty() && pads(stored.front())) stored.remove_prefix(1);
+    return stored;
+}
 
 /// A text as a cell: without what pads it; a control character shows as one.
 std::string cell_text(std::string_view stored);
@@ -48,7 +60,7 @@ cell_value plain_cell(const Value& value) {
 template <class Value>
 bool is_empty(const Value& value) {
     if constexpr (detail::is_text<Value>) {
-        return value.full().find_first_not_of(std::string_view(" \0", 2)) == std::string_view::npos;
+        return without_padding(value.full()).empty();
     } else {
         return value == 0;
     }
@@ -89,8 +101,8 @@ table_column column_of(const Field& field, const naming& names) {
     if constexpr (detail::is_text<value>) column.of = content::words;
     if constexpr (std::is_same_v<value, i16le>) column.of = content::whole;
     if (field.means == meaning::date || field.means == meaning::day) column.of = content::date;
-    if (field.means == meaning::customer) column.refers_to = names("clienti", "customers");
-    if (field.means == meaning::article) column.refers_to = names("articoli", "articles");
+    if (field.means == meaning::customer) column.refers_to = names(table_id::customers);
+    if (field.means == meaning::article) column.refers_to = names(table_id::articles);
     return column;
 }
 

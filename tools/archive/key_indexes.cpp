@@ -1,10 +1,16 @@
 #include "archive/key_indexes.h"
 
+#include <algorithm>
+
 #include "archive/line_check.h"
 
 namespace vantora::archive {
 
 namespace {
+
+unsigned char code_of_capital(char one) {
+    return static_cast<unsigned char>(upper(one));
+}
 
 template <class Entry>
 key_index read_index(const channel<Entry>& from, const char* extension, bool of_customers) {
@@ -35,13 +41,17 @@ std::string key_index::record_named(const masters& known, int record) const {
     return of_customers ? "cliente " + known.customer_named(record) : known.article_named(record);
 }
 
-std::string compared_key(std::string_view key) {
-    return upper(trimmed(key));
+bool same_key(std::string_view one, std::string_view other) {
+    return std::ranges::equal(trimmed(one), trimmed(other), {}, code_of_capital, code_of_capital);
 }
 
 // Some sort by all characters of the key, some by it without the blanks around.
 bool out_of_order(std::string_view before, std::string_view key) {
-    return compared_key(key) < compared_key(before) && upper(key) < upper(before);
+    const auto precedes = [](std::string_view one, std::string_view other) {
+        return std::ranges::lexicographical_compare(one, other, {}, code_of_capital,
+                                                    code_of_capital);
+    };
+    return precedes(trimmed(key), trimmed(before)) && precedes(key, before);
 }
 
 bool is_lost_key(std::string_view of_record, std::string_view of_entry) {
@@ -63,7 +73,7 @@ bool fits(const key_index& index, const masters& known, int count) {
         if (!one.read || one.record < 1 || one.record > count) return false;
         const auto place = static_cast<std::size_t>(one.record);
         const auto key = index.key_of(known, one.record);
-        if (met[place] || !key || compared_key(*key) != compared_key(one.key)) return false;
+        if (met[place] || !key || !same_key(*key, one.key)) return false;
         if (i > 0 && out_of_order(index.entries[i - 1].key, one.key)) return false;
         met[place] = true;
     }

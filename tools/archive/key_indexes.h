@@ -33,8 +33,8 @@ struct key_index {
     [[nodiscard]] std::string record_named(const masters& known, int record) const;
 };
 
-/// What two keys are compared by.
-std::string compared_key(std::string_view key);
+/// Whether two keys are the same to the programs.
+bool same_key(std::string_view one, std::string_view other);
 
 /// Whether an entry with this key may not follow one with the other.
 bool out_of_order(std::string_view before, std::string_view key);

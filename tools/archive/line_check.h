@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cmath>
 
 #include "archive/finding.h"
@@ -12,18 +13,11 @@ namespace vantora::archive {
 /// something behind them.
 inline bool has_controls(std::string_view field) {
     constexpr std::string_view blanks = "        ";
-    bool zeros = false;
-    for (std::size_t i = 0; i < field.size(); ++i) {
-        // Most of most fields.
-        while (!zeros && field.substr(i, blanks.size()) == blanks) i += blanks.size();
-        if (i >= field.size()) break;
-        if (field[i] == '\0') {
-            zeros = true;
-        } else if (zeros || is_control(field[i])) {
-            return true;
-        }
-    }
-    return false;
+    const std::size_t width = field.size();
+    while (field.ends_with(blanks)) field.remove_suffix(blanks.size());
+    const bool blank_end = field.size() < width;
+    while (!blank_end && field.ends_with('\0')) field.remove_suffix(1);
+    return std::ranges::any_of(field, is_control);
 }
 
 /// Stock and quantities beyond what any shop has, which no mask could show; and what is no number.

@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
+#include <functional>
 
 #include "archive/line_check.h"
+#include "text/digit.h"
 
 namespace vantora::archive {
 
@@ -16,19 +18,12 @@ bool same_head(const rec_orc& one, const rec_orc& other) {
            one.data_evasione == other.data_evasione && one.impegno == other.impegno;
 }
 
-/// Mixes bytes eight at a time: quick, and good enough to tell blocks that are compared anyway.
-std::uint64_t mixed(std::uint64_t seed, std::span<const std::byte> bytes) {
+/// Mixes the bytes of a field or of the beginning of a row into a sum.
+template <class Field>
+std::uint64_t mixed(std::uint64_t sum, const Field& one, std::size_t bytes = sizeof(Field)) {
     constexpr std::uint64_t factor = 0x9E3779B97F4A7C15;
-    std::uint64_t sum = seed ^ (bytes.size() * factor);
-    while (!bytes.empty()) {
-        std::uint64_t word = 0;
-        const std::size_t taken = std::min(bytes.size(), sizeof word);
-        std::memcpy(&word, bytes.data(), taken);
-        sum = (sum ^ word) * factor;
-        sum ^= sum >> 29;
-        bytes = bytes.subspan(taken);
-    }
-    return sum;
+    const std::string_view all(reinterpret_cast<const char*>(&one), bytes);
+    return sum * factor + std::hash<std::string_view>()(all);
 }
 
 bool is_zero(const rec_orc& row) {
@@ -48,8 +43,17 @@ std::size_t first_foreign_row(order_rows order) {
 }
 
 bool is_stored_date(std::string_view yyyymmdd) {
-    return yyyymmdd.find_first_not_of("0123456789") == std::string_view::npos &&
-           read_date(date_text_of_stored(yyyymmdd)).has_value();
+    if (!std::ranges::all_of(yyyymmdd, is_digit)) return false;
+    const auto number = [yyyymmdd](std::size_t at, std::size_t digits) {
+        int value = 0;
+        for (const char digit : yyyymmdd.substr(at, digits)) value = value * 10 + (digit - '0');
+        return value;
+    };
+    const int year = number(0, 4);
+    const int month = number(4, 2);
+    const int day = number(6, 2);
+    // Programs read a day and a month that can only be meant the other way round.
+    return exists({year, month, day}) || exists({year, day, month});
 }
 
 block_facts facts_of(order_rows order) {
@@ -63,14 +67,13 @@ block_facts facts_of(order_rows order) {
     bool same_mark = true;
     for (const rec_orc& row : used) {
         facts.control_bytes = facts.control_bytes || has_controls_in_texts(row);
-        facts.print = mixed(facts.print, std::as_bytes(std::span(&row, 1)).first(before_mark));
+        facts.print = mixed(facts.print, row, before_mark);
         same_mark = same_mark && row.annullato == head.annullato;
     }
     const double saved = head.data_reg;
     if (saved >= 1 && saved <= latest_day) facts.day_saved = std::floor(saved);
     if (facts.day_saved > 0 && saved != facts.day_saved) {
-        facts.saved = mixed(mixed(1, std::as_bytes(std::span(&head.data_reg, 1))),
-                            std::as_bytes(std::span(&head.numero, 1)));
+        facts.saved = mixed(mixed(1, head.data_reg), head.numero);
     }
     facts.half_deleted = !same_mark && first_foreign_row(used) == used.size();
     facts.whole = same_mark && first_foreign_row(used) == used.size();

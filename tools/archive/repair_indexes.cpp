@@ -23,7 +23,7 @@ std::string key_for(const key_index& index, std::string_view key,
                     const std::vector<const key_index::entry*>& by_record, int record) {
     const auto* old = by_record[static_cast<std::size_t>(record)];
     std::string bytes(key.substr(0, index.width));
-    return old && compared_key(old->key) == compared_key(key) ? old->key : bytes;
+    return old && same_key(old->key, key) ? old->key : bytes;
 }
 
 rebuilt_index rebuild(const key_index& index, const masters& known) {
@@ -47,7 +47,7 @@ rebuilt_index rebuild(const key_index& index, const masters& known) {
                            words_of(old->key) + "»): prima correggere l'anagrafica";
             return made;
         }
-        if (old && compared_key(old->key) != compared_key(*key)) {
+        if (old && !same_key(old->key, *key)) {
             made.renamed.push_back("«" + words_of(old->key) + "» diventa «" + words_of(*key) + "»");
         }
         made.now.push_back({key_for(index, *key, by_record, record), record, true});

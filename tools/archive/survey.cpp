@@ -3,7 +3,10 @@
 namespace vantora::archive {
 
 survey::survey(company_files& company)
-    : known(company), indexes(read_key_indexes(company)), open(known.articles()) {}
+    : names(names_in(company.folder())),
+      known(company),
+      indexes(read_key_indexes(company)),
+      open(known.articles()) {}
 
 survey survey_company(company_files& company, const progress& tell) {
     if (tell) tell("anagrafiche", 0, 0);

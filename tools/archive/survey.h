@@ -42,6 +42,7 @@ using progress = std::function<void(const std::string& file, int done, int all)>
 struct survey {
     explicit survey(company_files& company);
 
+    std::vector<std::string> names;  ///< of what lies in the company's folder
     doubts doubt;
     masters known;
     std::array<key_index, 3> indexes;

@@ -71,13 +71,13 @@ void tell_unfinished_repair(const std::string& which, findings& into) {
                     "accanto (.copia1, .copia2...)."});
 }
 
-void survey_spellings(const fs::path& folder, findings& into) {
+void survey_spellings(const fs::path& folder, const std::vector<std::string>& all, findings& into) {
     const std::string mark = upper(std::string("vantora.") + unfinished_repair);
-    std::error_code failed;
     std::map<std::string, std::vector<std::string>> spellings;
-    for (fs::directory_iterator entry(folder, failed), end; !failed && entry != end;
-         entry.increment(failed)) {
-        const std::string name = words_of_path(entry->path().filename());
+    for (const std::string& one : all) {
+        // Most are the text files of documents.
+        if (upper(one[0]) == 'B') continue;
+        const std::string name = words_of_path(one);
         const std::string capitals = upper(from_utf8(name));
         if (capitals.starts_with(mark)) {
             tell_unfinished_repair(name.substr(mark.size()), into);
@@ -148,8 +148,9 @@ std::string obstacle_at(company_files& company, const std::string& path) {
 
 void survey_files(company_files& company, survey& into) {
     for (const record_file& file : record_files) survey_file(file, company, into);
-    survey_spellings(company.folder(), into.all);
-    survey_spellings(company.folder().parent_path(), into.all);
+    const fs::path folder = company.folder();
+    survey_spellings(folder, into.names, into.all);
+    survey_spellings(folder.parent_path(), names_in(folder.parent_path()), into.all);
     survey_counters_file(company, into);
 }
 

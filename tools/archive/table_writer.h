@@ -12,10 +12,11 @@ class table_writer {
     table_writer(table_sink& into, bool english, const referred& to, export_progress tell)
         : names{english}, to(to), into_(into), tell_(std::move(tell)) {}
 
-    void begin(exported_table table) {
+    /// `key_columns` of the columns in front are its key.
+    void begin(table_id which, std::vector<table_column> columns, int key_columns = 1) {
         ++tables_;
-        table_ = table.name;
-        into_.begin(table);
+        table_ = names(which);
+        into_.begin({names(which), std::move(columns), key_columns});
     }
     void end() { into_.end(); }
 
@@ -33,10 +34,10 @@ class table_writer {
 
     /// A table of the named fields of all records of a file, with their numbers as `id`.
     template <class Record>
-    void records(const char* name, const channel<Record>& from, int count, gaps& missing) {
-        exported_table table{name, {{"id", content::whole}}};
-        add_columns<Record>(table.columns, names);
-        begin(std::move(table));
+    void records(table_id which, const channel<Record>& from, int count, gaps& missing) {
+        std::vector<table_column> columns{{"id", content::whole}};
+        add_columns<Record>(columns, names);
+        begin(which, std::move(columns));
         const int unread = scan(from, count, [&](std::int64_t number, const Record& one) {
             row({number}, [&](auto& cells) { add_cells(cells, one, to); });
         });
@@ -73,9 +74,8 @@ std::int64_t export_leftovers(company_files& company, table_writer& into);
 /// Whether a row of an order or quote holds a line.
 template <class Row>
 bool is_used(const Row& row) {
-    return row.articolo > 0 || row.quantita != 0 || row.prezzo != 0 ||
-           !cell_text(row.descrizione.full()).empty() ||
-           !cell_text(row.descrizione2.full()).empty();
+    return row.articolo > 0 || row.quantita != 0 || row.prezzo != 0 || !is_empty(row.descrizione) ||
+           !is_empty(row.descrizione2);
 }
 
 /// The description of a row, of its two fields.

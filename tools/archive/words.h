@@ -11,6 +11,7 @@ namespace vantora::archive {
 /// Whether a terminal may take a byte of the code page for a command.
 constexpr bool is_control(char character) {
     const auto code = static_cast<unsigned char>(character);
+    if (code >= 0x20 && code < 0x7F) return false;
     return code < 0x20 || code == 0x7F || code == 0x81 || code == 0x8D || code == 0x8F ||
            code == 0x90 || code == 0x9D;
 }
