@@ -13,35 +13,6 @@ namespace {
 
 constexpr std::size_t at_once = 1 << 20;
 
-/// Hands a file over in stretches, in order: take(offset, bytes). False if a read or a take failed.
-template <class Take>
-bool in_stretches(file& from, Take take) {
-    std::vector<std::byte> stretch(at_once);
-    for (std::int64_t offset = 0;;) {
-        const auto got = from.read(offset, stretch);
-        if (!got) return false;
-        if (!take(offset, std::span(stretch).first(*got))) return false;
-        offset += static_cast<std::int64_t>(*got);
-        if (*got < stretch.size()) return true;
-    }
-}
-
-/// Takes in all bytes of a file, in order.
-class marker {
- public:
-    void add(std::span<const std::byte> bytes) {
-        for (const std::byte one : bytes) {
-            mark_ = (mark_ ^ std::to_integer<std::uint64_t>(one)) * 0x100000001B3;
-        }
-        size_ += static_cast<std::int64_t>(bytes.size());
-    }
-    [[nodiscard]] copied_file of(const std::string& path) const { return {path, size_, mark_}; }
-
- private:
-    std::uint64_t mark_ = 0xCBF29CE484222325;
-    std::int64_t size_ = 0;
-};
-
 void add_files(const fs::path& root, const fs::path& folder, bool tables_only,
                std::vector<listed_file>& into) {
     const auto add = [&](const fs::directory_entry& one) {
@@ -58,28 +29,26 @@ void add_files(const fs::path& root, const fs::path& folder, bool tables_only,
     }
 }
 
-/// The mark of a file's bytes; empty if it can't be read.
-std::optional<copied_file> marked(file& from, const std::string& path, copy_pace& pace) {
-    marker bytes;
-    const bool read = in_stretches(from, [&](std::int64_t, auto stretch) {
-        bytes.add(stretch);
-        pace.add(stretch.size());
-        return true;
-    });
-    if (!read) return {};
-    return bytes.of(path);
-}
-
-/// Copies the bytes of a file and flushes them.
-std::optional<copied_file> copied(file& from, file& to, const std::string& path, copy_pace& pace) {
-    marker bytes;
-    const bool done = in_stretches(from, [&](std::int64_t offset, auto stretch) {
-        bytes.add(stretch);
-        pace.add(stretch.size());
-        return stretch.empty() || to.write(offset, stretch);
-    });
-    if (!done || !to.flush()) return {};
-    return bytes.of(path);
+/// Reads a file whole, for its mark, and writes and flushes it `to` another one unless that is
+/// null. Empty if something refused.
+std::optional<copied_file> passed(file& from, file* to, const std::string& path, copy_pace& pace) {
+    copied_file all{path, 0, 0xCBF29CE484222325};
+    std::vector<std::byte> stretch(at_once);
+    bool more = true;
+    while (more) {
+        const auto got = from.read(all.size, stretch);
+        if (!got) return {};
+        const auto bytes = std::span(stretch).first(*got);
+        for (const std::byte one : bytes) {
+            all.mark = (all.mark ^ std::to_integer<std::uint64_t>(one)) * 0x100000001B3;
+        }
+        pace.add(*got);
+        if (to && !bytes.empty() && !to->write(all.size, bytes)) return {};
+        all.size += static_cast<std::int64_t>(*got);
+        more = *got == stretch.size();
+    }
+    if (to && !to->flush()) return {};
+    return all;
 }
 
 }  // namespace
@@ -103,13 +72,13 @@ std::optional<copied_file> copy_over(file_port& from, const std::string& path, f
     const auto source = from.open_records(drive_path(path));
     const auto made = to.create(drive_path(target));
     if (!source || !made) return {};
-    return copied(*source, *made, path, pace);
+    return passed(*source, made.get(), path, pace);
 }
 
 std::optional<copied_file> read_over(file_port& from, const std::string& path, copy_pace& pace) {
     const auto source = from.open_records(drive_path(path));
     if (!source) return {};
-    return marked(*source, path, pace);
+    return passed(*source, nullptr, path, pace);
 }
 
 std::string copied_beside(file_port& files, const std::string& path, std::string& why) {
@@ -129,8 +98,8 @@ std::string copied_beside(file_port& files, const std::string& path, std::string
         return {};
     }
     copy_pace unseen;
-    const auto made = copied(*from, *aside, path, unseen);
-    if (!made || made != marked(*aside, path, unseen) || !aside->put_in_place()) {
+    const auto made = passed(*from, aside.get(), path, unseen);
+    if (!made || made != passed(*aside, nullptr, path, unseen) || !aside->put_in_place()) {
         why = "il disco ha rifiutato una lettura o una scrittura";
         return {};
     }

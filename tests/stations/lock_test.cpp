@@ -124,12 +124,11 @@ const command commands[] = {
      [](auto&) {},
      [](auto& at) {
          std::ostringstream said;
-         archive::repair_ordered_quantities({at.real, 1,
-                                             [&](bool) {
-                                                 at.front.at_box();
-                                                 return true;
-                                             },
-                                             said});
+         const auto confirmed = [&](bool) {
+             at.front.at_box();
+             return true;
+         };
+         archive::carry_out(archive::repairs[0], {at.real, 1, confirmed, said});
      }},
 };
 

@@ -249,10 +249,6 @@ inline const damage damages[] = {
     {"quote of no customer", "quote-no-customer", quote(&rec_prv::cliente, gone)},
     {"quote of no date", "quote-date", quote(&rec_prv::data, "20240230")},
     {"quoted article", "quote-line-no-article", quote_line(&rec_prv::articolo, gone)},
-    {"quoted quantity", "quote-line-no-number", quote_line(&rec_prv::quantita, nan)},
-    {"quoted price", "quote-line-absurd", quote_line(&rec_prv::prezzo, 1e12)},
-    {"quoted VAT code", "quote-line-vat-code", quote_line(&rec_prv::iva, i25)},
-    {"quoted discount", "quote-line-discount", quote_line(&rec_prv::sc1, i101)},
     {"quoted text", "quote-line-text", quote_line(&rec_prv::um, "\x01")},
     // Articles and customers
     {"ordered", "ordered-quantity", any("art", &rec_art::ordinato_clienti, 1e6)},

@@ -14,34 +14,34 @@ using test::blocks_that_are;
 using test::demo_folder;
 using test::wrong;
 
+/// In the order of the table of repairs.
 struct repair_case {
     const char* name;
-    int (*run)(const repair_request&);
     const char* extension;  ///< of the file that it writes
     std::function<void(const demo_folder&)> damage;
 };
 
 const repair_case cases[] = {
-    {"ordered", repair_ordered_quantities, "art",
+    {"ordered", "art",
      [](auto& c) {
          for (const int number : {3, 9, 20}) {
              wrong("art", number, &rec_art::ordinato_clienti, std::nan(""))(c);
          }
      }},
-    {"doubled", repair_doubled_orders, "orc",
+    {"doubled", "orc",
      [](auto& c) {
          const auto open = blocks_that_are(c, true);
          test::copy_block(c, static_cast<std::size_t>(open[0]), 21);
          test::copy_block(c, static_cast<std::size_t>(open[1]), 22);
          wrong("tot", contatori::ordini, &rec_tot::quanti, std::int16_t{22})(c);
      }},
-    {"indexes", repair_indexes, "src",
+    {"indexes", "src",
      [](auto& c) {
          const auto first = test::records_of<rec_src>(c.file("src"))[0];
          test::change<rec_src>(c, "src", 2, [&](rec_src& e) { e = first; });
          std::filesystem::resize_file(c.file("srb"), 100);
      }},
-    {"counters", repair_counters, "tot",
+    {"counters", "tot",
      [](auto& c) {
          wrong("tot", contatori::clienti, &rec_tot::quanti, std::int16_t{4})(c);
          wrong("tot", contatori::ordini, &rec_tot::quanti, std::int16_t{4})(c);
@@ -53,7 +53,8 @@ int lines_of_book = 0;
 int run(const repair_case& one, file_port& files, bool yes, std::string* said = nullptr) {
     std::ostringstream out;
     const auto book = [](archivi& changed) { changed.book = [](auto&&...) { ++lines_of_book; }; };
-    const int result = one.run({files, 7, [yes](bool) { return yes; }, out, book});
+    const int result =
+        carry_out(repairs[&one - cases], {files, 7, [yes](bool) { return yes; }, out, book});
     if (said) *said = out.str();
     return result;
 }

@@ -1,11 +1,25 @@
 #pragma once
 
+#include <filesystem>
+#include <iosfwd>
+
 #include "archive/survey.h"
 
 namespace vantora::archive {
 
 /// Everything that can be told of an archive from its files alone, causes before effects.
 findings check_archive(company_files& company, const progress& tell = {});
+
+struct check_request {
+    bool json = false;
+    bool quiet = false;  ///< nothing unless something is found
+    bool all = false;    ///< every company of the drive
+};
+
+/// Checks a company, or all, and tells what was found: 0 sound, 1 findings, 3 nothing to read.
+/// While it takes long, `progress` shows how far it is; null: nobody looks.
+int report_check(const std::filesystem::path& root, int numero_azienda,
+                 const check_request& request, std::ostream& out, std::ostream* progress);
 
 // One subject each; what follows from a doubt of the survey isn't told
 // -------------------------------

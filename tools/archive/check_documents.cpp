@@ -4,6 +4,7 @@
 
 #include "archive/check.h"
 #include "archive/document_text.h"
+#include "archive/given_numbers.h"
 #include "text/int16.h"
 #include "text/number_text.h"
 
@@ -16,38 +17,6 @@ std::string document_of(const rec_bol& one, const masters& known) {
            without_controls(date_text_of_stored(one.data.full())) + ", " +
            known.customer_named(one.cliente);
 }
-
-/// The numbers given, by year.
-class given_numbers {
- public:
-    void add(const rec_bol& one, const masters& known, findings& into) {
-        const std::string year(one.data.full().substr(0, 4));
-        if (!given_[{year, one.numero}]++) {
-            highest_[year] = std::max<int>(highest_[year], one.numero);
-        } else if (one.numero > 0) {
-            into.push_back({gravity::warning, "document-number-twice", document_of(one, known),
-                            "questo numero è stato dato già nello stesso anno",
-                            "Vedere sulle carte quale dei due lo ha davvero."});
-        }
-        if (is_stored_date(one.data.full())) latest_ = year;
-    }
-
-    void tell_last(int last, findings& into) const {
-        const auto highest = highest_.find(latest_);
-        if (highest == highest_.end() || last >= highest->second) return;
-        into.push_back({gravity::warning, "last-document-low",
-                        "contatore dei documenti di trasporto (vantora.tot, 12)",
-                        "l'ultimo numero è " + std::to_string(last) + ", ma nel " + latest_ +
-                            " si è arrivati a " + std::to_string(highest->second),
-                        "Nel prossimo documento scrivere il numero giusto: quello proposto c'è "
-                        "già."});
-    }
-
- private:
-    std::map<std::pair<std::string, int>, int> given_;
-    std::map<std::string, int> highest_;
-    std::string latest_;
-};
 
 /// The numbers of the text files that documents leave in the company's folder.
 std::set<std::int64_t> text_files_in(const std::vector<std::string>& folder) {
@@ -64,28 +33,11 @@ std::set<std::int64_t> text_files_in(const std::vector<std::string>& folder) {
     return numbers;
 }
 
-/// The documents behind the first whose text file is there, but without one themselves. Nothing but
-/// the window of the documents given out needs those files, and old ones are set aside.
-class missing_texts {
- public:
-    explicit missing_texts(const std::set<std::int64_t>& there) : there_(there) {}
-
-    void look_for(const rec_bol& one, const masters& known, findings& into) {
-        const float number = one.progressivo;
-        if (!(number >= 1 && number <= 1e9F)) return;
-        if (there_.contains(static_cast<std::int64_t>(number))) {
-            any_ = true;
-        } else if (any_) {
-            into.push_back({gravity::note, "document-text-missing", document_of(one, known),
-                            "non c'è il suo file b" + std::to_string(static_cast<int>(number)),
-                            "Non si può più rivedere né ristampare: cercarlo in una copia."});
-        }
-    }
-
- private:
-    const std::set<std::int64_t>& there_;
-    bool any_ = false;
-};
+/// The number of its text file; 0 for what is none.
+std::int64_t text_file_of(const rec_bol& one) {
+    const float number = one.progressivo;
+    return number >= 1 && number <= 1e9F ? static_cast<std::int64_t>(number) : 0;
+}
 
 /// The articles in the lines of a document; those of the newest alone, as tens of thousands of text
 /// files take longer than all else.
@@ -127,8 +79,9 @@ void check_documents(company_files& company, const survey& found, findings& into
     const masters& known = found.known;
     document_text text(company);
     given_numbers numbers;
+    std::map<std::pair<std::string, int>, int> met;  ///< year and number
     const auto texts = text_files_in(found.names);
-    missing_texts missing(texts);
+    bool any_text = false;
     const int unread = scan(from, counted, [&](std::int64_t number, const rec_bol& one) {
         const auto tell = [&](gravity how_bad, const char* kind, std::string what) {
             into.push_back({how_bad, kind, document_of(one, known), std::move(what),
@@ -145,12 +98,30 @@ void check_documents(company_files& company, const survey& found, findings& into
         if (one.numero < 1) {
             tell(gravity::warning, "document-number", "il numero non è un numero di documento");
         }
-        numbers.add(one, known, into);
-        missing.look_for(one, known, into);
+        const std::string year(one.data.full().substr(0, 4));
+        if (met[{year, one.numero}]++ == 0) {
+            numbers.add(year, one.numero);
+        } else if (one.numero > 0) {
+            into.push_back({gravity::warning, "document-number-twice", document_of(one, known),
+                            "questo numero è stato dato già nello stesso anno",
+                            "Vedere sulle carte quale dei due lo ha davvero."});
+        }
+        if (is_stored_date(one.data.full())) numbers.last_was_in(year);
+        const std::int64_t text_file = text_file_of(one);
+        // Only the window of the documents given out needs them, and old ones are set aside.
+        if (text_file > 0 && texts.contains(text_file)) {
+            any_text = true;
+        } else if (text_file > 0 && any_text) {
+            into.push_back({gravity::note, "document-text-missing", document_of(one, known),
+                            "non c'è il suo file b" + std::to_string(text_file),
+                            "Non si può più rivedere né ristampare: cercarlo in una copia."});
+        }
         if (number > counted - newest) check_lines(text, one, found, into);
     });
     if (tell_unread(from, unread, into) || !found.doubt.documents.empty()) return;
-    numbers.tell_last(company.counter(contatori::documenti_trasporto).ultimo_numero, into);
+    numbers.tell_last(company.counter(contatori::documenti_trasporto).ultimo_numero,
+                      "last-document-low", "contatore dei documenti di trasporto (vantora.tot, 12)",
+                      "documento", into);
     check_running_number(company, texts, into);
 }
 

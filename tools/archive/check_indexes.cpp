@@ -6,7 +6,6 @@ namespace {
 
 constexpr const char* rebuild = "Rifare l'indice con «repair indexes».";
 
-/// What stands in one index, entry by entry.
 class index_check {
  public:
     index_check(const key_index& index, const survey& found, findings& into)

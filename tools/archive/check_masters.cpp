@@ -16,15 +16,12 @@ void check_customer(int number, const rec_cli& one, const masters& known, findin
         tell("customer-nameless", "non ha nome",
              "Scriverlo nell'anagrafica dei clienti; l'indice dei nomi può averlo ancora.");
     }
-    for (const std::string_view field :
-         {one.intestazione1.full(), one.intestazione2.full(), one.indirizzo.full(),
-          one.citta.full(), one.cap.full(), one.amm_intestazione1.full(),
-          one.amm_intestazione2.full(), one.amm_indirizzo.full(), one.amm_citta.full(),
-          one.partita_iva.full(), one.email.full()}) {
-        if (!has_controls(field)) continue;
+    if (any_has_controls({one.intestazione1.full(), one.intestazione2.full(), one.indirizzo.full(),
+                          one.citta.full(), one.cap.full(), one.amm_intestazione1.full(),
+                          one.amm_intestazione2.full(), one.amm_indirizzo.full(),
+                          one.amm_citta.full(), one.partita_iva.full(), one.email.full()})) {
         tell("customer-text", "un suo dato contiene caratteri che non si scrivono",
              "Riscriverlo nell'anagrafica dei clienti.");
-        break;
     }
     if (one.sconto1 > 100 || one.sconto2 > 100 || one.sconto1 < -100 || one.sconto2 < -100) {
         tell("customer-discount",
@@ -78,8 +75,8 @@ void check_article(int number, const rec_art& one, const masters& known, finding
         tell(gravity::warning, "article-without-code", "non ha codice",
              "Scriverlo nell'anagrafica degli articoli: senza non si trova.");
     }
-    if (has_controls(one.codice.full()) || has_controls(one.descrizione.full()) ||
-        has_controls(one.codice_barre.full()) || has_controls(one.um.full())) {
+    if (any_has_controls(
+            {one.codice.full(), one.descrizione.full(), one.codice_barre.full(), one.um.full()})) {
         tell(gravity::warning, "article-text", "un suo dato contiene caratteri che non si scrivono",
              "Riscriverlo nell'anagrafica degli articoli.");
     }

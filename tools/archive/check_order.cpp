@@ -11,10 +11,6 @@ namespace vantora::archive {
 
 namespace {
 
-std::string year_of(const rec_orc& head) {
-    return std::string(head.data.full().substr(0, 4));
-}
-
 std::string row_named(std::size_t number) {
     return "riga " + std::to_string(number) + ": ";
 }
@@ -60,14 +56,13 @@ void order_check::tell_twin(int registrazione, order_rows used, int of, bool hal
 }
 
 void order_check::check_rows_agree(order_rows order, const block_facts& facts) {
-    if (facts.whole || facts.half_deleted) {
-        if (facts.whole) return;
-        if (problems_.mixed++ == 0) first_mixed_ = registrazione_;
+    if (facts.whole) return;
+    if (problems_.mixed++ == 0) first_mixed_ = registrazione_;
+    if (facts.half_deleted) {
         return tell(gravity::error, "order-half-deleted", "alcune righe sono eliminate e altre no",
                     "Un'eliminazione è stata interrotta: confrontare l'ordine con le carte e con "
                     "le quantità ordinate dei suoi articoli.");
     }
-    if (problems_.mixed++ == 0) first_mixed_ = registrazione_;
     tell(gravity::error, "order-mixed",
          "dalla riga " + std::to_string(first_foreign_row(order) + 1) +
              " in poi le righe sono di un altro ordine o di un salvataggio precedente",
@@ -93,8 +88,8 @@ void order_check::check_head(const rec_orc& head) {
         tell(gravity::error, "order-date", "la data dell'ordine o della consegna non è una data",
              "Aprire l'ordine e riscrivere le date.");
     }
-    if (has_controls(head.numero.full()) || has_controls(head.testo1.full()) ||
-        has_controls(head.testo2.full()) || has_controls(head.testo3.full())) {
+    if (any_has_controls(
+            {head.numero.full(), head.testo1.full(), head.testo2.full(), head.testo3.full()})) {
         tell(gravity::warning, "order-text",
              "il numero o la descrizione contiene caratteri che non si scrivono",
              "Aprire l'ordine e riscrivere i riferimenti.");
@@ -194,7 +189,7 @@ void order_check::check_balance(const rec_orc& head, double open, bool has_quant
 }
 
 void order_check::note_number(const rec_orc& head) {
-    const std::string year = year_of(head);
+    const std::string year(head.data.full().substr(0, 4));
     const auto [first, is_new] =
         numbers_.emplace(year + '/' + std::string(head.numero.trimmed()), registrazione_);
     if (!is_new) {
@@ -202,11 +197,9 @@ void order_check::note_number(const rec_orc& head) {
         if (list.empty()) list = std::to_string(first->second);
         list += ", " + std::to_string(registrazione_);
     }
-    latest_year_ = year;
-    if (const auto number = to_int16(number_at_head(head.numero.full())).value_or(0)) {
-        int& highest = highest_[year];
-        highest = std::max<int>(highest, number);
-    }
+    given_.last_was_in(year);
+    const int number = to_int16(number_at_head(head.numero.full())).value_or(0);
+    if (number != 0) given_.add(year, number);
 }
 
 void order_check::tell_repeated_numbers() {
@@ -217,16 +210,6 @@ void order_check::tell_repeated_numbers() {
                          "lo stesso numero hanno le registrazioni " + list,
                          "Se non è voluto, cambiarlo in tutti meno uno."});
     }
-}
-
-void order_check::tell_last_number() {
-    const auto highest = highest_.find(latest_year_);
-    if (highest == highest_.end() || last_number_ >= highest->second) return;
-    told_.push_back(
-        {gravity::warning, "last-number-low", "contatore degli ordini (vantora.tot, 14)",
-         "l'ultimo numero è " + std::to_string(last_number_) + ", ma nel " +
-             words_of(latest_year_) + " si è arrivati a " + std::to_string(highest->second),
-         "Nel prossimo ordine scrivere il numero giusto: quello proposto c'è già."});
 }
 
 // The moment of a save goes through edits and compactions: who has another's is the same order.
@@ -265,7 +248,10 @@ void order_check::tell_all(const std::vector<block_facts>& facts, findings& into
     if (told_shifted(into)) return;
     tell_changed_twins(facts);
     tell_repeated_numbers();
-    if (found_.doubt.orders.empty()) tell_last_number();
+    if (found_.doubt.orders.empty()) {
+        given_.tell_last(last_number_, "last-number-low",
+                         "contatore degli ordini (vantora.tot, 14)", "ordine", told_);
+    }
     into.append(told_);
 }
 

@@ -5,6 +5,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "archive/given_numbers.h"
 #include "archive/survey.h"
 
 namespace vantora::archive {
@@ -45,7 +46,6 @@ class order_check {
     void note_number(const rec_orc& head);
     [[nodiscard]] bool told_shifted(findings& into) const;
     void tell_repeated_numbers();
-    void tell_last_number();
     void tell_changed_twins(const std::vector<block_facts>& facts);
 
     const survey& found_;
@@ -58,8 +58,7 @@ class order_check {
     std::map<std::string_view, int> last_told_;     ///< by kind: an order is told once of each
     std::unordered_map<std::string, int> numbers_;  ///< "2024/12" and its first block
     std::map<std::string, std::string> repeated_;   ///< and all blocks, where there are more
-    std::map<std::string, int> highest_;            ///< number given in a year
-    std::string latest_year_;
+    given_numbers given_;
 };
 
 }  // namespace vantora::archive

@@ -19,7 +19,6 @@ std::string moment() {
     return end_of_copy(now_here());
 }
 
-/// Shows how far it is where somebody looks.
 copy_progress shown_by(progress_line& line, const char* what) {
     return [&line, what](std::int64_t done, std::int64_t all) { line.show(what, done, all); };
 }

@@ -1,6 +1,6 @@
 #include <iostream>
 
-#include "archive/check_report.h"
+#include "archive/check.h"
 #include "archive/commands.h"
 
 namespace vantora::archive {

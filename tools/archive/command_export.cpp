@@ -62,14 +62,13 @@ int refuse(const gaps& missing) {
     return exit_code::unreadable;
 }
 
-template <class Sink>
-int run_export(company_files& company, const export_request& request, Sink sink) {
+int run_export(company_files& company, const export_request& request, table_sink& sink) {
     const auto begun = std::chrono::steady_clock::now();
     gaps missing = gaps_of(company);
     if (!missing.empty() && !request.partial) return refuse(missing);
     std::optional<progress_line> line(watched_errors());
     const export_outcome outcome =
-        export_tables(company, *sink, request.names == "english", std::move(missing),
+        export_tables(company, sink, request.names == "english", std::move(missing),
                       [&line](const std::string& table, std::int64_t rows) {
                           line->show("Esportazione: " + table + ", " +
                                          italian(static_cast<double>(rows), false) + " righe",
@@ -77,7 +76,7 @@ int run_export(company_files& company, const export_request& request, Sink sink)
                       });
     line.reset();
     if (!outcome.missing.empty() && !request.partial) return refuse(outcome.missing);
-    if (sink->finish())
+    if (sink.finish())
         return tell(outcome, request.target, std::chrono::steady_clock::now() - begun);
     std::cerr << request.target << " non si può scrivere; è rimasto quello che c'era.\n";
     return exit_code::unreadable;
@@ -98,10 +97,13 @@ int run_export(company_files& company, const export_request& request) {
         std::cerr << target.string() << ": " << obstacle << ". Non è stato scritto nulla.\n";
         return exit_code::unreadable;
     }
+    std::unique_ptr<table_sink> sink;
     if (what == form::database) {
-        return run_export(company, request, std::make_unique<sqlite_file>(target));
+        sink = std::make_unique<sqlite_file>(target);
+    } else {
+        sink = std::make_unique<csv_folder>(target, request.plain);
     }
-    return run_export(company, request, std::make_unique<csv_folder>(target, request.plain));
+    return run_export(company, request, *sink);
 }
 
 }  // namespace

@@ -6,24 +6,6 @@
 
 namespace vantora::archive {
 
-namespace {
-
-struct named_repair {
-    const char* name;
-    const char* words;
-    int (*run)(const repair_request&);
-};
-
-constexpr named_repair repairs[] = {
-    {"ordered-quantities", "l'ordinato degli articoli, dagli ordini ancora aperti",
-     repair_ordered_quantities},
-    {"doubled-orders", "gli ordini doppi dopo una compattazione interrotta", repair_doubled_orders},
-    {"indexes", "gli indici dei nomi, dei codici e dei codici a barre", repair_indexes},
-    {"counters", "i contatori che sono sbagliati di certo", repair_counters},
-};
-
-}  // namespace
-
 command repair_command(CLI::App& program) {
     CLI::App* line = program.add_subcommand("repair", "corregge quello che check ha trovato");
     line->require_subcommand(1);
@@ -43,7 +25,7 @@ command repair_command(CLI::App& program) {
                         const auto of_person = book_of_person();
                         if (of_person) of_person->watch(changed, which.number(), now_here);
                     };
-                    return one.run({files, which.number(), confirmed, std::cout, book});
+                    return carry_out(one, {files, which.number(), confirmed, std::cout, book});
                 }
                 return exit_code::wrong_options;
             }};

@@ -25,24 +25,17 @@ const std::map<std::string, kind> kinds = {
 
 /// What of the archive has to be whole for this to be shown.
 bool needs(kind what, const std::string& file) {
-    const auto is = [&](const char* extension) {
-        return file == std::string("vantora.") + extension;
+    constexpr std::pair<kind, const char*> articles_and[] = {
+        {kind::orders, "vantora.orc"},
+        {kind::quotes, "vantora.prv"},
+        {kind::movements, "vantora.mag"},
+        {kind::articles, "vantora.art"},
     };
-    if (is("tot") || is("cli")) return true;
-    switch (what) {
-        case kind::orders:
-            return is("orc") || is("art");
-        case kind::quotes:
-            return is("prv") || is("art");
-        case kind::movements:
-            return is("mag") || is("art");
-        case kind::articles:
-            return is("art");
-        case kind::documents:
-            return is("bol");
-        default:
-            return false;
+    for (const auto& [shown, its_file] : articles_and) {
+        if (what == shown && (file == its_file || file == "vantora.art")) return true;
     }
+    return file == "vantora.tot" || file == "vantora.cli" ||
+           (what == kind::documents && file == "vantora.bol");
 }
 
 int run_show(company_files& company, const show_request& request) {

@@ -5,19 +5,12 @@
 #include <memory>
 
 #include "archive/company_files.h"
+#include "archive/exit_code.h"
 #include "text/dates.h"
 
 namespace vantora::archive {
 
 // The commands of the program, one file each: `command_NAME.cpp`.
-
-namespace exit_code {
-inline constexpr int done = 0;  ///< sound, shown, written
-inline constexpr int has_findings = 1;
-inline constexpr int refused = 1;
-inline constexpr int wrong_options = 2;
-inline constexpr int unreadable = 3;
-}  // namespace exit_code
 
 /// Which company the command line names.
 struct which_company {

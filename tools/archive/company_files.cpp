@@ -51,6 +51,19 @@ std::int16_t company_files::count(int record) const {
     return std::max<std::int16_t>(0, counter(record).quanti);
 }
 
+const char* counted_by(int record) {
+    constexpr std::pair<int, const char*> names[] = {
+        {contatori::clienti, "clienti"},
+        {contatori::articoli, "articoli"},
+        {contatori::magazzino, "movimenti di magazzino"},
+        {contatori::documenti_trasporto, "documenti di trasporto"},
+        {contatori::ordini, "ordini"},
+        {contatori::preventivi, "preventivi"},
+    };
+    const auto found = std::ranges::find(names, record, &std::pair<int, const char*>::first);
+    return found == std::end(names) ? "di altri programmi" : found->second;
+}
+
 std::vector<std::string> names_in(const fs::path& folder) {
     std::vector<std::string> names;
     std::error_code failed;

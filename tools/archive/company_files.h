@@ -47,6 +47,9 @@ class company_files {
     archivi records_;
 };
 
+/// What a record of the counters counts, in words: "ordini".
+const char* counted_by(int record);
+
 /// The names of all that lies in a folder, as it tells them.
 std::vector<std::string> names_in(const std::filesystem::path& folder);
 

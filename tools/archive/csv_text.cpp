@@ -5,14 +5,11 @@
 #include <cmath>
 
 #include "text/code_page.h"
+#include "text/digit.h"
 
 namespace vantora::archive {
 
 namespace {
-
-bool is_digit(char one) {
-    return one >= '0' && one <= '9';
-}
 
 bool is_letter(char one) {
     return (one >= 'A' && one <= 'Z') || (one >= 'a' && one <= 'z');

@@ -21,9 +21,7 @@ class csv_folder final : public table_sink {
     void begin(const exported_table& table) override;
     void row(std::span<const cell_value> values) override;
     void end() override;
-
-    /// Puts the folder in its place. False, with everything there as it was, if anything failed.
-    bool finish();
+    bool finish() override;
 
  private:
     void put(const cell_value& value, content of);

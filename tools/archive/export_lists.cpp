@@ -49,24 +49,19 @@ void export_carriers(const std::vector<vettore>& carriers, table_writer& into) {
     into.end();
 }
 
-/// What each record of the counters counts.
-const char* counted_by(std::int64_t record, const naming& names) {
-    switch (record) {
-        case contatori::clienti:
-            return names(table_id::customers);
-        case contatori::articoli:
-            return names(table_id::articles);
-        case contatori::magazzino:
-            return names(table_id::movements);
-        case contatori::documenti_trasporto:
-            return names(table_id::documents);
-        case contatori::ordini:
-            return names(table_id::orders);
-        case contatori::preventivi:
-            return names(table_id::quotes);
-        default:
-            return "";
+std::string counted_by(std::int64_t record, const naming& names) {
+    constexpr std::pair<int, table_id> tables[] = {
+        {contatori::clienti, table_id::customers},
+        {contatori::articoli, table_id::articles},
+        {contatori::magazzino, table_id::movements},
+        {contatori::documenti_trasporto, table_id::documents},
+        {contatori::ordini, table_id::orders},
+        {contatori::preventivi, table_id::quotes},
+    };
+    for (const auto& [counter, table] : tables) {
+        if (counter == record) return names(table);
     }
+    return {};
 }
 
 void export_counters(company_files& company, table_writer& into, gaps& missing) {
@@ -78,7 +73,7 @@ void export_counters(company_files& company, table_writer& into, gaps& missing) 
     const auto& counters = company.records().tot;
     const int unread = scan(counters, static_cast<int>(counters.records_held().value_or(0)),
                             [&](std::int64_t number, const rec_tot& one) {
-                                into.row({number, std::string(counted_by(number, names))},
+                                into.row({number, counted_by(number, names)},
                                          [&](auto& cells) { add_cells(cells, one, into.to); });
                             });
     add_unread(counters, unread, missing);

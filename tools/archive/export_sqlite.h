@@ -22,10 +22,7 @@ class sqlite_file final : public table_sink {
     void begin(const exported_table& table) override;
     void row(std::span<const cell_value> values) override;
     void end() override;
-
-    /// Puts the finished file in its place. False, with everything there as it was, if anything
-    /// failed.
-    bool finish();
+    bool finish() override;
 
  private:
     void run(const std::string& statement);

@@ -94,6 +94,8 @@ class table_sink {
     virtual void begin(const exported_table& table) = 0;
     virtual void row(std::span<const cell_value> values) = 0;
     virtual void end() = 0;
+    /// Puts all of it in its place. False, with everything there as it was, if anything failed.
+    virtual bool finish() = 0;
 };
 
 /// What an export wrote.

@@ -1,30 +1,13 @@
 #include "archive/gaps.h"
 
+#include "archive/survey.h"
 #include "store/suite_paths.h"
 
 namespace vantora::archive {
 
 namespace {
 
-struct counted_file {
-    const char* extension;
-    std::int64_t record_length;
-    int counter;             ///< record of the counters; 0: counted by nothing
-    std::int64_t per_count;  ///< records that one of the count stands for
-};
-
-constexpr counted_file counted_files[] = {
-    {"cli", sizeof(rec_cli), contatori::clienti, 1},
-    {"art", sizeof(rec_art), contatori::articoli, 1},
-    {"orc", sizeof(rec_orc), contatori::ordini, righe_blocco},
-    {"prv", sizeof(rec_prv), contatori::preventivi, righe_blocco},
-    {"mag", sizeof(rec_mag), contatori::magazzino, 1},
-    {"bol", sizeof(rec_bol), contatori::documenti_trasporto, 1},
-    {"prx", sizeof(rec_prx), 0, 1},
-    {"tot", sizeof(rec_tot), 0, 1},
-};
-
-std::string gap_at(company_files& company, const counted_file& file) {
+std::string gap_at(company_files& company, const record_file& file) {
     const auto length = company.length_of(file.extension);
     if (!length) return "manca";
     if (!company.files().open_records(company_path(company.numero_azienda(), file.extension))) {
@@ -53,11 +36,9 @@ constexpr const char* text_files[] = {"tab", "tb2"};
 
 gaps gaps_of(company_files& company) {
     gaps all;
-    for (const counted_file& file : counted_files) {
-        std::string what = gap_at(company, file);
-        if (!what.empty()) {
-            all.push_back({std::string("vantora.") + file.extension, std::move(what)});
-        }
+    for (const record_file& file : record_files) {
+        std::string what = file.is_index() ? "" : gap_at(company, file);
+        if (!what.empty()) all.push_back({file.name(), std::move(what)});
     }
     for (const char* extension : text_files) {
         if (company.files().read_whole(company_path(company.numero_azienda(), extension))) continue;

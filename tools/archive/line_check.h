@@ -20,6 +20,10 @@ inline bool has_controls(std::string_view field) {
     return std::ranges::any_of(field, is_control);
 }
 
+inline bool any_has_controls(std::initializer_list<std::string_view> fields) {
+    return std::ranges::any_of(fields, has_controls);
+}
+
 /// Stock and quantities beyond what any shop has, which no mask could show; and what is no number.
 inline bool beyond_reason(double figure) {
     return !(std::abs(figure) < 1e9);
@@ -33,8 +37,7 @@ inline bool is_odd(double ordered, double fulfilled) {
 /// Whether a line of an order or a quote has such bytes in its texts.
 template <class Row>
 bool has_controls_in_texts(const Row& line) {
-    return has_controls(line.descrizione.full()) || has_controls(line.descrizione2.full()) ||
-           has_controls(line.um.full());
+    return any_has_controls({line.descrizione.full(), line.descrizione2.full(), line.um.full()});
 }
 
 inline constexpr const char* no_such_article = "line-no-article";

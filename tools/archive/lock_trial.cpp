@@ -30,7 +30,6 @@ finding not_tried(std::string why) {
                        "Provare da una postazione che può scrivere in questo disco.");
 }
 
-/// Where a file lies.
 struct mount {
     std::string type;     ///< "ext4"
     std::string options;  ///< "rw,nobrl"
@@ -56,12 +55,10 @@ bool starts_with_any(const std::string& text, std::initializer_list<const char*>
     return std::ranges::any_of(heads, [&text](const char* one) { return text.starts_with(one); });
 }
 
-bool has_option(const std::string& options, std::initializer_list<const char*> wanted) {
-    std::istringstream all(options);
-    for (std::string one; std::getline(all, one, ',');) {
-        if (std::ranges::find(wanted, one) != wanted.end()) return true;
-    }
-    return false;
+bool has_option(const std::string& options, std::initializer_list<std::string> wanted) {
+    return std::ranges::any_of(wanted, [&options](const std::string& one) {
+        return ("," + options + ",").find("," + one + ",") != std::string::npos;
+    });
 }
 
 /// A file that goes with the object, whatever happens.

@@ -49,7 +49,6 @@ bool asked_user() {
 
 namespace {
 
-/// What is wrong with a command line.
 std::string in_italian(const CLI::Error& problem) {
     if (dynamic_cast<const CLI::RequiredError*>(&problem)) {
         return "manca il comando o un suo argomento";
@@ -61,7 +60,6 @@ std::string in_italian(const CLI::Error& problem) {
     return told.substr(0, told.find(':')) + ": valore non ammesso";
 }
 
-/// The words of the command line itself.
 void speak_italian(CLI::App& program) {
     program.option_defaults()->group("Opzioni");
     program.group("Comandi");

@@ -75,8 +75,9 @@ block_facts facts_of(order_rows order) {
     if (facts.day_saved > 0 && saved != facts.day_saved) {
         facts.saved = mixed(mixed(1, head.data_reg), head.numero);
     }
-    facts.half_deleted = !same_mark && first_foreign_row(used) == used.size();
-    facts.whole = same_mark && first_foreign_row(used) == used.size();
+    const bool together = first_foreign_row(used) == used.size();
+    facts.half_deleted = together && !same_mark;
+    facts.whole = together && same_mark;
     facts.deleted = head.annullato == 1;
     facts.fulfilled = head.evaso_flag == 1;
     facts.in_use = head.cliente >= 1 && is_stored_date(head.data.full());

@@ -2,7 +2,8 @@
 #include <ostream>
 #include <set>
 
-#include "archive/repair_steps.h"
+#include "archive/exit_code.h"
+#include "archive/repair.h"
 #include "archive/words.h"
 #include "backup/copying.h"
 #include "store/suite_paths.h"
@@ -11,9 +12,37 @@ namespace vantora::archive {
 
 namespace {
 
-constexpr int done = 0;
-constexpr int refused = 1;
-constexpr int not_possible = 3;
+/// Files that are there: opening one that isn't creates none.
+class existing_files final : public file_port {
+ public:
+    explicit existing_files(file_port& all) : all_(all) {}
+
+    std::unique_ptr<file> open_records(std::string_view path) override {
+        return all_.exists(path) ? all_.open_records(path) : nullptr;
+    }
+    std::optional<std::string> read_whole(std::string_view path) override {
+        return all_.read_whole(path);
+    }
+    std::optional<std::string> read_head(std::string_view path, std::size_t bytes) override {
+        return all_.read_head(path, bytes);
+    }
+    bool exists(std::string_view path) override { return all_.exists(path); }
+    std::unique_ptr<file> create(std::string_view) override { return nullptr; }
+    std::unique_ptr<file> create_aside(std::string_view path) override {
+        return all_.create_aside(path);
+    }
+    bool create_folder(std::string_view) override { return false; }
+    [[nodiscard]] std::filesystem::path locate(std::string_view path) const override {
+        return all_.locate(path);
+    }
+
+ private:
+    file_port& all_;
+};
+
+using exit_code::done;
+using exit_code::refused;
+using exit_code::unreadable;
 
 std::string path_of(const repair_request& request, const char* extension) {
     return company_path(request.numero_azienda, extension);
@@ -60,7 +89,7 @@ int tell_not_begun(archive_change& change, const company_files& company,
     }
     request.out << "Non si può scrivere: " << change.finish().files
                 << ". Niente è stato cambiato.\n";
-    return not_possible;
+    return unreadable;
 }
 
 /// What was shown and is the same still.
@@ -114,7 +143,7 @@ int write_all(const std::vector<repair_step>& steps, std::size_t shown, const re
     if (written < steps.size() || change.finish().how != change_outcome::done) {
         out << "Il disco ha rifiutato una lettura o una scrittura: controllare il disco, poi "
                "ripetere. Quello che non è scritto è rimasto com'era.\n";
-        return not_possible;
+        return unreadable;
     }
     if (written == shown) return done;
     out << "Il resto intanto è stato cambiato da un'altra postazione: ripetere il controllo.\n";
@@ -123,12 +152,21 @@ int write_all(const std::vector<repair_step>& steps, std::size_t shown, const re
 
 }  // namespace
 
-int carry_out(const repair_request& request, const char* name, const repair_planner& planner) {
+const named_repair repairs[] = {
+    {"ordered-quantities", "l'ordinato degli articoli, dagli ordini ancora aperti",
+     plan_ordered_quantities},
+    {"doubled-orders", "gli ordini doppi dopo una compattazione interrotta", plan_doubled_orders},
+    {"indexes", "gli indici dei nomi, dei codici e dei codici a barre", plan_indexes},
+    {"counters", "i contatori che sono sbagliati di certo", plan_counters},
+};
+
+int carry_out(const named_repair& which, const repair_request& request) {
+    const char* name = which.name;
     existing_files existing(request.files);
     repair_plan shown;
     {
         company_files company(existing, request.numero_azienda);
-        shown = planner(company);
+        shown = which.plan(company);
     }
     const bool unfinished = request.files.exists(mark_of(request, name));
     if (unfinished) {
@@ -151,16 +189,16 @@ int carry_out(const repair_request& request, const char* name, const repair_plan
     archive_change change(company.records());
     change.recorded_as("riparazione", name);
     if (!change.may_write()) return tell_not_begun(change, company, request);
-    const repair_plan now = planner(company);
+    const repair_plan now = which.plan(company);
     if (const auto end = ends_here(now, request)) return *end;
     const auto steps = still_holding(shown, now);
     if (!steps.empty() && !(copy_files(steps, request) && put_mark(request, name))) {
-        return not_possible;
+        return unreadable;
     }
     const int result =
         write_all(steps, shown.steps.size(),
                   {request.files, request.numero_azienda, company.records(), change}, request.out);
-    if (result != not_possible) drop_mark(request, name);
+    if (result != unreadable) drop_mark(request, name);
     return result;
 }
 

@@ -1,6 +1,6 @@
 #include <cmath>
 
-#include "archive/repair_steps.h"
+#include "archive/repair.h"
 #include "archive/survey.h"
 #include "text/number_text.h"
 
@@ -27,7 +27,9 @@ repair_step set_ordered(const wrong_ordered_quantity& one, const masters& known)
             }};
 }
 
-repair_plan plan_ordered(company_files& company) {
+}  // namespace
+
+repair_plan plan_ordered_quantities(company_files& company) {
     const survey found = survey_company(company);
     repair_plan plan;
     plan.nothing = "Nessuna quantità ordinata è sbagliata di certo.";
@@ -39,6 +41,8 @@ repair_plan plan_ordered(company_files& company) {
     }
     return plan;
 }
+
+namespace {
 
 // Doubled orders ----------------------------------------------------------------------------------
 
@@ -78,7 +82,9 @@ repair_step delete_twin(const twin& one, company_files& company, const masters& 
         }};
 }
 
-repair_plan plan_doubled(company_files& company) {
+}  // namespace
+
+repair_plan plan_doubled_orders(company_files& company) {
     const survey found = survey_company(company);
     repair_plan plan;
     plan.nothing = "Nessun ordine c'è due volte.";
@@ -90,18 +96,15 @@ repair_plan plan_doubled(company_files& company) {
     return plan;
 }
 
-// Counters ----------------------------------------------------------------------------------------
+namespace {
 
-const char* counted_by(int record) {
-    if (record == contatori::clienti) return "contatore dei clienti: ";
-    return record == contatori::articoli ? "contatore degli articoli: "
-                                         : "contatore degli ordini: ";
-}
+// Counters ----------------------------------------------------------------------------------------
 
 std::string words_for(const wrong_counter& one, const survey& found) {
     constexpr std::size_t named_most = 10;
-    std::string words = counted_by(one.record) + std::to_string(one.counted) + ", diventa " +
-                        std::to_string(one.right);
+    const char* of = one.record == contatori::clienti ? "dei " : "degli ";
+    std::string words = std::string("contatore ") + of + counted_by(one.record) + ": " +
+                        std::to_string(one.counted) + ", diventa " + std::to_string(one.right);
     if (one.record != contatori::ordini || one.right < one.counted) return words;
     words += ". Tornano:";
     const auto& orders = found.coming_back;
@@ -125,6 +128,8 @@ repair_step set_counter(const wrong_counter& one, const survey& found) {
             }};
 }
 
+}  // namespace
+
 repair_plan plan_counters(company_files& company) {
     const survey found = survey_company(company);
     repair_plan plan;
@@ -138,20 +143,6 @@ repair_plan plan_counters(company_files& company) {
         if (plan.refusal.empty()) plan.refusal = *doubt;
     }
     return plan;
-}
-
-}  // namespace
-
-int repair_ordered_quantities(const repair_request& request) {
-    return carry_out(request, "ordered-quantities", plan_ordered);
-}
-
-int repair_doubled_orders(const repair_request& request) {
-    return carry_out(request, "doubled-orders", plan_doubled);
-}
-
-int repair_counters(const repair_request& request) {
-    return carry_out(request, "counters", plan_counters);
 }
 
 }  // namespace vantora::archive

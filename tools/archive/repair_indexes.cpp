@@ -1,6 +1,6 @@
 #include <algorithm>
 
-#include "archive/repair_steps.h"
+#include "archive/repair.h"
 #include "archive/survey.h"
 #include "store/suite_paths.h"
 
@@ -10,7 +10,6 @@ namespace {
 
 using entries = std::vector<key_index::entry>;
 
-/// What was found of one index.
 struct rebuilt_index {
     entries now;
     int moved = 0;                     ///< entries that stand otherwise
@@ -84,6 +83,8 @@ std::string words_for(const key_index& index, const rebuilt_index& made) {
     return words;
 }
 
+}  // namespace
+
 repair_plan plan_indexes(company_files& company) {
     const survey found = survey_company(company);
     repair_plan plan;
@@ -107,12 +108,6 @@ repair_plan plan_indexes(company_files& company) {
              }});
     }
     return plan;
-}
-
-}  // namespace
-
-int repair_indexes(const repair_request& request) {
-    return carry_out(request, "indexes", plan_indexes);
 }
 
 }  // namespace vantora::archive

@@ -68,21 +68,17 @@ void write_fields(const Record& one, std::ostream& out) {
 }
 
 /// Whether a record is the one that people call so.
-bool is_called(const rec_orc& head, const std::string& name) {
-    return upper(cell_text(head.numero.full())) == upper(name);
-}
-bool is_called(const rec_prv& head, const std::string& name) {
-    return upper(cell_text(head.numero.full())) == upper(name);
-}
-bool is_called(const rec_art& one, const std::string& name) {
-    return upper(cell_text(one.codice.full())) == upper(name);
-}
-bool is_called(const rec_bol& one, const std::string& name) {
-    return std::to_string(one.numero) == name;
-}
 template <class Record>
-bool is_called(const Record&, const std::string&) {
-    return false;
+bool is_called(const Record& one, const std::string& name) {
+    if constexpr (std::is_same_v<Record, rec_bol>) {
+        return std::to_string(one.numero) == name;
+    } else if constexpr (std::is_same_v<Record, rec_art>) {
+        return upper(cell_text(one.codice.full())) == upper(name);
+    } else if constexpr (requires { one.numero; }) {
+        return upper(cell_text(one.numero.full())) == upper(name);
+    } else {
+        return false;
+    }
 }
 
 class shower {

@@ -21,33 +21,10 @@ valuta currency_of(company_files& company) {
     return valuta(values);
 }
 
-std::string words(std::string_view stored) {
-    return cell_text(stored);
-}
-
 /// "9/1/2023" as dd/mm/yyyy; what is no date as it stands.
 std::string day(std::string_view stored) {
     const std::string shown = date_text_of_stored(stored);
-    return read_date(shown) ? shown : "«" + words(stored) + "»";
-}
-
-std::string counter_name(std::int64_t number) {
-    switch (number) {
-        case contatori::clienti:
-            return "clienti";
-        case contatori::articoli:
-            return "articoli";
-        case contatori::magazzino:
-            return "movimenti di magazzino";
-        case contatori::documenti_trasporto:
-            return "documenti di trasporto";
-        case contatori::ordini:
-            return "ordini";
-        case contatori::preventivi:
-            return "preventivi";
-        default:
-            return "di altri programmi";
-    }
+    return read_date(shown) ? shown : "«" + cell_text(stored) + "»";
 }
 
 std::string state_of(const rec_orc& head) {
@@ -83,8 +60,9 @@ std::string texts_of(std::span<const Row> rows) {
         std::string line;
         // The last text of row 3 is no text but choices.
         const std::size_t texts = row == 2 ? 2 : 3;
-        const std::string each[] = {words(rows[row].testo1.full()), words(rows[row].testo2.full()),
-                                    words(rows[row].testo3.full())};
+        const std::string each[] = {cell_text(rows[row].testo1.full()),
+                                    cell_text(rows[row].testo2.full()),
+                                    cell_text(rows[row].testo3.full())};
         for (std::size_t text = 0; text < texts; ++text) {
             if (!each[text].empty()) line += (line.empty() ? "" : ", ") + each[text];
         }
@@ -113,31 +91,31 @@ show_words::show_words(company_files& company)
 std::string show_words::customer(std::int16_t number) const {
     rec_cli one;
     if (number >= 1) files_.cli.read(number, one);
-    return std::to_string(number) + " " + words(one.intestazione1.full());
+    return std::to_string(number) + " " + cell_text(one.intestazione1.full());
 }
 
 std::string show_words::article(std::int16_t number) const {
     rec_art one;
     if (number < 1 || !files_.art.read(number, one)) return {};
-    return words(one.codice.full()) + " ";
+    return cell_text(one.codice.full()) + " ";
 }
 
 std::string show_words::line(std::int64_t number, const rec_cli& one) const {
-    return std::to_string(number) + ": " + words(one.intestazione1.full()) + ", " +
-           words(one.indirizzo.full()) + ", " + words(one.cap.full()) + " " +
-           words(one.citta.full()) + (one.eliminato == 1 ? " (eliminato)" : "");
+    return std::to_string(number) + ": " + cell_text(one.intestazione1.full()) + ", " +
+           cell_text(one.indirizzo.full()) + ", " + cell_text(one.cap.full()) + " " +
+           cell_text(one.citta.full()) + (one.eliminato == 1 ? " (eliminato)" : "");
 }
 
 std::string show_words::line(std::int64_t number, const rec_art& one) const {
-    return std::to_string(number) + ": " + words(one.codice.full()) + " " +
-           words(one.descrizione.full()) + ": giacenza " + figure(one.giacenza) + ", impegnato " +
-           figure(one.impegnato) + ", ordinato " + figure(one.ordinato_clienti) +
+    return std::to_string(number) + ": " + cell_text(one.codice.full()) + " " +
+           cell_text(one.descrizione.full()) + ": giacenza " + figure(one.giacenza) +
+           ", impegnato " + figure(one.impegnato) + ", ordinato " + figure(one.ordinato_clienti) +
            (one.eliminato != 0 ? " (eliminato)" : "");
 }
 
 std::string show_words::line(std::int64_t number, const rec_mag& one) const {
     return std::to_string(number) + ": " + day(one.data.full()) + " " +
-           words(one.movimento.full()) + " " + words(one.documento.full()) + ": " +
+           cell_text(one.movimento.full()) + " " + cell_text(one.documento.full()) + ": " +
            figure(one.quantita) + " di " + article(one.articolo) + "a " + figure(one.prezzo) +
            ", cliente " + customer(one.cliente);
 }
@@ -150,7 +128,7 @@ std::string show_words::line(std::int64_t number, const rec_bol& one) const {
 }
 
 std::string show_words::line(std::int64_t number, const rec_tot& one) const {
-    std::string shown = std::to_string(number) + " " + counter_name(number) + ": " +
+    std::string shown = std::to_string(number) + " " + counted_by(static_cast<int>(number)) + ": " +
                         std::to_string(one.quanti) + " in uso";
     if (one.ultimo_numero != 0) {
         shown += ", ultimo numero " + std::to_string(one.ultimo_numero);
@@ -161,16 +139,19 @@ std::string show_words::line(std::int64_t number, const rec_tot& one) const {
     return shown;
 }
 
-std::string show_words::line(std::int64_t block, const rec_orc& head) const {
-    return "Ordine " + words(head.numero.full()) + " del " + day(head.data.full()) +
+template <class Row>
+std::string show_words::head_line(const char* kind, std::int64_t block, const Row& head) const {
+    return kind + cell_text(head.numero.full()) + " del " + day(head.data.full()) +
            " (registrazione " + std::to_string(block) + "), cliente " + customer(head.cliente) +
-           ", " + words(head.testo1.full()) + ", " + state_of(head);
+           ", " + cell_text(head.testo1.full()) + ", " + state_of(head);
+}
+
+std::string show_words::line(std::int64_t block, const rec_orc& head) const {
+    return head_line("Ordine ", block, head);
 }
 
 std::string show_words::line(std::int64_t block, const rec_prv& head) const {
-    return "Preventivo " + words(head.numero.full()) + " del " + day(head.data.full()) +
-           " (registrazione " + std::to_string(block) + "), cliente " + customer(head.cliente) +
-           ", " + words(head.testo1.full()) + ", " + state_of(head);
+    return head_line("Preventivo ", block, head);
 }
 
 template <class Row>
@@ -179,8 +160,9 @@ std::string show_words::row_line(std::size_t number, const Row& row) const {
     if (row.articolo >= 1) shown += article(row.articolo);
     shown += row_description(row);
     if (row.quantita == 0 && row.prezzo == 0) return shown + "\n";
-    shown += ": " + figure(row.quantita) + " " + words(row.um.full()) + " a " + figure(row.prezzo) +
-             discounts_of(row.sc1, row.sc2) + ", iva " + two_digits(row.iva) + fulfilled(row);
+    shown += ": " + figure(row.quantita) + " " + cell_text(row.um.full()) + " a " +
+             figure(row.prezzo) + discounts_of(row.sc1, row.sc2) + ", iva " + two_digits(row.iva) +
+             fulfilled(row);
     return shown + "\n";
 }
 

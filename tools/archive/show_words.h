@@ -36,6 +36,9 @@ class show_words {
 
  private:
     template <class Row>
+    [[nodiscard]] std::string head_line(const char* kind, std::int64_t block,
+                                        const Row& head) const;
+    template <class Row>
     [[nodiscard]] std::string row_line(std::size_t number, const Row& row) const;
 
     archivi& files_;

@@ -21,6 +21,32 @@ struct doubts {
     std::string documents;
 };
 
+/// A file of records.
+struct record_file {
+    const char* extension;
+    std::int64_t record_length;
+    std::string doubts::*depends;  ///< what can't be built on without it; null: nothing
+    int counter = 0;               ///< record of the counters; 0: counted by nothing
+    std::int64_t per_count = 1;    ///< records that one of the count stands for
+
+    [[nodiscard]] std::string name() const { return std::string("vantora.") + extension; }
+    [[nodiscard]] bool is_index() const { return !depends && counter > 0; }
+};
+
+inline constexpr record_file record_files[] = {
+    {"cli", sizeof(rec_cli), &doubts::customers, contatori::clienti},
+    {"src", sizeof(rec_src), nullptr, contatori::clienti},
+    {"art", sizeof(rec_art), &doubts::articles, contatori::articoli},
+    {"sra", sizeof(rec_sra), nullptr, contatori::articoli},
+    {"srb", sizeof(rec_srb), nullptr, contatori::articoli},
+    {"orc", sizeof(rec_orc), &doubts::orders, contatori::ordini, righe_blocco},
+    {"prv", sizeof(rec_prv), &doubts::quotes, contatori::preventivi, righe_blocco},
+    {"mag", sizeof(rec_mag), &doubts::movements, contatori::magazzino},
+    {"bol", sizeof(rec_bol), &doubts::documents, contatori::documenti_trasporto},
+    {"prx", sizeof(rec_prx), nullptr},
+    {"tot", sizeof(rec_tot), nullptr},
+};
+
 /// A block of orders that is, byte for byte, an earlier one: a compaction was cut off.
 struct twin {
     int registrazione = 0;

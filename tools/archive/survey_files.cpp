@@ -10,36 +10,14 @@ namespace {
 
 namespace fs = std::filesystem;
 
-struct record_file {
-    const char* extension;
-    std::int64_t record_length;
-    std::string doubts::*depends;  ///< what can't be built on without it; null: nothing
-    int counter = 0;               ///< record of the counters; 0: counted by nothing
-    std::int64_t per_count = 1;    ///< records that one of the count stands for
-};
-
-constexpr record_file record_files[] = {
-    {"cli", sizeof(rec_cli), &doubts::customers, contatori::clienti},
-    {"src", sizeof(rec_src), nullptr, contatori::clienti},
-    {"art", sizeof(rec_art), &doubts::articles, contatori::articoli},
-    {"sra", sizeof(rec_sra), nullptr, contatori::articoli},
-    {"srb", sizeof(rec_srb), nullptr, contatori::articoli},
-    {"orc", sizeof(rec_orc), &doubts::orders, contatori::ordini, righe_blocco},
-    {"prv", sizeof(rec_prv), &doubts::quotes, contatori::preventivi, righe_blocco},
-    {"mag", sizeof(rec_mag), &doubts::movements, contatori::magazzino},
-    {"bol", sizeof(rec_bol), &doubts::documents, contatori::documenti_trasporto},
-    {"prx", sizeof(rec_prx), nullptr},
-    {"tot", sizeof(rec_tot), nullptr},
-};
-
 /// Without the counter of the orders nothing is known.
 constexpr std::int64_t counters_needed = contatori::ordini * std::int64_t{sizeof(rec_tot)};
 
 void survey_file(const record_file& file, company_files& company, survey& into) {
-    const std::string name = std::string("vantora.") + file.extension;
+    const std::string name = file.name();
     const std::string path = company_path(company.numero_azienda(), file.extension);
     if (const std::string obstacle = obstacle_at(company, path); !obstacle.empty()) {
-        const bool lost_index = !file.depends && file.counter > 0 && obstacle == "manca";
+        const bool lost_index = file.is_index() && obstacle == "manca";
         into.all.push_back({gravity::error, "file-missing", name, obstacle,
                             std::string("Finché è così i programmi lo trovano vuoto. ") +
                                 (lost_index ? "Rifarlo con «repair indexes»."
@@ -152,6 +130,21 @@ void survey_files(company_files& company, survey& into) {
     survey_spellings(folder, into.names, into.all);
     survey_spellings(folder.parent_path(), names_in(folder.parent_path()), into.all);
     survey_counters_file(company, into);
+}
+
+survey::survey(company_files& company)
+    : names(names_in(company.folder())),
+      known(company),
+      indexes(read_key_indexes(company)),
+      open(known.articles()) {}
+
+survey survey_company(company_files& company, const progress& tell) {
+    if (tell) tell("anagrafiche", 0, 0);
+    survey found(company);
+    survey_files(company, found);
+    survey_counters(company, found);
+    survey_orders(company, found, tell);
+    return found;
 }
 
 }  // namespace vantora::archive
