@@ -174,10 +174,8 @@ doing deleted(const char* extension, i16le rec_orc::*of) {
 inline const damage damages[] = {
     // Counters and files
     {"an order and a part missing", "file-short", cut("orc", 57000)},
-    {"the last order cut", "file-short", cut("orc", 300)},
     {"bytes behind the orders", "file-cut", cut("orc", -5)},
     {"orders counted too low", "counter-low", count(contatori::ordini, 8)},
-    {"no order counted", "counter-low", count(contatori::ordini, 0)},
     {"orders counted too high", "counter-high", count(contatori::ordini, 30)},
     {"orders counted below 0", "counter-negative", count(contatori::ordini, -1)},
     {"an unfinished save", "save-unfinished", save_unfinished},
@@ -189,7 +187,6 @@ inline const damage damages[] = {
     {"quotes counted too low", "quotes-behind", count(contatori::preventivi, 0)},
     {"movements counted too high", "file-short", count(contatori::magazzino, 30000)},
     {"movements behind", "records-behind", cut("mag", -2 * int{sizeof(rec_mag)})},
-    {"documents behind", "records-behind", cut("bol", -int{sizeof(rec_bol)})},
     {"numbers nearly used", "numbers-nearly-used",
      wrong("tot", 14, &rec_tot::ultimo_numero, std::int16_t{32500})},
     {"running number lost", "running-number", wrong("tot", 12, &rec_tot::progressivo, NAN)},
@@ -200,7 +197,6 @@ inline const damage damages[] = {
     {"few counters", "counters-short", holds("tot", std::string(100, '\0'))},
     {"counters missing", "file-missing", missing("tot")},
     {"customers missing", "file-missing", missing("cli")},
-    {"quotes missing", "file-missing", missing("prv")},
     {"an index missing", "file-missing", missing("sra")},
     {"a folder for a file", "file-missing", folder_for_file},
     {"a pipe for a file", "file-missing", fifo},

@@ -1,5 +1,6 @@
 #include <chrono>
 #include <iostream>
+#include <set>
 
 #include "archive/commands.h"
 #include "archive/progress_line.h"
@@ -72,14 +73,9 @@ bool tell_differences(const copy_outcome& copy, file_port& now, int numero_azien
         if (++differing <= told_max) out << "  " << words_of_path(path) << ": " << what << '\n';
     };
     copy_pace unseen;
-    std::vector<std::string> there;
-    const fs::path folder = now.locate(folder_of_company(numero_azienda));
-    if (fs::is_directory(folder)) {
-        for (const listed_file& one : list_company(now.locate("\\"), folder)) {
-            there.push_back(one.path);
-        }
-    }
+    std::set<std::string> copied;
     for (const copied_file& one : copy.files) {
+        copied.insert(upper(one.path));
         const auto found =
             now.exists(drive_path(one.path)) ? read_over(now, one.path, unseen) : std::nullopt;
         if (!found) {
@@ -90,10 +86,11 @@ bool tell_differences(const copy_outcome& copy, file_port& now, int numero_azien
             tell(one.path, "diverso");
         }
     }
-    for (const std::string& path : there) {
-        const bool copied = std::ranges::any_of(
-            copy.files, [&](const copied_file& one) { return upper(one.path) == upper(path); });
-        if (!copied) tell(path, "nella copia non c'è");
+    const fs::path folder = now.locate(folder_of_company(numero_azienda));
+    if (fs::is_directory(folder)) {
+        for (const listed_file& one : list_company(now.locate("\\"), folder)) {
+            if (!copied.contains(upper(one.path))) tell(one.path, "nella copia non c'è");
+        }
     }
     if (differing > told_max) out << "  ... e altri " << differing - told_max << " file\n";
     return differing > 0;
