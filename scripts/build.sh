@@ -5,9 +5,11 @@ cd "$(dirname "$0")/.."
 
 preset=$1
 shift
-cmake --preset "$preset" >/dev/null
-if [ $# -gt 0 ]; then
-    cmake --build --preset "$preset" --target "$@"
-else
-    cmake --build --preset "$preset"
-fi
+stopped() {
+    echo "The build stopped: see above. Once there is room on the disk (df -h .), repeat the command;" >&2
+    echo "if it stops at the same place, remove build/$preset first." >&2
+    exit 1
+}
+cmake --preset "$preset" >/dev/null || stopped
+[ $# -eq 0 ] || set -- --target "$@"
+cmake --build --preset "$preset" "$@" || stopped

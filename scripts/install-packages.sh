@@ -17,6 +17,7 @@ if [ "$(id -u)" -ne 0 ]; then
     command -v sudo >/dev/null || {
         echo "Packages are missing, and only root may install them. As root:" >&2
         echo "    apt-get update && apt-get install --no-install-recommends$missing" >&2
+        echo "Then repeat the command." >&2
         exit 1
     }
 fi
@@ -24,6 +25,7 @@ echo "Installing:$missing"
 if ! $as_root apt-get update -qq ||
     ! DEBIAN_FRONTEND=noninteractive $as_root apt-get install -y -qq --no-install-recommends $missing \
         >/dev/null; then
-    echo "The packages can't be installed: see above. With the network up, repeat the command." >&2
+    echo "The packages can't be installed: see above. Once the network, the room on the disk or the" >&2
+    echo "right to install is there, repeat the command." >&2
     exit 1
 fi

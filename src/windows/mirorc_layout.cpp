@@ -77,7 +77,8 @@ QGroupBox* compaction(form_window& window, mirorc& screen) {
     QLabel* link = window.widget(starts);
     set_look(link, "role", "link");
     link->setCursor(Qt::PointingHandCursor);
-    const QString tip = QString(words::compaction) + " (Ctrl+Shift+C)";
+    const QString tip = QString("%1 (%2)").arg(
+        words::compaction, QKeySequence("Ctrl+Shift+C").toString(QKeySequence::NativeText));
     link->setToolTip(tip);
     text->setToolTip(tip);
 
