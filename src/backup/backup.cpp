@@ -223,6 +223,7 @@ copy_outcome make_copy(file_port& from, file_port& locks, int numero_azienda, fi
         return failed("l'elenco della copia non si può scrivere"_cp);
     }
     const fs::path finished = made.folder() / fs::path(into).filename();
+    close_as(from.locate(folder_of_company(numero_azienda)), finished);
     if (!swap_in(finished, outcome.place, made.folder() / "former")) {
         return failed("la copia non si può mettere al suo posto"_cp);
     }
@@ -267,6 +268,7 @@ copy_outcome put_back(const copy_outcome& copy, file_port& from, int numero_azie
     archivi tot = lock_file(to, numero_azienda);
     const archive_change alone(tot);
     if (alone.others_at_work()) return failed(at_work(tot));
+    take_rights(fs::exists(place) ? place : place.parent_path(), made.folder() / new_company);
     copy_outcome outcome;
     outcome.files = copy.files;
     if (fs::exists(place)) outcome.place = place.parent_path() / former;

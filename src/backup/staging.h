@@ -26,4 +26,12 @@ class staging {
 bool swap_in(const std::filesystem::path& made, const std::filesystem::path& place,
              const std::filesystem::path& former);
 
+/// Rights and group of the folder `like`, for one that was made to take its place, and of what is
+/// in it, for namesakes; what has none gets the folder's. Where the disk refuses, things stay as
+/// made.
+void take_rights(const std::filesystem::path& like, const std::filesystem::path& made);
+
+/// Leaves a folder open to nobody to whom `like` is closed.
+void close_as(const std::filesystem::path& like, const std::filesystem::path& folder);
+
 }  // namespace vantora

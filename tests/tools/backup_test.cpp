@@ -154,6 +154,13 @@ TEST(archive_restore, TheCompanyIsTheCopyOrAsItWasWhateverCannotBeRead) {
     ASSERT_EQ(of.checked.fault, "");
     const auto table = of.changed.drive() / "mirwin/mirwin/vantora.tbl";
     std::filesystem::remove(table);
+    const auto place = to_be_restored::folder_of(of.changed);
+    const auto rights = [](const auto& of_what) { return status(of_what).permissions(); };
+    using std::filesystem::perms;
+    permissions(place, perms(02770));
+    permissions(of.changed.file("orc"), perms(0660));
+    const copy_outcome closed = copying(of.changed).make(of.copies, "chiusa");
+    EXPECT_EQ(rights(closed.place) & perms::others_all, perms::none) << "it shows more";
     const auto copied = test::files_under(of.original.drive());
     const auto before = test::files_under(of.changed.drive());
     const test::sampled operations(7);
@@ -168,7 +175,8 @@ TEST(archive_restore, TheCompanyIsTheCopyOrAsItWasWhateverCannotBeRead) {
         if (outcome.fault.empty()) {
             auto now = test::files_under(of.changed.drive());
             for (const auto& [name, bytes] : copied) EXPECT_EQ(now[name], bytes) << name;
-            const auto place = to_be_restored::folder_of(of.changed);
+            EXPECT_EQ(rights(place), perms(02770));
+            EXPECT_EQ(rights(of.changed.file("orc")), perms(0660));
             std::filesystem::remove_all(place);
             std::filesystem::rename(outcome.place, place);
         }

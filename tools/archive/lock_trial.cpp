@@ -55,10 +55,13 @@ bool starts_with_any(const std::string& text, std::initializer_list<const char*>
     return std::ranges::any_of(heads, [&text](const char* one) { return text.starts_with(one); });
 }
 
-bool has_option(const std::string& options, std::initializer_list<std::string> wanted) {
-    return std::ranges::any_of(wanted, [&options](const std::string& one) {
-        return ("," + options + ",").find("," + one + ",") != std::string::npos;
-    });
+/// The first of the options that is one of those wanted; empty if none is.
+std::string option_among(const std::string& options, std::initializer_list<const char*> wanted) {
+    std::istringstream all(options);
+    for (std::string one; std::getline(all, one, ',');) {
+        if (std::ranges::find(wanted, one) != wanted.end()) return one;
+    }
+    return {};
 }
 
 /// A file that goes with the object, whatever happens.
@@ -85,15 +88,18 @@ finding judge_locks(lock_answer first, lock_answer second, const std::string& ty
                            "questo disco li concede a due insieme: due postazioni che salvano "
                            "insieme possono prendere lo stesso posto");
     }
-    if (has_option(options, {"nobrl", "nolock", "local_lock=all", "local_lock=posix"})) {
-        return about_locks("locks-local", "restano su questa macchina (" + type + ", " + options +
+    const auto local =
+        option_among(options, {"nobrl", "nolock", "local_lock=all", "local_lock=posix"});
+    if (!local.empty()) {
+        return about_locks("locks-local", "restano su questa macchina (" + type + ", " + local +
                                               "): le altre non li vedono");
     }
     if (starts_with_any(type, {"ext", "xfs", "btrfs", "tmpfs", "vfat", "exfat", "ntfs", "f2fs"})) {
         return about_locks(locks_work,
-                           "I blocchi fra le postazioni funzionano (disco di questa "
-                           "macchina, " +
-                               type + ").",
+                           "I blocchi fra le postazioni funzionano (disco di questa macchina, " +
+                               type +
+                               "; se è anche una cartella SMB, vedere «Cartelle di rete» nel "
+                               "manuale).",
                            "");
     }
     return about_locks(locks_work,
