@@ -13,6 +13,7 @@ archive_change::archive_change(archivi& files, faults then) : files_(files), the
     if (!may_write() || !lock()) return;
     changing_ = files.changing = true;
     follow_archives(files);
+    keep_archives_exact(files, true);
 }
 
 /// Takes the lock on the counters file that is in its place.
@@ -151,6 +152,7 @@ void archive_change::record(bool interrupted) noexcept {
 }
 
 void archive_change::let_go() {
+    if (changing_) keep_archives_exact(files_, false);
     if (locked_) locked_->unlock();
     locked_ = nullptr;
     if (changing_) changing_ = files_.changing = false;

@@ -35,6 +35,14 @@ void follow_archives(archivi& files) {
            files.bol, files.prx, files.prv, files.art_blocchi);
 }
 
+void keep_archives_exact(archivi& files, bool on) {
+    const auto keep = [on](const auto&... all) {
+        ((all.shared_file() ? all.shared_file()->keep_exact(on) : void()), ...);
+    };
+    keep(files.cli, files.src, files.art, files.sra, files.orc, files.srb, files.mag, files.bol,
+         files.prx, files.prv);
+}
+
 void chiudi_archivi(archivi& files) {
     files = archivi{};
 }

@@ -46,6 +46,9 @@ void apri_archivi(archivi& files, file_port& port, int numero_azienda);
 /// Goes along with files that others stand in the place of by now.
 void follow_archives(archivi& files);
 
+/// Under the lock of the counters: whether all files are read and written as file::keep_exact says.
+void keep_archives_exact(archivi& files, bool on);
+
 /// Closes every channel; whatever is tried on them afterwards fails.
 void chiudi_archivi(archivi& files);
 

@@ -88,6 +88,17 @@ file_identity identity_of(const std::filesystem::path& path) {
     return ::stat(path.c_str(), &state) == 0 ? identity_in(state) : std::nullopt;
 }
 
+/// Waits for no pipe; but for a file that a file server takes back from another machine first.
+int open_at_once(const std::filesystem::path& path, int flags) {
+    const auto open = [&](int how) {
+        return uninterrupted([&] { return ::open(path.c_str(), flags | O_CLOEXEC | how, 0666); });
+    };
+    const int descriptor = open(O_NONBLOCK);
+    if (descriptor >= 0 || errno != EWOULDBLOCK) return descriptor;
+    struct stat state {};
+    return ::stat(path.c_str(), &state) == 0 && S_ISREG(state.st_mode) ? open(0) : -1;
+}
+
 class system_file : public file {
  public:
     /// `is_new`: the folder doesn't know it for good yet.
@@ -204,6 +215,13 @@ class system_file : public file {
         uninterrupted([&] { return ::fcntl(descriptor_, F_OFD_SETLK, &lock); });
     }
 
+    void keep_exact(bool on) override {
+        const int error = errno;
+        struct flock lock = lock_of(!on ? F_UNLCK : writable() ? F_WRLCK : F_RDLCK);
+        uninterrupted([&] { return ::fcntl(descriptor_, F_OFD_SETLK, &lock); });
+        errno = error;
+    }
+
     [[nodiscard]] std::optional<std::string> locked_by() const override {
         struct flock lock = lock_of(F_WRLCK);
         if (uninterrupted([&] { return ::fcntl(descriptor_, F_OFD_GETLK, &lock); }) != 0 ||
@@ -215,8 +233,7 @@ class system_file : public file {
 
  private:
     static std::unique_ptr<system_file> open_again(const std::filesystem::path& path, int mode) {
-        const int descriptor = uninterrupted(
-            [&] { return ::open(path.c_str(), mode | O_CLOEXEC | O_NONBLOCK, 0666); });
+        const int descriptor = open_at_once(path, mode);
         if (descriptor < 0) return nullptr;
         return std::make_unique<system_file>(descriptor, path, false);
     }
@@ -270,8 +287,7 @@ class file_aside final : public system_file {
 /// Opens a plain file; never a folder, and never something that would block, such as a pipe.
 std::unique_ptr<file> open_plain(const std::filesystem::path& path, int flags) {
     const bool is_new = (flags & O_CREAT) != 0 && ::access(path.c_str(), F_OK) != 0;
-    const int descriptor =
-        uninterrupted([&] { return ::open(path.c_str(), flags | O_CLOEXEC | O_NONBLOCK, 0666); });
+    const int descriptor = open_at_once(path, flags);
     if (descriptor < 0) return nullptr;
     auto opened = std::make_unique<system_file>(descriptor, path, is_new);
     struct stat state {};

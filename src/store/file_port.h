@@ -77,6 +77,11 @@ class file {
     virtual lock_answer try_lock() { return lock_answer::unknown; }
     virtual void unlock() {}
 
+    /// While it is on, what other machines wrote before is read, and only bytes that are written
+    /// here go to the disk: a network share sees to that for a file that is locked itself. Only for
+    /// who has the lock of the counters; nobody is kept out by it.
+    virtual void keep_exact(bool /*on*/) {}
+
     /// Who has the lock, if it is another instance: user and host, "anna su cassa2", in the code
     /// page; an empty text where the system doesn't tell.
     [[nodiscard]] virtual std::optional<std::string> locked_by() const { return {}; }

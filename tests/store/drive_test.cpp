@@ -1,11 +1,13 @@
 #include "store/drive.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 
 #include <cerrno>
+#include <csignal>
 
 #include "store/suite_paths.h"
 #include "support/file_bytes.h"
@@ -88,6 +90,17 @@ TEST_F(drive_test, OpensNothingButPlainFiles) {
     }
     EXPECT_FALSE(port.read_whole("\\manca").has_value());
     EXPECT_FALSE(port.create_folder("\\manca\\dentro"));
+}
+
+TEST_F(drive_test, WaitsForAFileThatAServerHasLentToAnotherMachine) {
+    test::put(folder.path() / "f", "riga");
+    static int lent = ::open((folder.path() / "f").c_str(), O_RDONLY);
+    std::signal(SIGIO, [](int) { ::fcntl(lent, F_SETLEASE, F_UNLCK); });
+    if (::fcntl(lent, F_SETLEASE, F_RDLCK) != 0) GTEST_SKIP() << "nothing is lent on this disk";
+    const auto file = port.open_records("\\f");
+    EXPECT_TRUE(file && file->writable());
+    std::signal(SIGIO, SIG_DFL);
+    ::close(lent);
 }
 
 TEST_F(drive_test, WhatIsInterruptedOrDoneByHalvesIsDoneWhole) {

@@ -45,6 +45,7 @@ class faulty_file final : public file {
     file_place follow() override { return real_->follow(); }
     lock_answer try_lock() override { return faults_.lock_answers.value_or(real_->try_lock()); }
     void unlock() override { real_->unlock(); }
+    void keep_exact(bool on) override { real_->keep_exact(on); }
     [[nodiscard]] std::optional<std::string> locked_by() const override {
         return real_->locked_by();
     }
