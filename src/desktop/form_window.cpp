@@ -8,6 +8,7 @@
 #include <QGroupBox>
 #include <QGuiApplication>
 #include <QLineEdit>
+#include <QMenu>
 #include <QScreen>
 #include <QScrollArea>
 #include <QSettings>
@@ -15,12 +16,14 @@
 #include <QTimer>
 #include <QToolButton>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "desktop/controls/grid_view.h"
-#include "desktop/further_windows.h"
 #include "desktop/keys/manual.h"
 #include "desktop/lists/list_tools.h"
 #include "desktop/look/style.h"
+#include "desktop/look/words.h"
+#include "text/code_page.h"
 #include "ui/desk.h"
 
 namespace vantora::ui::desktop {
@@ -30,6 +33,54 @@ namespace {
 // What the window system's frame takes, about.
 constexpr int title_room = 30;
 constexpr QSize frame_room(8, title_room + 6);
+
+QString caption_of(const further_window& one) {
+    return QString::fromStdString(to_utf8(one.caption));
+}
+
+void fill_menu(form_window& window, QMenu& menu) {
+    const auto& all = window.screen().further_windows();
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        const QString key =
+            QKeySequence(QString::fromStdString(all[i].key)).toString(QKeySequence::NativeText);
+        const int waiting = all[i].count ? all[i].count() : 0;
+        const QString behind = waiting > 0 ? QString(" (%1)").arg(waiting) : QString();
+        QAction* entry = menu.addAction(caption_of(all[i]) + behind + "\t" + key, &window,
+                                        [&window, i] { window.open_further(i); });
+        entry->setEnabled(all[i].can_open());
+    }
+}
+
+/// The caption with a letter for Alt that no other command of the window has.
+QString with_free_letter(QString caption, const QWidget& window) {
+    const auto taken = [&window](QChar letter) {
+        const QKeySequence keys(QString("Alt+") + letter);
+        return std::ranges::any_of(window.findChildren<QAbstractButton*>(), [&](const auto* one) {
+            return QKeySequence::mnemonic(one->text()) == keys;
+        });
+    };
+    for (qsizetype i = 0; i < caption.size() && caption[i].isLetter(); ++i) {
+        if (!taken(caption[i])) return caption.insert(i, '&');
+    }
+    return caption;
+}
+
+/// The windows that a screen opens beyond the system's own: by their keys, and by a menu in its bar
+/// of commands. Nothing for a screen that opens none.
+void add_further_windows(form_window& window) {
+    const auto& all = window.screen().further_windows();
+    if (all.empty()) return;
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        add_key(window, QString::fromStdString(all[i].key), caption_of(all[i]).remove('&'),
+                [&window, i] { window.open_further(i); });
+    }
+    QHBoxLayout* row = command_bar_of(window);
+    if (!row) return;
+    row->addWidget(
+        menu_button(window, "altro", with_free_letter(words::more, window), words::more_windows,
+                    [&window](QMenu& menu) { fill_menu(window, menu); }),
+        0, Qt::AlignTop);
+}
 
 }  // namespace
 

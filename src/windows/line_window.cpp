@@ -1,16 +1,21 @@
 #include "windows/line_window.h"
 
+#include <QApplication>
+#include <QHelpEvent>
 #include <QLineEdit>
 #include <QListView>
+#include <QPainter>
 #include <QScrollBar>
 #include <QShortcut>
 #include <QSplitter>
+#include <QStyledItemDelegate>
 
 #include "desktop/controls/line_pasting.h"
 #include "desktop/dialogs/file_dialog.h"
 #include "desktop/keys/manual.h"
+#include "desktop/look/tip.h"
 #include "desktop/look/words.h"
-#include "windows/article_entries.h"
+#include "entry/article_list.h"
 #include "windows/growing_part.h"
 #include "windows/line_rows.h"
 
@@ -191,6 +196,69 @@ QGroupBox* line_frame(form_window& window, line_grid& screen) {
     all->addWidget(hint);
     all->addStretch(0);
     return box;
+}
+
+// The list of articles ---------------------------------------------------------------------------
+
+constexpr int entry_margin = 6;  // dots
+constexpr const char* wide_code = "WAG00000";
+
+/// Shows the entries of the article list, of which each is a code and a description in fixed
+/// widths and a record number far to the right: code and description in two columns, the number
+/// not at all.
+class article_entries final : public QStyledItemDelegate {
+ public:
+    article_entries(const list_control& articles, QObject* parent)
+        : QStyledItemDelegate(parent), articles_(articles) {}
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override;
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option,
+                                 const QModelIndex& index) const override;
+    /// The description may be wider than the list: its tooltip has it all.
+    bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                   const QModelIndex& index) override;
+
+ private:
+    const list_control& articles_;
+};
+
+void article_entries::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                            const QModelIndex& index) const {
+    QStyleOptionViewItem row = option;
+    initStyleOption(&row, index);
+    row.text.clear();
+    const QStyle* style = row.widget ? row.widget->style() : QApplication::style();
+    style->drawControl(QStyle::CE_ItemViewItem, &row, painter, row.widget);
+
+    const bool chosen = (row.state & QStyle::State_Selected) != 0;
+    const bool enabled = (row.state & QStyle::State_Enabled) != 0;
+    painter->setPen(row.palette.color(enabled ? QPalette::Active : QPalette::Disabled,
+                                      chosen ? QPalette::HighlightedText : QPalette::Text));
+    painter->setFont(row.font);
+    const QFontMetrics& metrics = row.fontMetrics;
+    const QRect room = row.rect.adjusted(entry_margin, 0, -entry_margin, 0);
+    const QString code = to_qt(entry_code(articles_.item(index.row())));
+    const int column =
+        std::max(metrics.horizontalAdvance(wide_code), metrics.horizontalAdvance(code)) +
+        entry_margin;
+    painter->drawText(room, Qt::AlignVCenter | Qt::TextSingleLine, code);
+    const QRect rest = room.adjusted(column, 0, 0, 0);
+    const QString description = to_qt(entry_description(articles_.item(index.row())));
+    // Sizes and makers, which tell articles of a kind apart, stand at the end.
+    painter->drawText(rest, Qt::AlignVCenter | Qt::TextSingleLine,
+                      metrics.elidedText(description, Qt::ElideMiddle, rest.width()));
+}
+
+QSize article_entries::sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const {
+    return {100, option.fontMetrics.height() + 4};
+}
+
+bool article_entries::helpEvent(QHelpEvent* event, QAbstractItemView* view,
+                                const QStyleOptionViewItem&, const QModelIndex& index) {
+    if (event->type() != QEvent::ToolTip || !index.isValid()) return false;
+    show_tip(event->globalPos(), to_qt(entry_description(articles_.item(index.row()))), view);
+    return true;
 }
 
 QGroupBox* list_frame(form_window& window, line_grid& screen) {

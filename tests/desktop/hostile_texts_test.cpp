@@ -38,23 +38,14 @@ class hostile_texts : public test::program_window, public testing::WithParamInte
         }
     }
     std::string any_text() {
-        constexpr const char* parts[] = {"<b>",
-                                         "</b>",
-                                         "<img src='/dev/zero'>",
-                                         "&amp;",
-                                         "&",
-                                         "[*]",
-                                         "<!--",
-                                         "\x01\x7F",
-                                         "\n",
-                                         "\xAD\x9D",
-                                         "\xE2\x80\xAE",
-                                         "%1",
-                                         "x y ",
-                                         "'",
-                                         "<table><tr><td>"};
+        static const QList<QByteArray> parts =
+            QByteArray(
+                "<b>|</b>|<img src='/dev/zero'>|&amp;|&|[*]|<!--|\x01\x7F|\n|\xAD\x9D|"
+                "\xE2\x80\xAE|%1|x y |'|<table><tr><td>")
+                .split('|');
         std::string text;
-        for (auto left = 1 + random_() % 5; left > 0; --left) text += parts[random_() % 15];
+        for (auto left = 1 + random_() % 5; left > 0; --left)
+            text += parts[static_cast<qsizetype>(random_() % 15)].toStdString();
         return text;
     }
     template <class Record>

@@ -172,27 +172,15 @@ TEST_F(register_window, AnotherStationThatIsWaitedForIsSeenAndTheUserWaits) {
          [] { ADD_FAILURE() << "the window was closed meanwhile"; }});
 }
 
-TEST_F(register_window, ATooltipTellsWhatStandsBehindARow) {
-    order.descrizione = "Vite";
-    order.um = "N.";
+TEST_F(register_window, ATooltipTellsWhatStandsBehindARowAndThatItIsLate) {
     order.quantita = 5;
-    order.evaso = 2;
-    order.prezzo = 10;
-    order.sc1 = 10;
     company.files.orc.write(block_record(3, 1), order);
-    order.quantita = 0;
-    for (int i = 2; i <= 8; ++i) company.files.orc.write(block_record(3, i), order);
     const auto told = [&](int at, int role = Qt::ToolTipRole) {
         return table()->model()->index(at, 0).data(role).toString();
     };
     bench.time.stop_at({{2024, 2, 3}, 10, 0, 0});
     run({[&] {
-        const QString third = told(2).replace("<br>", "\n");
-        for (const char* part :
-             {"In ritardo di 2 giorni\n5,00 N.  Vite\nVite\n", "\n... in tutto 8 righe\n",
-              "Da evadere: 3,00 pezzi, 27,00\nValore dell'ordine: 108,00"}) {
-            EXPECT_TRUE(third.contains(part)) << third.toStdString();
-        }
+        EXPECT_TRUE(told(2).contains("In ritardo di 2 giorni<br>5,00"));
         EXPECT_EQ(told(1), "") << "deleted";
         EXPECT_EQ(told(2, Qt::AccessibleTextRole), "3, In ritardo di 2 giorni");
         bench.time.stop_at({{2024, 2, 1}, 23, 0, 0});

@@ -69,13 +69,6 @@ TEST(input_rule, AHandTypesOnlyWhatAFieldHolds) {
     EXPECT_FALSE(written_out_number("*", starred) || written_out_number("1,00", number));
 }
 
-TEST(key, SignsHaveNoNamedKeysCode) {
-    EXPECT_EQ(key::of('p'), 'P') << "a small p has the code of F1 as its character";
-    EXPECT_EQ(key::of('7'), '7');
-    EXPECT_EQ(key::of(' '), key::blank);
-    for (const char sign : {'(', '&', '.', '\'', '%', '\xE8'}) EXPECT_EQ(key::of(sign), key::sign);
-}
-
 TEST(list, ChoosingByCodeFiresOnlyForAnotherEntry) {
     drop_down list;
     std::string seen;
