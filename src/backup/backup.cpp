@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <set>
 #include <sstream>
 
 #include "backup/staging.h"
@@ -70,11 +71,12 @@ std::string copy_all(file_port& from, const std::vector<listed_file>& listed, fi
     pace.done = pace.all = 0;
     // Each is read again from the copy.
     for (const listed_file& one : listed) pace.all += 2 * one.size;
+    std::set<std::string> names;
     for (const listed_file& one : listed) {
         const std::string target = into + "/" + one.path;
         if (!make_folders(to, target))
             return from_utf8(target) + ": la cartella non si può creare"_cp;
-        if (to.exists(drive_path(target)))
+        if (!names.insert(upper(drive_path(target))).second)
             return from_utf8(one.path) + ": lo stesso nome due volte";
         const auto done = copy_over(from, one.path, to, target, pace);
         if (!done) return from_utf8(one.path) + ": non si può leggere o copiare"_cp;

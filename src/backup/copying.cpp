@@ -33,7 +33,9 @@ void add_files(const fs::path& root, const fs::path& folder, bool tables_only,
 /// null. Empty if something refused.
 std::optional<copied_file> passed(file& from, file* to, const std::string& path, copy_pace& pace) {
     copied_file all{path, 0, 0xCBF29CE484222325};
-    std::vector<std::byte> stretch(at_once);
+    const auto length =
+        static_cast<std::size_t>(std::max<std::int64_t>(from.length().value_or(0), 0));
+    std::vector<std::byte> stretch(std::min(at_once, length + 1));
     bool more = true;
     while (more) {
         const auto got = from.read(all.size, stretch);

@@ -12,6 +12,7 @@
 #include <csignal>
 #include <utility>
 
+#include "store/folder_entry.h"
 #include "store/station.h"
 #include "text/code_page.h"
 
@@ -37,20 +38,6 @@ struct flock lock_of(short type) {
 
 /// Who had the lock last stands beside the file's content, where no other program meets it.
 constexpr const char* holder_attribute = "user.vantora.station";
-
-/// The entry of a folder that has the name, in whatever case; the name as it is if there is none.
-std::filesystem::path entry_named(const std::filesystem::path& folder, const std::string& name) {
-    std::error_code failed;
-    if (std::filesystem::exists(std::filesystem::symlink_status(folder / name, failed))) {
-        return folder / name;
-    }
-    const std::string wanted = upper(from_utf8(name));
-    for (std::filesystem::directory_iterator entry(folder, failed), end; !failed && entry != end;
-         entry.increment(failed)) {
-        if (upper(from_utf8(entry->path().filename().string())) == wanted) return entry->path();
-    }
-    return folder / name;
-}
 
 /// Calls until the call isn't interrupted.
 template <class Call>
