@@ -40,7 +40,7 @@ app: register enquiry customer entry fulfil reports program store text ui deskto
 tools/archive: backup store text orders store/records
 tools/demo: text store/records store orders
 tools/mirxpdf: documents store text ui/paper ui/pictures desktop/look
-bench: tools/archive tools/demo enquiry register store customer entry desktop desktop/look ui fulfil store/records documents tools/mirxpdf ui/pictures orders reports text desktop/printing
+bench: tools/archive tools/demo enquiry register store customer entry desktop desktop/look ui fulfil store/records documents tools/mirxpdf ui/pictures orders reports text
 '
 
 sources='src/*.h src/*.cpp tools/*.h tools/*.cpp bench/*.h bench/*.cpp'

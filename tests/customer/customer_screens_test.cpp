@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include "customer/customer_desk.h"
-#include "customer/mirdata.h"
 #include "customer/mirorcm.h"
 #include "customer/shipping_data.h"
 
@@ -132,22 +131,6 @@ TEST_F(mirorcx_screen, ThePickedCustomerIsTakenWhereAPersonPicks) {
     EXPECT_TRUE(head.Text2[0].text() == shown && head.Text2[0].has_focus());
 }
 
-TEST_F(mirorcx_screen, ItsPickListIsModalAndSorts) {
-    desk.with_pick_list([&](mirsel& list) {
-        EXPECT_TRUE(desk.desk.obstacle(head));
-        std::string shown;
-        for (const int row : {0, 1}) {
-            for (int col = 0; col < 6; ++col) shown.append(list.elenco.text(row, col)).append("|");
-        }
-        EXPECT_EQ(shown,
-                  "Nominativo||Indirizzo|Città|Partita iva||"_cp
-                  "Bianchi|seconda riga|indirizzo|citta|00000000001|2|"_cp);
-        list.srx[0].click();
-        EXPECT_EQ(list.elenco.text(4, 0), "ZETA");
-    });
-    EXPECT_FALSE(desk.desk.obstacle(head));
-}
-
 class mirorcm_screen : public a_customer_desk {
  protected:
     mirorcm_screen() { desk.provide(app.mirorcm); }
@@ -253,23 +236,6 @@ TEST_F(mirorcm_screen, ShippingDataOfAnOrdersRowsGoOnTheHead) {
     std::string shown;
     for (const int field : {8, 9, 10, 11, 12, 17, 18, 19}) shown += head.Text2[field].text() + " ";
     EXPECT_EQ(shown, "uno due tre uno due uno due tre ");
-}
-
-using mirdata_screen = a_customer_desk;
-
-/// There is no way out without a date.
-TEST_F(mirdata_screen, ProposesADateOfTheCalendarAndGivesItByEnter) {
-    desk.provide(app.mirdata);
-    app.data_riserva = "01/01/2020";
-    for (const auto& [proposed, chosen] : {std::pair{"03/04/2025", "03/04/2025"},
-                                           {"", "01/01/2020"},
-                                           {"31/02/2025", "01/01/2020"}}) {
-        app.data_proposta = proposed;
-        desk.front.actions = {[&] { app.mirdata->nuovadata.press_key(ui::key::enter, '\r'); }};
-        desk.desk.dispatch([&] { app.mirdata->show_modal(); });
-        EXPECT_FALSE(app.mirdata.loaded());
-        EXPECT_EQ(app.data_scelta, chosen);
-    }
 }
 
 }  // namespace

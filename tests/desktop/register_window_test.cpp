@@ -106,31 +106,6 @@ TEST_F(register_window, RowsOpenByClickAndByEnter) {
          }});
 }
 
-TEST_F(register_window, CompactsAfterItsTwoQuestions) {
-    run({[&] { bench.press_button("srtt(1)"); },
-         [&] {
-             ASSERT_TRUE(box());
-             EXPECT_EQ(box()->windowTitle(), "Compattazione archivio");
-             box()->parentWidget()->close();
-             EXPECT_FALSE(bench.desk.ended()) << "a question wants its answer first";
-             QTest::keyClick(box(), Qt::Key_Escape);
-         },
-         [&] {
-             ASSERT_TRUE(box());
-             EXPECT_EQ(box()->text(), "Confermi?");
-             EXPECT_EQ(box()->buttonRole(box()->defaultButton()), QMessageBox::NoRole);
-             QTest::keyClick(box(), Qt::Key_Backtab);
-             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
-         },
-         [&] {
-             EXPECT_EQ(cell(1, 1) + cell(2, 0), "3");
-             EXPECT_TRUE(bench.find("bottone(4)")->isVisible());
-             EXPECT_FALSE(bench.find("srt")->isVisible());
-             bench.front.front_window()->close();
-         }});
-    EXPECT_FALSE(app.archives.tot.is_open()) << "closing the register ends the program";
-}
-
 TEST_F(register_window, ALongListTellsHowFarItIsAndTheUserWaits) {
     run({[&] {
              disk.read_takes = std::chrono::milliseconds(200);

@@ -69,22 +69,6 @@ TEST_F(document_tables, WhatIsThereAndCantBeReadIsKnown) {
     EXPECT_EQ(unreadable(), "lko vantora.int vantora.tab vantora.lyo vantora.pdf");
 }
 
-TEST_F(document_tables, HeadingAndPdfSettingsGoToTheirPlaces) {
-    write("int", 21, {{5, "  Via Roma, 1 \"bis\" "}});
-    write("pdf", 80, {{4 * 5 + 3, "  C:\\PDF "}, {4 * 4 + 3, " "}});
-    load(tipo_documento::ordine);
-    EXPECT_EQ(tables.testi_intestazione[0], "");
-    EXPECT_EQ(tables.testi_intestazione[5], "  Via Roma, 1 \"bis\" ");
-    EXPECT_EQ(tables.testi_intestazione[20], "20");
-    EXPECT_EQ(tables.pdf[6][3], "24");
-    const auto& slots = parameters.parametri_valuta;
-    EXPECT_EQ(slots[valuta_slot::riservato_pdf], "21");
-    EXPECT_EQ(slots[valuta_slot::invio_email], "22");
-    EXPECT_EQ(slots[valuta_slot::cartella_pdf], "C:\\PDF");
-    load(tipo_documento::documento_trasporto);
-    EXPECT_EQ(slots[valuta_slot::cartella_pdf], "C:");
-}
-
 TEST_F(document_tables, ADrawingReadsAllItsBlocksWhateverItsCountSays) {
     write("lko", 9,
           {{2, "Ordine, n."}, {3, "Arial"}, {4, "3,10, 20"}, {5, "0,0,255,12"}, {6, "1,0"}});

@@ -74,19 +74,5 @@ TEST(article_list, ReadsFewTimesAndLeavesOutWhatCantBeRead) {
     EXPECT_TRUE(article_entries_of(archivi{}.art_blocchi, 3000).empty());
 }
 
-TEST(article_list, TheStockLineCarriesTheNumberBehind140Characters) {
-    auto one = article("CODICE", "Descrizione", 1);
-    one.giacenza = -2.5;
-    one.impegnato = 1000;
-    const std::string line = stock_entry(one, 42);
-    EXPECT_EQ(line.size(), 145U);
-    EXPECT_TRUE(line.starts_with("CODICE          - Descrizione "));
-    EXPECT_EQ(line.substr(98), " - Giacenza:-2.5 - Impegnato:1000         00042");
-    EXPECT_EQ(article_number(line), 42);
-    one.giacenza = 123456789012345.0;
-    one.impegnato = -123456789012345.0;
-    EXPECT_EQ(article_number(stock_entry(one, 32767)), 32767);
-}
-
 }  // namespace
 }  // namespace vantora::test

@@ -146,18 +146,6 @@ TEST(mirorcr, MarkedRowsAreNotLostWithoutAQuestion) {
     EXPECT_FALSE(stage.app.mirorcr.loaded());
 }
 
-TEST(mirorcr, AnOrderDeletedMeanwhileIsNotTakenOutOfItsArticlesTwice) {
-    fulfil_stage stage;
-    stage.order(1, 1, {{1, 5}, {2, 7}});
-    stage.run();
-    stage.open_worklist(1);
-    stage.click(1, mirorcr::ordine);
-    delete_order(stage, 1);
-    stage.book();
-    EXPECT_EQ(stage.row_now(1, 2).evaso, 7) << "the last one wins";
-    EXPECT_EQ(stage.article_now(2).ordinato_clienti, 0);
-}
-
 TEST(mirorcr, TheRowBehindTheTwoHundredthEndsTheProgramAndIsBookedOnce) {
     fulfil_stage stage;
     stage.order(1, 1, std::vector<order_line>(200, {1, 1}));

@@ -145,20 +145,6 @@ TEST_F(report_screens, ABuildGoesOnUnderTheHandsOfTheUser) {
     EXPECT_EQ(column(open(app.mirstov), 4), "90,00|90,00|90,00|270,00");
 }
 
-TEST_F(report_screens, ParametersAndCategoriesComeFromTheFilesOfTheMoment) {
-    stage.company.text("tb2", std::vector<std::string>(10000, "Categoria"));
-    std::vector<std::string> pdf(80, "altrove");
-    pdf[5 * 4 + 2] = " C:\\Ordini ";
-    stage.company.text("pdf", pdf);
-    put(stage.company.drive() / "mirwin/mirwin/vantora.eur", "0\n1\nITL\nEUR\n2\n");
-    EXPECT_EQ(open(app.mirstoa).Combo0.count(), 10001);
-    EXPECT_EQ(column(*app.mirstoa, 0),
-              "Per visualizzare il prospetto selezionare gli|articoli e/o gli ordini e clic sul "
-              "bottone|'Aggiorna lista'");
-    EXPECT_EQ(app.parameters.parametri_valuta[valuta_slot::cartella_pdf], "C:\\Ordini");
-    EXPECT_EQ(column(open(app.mirstov), 4), "90|90|90|270") << "whole lire";
-}
-
 TEST_F(report_screens, PutTheirListOutAndLeaveAllFilesAsTheyWere) {
     open(app.mirstov);  // creates the general parameters, as the first start of a company does
     const auto folder = stage.company.file("orc").parent_path();

@@ -174,16 +174,6 @@ TEST_F(parameters_test, ParametersAreRepairedAndNothingElseIsTouched) {
     EXPECT_EQ(stored().riservato_bd.trimmed(), "di altri");
 }
 
-TEST_F(parameters_test, HeadingLinesThatAreMissingStayEmpty) {
-    put(company / "vantora.int", "Ditta\r\nVia Po 1\r\n");
-    parametri loaded = load();
-    EXPECT_EQ(loaded.intestazione_ditta[2], "Via Po 1");
-    EXPECT_EQ(loaded.intestazione_ditta[3], "");
-    std::filesystem::remove(company / "vantora.int");
-    carica_parametri(loaded, port);
-    EXPECT_EQ(loaded.intestazione_ditta[2], "") << "loading again rebuilds everything";
-}
-
 TEST_F(parameters_test, AFirstStartThatFailsIsMadeGoodByTheNext) {
     const std::string others = "di altri moduli";
     for (const bool has_template : {false, true}) {

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 #include "store/drive.h"
 #include "support/file_bytes.h"
 #include "support/scratch_folder.h"
@@ -64,27 +62,6 @@ TEST(suite_table, EverySectionIsFoundAtItsPlace) {
     EXPECT_EQ(table.causali[39], "s10 g40 l1");
     EXPECT_EQ(table.aspetti[39], "s10 g40 l2");
     EXPECT_EQ(table.vettori[39], (vettore{"s10 g40 l3", "s10 g40 l4", "s10 g40 l5"}));
-}
-
-TEST(suite_table, ItemsThatShareTheirLineMoveAllThatFollows) {
-    auto lines = telling_lines();
-    // Both items of a group on one line.
-    const auto shorten = [&](const std::string& section, const char* line) {
-        std::erase_if(lines,
-                      [&](auto& one) { return one.starts_with(section) && one.back() == '2'; });
-        for (auto& one : lines) {
-            if (one.starts_with(section)) one = line;
-        }
-    };
-    shorten("s14 ", "\"a,b\" c, d, e");
-    shorten("s6 ", "1, \"2\"");
-    *std::ranges::find(lines, "s3 g1 l1") = "\"Esente, art. 10\"";
-    const tabella_suite table = read(content_of(lines));
-    EXPECT_EQ(table.iva.descrizione_iva[0], "Esente, art. 10");
-    EXPECT_EQ(table.vettori[0][0], "s10 g1 l3");
-    EXPECT_EQ(table.iva.descrizione_iva[16], "s13 g8 l1");
-    ASSERT_EQ(table.pagamenti.size(), 60U);
-    EXPECT_EQ(table.pagamenti[59], "s15 g30 l1");
 }
 
 TEST(suite_table, VatEntriesReadAsTheListShowsThem) {

@@ -3,13 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <limits>
 #include <random>
 #include <sstream>
 
 #include "text/code_page.h"
 #include "text/dates.h"
-#include "text/int16.h"
 #include "text/number_text.h"
 
 namespace vantora {
@@ -134,19 +132,6 @@ TEST(number_at_head, ReadsLenientlyAndStopsAtTheFirstOtherCharacter) {
     for (const char* text : {"", " ", "1a", "12/03/2024", "1,5", ".", "-"}) {
         EXPECT_FALSE(whole_number_text(text).has_value()) << text;
     }
-}
-
-TEST(to_int16, RoundsTiesToEvenAndRefusesWhatDoesntFit) {
-    const std::pair<double, int> cases[] = {{7.5, 8}, {6.5, 6},         {-6.5, -6},        {0.5, 0},
-                                            {2.4, 2}, {32767.4, 32767}, {-32768.5, -32768}};
-    for (const auto& [value, rounded] : cases) EXPECT_EQ(to_int16(value), rounded) << value;
-    const double infinity = std::numeric_limits<double>::infinity();
-    for (const double value : {32767.5, -32768.6, 1E300, infinity, -infinity, std::nan("")}) {
-        EXPECT_FALSE(to_int16(value).has_value()) << value;
-    }
-    EXPECT_FALSE(add_int16(32767, 1).has_value());
-    EXPECT_EQ(add_int16(32766, 1), 32767);
-    EXPECT_FALSE(subtract_int16(-32768, 1).has_value());
 }
 
 TEST(masked, RoundsTheDecimalTextHalfAwayFromZero) {

@@ -69,27 +69,5 @@ TEST(input_rule, AHandTypesOnlyWhatAFieldHolds) {
     EXPECT_FALSE(written_out_number("*", starred) || written_out_number("1,00", number));
 }
 
-TEST(list, ChoosingByCodeFiresOnlyForAnotherEntry) {
-    drop_down list;
-    std::string seen;
-    list.on_click = [&] { seen += std::string(list.text()) + " "; };
-    list.add_all({"uno", "due"});
-    EXPECT_TRUE(list.choose(1) && list.choose(1));
-    EXPECT_FALSE(list.choose(2) || list.choose(-2));
-    list.press_key(key::sign, '(');
-    EXPECT_TRUE(list.choose(-1) && list.choose(0));
-    list.clear();
-    EXPECT_EQ(list.text(), "");
-    EXPECT_EQ(seen, "due uno ");
-}
-
-TEST(sorted_list, HoldsItsEntriesInTheOrderOfTheAlphabet) {
-    list_box list;
-    list.add_all({"zeta", "Élite"_cp, "eco", "10"});
-    list.add_all({"Eco", "cane"});
-    EXPECT_EQ(list.items(),
-              (std::vector<std::string>{"10", "cane", "eco", "Eco", "Élite"_cp, "zeta"}));
-}
-
 }  // namespace
 }  // namespace vantora::ui

@@ -110,18 +110,6 @@ TEST(mirxpdf_program, WhateverTheDiskRefusesThereIsAWholePdfOrTheOneBefore) {
     EXPECT_EQ(refused, 11) << "a picture that can't be read for once is left out, as on paper";
 }
 
-TEST(mirxpdf_program, OneOddValueLosesNoDocumentButIsTold) {
-    pdf_drive drive;
-    drive.write_print_file({{text_at(20, 30, "Ordine", 1'000'000), text_at(9e9, 30, "x")},
-                            {text_at(20, 30, "ultima")}});
-    const auto result = drive.run({report_call});
-    EXPECT_EQ(result.exit_code, 0);
-    EXPECT_NE(result.said.find("numero troppo grande (riga 7)"), std::string::npos) << result.said;
-    EXPECT_NE(result.said.find("saltati: 2"), std::string::npos) << result.said;
-    EXPECT_NE(drive.run_command({"pdftotext", "doc.pdf", "-"}).said.find("ultima"),
-              std::string::npos);
-}
-
 TEST(mirxpdf_program, ADemonstrationCompanyGetsTheProgramAndItsSettings) {
     pdf_drive drive;
     const auto make = [&](const char* company) {
