@@ -49,7 +49,7 @@ void export_carriers(const std::vector<vettore>& carriers, table_writer& into) {
     into.end();
 }
 
-std::string counted_by(std::int64_t record, const naming& names) {
+std::string what_is_counted(std::int64_t record, const naming& names) {
     constexpr std::pair<int, table_id> tables[] = {
         {contatori::clienti, table_id::customers},
         {contatori::articoli, table_id::articles},
@@ -73,7 +73,7 @@ void export_counters(company_files& company, table_writer& into, gaps& missing) 
     const auto& counters = company.records().tot;
     const int unread = scan(counters, static_cast<int>(counters.records_held().value_or(0)),
                             [&](std::int64_t number, const rec_tot& one) {
-                                into.row({number, counted_by(number, names)},
+                                into.row({number, what_is_counted(number, names)},
                                          [&](auto& cells) { add_cells(cells, one, into.to); });
                             });
     add_unread(counters, unread, missing);
