@@ -26,8 +26,8 @@ desktop/keys: desktop/dialogs desktop/look
 desktop/controls: desktop/dialogs desktop/keys desktop/look ui ui/paper text
 desktop/lists: desktop/dialogs desktop/keys desktop/look ui ui/paper text
 desktop/printing: desktop/dialogs desktop/look ui ui/paper
-desktop: desktop/controls desktop/dialogs desktop/keys desktop/lists desktop/look ui ui/paper ui/script text
-windows: orders desktop desktop/controls desktop/dialogs desktop/keys desktop/look register enquiry customer entry fulfil reports ui ui/paper
+desktop: desktop/controls desktop/dialogs desktop/keys desktop/lists desktop/look ui ui/paper text
+windows: desktop desktop/controls desktop/dialogs desktop/keys desktop/look register enquiry customer entry fulfil reports
 program: store text ui
 customer: program orders store store/records text ui
 documents: program orders store text ui
