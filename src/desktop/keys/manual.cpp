@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QUrl>
+#include <QWidget>
 
 #include "desktop/dialogs/file_dialog.h"
 #include "desktop/look/words.h"
