@@ -1,9 +1,11 @@
 #include <unistd.h>
 
 #include <ctime>
+#include <filesystem>
 #include <iostream>
 
 #include "archive/commands.h"
+#include "archive/words.h"
 #include "store/drive.h"
 #include "store/suite_paths.h"
 
@@ -105,8 +107,14 @@ int run(int count, char** arguments) {
     } catch (const CLI::ParseError& problem) {
         return program.exit(problem) == 0 ? exit_code::done : exit_code::wrong_options;
     }
-    for (const command& one : commands) {
-        if (*one.line) return one.run(company);
+    try {
+        for (const command& one : commands) {
+            if (*one.line) return one.run(company);
+        }
+    } catch (const std::filesystem::filesystem_error& problem) {
+        // A folder that a command lists on its way; nothing is half done there.
+        std::cerr << words_of_path(problem.path1()) << ": la cartella non si può leggere\n";
+        return exit_code::unreadable;
     }
     return exit_code::wrong_options;
 }
