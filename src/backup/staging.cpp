@@ -31,8 +31,8 @@ bool rename_to(const fs::path& from, const fs::path& to) {
 
 void give_rights(const struct stat& like, const fs::path& to) {
     // First the group: it takes the bit away that new files get it by.
-    [[maybe_unused]] const int refused = ::chown(to.c_str(), static_cast<uid_t>(-1), like.st_gid) |
-                                         ::chmod(to.c_str(), like.st_mode & 07777);
+    [[maybe_unused]] const int refused = ::chown(to.c_str(), static_cast<uid_t>(-1), like.st_gid);
+    ::chmod(to.c_str(), like.st_mode & 07777);
 }
 
 }  // namespace

@@ -47,18 +47,6 @@ auto uninterrupted(const Call& call) {
     return result;
 }
 
-}  // namespace
-
-bool flush_folder(const std::filesystem::path& folder) {
-    const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (descriptor < 0) return false;
-    const bool done = uninterrupted([&] { return ::fsync(descriptor); }) == 0;
-    ::close(descriptor);
-    return done;
-}
-
-namespace {
-
 /// Device and number of a plain file; empty if there is none.
 using file_identity = std::optional<std::pair<dev_t, ino_t>>;
 
@@ -296,6 +284,14 @@ void give_rights(const std::filesystem::path& to, mode_t rights) {
 
 void take_file_limits_as_errors() {
     std::signal(SIGXFSZ, SIG_IGN);
+}
+
+bool flush_folder(const std::filesystem::path& folder) {
+    const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (descriptor < 0) return false;
+    const bool done = uninterrupted([&] { return ::fsync(descriptor); }) == 0;
+    ::close(descriptor);
+    return done;
 }
 
 drive::drive(std::filesystem::path root, access to) : root_(std::move(root)), access_(to) {}

@@ -112,8 +112,7 @@ int run(int count, char** arguments) {
             if (*one.line) return one.run(company);
         }
     } catch (const std::filesystem::filesystem_error& problem) {
-        // A folder that a command lists on its way; nothing is half done there.
-        std::cerr << words_of_path(problem.path1()) << ": la cartella non si può leggere\n";
+        std::cerr << words_of_path(problem.path1()) << ": non si può leggere o scrivere\n";
         return exit_code::unreadable;
     }
     return exit_code::wrong_options;
