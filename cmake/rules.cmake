@@ -57,8 +57,8 @@ function(vantora_keep_headers name)
     target_precompile_headers(${name} PRIVATE ${standard_headers} ${toolkit_headers})
   elseif(CMAKE_CURRENT_SOURCE_DIR MATCHES "/src/(desktop|windows)")
     target_precompile_headers(${name} REUSE_FROM vantora_look)
-  elseif(CMAKE_CURRENT_SOURCE_DIR MATCHES
-         "/(customer|demo|documents|enquiry|entry|fulfil|orders|program|register|reports|store|ui)$")
+  elseif(NOT CMAKE_CURRENT_SOURCE_DIR MATCHES "/(app|bench|errors|mirxpdf|pictures|scripted|support)$")
+    # those have options of their own, or come before
     target_precompile_headers(${name} REUSE_FROM vantora_text)
   endif()
 endfunction()
@@ -78,7 +78,7 @@ function(vantora_program name)
   target_link_libraries(${name} PRIVATE vantora_rules ${arg_LINKS})
 endfunction()
 
-# One test program per folder of tests. What it tests is built as users get it; the tests' own code,
+# One test program per folder of tests, or for several small ones. What it tests is built as users get it; the tests' own code,
 # half of all that is compiled, waits for no optimizer and is told by its assertions, not by a debugger.
 function(vantora_test name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINKS")

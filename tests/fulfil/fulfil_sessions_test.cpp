@@ -216,8 +216,8 @@ class session {
     void compare() {
         const auto same = [&](const char* name, const std::string& kept) {
             const std::string found = stage_.company.content(name);
-            const auto at = std::ranges::mismatch(found, kept).in1 - found.begin();
-            EXPECT_TRUE(found == kept) << name << " differs at " << at;
+            EXPECT_TRUE(found == kept)
+                << name << " differs at " << std::ranges::mismatch(found, kept).in1 - found.begin();
         };
         same("orc", bytes_of(book_.rows));
         same("art", bytes_of(book_.articles));

@@ -2,6 +2,7 @@
 
 #include <charconv>
 #include <map>
+#include <nlohmann/json.hpp>
 #include <random>
 #include <sstream>
 

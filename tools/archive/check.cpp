@@ -1,6 +1,7 @@
 #include "archive/check.h"
 
 #include <algorithm>
+#include <nlohmann/json.hpp>
 #include <ostream>
 
 #include "archive/exit_code.h"

@@ -1,6 +1,7 @@
 #include "archive/finding.h"
 
 #include <algorithm>
+#include <nlohmann/json.hpp>
 
 namespace vantora::archive {
 
