@@ -57,7 +57,7 @@ function(vantora_keep_headers name)
     target_precompile_headers(${name} PRIVATE ${standard_headers} ${toolkit_headers})
   elseif(CMAKE_CURRENT_SOURCE_DIR MATCHES "/src/(desktop|windows)")
     target_precompile_headers(${name} REUSE_FROM vantora_look)
-  elseif(NOT CMAKE_CURRENT_SOURCE_DIR MATCHES "/(app|bench|errors|mirxpdf|pictures|scripted|support)$")
+  elseif(NOT CMAKE_CURRENT_SOURCE_DIR MATCHES "/(app|bench|errors|mirxpdf|paper|pictures|scripted|support)$")
     # those have options of their own, or come before
     target_precompile_headers(${name} REUSE_FROM vantora_text)
   endif()
