@@ -4,7 +4,7 @@ DOCS holds the chapters, in the order of their names, the style, and PICTURES wh
 vantora-ordini-manuale.html, one file that needs no other, and vantora-ordini-manuale.pdf.
 
 Beside plain Markdown the chapters use: a picture alone in its paragraph, which gets a caption
-and may say how it is shown (#small, #top: its upper half, #sheet: that of a printed page, #box: the question in its middle, #paper);
+and may say how it is shown (#large, #small, #top: its upper half, #sheet: that of a printed page, #box: the question alone, #paper);
 [[Ctrl+N]] for keys; {nuovo} for the icon of a command; "> **Attenzione.**" for what must not be missed.
 """
 
@@ -23,14 +23,18 @@ TITLE = "Vantora Ordini"
 
 
 # What of a picture is shown, as shares of its width and height: left, top, right, bottom.
-PARTS = {"top": (0, 0, 1, 0.5), "sheet": (0, 0, 1, 0.45), "box": (0.3, 0.4, 0.7, 0.6)}
+PARTS = {"top": (0, 0, 1, 0.5), "sheet": (0, 0, 1, 0.45)}
 
 
 def data_of(path, part):
     if path.suffix == ".svg":
         return f"data:image/svg+xml;base64,{base64.b64encode(path.read_bytes()).decode()}"
     # Windows have few colours: a palette makes a third of the size.
-    picture = Image.open(path).convert("RGB")
+    source = Image.open(path)
+    picture = source.convert("RGB")
+    if part == "box":
+        left, top, width, height = map(int, source.text["Box"].split())
+        picture = picture.crop((left, top, left + width, top + height))
     if part in PARTS:
         sides = zip(PARTS[part], picture.size * 2)
         picture = picture.crop([round(share * whole) for share, whole in sides])

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QEventLoop>
+#include <QImage>
 #include <QPainter>
 #include <algorithm>
 
@@ -280,15 +281,23 @@ bool desktop_front_end::save_picture(const std::filesystem::path& file) const {
     QCoreApplication::processEvents();
     QWidget* front = front_window();
     if (!front) return false;
-    QPixmap picture = front->grab();
-    if (QWidget* behind = front->parentWidget()) {
-        // A message box is shown where it stands in front of its window.
-        QPixmap whole = behind->window()->grab();
-        const QSizeF room = whole.deviceIndependentSize() - picture.deviceIndependentSize();
-        QPainter(&whole).drawPixmap(QPointF(room.width() / 2, room.height() / 2), picture);
-        picture = whole;
-    }
-    return picture.save(QString::fromStdString(file.string()));
+    const QPixmap picture = front->grab();
+    const QString name = QString::fromStdString(file.string());
+    QWidget* behind = front->parentWidget();
+    if (!behind) return picture.save(name);
+    // A message box is shown in front of its window; the picture says where it stands in it.
+    QImage whole = behind->window()->grab().toImage();
+    const QRect place(
+        {(whole.width() - picture.width()) / 2, (whole.height() - picture.height()) / 2},
+        picture.size());
+    whole.setDevicePixelRatio(1);
+    QPainter(&whole).drawPixmap(place, picture);
+    whole.setText("Box", QString("%1 %2 %3 %4")
+                             .arg(place.left())
+                             .arg(place.top())
+                             .arg(place.width())
+                             .arg(place.height()));
+    return whole.save(name);
 }
 
 // Boxes and pointer -------------------------------------------------------------------------------
