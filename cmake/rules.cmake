@@ -31,10 +31,10 @@ endif()
 add_library(vantora_unhurried INTERFACE)
 target_compile_options(vantora_unhurried INTERFACE $<$<CONFIG:RelWithDebInfo>:-O0$<SEMICOLON>-U_FORTIFY_SOURCE>)
 
-# The system's own linker takes seconds for each of some forty programs.
-find_program(VANTORA_FAST_LINKER NAMES ld.lld)
+# The compiler's usual linker takes seconds for each of some thirty programs; this one comes with it.
+find_program(VANTORA_FAST_LINKER NAMES ld.gold)
 if(VANTORA_FAST_LINKER AND NOT CMAKE_EXE_LINKER_FLAGS MATCHES "-fuse-ld=")
-  target_link_options(vantora_rules INTERFACE -fuse-ld=lld)
+  target_link_options(vantora_rules INTERFACE -fuse-ld=gold)
 endif()
 
 # Headers of the standard library and of Qt that nearly every file reads, kept as the compiler leaves
@@ -55,9 +55,14 @@ function(vantora_keep_headers name)
     target_precompile_headers(${name} PRIVATE ${standard_headers})
   elseif(name STREQUAL vantora_look)
     target_precompile_headers(${name} PRIVATE ${standard_headers} ${toolkit_headers})
-  elseif(CMAKE_CURRENT_SOURCE_DIR MATCHES "/src/(desktop|windows)")
+  elseif(CMAKE_CURRENT_SOURCE_DIR MATCHES "/src/(desktop|windows)"
+         OR name MATCHES "^vantora(-ordini|_mirxpdf)$")
     target_precompile_headers(${name} REUSE_FROM vantora_look)
-  elseif(NOT CMAKE_CURRENT_SOURCE_DIR MATCHES "/(app|bench|errors|mirxpdf|paper|pictures|scripted|support)$")
+  elseif(name STREQUAL vantora_options)
+    target_precompile_headers(${name} PRIVATE ${standard_headers} <CLI/CLI.hpp>)
+  elseif(name MATCHES "^vantora-(archive|demo)$")
+    target_precompile_headers(${name} REUSE_FROM vantora_options)
+  elseif(NOT CMAKE_CURRENT_SOURCE_DIR MATCHES "/(app|bench|demo|errors|mirxpdf|paper|pictures|scripted|support)$")
     # those have options of their own, or come before
     target_precompile_headers(${name} REUSE_FROM vantora_text)
   endif()
@@ -76,6 +81,7 @@ function(vantora_program name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINKS")
   add_executable(${name} ${arg_SOURCES})
   target_link_libraries(${name} PRIVATE vantora_rules ${arg_LINKS})
+  vantora_keep_headers(${name})
 endfunction()
 
 # One test program per folder of tests, or for several small ones. What it tests is built as users get it; the tests' own code,

@@ -4,6 +4,7 @@
 #   scripts/check-tidy.sh [FILE...]
 set -eu
 cd "$(dirname "$0")/.."
+scripts/install-packages.sh packages-checks.txt
 
 # A preset that reads files one by one.
 build=build/debug
