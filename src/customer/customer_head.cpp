@@ -131,7 +131,7 @@ void customer_head::begin_document(int counter) {
     app_.archives.tot.read(counter, contatore_);
     for (auto& field : Text3) field.set_text("");
     // Both kinds of documents have their number there.
-    const auto next = add_int16(contatore_.ultimo_numero, 1);
+    const auto next = to_int16(contatore_.ultimo_numero + 1);
     if (next) Text3[campo_ordine::numero].set_text(std::to_string(*next));
     const std::string today = date_text(app_.desk.clock().now().day);
     for (const std::size_t date : kind_.date_fields) Text3[date].set_text(today);

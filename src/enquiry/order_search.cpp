@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "orders/order_rows.h"
-#include "text/searchable.h"
+#include "text/code_page.h"
 
 namespace vantora {
 

@@ -42,7 +42,7 @@ change_outcome salva_ddt(archivi& files, file_port& port, int numero_azienda,
     rec_tot counter;
     change.counts(files.tot, contatori::documenti_trasporto, counter, files.bol);
     const rec_tot before = counter;
-    counter.quanti = add_int16(counter.quanti, 1).value_or(counter.quanti);
+    counter.quanti = to_int16(counter.quanti + 1).value_or(counter.quanti);
     change.writes(files.bol, counter.quanti, 1);
     if (change.may_write() && document.solo_se_chiaro &&
         doubt_about(files, document.contenuto.text3[campo_ddt::numero],

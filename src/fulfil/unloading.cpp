@@ -73,7 +73,7 @@ void unload(archive_change& change, archivi& files, const movimento_magazzino& m
         const double price = checked(net_price(line, amounts));
         unload_stock(article, line.quantita, price);
         change.write(files.art, line.articolo, article);
-        counter.quanti = add_int16(counter.quanti, 1).value_or(counter.quanti);
+        counter.quanti = to_int16(counter.quanti + 1).value_or(counter.quanti);
         change.write(files.mag, counter.quanti, movement_of(movement, line, price));
     }
     change.flush(files.art);

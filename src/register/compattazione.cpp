@@ -81,7 +81,7 @@ change_outcome compatta_archivio(archivi& files, bool elimina_evasi,
         close_gaps(change, files.orc, orders, elimina_evasi, progress, unread);
     if (!change.none_refused()) return change.finish();
 
-    counter.quanti = subtract_int16(counter.quanti, vuoti).value_or(counter.quanti);
+    counter.quanti = to_int16(counter.quanti - vuoti).value_or(counter.quanti);
     counter.riservato_a = std::int16_t{0};
     change.write(files.tot, contatori::ordini, counter);
     change.flush(files.tot);

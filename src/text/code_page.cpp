@@ -134,11 +134,13 @@ int base_letter(unsigned char character) {
     return place < first_letter ? place : place - (place - first_letter) % letter_step;
 }
 
-constexpr auto folded_table = [] {
+/// Each character as searches compare it; 0 for those that don't show.
+constexpr auto searchable_table = [] {
     std::array<char, 256> table = upper_table;
     for (unsigned code = 0; code < 256; ++code) {
         const int letter = alphabet[code] - first_letter;
         if (letter >= 0) table[code] = static_cast<char>('A' + letter / letter_step);
+        if (code < 32 || code == 127) table[code] = 0;
     }
     return table;
 }();
@@ -173,8 +175,21 @@ std::string upper(std::string_view text) {
     return capitals;
 }
 
-char folded(char character) {
-    return folded_table[static_cast<unsigned char>(character)];
+void append_searchable(std::string& to, std::string_view text) {
+    const std::size_t before = to.size();
+    to.resize(before + text.size());
+    char* at = to.data() + before;
+    for (const char character : text) {
+        *at = searchable_table[static_cast<unsigned char>(character)];
+        at += *at != 0 ? 1 : 0;
+    }
+    to.resize(static_cast<std::size_t>(at - to.data()));
+}
+
+std::string searchable(std::string_view text) {
+    std::string plain;
+    append_searchable(plain, text);
+    return plain;
 }
 
 std::string_view trimmed(std::string_view text) {

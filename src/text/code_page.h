@@ -24,9 +24,11 @@ char upper(char character);
 /// Capital form of a text, character by character; the length never changes.
 std::string upper(std::string_view text);
 
-/// Capital form of one character without its accent ("à" gives "A", "ß" gives "S"): what searches
-/// compare.
-char folded(char character);
+/// A text as searches compare it: in capitals, without accents ("à" gives "A", "ß" gives "S") and
+/// without what doesn't show.
+std::string searchable(std::string_view text);
+/// Appends it to another one.
+void append_searchable(std::string& to, std::string_view text);
 
 /// The text without blanks at both ends. Only blanks: zero bytes and tabs stay.
 std::string_view trimmed(std::string_view text);

@@ -8,7 +8,7 @@
 #include "enquiry/prezzi.h"
 #include "scripted/order_company.h"
 #include "scripted/scripted_run.h"
-#include "text/searchable.h"
+#include "text/code_page.h"
 
 namespace vantora::test {
 namespace {

@@ -11,7 +11,7 @@
 
 #include "desktop/look/style.h"
 #include "desktop/look/words.h"
-#include "text/searchable.h"
+#include "text/code_page.h"
 #include "ui/paper/toolkit_values.h"
 
 namespace vantora::ui::desktop {

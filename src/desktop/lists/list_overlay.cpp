@@ -4,7 +4,7 @@
 #include <QEvent>
 #include <QPainter>
 
-#include "text/searchable.h"
+#include "text/code_page.h"
 
 namespace vantora::ui::desktop {
 
