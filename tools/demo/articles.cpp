@@ -1,5 +1,6 @@
 #include "demo/articles.h"
 
+#include "demo/blank_record.h"
 #include "demo/catalogue.h"
 #include "demo/codes.h"
 #include "demo/draws.h"
@@ -41,10 +42,6 @@ void set_bar_code(rec_art& record, draws& chance, int number, int maker) {
 void set_suppliers(rec_art& record, draws& chance) {
     record.classe1 = "F" + zero_padded(chance.between(1, 40), 3);
     record.classe2 = chance.percent(30) ? "F" + zero_padded(chance.between(41, 60), 3) : "";
-    record.classe3 = "";
-    record.riservato_au = record.riservato_av = record.riservato_aw = "";
-    record.riservato_ay = "";
-    record.riservato_az = record.riservato_ba = "";
 }
 
 void set_long_text(article& one, draws& chance) {
@@ -62,10 +59,11 @@ std::string with_maker(const std::string& name, int maker) {
 
 article make_article(draws& chance, int number) {
     article one;
+    one.record = blank_record<rec_art>();
     const product& kind = chance.one_of(products);
     const auto sizes = split(kind.sizes);
     const int size = chance.below(static_cast<int>(sizes.size()));
-    const int maker = chance.below(static_cast<int>(makers.size()));
+    const int maker = chance.below(static_cast<int>(std::size(makers)));
     const std::string name =
         std::string(kind.name) + " " + std::string(sizes[static_cast<std::size_t>(size)]);
 

@@ -2,6 +2,7 @@
 
 #include <cctype>
 
+#include "demo/blank_record.h"
 #include "demo/codes.h"
 #include "demo/draws.h"
 #include "demo/shop_words.h"
@@ -25,18 +26,6 @@ struct person {
     std::string_view surname;
     std::string_view given_name;
 };
-
-template <class... Fields>
-void blank(Fields&... fields) {
-    ((fields = ""), ...);
-}
-
-void blank_reserved(rec_cli& one) {
-    blank(one.riservato_o, one.riservato_p, one.riservato_q, one.riservato_r, one.riservato_s,
-          one.riservato_t, one.riservato_u, one.riservato_z, one.riservato_aa, one.riservato_ab,
-          one.riservato_ac, one.riservato_ad, one.riservato_ae, one.riservato_af, one.riservato_ag,
-          one.riservato_ai, one.riservato_aj);
-}
 
 std::string phone_number(draws& chance, const town& where) {
     return std::string(where.dialling_code) + " " + zero_padded(chance.below(9'000'000), 7);
@@ -135,8 +124,7 @@ void set_name_and_tax_codes(rec_cli& one, draws& chance, const person& owner) {
 }
 
 rec_cli make_customer(draws& chance) {
-    rec_cli one;
-    blank_reserved(one);
+    auto one = blank_record<rec_cli>();
     const person owner{chance.one_of(surnames), chance.one_of(given_names)};
     const town& where = chance.one_of(towns);
     set_name_and_tax_codes(one, chance, owner);

@@ -1,7 +1,9 @@
 #include "demo/deliveries.h"
 
+#include "demo/blank_record.h"
 #include "demo/calendar.h"
 #include "orders/totals.h"
+#include "text/dates.h"
 
 namespace vantora::demo {
 
@@ -9,25 +11,16 @@ namespace {
 
 constexpr int righe_a_collo = 3;
 
-std::string time_of(int seconds) {
-    const auto two = [](int number) {
-        return std::string(number < 10 ? "0" : "").append(std::to_string(number));
-    };
-    return two(seconds / 3600) + ":" + two(seconds / 60 % 60);
-}
-
 }  // namespace
 
-riga_ordine& delivery::next_line(const document_line& line) {
-    riga_ordine& typed = kept_.righe[++lines_];
-    typed = line.typed();
-    return typed;
+riga_ordine& delivery::add_text(const document_line& line) {
+    return kept_.righe[++lines_] = line.typed();
 }
 
 void delivery::add(const document_line& line, long long quantity,
                    const std::vector<article>& articles) {
     const double leaving = static_cast<double>(quantity) / 10;
-    riga_ordine& typed = next_line(line);
+    riga_ordine& typed = add_text(line);
     typed.quantita = leaving;
     if (line.articolo < 1) return;
     const rec_art& its = articles[static_cast<std::size_t>(line.articolo - 1)].record;
@@ -49,21 +42,14 @@ void delivery::add(const document_line& line, long long quantity,
     delivered_ = true;
 }
 
-void delivery::add_text(const document_line& line) {
-    next_line(line);
-}
-
 void delivery::close(folder_writer& folder) {
     if (!delivered_) return;
-    rec_bol document;
+    auto document = blank_record<rec_bol>();
     document.numero = static_cast<std::int16_t>(number_);
     document.data = stored_day(of_.day);
-    document.testo1 = "";
-    document.testo2 = "";
     document.progressivo = static_cast<float>(number_);
     document.data_reg = moment();
     document.uno = std::int16_t{1};
-    document.vuoto = "";
     document.cliente = static_cast<std::int16_t>(of_.customer_number);
     into_.documents.push_back(document);
     write_text_file(folder);
@@ -73,8 +59,9 @@ void delivery::write_text_file(folder_writer& folder) {
     const rec_cli& to = of_.customer;
     kept_.cliente = static_cast<std::int16_t>(of_.customer_number);
     const std::string day = shown_day(of_.day);
-    kept_.text3 = {std::to_string(number_), day, std::to_string(1 + lines_ / righe_a_collo),
-                   weight_text(weight_),    day, time_of(of_.seconds)};
+    kept_.text3 = {
+        std::to_string(number_), day, std::to_string(1 + lines_ / righe_a_collo),
+        weight_text(weight_),    day, time_text({{}, of_.seconds / 3600, of_.seconds / 60 % 60})};
     kept_.causale = 0;
     kept_.aspetto = number_ % 3;
     kept_.porto = of_.choices[0] - '0';

@@ -34,14 +34,13 @@ class delivery {
 
     /// A quantity of a line leaves, in tenths.
     void add(const document_line& line, long long quantity, const std::vector<article>& articles);
-    /// A line of text goes with the goods.
-    void add_text(const document_line& line);
+    /// A line goes with the goods, as text so far.
+    riga_ordine& add_text(const document_line& line);
     /// The document is written down, its text file with it, unless nothing left.
     void close(folder_writer& folder);
 
  private:
     [[nodiscard]] double moment() const { return of_.day + of_.seconds / 86400.0; }
-    riga_ordine& next_line(const document_line& line);
     void write_text_file(folder_writer& folder);
 
     order_delivered of_;

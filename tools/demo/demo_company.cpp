@@ -1,17 +1,18 @@
 #include "demo/demo_company.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "demo/articles.h"
 #include "demo/customers.h"
-#include "demo/indexes.h"
-#include "demo/logo.h"
 #include "demo/orders.h"
 #include "demo/page.h"
 #include "demo/tables.h"
 #include "store/drive.h"
+#include "store/records/rec_index.h"
 #include "store/records/rec_tot.h"
 #include "store/suite_paths.h"
+#include "text/code_page.h"
 
 namespace vantora::demo {
 
@@ -20,14 +21,39 @@ namespace {
 constexpr int counter_records = 20;
 constexpr int most_quotes = 200;
 
-struct archive_sizes {
-    int customers = 0;
-    int articles = 0;
-    int orders = 0;
-    int quotes = 0;
-    int movements = 0;
-    int documents = 0;
-};
+// The sorted indexes: ascending by the key in capitals, by the characters' codes; equal keys in the
+// order of their records. Deleted customers and articles are in them too.
+
+template <class Entry, class Master, class Key>
+std::vector<Entry> index_by(const std::vector<Master>& masters, Key key) {
+    std::vector<std::pair<std::string, Entry>> ranked;
+    ranked.reserve(masters.size());
+    for (const Master& one : masters) {
+        Entry entry;
+        entry.chiave = key(one);
+        entry.numero = static_cast<std::int16_t>(ranked.size() + 1);
+        ranked.emplace_back(upper(entry.chiave.full()), entry);
+    }
+    std::ranges::stable_sort(ranked, {}, &std::pair<std::string, Entry>::first);
+    std::vector<Entry> index;
+    index.reserve(ranked.size());
+    for (const auto& [rank, entry] : ranked) index.push_back(entry);
+    return index;
+}
+
+std::vector<rec_src> index_by_name(const std::vector<rec_cli>& customers) {
+    return index_by<rec_src>(customers,
+                             [](const rec_cli& one) { return one.intestazione1.full(); });
+}
+
+std::vector<rec_sra> index_by_code(const std::vector<article>& articles) {
+    return index_by<rec_sra>(articles, [](const article& one) { return one.record.codice.full(); });
+}
+
+std::vector<rec_srb> index_by_bar_code(const std::vector<article>& articles) {
+    return index_by<rec_srb>(articles,
+                             [](const article& one) { return one.record.codice_barre.full(); });
+}
 
 void write_articles(folder_writer& into, const std::vector<article>& articles) {
     std::vector<rec_art> records;
@@ -46,22 +72,24 @@ void write_articles(folder_writer& into, const std::vector<article>& articles) {
     }
 }
 
-void write_counters(folder_writer& into, const archive_sizes& sizes) {
+void write_counters(folder_writer& into, const demo_request& request, int quotes,
+                    const deliveries& done) {
+    const auto documents = static_cast<int>(done.documents.size());
     std::vector<rec_tot> counters(counter_records);
-    const auto count = [&](int record, int records, int last_number) {
+    const auto count = [&](int record, int records, int last_number) -> rec_tot& {
         rec_tot& one = counters[static_cast<std::size_t>(record - 1)];
         one.quanti = static_cast<std::int16_t>(records);
         one.ultimo_numero = static_cast<std::int16_t>(last_number);
+        return one;
     };
-    count(contatori::clienti, sizes.customers, 0);
-    count(contatori::articoli, sizes.articles, 0);
-    count(contatori::magazzino, sizes.movements, 0);
-    count(contatori::documenti_trasporto, sizes.documents, sizes.documents);
-    count(contatori::ordini, sizes.orders, sizes.orders);
-    count(contatori::preventivi, sizes.quotes, sizes.quotes);
-    counters[contatori::magazzino - 1].modificato =
-        static_cast<std::int16_t>(sizes.movements > 0 ? 1 : 0);
-    counters[contatori::documenti_trasporto - 1].progressivo = static_cast<float>(sizes.documents);
+    count(contatori::clienti, request.customers, 0);
+    count(contatori::articoli, request.articles, 0);
+    count(contatori::magazzino, static_cast<int>(done.movements.size()), 0).modificato =
+        static_cast<std::int16_t>(done.movements.empty() ? 0 : 1);
+    count(contatori::documenti_trasporto, documents, documents).progressivo =
+        static_cast<float>(documents);
+    count(contatori::ordini, request.orders, request.orders);
+    count(contatori::preventivi, quotes, quotes);
     into.write_records("vantora.tot", counters);
 }
 
@@ -76,12 +104,7 @@ void write_archives(folder_writer& into, const demo_request& request) {
     write_articles(into, articles);
     into.write_records("vantora.mag", done.movements);
     into.write_records("vantora.bol", done.documents);
-    write_counters(into, {.customers = request.customers,
-                          .articles = request.articles,
-                          .orders = request.orders,
-                          .quotes = quotes,
-                          .movements = static_cast<int>(done.movements.size()),
-                          .documents = static_cast<int>(done.documents.size())});
+    write_counters(into, request, quotes, done);
 }
 
 void write_tables(folder_writer& into) {

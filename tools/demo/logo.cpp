@@ -1,4 +1,4 @@
-#include "demo/logo.h"
+#include "demo/page.h"
 
 #include <cstdlib>
 

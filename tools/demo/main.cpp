@@ -1,9 +1,9 @@
 #include <CLI/CLI.hpp>
 #include <iostream>
 
-#include "demo/companion.h"
 #include "demo/demo_company.h"
 #include "store/drive.h"
+#include "store/suite_paths.h"
 
 namespace {
 
@@ -24,6 +24,35 @@ CLI::Validator whole_number(long long low, long long high) {
                        " e " + std::to_string(high);
             },
             range};
+}
+
+namespace fs = std::filesystem;
+
+/// In one step: the older one may be running.
+void put(const fs::path& from, const fs::path& to) {
+    fs::path unfinished = to;
+    unfinished += ".parziale";
+    fs::copy_file(from, unfinished, fs::copy_options::overwrite_existing);
+    fs::rename(unfinished, to);
+}
+
+/// Puts `mirxpdf`, which turns printed documents into PDF files, into the general folder of the
+/// suite, in place of an older one, and beside it its settings, all of them comments, unless there
+/// are some. Both come from `programs`, the folder of built or installed programs; what isn't there
+/// isn't put.
+void install_companion(const fs::path& programs, const fs::path& drive) {
+    const auto place = [&](std::string_view name) {
+        return vantora::drive(drive).locate(std::string(vantora::cartella_generale).append(name));
+    };
+    if (!fs::exists(programs / "mirxpdf")) return;
+    put(programs / "mirxpdf", place("mirxpdf"));
+    const fs::path settings = place("mirxpdf.conf");
+    fs::path sample = programs / "mirxpdf.conf";
+    if (!fs::exists(sample)) sample = programs / "../share/vantora-ordini/mirxpdf.conf";
+    if (fs::exists(settings) || !fs::exists(sample)) return;
+    put(sample, settings);
+    // A password is going to stand in it.
+    fs::permissions(settings, fs::perms::owner_read | fs::perms::owner_write);
 }
 
 }  // namespace

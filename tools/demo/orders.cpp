@@ -1,5 +1,6 @@
 #include "demo/orders.h"
 
+#include "demo/blank_record.h"
 #include "demo/calendar.h"
 #include "demo/demo_company.h"
 #include "demo/draws.h"
@@ -7,6 +8,7 @@
 #include "orders/stock.h"
 #include "store/records/order_block.h"
 #include "store/records/rec_orc.h"
+#include "store/records/rec_prv.h"
 #include "text/code_page.h"
 
 namespace vantora::demo {
@@ -36,6 +38,17 @@ constexpr std::string_view subjects[] = {
     "Rif. Vs. richiesta",   "Reintegro scorte",       "Commessa officina", "Urgenza caldaia",
 };
 
+constexpr std::string_view quote_subjects[] = {
+    "Preventivo rifacimento bagno", "Preventivo impianto elettrico", "Offerta centrale termica",
+    "Offerta materiale di consumo", "Preventivo illuminazione LED",  "Offerta annuale utensileria",
+};
+
+/// The day of a document, of so many that spread over the two years.
+int day_of(int number, int count) {
+    const long long span = ultimo_giorno - primo_giorno;
+    return working_day(primo_giorno + static_cast<int>(span * number / count));
+}
+
 order_state draw_state(draws& chance, int number, int count) {
     const bool late = number * 5LL > count * 4LL;
     const int fate = chance.below(100);
@@ -56,8 +69,7 @@ order draw_order(draws& chance, int number, int count, const std::vector<rec_cli
     one.number = number;
     one.customer = draw_customer(chance, customers);
     const rec_cli& customer = customers[static_cast<std::size_t>(one.customer - 1)];
-    const long long span = ultimo_giorno - primo_giorno;
-    one.day = working_day(primo_giorno + static_cast<int>(span * number / count));
+    one.day = day_of(number, count);
     one.delivery_day = working_day(one.day + chance.between(3, 40));
     one.seconds = chance.between(8 * 3600, 18 * 3600);
     one.committed = chance.percent(45);
@@ -201,6 +213,28 @@ deliveries write_orders(folder_writer& into, int count, std::uint64_t seed,
     }
     keep_latest(done.movements);
     return done;
+}
+
+void write_quotes(folder_writer& into, int count, std::uint64_t seed,
+                  const std::vector<rec_cli>& customers, const std::vector<article>& articles) {
+    draws chance(seed, 4);
+    auto file = into.create_records<rec_prv>("vantora.prv");
+    for (int number = 1; number <= count; ++number) {
+        const int customer = chance.between(1, static_cast<int>(customers.size()));
+        auto row = blank_record<rec_prv>();
+        set_line(row, {});
+        row.numero = std::to_string(number);
+        row.data = stored_day(day_of(number, count));
+        row.cliente = static_cast<std::int16_t>(customer);
+        row.annullato = static_cast<std::int16_t>(chance.percent(6) ? 1 : 0);
+        std::vector<rec_prv> block(righe_blocco, row);
+        block[0].testo1 = from_utf8(chance.one_of(quote_subjects));
+        const auto lines =
+            draw_lines(chance, articles, customers[static_cast<std::size_t>(customer - 1)]);
+        for (std::size_t i = 0; i < lines.size(); ++i) set_line(block[i], lines[i]);
+        folder_writer::check_written(file.write_block(block_record(number, 1), block),
+                                     "vantora.prv");
+    }
 }
 
 }  // namespace vantora::demo

@@ -3,7 +3,6 @@
 #include <array>
 
 #include "demo/codes.h"
-#include "demo/fonts.h"
 #include "text/code_page.h"
 
 namespace vantora::demo {

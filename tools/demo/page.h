@@ -30,6 +30,17 @@ struct font {
     int colour = black;
 };
 
+// The fonts of the company's printed pages.
+
+inline constexpr font name_font{.points = 12, .bold = true, .colour = navy};
+inline constexpr font slogan_font{.points = 8, .italic = true, .colour = grey};
+inline constexpr font small_font{.points = 8, .colour = grey};
+inline constexpr font head_font{.points = 9, .bold = true};
+inline constexpr font customer_font{.points = 10, .bold = true};
+inline constexpr font plain_font{.points = 9};
+inline constexpr font text_font{.points = 8};
+inline constexpr font footer_font{.points = 7, .colour = grey};
+
 /// A box with a shaded strip on top that holds its caption.
 struct panel {
     int left, top, right, bottom;
@@ -84,5 +95,9 @@ std::vector<std::string> layout_lines(const page& plan);
 
 /// The lines of a drawing file. `logo` is the path of the firm's mark.
 std::vector<std::string> drawing_lines(const page& plan, std::string_view logo);
+
+/// The firm's mark as a 24-bit bitmap file: a hexagon nut around a drop of water. Light grey is
+/// the colour that documents leave out.
+std::string logo_bitmap();
 
 }  // namespace vantora::demo
