@@ -4,7 +4,7 @@
 #include <span>
 #include <string_view>
 
-#include "documents/document_kind.h"
+#include "documents/document_tables.h"
 
 namespace vantora {
 

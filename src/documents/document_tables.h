@@ -5,12 +5,27 @@
 #include <string_view>
 #include <vector>
 
-#include "documents/document_kind.h"
-#include "documents/pdf_settings.h"
 #include "store/parameters.h"
 #include "store/suite_table.h"
 
 namespace vantora {
+
+/// The kinds of document that this module makes, as the suite numbers them.
+enum class tipo_documento { documento_trasporto = 5, ordine = 6 };
+
+/// What belongs to a kind of document outside its pages.
+struct nomi_documento {
+    std::string_view layout;        ///< extension of the file that places its fields
+    std::string_view disegno;       ///< extension of its drawing list
+    std::string_view layout_pdf;    ///< extension of the PDF program's own layout
+    std::string_view prefisso_pdf;  ///< of the PDF's name, before the document's number
+    const char* titolo_stampa;      ///< over the questions while it is printed
+};
+
+constexpr nomi_documento names_of_kind(tipo_documento kind) {
+    if (kind == tipo_documento::ordine) return {"lyo", "lko", "lxo", "orc", "Stampa ordine"};
+    return {"lyb", "lkb", "lxb", "bll", "Stampa documento di trasporto"};
+}
 
 /// Texts of layouts, drawings and headings end here: no page has room for more.
 inline constexpr std::size_t testo_piu_lungo = 2000;
@@ -41,6 +56,12 @@ struct disegno {
     bool illeggibile = false;  ///< its file is there and can't be read
 };
 
+/// One row of "vantora.pdf".
+using voce_pdf = std::array<std::string, 4>;
+
+/// How a company wants its PDF files, by kind of document: rows 1 to 20.
+using tabella_pdf = std::array<voce_pdf, 21>;
+
 /// Everything that a company's files say of one kind of document.
 struct tabelle_documento {
     std::array<std::string, 21> testi_intestazione;  ///< from 1
@@ -55,6 +76,12 @@ struct tabelle_documento {
 /// nothing; what else is missing stays empty.
 void carica_documento(tabelle_documento& into, tipo_documento kind, parametri& parameters,
                       file_port& files);
+
+/// Reads "vantora.pdf" of the company and puts the row of `kind` into the PDF slots of
+/// `parametri_valuta`; the folder is "C:" where the file names none. Reports are made as orders
+/// are. What is missing stays as it was.
+void load_pdf_settings(tabella_pdf& into, tipo_documento kind, parametri& parameters,
+                       file_port& files);
 
 /// Loads the drawing list of a document. A missing file leaves a list without elements; one that
 /// ends early leaves the values behind its end as they were.

@@ -6,12 +6,37 @@
 #include "documents/document_composer.h"
 #include "documents/pdf_handoff.h"
 #include "documents/print_file.h"
-#include "documents/unprinted_paper.h"
 #include "text/code_page.h"
 
 namespace vantora {
 
 namespace {
+
+/// Measures as the printer does and prints nothing: for what goes into the print file alone.
+class unprinted_paper final : public ui::printer {
+ public:
+    /// REQUIRES: `like` outlives it.
+    explicit unprinted_paper(ui::printer& like) : like_(like) {}
+
+    [[nodiscard]] int orientation() const override { return like_.orientation(); }
+    void set_orientation(int orientation) override { like_.set_orientation(orientation); }
+    [[nodiscard]] double page_width() const override { return like_.page_width(); }
+    [[nodiscard]] double page_height() const override { return like_.page_height(); }
+    [[nodiscard]] double text_width(std::string_view text, const ui::font& in) const override {
+        return like_.text_width(text, in);
+    }
+
+    void text(double, double, std::string_view, const ui::font&, ui::colour) override {}
+    void line(double, double, double, double, ui::colour) override {}
+    void box(double, double, double, double, ui::colour, bool) override {}
+    void picture(double, double, double, const std::shared_ptr<const ui::bitmap>&) override {}
+    void new_page() override {}
+    void end_job() override {}
+    bool choose_settings() override { return false; }
+
+ private:
+    ui::printer& like_;
+};
 
 void tell_of_pictures(program& app, const std::string& what,
                       const std::vector<std::string>& files) {

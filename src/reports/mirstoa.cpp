@@ -177,7 +177,7 @@ void mirstoa::list_sheets(list_rows& list, raccolta& found) {
             list.write(cliente, names.of(row.cliente));
             list_quantities(list, row.quantita);
             if (&row == &rows.front()) {
-                list.write(scheda, sheet.titolo.title());
+                list.write(scheda, trimmed(sheet.titolo.text()));
                 list.write(numero, std::to_string(sheet.numero));
             }
             sums.ordinato += row.quantita.ordinato;

@@ -80,7 +80,7 @@ void mirston::fill(list_rows& list, const limiti_ordini& orders) {
         for (; order > 0; order = order_behind(order)) to_read.push_back(order);
     }
     ordini_.walk_blocks(std::move(to_read));
-    etichette_articoli articles(app_.archives.art);
+    article_texts articles(app_.archives.art);
     for (const foglio& one : sheets) {
         if (list.cut() || !listing()) return;
         if (one.ripetuto) {
@@ -114,7 +114,7 @@ bool mirston::read_heads(const limiti_ordini& orders) {
     ordini_.walk_heads(orders.primo, orders.ultimo);
     for (int order = orders.primo; order <= orders.ultimo; ++order) {
         owners.push_back(ordini_.first_row(order).cliente);
-        if (!head_done()) return false;
+        if (!entry_done()) return false;
     }
     primo_.assign(numbers, 0);
     seguente_.assign(static_cast<std::size_t>(std::max(orders.ultimo, 0)) + 1, 0);
@@ -125,7 +125,7 @@ bool mirston::read_heads(const limiti_ordini& orders) {
     return true;
 }
 
-bool mirston::list_sheet(list_rows& list, const foglio& sheet, etichette_articoli& articles) {
+bool mirston::list_sheet(list_rows& list, const foglio& sheet, article_texts& articles) {
     bool begun = false;
     somme sums;
     for (int order = first_order_of(sheet.numero); order > 0; order = order_behind(order)) {
@@ -138,7 +138,9 @@ bool mirston::list_sheet(list_rows& list, const foglio& sheet, etichette_articol
                 list.write(numero, std::to_string(sheet.numero));
             }
             if (&row == &rows.front()) list_head(list, testa_ordine(row));
-            list.write(articolo, article_text(row, articles));
+            const bool known = row.articolo >= 1 && row.articolo <= articoli_.quanti;
+            list.write(articolo,
+                       trimmed(known ? articles.padded(row.articolo) : description_of(row)));
             list_quantities(list, {row.quantita, row.evaso});
             sums.ordinato += row.quantita;
             sums.evaso += row.evaso;
@@ -163,11 +165,6 @@ void mirston::list_again(list_rows& list, const foglio& sheet) const {
             if (!text.empty()) list.write(col, text);
         }
     } while (++row < end && elenco.text(row, numero).empty());
-}
-
-std::string mirston::article_text(const rec_orc& row, etichette_articoli& articles) const {
-    const bool known = row.articolo >= 1 && row.articolo <= articoli_.quanti;
-    return known ? articles.of(row.articolo).text() : free_text(row);
 }
 
 }  // namespace vantora

@@ -35,9 +35,8 @@ class mirston final : public sheet_report {
         return seguente_[static_cast<std::size_t>(order)];
     }
     /// False if the work ends here.
-    bool list_sheet(list_rows& list, const foglio& sheet, etichette_articoli& articles);
+    bool list_sheet(list_rows& list, const foglio& sheet, article_texts& articles);
     void list_again(list_rows& list, const foglio& sheet) const;
-    [[nodiscard]] std::string article_text(const rec_orc& row, etichette_articoli& articles) const;
 
     std::vector<int> primo_;     ///< order of each customer number, 0: none
     std::vector<int> seguente_;  ///< of each order, the next one of its customer

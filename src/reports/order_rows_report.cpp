@@ -9,7 +9,7 @@ namespace vantora {
 // One read an order or two, many at once, and one for every 32 customers and articles in question.
 void order_rows_report::fill(list_rows& list, const limiti_ordini& orders) {
     customer_names names(app_.archives.cli, clienti_.quanti);
-    etichette_articoli articles(app_.archives.art);
+    article_texts articles(app_.archives.art);
     begin_walk(orders);
     for (int order = orders.primo; order <= orders.ultimo && !list.cut(); ++order) {
         bool shown = false;
@@ -41,9 +41,9 @@ void order_rows_report::list_head(list_rows& list, const rec_orc& row,
 }
 
 void order_rows_report::list_row(list_rows& list, const rec_orc& row,
-                                 etichette_articoli& articles) const {
+                                 article_texts& articles) const {
     list.write(places().articolo,
-               row.articolo < 1 ? free_text(row) : articles.of(row.articolo).text());
+               trimmed(row.articolo < 1 ? description_of(row) : articles.padded(row.articolo)));
     list.write(places().ordinato, quantity_text(row.quantita));
     list.write(places().evaso, quantity_text(row.evaso));
 }

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "reports/list_cells.h"
+#include "orders/article_texts.h"
+#include "orders/order_rows.h"
 #include "reports/report_screen.h"
 
 namespace vantora {
@@ -39,7 +40,7 @@ class order_rows_report : public report_screen {
     [[nodiscard]] bool whole_orders() const { return Combo2.chosen() == analitico; }
 
  private:
-    void list_row(list_rows& list, const rec_orc& row, etichette_articoli& articles) const;
+    void list_row(list_rows& list, const rec_orc& row, article_texts& articles) const;
     void list_head(list_rows& list, const rec_orc& row, std::string_view customer) const;
 };
 

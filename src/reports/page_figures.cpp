@@ -64,8 +64,6 @@ constexpr misure_testata_grigia testate_grigie[] = {
      .titoli_da = 1200,
      .titoli_a = 1550,
      .titoli_y = 1300,
-     .titoli_y1 = 1200,
-     .titoli_y2 = 1370,
      .corpo_titoli = 8,
      .chiusura = 57},
     {.banda = 8,
@@ -84,51 +82,12 @@ constexpr misure_testata_grigia testate_grigie[] = {
      .titoli_da = 24,
      .titoli_a = 31,
      .titoli_y = 26,
-     .titoli_y1 = 24,
-     .titoli_y2 = 27,
      .corpo_titoli = 9,
      .chiusura = 1},
 };
 
 std::size_t which(uscita_report uscita) {
     return static_cast<std::size_t>(uscita);
-}
-
-misure_righe righe_su_stampante(const aspetto_report& look) {
-    const double passo = look.grigio ? (look.due_linee ? 450 : 250) : look.passo;
-    const double altezza = look.due_linee ? 420 : 220;
-    misure_righe figures{};
-    figures.prima = look.grigio ? 1630 : 1300;
-    figures.volte_alto = 1;
-    figures.passo = passo;
-    figures.altezza = altezza;
-    figures.testo = look.grigio ? 20 : 0;
-    figures.secondo = 220;
-    figures.linea = look.grigio ? altezza + 5 : 0.85 * passo;
-    figures.fascia_da = look.grigio ? 0 : -0.1 * passo;
-    figures.fascia_a = look.grigio ? 0 : 0.85 * passo;
-    figures.fondo = look.grigio ? altezza : passo + 100;
-    return figures;
-}
-
-int righe_massime_in_file(const aspetto_report& look) {
-    if (!look.grigio) return look.orizzontale ? 43 : 63;
-    if (look.due_linee) return look.orizzontale ? 21 : 31;
-    return look.orizzontale ? 33 : 50;
-}
-
-misure_righe righe_in_file(const aspetto_report& look) {
-    misure_righe figures{};
-    figures.prima = look.grigio ? 27 : 22;
-    // Deliberate: rows of the grey look stand a top margin lower.
-    figures.volte_alto = look.grigio ? 2 : 1;
-    figures.passo = look.grigio ? (look.due_linee ? 8 : 5) : 4;
-    figures.altezza = look.due_linee ? 7 : 4;
-    figures.secondo = 3;
-    figures.linea = look.grigio ? figures.altezza : 4;
-    figures.righe_massime = righe_massime_in_file(look);
-    figures.fine_a_destra = look.grigio;
-    return figures;
 }
 
 }  // namespace
@@ -151,7 +110,30 @@ const misure_colonne& column_measures(uscita_report uscita) {
 }
 
 misure_righe row_measures(uscita_report uscita, const aspetto_report& look) {
-    return uscita == uscita_report::stampante ? righe_su_stampante(look) : righe_in_file(look);
+    const bool in_file = uscita == uscita_report::pdf;
+    if (look.grigio && in_file) {
+        // Deliberate: rows of the grey look stand a top margin lower.
+        return {.prima = 27,
+                .volte_alto = 2,
+                .passo = 5,
+                .altezza = 4,
+                .linea = 4,
+                .righe_massime = look.orizzontale ? 33 : 50,
+                .fine_a_destra = true};
+    }
+    if (look.grigio) {
+        return {
+            .prima = 1630, .passo = 250, .altezza = 220, .testo = 20, .linea = 225, .fondo = 220};
+    }
+    if (in_file) {
+        return {.prima = 22, .passo = 4, .linea = 4, .righe_massime = look.orizzontale ? 43 : 63};
+    }
+    return {.prima = 1300,
+            .passo = look.passo,
+            .linea = 0.85 * look.passo,
+            .fascia_da = -0.1 * look.passo,
+            .fascia_a = 0.85 * look.passo,
+            .fondo = look.passo + 100};
 }
 
 const misure_testata_piana& plain_heading_measures(uscita_report uscita) {

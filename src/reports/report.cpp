@@ -11,26 +11,11 @@ namespace vantora {
 
 namespace {
 
-/// The count of rows starts here: the first page has one row less than the others.
-constexpr int prima_riga = 1;
-
-foglio_report sheet_of(const descrizione_report& report) {
-    foglio_report sheet;
-    sheet.titolo = report.titolo;
-    sheet.righe_stampate = prima_riga;
-    for (const colonna_report& one : report.colonne) {
-        colonna_pagina& column = sheet.colonne.emplace_back();
-        column.titolo_colonna[0] = one.titolo_colonna;
-        column.larghezza = one.larghezza;
-        column.formato_cella = one.formato_cella;
-    }
-    return sheet;
-}
-
 /// False: the user stopped it.
 bool print_rows(program& app, const descrizione_report& report, const ui::grid& elenco, int righe,
                 report_output& out, uscita_report uscita) {
-    report_engine engine(app.parameters, app.desk.clock(), out, uscita, sheet_of(report));
+    report_engine engine(app.parameters, app.desk.clock(), out, uscita, report.titolo,
+                         report.colonne);
     std::vector<std::string_view> cells(report.colonne.size());
     for (int row = 1; row < righe; ++row) {
         for (std::size_t i = 0; i < cells.size(); ++i) {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstdint>
 #include <span>
 #include <string_view>
 
@@ -9,13 +8,6 @@
 #include "ui/grid.h"
 
 namespace vantora {
-
-/// A column of a report, as it goes into an entry of the report table.
-struct colonna_report {
-    std::string_view titolo_colonna;
-    std::int16_t larghezza = 0;      ///< share of the page width, in parts of the sum of all shares
-    std::int16_t formato_cella = 0;  ///< 0: a text; 1 to 8: a number, by its code
-};
 
 /// How the list of one screen goes out. All texts are of the code page and outlive the report.
 struct descrizione_report {

@@ -1,9 +1,5 @@
 #include "reports/report_engine.h"
 
-#include <algorithm>
-#include <numeric>
-#include <utility>
-
 #include "text/number_text.h"
 
 namespace vantora {
@@ -16,26 +12,26 @@ constexpr double nessuna_fascia = 16777215;
 /// height would all go onto one page.
 constexpr int rows_on_page_max = 1000;
 
-constexpr std::size_t columns_max = 30;
-
 }  // namespace
 
 report_engine::report_engine(const parametri& parameters, const ui::clock& time, report_output& out,
-                             uscita_report uscita, foglio_report sheet)
+                             uscita_report uscita, std::string_view title,
+                             std::span<const colonna_report> columns)
     : parameters_(parameters),
       time_(time),
       out_(out),
       uscita_(uscita),
-      sheet_(std::move(sheet)),
-      insets_(column_measures(uscita)) {
-    if (columns() > columns_max) sheet_.colonne.resize(columns_max);
-    aspect_.grigio = entry(1).stile == 1;
-    aspect_.due_linee = sheet_.righe_voce == 2;
-    aspect_.orizzontale = out.paper().orientation() != ui::printer::upright;
-    aspect_.passo = entry(0).altezza;
-    rows_ = row_measures(uscita, aspect_);
+      title_(title),
+      aspect_{entry(1).stile == 1, out.paper().orientation() != ui::printer::upright,
+              static_cast<double>(entry(0).altezza)},
+      rows_(row_measures(uscita, aspect_)),
+      insets_(column_measures(uscita)),
+      currency_(parameters),
+      row_look_(row_look()),
+      // In the print file a grey row is measured as the report table has it, and looks otherwise.
+      row_ruler_(ruler_of(aspect_.grigio ? look_of(entry(5)) : row_look_)) {
     set_limits();
-    set_columns();
+    set_columns(columns);
 }
 
 const voce_stampa& report_engine::entry(std::size_t number) const {
@@ -44,7 +40,7 @@ const voce_stampa& report_engine::entry(std::size_t number) const {
 
 void report_engine::set_limits() {
     const ui::printer& paper = out_.paper();
-    if (uscita_ == uscita_report::pdf) {
+    if (in_file()) {
         limits_ = page_limits_in_file(paper.orientation());
         return;
     }
@@ -53,180 +49,110 @@ void report_engine::set_limits() {
         page_limits_on_printer(entry(0), paper.page_width() * units, paper.page_height() * units);
 }
 
-void report_engine::set_columns() {
+void report_engine::set_columns(std::span<const colonna_report> columns) {
     double shares = 0;
-    for (const colonna_pagina& one : sheet_.colonne) shares += one.larghezza;
-    const double scale = shares != 0 ? (limits_.destro - limits_.sinistro) / shares : 0;
+    for (const colonna_report& one : columns) shares += one.larghezza;
+    const double scale = (limits_.destro - limits_.sinistro) / shares;
     double x = limits_.sinistro;
-    for (const colonna_pagina& one : sheet_.colonne) {
+    for (const colonna_report& one : columns) {
         const double width = scale * one.larghezza;
-        left_.push_back(x);
-        width_.push_back(integer_part(width));
-        fit_.push_back((insets_.larghezza_intera ? width_.back() : width) - insets_.gioco);
-        x += width_.back();
+        const double whole = integer_part(width);
+        const double room = (insets_.larghezza_intera ? whole : width) - insets_.gioco;
+        columns_.push_back({one.titolo_colonna, one.formato_cella, x, x + whole,
+                            x + whole - insets_.stacco, room});
+        x += whole;
     }
-    const std::size_t lines = has_second_line() ? 2 : 1;
-    for (std::size_t line = 0; line < lines; ++line) {
-        for (std::size_t i = 0; i < columns(); ++i) {
-            text_ruler ruler(out_.paper(), font_of(measured_look(i, line)),
-                             out_.units_per_millimetre());
-            testo_report text = text_in(row_look(i, line));
-            if (!aspect_.grigio) text.forma = forma_stile::zeri_come_testo;
-            place_in_column(text, i, 0);
-            cells_.push_back({{std::move(ruler), fit_[i], sheet_.colonne[i].formato_cella,
-                               valuta(parameters_), placed_by_width(i)},
-                              text,
-                              placed_by_width(i)});
-        }
-    }
+    columns_.back().destra = columns_.back().fine = limits_.destro;
 }
 
-report_engine::look report_engine::look_of(const voce_stampa& entry) {
+stile_testo report_engine::look_of(const voce_stampa& entry) {
     return {entry.nome_carattere, static_cast<double>(entry.corpo_carattere),
             static_cast<double>(entry.grassetto), static_cast<double>(entry.corsivo), entry.colore};
 }
 
-ui::font report_engine::font_of(const look& as) {
-    return usable_font(as.carattere, as.corpo, as.grassetto != 0, as.corsivo != 0);
+stile_testo report_engine::row_look() const {
+    const stile_testo table = look_of(entry(aspect_.grigio ? 5 : 4));
+    if (!in_file()) return table;
+    if (aspect_.grigio) return {table.carattere, table.corpo, 0, 0, 0};
+    return {"Arial", table.corpo, 0, 0, table.colore};
 }
 
-report_engine::look report_engine::row_look(std::size_t column, std::size_t line) const {
-    look as = look_of(entry(aspect_.grigio ? 5 : 4));
-    const bool in_file = uscita_ == uscita_report::pdf;
-    if (!aspect_.grigio) {
-        if (in_file) as = {"Arial", as.corpo, 0, 0, as.colore};
-        return as;
-    }
-    const colonna_pagina& one = sheet_.colonne[column];
-    if (in_file) as = {as.carattere, as.corpo, 0, 0, 0};
-    if (one.grassetto_cella[line]) as.grassetto = 1;
-    if (one.corsivo_cella[line]) as.corsivo = 1;
-    return as;
-}
-
-report_engine::look report_engine::measured_look(std::size_t column, std::size_t line) const {
-    const bool by_table = aspect_.grigio && uscita_ == uscita_report::pdf;
-    return by_table ? look_of(entry(5)) : row_look(column, line);
-}
-
-double report_engine::box_right(std::size_t column) const {
-    return is_last(column) ? limits_.destro : left_[column] + width_[column] - insets_.stacco;
+text_ruler report_engine::ruler_of(const stile_testo& look) const {
+    return {out_.paper(), usable_font(look), out_.units_per_millimetre()};
 }
 
 double report_engine::row_y(int number) const {
     return rows_.prima + rows_.passo * number + rows_.volte_alto * limits_.alto;
 }
 
-double report_engine::width_of(std::string_view text, const look& as) const {
-    return out_.paper().text_width(text, font_of(as)) * out_.units_per_millimetre();
+void report_engine::put(double x, double y, std::string_view text, const stile_testo& look,
+                        ui::alignment as) {
+    out_.text({x, y, text, look, as});
 }
 
-testo_report report_engine::text_in(const look& as) {
-    return {0,          0,        ui::alignment::left, {}, as.carattere, as.corpo, as.grassetto,
-            as.corsivo, as.colore};
+void report_engine::put_right(double right, double y, std::string_view text,
+                              const stile_testo& look) {
+    if (rows_.fine_a_destra) return put(right, y, text, look, ui::alignment::right);
+    put(right - ruler_of(look).width(text), y, text, look);
 }
 
-void report_engine::put(double x, double y, std::string_view text, const look& as) {
-    testo_report one = text_in(as);
-    one.x = x;
-    one.y = y;
-    one.testo = text;
-    out_.text(one);
-}
-
-void report_engine::put_right(double right, double y, std::string_view text, const look& as) {
-    if (!rows_.fine_a_destra) {
-        put(right - width_of(text, as), y, text, as);
-        return;
+void report_engine::put_in_column(const colonna& in, double y, std::string_view text,
+                                  const text_ruler& measured, const stile_testo& look,
+                                  forma_stile form) {
+    testo_report one{0, y, text, look, ui::alignment::left, form};
+    if (in.formato == 0) {
+        one.x = integer_part(in.sinistra) + insets_.rientro_sinistro;
+    } else if (rows_.fine_a_destra) {
+        one.x = in.fine;
+        one.allineamento = ui::alignment::right;
+    } else {
+        const double width = integer_part(measured.width(text));
+        one.x = integer_part(in.destra - width) - insets_.rientro_destro;
     }
-    testo_report one = text_in(as);
-    one.x = right;
-    one.y = y;
-    one.allineamento = ui::alignment::right;
-    one.testo = text;
     out_.text(one);
-}
-
-void report_engine::put_in_column(std::size_t column, double y, std::string_view text,
-                                  const look& measured, const look& as) {
-    testo_report one = text_in(as);
-    one.y = y;
-    one.testo = text;
-    place_in_column(one, column, width_of(text, measured));
-    out_.text(one);
-}
-
-bool report_engine::placed_by_width(std::size_t column) const {
-    return sheet_.colonne[column].formato_cella != 0 && !rows_.fine_a_destra;
-}
-
-void report_engine::place_in_column(testo_report& one, std::size_t column, double width) const {
-    const bool is_text = sheet_.colonne[column].formato_cella == 0;
-    if (!is_text && rows_.fine_a_destra) one.allineamento = ui::alignment::right;
-    one.x = x_in_column(column, width);
-}
-
-double report_engine::x_in_column(std::size_t column, double width) const {
-    if (sheet_.colonne[column].formato_cella == 0) {
-        return integer_part(left_[column]) + insets_.rientro_sinistro;
-    }
-    if (rows_.fine_a_destra) return box_right(column);
-    const double right = is_last(column) ? limits_.destro : left_[column] + width_[column];
-    return integer_part(right - integer_part(width)) - insets_.rientro_destro;
 }
 
 // Rows --------------------------------------------------------------------------------------
 
 void report_engine::draw_stripe(double y) {
     if (rows_.fascia_da == rows_.fascia_a || entry(0).sfondo == nessuna_fascia) return;
-    if (sheet_.righe_stampate % 2 == 0) return;
+    if (righe_stampate_ % 2 == 0) return;
     out_.box({limits_.sinistro, y + rows_.fascia_da, limits_.destro, y + rows_.fascia_a,
               entry(0).sfondo},
              true);
 }
 
-void report_engine::draw_boxes_of(std::size_t column, double y) {
+void report_engine::draw_box_of(const colonna& in, double y) {
     if (!aspect_.grigio || entry(2).altezza != 1) return;
-    const double shade = entry(sheet_.righe_stampate % 2 != 0 ? 1 : 2).sfondo;
-    out_.box({left_[column], y, box_right(column), y + rows_.altezza, shade}, true);
-}
-
-void report_engine::draw_cell(std::size_t column, std::size_t line, std::string_view cell,
-                              double y) {
-    linea_celle& cells = cells_[line * columns() + column];
-    const cella_pronta ready = cells.prepara(cell);
-    testo_report text = cells.come;
-    if (cells.per_larghezza) text.x = x_in_column(column, ready.larghezza);
-    text.y = y;
-    text.testo = ready.testo;
-    out_.text(text);
+    const double shade = entry(righe_stampate_ % 2 != 0 ? 1 : 2).sfondo;
+    out_.box({in.sinistra, y, in.fine, y + rows_.altezza, shade}, true);
 }
 
 void report_engine::print_row(std::span<const std::string_view> cells) {
-    const auto cell = [&](std::size_t i) {
-        return i < cells.size() ? cells[i] : std::string_view();
-    };
-    const double y = row_y(sheet_.righe_stampate);
+    const auto form = aspect_.grigio ? forma_stile::numeri : forma_stile::zeri_come_testo;
+    const double y = row_y(righe_stampate_);
     draw_stripe(y);
-    for (std::size_t i = 0; i < columns(); ++i) {
-        draw_boxes_of(i, y);
-        draw_cell(i, 0, cell(i), y + rows_.testo);
-        if (has_second_line()) draw_cell(i, 1, cell(i + columns()), y + rows_.secondo);
+    for (std::size_t i = 0; i < columns_.size(); ++i) {
+        const colonna& column = columns_[i];
+        draw_box_of(column, y);
+        const std::string text = formatted(cells[i], column.formato, currency_);
+        put_in_column(column, y + rows_.testo, cut_to_fit(text, column.spazio, row_ruler_),
+                      row_ruler_, row_look_, form);
     }
     // Where the printer stands now.
-    double position = y + (has_second_line() ? rows_.secondo : rows_.testo);
+    double position = y + rows_.testo;
     if (entry(1).altezza == 1) {
         position = y + rows_.linea;
         out_.line({limits_.sinistro, position, limits_.destro, position, entry(5).colore},
                   linea_report::riga);
     }
-    ++sheet_.righe_stampate;
+    ++righe_stampate_;
     ++on_page_;
     if (is_full(position)) end_page();
 }
 
 bool report_engine::is_full(double position) const {
-    if (rows_.righe_massime > 0) return sheet_.righe_stampate >= rows_.righe_massime;
+    if (rows_.righe_massime > 0) return righe_stampate_ >= rows_.righe_massime;
     return position > limits_.basso - rows_.fondo || on_page_ >= rows_on_page_max;
 }
 

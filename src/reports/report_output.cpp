@@ -22,30 +22,17 @@ std::string without_line_ends(std::string_view text) {
     return made;
 }
 
-vista_di_record record_of(const testo_report& one) {
-    vista_di_record record{tipo_record::testo, one.x, one.y, 0, 0};
-    record.y2 = one.allineamento == ui::alignment::right ? 1 : 0;
-    record.corpo = one.corpo;
-    record.colore = one.colore;
-    record.testo = one.testo;
-    record.carattere = one.carattere;
-    record.grassetto = one.grassetto;
-    record.corsivo = one.corsivo;
-    return record;
-}
-
 }  // namespace
 
-ui::font usable_font(std::string_view name, double size, bool bold, bool italic) {
-    const std::string_view face = trimmed(name);
-    return {std::string(face.empty() ? "Arial" : face), size > 0 ? size : usual_size, bold, italic};
+ui::font usable_font(const stile_testo& look) {
+    const std::string_view face = trimmed(look.carattere);
+    return {std::string(face.empty() ? "Arial" : face), look.corpo > 0 ? look.corpo : usual_size,
+            look.grassetto != 0, look.corsivo != 0};
 }
 
 void report_on_printer::text(const testo_report& one) {
-    const ui::font font =
-        usable_font(one.carattere, one.corpo, one.grassetto != 0, one.corsivo != 0);
-    paper().text(millimetres(one.x), millimetres(one.y), one.testo, font,
-                 usable_colour(one.colore));
+    paper().text(millimetres(one.x), millimetres(one.y), one.testo, usable_font(one.stile),
+                 usable_colour(one.stile.colore));
 }
 
 void report_on_printer::line(const forma_report& one, linea_report) {
@@ -63,11 +50,12 @@ void report_on_printer::end_page() {
 }
 
 void report_in_print_file::text(const testo_report& one) {
-    vista_di_record record = record_of(one);
-    if (one.testo.find('\r') == std::string_view::npos) return file_.write_view(record, one.forma);
-    const std::string cleaned = without_line_ends(one.testo);
-    record.testo = cleaned;
-    file_.write_view(record, one.forma);
+    const stile_testo& look = one.stile;
+    const double right = one.allineamento == ui::alignment::right ? 1 : 0;
+    const std::string clean = without_line_ends(one.testo);
+    file_.write_view({tipo_record::testo, one.x, one.y, 0, right, look.corpo, look.colore, clean,
+                      look.carattere, look.grassetto, look.corsivo},
+                     one.forma);
 }
 
 void report_in_print_file::line(const forma_report& one, linea_report kind) {

@@ -7,18 +7,23 @@
 
 namespace vantora {
 
-/// A text of a report at its place, in the unit of its output.
-struct testo_report {
-    double x = 0;
-    double y = 0;  ///< its top
-    /// right: `x` is its right end, which the print file alone can say
-    ui::alignment allineamento = ui::alignment::left;
-    std::string_view testo;
+/// How a text of a report looks, as the report table has it.
+struct stile_testo {
     std::string_view carattere;
     double corpo = 0;  ///< points
     double grassetto = 0;
     double corsivo = 0;
     double colore = 0;
+};
+
+/// A text of a report at its place, in the unit of its output.
+struct testo_report {
+    double x = 0;
+    double y = 0;  ///< its top
+    std::string_view testo;
+    stile_testo stile;
+    /// right: `x` is its right end, which the print file alone can say
+    ui::alignment allineamento = ui::alignment::left;
     forma_stile forma = forma_stile::numeri;
 };
 
@@ -57,7 +62,7 @@ class report_output {
 };
 
 /// A font of the report table as a printer takes it: a name or size that no font has is replaced.
-ui::font usable_font(std::string_view name, double size, bool bold, bool italic);
+ui::font usable_font(const stile_testo& look);
 
 /// Positions in twips.
 class report_on_printer final : public report_output {

@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <cmath>
 
-#include "documents/pdf_settings.h"
+#include "documents/document_tables.h"
+#include "text/int16.h"
+#include "text/number_text.h"
 #include "ui/enter_key.h"
 
 namespace vantora {
@@ -15,6 +17,13 @@ int last_shown(const tipo_report& kind) {
     const auto hidden = [](const ui::grid_column& one) { return one.width == 0; };
     const auto shown = std::ranges::find_if(kind.colonne, hidden) - kind.colonne.begin();
     return static_cast<int>(shown) - 1;
+}
+
+/// The whole number nearest to what stands at the head of a text. No order lies beyond 32767, so a
+/// bound beyond it, or below -32768, stops there.
+int order_number(std::string_view text) {
+    const double clamped = std::clamp<double>(number_at_head(text), INT16_MIN, INT16_MAX);
+    return to_int16(clamped).value_or(0);
 }
 
 }  // namespace
@@ -48,31 +57,12 @@ report_screen::report_screen(program& app, const tipo_report& kind)
 }
 
 report_screen::campo report_screen::field(filtro which) {
-    switch (which) {
-        case filtro::inizio:
-            return {"t_inizio", {}, t_inizio};
-        case filtro::fine:
-            return {"t_fine", {}, t_fine};
-        case filtro::categoria:
-            return {"Combo0", {}, Combo0};
-        case filtro::fornitore:
-            return {"Text", 1, Text};
-        case filtro::descrizione:
-            return {"Text3", {}, Text3};
-        case filtro::stato_ordini:
-            return {"Combo1", {}, Combo1};
-        case filtro::dettaglio:
-            return {"Combo2", {}, Combo2};
-        case filtro::primo_ordine:
-            return {"text1", 0, text1[0]};
-        case filtro::ultimo_ordine:
-            return {"text1", 1, text1[1]};
-        case filtro::prima_data:
-            return {"text2", 0, text2[0]};
-        case filtro::ultima_data:
-            break;
-    }
-    return {"text2", 1, text2[1]};
+    const campo in_order[] = {
+        {"t_inizio", {}, t_inizio}, {"t_fine", {}, t_fine}, {"Combo0", {}, Combo0},
+        {"Text", 1, Text},          {"Text3", {}, Text3},   {"Combo1", {}, Combo1},
+        {"Combo2", {}, Combo2},     {"text1", 0, text1[0]}, {"text1", 1, text1[1]},
+        {"text2", 0, text2[0]},     {"text2", 1, text2[1]}};
+    return in_order[static_cast<std::size_t>(which)];
 }
 
 // Opening and leaving -----------------------------------------------------------------------------
@@ -158,13 +148,14 @@ void report_screen::select(filtro which) {
 }
 
 limiti_ordini report_screen::limits() {
-    return read_limits(text1[0].text(), text1[1].text());
+    return {order_number(text1[0].text()), order_number(text1[1].text())};
 }
 
 limiti_ordini report_screen::correct_limits() {
     read_counters();
-    const limiti_ordini right =
-        corrected(read_limits(text1[0].text(), text1[1].text()), contatore_.quanti);
+    limiti_ordini right = report_screen::limits();
+    right.ultimo = std::min<int>(right.ultimo, contatore_.quanti);
+    right.primo = std::min(std::max(right.primo, 1), right.ultimo);
     text1[0].set_text(std::to_string(right.primo));
     text1[1].set_text(std::to_string(right.ultimo));
     return right;

@@ -5,7 +5,6 @@
 
 #include "program/list_grid.h"
 #include "program/program.h"
-#include "reports/order_bounds.h"
 #include "reports/report.h"
 #include "store/block_reader.h"
 #include "ui/controls.h"
@@ -39,6 +38,12 @@ struct tipo_report {
     /// as it opens, and whenever a selector changes.
     std::vector<const char*> suggerimento;
     descrizione_report stampa;
+};
+
+/// Which orders a list goes over, both ends included.
+struct limiti_ordini {
+    int primo = 1;
+    int ultimo = 0;
 };
 
 /// Rows that the list of a report takes, without the head.
@@ -111,7 +116,8 @@ class report_screen : public ui::form {
     bool carry_on(double done);
     /// How much of the orders is done when `order` is.
     static double share_done(int order, const limiti_ordini& orders);
-    /// The bounds as typed, brought back among the orders, in the fields too.
+    /// The bounds as typed, brought back among the orders that there are, in the fields too: the
+    /// lower one begins at 1, the upper one ends at the last, and they don't cross.
     limiti_ordini correct_limits();
 
     program& app_;

@@ -40,10 +40,6 @@ bool sheet_report::entry_done() {
     return carry_on((done_ += 1) / planned_);
 }
 
-bool sheet_report::head_done() {
-    return entry_done();
-}
-
 bool sheet_report::order_done() {
     return carry_on((done_ += order_weight - 1) / planned_);
 }

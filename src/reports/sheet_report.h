@@ -1,6 +1,7 @@
 #pragma once
 
-#include "reports/list_cells.h"
+#include "orders/article_texts.h"
+#include "orders/order_rows.h"
 #include "reports/report_screen.h"
 
 namespace vantora {
@@ -40,8 +41,7 @@ class sheet_report : public report_screen {
 
     /// The whole work: the index, then the orders.
     void plan(int entries, const limiti_ordini& orders);
-    bool entry_done();
-    bool head_done();
+    bool entry_done();  ///< or the head of an order
     bool order_done();
     /// Rows are being listed.
     bool listing();

@@ -6,41 +6,42 @@ namespace vantora {
 
 namespace {
 
-template <class Record>
-void open(channel<Record>& into, file_port& port, int numero_azienda, const char* extension) {
-    into = channel<Record>(port.open_records(company_path(numero_azienda, extension)),
-                           std::string("vantora.") + extension);
+/// visit(channel, extension) for each file, the counters first.
+template <class Visit>
+void for_each_file(archivi& files, Visit visit) {
+    visit(files.tot, "tot");
+    visit(files.cli, "cli");
+    visit(files.src, "src");
+    visit(files.art, "art");
+    visit(files.sra, "sra");
+    visit(files.orc, "orc");
+    visit(files.srb, "srb");
+    visit(files.mag, "mag");
+    visit(files.bol, "bol");
+    visit(files.prx, "prx");
+    visit(files.prv, "prv");
+    visit(files.art_blocchi, "art");
 }
 
 }  // namespace
 
 void apri_archivi(archivi& files, file_port& port, int numero_azienda) {
-    open(files.tot, port, numero_azienda, "tot");
-    open(files.cli, port, numero_azienda, "cli");
-    open(files.src, port, numero_azienda, "src");
-    open(files.art, port, numero_azienda, "art");
-    open(files.sra, port, numero_azienda, "sra");
-    open(files.orc, port, numero_azienda, "orc");
-    open(files.srb, port, numero_azienda, "srb");
-    open(files.mag, port, numero_azienda, "mag");
-    open(files.bol, port, numero_azienda, "bol");
-    open(files.prx, port, numero_azienda, "prx");
-    open(files.prv, port, numero_azienda, "prv");
-    open(files.art_blocchi, port, numero_azienda, "art");
+    for_each_file(files, [&]<class Record>(channel<Record>& one, const char* extension) {
+        one = channel<Record>(port.open_records(company_path(numero_azienda, extension)),
+                              std::string("vantora.") + extension);
+    });
 }
 
 void follow_archives(archivi& files) {
-    const auto follow = [](auto&... all) { (all.follow(), ...); };
-    follow(files.tot, files.cli, files.src, files.art, files.sra, files.orc, files.srb, files.mag,
-           files.bol, files.prx, files.prv, files.art_blocchi);
+    for_each_file(files, [](auto& one, auto) { one.follow(); });
 }
 
 void keep_archives_exact(archivi& files, bool on) {
-    const auto keep = [on](const auto&... all) {
-        ((all.shared_file() ? all.shared_file()->keep_exact(on) : void()), ...);
-    };
-    keep(files.cli, files.src, files.art, files.sra, files.orc, files.srb, files.mag, files.bol,
-         files.prx, files.prv);
+    for_each_file(files, [&](auto& one, auto) {
+        const auto& its = one.shared_file();
+        const bool apart = its == files.tot.shared_file() || its == files.art_blocchi.shared_file();
+        if (its && !apart) its->keep_exact(on);
+    });
 }
 
 void chiudi_archivi(archivi& files) {

@@ -72,12 +72,15 @@ std::string formato_importo(double value, const valuta& in) {
     return masked(value, in.centesimi ? maschera::due_decimali : maschera::intero);
 }
 
-std::string formato_prezzo(double value, const valuta& in) {
-    if (value == 0) return {};
-    if (!in.centesimi) return masked(value, maschera::intero);
+std::string_view price_mask(const valuta& in) {
     constexpr std::array by_decimals = {maschera::due_decimali, maschera::tre_decimali,
                                         maschera::quattro_decimali, maschera::cinque_decimali};
-    return masked(value, by_decimals[static_cast<std::size_t>(in.decimali_prezzo - 2)]);
+    return by_decimals[static_cast<std::size_t>(in.decimali_prezzo - 2)];
+}
+
+std::string formato_prezzo(double value, const valuta& in) {
+    if (value == 0) return {};
+    return masked(value, in.centesimi ? price_mask(in) : maschera::intero);
 }
 
 std::string quantity_text(double quantity) {

@@ -57,6 +57,9 @@ double testo_a_numero(std::string_view text);
 /// Text of a money amount; empty for 0.
 std::string formato_importo(double value, const valuta& in);
 
+/// The mask with the decimals of unit prices.
+std::string_view price_mask(const valuta& in);
+
 /// Text of a unit price; empty for 0.
 std::string formato_prezzo(double value, const valuta& in);
 
