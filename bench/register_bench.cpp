@@ -26,21 +26,17 @@ void sort_benches(ui::grid& list, int rounds) {
                           mirorc::data_stored}) {
         const auto by = col == mirorc::data_stored ? ui::sort_order::numeric_ascending
                                                    : ui::sort_order::generic_ascending;
-        // Each round begins with the rows in another order.
         const auto shuffled_by = col == mirorc::cliente ? mirorc::ordine : mirorc::cliente;
         std::vector<std::string> texts;
         const std::string what = "sort by column " + std::to_string(col);
-        std::vector<double> mine;
-        std::vector<double> theirs;
-        for (int round = 0; round < rounds; ++round) {
-            list.sort(shuffled_by, ui::sort_order::generic_ascending);
-            texts = texts_of(col);
-            mine.push_back(milliseconds([&] { list.sort(col, by); }));
-            theirs.push_back(milliseconds([&] { std::ranges::stable_sort(texts); }));
-        }
-        std::printf("%-34s %9.2f ms   %-44s %9.2f ms   ratio %.2f\n", what.c_str(), median(mine),
-                    "std::stable_sort of the same texts", median(theirs),
-                    median(mine) / median(theirs));
+        compare(
+            what.c_str(), rounds, [&] { list.sort(col, by); },
+            "std::stable_sort of the same texts", [&] { std::ranges::stable_sort(texts); },
+            [&] {
+                // Each begins with the rows in another order.
+                list.sort(shuffled_by, ui::sort_order::generic_ascending);
+                texts = texts_of(col);
+            });
     }
 }
 

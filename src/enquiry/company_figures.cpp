@@ -5,7 +5,7 @@
 #include <functional>
 #include <map>
 
-#include "enquiry/order_walk.h"
+#include "enquiry/all_records.h"
 #include "orders/article_texts.h"
 #include "orders/customer_names.h"
 #include "orders/order_rows.h"

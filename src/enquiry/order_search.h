@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "enquiry/order_walk.h"
+#include "enquiry/all_records.h"
 
 namespace vantora {
 

@@ -1,6 +1,6 @@
 #include "enquiry/prezzi.h"
 
-#include "enquiry/order_walk.h"
+#include "enquiry/all_records.h"
 #include "orders/customer_names.h"
 #include "store/money.h"
 #include "text/dates.h"

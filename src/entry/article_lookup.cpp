@@ -1,7 +1,7 @@
 #include "entry/article_lookup.h"
 
 #include "orders/stock.h"
-#include "program/list_progress.h"
+#include "program/list_grid.h"
 #include "store/key_index.h"
 #include "text/number_text.h"
 

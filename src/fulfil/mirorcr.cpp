@@ -6,7 +6,6 @@
 #include "orders/article_texts.h"
 #include "orders/order_rows.h"
 #include "orders/stock.h"
-#include "program/list_progress.h"
 #include "store/block_reader.h"
 #include "store/money.h"
 #include "text/dates.h"

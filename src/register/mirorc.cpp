@@ -67,12 +67,9 @@ void mirorc::load() {
                         {"", 0},
                         {"", 0}});
     build_list();
-    const std::pair<int, const ui::screen_place*> ways[] = {
-        {nuovo_ordine, &app_.mirorcx},   {elenco_ordini, &app_.mirstoe},
-        {scadenziario, &app_.mirstos},   {valorizzazione, &app_.mirstov},
-        {schede_clienti, &app_.mirston}, {schede_articoli, &app_.mirstoa},
-    };
-    for (const auto& [button, place] : ways) bottone[button].set_enabled(place->exists());
+    for (int button = nuovo_ordine; button <= schede_articoli; ++button) {
+        bottone[button].set_enabled(way(button).exists());
+    }
 }
 
 void mirorc::activate() {
@@ -121,28 +118,16 @@ void mirorc::sort_by(int button) {
 
 void mirorc::run_command(int button) {
     app_.schermo_pronto = 0;
-    switch (button) {
-        case uscita:
-            return close();
-        case aggiorna:
-            return build_list();
-        case nuovo_ordine:
-            return lead_to_if_customers(app_.mirorcx);
-        case elenco_ordini:
-            return lead_to(app_.mirstoe);
-        case scadenziario:
-            return lead_to(app_.mirstos);
-        case valorizzazione:
-            return lead_to(app_.mirstov);
-        case schede_clienti:
-            return lead_to(app_.mirston);
-        case schede_articoli:
-            return lead_to(app_.mirstoa);
-        case fulfilment:
-            return lead_to_if_customers(app_.mirorcc);
-        default:
-            return;
-    }
+    if (button == uscita) return close();
+    if (button == aggiorna) return build_list();
+    const bool begins_with_customer = button == nuovo_ordine || button == fulfilment;
+    if (!begins_with_customer || has_customers()) lead_to(way(button));
+}
+
+ui::screen_place& mirorc::way(int button) {
+    ui::screen_place* const ways[] = {&app_.mirorcx, &app_.mirstoe, &app_.mirstos, &app_.mirstov,
+                                      &app_.mirston, &app_.mirstoa, &app_.mirorcc};
+    return *ways[button - nuovo_ordine];
 }
 
 void mirorc::lead_to(ui::screen_place& next) {
@@ -152,13 +137,11 @@ void mirorc::lead_to(ui::screen_place& next) {
     next.use().show();
 }
 
-void mirorc::lead_to_if_customers(ui::screen_place& next) {
+bool mirorc::has_customers() {
     app_.archives.tot.read(contatori::clienti, contatore_);
-    if (contatore_.quanti < 1) {
-        app_.desk.message("Nessun cliente memorizzato", ui::attention, ui::icon::stop);
-        return;
-    }
-    lead_to(next);
+    if (contatore_.quanti >= 1) return true;
+    app_.desk.message("Nessun cliente memorizzato", ui::attention, ui::icon::stop);
+    return false;
 }
 
 std::int16_t mirorc::order_in(int row) const {

@@ -79,7 +79,10 @@ class mirorc final : public ui::form {
     bool run_compaction(bool elimina_evasi);
 
     void lead_to(ui::screen_place& next);
-    void lead_to_if_customers(ui::screen_place& next);
+    /// The screen that a command leads to. REQUIRES: `nuovo_ordine` or a later one.
+    ui::screen_place& way(int button);
+    /// False, with a message, if there is none.
+    bool has_customers();
 
     [[nodiscard]] int first_listed(int last) const;
     void list_orders(list_rows& list);
