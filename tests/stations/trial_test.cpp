@@ -8,8 +8,6 @@
 
 #include <csignal>
 #include <deque>
-#include <iostream>
-#include <map>
 #include <nlohmann/json.hpp>
 #include <optional>
 #include <random>
@@ -95,7 +93,6 @@ class player {
 
     enum outcome { waits, done, refused, ended };
     std::optional<book_change> change;  ///< about to be made
-    std::map<std::string, int> told;    ///< why something wasn't
 
     void prepare(const trial_book& book) {
         if (change) return;
@@ -153,7 +150,6 @@ class player {
                             change->how == book_change::document;
         if (prints ? asked_to_print : home_ && why_not_.empty()) return done;
         EXPECT_NE(why_not_, "") << "neither done nor told, on " << screen;
-        ++told[why_not_];
         return refused;
     }
     /// Behind a round: what comes next.
@@ -238,7 +234,6 @@ class player {
         if (row >= int(listed["value"].size())) return;
         const json opened = program_->ask("cell mirorc.elenco " + std::to_string(row) + " 0");
         if (opened.contains("box")) {
-            ++told[box_of(opened)];
             program_->ask("answer ok");
             return;
         }
@@ -402,16 +397,6 @@ class trial {
         mend_what_was_broken_off();
         if (below(8) == 0) goods_come_in();
     }
-    void tell() const {
-        std::map<std::string, int> told;
-        for (const player& one : players_) {
-            for (const auto& [why, times] : one.told) told[why] += times;
-        }
-        for (const auto& [why, times] : told) std::cout << times << " x " << why << '\n';
-        std::cout << book_.orders.size() << " orders, " << book_.movements.size() << " movements, "
-                  << book_.documents.size() << " documents; numbers up to " << numbers_ << "; "
-                  << stopped_inside_ << " stopped inside\n";
-    }
 
  private:
     std::size_t below(std::size_t limit) { return random_() % limit; }
@@ -435,7 +420,6 @@ class trial {
             one->stop();
             std::this_thread::sleep_for(std::chrono::milliseconds(40));
             if (locked()) {
-                ++stopped_inside_;
                 std::erase(active, one);
                 active.push_back(one);
                 return one;
@@ -472,7 +456,6 @@ class trial {
     order_company company_;
     trial_book book_;
     int numbers_ = 100;
-    int stopped_inside_ = 0;
     std::deque<player> players_;
 };
 
@@ -484,7 +467,6 @@ TEST(trial, OfThreeStationsLeavesEveryFigureRightOrTellsThem) {
         SCOPED_TRACE("seed " + std::to_string(seed) + ", round " + std::to_string(round));
         one.play_round();
     }
-    if (long_sessions()) one.tell();
 }
 
 }  // namespace

@@ -1,4 +1,5 @@
-// The texts of the files: their characters, dates and numbers.
+// The texts of the files: their characters, dates and numbers. How amounts round is held by the
+// totals, how many decimals a company has by the reports.
 
 #include <gtest/gtest.h>
 
@@ -6,6 +7,7 @@
 #include <random>
 #include <sstream>
 
+#include "store/money.h"
 #include "text/code_page.h"
 #include "text/dates.h"
 #include "text/number_text.h"
@@ -152,6 +154,33 @@ TEST(masked, RoundsTheDecimalTextHalfAwayFromZero) {
     for (const auto& one : cases) {
         for (const auto& [value, text] : one.values) EXPECT_EQ(masked(value, one.mask), text);
     }
+}
+
+valuta lire() {
+    valuta currency;
+    currency.centesimi = false;
+    return currency;
+}
+
+TEST(values, TypedTextsAreItalian) {
+    const std::pair<double, std::vector<const char*>> cases[] = {
+        {0, {"abc", ""}}, {12.5, {"12,5"}},         {1, {"1..5"}},   {15, {"1.5"}},
+        {5, {".5"}},      {-1000, {"-1.000"}},      {1.5, {"1.,5"}}, {1.2, {"1,2,3"}},
+        {3, {"3."}},      {1234.56, {" 1.234,56 "}}};
+    for (const auto& [value, texts] : cases) {
+        for (const char* text : texts) EXPECT_EQ(testo_a_numero(text), value) << text;
+    }
+}
+
+TEST(values, NothingIsShownForZeroAndLireHaveNoDecimals) {
+    EXPECT_EQ(formato_importo(0, lire()) + formato_importo(0, valuta()), "");
+    EXPECT_EQ(formato_importo(1234.5, valuta()), "1.234,50");
+    EXPECT_EQ(formato_importo(1234, lire()), "1.234");
+    EXPECT_EQ(formato_importo(-0.5, valuta()), "-0,50");
+    EXPECT_EQ(formato_prezzo(1234.4, lire()), "1.234");
+    const std::pair<const char*, const char*> quantities[] = {
+        {"0", ""}, {"", ""}, {"1500", "1.500"}, {"2.5", "2,50"}, {"2,5", "2"}, {"-3", "-3"}};
+    for (const auto& [text, shown] : quantities) EXPECT_EQ(formato_quantita(text), shown);
 }
 
 }  // namespace

@@ -13,7 +13,7 @@
 #include "demo_folder.h"
 #include "store/drive.h"
 #include "support/faulty_files.h"
-#include "support/sampled.h"
+#include "support/long_sessions.h"
 
 /// The write or renaming, from 0, that is refused or at which the program is killed; below 0: none.
 static int steps_left = -1;

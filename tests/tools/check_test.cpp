@@ -11,7 +11,7 @@
 #include "named_damages.h"
 #include "store/station.h"
 #include "support/faulty_files.h"
-#include "support/sampled.h"
+#include "support/long_sessions.h"
 
 namespace vantora::archive {
 namespace {

@@ -5,7 +5,7 @@
 #include "archive/repair.h"
 #include "damaged.h"
 #include "support/faulty_files.h"
-#include "support/sampled.h"
+#include "support/long_sessions.h"
 
 namespace vantora::archive {
 namespace {
