@@ -30,8 +30,8 @@ void sort_benches(ui::grid& list, int rounds) {
         std::vector<std::string> texts;
         const std::string what = "sort by column " + std::to_string(col);
         compare(
-            what.c_str(), rounds, [&] { list.sort(col, by); },
-            "std::stable_sort of the same texts", [&] { std::ranges::stable_sort(texts); },
+            what.c_str(), rounds, [&] { list.sort(col, by); }, "std::stable_sort of the same texts",
+            [&] { std::ranges::stable_sort(texts); },
             [&] {
                 // Each begins with the rows in another order.
                 list.sort(shuffled_by, ui::sort_order::generic_ascending);
