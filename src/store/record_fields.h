@@ -1,24 +1,10 @@
 #pragma once
 
-#include <cstddef>
-#include <string_view>
+#include <span>
 
-#include "store/fields.h"
+#include "store/records.h"
 
 namespace vantora {
-
-// The fields of each record stand once, in a table beside its struct: where each lies, which the
-// compiler checks, and what its column is called when the archive is written out.
-
-/// The name of a member as the struct spells it.
-template <auto Member>
-consteval std::string_view name_of_member() {
-    // "... [with auto Member = &vantora::rec_tot::quanti; ...]"
-    std::string_view told = __PRETTY_FUNCTION__;
-    told.remove_prefix(told.find("Member = "));
-    told = told.substr(0, told.find_first_of(";]"));
-    return told.substr(told.rfind(':') + 1);
-}
 
 /// What the value of a field stands for, beyond being a text or a number.
 enum class meaning {
@@ -29,66 +15,53 @@ enum class meaning {
     article,   ///< a record number in "vantora.art"
 };
 
+/// What the bytes of a field are.
+enum class field_type { words, i16, f32, f64 };
+
+/// One field of a record. Without names for its column it belongs to other programs, is always the
+/// same, or is shown as a part of something else.
+struct record_field {
+    std::string_view name;  ///< as the struct spells it
+    field_type type;
+    std::size_t offset;
+    std::size_t width;    ///< bytes of one value
+    std::size_t values;   ///< 1; more for an array
+    const char* column;   ///< as a shop says it
+    const char* english;  ///< for programs
+    meaning means;
+    bool head;  ///< `of_head`
+};
+
 /// Marks the fields that every row of an order or quote repeats.
 inline constexpr bool of_head = true;
 
-/// One field. Without names for its column it belongs to other programs, is always the same, or is
-/// shown as a part of something else.
-template <auto Member>
-struct field;
-template <class Record, class Value, Value Record::*Member>
-struct field<Member> {
-    using record = Record;
-    using value_type = Value;
-    static constexpr auto member = Member;
-    static constexpr std::string_view name = name_of_member<Member>();
+/// The fields of a kind of record, in the order of the file.
+using record_table = std::span<const record_field>;
+record_table fields_of(const rec_art&);
+record_table fields_of(const rec_bol&);
+record_table fields_of(const rec_cli&);
+record_table fields_of(const rec_gnr&);
+record_table fields_of(const rec_mag&);
+record_table fields_of(const rec_orc&);
+record_table fields_of(const rec_prv&);
+record_table fields_of(const rec_prx&);
+record_table fields_of(const rec_tot&);
 
-    std::size_t offset;
-    const char* column = nullptr;   ///< as a shop says it
-    const char* english = nullptr;  ///< for programs
-    meaning means = meaning::value;
-    bool head = false;
-};
+/// A record of any kind, to be gone through field by field while it lives.
+struct any_record {
+    template <class Record>
+    any_record(const Record& one)
+        : fields(fields_of(one)), bytes(reinterpret_cast<const char*>(&one)) {}
 
-template <class... Fields>
-struct field_table : Fields... {
-    /// visit(field, value) for each field of a record, in the order of the file.
-    template <class Record, class Visit>
-    constexpr void visit(const Record& one, Visit& each) const {
-        (each(static_cast<const Fields&>(*this), one.*Fields::member), ...);
+    /// The value of a text field as it stands; `which` of an array.
+    [[nodiscard]] std::string_view text(const record_field& field, std::size_t which = 0) const {
+        return {bytes + field.offset + which * field.width, field.width};
     }
+    /// The value of a field that is no text.
+    [[nodiscard]] double number(const record_field& field, std::size_t which = 0) const;
+
+    record_table fields;
+    const char* bytes;
 };
-
-/// The table of a record. Doesn't compile unless the fields are all of the struct's, in its order,
-/// each at its place in the file.
-template <class First, class... Rest>
-consteval field_table<First, Rest...> record_fields(First first, Rest... rest) {
-    using record = typename First::record;
-    const record probe{};
-    [[maybe_unused]] const void* before = nullptr;
-    std::size_t end = 0;
-    const auto check = [&](auto one) {
-        const void* here = &(probe.*one.member);
-#ifndef __clang__  // compares no addresses at compile time; its findings are read, not its code
-        if (before && here <= before) throw "not in the order of the struct";
-#endif
-        if (one.offset != end) throw "not where the file has it";
-        before = here;
-        end += sizeof(typename decltype(one)::value_type);
-    };
-    check(first);
-    (check(rest), ...);
-    if (end != sizeof(record) || alignof(record) != 1) throw "not all of the struct";
-    return {first, rest...};
-}
-
-/// Specialised beside each struct.
-template <class Record>
-inline constexpr int fields_of = 0;
-
-template <class Record, class Visit>
-constexpr void visit_fields(const Record& one, Visit&& each) {
-    fields_of<Record>.visit(one, each);
-}
 
 }  // namespace vantora

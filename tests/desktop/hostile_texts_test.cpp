@@ -50,9 +50,12 @@ class hostile_texts : public test::program_window, public testing::WithParamInte
     }
     template <class Record>
     Record filled(Record one) {
-        visit_fields(one, [&]<class Field>(const Field&, const auto& value) {
-            if constexpr (requires { value.trimmed(); }) one.*Field::member = any_text();
-        });
+        for (const record_field& field : fields_of(one)) {
+            if (field.type != field_type::words || field.values > 1) continue;
+            std::string text = any_text();
+            text.resize(field.width, ' ');
+            std::memcpy(reinterpret_cast<char*>(&one) + field.offset, text.data(), field.width);
+        }
         return one;
     }
     template <class Row>

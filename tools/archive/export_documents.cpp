@@ -38,7 +38,7 @@ constexpr named_line head_lines[] = {
 void export_document_heads(company_files& company, table_writer& into, gaps& missing) {
     const naming& names = into.names;
     std::vector<table_column> columns{{"id", content::whole}};
-    add_columns<rec_bol>(columns, names);
+    add_columns(columns, fields_of(rec_bol{}), names);
     columns.push_back({names("con_righe", "with_lines"), content::whole});
     for (const named_line& one : head_lines) {
         columns.push_back(

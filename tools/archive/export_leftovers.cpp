@@ -4,22 +4,29 @@ namespace vantora::archive {
 
 namespace {
 
-/// visit(file, record number, record, which of its fields count) for every record that a counter
-/// counts. Of an order or quote, row 1 speaks for its head, and a row without a line for none.
-template <class Visit>
-void every_record(company_files& company, const referred& to, Visit visit) {
-    enum : bool { without_head, with_head };
+/// Whether the fields of the head of an order or quote count in a record, and the others.
+struct what_counts {
+    bool head;
+    bool line;
+};
+
+using record_visit = std::function<void(const std::string& file, std::int64_t number,
+                                        const any_record& one, what_counts counts)>;
+
+/// Every record that a counter counts. Of an order or quote, row 1 speaks for its head, and a row
+/// without a line for none.
+void every_record(company_files& company, const referred& to, const record_visit& visit) {
     archivi& files = company.records();
     const auto all = [&](const auto& from, int count) {
         scan(from, count, [&](std::int64_t number, const auto& one) {
-            visit(from.name(), number, one, with_head, true);
+            visit(from.name(), number, one, {true, true});
         });
     };
     const auto rows = [&](const auto& from, int blocks) {
         scan_blocks(from, blocks, [&](int block, auto its) {
             for (std::size_t row = 0; row < its.size(); ++row) {
                 visit(from.name(), block_record(block, static_cast<std::int64_t>(row) + 1),
-                      its[row], row == 0 ? with_head : without_head, is_used(its[row]));
+                      its[row], {row == 0, is_used(its[row])});
             }
         });
     };
@@ -41,16 +48,17 @@ std::vector<table_column> place_columns(const naming& names, content of_value) {
 
 /// Fields that stand in the columns of orders and quotes as parts of something else; the texts of
 /// an order's further rows mean nothing.
-template <class Record>
-bool is_shown(const Record&, std::string_view name) {
-    if (std::is_same_v<Record, rec_orc> && name.starts_with("testo")) return true;
-    return name == "descrizione2";
+bool is_shown(const std::string& file, std::string_view field) {
+    if (file == "vantora.orc" && field.starts_with("testo")) return true;
+    return field == "descrizione2";
 }
 
 /// An article below 1 is none: its row is a text.
-bool is_lost(meaning means, std::int16_t value, const referred& to) {
-    if (!is_reference(means) || value == 0 || to.has(means, value)) return false;
-    return value > 0 || means == meaning::customer;
+bool is_lost(const any_record& one, const record_field& field, const referred& to) {
+    if (!is_reference(field)) return false;
+    const double number = one.number(field);
+    if (number == 0 || to.has(field.means, number)) return false;
+    return number > 0 || field.means == meaning::customer;
 }
 
 }  // namespace
@@ -67,16 +75,18 @@ std::int64_t export_leftovers(company_files& company, table_writer& into) {
     into.begin(table_id::other_fields, place_columns(names, content::words), 3);
     every_record(
         company, into.to,
-        [&](const std::string& file, std::int64_t number, const auto& one, bool head, bool line) {
-            visit_fields(one, [&](const auto& field, const auto& value) {
-                if constexpr (std::is_same_v<std::remove_cvref_t<decltype(value)>, i16le>) {
-                    if (is_lost(field.means, value, into.to) && (field.head ? head : line)) {
-                        lost.push_back({file, number, field.name, std::int16_t{value}});
-                    }
+        [&](const std::string& file, std::int64_t number, const any_record& one,
+            what_counts counts) {
+            for (const record_field& field : one.fields) {
+                if (is_lost(one, field, into.to) && (field.head ? counts.head : counts.line)) {
+                    lost.push_back(
+                        {file, number, field.name, static_cast<std::int64_t>(one.number(field))});
                 }
-                if (field.column || is_empty(value) || is_shown(one, field.name)) return;
-                into.row({file, number, std::string(field.name), plain_cell(value)});
-            });
+                if (field.column || is_empty(one, field) || is_shown(file, field.name)) {
+                    continue;
+                }
+                into.row({file, number, std::string(field.name), plain_cell(one, field)});
+            }
         });
     into.end();
 

@@ -68,7 +68,7 @@ void export_counters(company_files& company, table_writer& into, gaps& missing) 
     const naming& names = into.names;
     std::vector<table_column> columns{{"id", content::whole},
                                       {names("che_cosa", "what"), content::words}};
-    add_columns<rec_tot>(columns, names);
+    add_columns(columns, fields_of(rec_tot{}), names);
     into.begin(table_id::counters, std::move(columns));
     const auto& counters = company.records().tot;
     const int unread = scan(counters, static_cast<int>(counters.records_held().value_or(0)),
@@ -101,12 +101,11 @@ void export_parameters(company_files& company, table_writer& into) {
     const auto bytes = company.files().read_whole(company_path(number, "gnr"));
     if (bytes && bytes->size() >= sizeof general) {
         std::memcpy(&general, bytes->data(), sizeof general);
-        visit_fields(general, [&](const auto& field, const auto& value) {
-            if constexpr (!std::is_array_v<std::remove_cvref_t<decltype(value)>>) {
-                if (is_empty(value)) return;
-                into.row({std::string("vantora.gnr"), std::string(field.name), plain_cell(value)});
-            }
-        });
+        for (const record_field& field : fields_of(general)) {
+            if (field.values > 1 || is_empty(general, field)) continue;
+            into.row(
+                {std::string("vantora.gnr"), std::string(field.name), plain_cell(general, field)});
+        }
     }
     for (const parameter_file& file : parameter_files) {
         const auto path =

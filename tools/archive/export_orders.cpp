@@ -55,7 +55,7 @@ void add_choices(std::vector<cell_value>& into, const std::string& packed) {
 void export_order_heads(company_files& company, table_writer& into, gaps& missing) {
     const naming& names = into.names;
     std::vector<table_column> columns{{"id", content::whole}};
-    add_columns<rec_orc>(columns, names, of_head);
+    add_columns(columns, fields_of(rec_orc{}), names, of_head);
     for (const head_text& one : head_texts) {
         columns.push_back({names(one.column, one.english), content::words});
     }
@@ -88,7 +88,7 @@ void export_lines(const channel<Row>& from, int blocks, table_writer& into) {
         {orders ? names("ordine", "order_id") : names("preventivo", "quote_id"), content::whole,
          names(orders ? table_id::orders : table_id::quotes)},
         {names("riga", "line"), content::whole}};
-    add_columns<Row>(columns, names);
+    add_columns(columns, fields_of(Row{}), names);
     into.begin(orders ? table_id::order_lines : table_id::quote_lines, std::move(columns), 2);
     scan_blocks(from, blocks, [&](int block, std::span<const Row> rows) {
         std::int64_t line = 0;
@@ -96,12 +96,11 @@ void export_lines(const channel<Row>& from, int blocks, table_writer& into) {
             ++line;
             if (!is_used(row)) continue;
             into.row({std::int64_t{block}, line}, [&](auto& cells) {
-                visit_fields(row, [&](const auto& field, const auto& value) {
-                    if (!field.column || field.head) return;
-                    cells.push_back(field.name == "descrizione"
-                                        ? cell_value(row_description(row))
-                                        : meant_cell(field, value, into.to));
-                });
+                for (const record_field& field : fields_of(row)) {
+                    if (!field.column || field.head) continue;
+                    cells.push_back(field.name == "descrizione" ? cell_value(row_description(row))
+                                                                : meant_cell(row, field, into.to));
+                }
             });
         }
     });
@@ -111,7 +110,7 @@ void export_lines(const channel<Row>& from, int blocks, table_writer& into) {
 void export_quote_heads(company_files& company, table_writer& into, gaps& missing) {
     const naming& names = into.names;
     std::vector<table_column> columns{{"id", content::whole}};
-    add_columns<rec_prv>(columns, names, of_head);
+    add_columns(columns, fields_of(rec_prv{}), names, of_head);
     into.begin(table_id::quotes, std::move(columns));
     const auto& quotes = company.records().prv;
     const int count = company.count(contatori::preventivi);

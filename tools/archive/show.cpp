@@ -13,20 +13,17 @@ namespace {
 
 using nlohmann::ordered_json;
 
-template <class Value>
-ordered_json json_of(const Value& value) {
-    if constexpr (std::is_array_v<Value>) {
-        auto list = ordered_json::array();
-        for (const auto& one : value) list.push_back(json_of(one));
-        return list;
-    } else {
-        return std::visit([](const auto& cell) { return ordered_json(cell); }, plain_cell(value));
+ordered_json json_of(const any_record& one, const record_field& field) {
+    auto list = ordered_json::array();
+    for (std::size_t which = 0; which < field.values; ++which) {
+        std::visit([&list](const auto& cell) { list.push_back(cell); },
+                   plain_cell(one, field, which));
     }
+    return field.values > 1 ? list : list[0];
 }
 
 /// The key of a field; those that only other programs use have names that say so.
-template <class Field>
-std::string key_of(const Field& field) {
+std::string key_of(const record_field& field) {
     if (field.english) return field.english;
     constexpr std::pair<std::string_view, const char*> heads[] = {{"riservato", "reserved"},
                                                                   {"testo", "text"},
@@ -41,30 +38,24 @@ std::string key_of(const Field& field) {
 }
 
 /// Every field by its name; no number at all comes as null.
-template <class Record>
-ordered_json all_fields(std::int64_t number, const Record& one) {
+ordered_json all_fields(std::int64_t number, const any_record& one) {
     ordered_json object{{"record", number}};
-    visit_fields(
-        one, [&](const auto& field, const auto& value) { object[key_of(field)] = json_of(value); });
+    for (const record_field& field : one.fields) object[key_of(field)] = json_of(one, field);
     return object;
 }
 
 /// Every field of a record that has something to say, one a line.
-template <class Record>
-void write_fields(const Record& one, std::ostream& out) {
-    visit_fields(one, [&](const auto& field, const auto& value) {
-        if constexpr (!std::is_array_v<std::remove_cvref_t<decltype(value)>>) {
-            if (is_empty(value)) return;
-            const cell_value cell = meant_cell(field, value, {32767, 32767});
-            out << "  " << (field.column ? std::string(field.column) : std::string(field.name))
-                << ": ";
-            const auto* text = std::get_if<std::string>(&cell);
-            const bool day = field.means == meaning::date || field.means == meaning::day;
-            if (text) out << (day ? italian_date(*text) : *text) << '\n';
-            if (const auto* whole = std::get_if<std::int64_t>(&cell)) out << *whole << '\n';
-            if (const auto* number = std::get_if<double>(&cell)) out << figure(*number) << '\n';
-        }
-    });
+void write_fields(const any_record& one, std::ostream& out) {
+    for (const record_field& field : one.fields) {
+        if (field.values > 1 || is_empty(one, field)) continue;
+        const cell_value cell = meant_cell(one, field, {32767, 32767});
+        out << "  " << (field.column ? field.column : field.name) << ": ";
+        const auto* text = std::get_if<std::string>(&cell);
+        const bool day = field.means == meaning::date || field.means == meaning::day;
+        if (text) out << (day ? italian_date(*text) : *text) << '\n';
+        if (const auto* whole = std::get_if<std::int64_t>(&cell)) out << *whole << '\n';
+        if (const auto* number = std::get_if<double>(&cell)) out << figure(*number) << '\n';
+    }
 }
 
 /// Whether a record is the one that people call so.

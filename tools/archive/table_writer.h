@@ -36,7 +36,7 @@ class table_writer {
     template <class Record>
     void records(table_id which, const channel<Record>& from, int count, gaps& missing) {
         std::vector<table_column> columns{{"id", content::whole}};
-        add_columns<Record>(columns, names);
+        add_columns(columns, fields_of(Record{}), names);
         begin(which, std::move(columns));
         const int unread = scan(from, count, [&](std::int64_t number, const Record& one) {
             row({number}, [&](auto& cells) { add_cells(cells, one, to); });
@@ -74,8 +74,9 @@ std::int64_t export_leftovers(company_files& company, table_writer& into);
 /// Whether a row of an order or quote holds a line.
 template <class Row>
 bool is_used(const Row& row) {
-    return row.articolo > 0 || row.quantita != 0 || row.prezzo != 0 || !is_empty(row.descrizione) ||
-           !is_empty(row.descrizione2);
+    return row.articolo > 0 || row.quantita != 0 || row.prezzo != 0 ||
+           !without_padding(row.descrizione.full()).empty() ||
+           !without_padding(row.descrizione2.full()).empty();
 }
 
 /// The description of a row, of its two fields.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "store/record_fields.h"
+#include "store/fields.h"
 
 namespace vantora {
 
@@ -50,31 +50,5 @@ struct blocco_articoli {
 };
 
 static_assert(sizeof(blocco_articoli) == 6540);
-template <>
-inline constexpr auto fields_of<rec_art> = record_fields(
-    field<&rec_art::codice>{0, "codice", "code"},
-    field<&rec_art::descrizione>{15, "descrizione", "description"},
-    field<&rec_art::codice_barre>{55, "codice_barre", "bar_code"},
-    field<&rec_art::um>{68, "unita_misura", "unit"},
-    field<&rec_art::categoria>{70, "categoria", "category"},
-    field<&rec_art::iva>{73, "codice_iva", "vat_code"},
-    field<&rec_art::prezzo1>{75, "prezzo1", "price1"},
-    field<&rec_art::prezzo2>{83, "prezzo2", "price2"}, field<&rec_art::riservato_al>{91},
-    field<&rec_art::riservato_am>{99}, field<&rec_art::riservato_an>{107},
-    field<&rec_art::riservato_ao>{115}, field<&rec_art::giacenza>{123, "giacenza", "stock"},
-    field<&rec_art::riservato_ap>{131}, field<&rec_art::impegnato>{139, "impegnato", "committed"},
-    field<&rec_art::ordinato_clienti>{147, "ordinato_clienti", "ordered"},
-    field<&rec_art::riservato_aq>{155}, field<&rec_art::riservato_ar>{163},
-    field<&rec_art::riservato_as>{171}, field<&rec_art::scaricato>{179, "scaricato", "unloaded"},
-    field<&rec_art::riservato_at>{187},
-    field<&rec_art::valore_scaricato>{195, "valore_scaricato", "unloaded_value"},
-    field<&rec_art::classe1>{203, "fornitore1", "supplier1"},
-    field<&rec_art::classe2>{207, "fornitore2", "supplier2"},
-    field<&rec_art::classe3>{211, "fornitore3", "supplier3"}, field<&rec_art::riservato_au>{215},
-    field<&rec_art::riservato_av>{219}, field<&rec_art::riservato_aw>{223},
-    field<&rec_art::riservato_ax>{227}, field<&rec_art::riservato_ay>{235},
-    field<&rec_art::riservato_az>{275}, field<&rec_art::peso>{295, "peso", "weight"},
-    field<&rec_art::riservato_ba>{303}, field<&rec_art::riservato_bb>{323},
-    field<&rec_art::eliminato>{325, "eliminato", "deleted"});
 
 }  // namespace vantora

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "store/record_fields.h"
+#include "store/fields.h"
 
 namespace vantora {
 
@@ -28,19 +28,5 @@ struct rec_gnr {
     text<3> riservato_bk;
     text<90> riservato_bl;
 };
-
-template <>
-inline constexpr auto fields_of<rec_gnr> =
-    record_fields(field<&rec_gnr::interi_iniziali>{0}, field<&rec_gnr::vista_registro>{8},
-                  field<&rec_gnr::intero_sesto>{10}, field<&rec_gnr::riservato_bc>{12},
-                  field<&rec_gnr::riservato_bd>{18}, field<&rec_gnr::formato_gnr>{183},
-                  field<&rec_gnr::aggiorna_elenco>{184}, field<&rec_gnr::colore_riga_pari>{185},
-                  field<&rec_gnr::colore_riga_dispari>{193}, field<&rec_gnr::righe_alternate>{201},
-                  field<&rec_gnr::riservato_be>{202}, field<&rec_gnr::riservato_bf>{203},
-                  field<&rec_gnr::riservato_bg>{204}, field<&rec_gnr::riservato_bh>{242},
-                  field<&rec_gnr::usa_barcode>{244}, field<&rec_gnr::riservato_bi>{246},
-                  field<&rec_gnr::codice_iva_base>{248}, field<&rec_gnr::peso_automatico>{250},
-                  field<&rec_gnr::riservato_bj>{252}, field<&rec_gnr::riservato_bk>{253},
-                  field<&rec_gnr::riservato_bl>{256});
 
 }  // namespace vantora

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "store/record_fields.h"
+#include "store/fields.h"
 
 namespace vantora {
 
@@ -18,18 +18,5 @@ struct rec_mag {
     i16le segno;         ///< always 1
     i16le zero;          ///< always 0
 };
-
-template <>
-inline constexpr auto fields_of<rec_mag> =
-    record_fields(field<&rec_mag::data>{0, "data", "date", meaning::date},
-                  field<&rec_mag::documento>{8, "documento", "document"},
-                  field<&rec_mag::tipo>{48, "tipo", "kind"},
-                  field<&rec_mag::movimento>{50, "movimento", "movement"},
-                  field<&rec_mag::data_reg>{62, "registrato_il", "registered", meaning::day},
-                  field<&rec_mag::articolo>{70, "articolo", "article", meaning::article},
-                  field<&rec_mag::cliente>{72, "cliente", "customer", meaning::customer},
-                  field<&rec_mag::quantita>{74, "quantita", "quantity"},
-                  field<&rec_mag::prezzo>{82, "prezzo_netto", "net_price"},
-                  field<&rec_mag::segno>{90, "segno", "sign"}, field<&rec_mag::zero>{92});
 
 }  // namespace vantora

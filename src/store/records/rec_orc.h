@@ -1,6 +1,6 @@
 #pragma once
 
-#include "store/record_fields.h"
+#include "store/fields.h"
 
 namespace vantora {
 
@@ -39,28 +39,5 @@ struct rec_orc {
     text<15> riservato_e;
     i16le annullato;  ///< 1: the order is deleted
 };
-
-template <>
-inline constexpr auto fields_of<rec_orc> = record_fields(
-    field<&rec_orc::numero>{0, "numero", "number", meaning::value, of_head},
-    field<&rec_orc::data>{10, "data", "date", meaning::date, of_head},
-    field<&rec_orc::cliente>{18, "cliente", "customer", meaning::customer, of_head},
-    field<&rec_orc::testo1>{20}, field<&rec_orc::testo2>{60}, field<&rec_orc::testo3>{100},
-    field<&rec_orc::articolo>{140, "articolo", "article", meaning::article},
-    field<&rec_orc::descrizione>{142, "descrizione", "description"},
-    field<&rec_orc::um>{182, "unita_misura", "unit"},
-    field<&rec_orc::quantita>{184, "quantita", "quantity"},
-    field<&rec_orc::prezzo>{192, "prezzo", "price"},
-    field<&rec_orc::evaso>{200, "evaso", "fulfilled"}, field<&rec_orc::riservato_b>{208},
-    field<&rec_orc::riservato_c>{216}, field<&rec_orc::riservato_d>{224},
-    field<&rec_orc::data_evasione>{232, "consegna", "due", meaning::date, of_head},
-    field<&rec_orc::evaso_flag>{240, "evaso_tutto", "fulfilled_in_full", meaning::value, of_head},
-    field<&rec_orc::impegno>{242, "impegna_merce", "commits_stock", meaning::value, of_head},
-    field<&rec_orc::iva>{243, "codice_iva", "vat_code"},
-    field<&rec_orc::sc1>{245, "sconto1", "discount1"},
-    field<&rec_orc::sc2>{247, "sconto2", "discount2"},
-    field<&rec_orc::data_reg>{249, "registrato_il", "registered", meaning::day, of_head},
-    field<&rec_orc::descrizione2>{257}, field<&rec_orc::riservato_e>{267},
-    field<&rec_orc::annullato>{282, "eliminato", "deleted", meaning::value, of_head});
 
 }  // namespace vantora

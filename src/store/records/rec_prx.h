@@ -1,6 +1,6 @@
 #pragma once
 
-#include "store/record_fields.h"
+#include "store/fields.h"
 
 namespace vantora {
 
@@ -11,9 +11,5 @@ struct rec_prx {
     text<50> righe[10];
     i16le marca_testo;  ///< `ha_testo`: the record holds a text; anything else: it has none
 };
-
-template <>
-inline constexpr auto fields_of<rec_prx> = record_fields(field<&rec_prx::righe>{0},
-                                                         field<&rec_prx::marca_testo>{500});
 
 }  // namespace vantora

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "store/record_fields.h"
+#include "store/fields.h"
 
 namespace vantora {
 
@@ -23,14 +23,5 @@ struct rec_tot {
     i16le ultimo_numero;  ///< last document number handed out
     f32le progressivo;    ///< running number of the transport snapshots
 };
-
-template <>
-inline constexpr auto fields_of<rec_tot> = record_fields(
-    field<&rec_tot::quanti>{0, "quanti", "count"},
-    field<&rec_tot::modificato>{2, "modificato", "changed"}, field<&rec_tot::riservato_a>{4},
-    field<&rec_tot::ultimo_numero>{6, "ultimo_numero", "last_number"},
-    field<&rec_tot::progressivo>{8, "progressivo", "running_number"});
-
-static_assert(field<&rec_tot::quanti>::name == "quanti");
 
 }  // namespace vantora
