@@ -39,6 +39,8 @@ class desk {
     /// Shows a box and waits for its answer.
     answer show_box(message_box box);
     void message(std::string text, std::string title, icon sign);
+    /// A message that the user should heed.
+    void warn(std::string text) { message(std::move(text), attention, icon::warning); }
     /// True for yes. Where a yes destroys something, no is proposed.
     bool ask(std::string text, std::string title, icon sign = icon::question,
              answer proposed = answer::yes);

@@ -11,7 +11,7 @@ bool guards::confirm(std::string question, answer proposed) {
 }
 
 bool guards::refuse(std::string why) {
-    if (on_) desk_.message(std::move(why), attention, icon::warning);
+    if (on_) desk_.warn(std::move(why));
     return on_;
 }
 

@@ -5,16 +5,28 @@
 
 namespace vantora::ui {
 
-/// A position between two limits.
-class scroll_bar : public control {
+/// A value between two limits.
+class bar_control : public control {
  public:
-    scroll_bar() : control(control_kind::scroll_bar) {}
-
-    std::function<void()> on_change;  ///< the position became another one, whoever set it
-
     [[nodiscard]] int minimum() const { return minimum_; }
     [[nodiscard]] int maximum() const { return maximum_; }
     [[nodiscard]] int value() const { return value_; }
+
+ protected:
+    bar_control(control_kind kind, int maximum) : control(kind), maximum_(maximum) {}
+
+    int minimum_ = 0;
+    int maximum_;
+    int value_ = 0;
+};
+
+/// A position that the user moves.
+class scroll_bar : public bar_control {
+ public:
+    scroll_bar() : bar_control(control_kind::scroll_bar, 32767) {}
+
+    std::function<void()> on_change;  ///< the position became another one, whoever set it
+
     /// True for a position inside the limits.
     [[nodiscard]] bool reaches(int value) const;
 
@@ -28,32 +40,18 @@ class scroll_bar : public control {
 
     /// Arrows move by one.
     void take_effect(int code, std::optional<char> character) override;
-
- private:
-    int minimum_ = 0;
-    int maximum_ = 32767;
-    int value_ = 0;
 };
 
 /// How far a long piece of work has come; the user only watches.
-class progress_bar : public control {
+class progress_bar : public bar_control {
  public:
-    progress_bar() : control(control_kind::progress_bar) {}
-
-    [[nodiscard]] int minimum() const { return minimum_; }
-    [[nodiscard]] int maximum() const { return maximum_; }
-    [[nodiscard]] int value() const { return value_; }
+    progress_bar() : bar_control(control_kind::progress_bar, 100) {}
 
     /// The value goes back to the minimum. False, with nothing done, if the maximum isn't above
     /// the minimum.
     bool set_range(int minimum, int maximum);
     /// False, with nothing done, outside the range.
     bool set_value(int value);
-
- private:
-    int minimum_ = 0;
-    int maximum_ = 100;
-    int value_ = 0;
 };
 
 /// A field with a calendar; it always holds a date.

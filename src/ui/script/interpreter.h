@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "ui/clock.h"
@@ -50,18 +51,28 @@ class interpreter {
  private:
     using words = std::vector<word>;
 
-    struct command;
-    static const std::vector<command>& commands();
+    /// Why a command isn't carried out.
+    struct refusal {
+        std::string why;
+    };
 
     void carry_out(const words& line);
-    void refuse(std::string why);
+    [[noreturn]] static void refuse(std::string why) { throw refusal{std::move(why)}; }
     void act(const std::function<void()>& action) { desk_.dispatch(action); }
 
-    control* find_control(const word& address);
-    control* touchable(const word& address);
-    /// A screen by its name, if the user can get at it.
-    form* reachable(const word& name);
-    bool takes_focus(const control& one);
+    // What a command names; refused if there is no such thing, or the user can't get at it.
+    [[nodiscard]] form& loaded(const std::string& name) const;
+    [[nodiscard]] form& reachable(const word& name) const;
+    [[nodiscard]] control& find_control(const word& address) const;
+    [[nodiscard]] control& touchable(const word& address) const;
+    [[nodiscard]] control& focusable(const word& address) const;
+    /// A control as one of a kind, else refused.
+    template <class Control, class Found>
+    static Control& as(Found& found, const char* otherwise) {
+        auto* one = dynamic_cast<Control*>(&found);
+        if (!one) refuse(otherwise);
+        return *one;
+    }
 
     void click(const words& line);
     void cell(const words& line);
@@ -94,8 +105,7 @@ class interpreter {
     void prints(const words& line);
     void launched(const words& line);
 
-    const grid* find_grid(const word& address);
-    std::optional<row_range> read_range(const words& line);
+    static row_range read_range(const words& line);
 
     ui::desk& desk_;
     local_clock& clock_;

@@ -43,13 +43,6 @@ json box_json(const message_box& box) {
     return whole;
 }
 
-template <class Bar>
-void describe_bar(const Bar& bar, json& state) {
-    state["min"] = bar.minimum();
-    state["max"] = bar.maximum();
-    state["value"] = bar.value();
-}
-
 /// The control as what it may be; null if it is something else.
 template <class Control>
 const Control* as(const control& one) {
@@ -65,8 +58,11 @@ json state_of(const control& one) {
     if (const auto* text = as<text_control>(one)) state["text"] = to_utf8(text->text());
     if (const auto* box = as<check_box>(one)) state["on"] = box->on();
     if (const auto* option = as<option_button>(one)) state["on"] = option->on();
-    if (const auto* bar = as<scroll_bar>(one)) describe_bar(*bar, state);
-    if (const auto* bar = as<progress_bar>(one)) describe_bar(*bar, state);
+    if (const auto* bar = as<bar_control>(one)) {
+        state["min"] = bar->minimum();
+        state["max"] = bar->maximum();
+        state["value"] = bar->value();
+    }
     if (const auto* day = as<date_picker>(one)) state["text"] = day->text();
     if (const auto* list = as<list_control>(one)) {
         state["index"] = list->chosen();

@@ -59,7 +59,7 @@ json job_json(const print_job& job) {
 
 void interpreter::stop_clock(const words& line) {
     const auto moment = read_clock(line[1].text);
-    if (!moment) return refuse("this is no date and time");
+    if (!moment) refuse("this is no date and time");
     clock_.stop_at(*moment);
 }
 
@@ -69,7 +69,7 @@ void interpreter::set_printer(const words& line) {
     for (std::size_t i = 1; i < line.size(); ++i) {
         const std::string_view part = line[i].text;
         const std::size_t mark = part.find('=');
-        if (mark == std::string_view::npos) return refuse("a setting is name=number");
+        if (mark == std::string_view::npos) refuse("a setting is name=number");
         const auto value = read_int(part.substr(mark + 1));
         const std::string_view name = part.substr(0, mark);
         if (name == "orientation" && (value == printer::upright || value == printer::landscape)) {
@@ -77,71 +77,56 @@ void interpreter::set_printer(const words& line) {
         } else if (name == "copies" && value && *value > 0) {
             copies = value;
         } else {
-            return refuse("the printer has no such setting");
+            refuse("the printer has no such setting");
         }
     }
     printer_.set_up(orientation, copies);
 }
 
 void interpreter::set_launch(const words& line) {
-    if (line[1].text != "ok" && line[1].text != "fail") return refuse("it is ok or fail");
+    if (line[1].text != "ok" && line[1].text != "fail") refuse("it is ok or fail");
     launcher_.allow(line[1].text == "ok");
 }
 
 void interpreter::set_guards(const words& line) {
-    if (line[1].text != "on" && line[1].text != "off") return refuse("it is on or off");
+    if (line[1].text != "on" && line[1].text != "off") refuse("it is on or off");
     desk_.guards().switch_to(line[1].text == "on");
 }
 
 void interpreter::shot(const words& line) {
-    if (!shoot) return refuse("this front end has no windows");
+    if (!shoot) refuse("this front end has no windows");
     if (!shoot(line[1].text)) refuse("the picture can't be saved");
 }
 
 void interpreter::get(const words& line) {
-    if (const control* one = find_control(line[1])) reply_->value = state_of(*one);
+    reply_->value = state_of(find_control(line[1]));
 }
 
 void interpreter::items(const words& line) {
-    const control* one = find_control(line[1]);
-    if (!one) return;
-    const auto* list = dynamic_cast<const list_control*>(one);
-    if (!list) return refuse("the control is no list");
-    reply_->value = items_of(*list);
+    reply_->value =
+        items_of(as<const list_control>(find_control(line[1]), "the control is no list"));
 }
 
-const grid* interpreter::find_grid(const word& text) {
-    const control* one = find_control(text);
-    const auto* table = dynamic_cast<const grid*>(one);
-    if (one && !table) refuse("the control is no grid");
-    return table;
-}
-
-std::optional<row_range> interpreter::read_range(const words& line) {
-    if (line.size() == 2) return row_range{};
+row_range interpreter::read_range(const words& line) {
+    if (line.size() == 2) return {};
     const auto first = read_int(line[2].text);
     const auto last = read_int(line.back().text);
-    if (first && last) return row_range{*first, *last};
-    refuse("these are no rows");
-    return {};
+    if (!first || !last) refuse("these are no rows");
+    return {*first, *last};
 }
 
 void interpreter::rows(const words& line) {
-    const grid* table = find_grid(line[1]);
-    if (!table) return;
-    if (const auto range = read_range(line)) reply_->value = rows_of(*table, *range);
+    const auto& table = as<const grid>(find_control(line[1]), "the control is no grid");
+    reply_->value = rows_of(table, read_range(line));
 }
 
 void interpreter::colors(const words& line) {
-    const grid* table = find_grid(line[1]);
-    if (!table) return;
-    if (const auto range = read_range(line)) reply_->value = colours_of(*table, *range);
+    const auto& table = as<const grid>(find_control(line[1]), "the control is no grid");
+    reply_->value = colours_of(table, read_range(line));
 }
 
 void interpreter::controls(const words& line) {
-    const form* screen = desk_.find(from_utf8(line[1].text));
-    if (!screen) return refuse("the screen is not loaded");
-    reply_->value = controls_of(*screen);
+    reply_->value = controls_of(loaded(line[1].text));
 }
 
 void interpreter::screens(const words&) {

@@ -51,75 +51,64 @@ void press(desk& desk, const named_key& pressed) {
 }  // namespace
 
 void interpreter::click(const words& line) {
-    control* one = touchable(line[1]);
-    if (!one) return;
-    switch (one->kind()) {
+    control& one = touchable(line[1]);
+    switch (one.kind()) {
         case control_kind::button:
-            return act([&] { static_cast<button*>(one)->click(); });
+            return act([&] { static_cast<button&>(one).click(); });
         case control_kind::label:
-            return act([&] { static_cast<label*>(one)->click(); });
+            return act([&] { static_cast<label&>(one).click(); });
         case control_kind::picture:
-            return act([&] { static_cast<picture*>(one)->click(); });
+            return act([&] { static_cast<picture&>(one).click(); });
         case control_kind::check_box:
-            return act([&] { static_cast<check_box*>(one)->toggle(); });
+            return act([&] { static_cast<check_box&>(one).toggle(); });
         case control_kind::option_button:
-            return act([&] { static_cast<option_button*>(one)->choose(); });
+            return act([&] { static_cast<option_button&>(one).choose(); });
         default:
             refuse("the control is none to click");
     }
 }
 
 void interpreter::cell(const words& line) {
-    control* one = touchable(line[1]);
-    if (!one) return;
+    constexpr const char* otherwise = "this is no cell of a grid";
+    auto& table = as<grid>(touchable(line[1]), otherwise);
     const auto row = read_int(line[2].text);
     const auto col = read_int(line[3].text);
-    if (one->kind() != control_kind::grid || !row || !col) {
-        return refuse("this is no cell of a grid");
-    }
-    auto& table = *static_cast<grid*>(one);
+    if (!row || !col) refuse(otherwise);
     if (*row < 0 || *row >= table.rows() || *col < 0 || *col >= table.cols()) {
-        return refuse("the grid has no such cell");
+        refuse("the grid has no such cell");
     }
     act([&] { table.click_cell(*row, *col); });
 }
 
 void interpreter::key(const words& line) {
     const auto pressed = read_key(line[2].text);
-    if (!pressed) return refuse("there is no such key");
-    control* one = touchable(line[1]);
-    if (!one || !takes_focus(*one)) return;
+    if (!pressed) refuse("there is no such key");
+    control& one = focusable(line[1]);
     act([&] {
-        one->set_focus();
+        one.set_focus();
         press(desk_, *pressed);
     });
 }
 
 void interpreter::type(const words& line) {
-    control* one = touchable(line[1]);
-    if (!one || !takes_focus(*one)) return;
+    control& one = focusable(line[1]);
     act([&] {
-        one->set_focus();
+        one.set_focus();
         for (const char character : from_utf8(line[2].text)) press(desk_, key_of(character));
     });
 }
 
 void interpreter::set(const words& line) {
-    control* one = touchable(line[1]);
-    if (!one) return;
-    if (one->kind() != control_kind::text_box) return refuse("the control is no text box");
+    auto& field = as<text_box>(touchable(line[1]), "the control is no text box");
     act([&] {
-        one->set_focus();
+        field.set_focus();
         // A cell that hands the focus on takes no text.
-        if (one->has_focus()) static_cast<text_box*>(one)->set_text(from_utf8(line[2].text));
+        if (field.has_focus()) field.set_text(from_utf8(line[2].text));
     });
 }
 
 void interpreter::paste(const words& line) {
-    control* one = touchable(line[1]);
-    if (!one) return;
-    if (one->kind() != control_kind::text_box) return refuse("the control is no text box");
-    auto& field = *static_cast<text_box*>(one);
+    auto& field = as<text_box>(touchable(line[1]), "the control is no text box");
     const std::string text = from_utf8(line[2].text);
     if (!field.on_paste_lines || !holds_pasted_lines(text)) return set(line);
     act([&] {
@@ -129,52 +118,42 @@ void interpreter::paste(const words& line) {
 }
 
 void interpreter::pick(const words& line) {
-    control* one = touchable(line[1]);
-    if (!one) return;
-    auto* list = dynamic_cast<list_control*>(one);
-    if (!list) return refuse("the control is no list");
+    auto& list = as<list_control>(touchable(line[1]), "the control is no list");
     const auto position = read_int(line[2].text);
-    if (!position || *position < 0 || *position >= list->count()) {
-        return refuse("the list has no such entry");
+    if (!position || *position < 0 || *position >= list.count()) {
+        refuse("the list has no such entry");
     }
-    act([&] { list->pick(*position); });
+    act([&] { list.pick(*position); });
 }
 
 void interpreter::scroll(const words& line) {
-    control* one = touchable(line[1]);
-    if (!one) return;
-    auto* bar = dynamic_cast<scroll_bar*>(one);
-    if (!bar) return refuse("the control is no scroll bar");
+    auto& bar = as<scroll_bar>(touchable(line[1]), "the control is no scroll bar");
     const auto value = read_int(line[2].text);
-    if (!value || !bar->reaches(*value)) return refuse("the bar doesn't reach there");
-    act([&] { bar->drag(*value); });
+    if (!value || !bar.reaches(*value)) refuse("the bar doesn't reach there");
+    act([&] { bar.drag(*value); });
 }
 
 void interpreter::date(const words& line) {
-    control* one = touchable(line[1]);
-    if (!one) return;
-    if (one->kind() != control_kind::date_picker) return refuse("the control is no date picker");
+    auto& picker = as<date_picker>(touchable(line[1]), "the control is no date picker");
     const auto day = read_date(line[2].text);
-    if (!day) return refuse("this is no date");
-    act([&] { static_cast<date_picker*>(one)->choose(*day); });
+    if (!day) refuse("this is no date");
+    act([&] { picker.choose(*day); });
 }
 
 void interpreter::focus(const words& line) {
-    control* one = touchable(line[1]);
-    if (!one || !takes_focus(*one)) return;
-    act([&] { one->set_focus(); });
+    control& one = focusable(line[1]);
+    act([&] { one.set_focus(); });
 }
 
 void interpreter::activate(const words& line) {
-    form* screen = reachable(line[1]);
-    if (!screen) return;
-    if (desk_.modal()) return refuse("a modal screen is open");
-    act([&] { screen->show(); });
+    form& screen = reachable(line[1]);
+    if (desk_.modal()) refuse("a modal screen is open");
+    act([&] { screen.show(); });
 }
 
 void interpreter::close(const words& line) {
-    form* screen = reachable(line[1]);
-    if (screen) act([&] { desk_.close(*screen); });
+    form& screen = reachable(line[1]);
+    act([&] { desk_.close(screen); });
 }
 
 void interpreter::answer(const words& line) {
@@ -185,18 +164,18 @@ void interpreter::answer(const words& line) {
     if (const auto number = read_int(line[1].text); number && *number >= 1 && *number <= 4) {
         given = static_cast<ui::answer>(*number);
     }
-    if (!given) return refuse("this is no answer");
+    if (!given) refuse("this is no answer");
     if (!desk_.open_box()) return answers_.keep(*given);
     if (!desk_.answer_box(*given)) refuse("the message box has no such button");
 }
 
 void interpreter::open(const words& line) {
     form* here = desk_.active();
-    if (!here) return refuse("no screen is active");
-    if (const auto why = desk_.obstacle(*here)) return refuse(*why);
+    if (!here) refuse("no screen is active");
+    if (const auto why = desk_.obstacle(*here)) refuse(*why);
     for (const further_window& one : here->further_windows()) {
         if (one.name != line[1].text) continue;
-        if (!one.can_open()) return refuse("there is nothing to open");
+        if (!one.can_open()) refuse("there is nothing to open");
         return act(one.open);
     }
     refuse("the screen opens no such window");
