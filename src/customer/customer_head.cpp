@@ -217,7 +217,7 @@ void customer_head::search() {
         chosen_ = true;
         found_at(found);
     } else {
-        app_.desk.message("Anagrafica non trovata", ui::attention, ui::icon::warning);
+        app_.desk.warn("Anagrafica non trovata");
         show_customer();
     }
     nome.set_text("");

@@ -15,10 +15,6 @@ namespace vantora {
 
 namespace {
 
-void warn(program& app, std::string text) {
-    app.desk.message(std::move(text), ui::attention, ui::icon::warning);
-}
-
 /// The first block whose head answers yes; 0 if none does.
 int find_order(program& app, const std::function<bool(const rec_orc&)>& wanted) {
     rec_tot counter;
@@ -110,7 +106,7 @@ void take_up_opened(program& app, bozza draft, file_bozza file) {
             break;
         case meanwhile::fulfilled:
             // What has left since can't be told from the draft's lines.
-            return warn(app, "L'"_cp + order +
+            return app.desk.warn("L'"_cp + order +
                                  " è stato cambiato dopo la bozza e in parte è evaso: la bozza non "
                                  "si può rimettere. Lo riapra dal registro."_cp);
     }
@@ -140,12 +136,12 @@ std::string draft_name(const bozza& draft) {
 void resume_draft(program& app, const std::string& name) {
     if (!app.person) return;
     if (app.mirorcs.loaded() || app.mirorcz.loaded()) {
-        return warn(app, "Un altro ordine è aperto: prima va salvato o lasciato."_cp);
+        return app.desk.warn("Un altro ordine è aperto: prima va salvato o lasciato."_cp);
     }
     auto file = file_bozza::take(*app.person, name);
-    if (!file) return warn(app, "La bozza è aperta in un'altra finestra."_cp);
+    if (!file) return app.desk.warn("La bozza è aperta in un'altra finestra."_cp);
     auto draft = draft_in(*app.person, name);
-    if (!draft) return warn(app, "La bozza non si può leggere."_cp);
+    if (!draft) return app.desk.warn("La bozza non si può leggere."_cp);
     if (!draft->nuova) return take_up_opened(app, std::move(*draft), std::move(*file));
     if (seems_saved(app, *draft) &&
         !app.desk.guards().confirm("Dopo la bozza è stato registrato un ordine "_cp +

@@ -99,8 +99,7 @@ bool import_picker::moved_elsewhere(int row) const {
 
 void import_picker::tell_moved(int row) {
     const ordine_visto chosen = visti_[static_cast<std::size_t>(row - 1)];
-    app_.desk.message("Un'altra postazione ha cambiato l'archivio: l'elenco viene riletto.",
-                      ui::attention, ui::icon::warning);
+    app_.desk.warn("Un'altra postazione ha cambiato l'archivio: l'elenco viene riletto.");
     build_list();
     const auto again = std::ranges::find_if(
         visti_, [&](const ordine_visto& one) { return same_order(one, chosen); });

@@ -187,10 +187,9 @@ void line_grid::paste_lines(int row, const ui::pasted_text& pasted,
                             const ui::paste_progress& goes_on) {
     if (at_work() || row < 0 || row >= rows) return;
     if (too_much_to_paste(pasted.text)) {
-        return app_.desk.message(
-            "Sono troppe righe: se ne inseriscono al massimo 20.000, 4 MB in "
-            "tutto. Nessuna è stata inserita."_cp,
-            ui::attention, ui::icon::warning);
+        return app_.desk.warn(
+            "Sono troppe righe: se ne inseriscono al massimo 20.000, 4 MB in tutto. Nessuna è "
+            "stata inserita."_cp);
     }
     const auto lines = read_pasted_lines(pasted.text, pasted.from_file);
     if (lines.empty()) return;
@@ -274,8 +273,7 @@ void line_grid::take_scan(int row, const std::string& code) {
     int line = line_of(row) + 1;
     while (line <= righe_ordine::massimo && !is_empty(righe_[line])) ++line;
     if (line > righe_ordine::massimo) {
-        return app_.desk.message("Per il codice " + code + " non c'è una riga libera."_cp,
-                                 ui::attention, ui::icon::warning);
+        return app_.desk.warn("Per il codice " + code + " non c'è una riga libera."_cp);
     }
     const int free = row_showing(line);
     artic[free].set_focus();

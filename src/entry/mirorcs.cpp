@@ -39,9 +39,8 @@ void mirorcs::open() {
 
 void mirorcs::imported(const std::vector<int>& unread, const std::string& source) {
     if (unread.empty()) return paint();
-    app_.desk.message(source + " non si può leggere per intero ("_cp + named_rows(unread) +
-                          "): non viene importato nulla.",
-                      ui::attention, ui::icon::warning);
+    app_.desk.warn(source + " non si può leggere per intero ("_cp + named_rows(unread) +
+                   "): non viene importato nulla.");
 }
 
 bool mirorcs::may_save() {

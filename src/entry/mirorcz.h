@@ -2,9 +2,8 @@
 
 #include <functional>
 
-#include "entry/edit_order.h"
 #include "entry/order_screen.h"
-#include "orders/stored_lines.h"
+#include "entry/save_order.h"
 
 namespace vantora {
 

@@ -7,7 +7,6 @@
 #include <map>
 #include <random>
 
-#include "entry/edit_order.h"
 #include "entry/save_order.h"
 #include "scripted/small_company.h"
 #include "store/drive.h"
