@@ -36,7 +36,7 @@ register: backup enquiry program orders store text ui
 entry: customer documents program orders store text ui errors
 fulfil: customer entry program orders store store/records text ui errors
 reports: documents program orders store store/records text ui
-app: register enquiry customer entry fulfil reports program store text ui desktop desktop/dialogs desktop/keys desktop/look desktop/printing windows ui/paper ui/pictures ui/script
+app: register enquiry customer entry fulfil reports program store text ui desktop desktop/keys desktop/look desktop/printing windows ui/paper ui/pictures ui/script
 tools/archive: backup store text orders store/records
 tools/demo: text store/records store orders
 tools/mirxpdf: documents store text ui/paper ui/pictures desktop/look

@@ -56,12 +56,14 @@ QString path_shown(const fs::path& path) {
 QString why_none(const fs::path& named, const drive_found& found) {
     std::error_code unknown;
     if (!fs::is_directory(named, unknown)) {
-        return QString(words::no_such_folder).arg(path_shown(named));
+        return QString("La cartella %1 non esiste.").arg(path_shown(named));
     }
-    if (found.drives.size() < 2) return words::no_company;
+    if (found.drives.size() < 2)
+        return "In questa cartella non ci sono ditte della suite. Scelga con Cartella quella che "
+               "contiene mirwin, o cominci con una ditta di prova.";
     QStringList several;
     for (const fs::path& one : found.drives) several << path_shown(one);
-    return QString(words::several_drives).arg(several.join(", "));
+    return QString("Qui sotto ci sono più dischi della suite: %1").arg(several.join(", "));
 }
 
 }  // namespace
@@ -123,12 +125,12 @@ company_choice::company_choice(fs::path drive, const QString& maker)
         open_->setEnabled(false);
     });
     connect(place_, &QLineEdit::editingFinished, this, [this] { look_at_typed(); });
-    auto* place_label = new QLabel(words::drive_of_suite, this);
+    auto* place_label = new QLabel("&Disco della suite", this);
     place_label->setBuddy(place_);
-    auto* other = new QPushButton(words::other_folder, this);
+    auto* other = new QPushButton("&Cartella...", this);
     other->setAutoDefault(false);
     connect(other, &QPushButton::clicked, this, [this] { choose_folder(); });
-    auto* companies_label = new QLabel(words::company, this);
+    auto* companies_label = new QLabel("Di&tta", this);
     companies_label->setBuddy(companies_);
     connect(companies_, &QListWidget::itemActivated, this, [this] { keep_and_accept(); });
     none_->setWordWrap(true);
@@ -138,7 +140,7 @@ company_choice::company_choice(fs::path drive, const QString& maker)
     open_ = choices->addButton(words::open, QDialogButtonBox::AcceptRole);
     choices->addButton(words::cancel, QDialogButtonBox::RejectRole);
     if (QFileInfo(maker).isExecutable()) {
-        auto* trial = choices->addButton(words::trial_company, QDialogButtonBox::ActionRole);
+        auto* trial = choices->addButton("Ditta di &prova", QDialogButtonBox::ActionRole);
         connect(trial, &QPushButton::clicked, this, [this, maker] { make_demonstration(maker); });
     }
     connect(choices, &QDialogButtonBox::accepted, this, [this] { keep_and_accept(); });
@@ -224,7 +226,7 @@ bool company_choice::eventFilter(QObject* watched, QEvent* event) {
 
 void company_choice::choose_folder() {
     const QString chosen = QFileDialog::getExistingDirectory(
-        this, words::folder_of_suite, place_->text(),
+        this, "Disco della suite: la cartella che contiene mirwin", place_->text(),
         QFileDialog::ShowDirsOnly | QFileDialog::DontUseNativeDialog);
     if (!chosen.isEmpty()) show_companies(chosen.toStdString());
 }
@@ -241,7 +243,8 @@ void company_choice::make_demonstration(const QString& maker) {
             !refused && QProcess::execute(maker, {path_shown(trial), demonstration}) == 0;
         unsetCursor();
         if (!made) {
-            none_->setText(QString(words::no_trial_company).arg(path_shown(trial)));
+            none_->setText(
+                QString("La ditta di prova non si può creare in %1.").arg(path_shown(trial)));
             none_->show();
             return;
         }

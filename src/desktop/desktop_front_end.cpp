@@ -9,7 +9,6 @@
 
 #include "desktop/dialogs/file_dialog.h"
 #include "desktop/look/tip.h"
-#include "desktop/look/words.h"
 #include "ui/desk.h"
 
 namespace vantora::ui::desktop {
@@ -339,8 +338,8 @@ void desktop_front_end::note_shown(const std::string& text) {
 }
 
 void desktop_front_end::text_offered(const std::string& called, const std::string& text) {
-    const QString file = ask_where_to_save(words::save_text, to_qt(called),
-                                           {words::text_files, "txt"}, front_window());
+    const QString file = ask_where_to_save("Salva l'elenco", to_qt(called),
+                                           {"File di testo", "txt"}, front_window());
     if (!file.isEmpty()) save_whole(file, to_qt(text).toUtf8(), front_window());
 }
 

@@ -22,7 +22,6 @@
 #include "desktop/keys/manual.h"
 #include "desktop/lists/list_tools.h"
 #include "desktop/look/style.h"
-#include "desktop/look/words.h"
 #include "text/code_page.h"
 #include "ui/desk.h"
 
@@ -76,10 +75,10 @@ void add_further_windows(form_window& window) {
     }
     QHBoxLayout* row = command_bar_of(window);
     if (!row) return;
-    row->addWidget(
-        menu_button(window, "altro", with_free_letter(words::more, window), words::more_windows,
-                    [&window](QMenu& menu) { fill_menu(window, menu); }),
-        0, Qt::AlignTop);
+    row->addWidget(menu_button(window, "altro", with_free_letter("Altro ▾", window),
+                               "Altre finestre che si aprono da qui",
+                               [&window](QMenu& menu) { fill_menu(window, menu); }),
+                   0, Qt::AlignTop);
 }
 
 }  // namespace

@@ -8,7 +8,6 @@
 #include <algorithm>
 
 #include "desktop/look/box_look.h"
-#include "desktop/look/words.h"
 #include "ui/paper/toolkit_values.h"
 
 namespace vantora::ui::desktop {
@@ -70,7 +69,8 @@ class read_meanwhile final : public QObject {
             if (!open_) return false;
             open_ = false;
             const int width = box_.width();
-            box_.setInformativeText(QString(words::read_meanwhile).arg(read_.trimmed()));
+            box_.setInformativeText(
+                QString("Letto intanto, e non inserito: %1").arg(read_.trimmed()));
             box_.setFixedWidth(std::max(box_.width(), width));
             read_ += ' ';
             return true;

@@ -3,7 +3,6 @@
 #include <QAccessible>
 #include <QLabel>
 
-#include "desktop/look/words.h"
 #include "ui/paper/toolkit_values.h"
 
 namespace vantora::ui::desktop {
@@ -14,7 +13,7 @@ namespace {
 constexpr qint64 unnoticed = 300;
 
 QLabel* make_line(QWidget& window, const std::string& station) {
-    const QString awaited = words::other_station;
+    const QString awaited = "Attesa di un'altra postazione";
     auto* line =
         new QLabel(station.empty() ? awaited + "..." : awaited + ": " + to_qt(station), &window);
     line->setTextFormat(Qt::PlainText);

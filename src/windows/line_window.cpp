@@ -111,7 +111,7 @@ class line_table final : public QWidget {
 void add_paging(form_window& window, line_grid& screen, line_rows& lines) {
     for (const int step : {-rows, rows}) {
         QShortcut* keys = add_key(window, step < 0 ? "PgUp" : "PgDown",
-                                  step < 0 ? words::lines_up : words::lines_down,
+                                  step < 0 ? "Dodici righe su" : "Dodici righe giù",
                                   [&lines, step] { lines.scroll(step); });
         keys->setAutoRepeat(true);
     }
@@ -123,7 +123,7 @@ void add_line_keys(form_window& window, line_grid& screen, line_rows& lines) {
     const auto cell = [&screen, &lines]() -> text_box& {
         return screen.artic[std::max(lines.current(), 0)];
     };
-    new key_help(window, "Ctrl+V", words::paste_key);
+    new key_help(window, "Ctrl+V", "Nel codice: incolla righe copiate da un foglio di calcolo");
     add_key(window, "Ctrl+Shift+O", words::paste_file, [&window, cell] {
         const QString chosen =
             ask_what_to_open(words::paste_file, {words::csv_files, "csv"}, &window);
@@ -133,10 +133,10 @@ void add_line_keys(form_window& window, line_grid& screen, line_rows& lines) {
         }
     });
     // In the cells the keys reach the fields first, which do the same.
-    add_key(window, "Ctrl+Z", words::change_back,
+    add_key(window, "Ctrl+Z", "Annulla l'ultima modifica delle righe",
             [&window, &screen, cell] { window.act_on(cell(), [&screen] { screen.take_back(); }); });
     QShortcut* forth = add_key(
-        window, "Ctrl+Shift+Z", words::change_forth,
+        window, "Ctrl+Shift+Z", "Rifà la modifica annullata (anche Ctrl+Y)",
         [&window, &screen, cell] { window.act_on(cell(), [&screen] { screen.bring_back(); }); });
     forth->setKeys({QKeySequence("Ctrl+Shift+Z"), QKeySequence("Ctrl+Y")});
 }
@@ -171,7 +171,7 @@ QGroupBox* line_frame(form_window& window, line_grid& screen) {
         box->setMaximumWidth(table->maximumWidth() + 2 * frame_margin);
     });
 
-    add_key(window, "F4", words::vat_of_line, [&window, &screen, lines] {
+    add_key(window, "F4", "Sceglie il codice iva della riga", [&window, &screen, lines] {
         if (lines->current() < 0) return;
         text_box& cell = screen.civ[lines->current()];
         window.act_on(cell, [&cell] { cell.set_focus(); });
@@ -184,7 +184,7 @@ QGroupBox* line_frame(form_window& window, line_grid& screen) {
         }
     }
 
-    add_key(window, "F2", words::cell_before, [lines] { lines->go_back(); });
+    add_key(window, "F2", "Torna alla cella di prima", [lines] { lines->go_back(); });
     box->setToolTip("F2: torna alla cella di prima");
 
     auto* hint =
@@ -212,54 +212,48 @@ class article_entries final : public QStyledItemDelegate {
         : QStyledItemDelegate(parent), articles_(articles) {}
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
-               const QModelIndex& index) const override;
+               const QModelIndex& index) const override {
+        QStyleOptionViewItem row = option;
+        initStyleOption(&row, index);
+        row.text.clear();
+        const QStyle* style = row.widget ? row.widget->style() : QApplication::style();
+        style->drawControl(QStyle::CE_ItemViewItem, &row, painter, row.widget);
+
+        const bool chosen = (row.state & QStyle::State_Selected) != 0;
+        const bool enabled = (row.state & QStyle::State_Enabled) != 0;
+        painter->setPen(row.palette.color(enabled ? QPalette::Active : QPalette::Disabled,
+                                          chosen ? QPalette::HighlightedText : QPalette::Text));
+        painter->setFont(row.font);
+        const QFontMetrics& metrics = row.fontMetrics;
+        const QRect room = row.rect.adjusted(entry_margin, 0, -entry_margin, 0);
+        const QString code = to_qt(entry_code(articles_.item(index.row())));
+        const int column =
+            std::max(metrics.horizontalAdvance(wide_code), metrics.horizontalAdvance(code)) +
+            entry_margin;
+        painter->drawText(room, Qt::AlignVCenter | Qt::TextSingleLine, code);
+        const QRect rest = room.adjusted(column, 0, 0, 0);
+        const QString description = to_qt(entry_description(articles_.item(index.row())));
+        // Sizes and makers, which tell articles of a kind apart, stand at the end.
+        painter->drawText(rest, Qt::AlignVCenter | Qt::TextSingleLine,
+                          metrics.elidedText(description, Qt::ElideMiddle, rest.width()));
+    }
+
     [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option,
-                                 const QModelIndex& index) const override;
+                                 const QModelIndex&) const override {
+        return {100, option.fontMetrics.height() + 4};
+    }
+
     /// The description may be wider than the list: its tooltip has it all.
-    bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
-                   const QModelIndex& index) override;
+    bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem&,
+                   const QModelIndex& index) override {
+        if (event->type() != QEvent::ToolTip || !index.isValid()) return false;
+        show_tip(event->globalPos(), to_qt(entry_description(articles_.item(index.row()))), view);
+        return true;
+    }
 
  private:
     const list_control& articles_;
 };
-
-void article_entries::paint(QPainter* painter, const QStyleOptionViewItem& option,
-                            const QModelIndex& index) const {
-    QStyleOptionViewItem row = option;
-    initStyleOption(&row, index);
-    row.text.clear();
-    const QStyle* style = row.widget ? row.widget->style() : QApplication::style();
-    style->drawControl(QStyle::CE_ItemViewItem, &row, painter, row.widget);
-
-    const bool chosen = (row.state & QStyle::State_Selected) != 0;
-    const bool enabled = (row.state & QStyle::State_Enabled) != 0;
-    painter->setPen(row.palette.color(enabled ? QPalette::Active : QPalette::Disabled,
-                                      chosen ? QPalette::HighlightedText : QPalette::Text));
-    painter->setFont(row.font);
-    const QFontMetrics& metrics = row.fontMetrics;
-    const QRect room = row.rect.adjusted(entry_margin, 0, -entry_margin, 0);
-    const QString code = to_qt(entry_code(articles_.item(index.row())));
-    const int column =
-        std::max(metrics.horizontalAdvance(wide_code), metrics.horizontalAdvance(code)) +
-        entry_margin;
-    painter->drawText(room, Qt::AlignVCenter | Qt::TextSingleLine, code);
-    const QRect rest = room.adjusted(column, 0, 0, 0);
-    const QString description = to_qt(entry_description(articles_.item(index.row())));
-    // Sizes and makers, which tell articles of a kind apart, stand at the end.
-    painter->drawText(rest, Qt::AlignVCenter | Qt::TextSingleLine,
-                      metrics.elidedText(description, Qt::ElideMiddle, rest.width()));
-}
-
-QSize article_entries::sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const {
-    return {100, option.fontMetrics.height() + 4};
-}
-
-bool article_entries::helpEvent(QHelpEvent* event, QAbstractItemView* view,
-                                const QStyleOptionViewItem&, const QModelIndex& index) {
-    if (event->type() != QEvent::ToolTip || !index.isValid()) return false;
-    show_tip(event->globalPos(), to_qt(entry_description(articles_.item(index.row()))), view);
-    return true;
-}
 
 QGroupBox* list_frame(form_window& window, line_grid& screen) {
     auto* box = new QGroupBox("Lista articoli memorizzati in magazzino", &window);

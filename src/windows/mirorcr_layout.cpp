@@ -6,7 +6,6 @@
 #include <QStyledItemDelegate>
 
 #include "desktop/look/contrast.h"
-#include "desktop/look/words.h"
 #include "windows/layout_pieces.h"
 #include "windows/layouts.h"
 
@@ -77,9 +76,9 @@ struct grid_key {
 };
 
 /// What a click into a column does to the current row, by key.
-constexpr grid_key grid_keys[] = {{mirorcr::ordine, "F5", words::whole_order_leaves},
-                                  {mirorcr::da_evadere, "F6", words::whole_row_leaves},
-                                  {mirorcr::evaso, "F7", words::part_of_row_leaves}};
+constexpr grid_key grid_keys[] = {{mirorcr::ordine, "F5", "Parte tutto l'ordine"},
+                                  {mirorcr::da_evadere, "F6", "Parte tutta la riga"},
+                                  {mirorcr::evaso, "F7", "Parte una quantità della riga"}};
 
 void add_grid_keys(form_window& window, mirorcr& screen) {
     for (const grid_key& one : grid_keys) {

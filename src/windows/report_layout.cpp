@@ -2,7 +2,6 @@
 #include <algorithm>
 #include <vector>
 
-#include "desktop/look/words.h"
 #include "reports/mirstoa.h"
 #include "reports/mirston.h"
 #include "windows/layout_pieces.h"
@@ -138,8 +137,7 @@ QLabel* row_count(form_window& window, report_screen& screen) {
     set_look(text, "role", "faint");
     grid_view* list = window.widget(screen.elenco);
     QObject::connect(list->model(), &QAbstractItemModel::modelReset, text, [text, &screen] {
-        text->setText(screen.listed() > 0 ? QString(words::row_count).arg(screen.listed())
-                                          : QString());
+        text->setText(screen.listed() > 0 ? QString("Righe: %1").arg(screen.listed()) : QString());
     });
     return text;
 }
@@ -149,7 +147,7 @@ void lay_out_report(form_window& window, report_screen& screen, const sheet_rang
     body->addLayout(filter_row(window, screen, sheets));
     grid_view* list = window.widget(screen.elenco);
     QToolButton* pdf = window.widget(screen.bottone[report_screen::pdf]);
-    auto* as_pdf = new QAction(words::list_as_pdf, list);
+    auto* as_pdf = new QAction("Genera il PDF della lista", list);
     QObject::connect(as_pdf, &QAction::triggered, pdf, &QToolButton::click);
     list->addAction(as_pdf);
     body->addWidget(list, 1);

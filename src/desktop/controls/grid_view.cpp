@@ -11,7 +11,6 @@
 
 #include "desktop/look/style.h"
 #include "desktop/look/tip.h"
-#include "desktop/look/words.h"
 #include "text/code_page.h"
 #include "ui/paper/toolkit_values.h"
 
@@ -263,7 +262,7 @@ void grid_view::keyboardSearch(const QString& typed) {
     since_typed_.start();
     typed_ = goes_on ? typed_ + typed : typed;
     const QPoint below(frameWidth(), horizontalHeader()->height());
-    show_tip(mapToGlobal(below), QString(words::typed).arg(typed_), this, typing_pause);
+    show_tip(mapToGlobal(below), QString("Cerca: %1").arg(typed_), this, typing_pause);
     const std::string wanted = upper(from_qt(typed_));
     const int column = sorted_ >= 0 ? sorted_ : search_column_;
     const int rows = model_.rows() - 1;

@@ -34,19 +34,19 @@ std::optional<std::string> lines_on_clipboard() {
 std::optional<std::string> lines_of_file(const QString& file, QWidget* above) {
     QFile source(file);
     if (!source.open(QIODevice::ReadOnly) || source.size() > file_size_max) {
-        const QString why = source.isOpen() ? words::too_large : source.errorString();
-        tell(QString(words::cannot_read).arg(file, why), above);
+        const QString why = source.isOpen() ? "è troppo grande" : source.errorString();
+        tell(QString("Il file %1 non si può leggere: %2").arg(file, why), above);
         return {};
     }
     std::string text = decoded(source.readAll());
     if (text.find_first_not_of(" \t\r\n") != std::string::npos) return text;
-    tell(QString(words::empty_file).arg(file), above);
+    tell(QString("Il file %1 è vuoto.").arg(file), above);
     return {};
 }
 
 void paste_lines(text_box& field, const pasted_text& pasted, QWidget* above) {
-    QProgressDialog progress(words::pasting, words::break_off, 0, 1, above);
-    progress.setWindowTitle(words::paste_lines);
+    QProgressDialog progress("Inserimento delle righe...", words::break_off, 0, 1, above);
+    progress.setWindowTitle("Incolla righe");
     progress.setWindowModality(Qt::ApplicationModal);
     progress.setMinimumDuration(400);
     field.on_paste_lines(pasted, [&progress](int done, int of) {

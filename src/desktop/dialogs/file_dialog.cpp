@@ -52,9 +52,9 @@ QString run_dialog(QFileDialog& dialog, const file_kind& kind, const char* accep
     dialog.setViewMode(QFileDialog::List);
     dialog.setNameFilter(QString("%1 (*.%2)").arg(kind.name, kind.ending));
     dialog.setDefaultSuffix(kind.ending);
-    dialog.setLabelText(QFileDialog::LookIn, words::look_in);
-    dialog.setLabelText(QFileDialog::FileName, words::file_name);
-    dialog.setLabelText(QFileDialog::FileType, words::file_type);
+    dialog.setLabelText(QFileDialog::LookIn, "Cerca in:");
+    dialog.setLabelText(QFileDialog::FileName, "Nome del file:");
+    dialog.setLabelText(QFileDialog::FileType, "Tipo di file:");
     dialog.setLabelText(QFileDialog::Accept, accept);
     dialog.setLabelText(QFileDialog::Reject, words::cancel);
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
@@ -77,7 +77,7 @@ QString ask_where_to_save(const QString& title, const QString& called, const fil
     const QString proposed = proposed_file(called, kind.ending);
     dialog.setDirectory(documents());
     dialog.selectFile(proposed);
-    return run_dialog(dialog, kind, words::save);
+    return run_dialog(dialog, kind, "&Salva");
 }
 
 QString ask_what_to_open(const QString& title, const file_kind& kind, QWidget* above) {
@@ -152,24 +152,28 @@ namespace {
 
 void show_folder_of(const QString& file, QWidget* above) {
     const QString folder = QFileInfo(file).absolutePath();
-    if (!show_file(folder)) tell(QString(words::no_folder_viewer).arg(folder), above);
+    if (!show_file(folder))
+        tell(QString("Su questo computer nessun programma mostra la cartella %1").arg(folder),
+             above);
 }
 
 }  // namespace
 
 void show_file_or_folder(const QString& file, QWidget* above) {
     if (show_file(file)) return;
-    tell(QString(words::no_viewer).arg(file), above);
+    tell(QString("Su questo computer nessun programma apre il file %1. Si apre la sua cartella.")
+             .arg(file),
+         above);
     show_folder_of(file, above);
 }
 
 void tell_saved(const QString& file, QWidget* above) {
     const plain_pointer shown_meanwhile;
     QMessageBox box(above);
-    box.setWindowTitle(words::saved);
+    box.setWindowTitle("Salvato");
     box.setTextFormat(Qt::PlainText);
-    box.setText(QString(words::saved_in).arg(file));
-    const QPushButton* folder = box.addButton(words::open_folder, QMessageBox::ActionRole);
+    box.setText(QString("Salvato in %1").arg(file));
+    const QPushButton* folder = box.addButton("Apri la &cartella", QMessageBox::ActionRole);
     QPushButton* enough = box.addButton("OK", QMessageBox::AcceptRole);
     box.setDefaultButton(enough);
     box.setEscapeButton(enough);

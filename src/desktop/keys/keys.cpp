@@ -1,6 +1,7 @@
 #include "desktop/keys/keys.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QBoxLayout>
 #include <QDialog>
 #include <QDialogButtonBox>
@@ -8,6 +9,7 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QMenu>
+#include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
 #include <QScreen>
@@ -16,7 +18,6 @@
 #include <QToolButton>
 #include <algorithm>
 
-#include "desktop/dialogs/about.h"
 #include "desktop/keys/manual.h"
 #include "desktop/look/words.h"
 
@@ -121,7 +122,7 @@ QWidget* key_table(const std::vector<const key_help*>& keys, QWidget* parent) {
 void show_keys(QWidget& window) {
     QDialog dialog(&window);
     dialog.setObjectName("tasti");
-    dialog.setWindowTitle(QString(words::keys_of_window).arg(window.windowTitle()));
+    dialog.setWindowTitle(QString("Tasti: %1").arg(window.windowTitle()));
     auto* area = new QScrollArea(&dialog);
     area->setFrameShape(QFrame::NoFrame);
     area->setWidgetResizable(true);
@@ -165,6 +166,31 @@ QToolButton* menu_button(QWidget& window, const char* name, const QString& capti
     return button;
 }
 
+// The box of the program -------------------------------------------------------------------------
+
+namespace {
+
+constexpr const char* facts_of_program = "facts";
+
+void show_about(QWidget& window) {
+    QStringList lines{QString("Vantora Ordini %1").arg(QApplication::applicationVersion())};
+    const auto facts = qApp->property(facts_of_program).value<std::function<QStringList()>>();
+    if (facts) lines << QString() << facts();
+    QMessageBox box(QMessageBox::Information, words::about, lines.join("\n"), QMessageBox::Ok,
+                    &window);
+    box.setTextFormat(Qt::PlainText);
+    box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    box.exec();
+}
+
+}  // namespace
+
+void set_facts(const std::function<QStringList()>& facts) {
+    qApp->setProperty(facts_of_program, QVariant::fromValue(facts));
+}
+
+// Help -------------------------------------------------------------------------------------------
+
 QToolButton* help_button(QWidget& window) {
     QToolButton* button = menu_button(window, "aiuto", "?", words::help, [&window](QMenu& menu) {
         menu.addAction(QString(words::show_keys) + "\t" +
@@ -181,7 +207,7 @@ QToolButton* help_button(QWidget& window) {
 
 void add_help(QWidget& window) {
     add_key(window, "Ctrl+?", words::show_keys, [&window] { show_keys(window); });
-    new key_help(window, "F1", words::manual_key);
+    new key_help(window, "F1", "Apre il manuale; nella descrizione di una riga trova l'articolo");
     if (window.findChild<QToolButton*>("aiuto")) return;
     if (QHBoxLayout* row = command_bar_of(window)) {
         row->addWidget(help_button(window), 0, Qt::AlignTop);

@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QString>
+#include <QStringList>
 #include <functional>
 #include <vector>
 
@@ -57,7 +58,11 @@ QHBoxLayout* command_bar_of(const QWidget& window);
 QToolButton* menu_button(QWidget& window, const char* name, const QString& caption,
                          const char* tooltip, const std::function<void(QMenu&)>& fill);
 
-/// A small button whose menu leads to keys and manual.
+/// What the box of the program tells beside its name and version, a line each; asked for whenever
+/// it opens.
+void set_facts(const std::function<QStringList()>& facts);
+
+/// A small button whose menu leads to keys, manual and the box of the program.
 QToolButton* help_button(QWidget& window);
 
 /// Keys and manual of a window: by their keys, and by the small button in its bar of commands where

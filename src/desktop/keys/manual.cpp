@@ -8,7 +8,6 @@
 #include <QWidget>
 
 #include "desktop/dialogs/file_dialog.h"
-#include "desktop/look/words.h"
 
 namespace vantora::ui::desktop {
 
@@ -43,8 +42,9 @@ bool asks_for_manual(const QKeyEvent& key, const QWidget* focused) {
 void open_manual(QWidget* above) {
     const QString file = manual_file(QCoreApplication::applicationDirPath());
     if (!file.isEmpty() && QDesktopServices::openUrl(QUrl::fromLocalFile(file))) return;
-    tell(file.isEmpty() ? words::no_manual : QString(words::manual_stays_shut).arg(file), above,
-         icon::information, words::manual);
+    tell(file.isEmpty() ? "Il manuale non è installato."
+                        : QString("Il manuale non si può aprire: %1").arg(file),
+         above, icon::information, "Manuale");
 }
 
 }  // namespace vantora::ui::desktop

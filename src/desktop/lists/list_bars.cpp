@@ -2,7 +2,6 @@
 
 #include <QProgressBar>
 
-#include "desktop/look/words.h"
 #include "ui/form.h"
 #include "ui/paper/toolkit_values.h"
 
@@ -22,7 +21,7 @@ QProgressBar* make_bar(const control& list, QWidget* place) {
     bar->setObjectName("list_bar");
     bar->setRange(0, steps);
     bar->setTextVisible(false);
-    bar->setAccessibleName(words::list_coming);
+    bar->setAccessibleName("Lettura dell'archivio");
     if (!place) {
         // The screen comes up with its list.
         bar->setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);

@@ -39,7 +39,7 @@ list_find::list_find(const shown_list& list, list_overlay& overlay, QWidget* par
     setObjectName(list.view().objectName() + "_trova");
     text_->setObjectName(list.view().objectName() + "_testo_da_trovare");
     text_->setAccessibleName(words::find_in_list);
-    text_->setToolTip(words::find_take);
+    text_->setToolTip("Ctrl+Invio: prende la riga trovata");
     text_->setMaximumWidth(320);
     text_->installEventFilter(this);
     connect(text_, &QLineEdit::textChanged, this, [this] { typed(); });
@@ -48,13 +48,13 @@ list_find::list_find(const shown_list& list, list_overlay& overlay, QWidget* par
     auto* line = new QHBoxLayout(this);
     line->setContentsMargins(0, 3, 0, 0);
     line->setSpacing(4);
-    auto* caption = new QLabel(words::find_caption, this);
+    auto* caption = new QLabel("Trova", this);
     caption->setBuddy(text_);
     line->addWidget(caption);
     line->addWidget(text_, 3);
-    auto* previous = small_button(this, "su", words::find_previous);
-    auto* next = small_button(this, "giu", words::find_next);
-    auto* close = small_button(this, "", words::find_close);
+    auto* previous = small_button(this, "su", "Riga precedente (Maiusc+Invio)");
+    auto* next = small_button(this, "giu", "Riga successiva (Invio)");
+    auto* close = small_button(this, "", "Chiude la ricerca (Esc)");
     close->setText("×");
     connect(previous, &QToolButton::clicked, this, [this] { walk(-1); });
     connect(next, &QToolButton::clicked, this, [this] { walk(1); });
@@ -151,10 +151,10 @@ void list_find::stand_on(std::size_t match) {
 
 void list_find::show_count() {
     QString text;
-    if (!wanted_.empty() && found_.empty()) text = words::find_none;
+    if (!wanted_.empty() && found_.empty()) text = "nessuna riga";
     if (!found_.empty()) {
         const auto match = std::ranges::lower_bound(found_, at_) - found_.begin();
-        text = QString(words::find_one_of).arg(match + 1).arg(found_.size());
+        text = QString("%1 di %2").arg(match + 1).arg(found_.size());
     }
     count_->setText(text);
     overlay_.show_found(wanted_, at_);

@@ -53,7 +53,7 @@ class list_tools final : public QObject {
             if (list_.view().isVisible()) save_all();
         });
         new key_help(window, "Ctrl+C", words::copy_rows);
-        new key_help(window, "Shift+Up Shift+Down Ctrl+A", words::mark_rows);
+        new key_help(window, "Shift+Up Shift+Down Ctrl+A", "Segnano più righe, tutte le righe");
     }
 
     bool eventFilter(QObject* watched, QEvent* event) override {
@@ -83,7 +83,7 @@ class list_tools final : public QObject {
             return one;
         };
         add(words::copy_rows, "Ctrl+C", [this] { copy(); })->setEnabled(!marks_->rows().empty());
-        add(words::mark_all, "Ctrl+A", [this] { marks_->mark_all(); });
+        add("Segna tutte le righe", "Ctrl+A", [this] { marks_->mark_all(); });
         add(words::find_in_list, "Ctrl+F", [this] { find_->open(); });
         menu.addSeparator();
         add(words::save_list, "Ctrl+Shift+E", [this] { save_all(); });

@@ -51,22 +51,22 @@ QFrame* preview_bar(QPrintPreviewWidget& view, QDialog& dialog, const std::funct
     add(words::print, "Ctrl+P", [&dialog] { dialog.accept(); });
     add(words::save_pdf, "Ctrl+S", save);
     row->addSpacing(gap);
-    add(words::zoom_in, "Ctrl++", [&view] { view.zoomIn(); });
-    add(words::zoom_out, "Ctrl+-", [&view] { view.zoomOut(); });
-    add(words::fit_width, "Ctrl+1", [&view] { view.fitToWidth(); });
-    add(words::fit_page, "Ctrl+0", [&view] { view.fitInView(); });
+    add("Ingrandisce", "Ctrl++", [&view] { view.zoomIn(); });
+    add("Riduce", "Ctrl+-", [&view] { view.zoomOut(); });
+    add("Larghezza", "Ctrl+1", [&view] { view.fitToWidth(); });
+    add("Pagina intera", "Ctrl+0", [&view] { view.fitInView(); });
     row->addSpacing(gap);
-    QToolButton* before = add(words::page_before, "PgUp", {});
+    QToolButton* before = add("Precedente", "PgUp", {});
     auto* page = new QLabel(bar);
     page->setMinimumWidth(page->fontMetrics().horizontalAdvance("Pagina 000 di 000"));
     page->setAlignment(Qt::AlignCenter);
     row->addWidget(page);
-    QToolButton* after = add(words::page_after, "PgDown", {});
+    QToolButton* after = add("Seguente", "PgDown", {});
     row->addStretch(1);
-    add(words::close_preview, "Esc", [&dialog] { dialog.reject(); });
+    add("Chiudi", "Esc", [&dialog] { dialog.reject(); });
 
     const auto show_page = [&view, before, page, after] {
-        page->setText(QString(words::page_of).arg(view.currentPage()).arg(view.pageCount()));
+        page->setText(QString("Pagina %1 di %2").arg(view.currentPage()).arg(view.pageCount()));
         before->setEnabled(view.currentPage() > 1);
         after->setEnabled(view.currentPage() < view.pageCount());
     };
@@ -117,10 +117,10 @@ bool wants_printed(const recorded_pages& pages, QPrinter& printer, const QString
     const plain_pointer shown_meanwhile;
     QDialog dialog(above);
     dialog.setObjectName("anteprima");
-    dialog.setWindowTitle(QString(words::preview_of).arg(called).replace("[*]", "[*][*]"));
+    dialog.setWindowTitle(QString("Anteprima: %1").arg(called).replace("[*]", "[*][*]"));
     dialog.setWindowFlag(Qt::WindowMaximizeButtonHint);
     auto* view = new QPrintPreviewWidget(&printer, &dialog);
-    view->setAccessibleName(words::preview);
+    view->setAccessibleName("Anteprima di stampa");
     QObject::connect(view, &QPrintPreviewWidget::paintRequested, &dialog, [&pages](QPrinter* on) {
         QPainter painter(on);
         draw_pages(pages, painter, *on, {});

@@ -27,8 +27,8 @@ namespace {
 constexpr const char* preview_setting = "printing/preview";
 
 QString ask_by_dialog(const QString& called) {
-    return ask_where_to_save(words::no_printer, called, {words::pdf_files, "pdf"},
-                             QApplication::activeWindow());
+    return ask_where_to_save("Nessuna stampante: salva il documento in PDF", called,
+                             {words::pdf_files, "pdf"}, QApplication::activeWindow());
 }
 
 /// Where every job asks for its file, the settings ask for none. The dialog shows these parts anew
@@ -60,7 +60,7 @@ struct system_printer::job {
 class system_printer::progress {
  public:
     explicit progress(const QString& called)
-        : dialog_(QString(words::printing).arg(called), words::break_off, 0, steps,
+        : dialog_(QString("Stampa di %1").arg(called), words::break_off, 0, steps,
                   QApplication::activeWindow()) {
         dialog_.setObjectName("avanzamento");
         dialog_.setWindowTitle(words::print);
@@ -242,7 +242,7 @@ void system_printer::print_into_file(const recorded_pages& pages) {
 void system_printer::print_on_paper(const recorded_pages& pages) {
     auto painter = std::make_unique<QPainter>();
     if (!painter->begin(printer_.get())) {
-        return tell_(words::cannot_print + printer_->printerName());
+        return tell_("Il documento non si può stampare su " + printer_->printerName());
     }
     if (draw_pages(pages, *painter, *printer_, shown_drawing())) return;
     // The toolkit hands to the printing system what it holds, however its painter ends: neither
@@ -274,9 +274,9 @@ void system_printer::set_job_name(std::string_view name) {
 
 bool system_printer::choose_settings() {
     QPrintDialog dialog(printer_.get(), QApplication::activeWindow());
-    dialog.setWindowTitle(words::printer_settings);
+    dialog.setWindowTitle("Imposta stampante");
     dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize);
-    auto* preview = new QCheckBox(words::preview_first, &dialog);
+    auto* preview = new QCheckBox("&Mostra le pagine prima di stampare", &dialog);
     preview->setChecked(preview_);
     if (auto* column = qobject_cast<QBoxLayout*>(dialog.layout())) {
         column->insertWidget(column->count() - 1, preview);
