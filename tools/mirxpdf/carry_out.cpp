@@ -5,7 +5,6 @@
 #include "documents/print_file_reader.h"
 #include "mirxpdf/document_pdf.h"
 #include "mirxpdf/mail.h"
-#include "mirxpdf/pdf_file.h"
 #include "store/suite_paths.h"
 #include "text/code_page.h"
 #include "ui/paper/toolkit_values.h"

@@ -27,23 +27,14 @@ using session = std::unique_ptr<CURL, release<curl_easy_cleanup>>;
 using address_of_server = std::unique_ptr<CURLU, release<curl_url_cleanup>>;
 using message = std::unique_ptr<curl_mime, release<curl_mime_free>>;
 
-class text_list {
- public:
-    text_list() = default;
-    text_list(const text_list&) = delete;
-    text_list& operator=(const text_list&) = delete;
-    ~text_list() { curl_slist_free_all(first_); }
+using text_list = std::unique_ptr<curl_slist, release<curl_slist_free_all>>;
 
-    void add(const std::string& text) {
-        if (curl_slist* longer = curl_slist_append(first_, text.c_str())) first_ = longer;
+void add(text_list& to, const std::string& text) {
+    if (curl_slist* longer = curl_slist_append(to.get(), text.c_str())) {
+        to.release();
+        to.reset(longer);
     }
-    [[nodiscard]] curl_slist* get() const { return first_; }
-    /// For an owner that frees it itself.
-    curl_slist* give_away() { return std::exchange(first_, nullptr); }
-
- private:
-    curl_slist* first_ = nullptr;
-};
+}
 
 constexpr long patience_to_connect = 30;  // seconds
 constexpr long patience_for_bytes = 30;   // seconds without any byte
@@ -110,12 +101,12 @@ void add_headers(text_list& to, const mail_settings& settings, const mailbox& se
                  const std::vector<mailbox>& addressees, const std::string& document) {
     std::string everyone;
     for (const mailbox& one : addressees) everyone += (everyone.empty() ? "" : ", ") + shown(one);
-    to.add("Date: " + QDateTime::currentDateTime().toString(Qt::RFC2822Date).toStdString());
-    to.add("From: " + shown(sender));
-    to.add("To: " + everyone);
-    to.add("Subject: " + header_text(named(settings.oggetto, document)));
-    to.add("Message-ID: <" + QUuid::createUuid().toString(QUuid::WithoutBraces).toStdString() +
-           sender.address.substr(sender.address.find('@')) + ">");
+    add(to, "Date: " + QDateTime::currentDateTime().toString(Qt::RFC2822Date).toStdString());
+    add(to, "From: " + shown(sender));
+    add(to, "To: " + everyone);
+    add(to, "Subject: " + header_text(named(settings.oggetto, document)));
+    add(to, "Message-ID: <" + QUuid::createUuid().toString(QUuid::WithoutBraces).toStdString() +
+                sender.address.substr(sender.address.find('@')) + ">");
 }
 
 std::string with_mail_line_ends(const std::string& text) {
@@ -140,8 +131,8 @@ message make_message(CURL* of, const mail_settings& settings, const std::string&
     curl_mime_type(part, "application/pdf");
     curl_mime_encoder(part, "base64");
     text_list headers;
-    headers.add(attachment_line(file_name));
-    curl_mime_headers(part, headers.give_away(), 1);
+    add(headers, attachment_line(file_name));
+    curl_mime_headers(part, headers.release(), 1);
     return made;
 }
 
@@ -218,7 +209,7 @@ std::optional<std::string> send_pdf(const mail_settings& settings,
     curl_easy_setopt(curl, CURLOPT_ERRORBUFFER, reason.data());
 
     add_headers(headers, settings, *sender, addressees, stem_of(file_name));
-    for (const mailbox& one : addressees) receivers.add(one.address);
+    for (const mailbox& one : addressees) add(receivers, one.address);
     mail = make_message(curl, settings, file_name, pdf);
     curl_easy_setopt(curl, CURLOPT_MAIL_FROM, sender->address.c_str());
     curl_easy_setopt(curl, CURLOPT_MAIL_RCPT, receivers.get());

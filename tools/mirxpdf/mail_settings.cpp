@@ -19,20 +19,15 @@ std::string_view stripped(std::string_view text) {
     return text.substr(begin, text.find_last_not_of(blanks) + 1 - begin);
 }
 
-const std::map<std::string_view, sicurezza> securities = {
-    {"tls", sicurezza::tls}, {"starttls", sicurezza::starttls}, {"nessuna", sicurezza::nessuna}};
+struct security {
+    std::string_view name;
+    sicurezza is;
+    int usual_port;
+};
 
-int usual_port(sicurezza security) {
-    switch (security) {
-        case sicurezza::tls:
-            return 465;
-        case sicurezza::starttls:
-            return 587;
-        case sicurezza::nessuna:
-            return 25;
-    }
-    return 0;
-}
+constexpr security securities[] = {{"tls", sicurezza::tls, 465},
+                                   {"starttls", sicurezza::starttls, 587},
+                                   {"nessuna", sicurezza::nessuna, 25}};
 
 /// Takes one setting over. The answer is what is wrong with the value, empty if nothing is.
 using taker = std::function<std::string(mail_settings&, std::string_view)>;
@@ -52,9 +47,9 @@ std::string take_port(mail_settings& into, std::string_view value) {
 }
 
 std::string take_security(mail_settings& into, std::string_view value) {
-    const auto found = securities.find(value);
-    if (found == securities.end()) return "la sicurezza è tls, starttls oppure nessuna";
-    into.sicurezza = found->second;
+    const auto* found = std::ranges::find(securities, value, &security::name);
+    if (found == std::end(securities)) return "la sicurezza è tls, starttls oppure nessuna";
+    into.sicurezza = found->is;
     return {};
 }
 
@@ -102,7 +97,9 @@ std::variant<mail_settings, settings_error> read_mail_settings(std::string_view 
         if (!wrong.empty()) return settings_error{"riga " + std::to_string(number) + ": " + wrong};
         content.remove_prefix(std::min(end + 1, content.size()));
     }
-    if (read.porta == 0) read.porta = usual_port(read.sicurezza);
+    if (read.porta == 0) {
+        read.porta = std::ranges::find(securities, read.sicurezza, &security::is)->usual_port;
+    }
     if (read.testo.empty()) read.testo = "In allegato il documento {documento}.\n";
     if (read.mittente.empty() && read.utente.find('@') != std::string::npos) {
         read.mittente = read.utente;

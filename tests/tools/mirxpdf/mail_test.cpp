@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "mail_server.h"
+#include "mirxpdf/mail_settings.h"
 #include "run_of_program.h"
 
 namespace vantora::test {
@@ -155,6 +156,26 @@ TEST_F(mirxpdf_mail, AServerThatRefusesOrEndsIsReported) {
     expect_not_sent("rossi@verdi.it", "invio tramite 127.0.0.1 non riuscito");
     ending.close();
     expect_not_sent("rossi@verdi.it", "non risponde");
+}
+
+mirxpdf::mail_settings settings_of(std::string_view content) {
+    return std::get<mirxpdf::mail_settings>(mirxpdf::read_mail_settings(content));
+}
+
+TEST(mail_settings, KeysAreReadWithTheirDefaults) {
+    const auto few = settings_of("server=smtp.ditta.it\nutente = ordini@ditta.it\n");
+    EXPECT_EQ(few.porta, 465);
+    EXPECT_EQ(few.sicurezza, mirxpdf::sicurezza::tls);
+    EXPECT_EQ(few.mittente, "ordini@ditta.it");
+    EXPECT_EQ(settings_of("sicurezza = starttls").porta, 587);
+    EXPECT_EQ(settings_of("sicurezza = nessuna").porta, 25);
+
+    const auto all = settings_of(
+        "\xEF\xBB\xBF# commento\r\n\r\n  server = a.it \r\nporta\t= 2525\r\nsicurezza = starttls"
+        "\r\nmittente = Ditta <a@b.it>\r\npassword =  due parole = # ");
+    EXPECT_EQ(all.server, "a.it");
+    EXPECT_EQ(all.porta, 2525);
+    EXPECT_EQ(all.password, "due parole = #");
 }
 
 }  // namespace
