@@ -58,11 +58,9 @@ findings check_at_rest(const fs::path& root, int number, std::ostream* shown) {
 std::vector<int> companies_of(const fs::path& root) {
     constexpr std::string_view prefix = "MIRAZ0.";
     std::vector<int> numbers;
-    std::error_code failed;
     const drive files(root, drive::access::reading_only);
-    for (fs::directory_iterator entry(files.locate(cartella_generale), failed), end;
-         !failed && entry != end; entry.increment(failed)) {
-        const std::string name = upper(from_utf8(entry->path().filename().string()));
+    for (const std::string& entry : names_in(files.locate(cartella_generale))) {
+        const std::string name = upper(from_utf8(entry));
         const std::string digits = name.substr(std::min(prefix.size(), name.size()));
         if (!name.starts_with(prefix) || digits.size() != 3 ||
             digits.find_first_not_of("0123456789") != std::string::npos) {

@@ -10,7 +10,7 @@
 
 namespace vantora::archive {
 
-// The commands of the program, one file each: `command_NAME.cpp`.
+// The commands of the program; those of some weight have a file each, `command_NAME.cpp`.
 
 /// Which company the command line names.
 struct which_company {
@@ -26,10 +26,8 @@ struct command {
     std::function<int(const which_company&)> run;
 };
 
-command check_command(CLI::App& program);
 command show_command(CLI::App& program);
 command export_command(CLI::App& program);
-command repair_command(CLI::App& program);
 command backup_command(CLI::App& program);
 command restore_command(CLI::App& program);
 

@@ -7,17 +7,9 @@ namespace vantora::archive {
 
 namespace {
 
-struct gravity_words {
-    const char* italian;
-    const char* key;
-};
-
-constexpr gravity_words gravities[] = {
-    {"nota", "note"}, {"attenzione", "warning"}, {"errore", "error"}};
-
-const gravity_words& words_for(gravity how_bad) {
-    return gravities[static_cast<std::size_t>(how_bad)];
-}
+// In the order of the enumeration.
+constexpr const char* gravity_words[] = {"nota", "attenzione", "errore"};
+constexpr const char* gravity_keys[] = {"note", "warning", "error"};
 
 }  // namespace
 
@@ -49,8 +41,8 @@ std::string findings::in_lines() const {
     std::string lines;
     for (const group& alike : groups_) {
         for (const finding& one : alike.kept) {
-            lines += std::string(words_for(one.how_bad).italian) + ": " + one.where + ": " +
-                     one.what + ". " + one.advice + '\n';
+            lines += std::string(gravity_words[static_cast<int>(one.how_bad)]) + ": " + one.where +
+                     ": " + one.what + ". " + one.advice + '\n';
         }
         if (alike.more() > 0) {
             lines += "  ... e altri " + std::to_string(alike.more()) + " casi come questi\n";
@@ -63,14 +55,14 @@ nlohmann::ordered_json findings::as_json() const {
     auto list = nlohmann::ordered_json::array();
     for (const group& alike : groups_) {
         for (const finding& one : alike.kept) {
-            list.push_back({{"gravity", words_for(one.how_bad).key},
+            list.push_back({{"gravity", gravity_keys[static_cast<int>(one.how_bad)]},
                             {"kind", one.kind},
                             {"where", one.where},
                             {"what", one.what},
                             {"advice", one.advice}});
         }
         if (alike.more() == 0) continue;
-        list.push_back({{"gravity", words_for(alike.kept.front().how_bad).key},
+        list.push_back({{"gravity", gravity_keys[static_cast<int>(alike.kept.front().how_bad)]},
                         {"kind", alike.kept.front().kind},
                         {"more", alike.more()}});
     }

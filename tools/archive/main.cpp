@@ -4,12 +4,21 @@
 #include <filesystem>
 #include <iostream>
 
+#include "archive/check.h"
 #include "archive/commands.h"
+#include "archive/repair.h"
 #include "archive/words.h"
+#include "store/day_book.h"
 #include "store/drive.h"
 #include "store/suite_paths.h"
 
 namespace vantora::archive {
+
+namespace {
+
+constexpr const char* no_company = "Manca la ditta, per esempio ordini007.\n";
+
+}  // namespace
 
 int which_company::number() const {
     return company_number_in(argument);
@@ -17,7 +26,7 @@ int which_company::number() const {
 
 std::unique_ptr<company_files> opened(const which_company& one) {
     if (one.argument.empty()) {
-        std::cerr << "Manca la ditta, per esempio ordini007.\n";
+        std::cerr << no_company;
         return {};
     }
     auto company = std::make_unique<company_files>(one.drive, one.number());
@@ -50,6 +59,47 @@ bool asked_user() {
 }
 
 namespace {
+
+command check_command(CLI::App& program) {
+    CLI::App* line = program.add_subcommand("check", "dice se l'archivio è in ordine");
+    const auto request = std::make_shared<check_request>();
+    line->add_flag("--json", request->json, "per i programmi");
+    line->add_flag("--all", request->all, "tutte le aziende del disco");
+    line->add_flag("--quiet", request->quiet, "niente, se non si trova niente: per i timer");
+    return {line, [request](const which_company& company) {
+                if (company.argument.empty() && !request->all) {
+                    std::cerr << no_company;
+                    return exit_code::wrong_options;
+                }
+                return report_check(company.drive, company.number(), *request, std::cout,
+                                    watched_errors());
+            }};
+}
+
+command repair_command(CLI::App& program) {
+    CLI::App* line = program.add_subcommand("repair", "corregge quello che check ha trovato");
+    line->require_subcommand(1);
+    const auto yes = std::make_shared<bool>(false);
+    for (const named_repair& one : repairs) {
+        line->add_subcommand(one.name, one.words)->add_flag("--yes", *yes, "senza chiedere");
+    }
+    return {line, [line, yes](const which_company& which) {
+                if (!opened(which)) return exit_code::unreadable;
+                drive files(which.drive);
+                const auto confirmed = [yes](bool certain) {
+                    return (*yes && certain) || asked_user();
+                };
+                for (const named_repair& one : repairs) {
+                    if (!line->got_subcommand(one.name)) continue;
+                    const auto book = [&which](archivi& changed) {
+                        const auto of_person = book_of_person();
+                        if (of_person) of_person->watch(changed, which.number(), now_here);
+                    };
+                    return carry_out(one, {files, which.number(), confirmed, std::cout, book});
+                }
+                return exit_code::wrong_options;
+            }};
+}
 
 std::string in_italian(const CLI::Error& problem) {
     if (dynamic_cast<const CLI::RequiredError*>(&problem)) {

@@ -101,20 +101,12 @@ namespace {
 // Counters ----------------------------------------------------------------------------------------
 
 std::string words_for(const wrong_counter& one, const survey& found) {
-    constexpr std::size_t named_most = 10;
     const char* of = one.record == contatori::clienti ? "dei " : "degli ";
-    std::string words = std::string("contatore ") + of + counted_by(one.record) + ": " +
-                        std::to_string(one.counted) + ", diventa " + std::to_string(one.right);
+    const std::string words = std::string("contatore ") + of + counted_by(one.record) + ": " +
+                              std::to_string(one.counted) + ", diventa " +
+                              std::to_string(one.right);
     if (one.record != contatori::ordini || one.right < one.counted) return words;
-    words += ". Tornano:";
-    const auto& orders = found.coming_back;
-    for (std::size_t i = 0; i < std::min(orders.size(), named_most); ++i) {
-        words += "\n  " + orders[i];
-    }
-    if (orders.size() > named_most) {
-        words += "\n  ... e altri " + std::to_string(orders.size() - named_most) + " aperti";
-    }
-    return words;
+    return words + ". Tornano:" + first_lines(found.coming_back, " aperti");
 }
 
 repair_step set_counter(const wrong_counter& one, const survey& found) {

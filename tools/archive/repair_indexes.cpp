@@ -71,16 +71,8 @@ std::string bytes_of(const entries& all) {
 }
 
 std::string words_for(const key_index& index, const rebuilt_index& made) {
-    constexpr std::size_t named_most = 10;
-    std::string words = index.name() + ": rifatto con " + std::to_string(made.now.size()) +
-                        " voci, " + std::to_string(made.moved) + " diverse da prima";
-    for (std::size_t i = 0; i < std::min(made.renamed.size(), named_most); ++i) {
-        words += "\n  " + made.renamed[i];
-    }
-    if (made.renamed.size() > named_most) {
-        words += "\n  ... e altri " + std::to_string(made.renamed.size() - named_most);
-    }
-    return words;
+    return index.name() + ": rifatto con " + std::to_string(made.now.size()) + " voci, " +
+           std::to_string(made.moved) + " diverse da prima" + first_lines(made.renamed, "");
 }
 
 }  // namespace

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <algorithm>
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "text/code_page.h"
 
@@ -33,6 +35,15 @@ inline std::string words_of(std::string_view stored) {
 /// A path for a message: whatever its bytes are.
 inline std::string words_of_path(const std::filesystem::path& path) {
     return without_controls(from_utf8(path.string()));
+}
+
+/// The first of them, a line each, and how many others there are.
+inline std::string first_lines(const std::vector<std::string>& all, const char* others_end) {
+    constexpr std::size_t named_most = 10;
+    std::string lines;
+    for (std::size_t i = 0; i < std::min(all.size(), named_most); ++i) lines += "\n  " + all[i];
+    if (all.size() <= named_most) return lines;
+    return lines + "\n  ... e altri " + std::to_string(all.size() - named_most) + others_end;
 }
 
 /// " (anna su cassa2)"; nothing for nothing.
