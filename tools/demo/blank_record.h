@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+
 #include "store/record_fields.h"
 
 namespace vantora::demo {
@@ -8,9 +10,11 @@ namespace vantora::demo {
 template <class Record>
 Record blank_record() {
     Record blank;
-    visit_fields(blank, [&](const auto& field, const auto& value) {
-        if constexpr (requires { value.trimmed(); }) blank.*field.member = "";
-    });
+    auto* bytes = reinterpret_cast<char*>(&blank);
+    for (const record_field& field : fields_of(blank)) {
+        if (field.type != field_type::words) continue;
+        std::fill_n(bytes + field.offset, field.width * field.values, ' ');
+    }
     return blank;
 }
 
