@@ -35,7 +35,7 @@ enquiry: customer documents entry program orders store store/records text ui
 register: backup enquiry program orders store text ui
 entry: customer documents program orders store text ui errors
 fulfil: customer entry program orders store store/records text ui errors
-reports: documents program orders store store/records text ui
+reports: documents program orders store text ui
 app: register enquiry customer entry fulfil reports program store text ui desktop desktop/keys desktop/look desktop/printing windows ui/paper ui/pictures ui/script
 tools/archive: backup store text orders store/records
 tools/demo: text store/records store orders

@@ -246,17 +246,8 @@ TEST_F(widgets, TheWheelChangesWhatHasTheFocusAlone) {
 
 TEST_F(widgets, ARunTimeErrorIsToldInABox) {
     run({[&] {
-        QString told;
-        QTimer look;
-        look.callOnTimeout([&] {
-            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            if (!box) return;
-            told = box->text();
-            box->accept();
-        });
-        look.start(5);
-        bench.desk.dispatch([] { throw overflow_error(); });
-        EXPECT_EQ(told, "Errore di run-time '6': Overflow");
+        EXPECT_EQ(test::told_by([&] { bench.desk.dispatch([] { throw overflow_error(); }); }),
+                  "Errore di run-time '6': Overflow");
         bench.front.end_by_user();
     }});
 }

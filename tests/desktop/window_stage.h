@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QMessageBox>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
@@ -35,6 +36,21 @@ inline QApplication& application() {
         return made;
     }();
     return *one;
+}
+
+/// Answers the boxes that `work` opens without a desk; the text of the last one.
+inline QString told_by(const std::function<void()>& work) {
+    QString told;
+    QTimer look;
+    look.callOnTimeout([&] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (!box) return;
+        told = box->text();
+        box->accept();
+    });
+    look.start(5);
+    work();
+    return told;
 }
 
 /// A desk behind real windows. What the user does is prepared in steps, each of which runs when

@@ -2,7 +2,6 @@
 
 #include "entry/order_head.h"
 #include "entry/order_station.h"
-#include "scripted/problems.h"
 
 namespace vantora::test {
 namespace {

@@ -3,7 +3,6 @@
 #include "customer/mirsel.h"
 #include "entry/import_picker.h"
 #include "entry/order_station.h"
-#include "scripted/problems.h"
 
 namespace vantora::test {
 namespace {

@@ -7,7 +7,6 @@
 
 #include "entry/order_station.h"
 #include "fulfil/fulfil_stage.h"
-#include "scripted/problems.h"
 
 namespace vantora::test {
 namespace {

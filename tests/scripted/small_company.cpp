@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <fstream>
 
+#include "archive/check.h"
 #include "store/drive.h"
 
 namespace vantora::test {
@@ -128,6 +129,20 @@ rec_art article(const std::string& code, const std::string& description, double 
     one.prezzo1 = price;
     one.prezzo2 = price / 2;
     return one;
+}
+
+std::string problems(const small_company& company) {
+    archive::company_files files(company.drive(), 1);
+    archive::survey found = archive::survey_company(files);
+    archive::check_stock(found, found.all);
+    std::string text;
+    for (const auto& alike : found.all.groups()) {
+        for (const auto& one : alike.kept) {
+            if (one.how_bad == archive::gravity::note || one.kind == "committed-too-high") continue;
+            text += one.where + ": " + one.what + "\n";
+        }
+    }
+    return text;
 }
 
 }  // namespace vantora::test

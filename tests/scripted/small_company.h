@@ -59,4 +59,8 @@ rec_cli customer_named(const std::string& name);
 /// An article by code, with a description and a price.
 rec_art article(const std::string& code, const std::string& description, double price);
 
+/// What the archive's own check finds wrong with a company's orders and its stock, a line each. The
+/// companies of tests begin with committed stock that no order of theirs explains.
+std::string problems(const small_company& company);
+
 }  // namespace vantora::test

@@ -40,12 +40,6 @@ TEST(compare_alphabetically, PutsAccentsBesideTheirBaseLetter) {
     EXPECT_EQ(compare_alphabetically("Citt\xC0", "cITT\xE0"), 0);
 }
 
-TEST(filtra_stampa, KeepsWhatMayBePrinted) {
-    EXPECT_EQ(filtra_stampa("a\tb\r\nc"), "abc");
-    EXPECT_EQ(filtra_stampa("caff\xE8 \xFF\xFE"), "caff\xE8 \xFE");
-    EXPECT_EQ(filtra_stampa(std::string_view("\0x", 2)), "x");
-}
-
 TEST(read_date, TakesDayMonthYearAndElseMonthDayYear) {
     struct {
         const char* text;
@@ -61,17 +55,6 @@ TEST(read_date, TakesDayMonthYearAndElseMonthDayYear) {
                              "a/b/c", "1/2/0099", "30/2/24", "1/2/2024/", "\xE8/2/2024"}) {
         EXPECT_FALSE(read_date(text).has_value()) << text;
     }
-}
-
-TEST(dates, CutStoredDatesWhateverTheyHold) {
-    EXPECT_EQ(date_text_of_stored("20240506"), "06/05/2024");
-    EXPECT_EQ(date_text_of_stored("abcdefgh"), "gh/ef/abcd");
-    EXPECT_EQ(date_text_of_stored("2024"), "  /  /2024");
-    EXPECT_EQ(stored_of_date_text("06/05/2024"), "20240506");
-    EXPECT_EQ(stored_of_date_text("1/2/2024"), "24/21/");
-    EXPECT_EQ(stored_of_date_text(""), "");
-    EXPECT_EQ(date_text({2024, 5, 6}), "06/05/2024");
-    EXPECT_EQ(stored_date({2024, 5, 6}), "20240506");
 }
 
 TEST(dates, NumbersCountFromTheEndOf1899AndAClockIsReadInOneForm) {

@@ -5,31 +5,12 @@
 #include <sys/wait.h>
 
 #include <cstdlib>
-#include <set>
 
 #include "demo_folder.h"
 #include "store/drive.h"
-#include "store/records.h"
 
 namespace vantora::test {
 namespace {
-
-TEST(demo_company, OrdersStandInEveryState) {
-    const demo_folder made(small_company);
-    const auto rows = records_of<rec_orc>(made.file("orc"));
-    std::set<std::string> states;
-    for (std::size_t block = 0; block < rows.size(); block += 200) {
-        double delivered = 0;
-        for (const rec_orc& row : std::span(rows).subspan(block, 200)) delivered += row.evaso;
-        const rec_orc& first = rows[block];
-        states.insert(first.evaso_flag == 1  ? "fulfilled"
-                      : first.annullato == 1 ? "deleted"
-                      : delivered > 0        ? "partly"
-                                             : "open");
-        states.insert(first.impegno.full() == "1" ? "committed" : "not committed");
-    }
-    EXPECT_EQ(states.size(), 6U);
-}
 
 TEST(demo_company, WhatIsThereStays) {
     for (const char* spelling : {"mirwin/mirwin/miraz0.007", "MIRWIN/Mirwin/MIRAZ0.007"}) {

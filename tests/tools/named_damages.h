@@ -134,14 +134,6 @@ inline void fifo(const demo_folder& c) {
     std::filesystem::remove(c.file("mag"));
     ::mkfifo(c.file("mag").c_str(), 0600);
 }
-inline void dangling(const demo_folder& c) {
-    std::filesystem::remove(c.file("bol"));
-    std::filesystem::create_symlink("nowhere", c.file("bol"));
-}
-inline void folder_for_file(const demo_folder& c) {
-    std::filesystem::remove(c.file("art"));
-    std::filesystem::create_directory(c.file("art"));
-}
 inline void bytes_lost(const demo_folder& c) {
     const std::string bytes = bytes_of(c.file("orc"));
     put(c.file("orc"),
@@ -180,27 +172,18 @@ inline const damage damages[] = {
     {"orders counted below 0", "counter-negative", count(contatori::ordini, -1)},
     {"an unfinished save", "save-unfinished", save_unfinished},
     {"a copy behind the counter", "", copied_behind([](auto&) {})},
-    {"a fulfilled order behind it", "", copied_behind([](auto& row) { row.evaso_flag = i1; })},
-    {"a deleted order behind it", "", copied_behind([](auto& row) { row.annullato = i1; })},
     {"customers counted too low", "counter-wrong", count(contatori::clienti, 9)},
-    {"articles counted too high", "counter-wrong", count(contatori::articoli, 3000)},
     {"quotes counted too low", "quotes-behind", count(contatori::preventivi, 0)},
     {"movements counted too high", "file-short", count(contatori::magazzino, 30000)},
     {"movements behind", "records-behind", cut("mag", -2 * int{sizeof(rec_mag)})},
     {"numbers nearly used", "numbers-nearly-used",
      wrong("tot", 14, &rec_tot::ultimo_numero, std::int16_t{32500})},
-    {"running number lost", "running-number", wrong("tot", 12, &rec_tot::progressivo, NAN)},
     {"running number stands", "running-number", wrong("tot", 12, &rec_tot::progressivo, 2e7F)},
     {"last order", "last-number-low", wrong("tot", 14, &rec_tot::ultimo_numero, i2)},
     {"last document", "last-document-low", wrong("tot", 12, &rec_tot::ultimo_numero, i2)},
     {"no counters", "counters-empty", holds("tot", "")},
     {"few counters", "counters-short", holds("tot", std::string(100, '\0'))},
-    {"counters missing", "file-missing", missing("tot")},
-    {"customers missing", "file-missing", missing("cli")},
-    {"an index missing", "file-missing", missing("sra")},
-    {"a folder for a file", "file-missing", folder_for_file},
     {"a pipe for a file", "file-missing", fifo},
-    {"a link to nowhere", "file-missing", dangling},
     {"two spellings", "two-spellings",
      [](auto& c) { put(c.file("orc").replace_filename("VANTORA.Orc"), ""); }},
     {"a repair interrupted", "repair-unfinished", holds("riparazione-counters", "")},
@@ -215,11 +198,8 @@ inline const damage damages[] = {
     {"bytes lost in the middle", "file-short orders-shifted", bytes_lost},
     {"order of no customer", "order-no-customer", order(&rec_orc::cliente, gone)},
     {"order of no date", "order-date", order(&rec_orc::data, "20230230")},
-    {"order of no delivery", "order-date", order(&rec_orc::data_evasione, "2023 1 1")},
     {"text of an order", "order-text", line(&rec_orc::testo1, "\x1B[2J")},
     {"mark of commitment", "order-mark", order(&rec_orc::impegno, "x")},
-    {"mark of deletion", "order-mark", order(&rec_orc::annullato, i2)},
-    {"mark of fulfilment", "order-mark", order(&rec_orc::evaso_flag, i2)},
     {"order of a deleted customer", "order-of-deleted-customer",
      deleted<rec_cli>("cli", &rec_orc::cliente)},
     {"order of a deleted article", "line-of-deleted-article",
@@ -227,9 +207,7 @@ inline const damage damages[] = {
     // Lines
     {"line of no article", "line-no-article", line(&rec_orc::articolo, gone)},
     {"no quantity", "line-no-number", line(&rec_orc::quantita, nan)},
-    {"no price", "line-no-number", line(&rec_orc::prezzo, nan)},
     {"quantity beyond reason", "line-absurd", line(&rec_orc::quantita, 1e300)},
-    {"nothing known of what left", "line-no-number", line(&rec_orc::evaso, nan)},
     {"more fulfilled than ordered", "line-fulfilled-beyond ordered-quantity-odd",
      line(&rec_orc::evaso, 5000.0)},
     {"fulfilled below 0", "line-fulfilled-backwards ordered-quantity-odd",
