@@ -44,7 +44,7 @@ QString remark(const documento_di_stampa& document) {
 /// The settings of the mail, or why nothing can be sent. `odd` gets what the user is to know
 /// besides.
 std::variant<mail_settings, QString> settings_on(file_port& files, QString& odd) {
-    const std::string configuration = std::string(cartella_generale) + "mirxpdf.conf";
+    const std::string configuration = std::string(cartella_generale).append("mirxpdf.conf");
     const QString place = QString::fromStdString(files.locate(configuration).string());
     const auto content = files.read_whole(configuration);
     if (!content && files.exists(configuration)) {
