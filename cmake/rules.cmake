@@ -62,8 +62,9 @@ function(vantora_keep_headers name)
     target_precompile_headers(${name} PRIVATE ${standard_headers} <CLI/CLI.hpp>)
   elseif(name MATCHES "^vantora-(archive|demo)$")
     target_precompile_headers(${name} REUSE_FROM vantora_options)
-  elseif(NOT CMAKE_CURRENT_SOURCE_DIR MATCHES "/(app|bench|demo|errors|mirxpdf|paper|pictures|scripted|support)$")
-    # those have options of their own, or come before
+  elseif(NOT CMAKE_CURRENT_SOURCE_DIR MATCHES
+         "/(app|bench|demo|errors|mirxpdf|paper|pictures|scripted|support)$")
+    # those named have options of their own, or come before
     target_precompile_headers(${name} REUSE_FROM vantora_text)
   endif()
 endfunction()
@@ -84,8 +85,9 @@ function(vantora_program name)
   vantora_keep_headers(${name})
 endfunction()
 
-# One test program per folder of tests, or for several small ones. What it tests is built as users get it; the tests' own code,
-# half of all that is compiled, waits for no optimizer and is told by its assertions, not by a debugger.
+# One test program per folder of tests, or for several small ones. What it tests is built as users
+# get it; the tests' own code, half of all that is compiled, waits for no optimizer and is told by
+# its assertions, not by a debugger.
 function(vantora_test name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINKS")
   add_executable(${name} ${arg_SOURCES})

@@ -58,9 +58,10 @@ QString why_none(const fs::path& named, const drive_found& found) {
     if (!fs::is_directory(named, unknown)) {
         return QString("La cartella %1 non esiste.").arg(path_shown(named));
     }
-    if (found.drives.size() < 2)
+    if (found.drives.size() < 2) {
         return "In questa cartella non ci sono ditte della suite. Scelga con Cartella quella che "
                "contiene mirwin, o cominci con una ditta di prova.";
+    }
     QStringList several;
     for (const fs::path& one : found.drives) several << path_shown(one);
     return QString("Qui sotto ci sono più dischi della suite: %1").arg(several.join(", "));

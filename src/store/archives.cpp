@@ -38,6 +38,7 @@ void follow_archives(archivi& files) {
 
 void keep_archives_exact(archivi& files, bool on) {
     for_each_file(files, [&](auto& one, auto) {
+        // The counters' file bears the lock itself; the articles' two channels need one lock only.
         const auto& its = one.shared_file();
         const bool apart = its == files.tot.shared_file() || its == files.art_blocchi.shared_file();
         if (its && !apart) its->keep_exact(on);
