@@ -56,14 +56,9 @@ function(vantora_keep_headers name)
   elseif(name STREQUAL vantora_look)
     target_precompile_headers(${name} PRIVATE ${standard_headers} ${toolkit_headers})
   elseif(CMAKE_CURRENT_SOURCE_DIR MATCHES "/src/(desktop|windows)"
-         OR name MATCHES "^vantora(-ordini|_mirxpdf)$")
+         OR name MATCHES "^(vantora-ordini|vantora_company_choice|vantora_mirxpdf|mirxpdf)$")
     target_precompile_headers(${name} REUSE_FROM vantora_look)
-  elseif(name STREQUAL vantora_options)
-    target_precompile_headers(${name} PRIVATE ${standard_headers} <CLI/CLI.hpp>)
-  elseif(name MATCHES "^vantora-(archive|demo)$")
-    target_precompile_headers(${name} REUSE_FROM vantora_options)
-  elseif(NOT CMAKE_CURRENT_SOURCE_DIR MATCHES
-         "/(app|bench|demo|errors|mirxpdf|paper|pictures|scripted|support)$")
+  elseif(NOT CMAKE_CURRENT_SOURCE_DIR MATCHES "/(bench|command_line|errors|paper|pictures|scripted|support)$")
     # those named have options of their own, or come before
     target_precompile_headers(${name} REUSE_FROM vantora_text)
   endif()

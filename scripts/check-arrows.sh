@@ -12,6 +12,7 @@ cd "$(dirname "$0")/.."
 allowed='
 text:
 errors:
+command_line:
 store: store/records text errors
 store/records: store
 backup: store text
@@ -36,10 +37,10 @@ register: backup enquiry program orders store text ui
 entry: customer documents program orders store text ui errors
 fulfil: customer entry program orders store store/records text ui errors
 reports: documents program orders store text ui
-app: register enquiry customer entry fulfil reports program store text ui desktop desktop/keys desktop/look desktop/printing windows ui/paper ui/pictures ui/script
-tools/archive: backup store text orders store/records
-tools/demo: text store/records store orders
-tools/mirxpdf: documents store text ui/paper ui/pictures desktop/look
+app: command_line register enquiry customer entry fulfil reports program store text ui desktop desktop/keys desktop/look desktop/printing windows ui/paper ui/pictures ui/script
+tools/archive: command_line backup store text orders store/records
+tools/demo: command_line text store/records store orders
+tools/mirxpdf: command_line documents store text ui/paper ui/pictures desktop/look
 bench: tools/archive tools/demo enquiry register store customer entry desktop desktop/look ui fulfil store/records documents tools/mirxpdf ui/pictures orders reports text
 '
 

@@ -126,8 +126,7 @@ std::filesystem::path folder_of_copies(const std::filesystem::path& drive) {
 int main(int count, char** arguments) {
     using namespace vantora;
     take_file_limits_as_errors();
-    program_options options("Vantora Ordini");
-    options.takes_script = true;
+    program_options options{"vantora-ordini", "Gli ordini dei clienti", true};
     if (const auto code = options.read(count, arguments)) return *code;
     if (!has_display()) {
         std::cerr << "Vantora Ordini: non c'è uno schermo su cui aprire la finestra.\n";

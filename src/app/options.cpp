@@ -1,31 +1,25 @@
 #include "app/options.h"
 
-#include <CLI/CLI.hpp>
-
+#include "command_line/command_line.h"
 #include "text/code_page.h"
 
 namespace vantora {
 
 std::optional<int> program_options::read(int count, char** arguments) {
-    CLI::App parser(description);
-    parser.set_version_flag("--version", VANTORA_VERSION);
+    command_line line(program, purpose);
     std::string moment;
-    parser.add_option("--drive", drive, "folder that holds the suite's tree")
-        ->check(CLI::ExistingDirectory);
-    parser.add_option("--clock", moment, "stop the clock at a local date and time")
-        ->check([](const std::string& text) {
-            return read_clock(text) ? std::string() : "expected \"2024-05-06 10:20:30\"";
-        });
-    parser.add_option("--data", data, "folder for drafts and settings of the person");
+    line.folder("--drive", drive, "cartella che contiene l'albero della suite");
+    line.text("--clock", moment, "ferma l'orologio, per esempio a \"2024-05-06 10:20:30\"",
+              [](const std::string& text) -> std::string {
+                  if (read_clock(text)) return {};
+                  return "serve una data con l'ora, come 2024-05-06 10:20:30";
+              });
+    line.text("--data", data, "cartella delle bozze e delle impostazioni della persona");
     if (takes_script) {
-        parser.add_option("--script", script, "carry out the commands of a file (- for input)");
+        line.text("--script", script, "esegue i comandi di un file (- per quelli in ingresso)");
     }
-    parser.add_option("ARGUMENT", argument, "argument of the menu program, such as ordini007");
-    try {
-        parser.parse(count, arguments);
-    } catch (const CLI::ParseError& problem) {
-        return parser.exit(problem) == 0 ? 0 : 2;
-    }
+    line.text("DITTA", argument, "argomento del menu della suite, per esempio ordini007");
+    if (const auto code = line.read(count, arguments)) return code;
     clock = read_clock(moment);
     argument = from_utf8(argument);
     return {};

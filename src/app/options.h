@@ -11,17 +11,16 @@ namespace vantora {
 
 /// The command line that both programs take.
 struct program_options {
-    explicit program_options(std::string what) : description(std::move(what)) {}
-
-    std::string description;
-    std::string drive = "/";         ///< folder that holds the suite's tree
-    std::optional<date_time> clock;  ///< where the clock stands still
-    /// Folder of what belongs to the person and not to the archive; empty: the system's own place.
-    std::string data;
-    std::string argument;  ///< of the suite's menu program, in the code page
-    /// File of commands for a desktop run, "-" for standard input; only where `takes_script`.
-    std::string script;
+    const char* program;
+    const char* purpose;
     bool takes_script = false;
+    std::string drive = "/";              ///< folder that holds the suite's tree
+    std::optional<date_time> clock = {};  ///< where the clock stands still
+    /// Folder of what belongs to the person and not to the archive; empty: the system's own place.
+    std::string data = {};
+    std::string argument = {};  ///< of the suite's menu program, in the code page
+    /// File of commands for a desktop run, "-" for standard input; only where `takes_script`.
+    std::string script = {};
 
     /// Empty if the program is to run, else its exit code: 0 after help, 2 for wrong options.
     std::optional<int> read(int count, char** arguments);

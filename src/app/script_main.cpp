@@ -10,7 +10,7 @@
 int main(int count, char** arguments) {
     using namespace vantora;
     take_file_limits_as_errors();
-    program_options options("Vantora Ordini, driven by commands from standard input");
+    program_options options{"vantora-script", "Vantora Ordini, guidato dai comandi in ingresso"};
     if (const auto code = options.read(count, arguments)) return *code;
 
     std::ios::sync_with_stdio(false);

@@ -51,7 +51,7 @@ TEST(demo_program, ExitCodeTellsWhatHappened) {
         {"DRIVE 1000", 2},
         {"DRIVE 7 --articles 32768", 2},
         {"DRIVE 7 --orders 1 --customers 0", 1},
-        {"DRIVE 007 --orders 2 --articles 3 --customers 4 --seed 9", 0},
+        {"DRIVE 007 --orders 2 --articles 08 --customers 4 --seed 9", 0},
         {"DRIVE 7 --orders 2", 1},
         {"--help", 0},
     };

@@ -8,6 +8,7 @@
 #include "archive/commands.h"
 #include "archive/repair.h"
 #include "archive/words.h"
+#include "command_line/command_line.h"
 #include "store/day_book.h"
 #include "store/drive.h"
 #include "store/suite_paths.h"
@@ -101,38 +102,6 @@ command repair_command(CLI::App& program) {
             }};
 }
 
-std::string in_italian(const CLI::Error& problem) {
-    if (dynamic_cast<const CLI::RequiredError*>(&problem)) {
-        return "manca il comando o un suo argomento";
-    }
-    if (dynamic_cast<const CLI::ExtrasError*>(&problem)) {
-        return "c'è qualcosa di troppo o di sconosciuto";
-    }
-    const std::string told = problem.what();
-    return told.substr(0, told.find(':')) + ": valore non ammesso";
-}
-
-void speak_italian(CLI::App& program) {
-    program.option_defaults()->group("Opzioni");
-    program.group("Comandi");
-    program.set_help_flag("-h,--help", "mostra questo aiuto");
-    program.set_version_flag("--version", VANTORA_VERSION)->description("mostra la versione");
-    const auto words = std::make_shared<CLI::Formatter>();
-    words->label("Usage", "Uso");
-    words->label("Positionals", "Argomenti");
-    words->label("OPTIONS", "OPZIONI");
-    words->label("SUBCOMMAND", "COMANDO");
-    words->label("REQUIRED", "(necessario)");
-    words->label("TEXT", "TESTO");
-    words->label("TEXT:DIR", "CARTELLA");
-    words->label("INT", "NUMERO");
-    program.formatter(words);
-    program.failure_message([](const CLI::App*, const CLI::Error& problem) {
-        return "Comando non compreso: " + in_italian(problem) +
-               ".\nAiuto: vantora-archive --help, vantora-archive COMANDO --help\n";
-    });
-}
-
 /// Each command brings a help option of its own.
 void group_help(CLI::App& of) {
     of.get_help_ptr()->group("Opzioni");
@@ -140,23 +109,19 @@ void group_help(CLI::App& of) {
 }
 
 int run(int count, char** arguments) {
-    CLI::App program("Cura l'archivio di una ditta: lo controlla, lo mostra, lo esporta, lo copia");
-    speak_italian(program);
+    command_line line(
+        "vantora-archive",
+        "Cura l'archivio di una ditta: lo controlla, lo mostra, lo esporta, lo copia");
+    CLI::App& program = line.parser();
     program.require_subcommand(1);
     which_company company;
-    program.add_option("--drive", company.drive, "cartella che contiene l'albero della suite")
-        ->check(CLI::ExistingDirectory);
-    program.add_option("DITTA", company.argument,
-                       "argomento del menu della suite, per esempio ordini007");
+    line.folder("--drive", company.drive, "cartella che contiene l'albero della suite");
+    line.text("DITTA", company.argument, "argomento del menu della suite, per esempio ordini007");
     const command commands[] = {check_command(program),  show_command(program),
                                 export_command(program), repair_command(program),
                                 backup_command(program), restore_command(program)};
     group_help(program);
-    try {
-        program.parse(count, arguments);
-    } catch (const CLI::ParseError& problem) {
-        return program.exit(problem) == 0 ? exit_code::done : exit_code::wrong_options;
-    }
+    if (const auto code = line.read(count, arguments)) return *code;
     try {
         for (const command& one : commands) {
             if (*one.line) return one.run(company);

@@ -1,6 +1,6 @@
-#include <CLI/CLI.hpp>
 #include <iostream>
 
+#include "command_line/command_line.h"
 #include "demo/demo_company.h"
 #include "store/drive.h"
 #include "store/suite_paths.h"
@@ -9,22 +9,6 @@ namespace {
 
 constexpr int made = 0;
 constexpr int refused = 1;
-constexpr int wrong_options = 2;
-
-/// Refuses what isn't a whole number from `low` to `high`.
-CLI::Validator whole_number(long long low, long long high) {
-    const std::string range = std::to_string(low) + " - " + std::to_string(high);
-    return {[=](const std::string& text) -> std::string {
-                long long value = 0;
-                const bool plain = !text.empty() && text.size() < 10 &&
-                                   text.find_first_not_of("0123456789") == std::string::npos;
-                if (plain) value = std::stoll(text);
-                if (plain && value >= low && value <= high) return {};
-                return "\"" + text + "\" non è un numero intero tra " + std::to_string(low) +
-                       " e " + std::to_string(high);
-            },
-            range};
-}
 
 namespace fs = std::filesystem;
 
@@ -62,26 +46,19 @@ int main(int argc, char** argv) {
     using namespace vantora::demo;
     demo_request request;
     std::string drive;
-    std::string company;
-    CLI::App app("Crea un'azienda dimostrativa completa di archivi e moduli di stampa");
-    app.set_version_flag("--version", VANTORA_VERSION)->description("Versione");
-    app.add_option("cartella", drive, "Cartella che fa da disco della suite")->required();
-    app.add_option("azienda", company, "Numero dell'azienda, per esempio 007")
-        ->required()
-        ->check(whole_number(0, 999));
-    const CLI::Validator count = whole_number(0, massimo_record);
-    app.add_option("--orders", request.orders, "Ordini")->check(count)->capture_default_str();
-    app.add_option("--articles", request.articles, "Articoli")->check(count)->capture_default_str();
-    app.add_option("--customers", request.customers, "Clienti")
-        ->check(count)
-        ->capture_default_str();
-    app.add_option("--seed", request.seed, "Seme dei dati inventati")->capture_default_str();
-    try {
-        app.parse(argc, argv);
-    } catch (const CLI::ParseError& error) {
-        return app.exit(error) == 0 ? made : wrong_options;
-    }
-    request.numero_azienda = std::stoi(company);
+    int seed = 1;
+    vantora::command_line line(
+        "vantora-demo", "Crea un'azienda dimostrativa completa di archivi e moduli di stampa");
+    line.text("cartella", drive, "cartella che fa da disco della suite");
+    line.require("cartella");
+    line.number("azienda", request.numero_azienda, 999, "numero dell'azienda, per esempio 007");
+    line.require("azienda");
+    line.number("--orders", request.orders, massimo_record, "ordini");
+    line.number("--articles", request.articles, massimo_record, "articoli");
+    line.number("--customers", request.customers, massimo_record, "clienti");
+    line.number("--seed", seed, 999'999'999, "seme dei dati inventati");
+    if (const auto code = line.read(argc, argv)) return *code;
+    request.seed = static_cast<std::uint64_t>(seed);
     try {
         make_company(request, drive);
         install_companion(std::filesystem::read_symlink("/proc/self/exe").parent_path(), drive);

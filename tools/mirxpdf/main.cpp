@@ -1,4 +1,3 @@
-#include <CLI/CLI.hpp>
 #include <QApplication>
 #include <QDesktopServices>
 #include <QLoggingCategory>
@@ -7,6 +6,7 @@
 #include <iostream>
 #include <iterator>
 
+#include "command_line/command_line.h"
 #include "desktop/look/style.h"
 #include "mirxpdf/carry_out.h"
 #include "store/drive.h"
@@ -18,7 +18,7 @@ using namespace vantora;
 using namespace vantora::mirxpdf;
 
 struct options {
-    std::filesystem::path drive;
+    std::string drive;
     bool no_window = false;
     notice mail;           ///< instead of a document; without an addressee there is none
     std::string argument;  ///< in the code page
@@ -26,28 +26,23 @@ struct options {
 
 /// Empty if the program is to run, else its exit code.
 std::optional<int> read_options(options& into, int count, char** arguments) {
-    CLI::App parser(
+    command_line line(
+        "mirxpdf",
         "Trasforma in PDF il documento appena stampato e, se c'è un indirizzo, lo invia.\n"
         "ARGOMENTO: modulo o ***, file di stampa, file PDF, indirizzo e-mail o ***, separati da "
         "virgole.");
-    parser
-        .add_option("--drive", into.drive,
-                    "Cartella che fa da disco della suite; altrimenti quella in cui il programma "
-                    "sta come mirwin/mirwin/mirxpdf")
-        ->check(CLI::ExistingDirectory);
-    parser.add_option("--avviso", into.mail.addressee,
-                      "Invia a questo indirizzo il testo che legge, invece di un documento");
-    parser.add_option("--oggetto", into.mail.subject, "Oggetto dell'avviso");
-    parser.add_flag("--no-window", into.no_window, "Nessuna finestra: i messaggi vanno su stderr");
-    parser.set_version_flag("--version", VANTORA_VERSION)->description("Versione");
+    std::vector<std::string> words;
+    line.folder("--drive", into.drive,
+                "cartella che fa da disco della suite; altrimenti quella in cui il programma sta "
+                "come mirwin/mirwin/mirxpdf");
+    line.text("--avviso", into.mail.addressee,
+              "invia a questo indirizzo il testo che legge, invece di un documento");
+    line.text("--oggetto", into.mail.subject, "oggetto dell'avviso");
+    line.flag("--no-window", into.no_window, "nessuna finestra: i messaggi vanno su stderr");
     // From its first word on, the argument is nobody's option.
-    parser.prefix_command();
-    try {
-        parser.parse(count, arguments);
-    } catch (const CLI::ParseError& problem) {
-        return parser.exit(problem) == 0 ? all_done : wrong_arguments;
-    }
-    for (const std::string& word : parser.remaining()) {
+    line.rest(words);
+    if (const auto code = line.read(count, arguments)) return code;
+    for (const std::string& word : words) {
         into.argument += (into.argument.empty() ? "" : " ") + from_utf8(word);
     }
     return {};
@@ -77,7 +72,7 @@ int main(int count, char** arguments) {
     options given;
     if (const auto code = read_options(given, count, arguments)) return *code;
     if (given.drive.empty()) {
-        given.drive = drive_around(program_file(arguments[0])).value_or("");
+        given.drive = drive_around(program_file(arguments[0])).value_or("").string();
     }
     const bool is_notice = !given.mail.addressee.empty();
     const auto request = is_notice ? std::nullopt : read_request(given.argument);
