@@ -20,10 +20,10 @@ command_line::command_line(const char* program, const std::string& purpose)
     words->label("TEXT", "TESTO");
     parser_->formatter(words);
     parser_->failure_message([this, program](const CLI::App*, const CLI::Error& problem) {
-        std::string words = "Comando non compreso: " + in_italian(problem) + ".\nAiuto: ";
-        words.append(program).append(" --help");
-        if (has_commands()) words.append(", ").append(program).append(" COMANDO --help");
-        return words + '\n';
+        std::string told = "Comando non compreso: " + in_italian(problem) + ".\nAiuto: ";
+        told.append(program).append(" --help");
+        if (has_commands()) told.append(", ").append(program).append(" COMANDO --help");
+        return told + '\n';
     });
 }
 
