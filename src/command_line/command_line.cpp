@@ -33,7 +33,8 @@ void command_line::flag(const char* name, bool& into, const char* words) {
     parser_->add_flag(name, into, words);
 }
 
-void command_line::text(const char* name, std::string& into, const char* words, complaint wrong) {
+void command_line::text(const char* name, std::string& into, const char* words,
+                        const complaint& wrong) {
     CLI::Option* added = parser_->add_option(name, into, words);
     if (!wrong) return;
     added->check([this, wrong](const std::string& given) { return complaint_ = wrong(given); });

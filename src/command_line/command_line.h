@@ -27,7 +27,7 @@ class command_line {
     command_line& operator=(const command_line&) = delete;
 
     void flag(const char* name, bool& into, const char* words);
-    void text(const char* name, std::string& into, const char* words, complaint wrong = {});
+    void text(const char* name, std::string& into, const char* words, const complaint& wrong = {});
     /// One that is there.
     void folder(const char* name, std::string& into, const char* words);
     /// A whole number from 0 to `most`, in decimal figures.
