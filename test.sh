@@ -5,6 +5,6 @@ set -eu
 cd "$(dirname "$0")"
 
 preset=${1:-release}
-scripts/install-packages.sh
+scripts/install-packages.sh packages-tests.txt
 scripts/build.sh "$preset"
 ctest --preset "$preset"
